@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# What ./run and ./test need on a Debian 12 machine: installs the packages that are missing.
+set -euo pipefail
+
+packages=(
+  g++ cmake ninja-build ccache
+  qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6 qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
+  qt6-translations-l10n libgl-dev
+  libfmt-dev libexpected-dev libcli11-dev libxml2-dev zlib1g-dev
+  libgtest-dev libgmock-dev libbenchmark-dev
+  fonts-dejavu-core
+)
+missing=()
+for package in "${packages[@]}"; do
+  state=$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null || true)
+  [ "$state" = installed ] || missing+=("$package")
+done
+if [ ${#missing[@]} -gt 0 ]; then
+  echo "Installing: ${missing[*]}" >&2
+  as_root=()
+  [ "$(id -u)" = 0 ] || as_root=(sudo)
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq >&2 ||
+    echo "The package lists could not be renewed; going on with the ones at hand." >&2
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
+fi

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <optional>
+
+namespace tavrel {
+
+/// A point in time as the archives hold it: seconds since 1 January 2001 00:00:00 UTC, or nothing.
+class Date {
+public:
+    Date() = default;
+    explicit Date(double secondsSince2001) : seconds_(secondsSince2001) {}
+    static Date fromDateTime(const QDateTime& moment);
+
+    bool isNull() const { return !seconds_; }
+    /// Seconds since 1 January 2001 00:00:00 UTC; 0 when there is no date.
+    double secondsSince2001() const { return seconds_.value_or(0.0); }
+    /// In the user's time zone, to the millisecond; invalid when there is no date or it lies outside QDateTime's range.
+    QDateTime toDateTime() const;
+    /// ISO 8601 in UTC with "Z" and as many decimals of a second as restore the value; empty when there is no date.
+    QString toIso() const;
+
+private:
+    std::optional<double> seconds_;
+};
+
+}  // namespace tavrel

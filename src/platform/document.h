@@ -1,0 +1,64 @@
+#pragma once
+
+#include "platform/desktop.h"
+#include "platform/failure.h"
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QObject>
+#include <QString>
+#include <QUndoStack>
+#include <functional>
+
+namespace tavrel {
+
+/// An open document: its type name, its file, whether it has unsaved changes, how it is saved and loaded, and its undo
+/// stack. Knows no windows; they listen to its signals.
+class Document : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Document(Desktop& desktop);
+    ~Document() override;
+
+    /// The bytes to save under a type name; a failure when the type is not the document's or a text cannot be encoded.
+    virtual Expected<QByteArray> dataRepresentationOfType(const QString& type) = 0;
+    /// Replaces the contents by what the bytes hold, then checks the type.
+    virtual Expected<void> loadDataRepresentation(QByteArrayView data, const QString& type) = 0;
+
+    const QString& type() const { return type_; }
+    const QString& file() const { return file_; }
+    /// What a window's title says: the file's name, or the localised "Untitled".
+    QString displayName() const;
+    bool isChanged() const;
+    QUndoStack& undoStack() { return undoStack_; }
+
+    /// Reads the file as the document's type. On failure the document is as it was.
+    Expected<void> open(const QString& file);
+    /// Writes the document under its own type, atomically, to its file or to the one given, which becomes its file.
+    Expected<void> save();
+    Expected<void> saveAs(const QString& file);
+    /// Writes another type (an export) beside; the document's file and change state stay.
+    Expected<void> exportAs(const QString& file, const QString& type);
+    /// Reads its file again, dropping all changes.
+    Expected<void> revert();
+
+Q_SIGNALS:
+    void fileChanged();
+    void changedStateChanged(bool changed);
+
+protected:
+    void setType(const QString& type) { type_ = type; }
+    Desktop& desktop() const { return desktop_; }
+    /// For changes that no undo step carries.
+    void markChanged();
+
+private:
+    Desktop& desktop_;
+    QString type_;
+    QString file_;
+    QUndoStack undoStack_;
+    bool changedBesideStack_ = false;
+};
+
+}  // namespace tavrel

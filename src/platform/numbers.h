@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+namespace tavrel {
+
+// How a form reads numbers: blanks before the number are skipped, the leading number counts, the rest is ignored, and a text
+// without a leading number is 0. A decimal comma counts as a point. The user's locale plays no part.
+
+/// The leading integer ("12.7 m" is 12), saturating at the 32-bit bounds.
+qint32 integerValue(QStringView text);
+/// The leading decimal number, exponent included.
+double doubleValue(QStringView text);
+/// The leading decimal number rounded once to single precision.
+float floatValue(QStringView text);
+
+/// The shortest decimal that restores the value, with a point ("18", "18.5", "0.1", "nan", "inf", "-inf").
+QString shortestText(double value);
+QString shortestText(float value);
+
+}  // namespace tavrel

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "platform/failure.h"
+
+#include <QColor>
+#include <QSettings>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <QVariantMap>
+
+namespace tavrel {
+
+/// The user's settings: keys with booleans, numbers, strings, string arrays and colours. A key that was never stored, or
+/// that holds a value of another kind, reads as its registered default; without one as no, 0, "" or an empty list.
+class Preferences {
+public:
+    /// The store in the user's configuration folder (XDG), or the file given (tests).
+    explicit Preferences(const QString& file = {});
+
+    /// Adds defaults; they apply while the user has no value of their own.
+    void registerDefaults(const QVariantMap& defaults);
+
+    bool isStored(const QString& key) const;
+    /// "YES", "yes", "true", "1" and any number but 0 are true.
+    bool boolean(const QString& key) const;
+    /// Numbers and the leading number of texts.
+    qint32 integer(const QString& key) const;
+    double real(const QString& key) const;
+    QString string(const QString& key) const;
+    QStringList strings(const QString& key) const;
+    /// Reads the archived colour; invalid when neither the store nor the defaults hold one.
+    QColor color(const QString& key) const;
+
+    /// Stores a boolean, number, string or string list. Values reach the disk at once, the old file staying whole until the
+    /// new one is complete.
+    void set(const QString& key, const QVariant& value);
+    /// Stores the typed-stream archive of a calibrated colour.
+    void setColor(const QString& key, const QColor& color);
+    void remove(const QString& key);
+
+    /// Writes what is pending; a failure when the store cannot be written.
+    Expected<void> synchronize();
+
+    /// State of windows (frames, toolbars, columns) beside the preferences proper.
+    QByteArray windowState(const QString& name) const;
+    void setWindowState(const QString& name, const QByteArray& state);
+
+private:
+    mutable QSettings store_;
+    QVariantMap defaults_;
+};
+
+/// The typed-stream archive of one colour object, calibrated RGB with its alpha, or calibrated white for a pure grey.
+QByteArray archivedColor(const QColor& color);
+/// The colour of such an archive (calibrated or device RGB and white, CMYK, named); invalid when it holds none.
+QColor unarchivedColor(const QByteArray& archive);
+
+}  // namespace tavrel
