@@ -20,10 +20,27 @@ if(TAVREL_FUZZ)
   target_link_options(tavrel_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# tavrel_room(NAME SOURCES ... LINKS ...): the library tavrel_NAME, whose headers are included as "NAME/header.h".
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+
+# tavrel_room(NAME LINKS ...): the static library tavrel_NAME of the sources in this folder. Its headers are included as
+# "folder/header.h" from src/.
 function(tavrel_room name)
-  cmake_parse_arguments(ROOM "" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
-  add_library(tavrel_${name} STATIC ${ROOM_SOURCES})
+  cmake_parse_arguments(ROOM "" "" "LINKS;PRIVATE_LINKS;RESOURCES" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+  add_library(tavrel_${name} STATIC ${sources} ${ROOM_RESOURCES})
   target_include_directories(tavrel_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   target_link_libraries(tavrel_${name} PUBLIC tavrel_options ${ROOM_LINKS} PRIVATE ${ROOM_PRIVATE_LINKS})
+endfunction()
+
+# tavrel_test(NAME LINKS ...): the test program NAME_tests of the sources in this folder. Windows are driven on the offscreen
+# platform; every test gets its own empty settings folder.
+function(tavrel_test name)
+  cmake_parse_arguments(TEST "" "" "LINKS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+  add_executable(${name}_tests ${sources})
+  target_include_directories(${name}_tests PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_link_libraries(${name}_tests PRIVATE tavrel_test_support ${TEST_LINKS})
+  target_compile_definitions(${name}_tests PRIVATE TAVREL_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
+  gtest_discover_tests(${name}_tests DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 120 PROPERTIES TIMEOUT 300
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 endfunction()
