@@ -1,15 +1,20 @@
 #pragma once
 
+#include <QHash>
 #include <QString>
+
 #include <functional>
-#include <map>
 #include <memory>
+#include <vector>
 
 namespace tavrel {
 
-/// Broadcasts by name: preferences tell every open document what changed. One thread; observers run in the order in which
-/// they subscribed, and may subscribe or leave while a notification is under way.
+/// Broadcasts by name: preferences tell every open document what changed. One thread; observers run in the order in
+/// which they subscribed, and may subscribe or leave while a notification is under way: who has left is no longer
+/// called, who has just come waits for the next one.
 class NotificationCentre {
+    struct Entry;
+
 public:
     using Handler = std::function<void()>;
 
@@ -23,7 +28,7 @@ public:
 
     private:
         friend class NotificationCentre;
-        struct Entry;
+        explicit Subscription(std::shared_ptr<Entry> entry) : entry_(std::move(entry)) {}
         std::shared_ptr<Entry> entry_;
     };
 
@@ -31,7 +36,7 @@ public:
     void post(const QString& name);
 
 private:
-    std::multimap<QString, std::weak_ptr<Subscription::Entry>> entries_;
+    QHash<QString, std::vector<std::weak_ptr<Entry>>> observers_;
 };
 
 }  // namespace tavrel

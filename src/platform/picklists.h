@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
+
 #include <array>
 
 namespace tavrel {
@@ -40,7 +41,7 @@ public:
 
     /// Takes every list from its key, but the activities, which are taken when their editor opens.
     void fill();
-    /// Takes one list from its key again.
+    /// Takes one list from its own key again.
     void reload(PickList list);
 
     const QStringList& operator[](PickList list) const;
@@ -49,9 +50,9 @@ public:
 
     /// Appends as it is given: no trimming, empty and duplicate entries allowed. Nothing is sorted or stored.
     void append(PickList list, const QString& entry);
-    /// Removes the entries at the rows.
+    /// Removes the entries at the rows; rows outside the list count for nothing.
     void remove(PickList list, const QList<int>& rows);
-    /// Sorts by the plain comparison of strings.
+    /// Sorts by the plain comparison of strings, character code by character code ("Zoo" before "abc").
     void sort(PickList list);
     /// Stores the list under its own key, or under the key given.
     void store(PickList list, const QString& key = {});

@@ -11,8 +11,11 @@
 
 namespace tavrel {
 
-/// The user's settings: keys with booleans, numbers, strings, string arrays and colours. A key that was never stored, or
-/// that holds a value of another kind, reads as its registered default; without one as no, 0, "" or an empty list.
+/// The user's settings: keys with booleans, numbers, strings, string arrays and colours. A key that was never stored,
+/// or that holds a value of another kind, reads as its registered default; without one as no, 0, "" or an empty list.
+///
+/// The file is an INI file, where numbers are texts and a list of one entry is that entry, so a kind is what a value
+/// can be read as. A store that cannot be written keeps its values for the life of the program.
 class Preferences {
 public:
     /// The store in the user's configuration folder (XDG), or the file given (tests).
@@ -22,7 +25,7 @@ public:
     void registerDefaults(const QVariantMap& defaults);
 
     bool isStored(const QString& key) const;
-    /// "YES", "yes", "true", "1" and any number but 0 are true.
+    /// "YES", "yes", "true", "1" and any number but 0 are true; "NO", "false" and 0 are false.
     bool boolean(const QString& key) const;
     /// Numbers and the leading number of texts.
     qint32 integer(const QString& key) const;
@@ -32,12 +35,24 @@ public:
     /// Reads the archived colour; invalid when neither the store nor the defaults hold one.
     QColor color(const QString& key) const;
 
-    /// Stores a boolean, number, string or string list. Values reach the disk at once, the old file staying whole until the
-    /// new one is complete.
+    /// Stores a boolean (as 0 or 1), number, string, string list or bytes. Values reach the disk at once, the old file
+    /// staying whole until the new one is complete.
     void set(const QString& key, const QVariant& value);
     /// Stores the typed-stream archive of a calibrated colour.
     void setColor(const QString& key, const QColor& color);
     void remove(const QString& key);
+
+    /// While it lives values are only collected; its end writes them in one go.
+    class Together {
+    public:
+        explicit Together(Preferences& preferences) : preferences_(preferences) { ++preferences_.together_; }
+        ~Together();
+        Together(const Together&) = delete;
+        Together& operator=(const Together&) = delete;
+
+    private:
+        Preferences& preferences_;
+    };
 
     /// Writes what is pending; a failure when the store cannot be written.
     Expected<void> synchronize();
@@ -47,8 +62,13 @@ public:
     void setWindowState(const QString& name, const QByteArray& state);
 
 private:
-    mutable QSettings store_;
+    template <class Reader>
+    auto read(const QString& key, Reader reader) const;
+    void write(const QString& key, const QVariant& value);
+
+    QSettings store_;
     QVariantMap defaults_;
+    int together_ = 0;
 };
 
 /// The typed-stream archive of one colour object, calibrated RGB with its alpha, or calibrated white for a pure grey.

@@ -1,7 +1,6 @@
 #include <QApplication>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-
 #include <gtest/gtest.h>
 
 // Tests never see the user's settings or locale: a fresh configuration folder, the offscreen platform, the C locale.
@@ -9,6 +8,8 @@ int main(int argc, char** argv) {
     QTemporaryDir home;
     qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
     qputenv("XDG_DATA_HOME", home.path().toUtf8());
+    qputenv("LC_ALL", "C.UTF-8");
+    qunsetenv("LANGUAGE");
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }

@@ -1,0 +1,98 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en">
+<context>
+<name>Carnet</name>
+<message><source>&#13;   - Shorty</source><translation>&#13;   - Shorty</translation></message>
+<message><source>&#13;   - T-shirt</source><translation>&#13;   - T-shirt</translation></message>
+<message><source>Air</source><translation>Air</translation></message>
+<message><source>Biology</source><translation>Marine biology</translation></message>
+<message><source>Cave</source><translation>Cave</translation></message>
+<message><source>Celsius</source><translation>%d °C</translation></message>
+<message><source>Clear</source><translation>Clear</translation></message>
+<message><source>Cloudy</source><translation>Cloudy</translation></message>
+<message><source>Degree Celsius</source><translation>°C</translation></message>
+<message><source>Degree Farenheit</source><translation>°F</translation></message>
+<message><source>Dive number title</source><translation>Dive no. %d</translation></message>
+<message><source>Drift</source><translation>Drift</translation></message>
+<message><source>Dry suit</source><translation>Drysuit</translation></message>
+<message><source>Easy</source><translation>Easy</translation></message>
+<message><source>Entries</source><translation>Entries: %d</translation></message>
+<message><source>Extreme</source><translation>Extreme</translation></message>
+<message><source>Farenheit</source><translation>%d °F</translation></message>
+<message><source>Find</source><translation>Find</translation></message>
+<message><source>Foggy</source><translation>Foggy</translation></message>
+<message><source>Found dives</source><translation>%d dives found</translation></message>
+<message><source>GPS template</source><translation>N 00° 00.000'  E 000° 00.000'</translation></message>
+<message><source>Hail</source><translation>Hail</translation></message>
+<message><source>Hard</source><translation>Hard</translation></message>
+<message><source>Helium percent</source><translation>Helium must lie between 0 and 86 percent.</translation></message>
+<message><source>Import UDCF</source><translation>Import UDCF</translation></message>
+<message><source>Import UDDF</source><translation>Import UDDF</translation></message>
+<message><source>Moderate</source><translation>Moderate</translation></message>
+<message><source>Movies</source><translation>Filming</translation></message>
+<message><source>No suit</source><translation>No suit</translation></message>
+<message><source>None</source><translation>None</translation></message>
+<message><source>Normal</source><translation>Normal</translation></message>
+<message><source>One dive</source><translation>One dive</translation></message>
+<message><source>One dive found</source><translation>One dive found</translation></message>
+<message><source>Other</source><translation>Other</translation></message>
+<message><source>Photo dive</source><translation>Photography</translation></message>
+<message><source>PpO2</source><translation>PpO₂ (bar)</translation></message>
+<message><source>Pressure in out</source><translation>The end pressure must not exceed the start pressure, and neither may be negative.</translation></message>
+<message><source>Profile</source><translation>Profile</translation></message>
+<message><source>Profile datas</source><translation>Profile data</translation></message>
+<message><source>Quarry</source><translation>Quarry</translation></message>
+<message><source>Rainy</source><translation>Rainy</translation></message>
+<message><source>Recreational</source><translation>Recreational</translation></message>
+<message><source>Recuperation</source><translation>Recovery</translation></message>
+<message><source>Semi-dry suit</source><translation>Semi-dry suit</translation></message>
+<message><source>Snowy</source><translation>Snowy</translation></message>
+<message><source>Statistics</source><translation>Statistics</translation></message>
+<message><source>Strong</source><translation>Strong</translation></message>
+<message><source>TableView air Nx</source><translation>Air / Nx</translation></message>
+<message><source>TableView air Nx O2</source><translation>Air / Nx / O2</translation></message>
+<message><source>TableView air O2</source><translation>Air / O2</translation></message>
+<message><source>TableView air tables</source><translation>Air tables</translation></message>
+<message><source>TableView bad</source><translation>Poor</translation></message>
+<message><source>TableView computer</source><translation>Computer</translation></message>
+<message><source>TableView excellent</source><translation>Excellent</translation></message>
+<message><source>TableView exceptional</source><translation>Exceptional</translation></message>
+<message><source>TableView execrable</source><translation>Dreadful</translation></message>
+<message><source>TableView good</source><translation>Good</translation></message>
+<message><source>TableView high tide</source><translation>%d (high)</translation></message>
+<message><source>TableView high tide only</source><translation>High tide</translation></message>
+<message><source>TableView low tide</source><translation>%d (low)</translation></message>
+<message><source>TableView low tide only</source><translation>Low tide</translation></message>
+<message><source>TableView medium</source><translation>Fair</translation></message>
+<message><source>TableView nitrox tables</source><translation>Nitrox tables</translation></message>
+<message><source>TableView very bad</source><translation>Very poor</translation></message>
+<message><source>TableView very good</source><translation>Very good</translation></message>
+<message><source>Tek</source><translation>Technical</translation></message>
+<message><source>Thundery</source><translation>Thundery</translation></message>
+<message><source>Tip add</source><translation>Add a dive to the logbook</translation></message>
+<message><source>Tip delete</source><translation>Delete the selected dives</translation></message>
+<message><source>Tip import UDCF</source><translation>Import dives from a UDCF file</translation></message>
+<message><source>Tip import UDDF</source><translation>Import dives from a UDDF file</translation></message>
+<message><source>Tip insert</source><translation>Insert the dive before the selected one</translation></message>
+<message><source>Tip print</source><translation>Print the logbook</translation></message>
+<message><source>Tip profile</source><translation>Show the profile of the dive</translation></message>
+<message><source>Tip profile datas</source><translation>Show the profile data of the dive</translation></message>
+<message><source>Tip save</source><translation>Save the logbook</translation></message>
+<message><source>Tip statistics</source><translation>Show the statistics of the logbook</translation></message>
+<message><source>Tip synthesis card</source><translation>Show the summary card of the dives</translation></message>
+<message><source>Total dives</source><translation>%d dives</translation></message>
+<message><source>Training</source><translation>Training</translation></message>
+<message><source>Tropical suit</source><translation>Tropical suit</translation></message>
+<message><source>Under ice</source><translation>Under ice</translation></message>
+<message><source>Very easy</source><translation>Very easy</translation></message>
+<message><source>Very hard</source><translation>Very hard</translation></message>
+<message><source>Very strong</source><translation>Very strong</translation></message>
+<message><source>Violent</source><translation>Violent</translation></message>
+<message><source>Weak</source><translation>Weak</translation></message>
+<message><source>Wet suit</source><translation>Wetsuit</translation></message>
+<message><source>Work</source><translation>Work</translation></message>
+<message><source>Wreck</source><translation>Wreck</translation></message>
+<message><source>high setpoint</source><translation>High setpoint (bar)</translation></message>
+</context>
+</TS>

@@ -1,0 +1,45 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en">
+<context>
+<name>Main</name>
+<message><source>Add</source><translation>Add</translation></message>
+<message><source>Add item to ComboBox</source><translation>Add “%@” to the list?</translation></message>
+<message><source>Cancel</source><translation>Cancel</translation></message>
+<message><source>Carnet de plongee</source><translation>Dive logbook</translation></message>
+<message><source>Cotation 1</source><translation>★</translation></message>
+<message><source>Deco</source><translation>Decompression</translation></message>
+<message><source>Delete</source><translation>Delete</translation></message>
+<message><source>Display</source><translation>Display</translation></message>
+<message><source>Divers documents</source><translation>Miscellaneous documents</translation></message>
+<message><source>Document has no file</source><translation>The document has not been saved to a file yet.</translation></message>
+<message><source>Document not opened</source><translation>“%@” could not be opened: %@</translation></message>
+<message><source>Document not saved</source><translation>“%@” could not be saved: %@</translation></message>
+<message><source>Erase</source><translation>Clear</translation></message>
+<message><source>Erase dive</source><translation>Delete the selected dives?</translation></message>
+<message><source>Erase selection</source><translation>Delete the selected entries?</translation></message>
+<message><source>File is a folder</source><translation>It is a folder, not a file.</translation></message>
+<message><source>File is not regular</source><translation>It is not a regular file.</translation></message>
+<message><source>File missing</source><translation>There is no such file.</translation></message>
+<message><source>File not readable</source><translation>The file cannot be read.</translation></message>
+<message><source>File not writable</source><translation>The file cannot be written.</translation></message>
+<message><source>File permission denied</source><translation>You do not have permission to do so.</translation></message>
+<message><source>File system read-only</source><translation>The disk is write-protected.</translation></message>
+<message><source>Folder missing</source><translation>The folder does not exist.</translation></message>
+<message><source>General</source><translation>General</translation></message>
+<message><source>Insert</source><translation>Insert</translation></message>
+<message><source>Logbook</source><translation>Logbook</translation></message>
+<message><source>Materiel</source><translation>Equipment</translation></message>
+<message><source>No</source><translation>No</translation></message>
+<message><source>No space left</source><translation>There is not enough space on the disk.</translation></message>
+<message><source>Preferences not saved</source><translation>The preferences could not be saved to “%@”.</translation></message>
+<message><source>Print</source><translation>Print</translation></message>
+<message><source>Profile</source><translation>Profile</translation></message>
+<message><source>Rebreather</source><translation>Rebreather</translation></message>
+<message><source>Save</source><translation>Save</translation></message>
+<message><source>Synthesis card</source><translation>Summary card</translation></message>
+<message><source>Tip erase</source><translation>Clear all fields</translation></message>
+<message><source>Untitled</source><translation>Untitled</translation></message>
+<message><source>Yes</source><translation>Yes</translation></message>
+</context>
+</TS>

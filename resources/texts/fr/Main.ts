@@ -1,0 +1,45 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr">
+<context>
+<name>Main</name>
+<message><source>Add</source><translation>Ajouter</translation></message>
+<message><source>Add item to ComboBox</source><translation>Ajouter « %@ » à la liste ?</translation></message>
+<message><source>Cancel</source><translation>Annuler</translation></message>
+<message><source>Carnet de plongee</source><translation>Carnet de plongée</translation></message>
+<message><source>Cotation 1</source><translation>★</translation></message>
+<message><source>Deco</source><translation>Décompression</translation></message>
+<message><source>Delete</source><translation>Supprimer</translation></message>
+<message><source>Display</source><translation>Affichage</translation></message>
+<message><source>Divers documents</source><translation>Documents divers</translation></message>
+<message><source>Document has no file</source><translation>Le document n’a pas encore été enregistré dans un fichier.</translation></message>
+<message><source>Document not opened</source><translation>Impossible d’ouvrir « %@ » : %@</translation></message>
+<message><source>Document not saved</source><translation>Impossible d’enregistrer « %@ » : %@</translation></message>
+<message><source>Erase</source><translation>Effacer</translation></message>
+<message><source>Erase dive</source><translation>Supprimer les plongées sélectionnées ?</translation></message>
+<message><source>Erase selection</source><translation>Supprimer les éléments sélectionnés ?</translation></message>
+<message><source>File is a folder</source><translation>C’est un dossier et non un fichier.</translation></message>
+<message><source>File is not regular</source><translation>Ce n’est pas un fichier ordinaire.</translation></message>
+<message><source>File missing</source><translation>Ce fichier n’existe pas.</translation></message>
+<message><source>File not readable</source><translation>Le fichier ne peut pas être lu.</translation></message>
+<message><source>File not writable</source><translation>Le fichier ne peut pas être écrit.</translation></message>
+<message><source>File permission denied</source><translation>Vous n’en avez pas l’autorisation.</translation></message>
+<message><source>File system read-only</source><translation>Le disque est protégé en écriture.</translation></message>
+<message><source>Folder missing</source><translation>Le dossier n’existe pas.</translation></message>
+<message><source>General</source><translation>Général</translation></message>
+<message><source>Insert</source><translation>Insérer</translation></message>
+<message><source>Logbook</source><translation>Carnet</translation></message>
+<message><source>Materiel</source><translation>Matériel</translation></message>
+<message><source>No</source><translation>Non</translation></message>
+<message><source>No space left</source><translation>Il n’y a plus assez de place sur le disque.</translation></message>
+<message><source>Preferences not saved</source><translation>Impossible d’enregistrer les préférences dans « %@ ».</translation></message>
+<message><source>Print</source><translation>Imprimer</translation></message>
+<message><source>Profile</source><translation>Profil</translation></message>
+<message><source>Rebreather</source><translation>Recycleur</translation></message>
+<message><source>Save</source><translation>Enregistrer</translation></message>
+<message><source>Synthesis card</source><translation>Fiche de synthèse</translation></message>
+<message><source>Tip erase</source><translation>Effacer tous les champs</translation></message>
+<message><source>Untitled</source><translation>Sans titre</translation></message>
+<message><source>Yes</source><translation>Oui</translation></message>
+</context>
+</TS>
