@@ -8,12 +8,11 @@
 #include <QObject>
 #include <QString>
 #include <QUndoStack>
-#include <functional>
 
 namespace tavrel {
 
 /// An open document: its type name, its file, whether it has unsaved changes, how it is saved and loaded, and its undo
-/// stack. Knows no windows; they listen to its signals.
+/// stack. Knows no windows; they listen to its signals. The sentences of its failures name the file.
 class Document : public QObject {
     Q_OBJECT
 
@@ -27,20 +26,25 @@ public:
     virtual Expected<void> loadDataRepresentation(QByteArrayView data, const QString& type) = 0;
 
     const QString& type() const { return type_; }
+    /// The absolute path of the file; empty before the first save.
     const QString& file() const { return file_; }
     /// What a window's title says: the file's name, or the localised "Untitled".
     QString displayName() const;
+    /// Whether the contents differ from the file's: a step was done or undone since, or something changed beside the
+    /// steps.
     bool isChanged() const;
     QUndoStack& undoStack() { return undoStack_; }
 
-    /// Reads the file as the document's type. On failure the document is as it was.
+    /// Reads the file as the document's type; its steps can then no longer be undone. On failure the document is as it
+    /// was.
     Expected<void> open(const QString& file);
-    /// Writes the document under its own type, atomically, to its file or to the one given, which becomes its file.
+    /// Writes the document under its own type, atomically, to its file or to the one given, which becomes its file. On
+    /// failure the document, its change state and the file on the disk are as they were.
     Expected<void> save();
     Expected<void> saveAs(const QString& file);
     /// Writes another type (an export) beside; the document's file and change state stay.
     Expected<void> exportAs(const QString& file, const QString& type);
-    /// Reads its file again, dropping all changes.
+    /// Reads its file again, dropping all changes; a failure without a file.
     Expected<void> revert();
 
 Q_SIGNALS:
@@ -54,11 +58,15 @@ protected:
     void markChanged();
 
 private:
+    void becomeFile(const QString& file);
+    void tellChangedState();
+
     Desktop& desktop_;
     QString type_;
     QString file_;
     QUndoStack undoStack_;
     bool changedBesideStack_ = false;
+    bool toldChanged_ = false;
 };
 
 }  // namespace tavrel
