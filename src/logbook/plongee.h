@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/recordlayout.h"
+#include "profile/profileseries.h"
 
 #include <memory>
 
@@ -8,16 +9,7 @@ namespace tavrel {
 
 /// One dive. A fresh record has every number at 0 and every object empty; the dive form and the importers fill it.
 /// Depths, temperatures and volumes are kept as entered; no unit is converted on storage.
-struct Plongee {
-    // Profile: parallel series, one element per sample.
-    Series profilProfondeur;  ///< depth, metres
-    Series ASC_Flag;          ///< 1: ascent alarm
-    Series SLOW_Flag;         ///< 1: slow down
-    Series SURF_Flag;         ///< 1: at the surface
-    Series CEIL_Flag;         ///< 1: ceiling violated
-    Series GAZ_Flag;          ///< 0 none, 1 bottom gas, 2 to 7 gas of stop level 1 to 6
-    Series PRESS_Data;        ///< tank pressure, bar
-
+struct Plongee : ProfileSeries {
     qint32 noPlongee = 0;
     qint32 coeff = 0;  ///< tide coefficient, 20 to 120; 0 none
     qint32 pmBm = 0;   ///< 0 none, 1 high tide, 2 low tide

@@ -21,6 +21,8 @@ public:
     /// ISO 8601 in UTC with "Z" and as many decimals of a second as restore the value; empty when there is no date.
     QString toIso() const;
 
+    bool operator==(const Date&) const = default;
+
 private:
     std::optional<double> seconds_;
 };

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "platform/picklists.h"
+#include "platform/texts.h"
+
+#include <QString>
+#include <optional>
+#include <span>
+
+namespace tavrel {
+
+/// A word on a form: a key of a text table, or the text itself where it is the same in every language.
+struct Title {
+    const char* table = nullptr;  ///< null: key is the text itself
+    const char* key = "";
+
+    bool isEmpty() const { return *key == 0; }
+    QString text() const { return table ? tavrel::text(table, key) : QString::fromUtf8(key); }
+};
+
+constexpr Title literal(const char* text) {
+    return {nullptr, text};
+}
+
+/// An item of a pop-up menu or radio group. The record stores the tag; the menu shows the items in the order given.
+struct Choice {
+    int tag;
+    Title title;
+};
+
+enum class ControlKind {
+    text,
+    wholeNumber,
+    decimal,
+    combo,     ///< text with a list of choices
+    popUp,     ///< one of its choices, by tag
+    radio,     ///< the same, all choices in sight
+    onOff,     ///< a switch: tag 0 or 1
+    slider,    ///< a tag between two bounds
+    date,      ///< the day of a Date
+    time,      ///< the time of day of a Date
+    longText,  ///< text of many lines
+    readOnly,  ///< text that the program writes
+    gauge,     ///< a level from 0 to a maximum, hidden when it has none
+    button,    ///< an action of the form; edited() is sent when it is pressed
+};
+
+/// One control of a form, declared once. Its state, its loading and building, and its widget all come from here.
+struct Control {
+    const char* name;                             ///< "profondeurField"; in a row of controls % stands for the place
+    ControlKind kind = ControlKind::text;
+    const char* field = "";                       ///< key of the record's field; empty: derived
+    Title label = {};
+    Title unit = {};                              ///< shown behind the control
+    Title tip = {};
+    const char* clearedText = "";                 ///< the text of a cleared form
+    int clearedTag = 0;                           ///< the tag of a cleared form
+    std::span<const Choice> choices = {};
+    int minimum = 0, maximum = 0;                 ///< bounds of a slider
+    std::optional<PickList> pickList = {};        ///< the shared list of a combo
+    int ownList = -1;                             ///< the list of a combo that its document owns, by the document's number
+    int width = 0;                                ///< in characters; 0: by kind
+    bool beside = false;                          ///< stands behind the control before it instead of under a label
+};
+
+enum class GroupLayout {
+    pairs,    ///< label and control, side by side, in a number of columns
+    columns,  ///< a grid: each row of controls is a column under its label
+    rows,     ///< a grid: each row of controls is a line behind its label
+};
+
+/// A titled group of a form's page; the controls added after it belong to it.
+struct Group {
+    int page = 0;  ///< from 1
+    Title title = {};
+    GroupLayout layout = GroupLayout::pairs;
+    int columns = 1;        ///< of a pairs layout
+    int placeColumn = 0;    ///< column of the page that the group stands in
+};
+
+}  // namespace tavrel

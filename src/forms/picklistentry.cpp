@@ -1,0 +1,25 @@
+#include "forms/picklistentry.h"
+
+#include "platform/alerts.h"
+#include "platform/texts.h"
+
+#include <algorithm>
+
+namespace tavrel {
+
+void offerToPickList(Desktop& desktop, PickList list, const QString& typed) {
+    const bool blank = std::all_of(typed.begin(), typed.end(), [](QChar letter) { return letter == u' '; });
+    if (blank || desktop.pickLists[list].contains(typed)) {
+        return;
+    }
+    desktop.alerts.beep();
+    const int answer = desktop.alerts.ask(textWith("Main", "Add item to ComboBox", QStringLiteral("error !"), typed),
+                                          {text("Main", "Yes"), text("Main", "No")});
+    if (answer == 0) {
+        desktop.pickLists.append(list, typed);
+    }
+    desktop.pickLists.sort(list);
+    desktop.pickLists.store(list);
+}
+
+}  // namespace tavrel

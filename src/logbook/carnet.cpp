@@ -1,0 +1,334 @@
+#include "logbook/carnet.h"
+
+#include "logbook/divecolumns.h"
+#include "logbook/divesort.h"
+#include "platform/alerts.h"
+#include "platform/preferences.h"
+#include "platform/texts.h"
+
+#include <algorithm>
+
+namespace tavrel {
+
+Carnet::Carnet(Desktop& desktop, const std::vector<ExportType>& exportTypes)
+    : ListDocument(desktop), form_(desktop), exportTypes_(exportTypes) {
+    setType(typeName());
+    listen("updateTableView", [this] { Q_EMIT tableReloadRequested(); });
+    listen("updateColumnsTableView", [this] { Q_EMIT columnsRebuildRequested(); });
+    listen("profile", [this] { Q_EMIT profileRedrawRequested(); });
+    listen("updateEditDive", [this] {
+        updateUI();
+        Q_EMIT synthesisRefillRequested();
+    });
+    listen("updateDeco", [this] { updateUI(); });
+    listen("renumDives", [this] { Q_EMIT renumberWindowRequested(); });
+    setUpFirstRunColumns();
+
+    const Date now = Date::fromDateTime(desktop.clock.now());
+    form_.state().setDate(form_.controls().dateField, now);
+    form_.state().setDate(form_.controls().heureField, now);
+    connect(this, &ListDocumentBase::selectionChanged, this, &Carnet::changementSelectionMaTableView);
+    connect(this, &ListDocumentBase::listChanged, this, &Carnet::stateChanged);
+    connect(this, &ListDocumentBase::listRestored, this, &Carnet::changementSelectionMaTableView);
+    updateUI();
+}
+
+Carnet::~Carnet() = default;
+
+QString Carnet::typeName() {
+    return text("Main", "Carnet de plongee");
+}
+
+void Carnet::listen(const char* name, std::function<void()> handler) {
+    subscriptions_.push_back(desktop().notifications.subscribe(QString::fromLatin1(name), std::move(handler)));
+}
+
+void Carnet::setUpFirstRunColumns() {
+    Preferences& preferences = desktop().preferences;
+    if (preferences.boolean(QStringLiteral("column numero"))) {
+        return;
+    }
+    for (const auto& column : diveColumns) {
+        preferences.set(QString::fromLatin1(column.visibilityKey), column.shownAtFirst);
+    }
+}
+
+Expected<QByteArray> Carnet::dataRepresentationOfType(const QString& type) {
+    if (type == typeName()) {
+        return archive();
+    }
+    for (const auto& exportType : exportTypes_) {
+        if (exportType.name == type) {
+            return exportType.produce(*this);
+        }
+    }
+    return failure(textWith("Main", "Unknown document type", QStringLiteral("error !"), type));
+}
+
+Expected<void> Carnet::loadDataRepresentation(QByteArrayView data, const QString& type) {
+    auto dives = unarchive(data);
+    if (!dives) {
+        return tl::unexpected(dives.error());
+    }
+    deselectAll();
+    replaceList(std::move(*dives));
+    if (type != typeName()) {
+        return failure(textWith("Main", "Unknown document type", QStringLiteral("error !"), type));
+    }
+    updateUI();
+    selectLastDive(count() - 1, false);
+    return {};
+}
+
+qint32 Carnet::nextDiveNumber() const {
+    return records().empty() ? 1 : static_cast<qint32>(static_cast<quint32>(records().back()->noPlongee) + 1U);
+}
+
+void Carnet::proposeNextNumber() {
+    form_.state().setInteger(form_.controls().noPlongeeField, nextDiveNumber());
+}
+
+void Carnet::newDive() {
+    blankFields();
+    Q_EMIT editWindowRequested();
+    proposeNextNumber();
+    editWindowTitle_ = textWith("Carnet", "Dive number title", QStringLiteral("error !"), nextDiveNumber());
+    Q_EMIT editWindowTitleChanged();
+    updateUI();
+}
+
+void Carnet::addDive() {
+    List dives = records();
+    dives.push_back(std::make_shared<const Plongee>(builtDive()));
+    changeList(text("Carnet", "Undo add"), std::move(dives));
+    selectLastDive(count() - 1, false);
+    blankFields();
+    proposeNextNumber();
+    updateUI();
+}
+
+void Carnet::insertDive() {
+    const int row = selectedRow();
+    if (row < 0) {
+        desktop().alerts.beep();
+        return;
+    }
+    List dives = records();
+    dives.insert(dives.begin() + row, std::make_shared<const Plongee>(builtDive()));
+    changeList(text("Carnet", "Undo insert"), std::move(dives));
+    updateUI();
+}
+
+void Carnet::updateDive() {
+    const int row = selectedRow();
+    if (row < 0) {
+        desktop().alerts.beep();
+        return;
+    }
+    List dives = records();
+    dives[static_cast<std::size_t>(row)] = std::make_shared<const Plongee>(builtDive());
+    changeList(text("Carnet", "Undo update"), std::move(dives));
+    updateUI();
+}
+
+void Carnet::deleteDive() {
+    if (selectedRow() < 0) {
+        return;
+    }
+    desktop().alerts.beep();
+    if (desktop().alerts.ask(text("Main", "Erase dive"), {QStringLiteral("OK"), text("Main", "Cancel")}) != 0) {
+        return;
+    }
+    List dives;
+    const QList<int>& rows = selectedRows();
+    for (int row = 0; row < count(); ++row) {
+        if (!std::binary_search(rows.begin(), rows.end(), row)) {
+            dives.push_back(recordAt(row));
+        }
+    }
+    deselectAll();
+    changeList(text("Carnet", "Undo delete"), std::move(dives));
+    updateUI();
+}
+
+void Carnet::renumDives(qint32 first) {
+    {
+        const FormStateBase::Batch batch(form_.state());
+        List dives = records();
+        for (std::size_t row = 0; row < dives.size(); ++row) {
+            form_.editFields(*dives[row]);
+            form_.state().setInteger(form_.controls().noPlongeeField,
+                                     static_cast<qint32>(static_cast<quint32>(first) + static_cast<quint32>(row)));
+            dives[row] = std::make_shared<const Plongee>(builtDive());
+        }
+        changeList(text("Carnet", "Undo renumber"), std::move(dives));
+        if (count() > 0) {
+            selectRows({count() - 1});
+        }
+    }
+    Q_EMIT renumberWindowClosed();
+}
+
+void Carnet::step(int direction) {
+    updateDive();
+    const int row = selectedRow();
+    if (row < 0) {
+        return;
+    }
+    selectLastDive(row + direction, true);
+    changementSelectionMaTableView();
+}
+
+void Carnet::selectLastDive(int index, bool selected) {
+    selectRows({index});
+    if (index >= 0 && index < count()) {
+        Q_EMIT rowRevealed(index);
+    }
+    if (!selected) {
+        deselectAll();
+    }
+}
+
+void Carnet::editWindow() {
+    Q_EMIT editWindowRequested();
+    if (selectedRow() >= 0) {
+        changementSelectionMaTableView();
+    }
+}
+
+void Carnet::closeEditWindow() {
+    if (selectedRow() >= 0) {
+        updateDive();
+    }
+    Q_EMIT editWindowClosed();
+}
+
+void Carnet::changementSelectionMaTableView() {
+    _currentIndex = selectedRow();
+    if (_currentIndex >= 0 && !keepsForm_) {
+        editFields();
+        updateUI();
+    } else {
+        Q_EMIT stateChanged();
+    }
+}
+
+void Carnet::appendDives(const QString& step, const std::vector<Plongee>& taken) {
+    List dives = records();
+    for (const auto& dive : taken) {
+        dives.push_back(std::make_shared<const Plongee>(dive));
+    }
+    changeList(step, std::move(dives));
+}
+
+void Carnet::editFields() {
+    const auto dive = recordAt(_currentIndex);
+    if (!dive) {
+        return;
+    }
+    form_.editFields(*dive);
+    editWindowTitle_ = textWith("Carnet", "Dive number title", QStringLiteral("error !"), dive->noPlongee);
+    Q_EMIT editWindowTitleChanged();
+}
+
+void Carnet::updateUI() {
+    form_.updateUI();
+    Q_EMIT stateChanged();
+}
+
+Expected<void> Carnet::setValue(int row, const QString& field, const FieldValue& value) {
+    const auto* item = Plongee::layout().find(field.toStdString());
+    const auto held = recordAt(row);
+    if (!item || !held) {
+        return failure(textWith("Carnet", "No such field", QStringLiteral("error !"), field));
+    }
+    auto dive = std::make_shared<Plongee>(*held);
+    const bool fits = std::visit(
+        [&](auto member) {
+            auto& target = (*dive).*member;
+            const auto* given = std::get_if<std::decay_t<decltype(target)>>(&value);
+            if (given) {
+                target = *given;
+            }
+            return given != nullptr;
+        },
+        item->member);
+    if (!fits) {
+        return failure(textWith("Carnet", "No such field", QStringLiteral("error !"), field));
+    }
+    List dives = records();
+    dives[static_cast<std::size_t>(row)] = std::move(dive);
+    changeList(text("Carnet", "Undo update"), std::move(dives));
+    return {};
+}
+
+void Carnet::sortBy(const QString& field) {
+    bool& ascending = _ascendingDirection[field];
+    if (_idColonne == field) {
+        ascending = !ascending;
+    }
+    _idColonne = field;
+
+    const std::vector<int> order = sortedOrder(records(), field, ascending);
+    List dives;
+    dives.reserve(order.size());
+    QList<int> selection;
+    for (std::size_t row = 0; row < order.size(); ++row) {
+        dives.push_back(recordAt(order[row]));
+        if (std::binary_search(selectedRows().begin(), selectedRows().end(), order[row])) {
+            selection.append(static_cast<int>(row));
+        }
+    }
+    // The dive in the form stays the same one, with what was typed into it.
+    keepsForm_ = true;
+    replaceList(std::move(dives));
+    selectRows(selection);
+    keepsForm_ = false;
+}
+
+Expected<int> Carnet::findTextWithField(const QString& field, const QString& searched) {
+    deselectAll();
+    const auto* item = Plongee::layout().find(field.toStdString());
+    const auto* member = item ? std::get_if<QString Plongee::*>(&item->member) : nullptr;
+    if (!member) {
+        return failure(textWith("Carnet", "No such field", QStringLiteral("error !"), field));
+    }
+    QList<int> found;
+    for (int row = 0; row < count(); ++row) {
+        const QString& value = (*records()[static_cast<std::size_t>(row)]).*(*member);
+        if (value.isNull() || (!searched.isEmpty() && value.contains(searched, Qt::CaseInsensitive))) {
+            found.append(row);
+        }
+    }
+    const int matches = static_cast<int>(found.size());
+    selectRows(found);
+    foundText_ = matches == 1 ? text("Carnet", "One dive found")
+                              : textWith("Carnet", "Found dives", QStringLiteral("error !"), matches);
+    Q_EMIT stateChanged();
+    return matches;
+}
+
+void Carnet::find(const QString& field, const QString& searched) {
+    if (const auto found = findTextWithField(field, searched); !found) {
+        desktop().alerts.fail(found.error());
+    }
+}
+
+QString Carnet::stateText() const {
+    return count() == 1 ? text("Carnet", "One dive")
+                        : textWith("Carnet", "Total dives", QStringLiteral("error !"), count());
+}
+
+bool Carnet::canGoBack() const {
+    return selectedRow() > 0;
+}
+
+bool Carnet::canGoForward() const {
+    return count() > 0 && static_cast<quint32>(selectedRow()) < static_cast<quint32>(count() - 1);
+}
+
+PrintSettings Carnet::defaultPrintingSettings(bool landscape) {
+    return {.top = 23.2, .bottom = 25.0, .left = 10.0, .right = 10.0, .scale = 0.67, .landscape = landscape};
+}
+
+}  // namespace tavrel

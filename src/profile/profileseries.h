@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/series.h"
+
+#include <array>
+
+namespace tavrel {
+
+/// The seven parallel series of a dive's profile; element i of each is the same moment, i sampling intervals from the start.
+struct ProfileSeries {
+    Series profilProfondeur;  ///< depth, metres
+    Series ASC_Flag;          ///< 1: ascent alarm
+    Series SLOW_Flag;         ///< 1: slow down
+    Series SURF_Flag;         ///< 1: at the surface
+    Series CEIL_Flag;         ///< 1: ceiling violated
+    Series GAZ_Flag;          ///< 0 none, 1 bottom gas, 2 to 7 gas of stop level 1 to 6
+    Series PRESS_Data;        ///< tank pressure, bar
+
+    /// Gives every series without elements its single zero: 0.0 for depth and pressure, the integer 0 for the flags.
+    void profilArraysDefaultContent();
+    /// Empties all seven and gives each its single zero.
+    void reset();
+    bool hasProfile() const { return profilProfondeur.size() >= 2; }
+};
+
+/// A series by its member, and whether it holds reals (depth, pressure) or integers (flags).
+struct ProfileSeriesKind {
+    Series ProfileSeries::*series;
+    bool real;
+};
+
+/// The seven series in archive order.
+inline constexpr std::array<ProfileSeriesKind, 7> profileSeriesKinds{{
+    {&ProfileSeries::profilProfondeur, true},
+    {&ProfileSeries::ASC_Flag, false},
+    {&ProfileSeries::SLOW_Flag, false},
+    {&ProfileSeries::SURF_Flag, false},
+    {&ProfileSeries::CEIL_Flag, false},
+    {&ProfileSeries::GAZ_Flag, false},
+    {&ProfileSeries::PRESS_Data, true},
+}};
+
+/// Sampling interval of each code 0 to 7, seconds. The order is the stored one, not sorted by interval.
+inline constexpr std::array<int, 8> samplingIntervals{10, 20, 30, 60, 120, 4, 1, 5};
+
+}  // namespace tavrel
