@@ -1,26 +1,12 @@
 #pragma once
 
 #include "platform/picklists.h"
-#include "platform/texts.h"
+#include "platform/title.h"
 
-#include <QString>
 #include <optional>
 #include <span>
 
 namespace tavrel {
-
-/// A word on a form: a key of a text table, or the text itself where it is the same in every language.
-struct Title {
-    const char* table = nullptr;  ///< null: key is the text itself
-    const char* key = "";
-
-    bool isEmpty() const { return *key == 0; }
-    QString text() const { return table ? tavrel::text(table, key) : QString::fromUtf8(key); }
-};
-
-constexpr Title literal(const char* text) {
-    return {nullptr, text};
-}
 
 /// An item of a pop-up menu or radio group. The record stores the tag; the menu shows the items in the order given.
 struct Choice {

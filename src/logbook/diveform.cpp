@@ -81,7 +81,7 @@ void DiveForm::editFields(const Plongee& dive) {
     }
     for (std::size_t level = 0; level < 6; ++level) {
         if (!(state_.single(controls_.depthDeco_Level_Field[level]) > 0)) {
-            state_.setInteger(controls_.depthDeco_Level_Field[level], 3 * (static_cast<qint64>(level) + 1);
+            state_.setInteger(controls_.depthDeco_Level_Field[level], 3 * (static_cast<qint64>(level) + 1));
         }
         for (const auto& control : {controls_.decoO2_Level_Field[level], controls_.timeDeco_Level_Field[level]}) {
             if (state_.integer(control) == 0) {
