@@ -33,20 +33,20 @@ enum class ControlKind {
 
 /// One control of a form, declared once. Its state, its loading and building, and its widget all come from here.
 struct Control {
-    const char* name;                             ///< "profondeurField"; in a row of controls % stands for the place
+    const char* name;  ///< "profondeurField"; in a row of controls % stands for the place
     ControlKind kind = ControlKind::text;
-    const char* field = "";                       ///< key of the record's field; empty: derived
+    const char* field = "";  ///< key of the record's field; empty: derived
     Title label = {};
-    Title unit = {};                              ///< shown behind the control
+    Title unit = {};  ///< shown behind the control
     Title tip = {};
-    const char* clearedText = "";                 ///< the text of a cleared form
-    int clearedTag = 0;                           ///< the tag of a cleared form
+    const char* clearedText = "";  ///< the text of a cleared form
+    int clearedTag = 0;            ///< the tag of a cleared form
     std::span<const Choice> choices = {};
-    int minimum = 0, maximum = 0;                 ///< bounds of a slider
-    std::optional<PickList> pickList = {};        ///< the shared list of a combo
-    int ownList = -1;                             ///< the list of a combo that its document owns, by the document's number
-    int width = 0;                                ///< in characters; 0: by kind
-    bool beside = false;                          ///< stands behind the control before it instead of under a label
+    int minimum = 0, maximum = 0;           ///< bounds of a slider
+    std::optional<PickList> pickList = {};  ///< the shared list of a combo
+    int ownList = -1;                       ///< the list of a combo that its document owns, by the document's number
+    int width = 0;                          ///< in characters; 0: by kind
+    bool beside = false;                    ///< stands behind the control before it instead of under a label
 };
 
 enum class GroupLayout {
@@ -60,8 +60,8 @@ struct Group {
     int page = 0;  ///< from 1
     Title title = {};
     GroupLayout layout = GroupLayout::pairs;
-    int columns = 1;        ///< of a pairs layout
-    int placeColumn = 0;    ///< column of the page that the group stands in
+    int columns = 1;      ///< of a pairs layout
+    int placeColumn = 0;  ///< column of the page that the group stands in
 };
 
 }  // namespace tavrel

@@ -15,8 +15,8 @@ struct ControlId {
     int index = -1;
 };
 
-/// A control as it stands in a table: its declaration, its own name and field, its group, and its place in a row of controls
-/// (0 for a single one).
+/// A control as it stands in a table: its declaration, its own name and field, its group, and its place in a row of
+/// controls (0 for a single one).
 struct PlacedControl {
     Control control;
     std::string name;

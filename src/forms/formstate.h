@@ -5,11 +5,13 @@
 
 #include <QObject>
 #include <QString>
+
 #include <vector>
 
 namespace tavrel {
 
-/// What one control holds: its text as typed, its tag (pop-ups, radios, switches, sliders), its date, and whether it can be used.
+/// What one control holds: its text as typed, its tag (pop-ups, radios, switches, sliders), its date, and whether it
+/// can be used.
 struct ControlState {
     QString text = QStringLiteral("");
     int tag = 0;
@@ -38,7 +40,8 @@ public:
     void setEnabled(int index, bool enabled);
     void setVisible(int index, bool visible);
     void setGauge(int index, int level, int maximum);
-    /// The tag of the menu's item at a position from 0; a position outside the menu leaves nothing chosen, which reads as 0.
+    /// The tag of the menu's item at a position from 0; a position outside the menu leaves nothing chosen, which reads
+    /// as 0.
     void selectPosition(int index, int position);
 
     /// What the user did with a control: written like the above, then edited follows.

@@ -5,9 +5,9 @@
 
 namespace tavrel {
 
-/// At the end of editing a combo box: a text that its shared list lacks is offered to it with a question. Blanks (the space
-/// character only) around the text decide whether it is empty, but the entry is the text as typed. Whatever the answer, the
-/// list is then sorted and stored.
+/// At the end of editing a combo box: a text that its shared list lacks is offered to it with a question. Blanks (the
+/// space character only) around the text decide whether it is empty, but the entry is the text as typed. Whatever the
+/// answer, the list is then sorted and stored.
 void offerToPickList(Desktop& desktop, PickList list, const QString& typed);
 
 }  // namespace tavrel

@@ -3,6 +3,7 @@
 #include "logbook/divecolumns.h"
 #include "logbook/divesort.h"
 #include "platform/alerts.h"
+#include "platform/clock.h"
 #include "platform/preferences.h"
 #include "platform/texts.h"
 

@@ -20,8 +20,8 @@ struct ExportType {
     std::function<Expected<QByteArray>(Carnet&)> produce;
 };
 
-/// The logbook document: an ordered list of dives, the form through which dives are entered, and every operation of its two
-/// windows, without them.
+/// The logbook document: an ordered list of dives, the form through which dives are entered, and every operation of its
+/// two windows, without them.
 class Carnet : public ListDocument<Plongee> {
     Q_OBJECT
 

@@ -137,11 +137,16 @@ Plongee DiveForm::addDiveToList() {
 }
 
 void DiveForm::updateSlider() {
-    static constexpr std::array<Title, 6> words{{{"Carnet", "Very easy"}, {"Carnet", "Easy"}, {"Carnet", "Normal"},
-                                                 {"Carnet", "Hard"}, {"Carnet", "Very hard"}, {"Carnet", "Extreme"}}};
+    static constexpr std::array<Title, 6> words{{{"Carnet", "Very easy"},
+                                                 {"Carnet", "Easy"},
+                                                 {"Carnet", "Normal"},
+                                                 {"Carnet", "Hard"},
+                                                 {"Carnet", "Very hard"},
+                                                 {"Carnet", "Extreme"}}};
     const int difficulty = state_.tag(controls_.difficulteSlider);
     const bool named = difficulty >= 0 && difficulty < static_cast<int>(words.size());
-    state_.setText(controls_.difficulteField, (named ? words[static_cast<std::size_t>(difficulty)] : words.back()).text());
+    state_.setText(controls_.difficulteField,
+                   (named ? words[static_cast<std::size_t>(difficulty)] : words.back()).text());
     updateUI();
 }
 

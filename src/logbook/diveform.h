@@ -7,13 +7,14 @@
 
 #include <QObject>
 #include <QStringList>
+
 #include <array>
 
 namespace tavrel {
 
-/// The dive form of a logbook without its window: how it is cleared, how a dive is shown in it, how a dive is built from it
-/// with all corrections, and what follows from an entry. Whoever makes dives (the window, the importers, the command line)
-/// types into it.
+/// The dive form of a logbook without its window: how it is cleared, how a dive is shown in it, how a dive is built
+/// from it with all corrections, and what follows from an entry. Whoever makes dives (the window, the importers, the
+/// command line) types into it.
 class DiveForm : public QObject {
     Q_OBJECT
 
@@ -35,7 +36,8 @@ public:
     void blankFields();
     /// Shows a dive: "-" for what was not given, the usual depths for stops without one.
     void editFields(const Plongee& dive);
-    /// Builds a dive from the form. Values out of range are replaced, in the form too where it shows them; nothing is asked.
+    /// Builds a dive from the form. Values out of range are replaced, in the form too where it shows them; nothing is
+    /// asked.
     Plongee addDiveToList();
 
     /// Refreshes what follows from the entries: captions, units, enabling, nitrogen.

@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QUndoCommand>
+
 #include <algorithm>
 #include <memory>
 #include <vector>

@@ -4,8 +4,8 @@
 
 namespace tavrel {
 
-/// A word that a table of controls, columns or commands shows: a key of a text table, or the text itself where it is the same
-/// in every language.
+/// A word that a table of controls, columns or commands shows: a key of a text table, or the text itself where it is
+/// the same in every language.
 struct Title {
     const char* table = nullptr;  ///< null: key is the text itself
     const char* key = "";

@@ -6,7 +6,8 @@
 
 namespace tavrel {
 
-/// The seven parallel series of a dive's profile; element i of each is the same moment, i sampling intervals from the start.
+/// The seven parallel series of a dive's profile; element i of each is the same moment, i sampling intervals from the
+/// start.
 struct ProfileSeries {
     Series profilProfondeur;  ///< depth, metres
     Series ASC_Flag;          ///< 1: ascent alarm

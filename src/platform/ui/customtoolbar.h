@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 #include <QToolBar>
+
 #include <functional>
 #include <map>
 #include <span>
@@ -36,8 +37,9 @@ struct ToolBarDescription {
     std::span<const char* const> initial;
 };
 
-/// A toolbar that its user arranges: items are added, removed and moved in a dialog, and the arrangement is remembered under
-/// the toolbar's identifier. An item shows only when the program at hand can do it (it has a command or a widget).
+/// A toolbar that its user arranges: items are added, removed and moved in a dialog, and the arrangement is remembered
+/// under the toolbar's identifier. An item shows only when the program at hand can do it (it has a command or a
+/// widget).
 class CustomToolBar : public QToolBar {
     Q_OBJECT
 

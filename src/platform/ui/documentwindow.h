@@ -10,8 +10,8 @@
 
 namespace tavrel {
 
-/// The main window of a document: title with the change mark, the save prompt on closing, files dropped on it, and the places
-/// where the application hangs the menus it builds for every document.
+/// The main window of a document: title with the change mark, the save prompt on closing, files dropped on it, and the
+/// places where the application hangs the menus it builds for every document.
 class DocumentWindow : public QMainWindow {
     Q_OBJECT
 

@@ -11,11 +11,12 @@ class QWidget;
 
 namespace tavrel {
 
-/// The printer with margins, orientation and page size set; what the user chose in the page set-up of this session stays.
+/// The printer with margins, orientation and page size set; what the user chose in the page set-up of this session
+/// stays.
 void applyPrintSettings(QPrinter& printer, const PrintSettings& settings);
 
-/// Paints all rows of a table, its visible columns in their order with header texts, cell texts, fonts, colours and images, at
-/// the settings' scale over as many pages as it takes, the header on each.
+/// Paints all rows of a table, its visible columns in their order with header texts, cell texts, fonts, colours and
+/// images, at the settings' scale over as many pages as it takes, the header on each.
 void printTable(QPrinter& printer, const QTableView& table, const PrintSettings& settings, const QString& title);
 void printText(QPrinter& printer, const QTextDocument& text, const PrintSettings& settings);
 
