@@ -2,6 +2,9 @@
 
 #include <QDateTime>
 #include <QString>
+
+#include <bit>
+#include <cstdint>
 #include <optional>
 
 namespace tavrel {
@@ -19,9 +22,15 @@ public:
     /// In the user's time zone, to the millisecond; invalid when there is no date or it lies outside QDateTime's range.
     QDateTime toDateTime() const;
     /// ISO 8601 in UTC with "Z" and as many decimals of a second as restore the value; empty when there is no date.
+    /// Years outside 0 to 9999 carry a sign and six digits or more; a value that no calendar holds (not finite, or
+    /// 10^15 s and more) is given as its seconds.
     QString toIso() const;
 
-    bool operator==(const Date&) const = default;
+    /// The same bits, or both nothing.
+    friend bool operator==(const Date& left, const Date& right) {
+        return left.isNull() == right.isNull() && std::bit_cast<std::uint64_t>(left.secondsSince2001()) ==
+                                                      std::bit_cast<std::uint64_t>(right.secondsSince2001());
+    }
 
 private:
     std::optional<double> seconds_;

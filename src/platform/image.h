@@ -9,6 +9,9 @@ struct Image {
     QByteArray tiff;
     float width = 0;
     float height = 0;
+
+    bool isNull() const { return tiff.isEmpty(); }
+    friend bool operator==(const Image& left, const Image& right) = default;
 };
 
 }  // namespace tavrel

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/colorarchive.h"
 #include "platform/failure.h"
 
 #include <QColor>
@@ -70,10 +71,5 @@ private:
     QVariantMap defaults_;
     int together_ = 0;
 };
-
-/// The typed-stream archive of one colour object, calibrated RGB with its alpha, or calibrated white for a pure grey.
-QByteArray archivedColor(const QColor& color);
-/// The colour of such an archive (calibrated or device RGB and white, CMYK, named); invalid when it holds none.
-QColor unarchivedColor(const QByteArray& archive);
 
 }  // namespace tavrel

@@ -1,30 +1,35 @@
 #pragma once
 
+#include <QSharedData>
+#include <QSharedDataPointer>
 #include <QtGlobal>
+
 #include <cstddef>
 #include <cstdint>
+#include <span>
+#include <variant>
 #include <vector>
 
 namespace tavrel {
 
-/// A number of an archived array: its value and the type code it travels under ('i', 'd', 'f', 'c', 'q' …), so that it is
-/// written again as it was read.
+/// A number of an archived array: its value and the type code it travels under ('i', 'd', 'f', 'c', 'q' …), so that it
+/// is written again as it was read.
 struct Number {
     char code = 'i';
-    std::int64_t integer = 0;  ///< the value when the code is an integer type
+    std::int64_t integer = 0;  ///< the value when the code is an integer type; the bits of the value for 'Q' and 'L'
     double real = 0.0;         ///< the value when the code is 'd' or 'f'
 
     static Number ofInteger(std::int64_t value, char code = 'i') { return {code, value, 0.0}; }
     static Number ofReal(double value, char code = 'd') { return {code, 0, value}; }
 
     bool isReal() const { return code == 'd' || code == 'f'; }
-    double toDouble() const { return isReal() ? real : static_cast<double>(integer); }
+    double toDouble() const;
     /// Truncated toward zero, saturating at the 32-bit bounds; 0 for not-a-number.
     qint32 toInt() const;
 };
 
-/// One series of a profile: an array of numbers, or nothing (isNull). Holds every number with its type code and bits, in
-/// a form that costs a byte for a flag and eight for a depth.
+/// One series of a profile: an array of numbers, or nothing (isNull). Holds every number with its type code and bits,
+/// in a form that costs a byte for a flag and eight for a depth. Copies share their numbers until one of them changes.
 class Series {
 public:
     Series() = default;  // null
@@ -32,7 +37,7 @@ public:
     static Series ofIntegers(const std::vector<qint32>& values);
     static Series empty();  ///< an array without elements, which is not null
 
-    bool isNull() const;
+    bool isNull() const { return !data_; }
     std::size_t size() const;
     Number at(std::size_t index) const;
     double real(std::size_t index) const { return at(index).toDouble(); }
@@ -42,12 +47,34 @@ public:
     void append(Number number);
     void appendReal(double value) { append(Number::ofReal(value)); }
     void appendInteger(qint32 value) { append(Number::ofInteger(value)); }
+    /// Many at once: doubles of type 'd', or integers of type 'i' that fit a byte.
+    void append(std::span<const double> values);
+    void append(std::span<const std::int8_t> values);
     void clear();  ///< becomes an array without elements
+
+    /// All numbers in one block when every one is of type 'd', or an 'i' that fits a byte; else nothing.
+    std::span<const double> realBlock() const;
+    std::span<const std::int8_t> smallBlock() const;
 
     /// Same numbers, type codes and bits (not-a-number included).
     friend bool operator==(const Series& left, const Series& right);
 
 private:
+    struct Mixed {
+        std::vector<char> codes;
+        std::vector<std::uint64_t> bits;  // of the double, or of the integer
+        bool operator==(const Mixed&) const = default;
+    };
+    // The contents decide the form: bytes while every number is an 'i' that fits one (so also without numbers), doubles
+    // while every one is a 'd', else the mixed form.
+    struct Data : QSharedData {
+        std::variant<std::vector<std::int8_t>, std::vector<double>, Mixed> numbers;
+    };
+
+    Data& detached();
+    Mixed& mixed();
+
+    QSharedDataPointer<Data> data_;
 };
 
 }  // namespace tavrel
