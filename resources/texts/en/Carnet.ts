@@ -31,6 +31,7 @@
 <message><source>Import UDDF</source><translation>Import UDDF</translation></message>
 <message><source>Moderate</source><translation>Moderate</translation></message>
 <message><source>Movies</source><translation>Filming</translation></message>
+<message><source>No such field</source><translation>Dives have no field "%@" that can be used this way.</translation></message>
 <message><source>No suit</source><translation>No suit</translation></message>
 <message><source>None</source><translation>None</translation></message>
 <message><source>Normal</source><translation>Normal</translation></message>
@@ -85,6 +86,11 @@
 <message><source>Training</source><translation>Training</translation></message>
 <message><source>Tropical suit</source><translation>Tropical suit</translation></message>
 <message><source>Under ice</source><translation>Under ice</translation></message>
+<message><source>Undo add</source><translation>Add Dive</translation></message>
+<message><source>Undo delete</source><translation>Delete Dives</translation></message>
+<message><source>Undo insert</source><translation>Insert Dive</translation></message>
+<message><source>Undo renumber</source><translation>Renumber Dives</translation></message>
+<message><source>Undo update</source><translation>Edit Dive</translation></message>
 <message><source>Very easy</source><translation>Very easy</translation></message>
 <message><source>Very hard</source><translation>Very hard</translation></message>
 <message><source>Very strong</source><translation>Very strong</translation></message>

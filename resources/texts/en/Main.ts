@@ -39,6 +39,7 @@
 <message><source>Save</source><translation>Save</translation></message>
 <message><source>Synthesis card</source><translation>Summary card</translation></message>
 <message><source>Tip erase</source><translation>Clear all fields</translation></message>
+<message><source>Unknown document type</source><translation>Tavrel knows no document type "%@".</translation></message>
 <message><source>Untitled</source><translation>Untitled</translation></message>
 <message><source>Yes</source><translation>Yes</translation></message>
 </context>

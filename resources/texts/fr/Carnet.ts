@@ -31,6 +31,7 @@
 <message><source>Import UDDF</source><translation>Importer UDDF</translation></message>
 <message><source>Moderate</source><translation>Modéré</translation></message>
 <message><source>Movies</source><translation>Vidéo</translation></message>
+<message><source>No such field</source><translation>Les plongées n’ont pas de champ « %@ » utilisable ainsi.</translation></message>
 <message><source>No suit</source><translation>Sans combinaison</translation></message>
 <message><source>None</source><translation>Nul</translation></message>
 <message><source>Normal</source><translation>Normale</translation></message>
@@ -85,6 +86,11 @@
 <message><source>Training</source><translation>Formation</translation></message>
 <message><source>Tropical suit</source><translation>Combinaison tropicale</translation></message>
 <message><source>Under ice</source><translation>Sous glace</translation></message>
+<message><source>Undo add</source><translation>Ajouter la plongée</translation></message>
+<message><source>Undo delete</source><translation>Supprimer les plongées</translation></message>
+<message><source>Undo insert</source><translation>Insérer la plongée</translation></message>
+<message><source>Undo renumber</source><translation>Renuméroter les plongées</translation></message>
+<message><source>Undo update</source><translation>Modifier la plongée</translation></message>
 <message><source>Very easy</source><translation>Très facile</translation></message>
 <message><source>Very hard</source><translation>Très difficile</translation></message>
 <message><source>Very strong</source><translation>Très fort</translation></message>

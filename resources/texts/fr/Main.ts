@@ -39,6 +39,7 @@
 <message><source>Save</source><translation>Enregistrer</translation></message>
 <message><source>Synthesis card</source><translation>Fiche de synthèse</translation></message>
 <message><source>Tip erase</source><translation>Effacer tous les champs</translation></message>
+<message><source>Unknown document type</source><translation>Tavrel ne connaît pas de type de document « %@ ».</translation></message>
 <message><source>Untitled</source><translation>Sans titre</translation></message>
 <message><source>Yes</source><translation>Oui</translation></message>
 </context>
