@@ -90,6 +90,14 @@ std::optional<QStringList> readStrings(const QVariant& value) {
     return value.isValid() ? std::nullopt : std::optional(QStringList());
 }
 
+std::optional<QColor> readColor(const QVariant& value) {
+    if (value.typeId() != QMetaType::QByteArray) {
+        return std::nullopt;
+    }
+    const QColor color = unarchivedColor(value.toByteArray());
+    return color.isValid() ? std::optional(color) : std::nullopt;
+}
+
 QString windowKey(const QString& name) {
     return QStringLiteral("windows/") + name;
 }
@@ -146,8 +154,16 @@ QString Preferences::string(const QString& key) const {
 QStringList Preferences::strings(const QString& key) const {
     return read(key, readStrings);
 }
+QColor Preferences::color(const QString& key) const {
+    return read(key, readColor);
+}
+
 void Preferences::set(const QString& key, const QVariant& value) {
     write(key, encoded(value));
+}
+
+void Preferences::setColor(const QString& key, const QColor& color) {
+    write(key, archivedColor(color));
 }
 
 void Preferences::remove(const QString& key) {

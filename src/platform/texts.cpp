@@ -65,7 +65,7 @@ private:
     static QString languageOf(const QString& localeName) {
         const QStringList names = localeName.isEmpty() ? QLocale::system().uiLanguages() : QStringList{localeName};
         for (const QString& name : names) {
-            const QString language = name.left(name.indexOf(QLatin1Char(name.contains(u'_') ? '_' : '-'))).toLower();
+            QString language = name.left(name.indexOf(QLatin1Char(name.contains(u'_') ? '_' : '-'))).toLower();
             if (QFile::exists(QStringLiteral(":/texts/") + language)) {
                 return language;
             }

@@ -1,5 +1,6 @@
 #include "platform/preferences.h"
 
+#include "platform/defaults.h"
 #include "support/testdesktop.h"
 
 #include <QFile>
@@ -19,7 +20,7 @@ public:
 
 private:
     static QString copied(const TestDesktop& desktop, const char* name) {
-        const QString copy = desktop.path(QLatin1String(name));
+        QString copy = desktop.path(QLatin1String(name));
         EXPECT_TRUE(QFile::copy(desktop.path(QStringLiteral("preferences.ini")), copy));
         return copy;
     }
@@ -54,6 +55,7 @@ TEST(Preferences, readEveryKindBackInTheNextRun) {
         for (int i = 0; i < lists.size(); ++i) {
             now.set(QStringLiteral("list %1").arg(i), lists[i]);
         }
+        now.setColor(QStringLiteral("plot color"), QColor::fromRgbF(1.0F, 0.5F, 0.0F, 0.25F));
         now.setWindowState(QStringLiteral("Nitrox Prof Max"), QByteArray("\0\xff,x", 4));
     }
     const NextRun next(desktop);
@@ -71,6 +73,9 @@ TEST(Preferences, readEveryKindBackInTheNextRun) {
             EXPECT_TRUE(run->isStored(QStringLiteral("list %1").arg(i)));
             EXPECT_EQ(run->strings(QStringLiteral("list %1").arg(i)), lists[i]) << i;
         }
+        const QColor color = run->color(QStringLiteral("plot color"));
+        EXPECT_NEAR(color.greenF(), 0.5, 1e-4);
+        EXPECT_NEAR(color.alphaF(), 0.25, 1e-4);
         EXPECT_EQ(run->windowState(QStringLiteral("Nitrox Prof Max")), QByteArray("\0\xff,x", 4));
     }
 }
@@ -87,10 +92,12 @@ TEST(Preferences, readAWrongKindAsTheDefault) {
         preferences.set(QLatin1String(name), list);
     }
     preferences.set(QStringLiteral("l"), QByteArray("bytes"));
+    preferences.set(QStringLiteral("low temperature color"), QStringLiteral("blue"));
     EXPECT_TRUE(preferences.boolean(QStringLiteral("b")));
     EXPECT_EQ(preferences.integer(QStringLiteral("n")), 7);
     EXPECT_EQ(preferences.string(QStringLiteral("s")), u"FRA");
     EXPECT_EQ(preferences.strings(QStringLiteral("l")).size(), 2);
+    EXPECT_EQ(preferences.color(QStringLiteral("low temperature color")), QColor(Qt::blue));
     preferences.set(QStringLiteral("n"), QStringLiteral("deep"));
     preferences.set(QStringLiteral("b"), QStringLiteral("perhaps"));
     EXPECT_EQ(preferences.real(QStringLiteral("n")), 7.0);
@@ -99,6 +106,7 @@ TEST(Preferences, readAWrongKindAsTheDefault) {
     preferences.set(key, list);
     EXPECT_EQ(preferences.integer(key), 0);
     EXPECT_FALSE(preferences.boolean(key));
+    EXPECT_FALSE(preferences.color(QStringLiteral("no such color")).isValid());
 }
 
 TEST(Preferences, readTextsAsBooleansAndNumbers) {
@@ -149,6 +157,22 @@ TEST(Preferences, thatCannotBeWrittenStayInMemory) {
     EXPECT_TRUE(written.readAll().contains("=12"));
 }
 
+TEST(Preferences, haveTheirRegisteredDefaults) {
+    TestDesktop desktop;
+    Preferences& preferences = desktop.preferences;
+    for (const auto* name : {"depth time in color", "display units", "fill plot", "x minor ticks", "y minor ticks"}) {
+        EXPECT_TRUE(preferences.boolean(QLatin1String(name))) << name;
+        EXPECT_FALSE(preferences.isStored(QLatin1String(name))) << name;
+    }
+    EXPECT_EQ(preferences.integer(QStringLiteral("coloured theme")), 0);
+    EXPECT_EQ(preferences.string(QStringLiteral("stop_interval")), u"3");
+    EXPECT_EQ(preferences.integer(QStringLiteral("stop interval")), 0);
+    EXPECT_EQ(preferences.real(QStringLiteral("alpha fill color")), 0.5);
+    EXPECT_EQ(preferences.color(QStringLiteral("ASC color")), QColor(Qt::yellow));
+    EXPECT_EQ(preferences.color(QStringLiteral("plot color")), QColor(Qt::red));
+    EXPECT_NEAR(preferences.color(QStringLiteral("background color")).redF(), 0.5, 1e-4);
+}
+
 TEST(PickLists, areFilledStoredAndSortedByCharacterCode) {
     TestDesktop desktop;
     PickLists& lists = desktop.pickLists;
@@ -166,12 +190,32 @@ TEST(PickLists, areFilledStoredAndSortedByCharacterCode) {
 
     NextRun next(desktop);
     PickLists filled(next.store);
-    filled.fill();
+    startDesktop(next.store, filled);
     EXPECT_EQ(filled[PickList::tableauDesLieux], sorted);
     filled.remove(PickList::tableauDesLieux, {4, 0, 4, 2, 99, -1});
     EXPECT_EQ(filled[PickList::tableauDesLieux], (QStringList{QStringLiteral("Zoo"), QStringLiteral("abc")}));
     filled.reload(PickList::tableauDesLieux);
     EXPECT_EQ(filled[PickList::tableauDesLieux], sorted);
+}
+
+TEST(PickLists, defaultToWhatIsStoredAndTheActivitiesToTheServices) {
+    TestDesktop desktop;
+    desktop.pickLists.append(PickList::tableauDesPrestations, QStringLiteral("Baptême"));
+    desktop.pickLists.store(PickList::tableauDesPrestations);
+    desktop.pickLists.store(PickList::tableauDesPrestations, QStringLiteral("type materiel"));
+    NextRun next(desktop);
+    PickLists lists(next.store);
+    startDesktop(next.store, lists);
+    const QStringList services{QStringLiteral("Baptême")};
+    EXPECT_EQ(lists[PickList::tableauDesTypesMatos], services);
+    EXPECT_TRUE(lists[PickList::tableauDesActivites].isEmpty());
+    lists.append(PickList::tableauDesPrestations, QStringLiteral("Stage"));
+    lists.store(PickList::tableauDesPrestations);
+    lists.reload(PickList::tableauDesActivites);
+    EXPECT_EQ(lists[PickList::tableauDesActivites], services);
+    next.store.set(QStringLiteral("activite"), QStringList());
+    lists.reload(PickList::tableauDesActivites);
+    EXPECT_TRUE(lists[PickList::tableauDesActivites].isEmpty());
 }
 
 }  // namespace

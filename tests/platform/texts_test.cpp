@@ -21,7 +21,7 @@ using Arguments = std::vector<FormatArgument>;
 using Table = std::map<QString, QString>;
 
 class Texts : public testing::Test {
-protected:
+public:
     ~Texts() override { setTextLanguage(QStringLiteral("en")); }
 };
 

@@ -1,5 +1,7 @@
 #include "support/testdesktop.h"
 
+#include "platform/defaults.h"
+
 #include <gtest/gtest.h>
 
 namespace tavrel {
@@ -27,7 +29,7 @@ TestDesktop::TestDesktop()
     : preferences(folder_.filePath(QStringLiteral("preferences.ini"))),
       pickLists(preferences),
       desktop_{preferences, notifications, pickLists, alerts, clock} {
-    pickLists.fill();
+    startDesktop(preferences, pickLists);
 }
 
 }  // namespace tavrel
