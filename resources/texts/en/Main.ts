@@ -34,6 +34,7 @@
 <message><source>No space left</source><translation>There is not enough space on the disk.</translation></message>
 <message><source>Preferences not saved</source><translation>The preferences could not be saved to “%@”.</translation></message>
 <message><source>Print</source><translation>Print</translation></message>
+<message><source>Printing</source><translation>Printing…</translation></message>
 <message><source>Profile</source><translation>Profile</translation></message>
 <message><source>Rebreather</source><translation>Rebreather</translation></message>
 <message><source>Save</source><translation>Save</translation></message>

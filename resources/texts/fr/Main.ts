@@ -34,6 +34,7 @@
 <message><source>No space left</source><translation>Il n’y a plus assez de place sur le disque.</translation></message>
 <message><source>Preferences not saved</source><translation>Impossible d’enregistrer les préférences dans « %@ ».</translation></message>
 <message><source>Print</source><translation>Imprimer</translation></message>
+<message><source>Printing</source><translation>Impression…</translation></message>
 <message><source>Profile</source><translation>Profil</translation></message>
 <message><source>Rebreather</source><translation>Recycleur</translation></message>
 <message><source>Save</source><translation>Enregistrer</translation></message>

@@ -6,7 +6,9 @@
 #include <QAction>
 #include <QList>
 #include <QMainWindow>
+#include <QMimeData>
 #include <QString>
+#include <QStringList>
 
 namespace tavrel {
 
@@ -35,6 +37,9 @@ public:
     /// Stores what is being edited before the document is saved or closed.
     virtual void commitEditing() {}
 
+    /// Closes the window and the document's further ones without asking anyone.
+    void closeWithDocument();
+
 Q_SIGNALS:
     /// Asked by the title bar's close button; the application answers with the save prompt and closes the document.
     void closeRequested();
@@ -52,7 +57,9 @@ private:
 
     Document& document_;
     bool mayClose_ = false;
-    friend class MyDocumentController;
 };
+
+/// The local files that dragged data names; other addresses are left out.
+QStringList localFiles(const QMimeData& data);
 
 }  // namespace tavrel
