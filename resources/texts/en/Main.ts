@@ -32,6 +32,7 @@
 <message><source>Materiel</source><translation>Equipment</translation></message>
 <message><source>No</source><translation>No</translation></message>
 <message><source>No space left</source><translation>There is not enough space on the disk.</translation></message>
+<message><source>No valid datas</source><translation>The values are not valid.</translation></message>
 <message><source>Preferences not saved</source><translation>The preferences could not be saved to “%@”.</translation></message>
 <message><source>Print</source><translation>Print</translation></message>
 <message><source>Printing</source><translation>Printing…</translation></message>

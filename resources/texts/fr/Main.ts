@@ -32,6 +32,7 @@
 <message><source>Materiel</source><translation>Matériel</translation></message>
 <message><source>No</source><translation>Non</translation></message>
 <message><source>No space left</source><translation>Il n’y a plus assez de place sur le disque.</translation></message>
+<message><source>No valid datas</source><translation>Les valeurs ne sont pas valables.</translation></message>
 <message><source>Preferences not saved</source><translation>Impossible d’enregistrer les préférences dans « %@ ».</translation></message>
 <message><source>Print</source><translation>Imprimer</translation></message>
 <message><source>Printing</source><translation>Impression…</translation></message>

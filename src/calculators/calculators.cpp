@@ -1,0 +1,78 @@
+#include "calculators/calculators.h"
+
+#include <array>
+
+namespace tavrel {
+
+namespace {
+
+using enum CalculatorId;
+
+constexpr std::array<Calculator, calculatorCount> table{{
+    {ProfMax, CalculatorGroup::Nitrox, TextKey("Nitrox", "Maximum operating depth"), "displayProfMaxWindow",
+     "profMaxNitroxController", "Nitrox Prof Max", "mod"},
+    {BestMix, CalculatorGroup::Nitrox, TextKey("Nitrox", "Best mix for a depth"), "displayBestMixWindow",
+     "bestMixNitroxController", "Nitrox Best Mix", "best-mix"},
+    {EquivalentDepth, CalculatorGroup::Nitrox, TextKey("Nitrox", "Equivalent air depth"),
+     "displayEquivalentDepthWindow", "equivalentDepthNitroxController", "Nitrox Equivalent Depth", "ead"},
+    {OxygenWindow, CalculatorGroup::Nitrox, TextKey("Nitrox", "Depth range of a mix"), "displayOxygenWindow",
+     "oxygenWindowNitroxController", "Nitrox Oxygen Window", "oxygen-window"},
+    {BlendNitrox, CalculatorGroup::Nitrox, TextKey("Nitrox", "Partial pressure blending"), "displayBlendNitroxWindow",
+     "blendNitroxController", "Blend Nitrox", "blend"},
+    {TrimixEadEnd, CalculatorGroup::Trimix, TextKey("Trimix", "Equivalent depths"), "displayTrimixEAD_ENDWindow",
+     "trimixEAD_ENDController", "Trimix", "trimix-ead-end"},
+    {TrimixProfMin, CalculatorGroup::Trimix, TextKey("Trimix", "Minimum depth of a mix"), "displayTrimixProfMinWindow",
+     "trimixProfMinController", "Trimix Prof Min", "trimix-min-depth"},
+    {BestTrimix, CalculatorGroup::Trimix, TextKey("Trimix", "Best trimix for a depth"), "displayBestTrimix",
+     "bestTrimixController", "Best Trimix", "best-trimix"},
+    {SodaTime, CalculatorGroup::Rebreather, TextKey("Rebreather", "Absorbent endurance"), "displaySodaTimeWindow",
+     "sodaTimeController", "Soda Time", "soda-time"},
+    {BreathedFraction, CalculatorGroup::Rebreather, TextKey("Rebreather", "SCR breathed fraction"),
+     "displaySCRBreathedFracO2Window", "SCRBreathedFracO2Controller", "SCR Breathed Frac O2", "scr-fraction"},
+    {IdealFlow, CalculatorGroup::Rebreather, TextKey("Rebreather", "SCR ideal flow"), "displaySCRIdealFlowWindow",
+     "SCRIdealFlowController", "SCR Flow Calc", "scr-flow"},
+    {Conversions, CalculatorGroup::Conversions, TextKey("Calculators", "Unit conversions"), "displayConversionsWindow",
+     "physiqueController", "Physique", "convert"},
+    {Gps, CalculatorGroup::Conversions, TextKey("Calculators", "GPS datum conversion"), "displayConversionsGPSWindow",
+     "gpsController", "Gps", "gps"},
+}};
+
+constexpr bool everyCalculatorInItsPlace() {
+    for (std::size_t place = 0; place < table.size(); ++place) {
+        if (table[place].id != static_cast<CalculatorId>(place)) {
+            return false;
+        }
+    }
+    return true;
+}
+static_assert(everyCalculatorInItsPlace());
+
+}  // namespace
+
+std::span<const Calculator> calculators() {
+    return table;
+}
+
+const Calculator& calculator(CalculatorId id) {
+    return table[static_cast<std::size_t>(id)];
+}
+
+TextKey calculatorGroupTitle(CalculatorGroup group) {
+    switch (group) {
+        case CalculatorGroup::Nitrox:
+            return TextKey("Calculators", "Nitrox");
+        case CalculatorGroup::Trimix:
+            return TextKey("Calculators", "Trimix");
+        case CalculatorGroup::Rebreather:
+            return TextKey("Calculators", "Rebreather");
+        case CalculatorGroup::Conversions:
+            break;
+    }
+    return TextKey("Calculators", "Conversions");
+}
+
+QString withoutMnemonic(QString label) {
+    return label.remove(u'&');
+}
+
+}  // namespace tavrel

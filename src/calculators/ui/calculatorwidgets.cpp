@@ -1,0 +1,79 @@
+#include "calculators/ui/calculatorwidgets.h"
+
+#include "platform/texts.h"
+
+#include <QClipboard>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace tavrel {
+
+namespace {
+
+constexpr double resultFontScale = 1.35;
+
+}  // namespace
+
+QLineEdit* newNumberField(const char* name, QWidget* parent, int digits) {
+    auto* field = new QLineEdit(parent);
+    field->setObjectName(QLatin1StringView(name));
+    field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    // One more digit's width for the frame.
+    field->setFixedWidth(field->fontMetrics().horizontalAdvance(u'0') * (digits + 1));
+    return field;
+}
+
+void addFieldRow(QGridLayout* grid, const QString& label, QWidget* field, const QString& unit,
+                 Qt::Alignment alignment) {
+    const int row = grid->rowCount();
+    auto* caption = new QLabel(label, field->parentWidget());
+    caption->setBuddy(field);
+    auto* unitLabel = new QLabel(unit, field->parentWidget());
+    grid->addWidget(caption, row, 0);
+    grid->addWidget(field, row, 1, alignment);
+    grid->addWidget(unitLabel, row, 2);
+    grid->setColumnStretch(0, 1);
+}
+
+QLabel* newResultLabel(const char* name, QWidget* parent) {
+    auto* label = new QLabel(parent);
+    label->setObjectName(QLatin1StringView(name));
+    label->setAccessibleName(text(TextKey("Calculators", "Result")));
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    QFont font = label->font();
+    font.setPointSizeF(font.pointSizeF() * resultFontScale);
+    font.setBold(true);
+    label->setFont(font);
+    return label;
+}
+
+QLabel* newFormulaLabel(const QString& formula, QWidget* parent) {
+    auto* label = new QLabel(formula, parent);
+    label->setAccessibleName(text(TextKey("Calculators", "Formula")));
+    label->setTextFormat(Qt::PlainText);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+QPushButton* newCopyButton(const std::function<QString()>& copied, QWidget* parent) {
+    auto* button = new QPushButton(text(TextKey("Calculators", "Copy")), parent);
+    button->setToolTip(text(TextKey("Calculators", "Copy hint")));
+    button->setAutoDefault(false);
+    QObject::connect(button, &QPushButton::clicked, button,
+                     [copied] { QGuiApplication::clipboard()->setText(copied()); });
+    return button;
+}
+
+void bringToFront(QWidget* window) {
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+}  // namespace tavrel

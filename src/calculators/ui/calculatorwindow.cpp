@@ -1,0 +1,193 @@
+#include "calculators/ui/calculatorwindow.h"
+
+#include "calculators/nitrox.h"
+#include "calculators/ui/calculatorwidgets.h"
+#include "platform/numbers.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QComboBox>
+#include <QEvent>
+#include <QGroupBox>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace tavrel {
+
+namespace {
+
+const QString noFigure = QStringLiteral("–");
+
+// Red that reads on the palette's base: the plain one is too dark on dark and too glaring on white.
+QColor rowRed(const QPalette& palette) {
+    return palette.color(QPalette::Base).lightnessF() < 0.5F ? QColor(255, 112, 112) : QColor(200, 0, 0);
+}
+
+QComboBox* newPpO2Menu(const char* name, QWidget* parent) {
+    auto* menu = new QComboBox(parent);
+    menu->setObjectName(QLatin1StringView(name));
+    for (const double ppO2 : ppO2Menu) {
+        menu->addItem(ppO2Title(ppO2));
+    }
+    menu->setCurrentIndex(defaultPpO2Index);
+    return menu;
+}
+
+}  // namespace
+
+CalculatorWindow::CalculatorWindow(CalculatorId id, QWidget* parent) : QDialog(parent), page_(*calculatorPage(id)) {
+    rowColours_.fill(RowColour::Black);
+    setObjectName(QLatin1StringView(calculator(id).windowLayout));
+    setWindowTitle(text(calculator(id).title));
+
+    auto* button = new QPushButton(text(TextKey("Calculators", "Calculate")), this);
+    button->setDefault(true);
+    connect(button, &QPushButton::clicked, this, [this] { calculate(page_.id); });
+
+    auto* left = new QVBoxLayout;
+    left->addWidget(newInputs());
+    left->addWidget(button, 0, Qt::AlignRight);
+    left->addWidget(newResult());
+    left->addWidget(newFormulaLabel(formulaLine(page_), this));
+    left->addStretch();
+    auto* layout = new QHBoxLayout(this);
+    layout->addLayout(left, 1);
+    if (page_.rowFieldLetter) {
+        layout->addWidget(newTable());
+    }
+
+    auto* copy = new QAction(this);
+    copy->setShortcut(QKeySequence::Copy);
+    connect(copy, &QAction::triggered, this, [this] { QGuiApplication::clipboard()->setText(resultText()); });
+    addAction(copy);
+}
+
+QGroupBox* CalculatorWindow::newInputs() {
+    auto* group = new QGroupBox(text(TextKey("Calculators", "Inputs")), this);
+    auto* grid = new QGridLayout(group);
+    for (const CalculatorInput& input : page_.inputs) {
+        QWidget* field = nullptr;
+        if (input.kind == CalculatorInputKind::PpO2Menu) {
+            field = newPpO2Menu(input.field, group);
+        } else {
+            field = newNumberField(input.field, group);
+        }
+        addFieldRow(grid, text(input.label), field, QLatin1StringView(input.unit));
+    }
+    return group;
+}
+
+QGroupBox* CalculatorWindow::newResult() {
+    auto* group = new QGroupBox(text(TextKey("Calculators", "Result")), this);
+    auto* grid = new QGridLayout(group);
+    grid->setColumnStretch(0, 1);
+    QLabel* label = newResultLabel(page_.resultField, group);
+    grid->addWidget(label, 0, 0);
+    // Room for a result of the usual length, so that the window does not grow under the user's hand.
+    const std::vector<double> ones(page_.inputs.size(), 1.0);
+    const QSize usual = label->fontMetrics().size(0, page_.evaluate(ones).text);
+    grid->addItem(new QSpacerItem(usual.width(), usual.height()), 0, 0);
+    grid->addWidget(newCopyButton([this] { return resultText(); }, group), 0, 1, Qt::AlignBottom);
+    return group;
+}
+
+QGroupBox* CalculatorWindow::newTable() {
+    auto* group = new QGroupBox(text(TextKey("Calculators", "By consumption")), this);
+    auto* paper = new QFrame(group);
+    paper->setFrameShape(QFrame::StyledPanel);
+    paper->setBackgroundRole(QPalette::Base);
+    paper->setAutoFillBackground(true);
+    auto* rows = new QVBoxLayout(paper);
+    for (std::size_t row = 0; row < tableConsumptions.size(); ++row) {
+        auto* label = new QLabel(noFigure, paper);
+        label->setObjectName(rowField(page_, row));
+        label->setForegroundRole(QPalette::Text);
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        rows->addWidget(label);
+    }
+    auto* layout = new QVBoxLayout(group);
+    layout->addWidget(paper, 1);
+    layout->addWidget(new QLabel(rowLegend(page_), group));
+    return group;
+}
+
+QString CalculatorWindow::resultText() const {
+    QStringList lines{findChild<QLabel*>(QLatin1StringView(page_.resultField))->text()};
+    if (page_.rowFieldLetter && !lines.first().isEmpty()) {
+        for (std::size_t row = 0; row < tableConsumptions.size(); ++row) {
+            lines << findChild<QLabel*>(rowField(page_, row))->text();
+        }
+    }
+    return lines.join(u'\n');
+}
+
+void CalculatorWindow::calculate(CalculatorId id) {
+    const CalculatorPage& page = *calculatorPage(id);
+    std::vector<double> values;
+    for (const CalculatorInput& input : page.inputs) {
+        values.push_back(inputValue(input));
+    }
+    const CalculatorResult result = page.evaluate(values);
+    if (auto* label = findChild<QLabel*>(QLatin1StringView(page.resultField))) {
+        label->setText(result.text);
+    }
+    showRows(page, result.rows);
+}
+
+double CalculatorWindow::inputValue(const CalculatorInput& input) const {
+    if (input.kind == CalculatorInputKind::PpO2Menu) {
+        const auto* menu = findChild<QComboBox*>(QLatin1StringView(input.field));
+        return ppO2OfMenuIndex(menu ? menu->currentIndex() : 0);
+    }
+    const auto* field = findChild<QLineEdit*>(QLatin1StringView(input.field));
+    return field ? doubleValue(field->text()) : 0;
+}
+
+void CalculatorWindow::showRows(const CalculatorPage& page, const std::vector<CalculatorRow>& rows) {
+    if (&page != &page_) {
+        return;
+    }
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        findChild<QLabel*>(rowField(page, row))->setText(rows[row].text);
+        if (rows[row].colour != RowColour::Unchanged) {
+            rowColours_[row] = rows[row].colour;
+        }
+    }
+    colourRows();
+}
+
+void CalculatorWindow::colourRows() {
+    if (!page_.rowFieldLetter) {
+        return;
+    }
+    for (std::size_t row = 0; row < rowColours_.size(); ++row) {
+        auto* label = findChild<QLabel*>(rowField(page_, row));
+        if (!label) {
+            return;
+        }
+        // Black is the palette's text, so that it reads on a dark theme; red rows are bold too, for those who do not
+        // see it.
+        const bool red = rowColours_[row] == RowColour::Red;
+        QPalette colours;
+        QFont font;
+        if (red) {
+            colours.setColor(QPalette::Text, rowRed(palette()));
+            font.setBold(true);
+        }
+        label->setPalette(colours);
+        label->setFont(font);
+    }
+}
+
+void CalculatorWindow::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        colourRows();
+    }
+}
+
+}  // namespace tavrel

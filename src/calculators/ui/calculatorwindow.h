@@ -1,0 +1,43 @@
+#pragma once
+
+#include "calculators/calculatorpage.h"
+
+#include <QDialog>
+
+#include <array>
+
+class QGridLayout;
+class QGroupBox;
+
+namespace tavrel {
+
+/// The window of a calculator page: its inputs, the button that calculates (also on Enter), the result, the table where
+/// the page has one, and the formula. The controls bear the field names of the page as object names.
+class CalculatorWindow : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit CalculatorWindow(CalculatorId id, QWidget* parent = nullptr);
+
+    /// The result as shown, and the table's rows below it.
+    QString resultText() const;
+
+protected:
+    /// Calculates a page from the fields that this window has; one that it lacks reads as empty.
+    void calculate(CalculatorId id);
+    void changeEvent(QEvent* event) override;
+
+private:
+    QGroupBox* newInputs();
+    QGroupBox* newResult();
+    QGroupBox* newTable();
+    double inputValue(const CalculatorInput& input) const;
+    void showRows(const CalculatorPage& page, const std::vector<CalculatorRow>& rows);
+    void colourRows();
+
+    const CalculatorPage& page_;
+    /// What each row shows now; Unchanged never stands here.
+    std::array<RowColour, tableConsumptions.size()> rowColours_;
+};
+
+}  // namespace tavrel

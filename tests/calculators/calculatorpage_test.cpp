@@ -1,0 +1,53 @@
+#include "calculators/calculatorpage.h"
+
+#include "support/printing.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace tavrel {
+
+namespace {
+
+class CalculatorPages : public testing::Test {
+protected:
+    ~CalculatorPages() override { setTextLanguage(QStringLiteral("en")); }
+};
+
+TEST_F(CalculatorPages, showEveryResultInEveryLanguage) {
+    const double extremes[] = {
+        0, 1, 16, -5, 1e300, std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()};
+    for (const auto* language : {"en", "fr"}) {
+        setTextLanguage(QLatin1StringView(language));
+        for (const CalculatorPage& page : calculatorPages()) {
+            const auto where = std::string(language) + ' ' + calculator(page.id).command;
+            EXPECT_FALSE(formulaLine(page).contains(u"error")) << where;
+            EXPECT_FALSE(rowLegend(page).contains(u"error")) << where;
+            for (const double value : extremes) {
+                const std::vector<double> values(page.inputs.size(), value);
+                const CalculatorResult result = page.evaluate(values);
+                EXPECT_FALSE(result.text.isEmpty() || result.text.contains(u"error")) << where << ' ' << value;
+                EXPECT_EQ(result.rows.size(), page.rowFieldLetter ? 11U : 0U) << where;
+                for (const CalculatorRow& row : result.rows) {
+                    EXPECT_FALSE(row.text.contains(u"error")) << where;
+                }
+            }
+        }
+    }
+}
+
+TEST_F(CalculatorPages, printFiguresAsComputed) {
+    const auto shown = [](CalculatorId id, std::vector<double> in) { return calculatorPage(id)->evaluate(in).text; };
+    EXPECT_EQ(shown(CalculatorId::ProfMax, {32, 1.4}), u"MOD : 33.8 m");
+    EXPECT_EQ(shown(CalculatorId::ProfMax, {0, 1.4}), u"MOD : inf m");
+    EXPECT_EQ(shown(CalculatorId::EquivalentDepth, {40, 0}), u"EAD : -2.4 m");
+    EXPECT_TRUE(shown(CalculatorId::BlendNitrox, {0, 0, 0, 0}).contains(u"nan"));
+    EXPECT_EQ(shown(CalculatorId::TrimixProfMin, {17}), text("Main", "No valid datas"));
+    setTextLanguage(QStringLiteral("fr"));
+    EXPECT_EQ(shown(CalculatorId::BestTrimix, {60, 30, 1.4}), u"Meilleur trimix : 20.0 % O₂, 34.9 % He");
+}
+
+}  // namespace
+
+}  // namespace tavrel

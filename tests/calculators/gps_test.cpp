@@ -1,0 +1,111 @@
+#include "calculators/gps.h"
+
+#include "calculators/gpsreport.h"
+#include "support/printing.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <numbers>
+
+namespace tavrel {
+
+namespace {
+
+constexpr double degree = std::numbers::pi / 180;
+constexpr double metresPerDegree = 111'320;
+
+/// ED50 to WGS84 by the standard Molodensky formulas with the published mean shift (-87, -98, -121) and the differences
+/// of the ellipsoids: another way to the same place, good to a metre.
+GeographicPosition molodensky(const GeographicPosition& ed50) {
+    const double a = 6378388, f = 1 / 297.0, da = -251, df = -0.000014192702;
+    const double dx = -87, dy = -98, dz = -121, e2 = 2 * f - f * f;
+    const double sinLat = std::sin(ed50.latitude * degree), cosLat = std::cos(ed50.latitude * degree);
+    const double sinLng = std::sin(ed50.longitude * degree), cosLng = std::cos(ed50.longitude * degree);
+    const double root = std::sqrt(1 - e2 * sinLat * sinLat);
+    const double n = a / root, m = a * (1 - e2) / (root * root * root);
+    const double north = -dx * sinLat * cosLng - dy * sinLat * sinLng + dz * cosLat +
+                         da * n * e2 * sinLat * cosLat / a + df * (m / (1 - f) + n * (1 - f)) * sinLat * cosLat;
+    const double up =
+        dx * cosLat * cosLng + dy * cosLat * sinLng + dz * sinLat - da * a / n + df * (1 - f) * n * sinLat * sinLat;
+    return {ed50.longitude + (-dx * sinLng + dy * cosLng) / (n * cosLat) / degree, ed50.latitude + north / m / degree,
+            ed50.altitude + up};
+}
+
+double horizontalMetres(const GeographicPosition& a, const GeographicPosition& b) {
+    return std::hypot((a.longitude - b.longitude) * std::cos(a.latitude * degree), a.latitude - b.latitude) *
+           metresPerDegree;
+}
+
+TEST(Gps, shiftsByThePublishedParameters) {
+    const GeographicPosition places[] = {
+        {-4.49, 48.38, 30}, {2.35, 48.85, 35}, {4.3, 50.8, 0}, {7.3, 43.7, 0}, {-6.2, 36.5, 12}};
+    for (const GeographicPosition& ed50 : places) {
+        const GeographicPosition expected = molodensky(ed50);
+        const auto wgs84 = convertSexagesimal({ed50.longitude, 0, 0}, {ed50.latitude, 0, 0}, ed50.altitude).wgs84;
+        // The seven parameters are not the mean's: they leave it by a sixth of the whole shift.
+        EXPECT_LT(horizontalMetres(wgs84, expected), 26) << ed50.latitude;
+        EXPECT_NEAR(wgs84.altitude, expected.altitude, 40) << ed50.latitude;
+        const auto decimal = convertDecimal(DatumDirection::Ed50ToWgs84, ed50).position;
+        // One radius for all latitudes costs up to two metres sideways for every degree.
+        EXPECT_LT(horizontalMetres(decimal, expected), 1 + std::abs(ed50.latitude - 50.8) * 2) << ed50.latitude;
+    }
+    const GeographicPosition radiusHolds{4.3, 50.80024, 0};
+    EXPECT_NEAR(convertDecimal(DatumDirection::Ed50ToWgs84, radiusHolds).position.altitude,
+                molodensky(radiusHolds).altitude, 1);
+}
+
+TEST(Gps, closedFormAgreesWithAnIteration) {
+    // The same seven parameters, taken back to angles by an iteration until it stood still.
+    const auto nice = convertSexagesimal({7.3, 0, 0}, {43.7, 0, 0}, 0).wgs84;
+    EXPECT_NEAR(nice.longitude, 7.29923088515193, 1e-11);
+    EXPECT_NEAR(nice.latitude, 43.69897968948247, 1e-11);
+    EXPECT_NEAR(nice.altitude, 60.816405612, 1e-6);
+}
+
+TEST(Gps, theWayThereAndBackIsCloseButNotClosed) {
+    const GeographicPosition start{-3.25, 47.5, 10};
+    const auto ed50 = convertDecimal(DatumDirection::Wgs84ToEd50, start).position;
+    const auto back = convertDecimal(DatumDirection::Ed50ToWgs84, ed50).position;
+    EXPECT_GT(horizontalMetres(start, ed50), 100);
+    EXPECT_LT(horizontalMetres(start, back), 25);
+    EXPECT_NE(start.latitude, back.latitude);
+}
+
+TEST(Gps, typedPartsAreAddedAndNegativeResultsAreFloored) {
+    EXPECT_EQ((SexagesimalAngle{-1, 30, 0}.decimal()), -0.5);
+    EXPECT_EQ(sexagesimalText(-1.5), u"WGS84 -2° 30' 0.000''");
+    EXPECT_EQ(sexagesimalText(48.8361111), u"WGS84 48° 50' 10.000''");
+    EXPECT_EQ(sexagesimalText(std::nan("")), u"WGS84 nan° nan' nan''");
+}
+
+TEST(Gps, reportSaysEveryStepInThreeRoles) {
+    const auto report = gpsReport(convertSexagesimal({-1, 30, 0}, {48, 50, 12.5}, 30));
+    const QStringList lines = reportLines(report);
+    ASSERT_EQ(lines.size(), 36);
+    EXPECT_EQ(lines[0], u"----- ED50 -----");
+    EXPECT_EQ(lines[2], u"  longitude : -1 ° 30 ' 0.000 ''");
+    EXPECT_EQ(lines[3], u"  altitude : 30.00 m");
+    EXPECT_EQ(lines[4], u"");
+    EXPECT_EQ(lines[5], u"  lat (deg.) : 48.8368055556");
+    EXPECT_EQ(report.front().role, ReportRole::Title);
+    EXPECT_EQ(report[1].role, ReportRole::Label);
+    EXPECT_EQ(report[2].role, ReportRole::Value);
+    EXPECT_TRUE(report.front().text.startsWith(u'\r'));
+}
+
+TEST(Gps, decimalLogHasALinePerStep) {
+    const auto result = convertDecimal(DatumDirection::Wgs84ToEd50, {2.5, 48, 10});
+    ASSERT_EQ(result.log.size(), 18);
+    EXPECT_EQ(result.log[0], u"d2r = 0.017453292519943");
+    EXPECT_EQ(result.log[2], u"lng WGS -> ED = 2.500000");
+    EXPECT_EQ(result.log[7], u"nin = 6391302.701251");
+    EXPECT_TRUE(result.log[12].startsWith(u"zs = ") && result.log[12].endsWith(u"\r\r"));
+    EXPECT_EQ(result.log[13], u"nout = 6378388.000000");
+    EXPECT_EQ(convertDecimal(DatumDirection::Ed50ToWgs84, {}).log[4], u"alt ED -> WGS = 0.000000");
+    EXPECT_TRUE(outputOf(result).altitude.startsWith(u"Altitude : "));
+}
+
+}  // namespace
+
+}  // namespace tavrel
