@@ -1,0 +1,320 @@
+#include "cli/calccommand.h"
+
+#include "calculators/calculatorpage.h"
+#include "calculators/conversions.h"
+#include "calculators/gps.h"
+#include "calculators/gpsreport.h"
+#include "calculators/nitrox.h"
+#include "cli/jsonwriter.h"
+#include "platform/numbers.h"
+
+#include <CLI/CLI.hpp>
+#include <QRegularExpression>
+
+#include <map>
+#include <memory>
+#include <ostream>
+
+namespace tavrel {
+
+namespace {
+
+QString fromArgument(const std::string& argument) {
+    return QString::fromLocal8Bit(argument);
+}
+
+void print(Console& console, const QString& text) {
+    console.out << text.toStdString() << '\n';
+}
+void print(Console& console, const JsonWriter& json) {
+    console.out << json.text() << '\n';
+}
+
+CLI::App* addCalculator(CLI::App& calc, CalculatorId id) {
+    return calc.add_subcommand(calculator(id).command, text(calculator(id).title).toStdString());
+}
+
+void addJsonFlag(CLI::App* command, bool& json) {
+    command->add_flag("--json", json, "One JSON object, unrounded");
+}
+
+// The pages with a table of inputs.
+
+QString colourName(RowColour colour) {
+    switch (colour) {
+        case RowColour::Red:
+            return QStringLiteral("red");
+        case RowColour::Black:
+            return QStringLiteral("black");
+        case RowColour::Unchanged:
+            break;
+    }
+    return QStringLiteral("unchanged");
+}
+
+JsonWriter jsonOf(const CalculatorPage& page, const CalculatorResult& result) {
+    JsonWriter json;
+    json.beginObject();
+    for (const CalculatorFigure& figure : result.figures) {
+        json.key(QString::fromLatin1(figure.key));
+        std::visit([&](auto value) { json.value(value); }, figure.value);
+    }
+    if (page.rowFieldLetter) {
+        json.key(u"rows");
+        json.beginArray();
+        for (const CalculatorRow& row : result.rows) {
+            json.beginObject();
+            json.member(u"consumption", row.consumption);
+            json.member(u"value", row.value);
+            json.member(u"colour", colourName(row.colour));
+            json.endObject();
+        }
+        json.endArray();
+    }
+    json.endObject();
+    return json;
+}
+
+/// The partial pressures of the menu, for help and for messages.
+std::string ppO2Choices() {
+    QStringList titles;
+    for (const double ppO2 : ppO2Menu) {
+        titles << ppO2Title(ppO2);
+    }
+    return titles.join(QStringLiteral(", ")).toStdString();
+}
+
+// A menu takes its own items only: a depth for another partial pressure than the one asked for would be dangerous.
+std::string checkPpO2(const std::string& argument) {
+    return ppO2MenuIndex(doubleValue(fromArgument(argument))) ? std::string() : "not one of " + ppO2Choices();
+}
+
+double inputValue(const CalculatorInput& input, const std::string& argument) {
+    const double value = doubleValue(fromArgument(argument));
+    if (input.kind == CalculatorInputKind::PpO2Menu) {
+        return ppO2OfMenuIndex(ppO2MenuIndex(value).value_or(-1));
+    }
+    return value;
+}
+
+void addPage(CLI::App& calc, const CalculatorPage& page, Console& console) {
+    struct Arguments {
+        std::vector<std::string> inputs;
+        bool json = false;
+    };
+    auto arguments = std::make_shared<Arguments>();
+    arguments->inputs.resize(page.inputs.size());
+    CLI::App* command = addCalculator(calc, page.id);
+    for (std::size_t position = 0; position < page.inputs.size(); ++position) {
+        const CalculatorInput& input = page.inputs[position];
+        std::string help = withoutMnemonic(text(input.label)).toStdString() + ", " + input.unit;
+        const bool menu = input.kind == CalculatorInputKind::PpO2Menu;
+        if (menu) {
+            help += ": " + ppO2Choices() + " [" + ppO2Title(ppO2Menu[defaultPpO2Index]).toStdString() + "]";
+        }
+        CLI::Option* option = command->add_option("--" + std::string(input.option), arguments->inputs[position], help)
+                                  ->type_name("NUMBER");
+        if (menu) {
+            option->check(CLI::Validator(checkPpO2, ""));
+        }
+    }
+    addJsonFlag(command, arguments->json);
+    command->callback([&page, &console, arguments] {
+        std::vector<double> values;
+        for (std::size_t position = 0; position < page.inputs.size(); ++position) {
+            values.push_back(inputValue(page.inputs[position], arguments->inputs[position]));
+        }
+        const CalculatorResult result = page.evaluate(values);
+        if (arguments->json) {
+            print(console, jsonOf(page, result));
+            return;
+        }
+        print(console, result.text);
+        for (const CalculatorRow& row : result.rows) {
+            print(console, row.text);
+        }
+    });
+}
+
+// Unit conversions.
+
+void addConversions(CLI::App& calc, Console& console) {
+    struct Arguments {
+        std::string from;
+        std::string value;
+        bool json = false;
+    };
+    auto arguments = std::make_shared<Arguments>();
+    CLI::App* command = addCalculator(calc, CalculatorId::Conversions);
+    QStringList names;
+    for (const ConversionTab& tab : conversionTabs()) {
+        for (const ConversionUnit& unit : tab.units) {
+            names << QLatin1StringView(unit.name);
+        }
+    }
+    const std::string known = names.join(QStringLiteral(", ")).toStdString();
+    const auto check = [known](const std::string& argument) {
+        return conversionUnit(fromArgument(argument)).tab ? std::string() : "not one of " + known;
+    };
+    command->add_option("--from", arguments->from, "Unit of the value: " + known)
+        ->type_name("")
+        ->required()
+        ->check(CLI::Validator(check, ""));
+    command->add_option("--value", arguments->value, "The value")->type_name("");
+    addJsonFlag(command, arguments->json);
+    command->callback([&console, arguments] {
+        const FoundUnit source = conversionUnit(fromArgument(arguments->from));
+        const std::span<const ConversionUnit> units = source.tab->units;
+        const std::vector<double> values =
+            source.tab->convert(units[source.position].tag, doubleValue(fromArgument(arguments->value)));
+        JsonWriter json;
+        json.beginObject();
+        for (std::size_t unit = 0; unit < units.size(); ++unit) {
+            json.member(QString::fromLatin1(units[unit].name), values[unit]);
+        }
+        json.endObject();
+        if (arguments->json) {
+            print(console, json);
+            return;
+        }
+        for (std::size_t unit = 0; unit < units.size(); ++unit) {
+            print(console, shortestText(values[unit]) + u' ' + QString::fromUtf8(units[unit].symbol));
+        }
+    });
+}
+
+// Positions.
+
+JsonWriter jsonOf(const GeographicPosition& position, const GpsOutput& output, const QStringList* report) {
+    JsonWriter json;
+    json.beginObject();
+    json.member(u"longitude", position.longitude);
+    json.member(u"latitude", position.latitude);
+    json.member(u"altitude", position.altitude);
+    json.key(u"text");
+    json.beginArray();
+    for (const QString& field : {output.longitude, output.latitude, output.altitude}) {
+        json.value(field);
+    }
+    json.endArray();
+    if (report) {
+        json.key(u"report");
+        json.beginArray();
+        for (const QString& line : *report) {
+            json.value(line);
+        }
+        json.endArray();
+    }
+    json.endObject();
+    return json;
+}
+
+const QRegularExpression& blanks() {
+    static const QRegularExpression expression(QStringLiteral("\\s+"));
+    return expression;
+}
+
+// "D M S": a part left out is an empty field, a fourth has no field to go to.
+std::string checkSexagesimal(const std::string& argument) {
+    return fromArgument(argument).split(blanks(), Qt::SkipEmptyParts).size() > 3
+               ? "\"" + argument + "\" is not degrees, minutes and seconds"
+               : std::string();
+}
+
+SexagesimalAngle angleOf(const QString& argument) {
+    QStringList parts = argument.split(blanks(), Qt::SkipEmptyParts);
+    parts.resize(3);
+    return {doubleValue(parts[0]), doubleValue(parts[1]), doubleValue(parts[2])};
+}
+
+struct GpsArguments {
+    bool sexagesimal = false;
+    std::string direction;
+    std::string longitude;
+    std::string latitude;
+    std::string altitude;
+    bool json = false;
+    bool log = false;
+};
+
+constexpr const char* towardsEd50 = "wgs84-ed50";
+constexpr const char* towardsWgs84 = "ed50-wgs84";
+
+void runSexagesimal(const GpsArguments& arguments, Console& console) {
+    for (const std::string& angle : {arguments.longitude, arguments.latitude}) {
+        if (const std::string wrong = checkSexagesimal(angle); !wrong.empty()) {
+            throw CLI::ValidationError("gps", wrong);
+        }
+    }
+    const SexagesimalConversion conversion =
+        convertSexagesimal(angleOf(fromArgument(arguments.longitude)), angleOf(fromArgument(arguments.latitude)),
+                           doubleValue(fromArgument(arguments.altitude)));
+    const GpsOutput output = outputOf(conversion);
+    const QStringList report = reportLines(gpsReport(conversion));
+    if (arguments.json) {
+        print(console, jsonOf(conversion.wgs84, output, &report));
+        return;
+    }
+    for (const QString& line : {output.longitude, output.latitude, output.altitude, report.join(u'\n')}) {
+        print(console, line);
+    }
+}
+
+void runDecimal(const GpsArguments& arguments, Console& console) {
+    const auto direction =
+        arguments.direction == towardsEd50 ? DatumDirection::Wgs84ToEd50 : DatumDirection::Ed50ToWgs84;
+    const DecimalConversion conversion = convertDecimal(
+        direction, {doubleValue(fromArgument(arguments.longitude)), doubleValue(fromArgument(arguments.latitude)),
+                    doubleValue(fromArgument(arguments.altitude))});
+    if (arguments.log) {
+        for (const QString& line : conversion.log) {
+            console.error << line.toStdString() << '\n';
+        }
+    }
+    const GpsOutput output = outputOf(conversion);
+    if (arguments.json) {
+        print(console, jsonOf(conversion.position, output, nullptr));
+        return;
+    }
+    for (const QString& line : {output.longitude, output.latitude, output.altitude}) {
+        print(console, line);
+    }
+}
+
+void addGps(CLI::App& calc, Console& console) {
+    auto arguments = std::make_shared<GpsArguments>();
+    CLI::App* command = addCalculator(calc, CalculatorId::Gps);
+    CLI::Option* sexagesimal = command->add_flag("--sexagesimal", arguments->sexagesimal,
+                                                 "ED50 to WGS84 from \"degrees minutes seconds\", with a report");
+    CLI::Option* direction =
+        command->add_option("--direction", arguments->direction, "Decimal degrees: ed50-wgs84 (default) or wgs84-ed50")
+            ->type_name("")
+            ->check(CLI::IsMember({towardsWgs84, towardsEd50}));
+    command->add_option("--lon", arguments->longitude, "Longitude, positive to the east")->type_name("");
+    command->add_option("--lat", arguments->latitude, "Latitude, positive to the north")->type_name("");
+    command->add_option("--alt", arguments->altitude, "Height above the ellipsoid, m")->type_name("");
+    CLI::Option* log = command->add_flag("--log", arguments->log, "The decimal converter's steps on standard error");
+    sexagesimal->excludes(direction, log);
+    addJsonFlag(command, arguments->json);
+    command->callback([&console, arguments] {
+        if (arguments->sexagesimal) {
+            runSexagesimal(*arguments, console);
+        } else {
+            runDecimal(*arguments, console);
+        }
+    });
+}
+
+}  // namespace
+
+void addCalcCommand(CLI::App& app, Console& console) {
+    CLI::App* calc = app.add_subcommand("calc", "Diving calculators");
+    calc->require_subcommand(1);
+    for (const CalculatorPage& page : calculatorPages()) {
+        addPage(*calc, page, console);
+    }
+    addConversions(*calc, console);
+    addGps(*calc, console);
+}
+
+}  // namespace tavrel
