@@ -44,12 +44,12 @@ CalculatorWindow::CalculatorWindow(CalculatorId id, QWidget* parent) : QDialog(p
     setObjectName(QLatin1StringView(calculator(id).windowLayout));
     setWindowTitle(text(calculator(id).title));
 
+    // In the order of the tab key.
+    auto* left = new QVBoxLayout;
+    left->addWidget(newInputs());
     auto* button = new QPushButton(text(TextKey("Calculators", "Calculate")), this);
     button->setDefault(true);
     connect(button, &QPushButton::clicked, this, [this] { calculate(page_.id); });
-
-    auto* left = new QVBoxLayout;
-    left->addWidget(newInputs());
     left->addWidget(button, 0, Qt::AlignRight);
     left->addWidget(newResult());
     left->addWidget(newFormulaLabel(formulaLine(page_), this));
@@ -179,6 +179,7 @@ void CalculatorWindow::colourRows() {
             font.setBold(true);
         }
         label->setPalette(colours);
+        label->setAccessibleDescription(red ? rowLegend(page_) : QString());
         label->setFont(font);
     }
 }
