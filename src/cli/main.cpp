@@ -5,9 +5,11 @@
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
 
+#include <cstdio>
+#include <exception>
 #include <iostream>
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv) try {
     QCoreApplication application(argc, argv);
     tavrel::setTextLanguage();
     CLI::App app("Tavrel on the command line: the documents and calculators of the divers' application", "tavrel-cli");
@@ -16,4 +18,7 @@ int main(int argc, char** argv) {
     tavrel::Console console{std::cout, std::cerr};
     tavrel::addCalcCommand(app, console);
     return tavrel::runCommandLine(app, argc, argv, console);
+} catch (const std::exception& error) {
+    std::fprintf(stderr, "tavrel-cli: %s\n", error.what());
+    return tavrel::exitFailed;
 }

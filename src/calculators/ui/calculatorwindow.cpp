@@ -20,7 +20,10 @@ namespace tavrel {
 
 namespace {
 
-const QString noFigure = QStringLiteral("–");
+// What a row says before the first calculation.
+QString emptyRow(double consumption) {
+    return QString::number(consumption, 'f', 1) + QStringLiteral(" l/min : –");
+}
 
 // Red that reads on the palette's base: the plain one is too dark on dark and too glaring on white.
 QColor rowRed(const QPalette& palette) {
@@ -103,7 +106,7 @@ QGroupBox* CalculatorWindow::newTable() {
     paper->setAutoFillBackground(true);
     auto* rows = new QVBoxLayout(paper);
     for (std::size_t row = 0; row < tableConsumptions.size(); ++row) {
-        auto* label = new QLabel(noFigure, paper);
+        auto* label = new QLabel(emptyRow(tableConsumptions[row]), paper);
         label->setObjectName(rowField(page_, row));
         label->setForegroundRole(QPalette::Text);
         label->setTextInteractionFlags(Qt::TextSelectableByMouse);

@@ -99,8 +99,11 @@ void PhysiqueController::convertir() {
         return;
     }
     const int tag = page->findChild<QButtonGroup*>(QLatin1StringView(tab->radioGroup))->checkedId();
-    const auto source =
+    auto source =
         std::find_if(tab->units.begin(), tab->units.end(), [&](const ConversionUnit& unit) { return unit.tag == tag; });
+    if (source == tab->units.end()) {
+        --source;  // Any other tag is the last unit's.
+    }
     const auto position = static_cast<std::size_t>(source - tab->units.begin());
     const std::vector<double> values = tab->convert(tag, doubleValue(fieldOf(page, *source)->text()));
     for (std::size_t unit = 0; unit < values.size(); ++unit) {
