@@ -83,14 +83,17 @@ QString padded(const QString& text, const Placeholder& placeholder) {
 /// The conversion with its flags, width and precision, for fmt's printf. The length letters are left out: fmt knows the
 /// type.
 std::string specification(const Placeholder& placeholder, const std::string& flags) {
-    std::string result = "%" + flags;
+    std::string result(1, '%');
+    result += flags;
     if (placeholder.width > 0) {
         result += std::to_string(placeholder.width);
     }
     if (placeholder.precision >= 0) {
-        result += "." + std::to_string(placeholder.precision);
+        result += '.';
+        result += std::to_string(placeholder.precision);
     }
-    return result + placeholder.conversion;
+    result += placeholder.conversion;
+    return result;
 }
 
 std::optional<QString> filledInteger(const Placeholder& placeholder, const FormatArgument& argument) {
