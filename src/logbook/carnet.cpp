@@ -82,7 +82,11 @@ Expected<void> Carnet::loadDataRepresentation(QByteArrayView data, const QString
 }
 
 qint32 Carnet::nextDiveNumber() const {
-    return records().empty() ? 1 : static_cast<qint32>(static_cast<quint32>(records().back()->noPlongee) + 1U);
+    return records().empty() ? 1 : numberAfter(*records().back());
+}
+
+qint32 Carnet::numberAfter(const Plongee& dive) {
+    return static_cast<qint32>(static_cast<quint32>(dive.noPlongee) + 1U);
 }
 
 void Carnet::proposeNextNumber() {
@@ -214,10 +218,11 @@ void Carnet::changementSelectionMaTableView() {
     }
 }
 
-void Carnet::appendDives(const QString& step, const std::vector<Plongee>& taken) {
+void Carnet::appendDives(const QString& step, std::vector<Plongee> taken) {
     List dives = records();
-    for (const auto& dive : taken) {
-        dives.push_back(std::make_shared<const Plongee>(dive));
+    dives.reserve(dives.size() + taken.size());
+    for (auto& dive : taken) {
+        dives.push_back(std::make_shared<const Plongee>(std::move(dive)));
     }
     changeList(step, std::move(dives));
 }

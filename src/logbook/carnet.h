@@ -61,8 +61,9 @@ public:
     void changementSelectionMaTableView();
     /// The number a new dive gets: that of the last dive by position, and one.
     qint32 nextDiveNumber() const;
+    static qint32 numberAfter(const Plongee& dive);
     /// Appends dives that were taken in from elsewhere, as one undo step.
-    void appendDives(const QString& step, const std::vector<Plongee>& dives);
+    void appendDives(const QString& step, std::vector<Plongee> taken);
 
     // The form.
     void blankFields() { form_.blankFields(); }

@@ -25,6 +25,8 @@ public:
     /// Replaces the contents by what the bytes hold, then checks the type.
     virtual Expected<void> loadDataRepresentation(QByteArrayView data, const QString& type) = 0;
 
+    /// What the document has of the desktop: its clock, its preferences, its alerts.
+    Desktop& desktop() const { return desktop_; }
     const QString& type() const { return type_; }
     /// The absolute path of the file; empty before the first save.
     const QString& file() const { return file_; }
@@ -53,7 +55,6 @@ Q_SIGNALS:
 
 protected:
     void setType(const QString& type) { type_ = type; }
-    Desktop& desktop() const { return desktop_; }
     /// For changes that no undo step carries.
     void markChanged();
 

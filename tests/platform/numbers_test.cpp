@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <limits>
+#include <tuple>
 
 namespace tavrel {
 
@@ -63,6 +64,35 @@ TEST(Numbers, readSinglePrecisionWithOneRounding) {
     EXPECT_EQ(floatValue(u"1.000000059604644775390626"), std::nextafter(1.0F, 2.0F));
     EXPECT_EQ(floatValue(u"1e39"), std::numeric_limits<float>::infinity());
     EXPECT_EQ(floatValue(u"1e-50"), 0.0F);
+}
+
+TEST(Numbers, ofFilesTakeOnlyAPoint) {
+    const std::pair<const char*, double> cases[] = {
+        {"", 0},         {"\n 18,5", 18},   {"+7.25 m", 7.25},   {"+-5", 0},     {"-.5", -0.5},   {"-nan", 0},
+        {"infinity", 0}, {"12.360", 12.36}, {"1e999", infinity}, {"-1e-999", 0}, {"\xc3\xa9", 0}, {"300.15", 300.15},
+    };
+    for (const auto& [text, real] : cases) {
+        EXPECT_EQ(doubleInFile(text), real) << text;
+        EXPECT_EQ(floatInFile(text), static_cast<float>(real)) << text;
+    }
+    EXPECT_EQ(integerInFile(" 10.0"), 10);
+    EXPECT_EQ(integerInFile("-3000000000"), std::numeric_limits<qint32>::min());
+}
+
+TEST(Numbers, areWrittenWithFixedDecimals) {
+    const std::tuple<double, int, const char*> cases[] = {
+        {12, 1, "12.0"},        {0.25, 1, "0.2"},         {0.35, 1, "0.3"},
+        {-0.04, 1, "-0.0"},     {0.32, 2, "0.32"},        {1e22, 0, "10000000000000000000000"},
+        {-infinity, 1, "-inf"}, {std::nan(""), 1, "nan"}, {-std::nan(""), 3, "nan"},
+    };
+    for (const auto& [value, decimals, text] : cases) {
+        std::string written;
+        appendFixed(written, value, decimals);
+        EXPECT_EQ(written, text);
+    }
+    EXPECT_EQ(truncated(-23.9), -23);
+    EXPECT_EQ(truncated(1e300), std::numeric_limits<qint32>::max());
+    EXPECT_EQ(truncated(std::nan("")), 0);
 }
 
 TEST(Numbers, showTheShortestTextThatRestoresThem) {

@@ -6,9 +6,11 @@
 <message><source>&#13;   - Shorty</source><translation>&#13;   - Shorty</translation></message>
 <message><source>&#13;   - T-shirt</source><translation>&#13;   - T-shirt</translation></message>
 <message><source>Air</source><translation>Air</translation></message>
+<message><source>Bad</source><translation>Bad</translation></message>
 <message><source>Biology</source><translation>Marine biology</translation></message>
 <message><source>Cave</source><translation>Cave</translation></message>
 <message><source>Celsius</source><translation>%d °C</translation></message>
+<message><source>Character not in Mac OS Roman</source><translation>Dive no. %d holds the character “%@” (%@), which Mac OS Roman text cannot hold.</translation></message>
 <message><source>Clear</source><translation>Clear</translation></message>
 <message><source>Cloudy</source><translation>Cloudy</translation></message>
 <message><source>Degree Celsius</source><translation>°C</translation></message>
@@ -18,25 +20,37 @@
 <message><source>Dry suit</source><translation>Drysuit</translation></message>
 <message><source>Easy</source><translation>Easy</translation></message>
 <message><source>Entries</source><translation>Entries: %d</translation></message>
+<message><source>Excellent</source><translation>Excellent</translation></message>
+<message><source>Exceptional</source><translation>Exceptional</translation></message>
+<message><source>Execrable</source><translation>Execrable</translation></message>
 <message><source>Extreme</source><translation>Extreme</translation></message>
 <message><source>Farenheit</source><translation>%d °F</translation></message>
 <message><source>Find</source><translation>Find</translation></message>
 <message><source>Foggy</source><translation>Foggy</translation></message>
 <message><source>Found dives</source><translation>%d dives found</translation></message>
 <message><source>GPS template</source><translation>N 00° 00.000'  E 000° 00.000'</translation></message>
+<message><source>Good</source><translation>Good</translation></message>
 <message><source>Hail</source><translation>Hail</translation></message>
 <message><source>Hard</source><translation>Hard</translation></message>
 <message><source>Helium percent</source><translation>Helium must lie between 0 and 86 percent.</translation></message>
 <message><source>Import UDCF</source><translation>Import UDCF</translation></message>
 <message><source>Import UDDF</source><translation>Import UDDF</translation></message>
+<message><source>Import cancelled</source><translation>The import was cancelled.</translation></message>
+<message><source>Import element missing</source><translation>the element %@ is missing</translation></message>
+<message><source>Import format unknown</source><translation>The file is neither UDCF nor UDDF nor a handheld logbook.</translation></message>
+<message><source>Import stopped</source><translation>The import stopped at dive %d of the file: %@.</translation></message>
+<message><source>Imported dives</source><translation>%d dives were imported.</translation></message>
+<message><source>Medium</source><translation>Medium</translation></message>
 <message><source>Moderate</source><translation>Moderate</translation></message>
 <message><source>Movies</source><translation>Filming</translation></message>
 <message><source>No such field</source><translation>Dives have no field "%@" that can be used this way.</translation></message>
+<message><source>No dive to export</source><translation>The logbook holds no dive, and UDDF cannot be written without one.</translation></message>
 <message><source>No suit</source><translation>No suit</translation></message>
 <message><source>None</source><translation>None</translation></message>
 <message><source>Normal</source><translation>Normal</translation></message>
 <message><source>One dive</source><translation>One dive</translation></message>
 <message><source>One dive found</source><translation>One dive found</translation></message>
+<message><source>One dive imported</source><translation>One dive was imported.</translation></message>
 <message><source>Other</source><translation>Other</translation></message>
 <message><source>Photo dive</source><translation>Photography</translation></message>
 <message><source>PpO2</source><translation>PpO₂ (bar)</translation></message>
@@ -91,7 +105,10 @@
 <message><source>Undo insert</source><translation>Insert Dive</translation></message>
 <message><source>Undo renumber</source><translation>Renumber Dives</translation></message>
 <message><source>Undo update</source><translation>Edit Dive</translation></message>
+<message><source>Undo import</source><translation>Import</translation></message>
+<message><source>Very bad</source><translation>Very bad</translation></message>
 <message><source>Very easy</source><translation>Very easy</translation></message>
+<message><source>Very good</source><translation>Very good</translation></message>
 <message><source>Very hard</source><translation>Very hard</translation></message>
 <message><source>Very strong</source><translation>Very strong</translation></message>
 <message><source>Violent</source><translation>Violent</translation></message>

@@ -6,6 +6,7 @@
 <message><source>Add</source><translation>Add</translation></message>
 <message><source>Add item to ComboBox</source><translation>Add “%@” to the list?</translation></message>
 <message><source>Cancel</source><translation>Cancel</translation></message>
+<message><source>Cancelled</source><translation>The work was cancelled.</translation></message>
 <message><source>Carnet de plongee</source><translation>Dive logbook</translation></message>
 <message><source>Cotation 1</source><translation>★</translation></message>
 <message><source>Deco</source><translation>Decompression</translation></message>
@@ -31,6 +32,7 @@
 <message><source>Logbook</source><translation>Logbook</translation></message>
 <message><source>Materiel</source><translation>Equipment</translation></message>
 <message><source>No</source><translation>No</translation></message>
+<message><source>No Mac OS Roman</source><translation>This system cannot convert text to Mac OS Roman.</translation></message>
 <message><source>No space left</source><translation>There is not enough space on the disk.</translation></message>
 <message><source>No valid datas</source><translation>The values are not valid.</translation></message>
 <message><source>Preferences not saved</source><translation>The preferences could not be saved to “%@”.</translation></message>
@@ -43,6 +45,9 @@
 <message><source>Tip erase</source><translation>Clear all fields</translation></message>
 <message><source>Unknown document type</source><translation>Tavrel knows no document type "%@".</translation></message>
 <message><source>Untitled</source><translation>Untitled</translation></message>
+<message><source>XML file beyond limits</source><translation>The XML file nests or grows beyond all reason and was not read.</translation></message>
+<message><source>XML file too large</source><translation>The XML file is too large to be read.</translation></message>
+<message><source>XML file without elements</source><translation>The file is not XML.</translation></message>
 <message><source>Yes</source><translation>Yes</translation></message>
 </context>
 </TS>

@@ -6,6 +6,7 @@
 <message><source>Add</source><translation>Ajouter</translation></message>
 <message><source>Add item to ComboBox</source><translation>Ajouter « %@ » à la liste ?</translation></message>
 <message><source>Cancel</source><translation>Annuler</translation></message>
+<message><source>Cancelled</source><translation>Le travail a été annulé.</translation></message>
 <message><source>Carnet de plongee</source><translation>Carnet de plongée</translation></message>
 <message><source>Cotation 1</source><translation>★</translation></message>
 <message><source>Deco</source><translation>Décompression</translation></message>
@@ -31,6 +32,7 @@
 <message><source>Logbook</source><translation>Carnet</translation></message>
 <message><source>Materiel</source><translation>Matériel</translation></message>
 <message><source>No</source><translation>Non</translation></message>
+<message><source>No Mac OS Roman</source><translation>Ce système ne sait pas convertir du texte en Mac OS Roman.</translation></message>
 <message><source>No space left</source><translation>Il n’y a plus assez de place sur le disque.</translation></message>
 <message><source>No valid datas</source><translation>Les valeurs ne sont pas valables.</translation></message>
 <message><source>Preferences not saved</source><translation>Impossible d’enregistrer les préférences dans « %@ ».</translation></message>
@@ -43,6 +45,9 @@
 <message><source>Tip erase</source><translation>Effacer tous les champs</translation></message>
 <message><source>Unknown document type</source><translation>Tavrel ne connaît pas de type de document « %@ ».</translation></message>
 <message><source>Untitled</source><translation>Sans titre</translation></message>
+<message><source>XML file beyond limits</source><translation>Le fichier XML s’imbrique ou s’étend au-delà de toute mesure et n’a pas été lu.</translation></message>
+<message><source>XML file too large</source><translation>Le fichier XML est trop grand pour être lu.</translation></message>
+<message><source>XML file without elements</source><translation>Le fichier n’est pas du XML.</translation></message>
 <message><source>Yes</source><translation>Oui</translation></message>
 </context>
 </TS>

@@ -1,0 +1,160 @@
+#include "interchange/imports.h"
+
+#include "interchange/diveimport.h"
+#include "platform/safefile.h"
+
+#include <cstring>
+
+namespace tavrel {
+
+namespace {
+
+constexpr std::size_t thousandths = 1000;
+constexpr std::size_t thousandthsOfParsing = 500;
+constexpr std::size_t divesPerProgress = 16;
+
+const DiveSource& sourceOf(ImportFormat format) {
+    switch (format) {
+        case ImportFormat::uddf:
+            return uddfSource;
+        case ImportFormat::handheld:
+            return handheldSource;
+        case ImportFormat::udcf:
+            break;
+    }
+    return udcfSource;
+}
+
+std::optional<ImportFormat> formatOf(XmlElement root) {
+    if (root.name() == "uddf") {
+        return ImportFormat::uddf;
+    }
+    if (root.name() == "PROFILE" || !root.first("REPGROUP").isNull()) {
+        return ImportFormat::udcf;
+    }
+    return root.first("repgroup").isNull() ? std::nullopt : std::optional(ImportFormat::handheld);
+}
+
+/// One import under way.
+class Import {
+public:
+    Import(Carnet& carnet, const Progress& progress) : carnet_(carnet), progress_(progress) {}
+
+    Expected<ImportResult> run(QByteArrayView bytes, std::optional<ImportFormat> format) {
+        const auto tree = XmlTree::parse(bytes, [this](std::size_t done, std::size_t total) {
+            return advance(done * thousandthsOfParsing / std::max<std::size_t>(total, 1));
+        });
+        if (result_.cancelled) {
+            return result_;
+        }
+        if (!tree) {
+            return tl::unexpected(tree.error());
+        }
+        if (!format) {
+            format = formatOf(tree->root());
+        }
+        if (!format) {
+            return failure(text("Carnet", "Import format unknown"),
+                           QString::fromStdString(std::string(tree->root().name())));
+        }
+        takeDives(sourceOf(*format), tree->root());
+        return result_;
+    }
+
+private:
+    bool advance(std::size_t done) {
+        if (progress_ && !progress_(done, thousandths)) {
+            result_.cancelled = true;
+        }
+        return !result_.cancelled;
+    }
+
+    void takeDives(const DiveSource& source, XmlElement root) {
+        const auto dives = source.group(root).children(source.diveName);
+        const std::size_t total = dives.count();
+        std::vector<Plongee> taken;
+        taken.reserve(total);
+        {
+            const FormStateBase::Batch batch(carnet_.form().state());
+            for (const XmlElement dive : dives) {
+                const std::size_t done = taken.size();
+                if (done % divesPerProgress == 0 &&
+                    !advance(thousandthsOfParsing + done * (thousandths - thousandthsOfParsing) / total)) {
+                    break;
+                }
+                if (!takeDive(source, dive, taken)) {
+                    break;
+                }
+            }
+        }
+        result_.taken = static_cast<int>(taken.size());
+        if (!taken.empty()) {
+            carnet_.appendDives(text("Carnet", "Undo import"), std::move(taken));
+        }
+        carnet_.updateUI();
+    }
+
+    bool takeDive(const DiveSource& source, XmlElement dive, std::vector<Plongee>& taken) {
+        DiveForm& form = carnet_.form();
+        form.blankFields();
+        form.state().setInteger(form.controls().noPlongeeField,
+                                taken.empty() ? carnet_.nextDiveNumber() : Carnet::numberAfter(taken.back()));
+        if (const auto filled = source.fill(dive, form); !filled) {
+            result_.stoppedAt = static_cast<int>(taken.size()) + 1;
+            result_.why = filled.error().message();
+            return false;
+        }
+        form.updateUI();
+        taken.push_back(form.addDiveToList());
+        return true;
+    }
+
+    Carnet& carnet_;
+    const Progress& progress_;
+    ImportResult result_;
+};
+
+Expected<ImportResult> importFile(Carnet& carnet, const QString& file, std::optional<ImportFormat> format,
+                                  const Progress& progress) {
+    const auto bytes = FileBytes::open(file);
+    if (!bytes) {
+        return tl::unexpected(bytes.error());
+    }
+    return importDives(carnet, bytes->bytes(), format, progress);
+}
+
+}  // namespace
+
+QString ImportResult::message() const {
+    QString message = taken == 1 ? text("Carnet", "One dive imported")
+                                 : textWith("Carnet", "Imported dives", QStringLiteral("error !"), taken);
+    if (cancelled) {
+        message += u' ' + text("Carnet", "Import cancelled");
+    } else if (stoppedAt > 0) {
+        message += u' ' + textWith("Carnet", "Import stopped", QStringLiteral("error !"), stoppedAt, why);
+    }
+    return message;
+}
+
+Expected<ImportResult> importDives(Carnet& carnet, QByteArrayView bytes, std::optional<ImportFormat> format,
+                                   const Progress& progress) {
+    return Import(carnet, progress).run(bytes, format);
+}
+
+Expected<ImportResult> readUDCF(Carnet& carnet, const QString& file, const Progress& progress) {
+    return importFile(carnet, file, ImportFormat::udcf, progress);
+}
+
+Expected<ImportResult> readUDDF(Carnet& carnet, const QString& file, const Progress& progress) {
+    return importFile(carnet, file, ImportFormat::uddf, progress);
+}
+
+Expected<ImportResult> readFromiPhoneFile(Carnet& carnet, const QString& file, const Progress& progress) {
+    return importFile(carnet, file, ImportFormat::handheld, progress);
+}
+
+Expected<ImportResult> readDives(Carnet& carnet, const QString& file, const Progress& progress) {
+    return importFile(carnet, file, std::nullopt, progress);
+}
+
+}  // namespace tavrel

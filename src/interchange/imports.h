@@ -1,0 +1,44 @@
+#pragma once
+
+#include "logbook/carnet.h"
+#include "platform/progress.h"
+
+#include <QByteArrayView>
+
+#include <optional>
+
+namespace tavrel {
+
+enum class ImportFormat {
+    udcf,      ///< Universal Dive Computer Format
+    uddf,      ///< Universal Dive Data Format
+    handheld,  ///< the file of the companion logbook on a telephone
+};
+
+/// What an import did: how many dives it took over, and, when it ended before the last, at which dive of the file and
+/// why. The dives taken are in the logbook in either case.
+struct ImportResult {
+    int taken = 0;
+    int stoppedAt = 0;  ///< the dive of the file, counted from 1, that stopped the import; 0 when none did
+    QString why;
+    bool cancelled = false;
+
+    bool isWhole() const { return stoppedAt == 0 && !cancelled; }
+    /// All of it as sentences for the user.
+    QString message() const;
+};
+
+/// Appends the dives of a file to the logbook as one undo step. Each goes through the logbook's form, with all its
+/// corrections: the form is cleared, filled and built from, and holds the last dive afterwards. Fails, with the logbook
+/// as it was, when the file cannot be read at all. Reports the progress in thousandths.
+Expected<ImportResult> readUDCF(Carnet& carnet, const QString& file, const Progress& progress = {});
+Expected<ImportResult> readUDDF(Carnet& carnet, const QString& file, const Progress& progress = {});
+Expected<ImportResult> readFromiPhoneFile(Carnet& carnet, const QString& file, const Progress& progress = {});
+/// The same with the format told by the file's elements; fails when they belong to none of the formats.
+Expected<ImportResult> readDives(Carnet& carnet, const QString& file, const Progress& progress = {});
+
+/// The import from bytes, in the format given or told by the elements.
+Expected<ImportResult> importDives(Carnet& carnet, QByteArrayView bytes, std::optional<ImportFormat> format,
+                                   const Progress& progress = {});
+
+}  // namespace tavrel
