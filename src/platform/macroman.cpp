@@ -2,6 +2,7 @@
 
 #include "platform/texts.h"
 
+#include <QList>
 #include <iconv.h>
 
 #include <algorithm>

@@ -16,8 +16,8 @@ public:
     /// Fails where the system's converter does not know the character set.
     static Expected<MacRoman> open();
 
-    /// Appends the text's bytes and gives 0, or appends nothing and gives the first character that does not fit (a lone
-    /// surrogate as its own code).
+    /// Appends the text's bytes and gives 0, or appends nothing and gives the first character that does not fit
+    /// (U+FFFD for half a surrogate pair).
     char32_t append(std::string& bytes, QStringView text) const;
 
 private:

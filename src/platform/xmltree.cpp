@@ -57,7 +57,7 @@ struct Reading {
     std::size_t elements = 0;
     bool cancelled = false;
     bool limit = false;
-    QString firstError;
+    QString firstError = {};
 };
 
 constexpr std::size_t elementsPerProgress = 16384;
