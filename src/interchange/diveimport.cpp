@@ -2,9 +2,8 @@
 
 #include "platform/numbers.h"
 
-#include <QTimeZone>
-
 #include <array>
+#include <span>
 
 namespace tavrel {
 
@@ -87,8 +86,8 @@ void typeTank(DiveForm& form, XmlElement tank, const char* volume, const char* s
     const DiveControls& controls = form.controls();
     const std::array<std::pair<const char*, DiveControls::Id>, 3> fields{{
         {volume, controls.volumeBlocField[0]},
-        {start, controls.pressionDepartField[0]},
-        {end, controls.pressionFinField[0]},
+        {start, controls.departField[0]},
+        {end, controls.finField[0]},
     }};
     for (const auto& [name, field] : fields) {
         if (const XmlElement value = tank.last(name); !value.isNull()) {
@@ -115,10 +114,9 @@ void resetConditions(DiveForm& form) {
 void typeProfile(DiveForm& form, const std::vector<float>& depths) {
     ProfileSeries& profile = form.profile();
     profile.profilProfondeur.clear();
-    for (const float depth : depths) {
-        profile.profilProfondeur.append(Number::ofReal(static_cast<double>(depth), 'f'));
-    }
-    const Series flags = Series::ofIntegers(std::vector<qint32>(depths.size(), 0));
+    profile.profilProfondeur.append(std::span(depths));
+    Series flags = Series::empty();
+    flags.append(std::span<const std::int8_t>(std::vector<std::int8_t>(depths.size(), 0)));
     for (const auto series : {&ProfileSeries::ASC_Flag, &ProfileSeries::SLOW_Flag, &ProfileSeries::CEIL_Flag,
                               &ProfileSeries::SURF_Flag, &ProfileSeries::GAZ_Flag}) {
         profile.*series = flags;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/failure.h"
+#include "platform/progress.h"
 #include "platform/recordlayout.h"
 #include "platform/typedstreamreader.h"
 #include "platform/typedstreamwriter.h"
@@ -10,7 +11,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <functional>
 #include <limits>
 #include <memory>
 #include <type_traits>
@@ -27,9 +27,6 @@ struct RecordFile {
     int version = 0;
     std::vector<std::shared_ptr<const Record>> records;
 };
-
-/// Told now and then how many of how many records are done; answering false cancels the work.
-using Progress = std::function<bool(std::size_t done, std::size_t total)>;
 
 /// The class of the first record of a document file, which tells the type of document; null when it holds none.
 Expected<QString> recordClassOf(QByteArrayView bytes);

@@ -124,6 +124,19 @@ void Series::append(std::span<const double> values) {
     }
 }
 
+void Series::append(std::span<const float> values) {
+    if (values.empty()) {
+        detached();
+        return;
+    }
+    Mixed& all = mixed();
+    all.codes.insert(all.codes.end(), values.size(), 'f');
+    all.bits.reserve(all.bits.size() + values.size());
+    for (const float value : values) {
+        all.bits.push_back(std::bit_cast<std::uint64_t>(static_cast<double>(value)));
+    }
+}
+
 void Series::append(std::span<const std::int8_t> values) {
     auto& numbers = detached().numbers;
     if (auto* small = std::get_if<std::vector<std::int8_t>>(&numbers)) {

@@ -47,8 +47,9 @@ public:
     void append(Number number);
     void appendReal(double value) { append(Number::ofReal(value)); }
     void appendInteger(qint32 value) { append(Number::ofInteger(value)); }
-    /// Many at once: doubles of type 'd', or integers of type 'i' that fit a byte.
+    /// Many at once: doubles of type 'd', singles of type 'f', or integers of type 'i' that fit a byte.
     void append(std::span<const double> values);
+    void append(std::span<const float> values);
     void append(std::span<const std::int8_t> values);
     void clear();  ///< becomes an array without elements
 

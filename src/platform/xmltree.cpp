@@ -2,6 +2,7 @@
 
 #include "platform/texts.h"
 
+#include <QStringDecoder>
 #include <libxml/SAX2.h>
 #include <libxml/parser.h>
 #include <libxml/tree.h>
@@ -160,7 +161,11 @@ std::string_view XmlElement::text(std::string& buffer) const {
 QString XmlElement::text() const {
     std::string buffer;
     const std::string_view whole = text(buffer);
-    return QString::fromUtf8(whole.data(), static_cast<qsizetype>(whole.size()));
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    const QByteArrayView bytes(whole.data(), static_cast<qsizetype>(whole.size()));
+    const QString decoded = decoder(bytes);
+    // A file that declares no encoding and is not UTF-8 leaves its bytes as they are.
+    return decoder.hasError() ? QString::fromLatin1(bytes) : decoded;
 }
 
 void XmlTree::Free::operator()(_xmlDoc* document) const {

@@ -35,6 +35,7 @@ public:
     /// them. Blanks that merely lay out child elements are no text; entity references stand for nothing. A view into
     /// the tree where the text is in one piece, else into the buffer given.
     std::string_view text(std::string& buffer) const;
+    /// The same text; bytes that are no UTF-8, in a file that declares no encoding, are taken for Latin-1.
     QString text() const;
 
 private:

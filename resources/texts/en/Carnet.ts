@@ -43,8 +43,8 @@
 <message><source>Medium</source><translation>Medium</translation></message>
 <message><source>Moderate</source><translation>Moderate</translation></message>
 <message><source>Movies</source><translation>Filming</translation></message>
-<message><source>No such field</source><translation>Dives have no field "%@" that can be used this way.</translation></message>
 <message><source>No dive to export</source><translation>The logbook holds no dive, and UDDF cannot be written without one.</translation></message>
+<message><source>No such field</source><translation>Dives have no field "%@" that can be used this way.</translation></message>
 <message><source>No suit</source><translation>No suit</translation></message>
 <message><source>None</source><translation>None</translation></message>
 <message><source>Normal</source><translation>Normal</translation></message>
@@ -102,10 +102,10 @@
 <message><source>Under ice</source><translation>Under ice</translation></message>
 <message><source>Undo add</source><translation>Add Dive</translation></message>
 <message><source>Undo delete</source><translation>Delete Dives</translation></message>
+<message><source>Undo import</source><translation>Import</translation></message>
 <message><source>Undo insert</source><translation>Insert Dive</translation></message>
 <message><source>Undo renumber</source><translation>Renumber Dives</translation></message>
 <message><source>Undo update</source><translation>Edit Dive</translation></message>
-<message><source>Undo import</source><translation>Import</translation></message>
 <message><source>Very bad</source><translation>Very bad</translation></message>
 <message><source>Very easy</source><translation>Very easy</translation></message>
 <message><source>Very good</source><translation>Very good</translation></message>

@@ -43,8 +43,8 @@
 <message><source>Medium</source><translation>Moyenne</translation></message>
 <message><source>Moderate</source><translation>Modéré</translation></message>
 <message><source>Movies</source><translation>Vidéo</translation></message>
-<message><source>No such field</source><translation>Les plongées n’ont pas de champ « %@ » utilisable ainsi.</translation></message>
 <message><source>No dive to export</source><translation>Le carnet ne contient aucune plongée, et l’UDDF ne peut s’écrire sans.</translation></message>
+<message><source>No such field</source><translation>Les plongées n’ont pas de champ « %@ » utilisable ainsi.</translation></message>
 <message><source>No suit</source><translation>Sans combinaison</translation></message>
 <message><source>None</source><translation>Nul</translation></message>
 <message><source>Normal</source><translation>Normale</translation></message>
@@ -102,10 +102,10 @@
 <message><source>Under ice</source><translation>Sous glace</translation></message>
 <message><source>Undo add</source><translation>Ajouter la plongée</translation></message>
 <message><source>Undo delete</source><translation>Supprimer les plongées</translation></message>
+<message><source>Undo import</source><translation>Importation</translation></message>
 <message><source>Undo insert</source><translation>Insérer la plongée</translation></message>
 <message><source>Undo renumber</source><translation>Renuméroter les plongées</translation></message>
 <message><source>Undo update</source><translation>Modifier la plongée</translation></message>
-<message><source>Undo import</source><translation>Importation</translation></message>
 <message><source>Very bad</source><translation>Très mauvaise</translation></message>
 <message><source>Very easy</source><translation>Très facile</translation></message>
 <message><source>Very good</source><translation>Très bonne</translation></message>
