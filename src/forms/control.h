@@ -55,13 +55,16 @@ enum class GroupLayout {
     rows,     ///< a grid: each row of controls is a line behind its label
 };
 
+/// The place of a group that takes the whole width of its page, below the groups before it.
+inline constexpr int wholeWidth = -1;
+
 /// A titled group of a form's page; the controls added after it belong to it.
 struct Group {
     int page = 0;  ///< from 1
     Title title = {};
     GroupLayout layout = GroupLayout::pairs;
     int columns = 1;      ///< of a pairs layout
-    int placeColumn = 0;  ///< column of the page that the group stands in
+    int placeColumn = 0;  ///< column of the page, under its groups so far; or wholeWidth
 };
 
 }  // namespace tavrel

@@ -205,9 +205,9 @@ void DiveForm::razHeliox() {
     presetGas(oxygen, 0, 100 - oxygen);
 }
 
-void DiveForm::endEditing(int control) {
+void DiveForm::endEditing(int control, const QString& typed) {
     if (const auto& list = controls_.controls()[static_cast<std::size_t>(control)].control.pickList) {
-        offerToPickList(desktop_, *list, state_.at(control).text);
+        offerToPickList(desktop_, *list, typed);
     }
 }
 

@@ -48,8 +48,9 @@ public:
     void razAir();
     void razNitrox();
     void razHeliox();
-    /// Offers the text of a combo to its shared list.
-    void endEditing(int control);
+    /// Offers what was typed into a combo, or what it holds, to its shared list.
+    void endEditing(int control, const QString& typed);
+    void endEditing(int control) { endEditing(control, state_.at(control).text); }
 
 Q_SIGNALS:
     /// updateUI ran because of an entry of the user's.

@@ -9,7 +9,11 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <span>
+#include <vector>
+
+class QWidgetAction;
 
 namespace tavrel {
 
@@ -38,13 +42,14 @@ struct ToolBarDescription {
 };
 
 /// A toolbar that its user arranges: items are added, removed and moved in a dialog, and the arrangement is remembered
-/// under the toolbar's identifier. An item shows only when the program at hand can do it (it has a command or a
-/// widget).
+/// under the toolbar's identifier. An item shows only when the program at hand can do it (it has a command or a widget);
+/// one that it cannot do keeps its place all the same.
 class CustomToolBar : public QToolBar {
     Q_OBJECT
 
 public:
     CustomToolBar(const ToolBarDescription& description, Preferences& preferences, QWidget* parent);
+    ~CustomToolBar() override;
 
     /// What an item does, or the widget it consists of. Call rebuild() after the last one.
     void setCommand(const QString& identifier, std::function<void()> command);
@@ -53,16 +58,43 @@ public:
     void setValidation(std::function<bool(const QString& identifier)> isEnabled);
     void validate();
 
-    /// The items in their present order.
-    QStringList arrangement() const;
+    /// The items in their present order, those that do not show included.
+    const QStringList& arrangement() const { return arrangement_; }
+    /// Items that the toolbar does not know, and second copies of one, are left out; the rest is remembered.
     void setArrangement(const QStringList& identifiers);
+    /// Icons, words or both; remembered with the arrangement.
+    void setStyle(Qt::ToolButtonStyle style);
     void restoreInitial();
     void rebuild();
+
+    const ToolBarDescription& description() const { return description_; }
     /// The action of an item, for menus; null when the program cannot do it.
     QAction* action(const QString& identifier) const;
+    /// What an item or place is called.
+    QString titleOf(const QString& identifier) const;
+    /// Separators and spaces, of which a toolbar may hold several.
+    static bool isPlace(const QString& identifier);
 
 public Q_SLOTS:
     void runCustomisation();
+
+protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+private:
+    const ToolItem* item(const QString& identifier) const;
+    QStringList initial() const;
+    QStringList known(const QStringList& identifiers) const;
+    void restore();
+    void remember();
+    void addSpace(bool flexible);
+
+    const ToolBarDescription description_;
+    Preferences& preferences_;
+    QStringList arrangement_;
+    std::map<QString, QAction*> actions_;
+    std::vector<std::unique_ptr<QAction>> places_;
+    std::function<bool(const QString&)> isEnabled_;
 };
 
 }  // namespace tavrel

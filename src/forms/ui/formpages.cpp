@@ -1,0 +1,187 @@
+#include "forms/ui/formpages.h"
+
+#include "forms/ui/grouplayout.h"
+#include "platform/picklists.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace tavrel {
+
+namespace {
+
+/// Gives the label columns of groups that stand under one another the same widths.
+void alignLabels(const std::vector<LaidOutGroup>& groups) {
+    int pairs = 0;
+    for (const LaidOutGroup& group : groups) {
+        pairs = std::max(pairs, group.pairs);
+    }
+    for (int pair = 0; pair < pairs; ++pair) {
+        std::map<int, int> widest;  // by the number of pairs side by side
+        const auto eachLabel = [&](const LaidOutGroup& group, auto visit) {
+            for (int row = 0; pair < group.pairs && row < group.grid->rowCount(); ++row) {
+                const QLayoutItem* item = group.grid->itemAtPosition(row, labelColumn(pair));
+                if (item && qobject_cast<QLabel*>(item->widget())) {
+                    visit(item->widget()->sizeHint().width());
+                }
+            }
+        };
+        for (const LaidOutGroup& group : groups) {
+            eachLabel(group, [&](int width) { widest[group.pairs] = std::max(widest[group.pairs], width); });
+        }
+        for (const LaidOutGroup& group : groups) {
+            bool labelled = false;
+            eachLabel(group, [&](int) { labelled = true; });
+            if (labelled) {
+                group.grid->setColumnMinimumWidth(labelColumn(pair), widest[group.pairs]);
+            }
+        }
+    }
+}
+
+}  // namespace
+
+FormPages::FormPages(FormStateBase& state, Desktop& desktop, OwnList ownList)
+    : state_(state), desktop_(desktop), ownList_(std::move(ownList)) {
+    const auto& controls = state.table().controls();
+    for (int index = 0; index < static_cast<int>(controls.size()); ++index) {
+        const Control& control = controls[static_cast<std::size_t>(index)].control;
+        controls_.push_back(makeFormControl(state, index, listOf(control)));
+        connect(controls_.back().get(), &FormControl::editingFinished, this, &FormPages::editingFinished);
+    }
+    showAll();  // before the layout measures the captions that the state holds
+    for (int number = 1; number <= state.table().pageCount(); ++number) {
+        pages_.push_back(buildPage(number));
+    }
+    showAll();
+    connect(&state, &FormStateBase::controlChanged, this,
+            [this](int index) { controls_[static_cast<std::size_t>(index)]->show(); });
+    connect(&state, &FormStateBase::refreshed, this, &FormPages::showAll);
+    connect(&state, &FormStateBase::focusRequested, this, &FormPages::takeFocus);
+    connect(&desktop.pickLists, &PickLists::changed, this, [this](PickList list) {
+        if (const auto shown = pickLists_.find(list); shown != pickLists_.end()) {
+            shown->second->setStringList(desktop_.pickLists[list]);
+        }
+    });
+}
+
+FormPages::~FormPages() {
+    for (const QPointer<QWidget>& page : pages_) {
+        if (page && !page->parent()) {
+            delete page;
+        }
+    }
+}
+
+QStringListModel* FormPages::listOf(const Control& control) {
+    if (control.kind != ControlKind::combo) {
+        return nullptr;
+    }
+    auto& list = control.pickList ? pickLists_[*control.pickList] : ownLists_[control.ownList];
+    if (!list) {
+        list = std::make_unique<QStringListModel>(control.pickList ? desktop_.pickLists[*control.pickList]
+                                                  : ownList_       ? ownList_(control.ownList)
+                                                                   : QStringList());
+    }
+    return list.get();
+}
+
+void FormPages::reloadOwnLists() {
+    for (const auto& [number, list] : ownLists_) {
+        list->setStringList(ownList_ ? ownList_(number) : QStringList());
+    }
+}
+
+QWidget* FormPages::buildPage(int number) {
+    auto* page = new QWidget;
+    page->setObjectName(QStringLiteral("page%1").arg(number));
+    auto* bands = new QVBoxLayout(page);
+    Mnemonics mnemonics;
+    std::vector<LaidOutGroup> groups;
+    std::vector<QWidget*> tabOrder;
+    std::vector<QVBoxLayout*> columns;  // those of the band that is being filled
+    std::vector<bool> filled;           // whether a column holds what takes all its height
+    bool pageFilled = false;
+
+    const auto endBand = [&] {
+        for (std::size_t column = 0; column < columns.size(); ++column) {
+            if (!filled[column]) {
+                columns[column]->addStretch();
+            }
+        }
+        columns.clear();
+        filled.clear();
+    };
+    for (int index = 0; index < static_cast<int>(state_.table().groups().size()); ++index) {
+        const Group& group = state_.table().groups()[static_cast<std::size_t>(index)];
+        if (group.page != number) {
+            continue;
+        }
+        LaidOutGroup laidOut = layOutGroup(state_.table(), index, controls_, mnemonics);
+        tabOrder.insert(tabOrder.end(), laidOut.tabOrder.begin(), laidOut.tabOrder.end());
+        if (group.placeColumn == wholeWidth) {
+            endBand();
+            bands->addWidget(laidOut.box, laidOut.stretches ? 1 : 0);
+        } else {
+            const auto column = static_cast<std::size_t>(group.placeColumn);
+            if (columns.empty()) {
+                bands->addLayout(new QHBoxLayout);
+            }
+            auto* band = static_cast<QHBoxLayout*>(bands->itemAt(bands->count() - 1)->layout());
+            while (columns.size() <= column) {
+                columns.push_back(new QVBoxLayout);
+                band->addLayout(columns.back(), 1);
+                filled.push_back(false);
+            }
+            columns[column]->addWidget(laidOut.box, laidOut.stretches ? 1 : 0);
+            filled[column] = filled[column] || laidOut.stretches;
+            if (laidOut.stretches) {
+                bands->setStretch(bands->count() - 1, 1);
+            }
+        }
+        pageFilled = pageFilled || laidOut.stretches;
+        groups.push_back(std::move(laidOut));
+    }
+    endBand();
+    if (!pageFilled) {
+        bands->addStretch();
+    }
+    alignLabels(groups);
+    for (std::size_t each = 1; each < tabOrder.size(); ++each) {
+        QWidget::setTabOrder(tabOrder[each - 1], tabOrder[each]);
+    }
+    return page;
+}
+
+int FormPages::pageOf(int control) const {
+    const auto& table = state_.table();
+    return table.groups()[static_cast<std::size_t>(table.controls()[static_cast<std::size_t>(control)].group)].page;
+}
+
+void FormPages::takeFirstFocus(int page) {
+    for (int control = 0; control < static_cast<int>(controls_.size()); ++control) {
+        const auto& form = controls_[static_cast<std::size_t>(control)];
+        if (pageOf(control) == page && !form->focusWidgets().isEmpty() && form->takeFocus()) {
+            return;
+        }
+    }
+}
+
+void FormPages::showAll() {
+    for (const auto& control : controls_) {
+        control->show();
+    }
+}
+
+void FormPages::finishEditing() {
+    for (const auto& control : controls_) {
+        control->finishEditing();
+    }
+}
+
+}  // namespace tavrel
