@@ -171,7 +171,8 @@ struct DiveControls : ControlTable<DiveControls> {
                                      .label = {"Carnet", "Label difficulty"},
                                      .minimum = 0,
                                      .maximum = 5});
-    const Id difficulteField = add({.name = "difficulteField", .kind = ControlKind::readOnly, .beside = true});
+    const Id difficulteField =
+        add({.name = "difficulteField", .kind = ControlKind::readOnly, .width = 10, .beside = true});
     const Id inoubliablePopUp = add({.name = "inoubliablePopUp",
                                      .kind = ControlKind::popUp,
                                      .field = "inoubliable",
@@ -252,7 +253,7 @@ struct DiveControls : ControlTable<DiveControls> {
     const Id runtimeField = add({.name = "runtimeField", .kind = ControlKind::longText, .field = "runtime"});
 
     // Page 4: apparatus, tanks and gas.
-    const int apparatusGroup = group({4, {"Carnet", "Group apparatus"}, GroupLayout::pairs, 2});
+    const int apparatusGroup = group({4, {"Carnet", "Group apparatus"}, GroupLayout::pairs, 2, wholeWidth});
     const Id rebreatherMatrix = add({.name = "rebreatherMatrix",
                                      .kind = ControlKind::radio,
                                      .field = "rebreather",
@@ -331,7 +332,7 @@ struct DiveControls : ControlTable<DiveControls> {
                                                             .unit = literal("%"),
                                                             .clearedText = "79"});
 
-    const int presetsGroup = group({4, {"Carnet", "Group presets"}, GroupLayout::pairs, 3});
+    const int presetsGroup = group({4, {"Carnet", "Group presets"}, GroupLayout::pairs, 1, 1});
     const Id razAirButton = add({.name = "razAirButton",
                                  .kind = ControlKind::button,
                                  .label = {"Carnet", "Air"},

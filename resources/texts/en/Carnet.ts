@@ -7,7 +7,10 @@
 <message><source>&#13;   - T-shirt</source><translation>&#13;   - T-shirt</translation></message>
 <message><source>Air</source><translation>Air</translation></message>
 <message><source>Bad</source><translation>Bad</translation></message>
+<message><source>Aluminum</source><translation>Aluminium</translation></message>
+<message><source>Beaufort</source><translation>Beaufort</translation></message>
 <message><source>Biology</source><translation>Marine biology</translation></message>
+<message><source>Carbon</source><translation>Carbon</translation></message>
 <message><source>Cave</source><translation>Cave</translation></message>
 <message><source>Celsius</source><translation>%d °C</translation></message>
 <message><source>Character not in Mac OS Roman</source><translation>Dive no. %d holds the character “%@” (%@), which Mac OS Roman text cannot hold.</translation></message>
@@ -27,12 +30,33 @@
 <message><source>Farenheit</source><translation>%d °F</translation></message>
 <message><source>Find</source><translation>Find</translation></message>
 <message><source>Foggy</source><translation>Foggy</translation></message>
+<message><source>Form of dive</source><translation>Dive %d of %d – stored when you close the window or go to another dive</translation></message>
+<message><source>Form of new dive</source><translation>New dive – “Add” puts it at the end of the logbook</translation></message>
 <message><source>Found dives</source><translation>%d dives found</translation></message>
 <message><source>GPS template</source><translation>N 00° 00.000'  E 000° 00.000'</translation></message>
 <message><source>Good</source><translation>Good</translation></message>
+<message><source>Group apparatus</source><translation>Breathing apparatus</translation></message>
+<message><source>Group bail-outs</source><translation>Bail-out cylinders</translation></message>
+<message><source>Group computer</source><translation>Dive computer</translation></message>
+<message><source>Group decompression</source><translation>Decompression</translation></message>
+<message><source>Group dive</source><translation>Dive</translation></message>
+<message><source>Group equipment</source><translation>Exposure protection and configuration</translation></message>
+<message><source>Group items</source><translation>Equipment</translation></message>
+<message><source>Group kind</source><translation>Kind of dive</translation></message>
+<message><source>Group notes</source><translation>Notes</translation></message>
+<message><source>Group place</source><translation>Place</translation></message>
+<message><source>Group presets</source><translation>Gas presets</translation></message>
+<message><source>Group run time</source><translation>Run time</translation></message>
+<message><source>Group sea</source><translation>Sea</translation></message>
+<message><source>Group stage bottles</source><translation>Stage bottles</translation></message>
+<message><source>Group stops</source><translation>Decompression stops</translation></message>
+<message><source>Group tanks</source><translation>Tanks</translation></message>
+<message><source>Group team</source><translation>Team</translation></message>
+<message><source>Group weather</source><translation>Weather</translation></message>
 <message><source>Hail</source><translation>Hail</translation></message>
 <message><source>Hard</source><translation>Hard</translation></message>
 <message><source>Helium percent</source><translation>Helium must lie between 0 and 86 percent.</translation></message>
+<message><source>High tide</source><translation>High tide</translation></message>
 <message><source>Import UDCF</source><translation>Import UDCF</translation></message>
 <message><source>Import UDDF</source><translation>Import UDDF</translation></message>
 <message><source>Import cancelled</source><translation>The import was cancelled.</translation></message>
@@ -44,6 +68,71 @@
 <message><source>Moderate</source><translation>Moderate</translation></message>
 <message><source>Movies</source><translation>Filming</translation></message>
 <message><source>No dive to export</source><translation>The logbook holds no dive, and UDDF cannot be written without one.</translation></message>
+<message><source>Label air temperature</source><translation>Air temperature</translation></message>
+<message><source>Label algorithm</source><translation>Algorithm</translation></message>
+<message><source>Label altitude</source><translation>Altitude</translation></message>
+<message><source>Label apparatus</source><translation>Apparatus</translation></message>
+<message><source>Label ballast</source><translation>Ballast</translation></message>
+<message><source>Label boat</source><translation>Boat</translation></message>
+<message><source>Label buddies</source><translation>Buddies</translation></message>
+<message><source>Label club</source><translation>Club or centre</translation></message>
+<message><source>Label configuration</source><translation>Configuration</translation></message>
+<message><source>Label conservatism</source><translation>Conservatism</translation></message>
+<message><source>Label country</source><translation>Country</translation></message>
+<message><source>Label country code</source><translation>Country code</translation></message>
+<message><source>Label current</source><translation>Current</translation></message>
+<message><source>Label date</source><translation>Date</translation></message>
+<message><source>Label datum</source><translation>Datum</translation></message>
+<message><source>Label difficulty</source><translation>Difficulty</translation></message>
+<message><source>Label dive time</source><translation>Dive time</translation></message>
+<message><source>Label dive type</source><translation>Type</translation></message>
+<message><source>Label end pressure</source><translation>End pressure</translation></message>
+<message><source>Label flow</source><translation>Flow</translation></message>
+<message><source>Label gas</source><translation>Gas</translation></message>
+<message><source>Label helium</source><translation>Helium</translation></message>
+<message><source>Label high GF</source><translation>High GF</translation></message>
+<message><source>Label immersion</source><translation>Time in</translation></message>
+<message><source>Label low GF</source><translation>Low GF</translation></message>
+<message><source>Label low setpoint</source><translation>Low setpoint (bar)</translation></message>
+<message><source>Label maker</source><translation>Maker</translation></message>
+<message><source>Label material</source><translation>Material</translation></message>
+<message><source>Label maximum depth</source><translation>Maximum depth</translation></message>
+<message><source>Label method</source><translation>Method</translation></message>
+<message><source>Label model</source><translation>Model</translation></message>
+<message><source>Label night dive</source><translation>Night dive</translation></message>
+<message><source>Label nitrogen</source><translation>Nitrogen</translation></message>
+<message><source>Label number</source><translation>Dive number</translation></message>
+<message><source>Label oxygen</source><translation>Oxygen</translation></message>
+<message><source>Label place</source><translation>Place</translation></message>
+<message><source>Label position</source><translation>GPS position</translation></message>
+<message><source>Label rating</source><translation>Rating</translation></message>
+<message><source>Label sampling interval</source><translation>Sampling interval</translation></message>
+<message><source>Label serial number</source><translation>Serial number</translation></message>
+<message><source>Label site</source><translation>Site</translation></message>
+<message><source>Label software</source><translation>Software</translation></message>
+<message><source>Label start pressure</source><translation>Start pressure</translation></message>
+<message><source>Label stop depth</source><translation>Depth</translation></message>
+<message><source>Label stop made</source><translation>Made</translation></message>
+<message><source>Label stop time</source><translation>Time</translation></message>
+<message><source>Label suit</source><translation>Suit</translation></message>
+<message><source>Label surface interval</source><translation>Surface interval</translation></message>
+<message><source>Label tide</source><translation>Tide</translation></message>
+<message><source>Label tide coefficient</source><translation>Tide coefficient</translation></message>
+<message><source>Label time to surface</source><translation>Time to surface</translation></message>
+<message><source>Label visibility</source><translation>Visibility</translation></message>
+<message><source>Label volume</source><translation>Volume</translation></message>
+<message><source>Label water temperature</source><translation>Water temperature</translation></message>
+<message><source>Label weather</source><translation>Sky</translation></message>
+<message><source>Label wind</source><translation>Wind</translation></message>
+<message><source>Label wind force</source><translation>Wind force</translation></message>
+<message><source>Label working pressure</source><translation>Working pressure</translation></message>
+<message><source>Label wrecks</source><translation>Wreck</translation></message>
+<message><source>Low tide</source><translation>Low tide</translation></message>
+<message><source>Moderate</source><translation>Moderate</translation></message>
+<message><source>Movies</source><translation>Filming</translation></message>
+<message><source>Next</source><translation>Next</translation></message>
+<message><source>Next dive</source><translation>Next dive</translation></message>
+<message><source>No Tek</source><translation>Recreational</translation></message>
 <message><source>No such field</source><translation>Dives have no field "%@" that can be used this way.</translation></message>
 <message><source>No suit</source><translation>No suit</translation></message>
 <message><source>None</source><translation>None</translation></message>
@@ -52,19 +141,35 @@
 <message><source>One dive found</source><translation>One dive found</translation></message>
 <message><source>One dive imported</source><translation>One dive was imported.</translation></message>
 <message><source>Other</source><translation>Other</translation></message>
+<message><source>Page bottles</source><translation>Bottles and computer</translation></message>
+<message><source>Page conditions</source><translation>Conditions</translation></message>
+<message><source>Page decompression</source><translation>Decompression</translation></message>
+<message><source>Page dive</source><translation>Dive</translation></message>
+<message><source>Page equipment</source><translation>Equipment and notes</translation></message>
+<message><source>Page gas</source><translation>Tanks and gas</translation></message>
+<message><source>Pages</source><translation>Pages of the dive form</translation></message>
 <message><source>Photo dive</source><translation>Photography</translation></message>
 <message><source>PpO2</source><translation>PpO₂ (bar)</translation></message>
 <message><source>Pressure in out</source><translation>The end pressure must not exceed the start pressure, and neither may be negative.</translation></message>
+<message><source>Previous</source><translation>Previous</translation></message>
+<message><source>Previous dive</source><translation>Previous dive</translation></message>
 <message><source>Profile</source><translation>Profile</translation></message>
 <message><source>Profile datas</source><translation>Profile data</translation></message>
 <message><source>Quarry</source><translation>Quarry</translation></message>
 <message><source>Rainy</source><translation>Rainy</translation></message>
+<message><source>Rating good</source><translation>Good</translation></message>
+<message><source>Rating never again</source><translation>Never again</translation></message>
+<message><source>Rating poor</source><translation>Poor</translation></message>
+<message><source>Rating unforgettable</source><translation>Unforgettable</translation></message>
 <message><source>Recreational</source><translation>Recreational</translation></message>
 <message><source>Recuperation</source><translation>Recovery</translation></message>
 <message><source>Semi-dry suit</source><translation>Semi-dry suit</translation></message>
+<message><source>Shorty</source><translation>Shorty</translation></message>
 <message><source>Snowy</source><translation>Snowy</translation></message>
 <message><source>Statistics</source><translation>Statistics</translation></message>
+<message><source>Steel</source><translation>Steel</translation></message>
 <message><source>Strong</source><translation>Strong</translation></message>
+<message><source>T-shirt</source><translation>T-shirt</translation></message>
 <message><source>TableView air Nx</source><translation>Air / Nx</translation></message>
 <message><source>TableView air Nx O2</source><translation>Air / Nx / O2</translation></message>
 <message><source>TableView air O2</source><translation>Air / O2</translation></message>
@@ -90,6 +195,9 @@
 <message><source>Tip import UDCF</source><translation>Import dives from a UDCF file</translation></message>
 <message><source>Tip import UDDF</source><translation>Import dives from a UDDF file</translation></message>
 <message><source>Tip insert</source><translation>Insert the dive before the selected one</translation></message>
+<message><source>Tip preset air</source><translation>Air in the main tank: oxygen 21, nitrogen 79, no helium</translation></message>
+<message><source>Tip preset heliox</source><translation>Heliox in the main tank: helium makes up the rest of the oxygen</translation></message>
+<message><source>Tip preset nitrox</source><translation>Nitrox in the main tank: nitrogen makes up the rest of the oxygen</translation></message>
 <message><source>Tip print</source><translation>Print the logbook</translation></message>
 <message><source>Tip profile</source><translation>Show the profile of the dive</translation></message>
 <message><source>Tip profile datas</source><translation>Show the profile data of the dive</translation></message>

@@ -5,10 +5,13 @@
 <name>Main</name>
 <message><source>Add</source><translation>Add</translation></message>
 <message><source>Add item to ComboBox</source><translation>Add “%@” to the list?</translation></message>
+<message><source>Add to toolbar</source><translation>Add to the toolbar</translation></message>
 <message><source>Cancel</source><translation>Cancel</translation></message>
 <message><source>Cancelled</source><translation>The work was cancelled.</translation></message>
 <message><source>Carnet de plongee</source><translation>Dive logbook</translation></message>
 <message><source>Cotation 1</source><translation>★</translation></message>
+<message><source>Customise</source><translation>Customise…</translation></message>
+<message><source>Customise toolbar</source><translation>Customise toolbar</translation></message>
 <message><source>Deco</source><translation>Decompression</translation></message>
 <message><source>Delete</source><translation>Delete</translation></message>
 <message><source>Display</source><translation>Display</translation></message>
@@ -26,11 +29,14 @@
 <message><source>File not writable</source><translation>The file cannot be written.</translation></message>
 <message><source>File permission denied</source><translation>You do not have permission to do so.</translation></message>
 <message><source>File system read-only</source><translation>The disk is write-protected.</translation></message>
+<message><source>Flexible space</source><translation>Flexible space</translation></message>
 <message><source>Folder missing</source><translation>The folder does not exist.</translation></message>
 <message><source>General</source><translation>General</translation></message>
 <message><source>Insert</source><translation>Insert</translation></message>
 <message><source>Logbook</source><translation>Logbook</translation></message>
 <message><source>Materiel</source><translation>Equipment</translation></message>
+<message><source>Move down</source><translation>Move towards the end</translation></message>
+<message><source>Move up</source><translation>Move towards the front</translation></message>
 <message><source>No</source><translation>No</translation></message>
 <message><source>No Mac OS Roman</source><translation>This system cannot convert text to Mac OS Roman.</translation></message>
 <message><source>No space left</source><translation>There is not enough space on the disk.</translation></message>
@@ -40,9 +46,21 @@
 <message><source>Printing</source><translation>Printing…</translation></message>
 <message><source>Profile</source><translation>Profile</translation></message>
 <message><source>Rebreather</source><translation>Rebreather</translation></message>
+<message><source>Remove from toolbar</source><translation>Remove from the toolbar</translation></message>
 <message><source>Save</source><translation>Save</translation></message>
+<message><source>Separator</source><translation>Separator</translation></message>
+<message><source>Space</source><translation>Space</translation></message>
 <message><source>Synthesis card</source><translation>Summary card</translation></message>
+<message><source>Tip customise</source><translation>Choose what this toolbar holds</translation></message>
 <message><source>Tip erase</source><translation>Clear all fields</translation></message>
+<message><source>Toolbar available</source><translation>Available</translation></message>
+<message><source>Toolbar icons</source><translation>Icons</translation></message>
+<message><source>Toolbar icons and words</source><translation>Words under icons</translation></message>
+<message><source>Toolbar initial</source><translation>Initial arrangement</translation></message>
+<message><source>Toolbar present</source><translation>In the toolbar</translation></message>
+<message><source>Toolbar shows</source><translation>Show</translation></message>
+<message><source>Toolbar words</source><translation>Words</translation></message>
+<message><source>Toolbar words beside icons</source><translation>Words beside icons</translation></message>
 <message><source>Unknown document type</source><translation>Tavrel knows no document type "%@".</translation></message>
 <message><source>Untitled</source><translation>Untitled</translation></message>
 <message><source>XML file beyond limits</source><translation>The XML file nests or grows beyond all reason and was not read.</translation></message>

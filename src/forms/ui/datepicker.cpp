@@ -6,12 +6,15 @@
 #include <QKeyEvent>
 #include <QLocale>
 
+#include <utility>
+
 namespace tavrel {
 
 namespace {
 
-/// The earliest day that the widget can hold; it stands for a blank one.
-const QDate blankDay(100, 1, 1);
+/// The bounds of what the widget can hold; a blank one holds the lower.
+const QDateTime earliest(QDate(100, 1, 1), QTime(0, 0), Qt::UTC);
+const QDateTime latest(QDate(9999, 12, 31), QTime(23, 59, 59, 999), Qt::UTC);
 
 /// The locale's short form, with the century.
 QString dayFormat() {
@@ -37,8 +40,7 @@ QDateTime asShown(const QDateTime& moment) {
 DatePicker::DatePicker(Part part, QWidget* parent) : QDateTimeEdit(parent), part_(part) {
     setTimeSpec(Qt::UTC);
     setDisplayFormat(part == day ? dayFormat() : timeFormat());
-    setMinimumDateTime(QDateTime(blankDay, QTime(0, 0), Qt::UTC));
-    setSpecialValueText(QStringLiteral(" "));
+    setDateTimeRange(earliest, latest);
     if (part == day) {
         setCalendarPopup(true);
         calendarWidget()->installEventFilter(this);
@@ -50,20 +52,37 @@ DatePicker::DatePicker(Part part, QWidget* parent) : QDateTimeEdit(parent), part
 void DatePicker::showDate(const Date& date) {
     date_ = date;
     const QDateTime moment = asShown(date.toDateTime());
-    const QDateTime shown = moment.isValid() && moment >= minimumDateTime() && moment <= maximumDateTime()
-                                ? moment
-                                : minimumDateTime();
-    if (shown != dateTime()) {
-        showing_ = true;
-        setDateTime(shown);
-        showing_ = false;
+    const bool blank = !moment.isValid() || moment <= earliest || moment > latest;
+    if (blank != blank_ || (!blank && moment != dateTime())) {
+        blank_ = blank;
+        put(blank ? earliest : moment);
     }
 }
 
+void DatePicker::put(const QDateTime& moment) {
+    showing_ = true;
+    setDateTime(moment);
+    showing_ = false;
+}
+
+QSize DatePicker::sizeHint() const {
+    if (!size_.isValid()) {
+        const bool blank = std::exchange(blank_, false);
+        size_ = QDateTimeEdit::sizeHint();
+        blank_ = blank;
+    }
+    return size_;
+}
+
+QString DatePicker::textFromDateTime(const QDateTime& moment) const {
+    return blank_ ? QStringLiteral(" ") : QDateTimeEdit::textFromDateTime(moment);
+}
+
 void DatePicker::takeChoice() {
-    if (showing_ || isBlank()) {
+    if (showing_) {
         return;
     }
+    blank_ = false;
     QDateTime before = date_.toDateTime();
     if (!before.isValid()) {
         before = QDate(2001, 1, 1).startOfDay();
@@ -76,13 +95,12 @@ void DatePicker::takeChoice() {
 }
 
 void DatePicker::startFromToday() {
-    showing_ = true;
-    setDateTime(QDateTime(QDate::currentDate(), QTime(0, 0), Qt::UTC));
-    showing_ = false;
+    blank_ = false;
+    put(QDateTime(QDate::currentDate(), QTime(0, 0), Qt::UTC));
 }
 
 bool DatePicker::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Show && isBlank() && watched == calendarWidget()) {
+    if (event->type() == QEvent::Show && blank_ && watched == calendarWidget()) {
         const QDate today = QDate::currentDate();
         calendarWidget()->setCurrentPage(today.year(), today.month());
     }
@@ -90,7 +108,7 @@ bool DatePicker::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void DatePicker::keyPressEvent(QKeyEvent* event) {
-    if (isBlank() && !event->text().isEmpty() && event->text().front().isDigit()) {
+    if (blank_ && !event->text().isEmpty() && event->text().front().isDigit()) {
         startFromToday();
         setSelectedSection(sectionAt(0));
     }
@@ -98,7 +116,7 @@ void DatePicker::keyPressEvent(QKeyEvent* event) {
 }
 
 void DatePicker::stepBy(int steps) {
-    if (isBlank()) {
+    if (blank_) {
         startFromToday();
         takeChoice();
     } else {
@@ -107,7 +125,7 @@ void DatePicker::stepBy(int steps) {
 }
 
 QAbstractSpinBox::StepEnabled DatePicker::stepEnabled() const {
-    return isBlank() ? StepUpEnabled | StepDownEnabled : QDateTimeEdit::stepEnabled();
+    return blank_ ? StepUpEnabled | StepDownEnabled : QDateTimeEdit::stepEnabled();
 }
 
 }  // namespace tavrel

@@ -17,6 +17,9 @@ public:
     explicit DatePicker(Part part, QWidget* parent = nullptr);
 
     void showDate(const Date& date);
+    /// As wide as a date, a blank picker too.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
 
 Q_SIGNALS:
     /// The user's choice: the date shown before with its day, or its time of day, replaced.
@@ -27,15 +30,18 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void stepBy(int steps) override;
     StepEnabled stepEnabled() const override;
+    QString textFromDateTime(const QDateTime& moment) const override;
 
 private:
     void takeChoice();
-    bool isBlank() const { return dateTime() == minimumDateTime(); }
+    void put(const QDateTime& moment);
     /// Gives a blank picker something to edit.
     void startFromToday();
 
     Part part_;
     Date date_;
+    mutable bool blank_ = false;
+    mutable QSize size_;
     bool showing_ = false;
 };
 

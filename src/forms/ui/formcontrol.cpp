@@ -36,9 +36,8 @@ public:
         if (control().kind != ControlKind::text) {
             edit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         }
-        connect(edit, &QLineEdit::textEdited, this, [this](const QString& typed) {
-            FormControl::state().type(FormControl::index(), typed);
-        });
+        connect(edit, &QLineEdit::textEdited, this,
+                [this](const QString& typed) { FormControl::state().type(FormControl::index(), typed); });
     }
 
 protected:
@@ -101,9 +100,8 @@ public:
         }
         menu()->setMaxVisibleItems(std::max(menu()->count(), 1));
         guardAgainstWheel(menu());
-        connect(menu(), &QComboBox::activated, this, [this](int row) {
-            FormControl::state().choose(FormControl::index(), menu()->itemData(row).toInt());
-        });
+        connect(menu(), &QComboBox::activated, this,
+                [this](int row) { FormControl::state().choose(FormControl::index(), menu()->itemData(row).toInt()); });
     }
 
 protected:
@@ -247,7 +245,9 @@ class ReadOnlyControl : public FormControl {
 public:
     ReadOnlyControl(FormStateBase& state, int index) : FormControl(state, index, new QLabel) {
         label()->setTextFormat(Qt::PlainText);
-        label()->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        if (!control().label.isEmpty()) {
+            label()->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        }
     }
 
     QList<QWidget*> focusWidgets() const override { return {}; }
@@ -281,7 +281,8 @@ private:
 class ButtonControl : public FormControl {
 public:
     ButtonControl(FormStateBase& state, int index)
-        : FormControl(state, index, new QPushButton(state.table().controls()[std::size_t(index)].control.label.text())) {
+        : FormControl(state, index,
+                      new QPushButton(state.table().controls()[std::size_t(index)].control.label.text())) {
         auto* button = static_cast<QPushButton*>(widget());
         button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, this,

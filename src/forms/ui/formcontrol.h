@@ -13,8 +13,8 @@ class QStringListModel;
 
 namespace tavrel {
 
-/// One control of a form and its widget, bound both ways: what the user does goes into the state as the user's doing, and
-/// show() brings the state into the widget without any echo. The widget belongs to the page it is placed on.
+/// One control of a form and its widget, bound both ways: what the user does goes into the state as the user's doing,
+/// and show() brings the state into the widget without any echo. The widget belongs to the page it is placed on.
 class FormControl : public QObject {
     Q_OBJECT
 

@@ -135,7 +135,7 @@ QWidget* FormPages::buildPage(int number) {
             auto* band = static_cast<QHBoxLayout*>(bands->itemAt(bands->count() - 1)->layout());
             while (columns.size() <= column) {
                 columns.push_back(new QVBoxLayout);
-                band->addLayout(columns.back(), 1);
+                band->addLayout(columns.back());
                 filled.push_back(false);
             }
             columns[column]->addWidget(laidOut.box, laidOut.stretches ? 1 : 0);

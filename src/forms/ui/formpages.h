@@ -15,8 +15,9 @@
 
 namespace tavrel {
 
-/// The widgets of a form, built from its table: one widget per page, with titled groups, labels, units and every control
-/// once, bound to the form's state both ways. The lists of its combo boxes follow the shared pick lists at once.
+/// The widgets of a form, built from its table: one widget per page, with titled groups, labels, units and every
+/// control once, bound to the form's state both ways. The lists of its combo boxes follow the shared pick lists at
+/// once.
 class FormPages : public QObject {
     Q_OBJECT
 

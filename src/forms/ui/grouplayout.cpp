@@ -79,23 +79,34 @@ private:
         }
     }
 
+    /// What is measured in a unit is a number, whatever control holds it.
+    static bool isNumber(const Control& control) { return !control.unit.isEmpty(); }
+
+    static int fieldWidth(const QWidget* widget, const Control& control) {
+        const int usual = control.kind == ControlKind::text ? 14 : control.kind == ControlKind::decimal ? 7 : 6;
+        return widthOfCharacters(widget, (control.width > 0 ? control.width : usual) + 2);
+    }
+
     void setWidth(int index) const {
         const Control& declared = control(index);
         QWidget* widget = form(index).widget();
         if (auto* line = qobject_cast<QLineEdit*>(widget)) {
-            const int usual = declared.kind == ControlKind::text ? 14 : declared.kind == ControlKind::decimal ? 7 : 6;
-            const int frame = 2 * widthOfCharacters(line, 1);
-            const int width = widthOfCharacters(line, declared.width > 0 ? declared.width : usual) + frame;
+            const int width = fieldWidth(line, declared);
             if (expands(declared)) {
                 line->setMinimumWidth(width);
             } else {
                 line->setFixedWidth(width);
             }
         } else if (auto* combo = qobject_cast<QComboBox*>(widget)) {
-            if (declared.kind == ControlKind::combo) {
-                combo->setMinimumContentsLength(declared.width > 0 ? declared.width : 14);
+            combo->setMinimumContentsLength(declared.width > 0 ? declared.width : expands(declared) ? 14 : 9);
+            if (combo->lineEdit() && isNumber(declared)) {
+                combo->lineEdit()->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
             }
             combo->setSizePolicy(expands(declared) ? QSizePolicy::Expanding : QSizePolicy::Fixed, QSizePolicy::Fixed);
+        } else if (auto* shown = qobject_cast<QLabel*>(widget); shown && isNumber(declared)) {
+            shown->setFixedWidth(fieldWidth(shown, declared));
+            shown->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+            shown->setContentsMargins(0, 0, widthOfCharacters(shown, 1) / 2, 0);
         } else if (declared.width > 0) {
             widget->setMinimumWidth(widthOfCharacters(widget, declared.width));
         }
@@ -249,10 +260,14 @@ private:
             }
             for (const int index : cell.controls) {
                 const Title& own = control(index).label;
-                name(index, QStringLiteral("%1 %2").arg((own.isEmpty() ? control(first).label : own).text()).arg(
-                                cell.place + 1));
+                name(index, QStringLiteral("%1 %2")
+                                .arg((own.isEmpty() ? control(first).label : own).text())
+                                .arg(cell.place + 1));
             }
             grid.addLayout(line(cell.controls), rows ? position : cell.place + 1, rows ? cell.place + 1 : position + 1);
+        }
+        if (rows) {
+            levelComboBoxes();
         }
         // What follows the last column keeps the columns together.
         grid.setColumnStretch((rows ? places : static_cast<int>(lines.size())) + 1, 1);
@@ -262,6 +277,18 @@ private:
                     visit(cell.controls);
                 }
             }
+        }
+    }
+
+    /// Menus and lists that stand under one another get one width.
+    void levelComboBoxes() const {
+        int widest = 0;
+        const auto boxes = result_.box->findChildren<QComboBox*>();
+        for (const QComboBox* box : boxes) {
+            widest = std::max(widest, box->sizeHint().width());
+        }
+        for (QComboBox* box : boxes) {
+            box->setMinimumWidth(widest);
         }
     }
 

@@ -29,8 +29,9 @@ constexpr std::array tableItems{
     ToolItem{"rechercher", {"Carnet", "Find"}, "", {}},
 };
 constexpr std::array tableAllowed{
-    "saveDocument", "imprimer",   "newDive",    "deleteDive", "profil",          "profilData",  "importUDCF", "importUDDF",
-    "synthese",     "statistics", toolSpace,    toolFlexibleSpace, toolSeparator, toolCustomise, "rechercher",
+    "saveDocument", "imprimer",        "newDive",     "deleteDive",  "profil",
+    "profilData",   "importUDCF",      "importUDDF",  "synthese",    "statistics",
+    toolSpace,      toolFlexibleSpace, toolSeparator, toolCustomise, "rechercher",
 };
 constexpr std::array tableInitial{
     "saveDocument", "imprimer", toolSeparator, "newDive",     "deleteDive",  "profil",          "importUDCF",
@@ -47,7 +48,7 @@ constexpr std::array editItems{
     importUddf,
 };
 constexpr std::array editAllowed{
-    "addDiveToList", "insertDive",      "blankFields", "profil",     "profilData",
+    "addDiveToList", "insertDive",      "blankFields", "profil",      "profilData",
     toolSpace,       toolFlexibleSpace, toolSeparator, toolCustomise,
 };
 constexpr std::array editInitial{

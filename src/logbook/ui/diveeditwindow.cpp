@@ -52,10 +52,9 @@ void bind(QWidget* window, const QKeySequence& keys, std::function<void()> comma
 }  // namespace
 
 DiveEditWindow::DiveEditWindow(Carnet& carnet, Desktop& desktop, QWidget* parent)
-    : QMainWindow(parent),
-      carnet_(carnet),
-      pages_(carnet.form().state(), desktop,
-             [&carnet](int list) { return carnet.form().ownList(static_cast<DiveList>(list)); }) {
+    : QMainWindow(parent), carnet_(carnet), pages_(carnet.form().state(), desktop, [&carnet](int list) {
+          return carnet.form().ownList(static_cast<DiveList>(list));
+      }) {
     setObjectName(QStringLiteral("diveEditWindow"));
     buildToolBar(desktop);
     buildContents();
@@ -123,14 +122,17 @@ void DiveEditWindow::buildContents() {
         }
     });
 
-    previous_ = new QPushButton(iconNamed(QStringLiteral("precedent")), text("Carnet", "Previous dive"));
+    previous_ = new QPushButton(iconNamed(QStringLiteral("precedent")), text("Carnet", "Previous"));
+    previous_->setAccessibleName(text("Carnet", "Previous dive"));
     previous_->setObjectName(QStringLiteral("previousButton"));
     previous_->setShortcut(Qt::CTRL | Qt::Key_PageUp);
-    next_ = new QPushButton(iconNamed(QStringLiteral("suivant")), text("Carnet", "Next dive"));
+    next_ = new QPushButton(iconNamed(QStringLiteral("suivant")), text("Carnet", "Next"));
+    next_->setAccessibleName(text("Carnet", "Next dive"));
     next_->setObjectName(QStringLiteral("nextButton"));
     next_->setShortcut(Qt::CTRL | Qt::Key_PageDown);
     for (auto* button : {previous_, next_}) {
-        button->setToolTip(button->shortcut().toString(QKeySequence::NativeText));
+        button->setToolTip(QStringLiteral("%1 (%2)").arg(button->accessibleName(),
+                                                         button->shortcut().toString(QKeySequence::NativeText)));
     }
     connect(previous_, &QPushButton::clicked, this, [this] { step(-1); });
     connect(next_, &QPushButton::clicked, this, [this] { step(+1); });
@@ -141,6 +143,7 @@ void DiveEditWindow::buildContents() {
 
     auto* foot = new QHBoxLayout;
     foot->setContentsMargins(11, 4, 11, 9);
+    foot->setSpacing(16);
     foot->addWidget(previous_);
     foot->addWidget(status_, 1);
     foot->addWidget(next_);
@@ -208,6 +211,8 @@ void DiveEditWindow::showPage() {
 void DiveEditWindow::resizeWindowToSize(const QSize& size) {
     delete std::exchange(resizing_, nullptr);
     static_cast<PageStack*>(stack_)->setWanted(size);
+    centralWidget()->layout()->activate();
+    layout()->invalidate();
     if (isMaximized() || isFullScreen()) {
         return;
     }

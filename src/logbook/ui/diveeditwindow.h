@@ -17,8 +17,8 @@ class QTabBar;
 
 namespace tavrel {
 
-/// The dive edit window of a logbook: the six pages of the dive form, one at a time, each at its natural size. Opens and
-/// closes as the logbook asks. Closing it, and going to another dive, stores the form into the selected dive.
+/// The dive edit window of a logbook: the six pages of the dive form, one at a time, each at its natural size. Opens
+/// and closes as the logbook asks. Closing it, and going to another dive, stores the form into the selected dive.
 class DiveEditWindow : public QMainWindow {
     Q_OBJECT
 
@@ -37,7 +37,8 @@ public:
     void goView_4() { goView(4); }
     void goView_5() { goView(5); }
     void goView_6() { goView(6); }
-    /// Shows a page, from 1: the window takes the page's natural size, its top edge in place, and the form is refreshed.
+    /// Shows a page, from 1: the window takes the page's natural size, its top edge in place, and the form is
+    /// refreshed.
     void goView(int page);
     int currentPage() const { return page_; }
     /// Gives the area of the pages a size; the top edge stays in place. Moves smoothly where the user's desktop does.

@@ -54,8 +54,9 @@ CustomToolBar::CustomToolBar(const ToolBarDescription& description, Preferences&
 CustomToolBar::~CustomToolBar() = default;
 
 const ToolItem* CustomToolBar::item(const QString& identifier) const {
-    const auto found = std::find_if(description_.items.begin(), description_.items.end(),
-                                    [&](const ToolItem& each) { return identifier == QLatin1StringView(each.identifier); });
+    const auto found = std::find_if(description_.items.begin(), description_.items.end(), [&](const ToolItem& each) {
+        return identifier == QLatin1StringView(each.identifier);
+    });
     return found == description_.items.end() ? nullptr : &*found;
 }
 

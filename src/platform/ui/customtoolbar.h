@@ -42,8 +42,8 @@ struct ToolBarDescription {
 };
 
 /// A toolbar that its user arranges: items are added, removed and moved in a dialog, and the arrangement is remembered
-/// under the toolbar's identifier. An item shows only when the program at hand can do it (it has a command or a widget);
-/// one that it cannot do keeps its place all the same.
+/// under the toolbar's identifier. An item shows only when the program at hand can do it (it has a command or a
+/// widget); one that it cannot do keeps its place all the same.
 class CustomToolBar : public QToolBar {
     Q_OBJECT
 

@@ -118,6 +118,7 @@ QListWidgetItem* ToolBarDialog::makeItem(const QString& identifier) const {
         item->setToolTip(action->toolTip());
     }
     item->setData(identifierRole, identifier);
+    item->setSizeHint(QSize(0, toolBar_.iconSize().height() + 4));
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled);
     return item;
 }
