@@ -6,8 +6,8 @@
 <message><source>&#13;   - Shorty</source><translation>&#13;   - Shorty</translation></message>
 <message><source>&#13;   - T-shirt</source><translation>&#13;   - T-shirt</translation></message>
 <message><source>Air</source><translation>Air</translation></message>
-<message><source>Bad</source><translation>Bad</translation></message>
 <message><source>Aluminum</source><translation>Aluminium</translation></message>
+<message><source>Bad</source><translation>Bad</translation></message>
 <message><source>Beaufort</source><translation>Beaufort</translation></message>
 <message><source>Biology</source><translation>Marine biology</translation></message>
 <message><source>Carbon</source><translation>Carbon</translation></message>
@@ -64,10 +64,6 @@
 <message><source>Import format unknown</source><translation>The file is neither UDCF nor UDDF nor a handheld logbook.</translation></message>
 <message><source>Import stopped</source><translation>The import stopped at dive %d of the file: %@.</translation></message>
 <message><source>Imported dives</source><translation>%d dives were imported.</translation></message>
-<message><source>Medium</source><translation>Medium</translation></message>
-<message><source>Moderate</source><translation>Moderate</translation></message>
-<message><source>Movies</source><translation>Filming</translation></message>
-<message><source>No dive to export</source><translation>The logbook holds no dive, and UDDF cannot be written without one.</translation></message>
 <message><source>Label air temperature</source><translation>Air temperature</translation></message>
 <message><source>Label algorithm</source><translation>Algorithm</translation></message>
 <message><source>Label altitude</source><translation>Altitude</translation></message>
@@ -128,11 +124,13 @@
 <message><source>Label working pressure</source><translation>Working pressure</translation></message>
 <message><source>Label wrecks</source><translation>Wreck</translation></message>
 <message><source>Low tide</source><translation>Low tide</translation></message>
+<message><source>Medium</source><translation>Medium</translation></message>
 <message><source>Moderate</source><translation>Moderate</translation></message>
 <message><source>Movies</source><translation>Filming</translation></message>
 <message><source>Next</source><translation>Next</translation></message>
 <message><source>Next dive</source><translation>Next dive</translation></message>
 <message><source>No Tek</source><translation>Recreational</translation></message>
+<message><source>No dive to export</source><translation>The logbook holds no dive, and UDDF cannot be written without one.</translation></message>
 <message><source>No such field</source><translation>Dives have no field "%@" that can be used this way.</translation></message>
 <message><source>No suit</source><translation>No suit</translation></message>
 <message><source>None</source><translation>None</translation></message>

@@ -6,8 +6,8 @@
 <message><source>&#13;   - Shorty</source><translation>&#13;   - Shorty</translation></message>
 <message><source>&#13;   - T-shirt</source><translation>&#13;   - T-shirt</translation></message>
 <message><source>Air</source><translation>Air</translation></message>
-<message><source>Bad</source><translation>Mauvaise</translation></message>
 <message><source>Aluminum</source><translation>Aluminium</translation></message>
+<message><source>Bad</source><translation>Mauvaise</translation></message>
 <message><source>Beaufort</source><translation>Beaufort</translation></message>
 <message><source>Biology</source><translation>Biologie</translation></message>
 <message><source>Carbon</source><translation>Carbone</translation></message>
@@ -64,10 +64,6 @@
 <message><source>Import format unknown</source><translation>Le fichier n’est ni UDCF, ni UDDF, ni un carnet d’ordinateur de poche.</translation></message>
 <message><source>Import stopped</source><translation>L’importation s’est arrêtée à la plongée %d du fichier : %@.</translation></message>
 <message><source>Imported dives</source><translation>%d plongées ont été importées.</translation></message>
-<message><source>Medium</source><translation>Moyenne</translation></message>
-<message><source>Moderate</source><translation>Modéré</translation></message>
-<message><source>Movies</source><translation>Vidéo</translation></message>
-<message><source>No dive to export</source><translation>Le carnet ne contient aucune plongée, et l’UDDF ne peut s’écrire sans.</translation></message>
 <message><source>Label air temperature</source><translation>Température de l’air</translation></message>
 <message><source>Label algorithm</source><translation>Algorithme</translation></message>
 <message><source>Label altitude</source><translation>Altitude</translation></message>
@@ -128,11 +124,13 @@
 <message><source>Label working pressure</source><translation>Pression de service</translation></message>
 <message><source>Label wrecks</source><translation>Épave</translation></message>
 <message><source>Low tide</source><translation>Basse mer</translation></message>
+<message><source>Medium</source><translation>Moyenne</translation></message>
 <message><source>Moderate</source><translation>Modéré</translation></message>
 <message><source>Movies</source><translation>Vidéo</translation></message>
 <message><source>Next</source><translation>Suivante</translation></message>
 <message><source>Next dive</source><translation>Plongée suivante</translation></message>
 <message><source>No Tek</source><translation>Loisir</translation></message>
+<message><source>No dive to export</source><translation>Le carnet ne contient aucune plongée, et l’UDDF ne peut s’écrire sans.</translation></message>
 <message><source>No such field</source><translation>Les plongées n’ont pas de champ « %@ » utilisable ainsi.</translation></message>
 <message><source>No suit</source><translation>Sans combinaison</translation></message>
 <message><source>None</source><translation>Nul</translation></message>
