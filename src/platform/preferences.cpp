@@ -111,8 +111,14 @@ QSettings openStore(const QString& file) {
 
 }  // namespace
 
-Preferences::Preferences(const QString& file) : store_(openStore(file)) {
+Preferences::Preferences(const QString& file, Keeping keeping) : store_(openStore(file)) {
     store_.setFallbacksEnabled(false);
+    if (keeping == Keeping::thisRun) {
+        thisRun_.emplace();
+        for (const QString& key : store_.allKeys()) {
+            thisRun_->insert(key, store_.value(key));
+        }
+    }
 }
 
 void Preferences::registerDefaults(const QVariantMap& defaults) {
@@ -122,7 +128,11 @@ void Preferences::registerDefaults(const QVariantMap& defaults) {
 }
 
 bool Preferences::isStored(const QString& key) const {
-    return store_.contains(key);
+    return thisRun_ ? thisRun_->contains(key) : store_.contains(key);
+}
+
+QVariant Preferences::stored(const QString& key) const {
+    return thisRun_ ? thisRun_->value(key) : store_.value(key);
 }
 
 /// What the stored value reads as, else what the default reads as, else the zero of the kind.
@@ -130,8 +140,8 @@ template <class Reader>
 auto Preferences::read(const QString& key, Reader reader) const {
     using Value = typename decltype(reader(QVariant()))::value_type;
     std::optional<Value> value;
-    if (store_.contains(key)) {
-        value = reader(store_.value(key));
+    if (isStored(key)) {
+        value = reader(stored(key));
     }
     if (!value && defaults_.contains(key)) {
         value = reader(defaults_.value(key));
@@ -167,6 +177,10 @@ void Preferences::setColor(const QString& key, const QColor& color) {
 }
 
 void Preferences::remove(const QString& key) {
+    if (thisRun_) {
+        thisRun_->remove(key);
+        return;
+    }
     store_.remove(key);
     if (together_ == 0) {
         store_.sync();
@@ -174,6 +188,10 @@ void Preferences::remove(const QString& key) {
 }
 
 void Preferences::write(const QString& key, const QVariant& value) {
+    if (thisRun_) {
+        thisRun_->insert(key, value);
+        return;
+    }
     store_.setValue(key, value);
     if (together_ == 0) {
         store_.sync();
@@ -198,7 +216,7 @@ Expected<void> Preferences::synchronize() {
 }
 
 QByteArray Preferences::windowState(const QString& name) const {
-    const QVariant state = store_.value(windowKey(name));
+    const QVariant state = stored(windowKey(name));
     return state.typeId() == QMetaType::QByteArray ? state.toByteArray() : QByteArray();
 }
 

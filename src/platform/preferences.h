@@ -10,6 +10,8 @@
 #include <QVariant>
 #include <QVariantMap>
 
+#include <optional>
+
 namespace tavrel {
 
 /// The user's settings: keys with booleans, numbers, strings, string arrays and colours. A key that was never stored,
@@ -19,8 +21,13 @@ namespace tavrel {
 /// can be read as. A store that cannot be written keeps its values for the life of the program.
 class Preferences {
 public:
+    enum class Keeping {
+        onDisk,
+        thisRun,  ///< what is set counts for the life of the program and never reaches the file
+    };
+
     /// The store in the user's configuration folder (XDG), or the file given (tests).
-    explicit Preferences(const QString& file = {});
+    explicit Preferences(const QString& file = {}, Keeping keeping = Keeping::onDisk);
 
     /// Adds defaults; they apply while the user has no value of their own.
     void registerDefaults(const QVariantMap& defaults);
@@ -66,8 +73,10 @@ private:
     template <class Reader>
     auto read(const QString& key, Reader reader) const;
     void write(const QString& key, const QVariant& value);
+    QVariant stored(const QString& key) const;
 
     QSettings store_;
+    std::optional<QVariantMap> thisRun_;  ///< stands in for the store once it was read
     QVariantMap defaults_;
     int together_ = 0;
 };

@@ -173,6 +173,23 @@ TEST(Preferences, haveTheirRegisteredDefaults) {
     EXPECT_NEAR(preferences.color(QStringLiteral("background color")).redF(), 0.5, 1e-4);
 }
 
+TEST(Preferences, ofOneRunLeaveTheFileAsItIs) {
+    TestDesktop desktop;
+    desktop.preferences.set(QStringLiteral("country code"), QStringLiteral("FRA"));
+    desktop.preferences.set(QStringLiteral("tank volume"), 12);
+    {
+        Preferences run(desktop.path(QStringLiteral("preferences.ini")), Preferences::Keeping::thisRun);
+        EXPECT_EQ(run.string(QStringLiteral("country code")), u"FRA");
+        run.set(QStringLiteral("country code"), QStringLiteral("EGY"));
+        run.remove(QStringLiteral("tank volume"));
+        EXPECT_EQ(run.string(QStringLiteral("country code")), u"EGY");
+        EXPECT_FALSE(run.isStored(QStringLiteral("tank volume")));
+    }
+    const NextRun next(desktop);
+    EXPECT_EQ(next.store.string(QStringLiteral("country code")), u"FRA");
+    EXPECT_EQ(next.store.integer(QStringLiteral("tank volume")), 12);
+}
+
 TEST(PickLists, areFilledStoredAndSortedByCharacterCode) {
     TestDesktop desktop;
     PickLists& lists = desktop.pickLists;
