@@ -40,6 +40,8 @@
 <message><source>No</source><translation>No</translation></message>
 <message><source>No Mac OS Roman</source><translation>This system cannot convert text to Mac OS Roman.</translation></message>
 <message><source>No space left</source><translation>There is not enough space on the disk.</translation></message>
+<message><source>No such field</source><translation>There is no field “%@”.</translation></message>
+<message><source>No such value</source><translation>“%@” cannot be “%@”.</translation></message>
 <message><source>No valid datas</source><translation>The values are not valid.</translation></message>
 <message><source>Preferences not saved</source><translation>The preferences could not be saved to “%@”.</translation></message>
 <message><source>Print</source><translation>Print</translation></message>

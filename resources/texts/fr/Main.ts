@@ -40,6 +40,8 @@
 <message><source>No</source><translation>Non</translation></message>
 <message><source>No Mac OS Roman</source><translation>Ce système ne sait pas convertir du texte en Mac OS Roman.</translation></message>
 <message><source>No space left</source><translation>Il n’y a plus assez de place sur le disque.</translation></message>
+<message><source>No such field</source><translation>Il n’y a pas de champ « %@ ».</translation></message>
+<message><source>No such value</source><translation>« %@ » ne peut pas valoir « %@ ».</translation></message>
 <message><source>No valid datas</source><translation>Les valeurs ne sont pas valables.</translation></message>
 <message><source>Preferences not saved</source><translation>Impossible d’enregistrer les préférences dans « %@ ».</translation></message>
 <message><source>Print</source><translation>Imprimer</translation></message>
