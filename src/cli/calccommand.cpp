@@ -19,13 +19,6 @@ namespace tavrel {
 
 namespace {
 
-QString fromArgument(const std::string& argument) {
-    return QString::fromLocal8Bit(argument);
-}
-
-void print(Console& console, const QString& text) {
-    console.out << text.toStdString() << '\n';
-}
 void print(Console& console, const JsonWriter& json) {
     console.out << json.text() << '\n';
 }

@@ -1,14 +1,49 @@
 #include "cli/commandline.h"
 
+#include "platform/texts.h"
+
 #include <CLI/CLI.hpp>
+
+#include <ostream>
 
 namespace tavrel {
 
+QString fromArgument(const std::string& argument) {
+    return QString::fromLocal8Bit(argument);
+}
+
+std::string toArgument(const QString& text) {
+    return text.toLocal8Bit().toStdString();
+}
+
+void print(Console& console, const QString& line) {
+    console.out << toArgument(line) << '\n';
+}
+
+void fail(Console& console, const Failure& failure) {
+    console.error << toArgument(failure.message()) << '\n';
+    console.exitCode = exitFailed;
+}
+
+void wrongUsage(const QString& sentence) {
+    throw CLI::ValidationError(toArgument(sentence));
+}
+
 int runCommandLine(CLI::App& app, int argc, const char* const* argv, Console& console) {
+    // At least one command, checked last, so that a misspelt one is named.
+    app.require_subcommand(0, 1);
+    app.final_callback([&app] {
+        if (app.get_subcommands().empty()) {
+            throw CLI::RequiredError("A command");
+        }
+    });
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& stopped) {
         return app.exit(stopped, console.out, console.error) == 0 ? 0 : exitWrongUsage;
+    }
+    if (!console.out.flush()) {
+        fail(console, {text("Cli", "Output not written"), {}});
     }
     return console.exitCode;
 }

@@ -1,6 +1,11 @@
 #pragma once
 
+#include "platform/failure.h"
+
+#include <QString>
+
 #include <iosfwd>
+#include <string>
 
 namespace CLI {
 class App;
@@ -18,6 +23,16 @@ struct Console {
 
 inline constexpr int exitFailed = 1;
 inline constexpr int exitWrongUsage = 2;
+
+/// A word of the command line as text; the other way for what CLI11 shows.
+QString fromArgument(const std::string& argument);
+std::string toArgument(const QString& text);
+
+void print(Console& console, const QString& line);
+/// Tells why a command could not be done, which ends the program with exitFailed.
+void fail(Console& console, const Failure& failure);
+/// Leaves a command that was asked for something that does not exist; the program ends with exitWrongUsage.
+[[noreturn]] void wrongUsage(const QString& sentence);
 
 /// Parses the arguments and runs the command among them. Returns the exit code: 0 done (help and version included), 1
 /// failed, 2 wrong usage.

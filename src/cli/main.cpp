@@ -1,5 +1,6 @@
 #include "cli/calccommand.h"
 #include "cli/commandline.h"
+#include "cli/documentcommands.h"
 #include "platform/texts.h"
 
 #include <CLI/CLI.hpp>
@@ -10,12 +11,17 @@
 #include <iostream>
 
 int main(int argc, char** argv) try {
-    QCoreApplication application(argc, argv);
+    std::ios::sync_with_stdio(false);
+    // Texts and file names are UTF-8 in every locale. In a bare environment the toolkit says so on standard error,
+    // which belongs to the commands.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    const QCoreApplication application(argc, argv);
+    qInstallMessageHandler(nullptr);
     tavrel::setTextLanguage();
     CLI::App app("Tavrel on the command line: the documents and calculators of the divers' application", "tavrel-cli");
     app.set_version_flag("--version", "tavrel-cli " TAVREL_VERSION);
-    app.require_subcommand(1);
     tavrel::Console console{std::cout, std::cerr};
+    tavrel::addDocumentCommands(app, console);
     tavrel::addCalcCommand(app, console);
     return tavrel::runCommandLine(app, argc, argv, console);
 } catch (const std::exception& error) {

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "cli/commandline.h"
+#include "platform/alerts.h"
+#include "platform/clock.h"
+#include "platform/desktop.h"
+#include "platform/notificationcentre.h"
+#include "platform/picklists.h"
+#include "platform/preferences.h"
+
+namespace tavrel {
+
+/// Speaks on standard error. Whoever typed a command meant it: every question is answered with its affirmative button.
+class ConsoleAlerts : public Alerts {
+public:
+    explicit ConsoleAlerts(Console& console) : console_(console) {}
+
+    void beep() override {}
+    int ask(const QString& message, const QStringList& buttons) override;
+    void tell(const QString& message) override;
+    void fail(const Failure& failure) override;
+
+private:
+    Console& console_;
+};
+
+/// What documents live on in the command line: the user's preferences as they stand, which no command changes.
+class CliDesktop {
+public:
+    explicit CliDesktop(Console& console);
+
+    operator Desktop&() { return desktop_; }
+
+private:
+    Preferences preferences_;
+    NotificationCentre notifications_;
+    PickLists pickLists_;
+    ConsoleAlerts alerts_;
+    Clock clock_;
+    Desktop desktop_;
+};
+
+}  // namespace tavrel

@@ -1,0 +1,249 @@
+#include "cli/documentcommands.h"
+
+#include "cli/clidesktop.h"
+#include "cli/documentdriver.h"
+#include "cli/listing.h"
+#include "platform/safefile.h"
+#include "platform/texts.h"
+
+#include <CLI/CLI.hpp>
+#include <QFile>
+#include <QFileInfo>
+
+#include <memory>
+#include <numeric>
+#include <ostream>
+
+namespace tavrel {
+
+namespace {
+
+/// What the commands take; each uses its part.
+struct Arguments {
+    std::string file;
+    std::string type;
+    std::vector<std::string> entries;
+    int row = 0;
+    std::vector<int> rows;
+    int number = 0;
+    std::string field;
+    std::string searched;
+    std::vector<std::string> columns;
+};
+
+QString fileArgument(const Arguments& arguments) {
+    return QFile::decodeName(QByteArray::fromStdString(arguments.file));
+}
+
+/// An open document on a desktop of its own.
+struct Session {
+    explicit Session(Console& console) : desktop(console) {}
+
+    Expected<void> open(const QString& path) {
+        const auto bytes = FileBytes::open(path);
+        if (!bytes) {
+            return tl::unexpected(bytes.error());
+        }
+        const auto kind = documentKindOf(path, bytes->bytes());
+        if (!kind) {
+            return tl::unexpected(openingFailure(path, kind.error()));
+        }
+        driver = (*kind)->make(desktop);
+        return driver->document().open(path);
+    }
+
+    /// A failure when the document has no such row.
+    Expected<void> checkRow(int row) const {
+        const int count = driver->document().count();
+        if (row < 0 || row >= count) {
+            return failure(textWith("Cli", "No such row", QStringLiteral("error !"), row, count));
+        }
+        return {};
+    }
+
+    CliDesktop desktop;
+    std::unique_ptr<DocumentDriver> driver;
+};
+
+/// Opens the file, does the work and, when all of it succeeded, saves the document.
+template <class Work>
+void changeFile(const Arguments& arguments, Console& console, Work work) {
+    Session session(console);
+    Expected<void> done = session.open(fileArgument(arguments));
+    if (done) {
+        done = work(session);
+    }
+    if (done) {
+        done = session.driver->document().save();
+    }
+    if (!done) {
+        fail(console, done.error());
+    }
+}
+
+/// Enters every "field=value" into the form. What the form does not have is wrong usage.
+void enterAll(DocumentDriver& driver, const std::vector<std::string>& entries) {
+    for (const std::string& argument : entries) {
+        const QString entry = fromArgument(argument);
+        const auto equals = entry.indexOf(u'=');
+        if (equals < 1) {
+            wrongUsage(textWith("Cli", "Not an entry", QStringLiteral("error !"), entry));
+        }
+        if (const auto entered = driver.enter(entry.left(equals), entry.mid(equals + 1)); !entered) {
+            wrongUsage(entered.error().message());
+        }
+    }
+}
+
+void runNew(const Arguments& arguments, Console& console) {
+    const DocumentKind* kind = documentKindNamed(fromArgument(arguments.type));
+    if (!kind) {
+        QStringList names;
+        for (const DocumentKind& known : documentKinds()) {
+            names.append(known.name());
+        }
+        wrongUsage(textWith("Cli", "No such type", QStringLiteral("error !"), fromArgument(arguments.type),
+                            names.join(QStringLiteral(", "))));
+    }
+    const QString path = fileArgument(arguments);
+    if (QFileInfo::exists(path) || QFileInfo(path).isSymLink()) {
+        fail(console, {textWith("Cli", "File exists", QStringLiteral("error !"), path), {}});
+        return;
+    }
+    CliDesktop desktop(console);
+    if (const auto saved = kind->make(desktop)->document().saveAs(path); !saved) {
+        fail(console, saved.error());
+    }
+}
+
+void runAdd(const Arguments& arguments, Console& console) {
+    changeFile(arguments, console, [&](Session& session) -> Expected<void> {
+        session.driver->beginRecord();
+        enterAll(*session.driver, arguments.entries);
+        session.driver->addRecord();
+        return {};
+    });
+}
+
+void runSet(const Arguments& arguments, Console& console) {
+    changeFile(arguments, console, [&](Session& session) {
+        return session.checkRow(arguments.row).map([&] {
+            session.driver->editRecord(arguments.row);
+            enterAll(*session.driver, arguments.entries);
+            session.driver->updateRecord();
+        });
+    });
+}
+
+void runDelete(const Arguments& arguments, Console& console) {
+    changeFile(arguments, console, [&](Session& session) -> Expected<void> {
+        for (const int row : arguments.rows) {
+            if (auto checked = session.checkRow(row); !checked) {
+                return checked;
+            }
+        }
+        session.driver->document().selectRows(QList<int>(arguments.rows.begin(), arguments.rows.end()));
+        session.driver->deleteRecords();
+        return {};
+    });
+}
+
+void runRenumber(const Arguments& arguments, Console& console) {
+    changeFile(arguments, console, [&](Session& session) { return session.driver->renumber(arguments.number); });
+}
+
+void runFind(const Arguments& arguments, Console& console) {
+    Session session(console);
+    if (const auto opened = session.open(fileArgument(arguments)); !opened) {
+        fail(console, opened.error());
+        return;
+    }
+    const auto found = session.driver->find(fromArgument(arguments.field), fromArgument(arguments.searched));
+    if (!found) {
+        wrongUsage(found.error().message());
+    }
+    const QList<int>& rows = session.driver->document().selectedRows();
+    if (!rows.isEmpty()) {
+        printRecords(*session.driver, session.driver->tableColumns(), rows, console.out);
+    }
+    print(console, *found);
+}
+
+Expected<void> showTable(const QString& path, const std::vector<std::string>& fields, Console& console) {
+    Session session(console);
+    if (auto opened = session.open(path); !opened) {
+        return opened;
+    }
+    const DocumentDriver& driver = *session.driver;
+    std::vector<ListColumn> columns;
+    for (const std::string& field : fields) {
+        const auto column = driver.column(fromArgument(field));
+        if (!column) {
+            wrongUsage(textWith("Main", "No such field", QStringLiteral("error !"), fromArgument(field)));
+        }
+        columns.push_back(*column);
+    }
+    QList<int> rows(session.driver->document().count());
+    std::iota(rows.begin(), rows.end(), 0);
+    printRecords(driver, columns.empty() ? driver.tableColumns() : columns, rows, console.out);
+    return {};
+}
+
+void runShow(const Arguments& arguments, Console& console) {
+    const QString path = fileArgument(arguments);
+    const auto shown = showTable(path, arguments.columns, console);
+    if (!shown) {
+        fail(console, shown.error());
+    }
+}
+
+}  // namespace
+
+void addDocumentCommands(CLI::App& app, Console& console) {
+    const auto arguments = std::make_shared<Arguments>();
+    const auto add = [&](const char* name, const char* help, void (*run)(const Arguments&, Console&)) {
+        CLI::App* command = app.add_subcommand(name, help);
+        command->callback([arguments, &console, run] { run(*arguments, console); });
+        return command;
+    };
+    const auto addFile = [&](CLI::App* command) {
+        command->add_option("FILE", arguments->file, "The document")->required();
+    };
+    const auto addEntries = [&](CLI::App* command) {
+        return command->add_option("ENTRIES", arguments->entries, "field=value, by the field's or the control's name");
+    };
+
+    CLI::App* show = add("show", "Lists the records of a document", runShow);
+    addFile(show);
+    show->add_option("--columns", arguments->columns, "The fields to list, separated by commas")
+        ->delimiter(',')
+        ->allow_extra_args(false);
+
+    CLI::App* create = add("new", "Makes an empty document", runNew);
+    create->add_option("TYPE", arguments->type, "The type's name, such as \"Carnet de plongee\"")->required();
+    addFile(create);
+
+    CLI::App* append = add("add", "Adds a record through the document's form", runAdd);
+    addFile(append);
+    addEntries(append);
+
+    CLI::App* set = add("set", "Changes a record through the document's form", runSet);
+    addFile(set);
+    set->add_option("ROW", arguments->row, "The record's row, from 0")->required();
+    addEntries(set)->required();
+
+    CLI::App* erase = add("delete", "Removes records", runDelete);
+    addFile(erase);
+    erase->add_option("ROW", arguments->rows, "The records' rows, from 0")->required();
+
+    CLI::App* renumber = add("renumber", "Numbers all records in their order", runRenumber);
+    addFile(renumber);
+    renumber->add_option("FIRST", arguments->number, "The first number")->required();
+
+    CLI::App* find = add("find", "Lists the records whose field holds a text, case aside", runFind);
+    addFile(find);
+    find->add_option("FIELD", arguments->field, "A field of texts")->required();
+    find->add_option("TEXT", arguments->searched, "The text")->required();
+}
+
+}  // namespace tavrel

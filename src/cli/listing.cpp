@@ -1,0 +1,91 @@
+#include "cli/listing.h"
+
+#include "platform/texts.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <ostream>
+
+namespace tavrel {
+
+namespace {
+
+constexpr QChar rule = u'─';
+
+/// Long texts stay on their line.
+QString onOneLine(QString cell) {
+    for (QChar& letter : cell) {
+        if (letter.category() == QChar::Other_Control) {
+            letter = u' ';
+        }
+    }
+    return cell;
+}
+
+struct PrintedColumn {
+    QStringList lines;
+    qsizetype width = 0;
+    bool numbers = true;  ///< every cell is a number or empty; such a column is aligned to the right
+
+    void add(const QString& line) {
+        width = std::max(width, line.size());
+        lines.append(line);
+    }
+
+    QString padded(qsizetype line) const {
+        return numbers ? lines[line].rightJustified(width) : lines[line].leftJustified(width);
+    }
+};
+
+PrintedColumn printedColumn(const DocumentDriver& driver, const ListColumn& column, const QList<int>& rows) {
+    PrintedColumn printed;
+    printed.add(onOneLine(column.heading));
+    for (const int row : rows) {
+        const QString cell = onOneLine(driver.cell(row, column.field));
+        bool isNumber = cell.isEmpty();
+        if (!isNumber) {
+            static_cast<void>(cell.toDouble(&isNumber));
+        }
+        printed.numbers = printed.numbers && isNumber;
+        printed.add(cell);
+    }
+    return printed;
+}
+
+PrintedColumn rowNumbers(const QList<int>& rows) {
+    PrintedColumn printed;
+    printed.add(text("Cli", "Row"));
+    for (const int row : rows) {
+        printed.add(QString::number(row));
+    }
+    return printed;
+}
+
+}  // namespace
+
+void printRecords(const DocumentDriver& driver, const std::vector<ListColumn>& columns, const QList<int>& rows,
+                  std::ostream& out) {
+    std::vector<PrintedColumn> printed{rowNumbers(rows)};
+    for (const ListColumn& column : columns) {
+        printed.push_back(printedColumn(driver, column, rows));
+    }
+    for (qsizetype line = 0; line <= rows.size(); ++line) {
+        QStringList cells;
+        QStringList rules;
+        for (const PrintedColumn& column : printed) {
+            cells.append(column.padded(line));
+            rules.append(QString(column.width, rule));
+        }
+        QString whole = cells.join(QStringLiteral("  "));
+        while (whole.endsWith(u' ')) {
+            whole.chop(1);
+        }
+        out << whole.toStdString() << '\n';
+        if (line == 0) {
+            out << rules.join(QStringLiteral("  ")).toStdString() << '\n';
+        }
+    }
+}
+
+}  // namespace tavrel

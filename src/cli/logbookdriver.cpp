@@ -1,0 +1,92 @@
+#include "cli/logbookdriver.h"
+
+#include "cli/fieldtext.h"
+#include "logbook/divecolumns.h"
+#include "platform/numbers.h"
+#include "platform/texts.h"
+
+namespace tavrel {
+
+namespace {
+
+/// The series of that name, and whether it holds reals; null when there is none.
+const ProfileSeriesKind* seriesNamed(const QString& field) {
+    const auto* item = Plongee::layout().find(field.toStdString());
+    const auto* member = item ? std::get_if<Series Plongee::*>(&item->member) : nullptr;
+    for (const auto& kind : profileSeriesKinds) {
+        if (member && *member == static_cast<Series Plongee::*>(kind.series)) {
+            return &kind;
+        }
+    }
+    return nullptr;
+}
+
+std::optional<Series> seriesOf(const QString& value, bool reals) {
+    Series series = Series::empty();
+    if (value.trimmed().isEmpty()) {
+        return series;
+    }
+    for (const QString& part : value.split(u',')) {
+        bool isNumber = false;
+        if (reals) {
+            series.appendReal(part.trimmed().toDouble(&isNumber));
+        } else {
+            series.appendInteger(part.trimmed().toInt(&isNumber));
+        }
+        if (!isNumber) {
+            return std::nullopt;
+        }
+    }
+    return series;
+}
+
+}  // namespace
+
+Expected<void> LogbookDriver::renumber(qint32 first) {
+    carnet_.renumDives(first);
+    return {};
+}
+
+Expected<QString> LogbookDriver::find(const QString& field, const QString& text) {
+    return carnet_.findTextWithField(field, text).map([&](int) { return carnet_.foundText(); });
+}
+
+std::vector<ListColumn> LogbookDriver::tableColumns() const {
+    std::vector<ListColumn> columns;
+    for (const auto& column : diveColumns) {
+        columns.push_back({QString::fromLatin1(column.field), column.title.text()});
+    }
+    return columns;
+}
+
+std::optional<ListColumn> LogbookDriver::column(const QString& field) const {
+    for (const auto& column : diveColumns) {
+        if (field == QLatin1StringView(column.field)) {
+            return ListColumn{field, column.title.text()};
+        }
+    }
+    return Plongee::layout().find(field.toStdString()) ? std::optional(ListColumn{field, field}) : std::nullopt;
+}
+
+QString LogbookDriver::cell(int row, const QString& field) const {
+    return fieldText(fieldValue(*carnet_.recordAt(row), *Plongee::layout().find(field.toStdString())));
+}
+
+bool LogbookDriver::hasEntryBeside(const QString& field) const {
+    return seriesNamed(field) != nullptr;
+}
+
+std::optional<Expected<void>> LogbookDriver::enterBeside(const QString& field, const QString& value) {
+    const ProfileSeriesKind* kind = seriesNamed(field);
+    if (!kind) {
+        return std::nullopt;
+    }
+    auto series = seriesOf(value, kind->real);
+    if (!series) {
+        return failure(textWith("Main", "No such value", QStringLiteral("error !"), field, value));
+    }
+    carnet_.form().profile().*(kind->series) = std::move(*series);
+    return Expected<void>();
+}
+
+}  // namespace tavrel

@@ -1,0 +1,185 @@
+#include "cli/commandrunner.h"
+
+namespace tavrel {
+
+namespace {
+
+const QString logbook = QStringLiteral("a.carnet");
+
+TEST_F(CommandLine, addsDivesThroughTheForm) {
+    EXPECT_EQ(done({QStringLiteral("new"), QStringLiteral("Carnet de plongee"), logbook}), QString());
+    EXPECT_EQ(done("add a.carnet lieu=Marseille profondeur=32.5 temps=41 tempEau=101"), QString());
+    done({QStringLiteral("add"), logbook, QStringLiteral("notes=a=b"), QStringLiteral("site="),
+          QStringLiteral("heMix=87")});
+    struct Case {
+        std::size_t row;
+        const char* field;
+        const char* value;
+    };
+    const Case cases[] = {
+        {0, "noPlongee", "1"},   {0, "lieu", "Marseille"}, {0, "profondeur", "32.5"}, {0, "tempEau", "-50"},
+        {0, "typePlongee", "8"}, {1, "noPlongee", "2"},    {1, "notes", "a=b"},       {1, "heMix", "0"},
+    };
+    for (const Case& it : cases) {
+        EXPECT_EQ(value(logbook, it.row, it.field), QString::fromUtf8(it.value)) << it.field;
+    }
+}
+
+TEST_F(CommandLine, entersEveryKindOfControl) {
+    struct Case {
+        const char* entry;
+        const char* field;
+        const char* value;
+    };
+    const Case cases[] = {
+        {"profondeurField=18,5", "profondeur", "18.5"},
+        {"lowGF=30", "lowGF", "30"},
+        {"meteo=5", "meteo", "5"},
+        {"visibilite=TableView good", "visibilite", "2"},
+        {"typePlongee=under ICE", "typePlongee", "10"},
+        {"rebreather=hCCR", "rebreather", "4"},
+        {"ppO2=1,3 bar", "ppO2", "2"},
+        {"nocturne=yes", "nocturne", "1"},
+        {"deco_Level_6_sw=1", "deco_Level_6_sw", "1"},
+        {"difficulte=5", "difficulte", "5"},
+        {"date=2024-05-03", "date", "2024-05-03T00:00:00Z"},
+        {"heure=10:30", "heure", "2001-01-01T10:30:00Z"},
+        {"profilProfondeur=0,5.5,12", "profilProfondeur", "0,5.5,12"},
+        {"GAZ_Flag=0, 1,7", "GAZ_Flag", "0,1,7"},
+        {"PRESS_Data=", "PRESS_Data", "0"},
+        {"runtime=é ß 潜水", "runtime", "é ß 潜水"},
+    };
+    done({QStringLiteral("new"), QStringLiteral("dive logbook"), logbook});
+    QStringList arguments{QStringLiteral("add"), logbook};
+    for (const Case& it : cases) {
+        arguments.append(QString::fromUtf8(it.entry));
+    }
+    done(arguments);
+    for (const Case& it : cases) {
+        EXPECT_EQ(value(logbook, 0, it.field), QString::fromUtf8(it.value)) << it.entry;
+    }
+}
+
+TEST_F(CommandLine, changesFindsAndRemovesDives) {
+    done({QStringLiteral("new"), QStringLiteral("Carnet de plongee"), logbook});
+    for (const auto* place : {"Nice", "Cassis", "Bandol", "Port-Cros"}) {
+        done({QStringLiteral("add"), logbook, QStringLiteral("lieu=") + QLatin1String(place),
+              QStringLiteral("o2Mix=32")});
+    }
+    done("set a.carnet 1 temps=50 o2Mix=0 date=2023-01-31T23:59:58Z");
+    EXPECT_EQ(value(logbook, 1, "temps"), u"50");
+    EXPECT_EQ(value(logbook, 1, "o2Mix"), u"21");
+    EXPECT_EQ(value(logbook, 1, "lieu"), u"Cassis");
+    EXPECT_EQ(value(logbook, 1, "date"), u"2023-01-31T23:59:58Z");
+
+    EXPECT_TRUE(done("find a.carnet lieu AS").contains(u"One dive found"));
+    const QString found = done("find a.carnet lieu n");
+    EXPECT_TRUE(found.contains(u"Nice") && found.contains(u"Bandol") && !found.contains(u"Cassis"));
+    EXPECT_TRUE(found.contains(u"2 dives found"));
+    EXPECT_TRUE(done({QStringLiteral("find"), logbook, QStringLiteral("lieu"), QString()}).contains(u"0 dives found"));
+
+    done("delete a.carnet 3 0 3");
+    done("renumber a.carnet 10");
+    ASSERT_EQ(dives(logbook).size(), 2U);
+    EXPECT_EQ(value(logbook, 0, "lieu"), u"Cassis");
+    EXPECT_EQ(value(logbook, 1, "noPlongee"), u"11");
+
+    const QString table = done("show a.carnet --columns lieu,o2Mix,PRESS_Data");
+    const QStringList lines = table.split(u'\n');
+    ASSERT_EQ(lines.size(), 5) << table.toStdString();
+    EXPECT_TRUE(lines[0].contains(u"o2Mix"));
+    EXPECT_EQ(lines[2].indexOf(u"21"), lines[3].indexOf(u"32")) << table.toStdString();
+    EXPECT_EQ(done("show a.carnet").split(u'\n').size(), 5);
+}
+
+TEST_F(CommandLine, endsWithTheReasonAndChangesNothing) {
+    done({QStringLiteral("new"), QStringLiteral("Carnet de plongee"), logbook});
+    done("add a.carnet lieu=Nice");
+    QDir(path(QString())).mkdir(QStringLiteral("folder"));
+    const QByteArray before = contentsOf(path(logbook));
+    writeContents(path(QStringLiteral("cut.carnet")), before.chopped(7));
+    struct Case {
+        const char* words;
+        int code;
+        const char* reason;
+    };
+    const Case cases[] = {
+        {"", 2, "command"},
+        {"shew a.carnet", 2, "shew"},
+        {"show", 2, "FILE"},
+        {"show missing.carnet", 1, "missing.carnet"},
+        {"show folder", 1, "folder"},
+        {"show cut.carnet", 1, "cut.carnet"},
+        {"show a.carnet --columns lieu,depth", 2, "depth"},
+        {"new Cahier b.carnet", 2, "Dive logbook"},
+        {"new Dive\xC2\xA0logbook", 2, "FILE"},
+        {"add missing.carnet lieu=Nice", 1, "missing.carnet"},
+        {"add a.carnet lieu=Nice depth=12", 2, "depth"},
+        {"add a.carnet lieu", 2, "lieu"},
+        {"add a.carnet =Nice", 2, "=Nice"},
+        {"add a.carnet ftDepthField=m", 2, "ftDepthField"},
+        {"add a.carnet meteo=12", 2, "meteo"},
+        {"add a.carnet meteo=Sunny", 2, "Sunny"},
+        {"add a.carnet difficulte=6", 2, "difficulte"},
+        {"add a.carnet nocturne=perhaps", 2, "perhaps"},
+        {"add a.carnet date=2024-02-30", 2, "2024-02-30"},
+        {"add a.carnet heure=25:00", 2, "25:00"},
+        {"add a.carnet profilProfondeur=0,deep", 2, "deep"},
+        {"add a.carnet ASC_Flag=0,,1", 2, "ASC_Flag"},
+        {"set a.carnet 0", 2, "ENTRIES"},
+        {"set a.carnet one lieu=Nice", 2, "one"},
+        {"set a.carnet 1 lieu=Nice", 1, "1"},
+        {"set a.carnet -1 lieu=Nice", 1, "-1"},
+        {"delete a.carnet 0 1", 1, "1"},
+        {"renumber a.carnet first", 2, "first"},
+        {"find a.carnet ordi x", 2, "ordi"},
+    };
+    for (const Case& it : cases) {
+        const Outcome outcome = run(QString::fromUtf8(it.words).split(u' ', Qt::SkipEmptyParts));
+        EXPECT_EQ(outcome.code, it.code) << it.words << ": " << outcome.error.toStdString();
+        EXPECT_TRUE(outcome.error.contains(QLatin1String(it.reason)))
+            << it.words << ": " << outcome.error.toStdString();
+        EXPECT_EQ(outcome.out, QString()) << it.words;
+    }
+    const Outcome again = run({QStringLiteral("new"), QStringLiteral("Carnet de plongee"), logbook});
+    EXPECT_EQ(again.code, 1);
+    EXPECT_TRUE(again.error.contains(logbook));
+    EXPECT_EQ(contentsOf(path(logbook)), before);
+    EXPECT_EQ(QDir(path(QString())).entryList(QDir::Files | QDir::Hidden),
+              (QStringList{logbook, QStringLiteral("cut.carnet")}));
+}
+
+TEST_F(CommandLine, readsTheSettingsAndLeavesThemAlone) {
+    const QString settings = path(QStringLiteral("config/Tavrel/tavrel.ini"));
+    QDir(path(QString())).mkpath(QStringLiteral("config/Tavrel"));
+    const QByteArray written("[General]\ncountry%20code=MLT\ntank%20volume=15\n");
+    writeContents(settings, written);
+    done({QStringLiteral("new"), QStringLiteral("Carnet de plongee"), logbook});
+    done("add a.carnet lieu=Gozo");
+    EXPECT_EQ(value(logbook, 0, "countryCode"), u"MLT");
+    EXPECT_EQ(value(logbook, 0, "volumeBloc"), u"15");
+    EXPECT_EQ(contentsOf(settings), written);
+    EXPECT_EQ(QDir(path(QStringLiteral("config/Tavrel"))).entryList(QDir::Files),
+              QStringList{QStringLiteral("tavrel.ini")});
+}
+
+TEST_F(CommandLine, speaksTheUsersLanguageAndWritesNumbersTheSameWay) {
+    language = QStringLiteral("fr_FR.UTF-8");
+    done({QStringLiteral("new"), QStringLiteral("Carnet de plongée"), logbook});
+    done("add a.carnet profondeur=18.5 nocturne=oui");
+    EXPECT_TRUE(done("find a.carnet lieu x").contains(u"0 plongées trouvées"));
+    EXPECT_TRUE(done("show a.carnet --columns profondeur").contains(u"18.5"));
+}
+
+TEST_F(CommandLine, makesTheSampleLogbookAnew) {
+    const QString folder = QStringLiteral(TAVREL_SAMPLE_FOLDER);
+    const Outcome made = run({folder + QStringLiteral("/dives.txt"), path(QStringLiteral("sample.carnet"))},
+                             QStringLiteral(TAVREL_SAMPLES));
+    EXPECT_EQ(made.code, 0) << made.error.toStdString();
+    EXPECT_EQ(contentsOf(path(QStringLiteral("sample.carnet"))), contentsOf(folder + QStringLiteral("/sample.carnet")))
+        << "samples/make-samples makes it anew";
+}
+
+}  // namespace
+
+}  // namespace tavrel
