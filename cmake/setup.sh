@@ -10,16 +10,19 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   fonts-dejavu-core
 )
+installed=$(dpkg-query -W -f='${db:Status-Status} ${Package}\n' "${packages[@]}" 2>/dev/null || true)
 missing=()
 for package in "${packages[@]}"; do
-  state=$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null || true)
-  [ "$state" = installed ] || missing+=("$package")
+  grep -qx "installed $package" <<<"$installed" || missing+=("$package")
 done
-if [ ${#missing[@]} -gt 0 ]; then
-  echo "Installing: ${missing[*]}" >&2
-  as_root=()
-  [ "$(id -u)" = 0 ] || as_root=(sudo)
-  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq >&2 ||
-    echo "The package lists could not be renewed; going on with the ones at hand." >&2
-  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
+[ ${#missing[@]} -gt 0 ] || exit 0
+
+echo "Installing: ${missing[*]}" >&2
+as_root=()
+if [ "$(id -u)" != 0 ]; then
+  command -v sudo >/dev/null || { echo "Install these packages as root, then try again." >&2; exit 1; }
+  as_root=(sudo)
 fi
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq >&2 ||
+  echo "The package lists could not be renewed; going on with the ones at hand." >&2
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
