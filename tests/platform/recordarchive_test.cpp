@@ -348,7 +348,7 @@ TEST(RecordArchive, BoundsNestingAndMemory) {
 
     // A series that two records refer to is held once. Its number is object 6, of NSNumber, object 7.
     const auto file = readRecords(streamBytes(cardFile("01", R"(9505 9506 9507 9285
-        92 84 93 9501 92 84 8484"NSNumber"00 94 84"*" 8484"d" 99 8300000000000000e03f 86 86 9285 86
+        92 84 93 9501 92 84 8484"NSNumber"00 94 84"*" 8484"d" 99 83000000000000e03f 86 86 9285 86
         92 84 96 9505 9506 9507 9285 9297 9285 86 86)",
                                                        "02")),
                                   cardLayout);
