@@ -5,7 +5,7 @@
 #include "calculators/gps.h"
 #include "calculators/gpsreport.h"
 #include "calculators/nitrox.h"
-#include "cli/jsonwriter.h"
+#include "platform/jsonwriter.h"
 #include "platform/numbers.h"
 
 #include <CLI/CLI.hpp>

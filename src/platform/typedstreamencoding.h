@@ -8,6 +8,19 @@
 
 namespace tavrel {
 
+/// Where the type code that begins there ends, brackets included; the size of the text when it does not.
+inline std::size_t encodingEnd(std::string_view types, std::size_t at) {
+    int open = 0;
+    for (; at < types.size(); ++at) {
+        open += types[at] == '[' || types[at] == '{' ? 1 : 0;
+        open -= types[at] == ']' || types[at] == '}' ? 1 : 0;
+        if (open <= 0) {
+            return open < 0 ? types.size() : at + 1;
+        }
+    }
+    return types.size();
+}
+
 /// Walks the values of a group along its type encoding and hands each to the handler:
 ///
 ///     void integer(char code, std::int64_t value);    // c C s S i I l L q Q B
@@ -144,19 +157,6 @@ private:
             return types.size();
         }
         return at + 1;
-    }
-
-    // Where the encoding that begins there ends; the size of the text when it does not.
-    static std::size_t encodingEnd(std::string_view types, std::size_t at) {
-        int open = 0;
-        for (; at < types.size(); ++at) {
-            open += types[at] == '[' || types[at] == '{' ? 1 : 0;
-            open -= types[at] == ']' || types[at] == '}' ? 1 : 0;
-            if (open <= 0) {
-                return open < 0 ? types.size() : at + 1;
-            }
-        }
-        return types.size();
     }
 
     TypedStreamScanner& scanner_;

@@ -1,7 +1,7 @@
-#include "cli/jsonwriter.h"
+#include "platform/jsonwriter.h"
 
-#include "platform/numbers.h"
-
+#include <array>
+#include <charconv>
 #include <cmath>
 
 namespace tavrel {
@@ -13,13 +13,25 @@ void JsonWriter::key(QStringView name) {
     first_ = true;
 }
 
-void JsonWriter::value(double value) {
-    const QString number = shortestText(value);
+template <class Real>
+void JsonWriter::appendReal(Real value) {
+    std::array<char, 32> digits;
+    const auto end = std::to_chars(digits.begin(), digits.end(), value).ptr;
+    const std::string_view number(digits.data(), static_cast<std::size_t>(end - digits.data()));
     if (std::isfinite(value)) {
-        append(number.toStdString());
+        append(number);
     } else {
-        this->value(number);
+        separate();
+        text_ += std::isnan(value) ? "\"nan\"" : value > 0 ? "\"inf\"" : "\"-inf\"";
     }
+}
+
+void JsonWriter::value(double value) {
+    appendReal(value);
+}
+
+void JsonWriter::value(float value) {
+    appendReal(value);
 }
 
 void JsonWriter::value(const QString& text) {
@@ -38,12 +50,23 @@ void JsonWriter::end(char bracket) {
     first_ = false;
 }
 
-void JsonWriter::append(const std::string& value) {
+void JsonWriter::append(std::string_view value) {
     separate();
     text_ += value;
 }
 
+void JsonWriter::flush() {
+    if (sink_) {
+        sink_(text_);
+        text_.clear();
+    }
+}
+
 void JsonWriter::separate() {
+    constexpr std::size_t piece = 1 << 16;
+    if (sink_ && text_.size() >= piece) {
+        flush();
+    }
     if (!first_) {
         text_ += ", ";
     }
