@@ -20,6 +20,10 @@ void print(Console& console, const QString& line) {
     console.out << toArgument(line) << '\n';
 }
 
+JsonWriter jsonOn(Console& console) {
+    return JsonWriter([&out = console.out](std::string_view piece) { out << piece; });
+}
+
 void fail(Console& console, const Failure& failure) {
     console.error << toArgument(failure.message()) << '\n';
     console.exitCode = exitFailed;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/failure.h"
+#include "platform/jsonwriter.h"
 
 #include <QString>
 
@@ -29,6 +30,8 @@ QString fromArgument(const std::string& argument);
 std::string toArgument(const QString& text);
 
 void print(Console& console, const QString& line);
+/// Writes straight to the console's output; flush() hands over what is left.
+JsonWriter jsonOn(Console& console);
 /// Tells why a command could not be done, which ends the program with exitFailed.
 void fail(Console& console, const Failure& failure);
 /// Leaves a command that was asked for something that does not exist; the program ends with exitWrongUsage.

@@ -29,6 +29,7 @@ struct Arguments {
     std::string field;
     std::string searched;
     std::vector<std::string> columns;
+    bool json = false;
 };
 
 QString fileArgument(const Arguments& arguments) {
@@ -169,6 +170,19 @@ void runFind(const Arguments& arguments, Console& console) {
     print(console, *found);
 }
 
+Expected<void> showJson(const QString& path, Console& console) {
+    const auto bytes = FileBytes::open(path);
+    if (!bytes) {
+        return tl::unexpected(bytes.error());
+    }
+    const auto written = documentKindOf(path, bytes->bytes()).and_then([&](const DocumentKind* kind) {
+        CliDesktop desktop(console);
+        JsonWriter json = jsonOn(console);
+        return kind->make(desktop)->writeJson(bytes->bytes(), json).map([&] { console.out << '\n'; });
+    });
+    return written.map_error([&](const Failure& reason) { return openingFailure(path, reason); });
+}
+
 Expected<void> showTable(const QString& path, const std::vector<std::string>& fields, Console& console) {
     Session session(console);
     if (auto opened = session.open(path); !opened) {
@@ -191,7 +205,7 @@ Expected<void> showTable(const QString& path, const std::vector<std::string>& fi
 
 void runShow(const Arguments& arguments, Console& console) {
     const QString path = fileArgument(arguments);
-    const auto shown = showTable(path, arguments.columns, console);
+    const auto shown = arguments.json ? showJson(path, console) : showTable(path, arguments.columns, console);
     if (!shown) {
         fail(console, shown.error());
     }
@@ -215,9 +229,11 @@ void addDocumentCommands(CLI::App& app, Console& console) {
 
     CLI::App* show = add("show", "Lists the records of a document", runShow);
     addFile(show);
+    CLI::Option* json = show->add_flag("--json", arguments->json, "Everything, as one JSON object");
     show->add_option("--columns", arguments->columns, "The fields to list, separated by commas")
         ->delimiter(',')
-        ->allow_extra_args(false);
+        ->allow_extra_args(false)
+        ->excludes(json);
 
     CLI::App* create = add("new", "Makes an empty document", runNew);
     create->add_option("TYPE", arguments->type, "The type's name, such as \"Carnet de plongee\"")->required();

@@ -3,12 +3,12 @@
 #include "forms/formstate.h"
 #include "platform/desktop.h"
 #include "platform/failure.h"
+#include "platform/jsonwriter.h"
 #include "platform/listdocument.h"
 
 #include <QByteArrayView>
 #include <QString>
 
-#include <iosfwd>
 #include <memory>
 #include <optional>
 #include <span>
@@ -56,6 +56,9 @@ public:
     virtual std::optional<ListColumn> column(const QString& field) const = 0;
     /// What a column says of the record at a row.
     virtual QString cell(int row, const QString& field) const = 0;
+
+    /// Writes what a file of the document's type holds as one JSON object.
+    virtual Expected<void> writeJson(QByteArrayView file, JsonWriter& json) const = 0;
 
 protected:
     /// A value that is entered beside the form's controls; nothing when the field is none of those.

@@ -2,7 +2,7 @@
 
 #include "cli/fieldtext.h"
 #include "logbook/divecolumns.h"
-#include "platform/numbers.h"
+#include "platform/recordjson.h"
 #include "platform/texts.h"
 
 namespace tavrel {
@@ -87,6 +87,12 @@ std::optional<Expected<void>> LogbookDriver::enterBeside(const QString& field, c
     }
     carnet_.form().profile().*(kind->series) = std::move(*series);
     return Expected<void>();
+}
+
+Expected<void> LogbookDriver::writeJson(QByteArrayView file, JsonWriter& json) const {
+    return readRecords<Plongee>(file, Plongee::layout()).map([&](const RecordFile<Plongee>& read) {
+        writeRecordsJson(json, carnet_.type(), read, Plongee::layout());
+    });
 }
 
 }  // namespace tavrel

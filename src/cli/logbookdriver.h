@@ -24,6 +24,7 @@ public:
     std::vector<ListColumn> tableColumns() const override;
     std::optional<ListColumn> column(const QString& field) const override;
     QString cell(int row, const QString& field) const override;
+    Expected<void> writeJson(QByteArrayView file, JsonWriter& json) const override;
 
 protected:
     std::optional<Expected<void>> enterBeside(const QString& field, const QString& value) override;

@@ -1,6 +1,7 @@
 #include "cli/calccommand.h"
 #include "cli/commandline.h"
 #include "cli/documentcommands.h"
+#include "cli/inspectcommand.h"
 #include "platform/texts.h"
 
 #include <CLI/CLI.hpp>
@@ -22,6 +23,7 @@ int main(int argc, char** argv) try {
     app.set_version_flag("--version", "tavrel-cli " TAVREL_VERSION);
     tavrel::Console console{std::cout, std::cerr};
     tavrel::addDocumentCommands(app, console);
+    tavrel::addInspectCommand(app, console);
     tavrel::addCalcCommand(app, console);
     return tavrel::runCommandLine(app, argc, argv, console);
 } catch (const std::exception& error) {

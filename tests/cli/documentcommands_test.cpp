@@ -1,5 +1,9 @@
 #include "cli/commandrunner.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
 namespace tavrel {
 
 namespace {
@@ -110,6 +114,10 @@ TEST_F(CommandLine, endsWithTheReasonAndChangesNothing) {
         {"show missing.carnet", 1, "missing.carnet"},
         {"show folder", 1, "folder"},
         {"show cut.carnet", 1, "cut.carnet"},
+        {"show cut.carnet --json", 1, "cut.carnet"},
+        {"show a.carnet --json --columns lieu", 2, "--json"},
+        {"inspect missing.carnet", 1, "missing.carnet"},
+        {"inspect cut.carnet --json", 1, "cut.carnet"},
         {"show a.carnet --columns lieu,depth", 2, "depth"},
         {"new Cahier b.carnet", 2, "Dive logbook"},
         {"new Dive\xC2\xA0logbook", 2, "FILE"},
@@ -169,6 +177,33 @@ TEST_F(CommandLine, speaksTheUsersLanguageAndWritesNumbersTheSameWay) {
     done("add a.carnet profondeur=18.5 nocturne=oui");
     EXPECT_TRUE(done("find a.carnet lieu x").contains(u"0 plongées trouvées"));
     EXPECT_TRUE(done("show a.carnet --columns profondeur").contains(u"18.5"));
+}
+
+TEST_F(CommandLine, tellsWhatAFileHoldsInJson) {
+    const auto parsed = [this](const char* words) {
+        const QString out = done(words);
+        EXPECT_TRUE(out.endsWith(u"}\n")) << words;
+        return QJsonDocument::fromJson(out.toUtf8()).object();
+    };
+    done({QStringLiteral("new"), QStringLiteral("Carnet de plongee"), logbook});
+    EXPECT_EQ(parsed("show a.carnet --json")[u"version"].toInt(), 25);
+    done("add a.carnet lieu=Marseille profondeur=32.5 temps=41 tempEau=101 date=2024-05-03");
+    const QJsonObject file = parsed("show a.carnet --json");
+    EXPECT_EQ(file[u"type"].toString(), u"Dive logbook");
+    EXPECT_EQ(file[u"class"].toString(), u"Plongee");
+    const QJsonObject dive = file[u"records"].toArray()[0].toObject();
+    EXPECT_EQ(dive.size(), 134);
+    EXPECT_EQ(dive[u"noPlongee"].toInt(), 1);
+    EXPECT_EQ(dive[u"tempEau"].toInt(), -50);
+    EXPECT_EQ(dive[u"profondeur"].toDouble(), 32.5);
+    EXPECT_EQ(dive[u"date"].toString(), u"2024-05-03T00:00:00Z");
+
+    EXPECT_TRUE(done("inspect a.carnet").contains(u"Plongee, version 25: 1 objects"));
+    const QJsonObject tree = parsed("inspect a.carnet --json");
+    EXPECT_EQ(tree[u"byteOrder"].toString(), u"little");
+    EXPECT_EQ(tree[u"system"].toInt(), 1000);
+    const auto root = tree[u"groups"].toArray()[0].toArray()[1].toArray()[0].toObject();
+    EXPECT_EQ(root[u"classes"].toArray()[0].toArray()[0].toString(), u"NSMutableArray");
 }
 
 TEST_F(CommandLine, makesTheSampleLogbookAnew) {

@@ -3,12 +3,20 @@
 <TS version="2.1" language="en">
 <context>
 <name>Cli</name>
+<message><source>Big-endian</source><translation>Byte order: big-endian</translation></message>
+<message><source>Class line</source><translation>  %@, version %d: %d objects</translation></message>
+<message><source>Classes</source><translation>Classes:</translation></message>
 <message><source>File exists</source><translation>“%@” exists already.</translation></message>
+<message><source>Groups</source><translation>Groups: %d</translation></message>
+<message><source>Little-endian</source><translation>Byte order: little-endian</translation></message>
 <message><source>No such row</source><translation>There is no row %d: the document has %d records, counted from 0.</translation></message>
 <message><source>No such type</source><translation>“%@” is not a type of document. Types: %@.</translation></message>
 <message><source>Not an entry</source><translation>“%@” is not of the form field=value.</translation></message>
+<message><source>Objects</source><translation>Objects: %d</translation></message>
 <message><source>Output not written</source><translation>The output could not be written.</translation></message>
+<message><source>References</source><translation>References: %d</translation></message>
 <message><source>Row</source><translation>Row</translation></message>
+<message><source>System version</source><translation>System version: %d</translation></message>
 <message><source>Unknown records</source><translation>It holds records that no document here has (%@).</translation></message>
 </context>
 </TS>

@@ -3,12 +3,20 @@
 <TS version="2.1" language="fr">
 <context>
 <name>Cli</name>
+<message><source>Big-endian</source><translation>Ordre des octets : gros-boutiste</translation></message>
+<message><source>Class line</source><translation>  %@, version %d : %d objets</translation></message>
+<message><source>Classes</source><translation>Classes :</translation></message>
 <message><source>File exists</source><translation>« %@ » existe déjà.</translation></message>
+<message><source>Groups</source><translation>Groupes : %d</translation></message>
+<message><source>Little-endian</source><translation>Ordre des octets : petit-boutiste</translation></message>
 <message><source>No such row</source><translation>Il n’y a pas de ligne %d : le document compte %d fiches, numérotées à partir de 0.</translation></message>
 <message><source>No such type</source><translation>« %@ » n’est pas un type de document. Types : %@.</translation></message>
 <message><source>Not an entry</source><translation>« %@ » n’est pas de la forme champ=valeur.</translation></message>
+<message><source>Objects</source><translation>Objets : %d</translation></message>
 <message><source>Output not written</source><translation>La sortie n’a pas pu être écrite.</translation></message>
+<message><source>References</source><translation>Références : %d</translation></message>
 <message><source>Row</source><translation>Ligne</translation></message>
+<message><source>System version</source><translation>Version du système : %d</translation></message>
 <message><source>Unknown records</source><translation>Il contient des fiches qu’aucun document ne connaît (%@).</translation></message>
 </context>
 </TS>
