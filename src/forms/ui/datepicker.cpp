@@ -75,7 +75,9 @@ QSize DatePicker::sizeHint() const {
 }
 
 QString DatePicker::textFromDateTime(const QDateTime& moment) const {
-    return blank_ ? QStringLiteral(" ") : QDateTimeEdit::textFromDateTime(moment);
+    const QString text = QDateTimeEdit::textFromDateTime(moment);
+    // As long as a date, for the widget goes on to select its parts.
+    return blank_ ? QString(text.size(), u' ') : text;
 }
 
 void DatePicker::takeChoice() {

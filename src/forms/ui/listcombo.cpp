@@ -42,15 +42,12 @@ ListCombo::ListCombo(QStringListModel* list, QWidget* parent) : QComboBox(parent
 
 void ListCombo::showText(const QString& text) {
     const QSignalBlocker quiet(this);
-    const int row = findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (lineEdit()->text() == text && currentIndex() == row) {
+    if (lineEdit()->text() == text) {
         return;
     }
     const int cursor = lineEdit()->cursorPosition();
-    setCurrentIndex(row);
-    if (lineEdit()->text() != text) {
-        setEditText(text);
-    }
+    setCurrentIndex(findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    setEditText(text);
     lineEdit()->setCursorPosition(lineEdit()->hasFocus() ? cursor : 0);
 }
 

@@ -41,6 +41,9 @@ public:
     /// refreshed.
     void goView(int page);
     int currentPage() const { return page_; }
+    /// Shows the window over all others. It does so by itself whenever the logbook asks; whoever makes it only then
+    /// calls it.
+    void bringToFront();
     /// Gives the area of the pages a size; the top edge stays in place. Moves smoothly where the user's desktop does.
     void resizeWindowToSize(const QSize& size);
 
@@ -56,7 +59,6 @@ private:
     void buildToolBar(Desktop& desktop);
     void buildContents();
     void addShortcuts();
-    void bringToFront();
     void showPage();
     void takeFocus(int control);
     void confirm();
@@ -75,7 +77,7 @@ private:
     QLabel* status_ = nullptr;
     QPropertyAnimation* resizing_ = nullptr;
     int page_ = 1;
-    bool focusesNumber_ = false;  ///< as soon as it is in sight
+    bool focusesNumber_ = true;  ///< as soon as it is in sight
     bool closing_ = false;
 };
 

@@ -1,0 +1,307 @@
+#include "logbook/diveform.h"
+
+#include "support/testdesktop.h"
+
+#include <gtest/gtest.h>
+
+namespace tavrel {
+
+namespace {
+
+class DiveFormTest : public testing::Test {
+protected:
+    ~DiveFormTest() override { setTextLanguage(QStringLiteral("en")); }
+
+    static int indexOf(const char* name) {
+        const int index = DiveControls::table().find(name);
+        EXPECT_GE(index, 0) << name;
+        return index;
+    }
+    QString shown(const char* name) const { return form.state().at(indexOf(name)).text; }
+    int tag(const char* name) const { return form.state().at(indexOf(name)).tag; }
+    void type(const char* name, const char* text) { form.state().type(indexOf(name), QString::fromUtf8(text)); }
+    void choose(const char* name, int tag) { form.state().choose(indexOf(name), tag); }
+    void store(const char* key, const char* value) {
+        desktop.preferences.set(QString::fromUtf8(key), QString::fromUtf8(value));
+    }
+
+    TestDesktop desktop;
+    DiveForm form{desktop.desktop()};
+    const DiveControls& controls = form.controls();
+};
+
+double number(const Plongee& dive, const char* field) {
+    const FieldValue value = fieldValue(dive, *Plongee::layout().find(field));
+    if (const auto* real = std::get_if<float>(&value)) {
+        return *real;
+    }
+    return std::get<qint32>(value);
+}
+
+TEST_F(DiveFormTest, replacesNumbersOutOfRange) {
+    struct Case {
+        const char* control;
+        const char* typed;
+        const char* shown;
+        const char* field;
+        double stored;
+    };
+    const Case cases[] = {
+        {"coeffField", "19", "-", "coeff", 0},
+        {"coeffField", "20", "20", "coeff", 20},
+        {"coeffField", "120", "120", "coeff", 120},
+        {"coeffField", "121", "-", "coeff", 0},
+        {"coeffField", "high", "-", "coeff", 0},
+        {"tempEauField", "-", "-", "tempEau", -50},
+        {"tempEauField", "-5", "-5", "tempEau", -5},
+        {"tempEauField", "-6", "-6", "tempEau", -50},
+        {"tempEauField", "100", "100", "tempEau", 100},
+        {"tempEauField", "101", "101", "tempEau", -50},
+        {"tempEauField", "cold", "cold", "tempEau", 0},
+        {"tempAirField", "-", "-", "tempAir", -50},
+        {"tempAirField", "140", "140", "tempAir", 140},
+        {"tempAirField", "141", "141", "tempAir", -50},
+        {"tempAirField", "-49", "-49", "tempAir", -49},
+        {"tempAirField", "-51", "-51", "tempAir", -50},
+        {"profondeurField", "-1", "0", "profondeur", 0},
+        {"profondeurField", "18,5", "18,5", "profondeur", 18.5},
+        {"profondeurField", "deep", "deep", "profondeur", 0},
+        {"tempsField", "-3", "0", "temps", 0},
+        {"altitudeField", "4000", "4000", "altitude", 4000},
+        {"altitudeField", "4001", "0", "altitude", 0},
+        {"altitudeField", "-1", "0", "altitude", 0},
+        {"timeDeco_Level_6_Field", "-1", "0", "decoTime_Level_6", 0},
+        {"o2MixField", "0", "21", "o2Mix", 21},
+        {"o2Mix_2Field", "-4", "21", "o2Mix_2", 21},
+        {"o2MixField", "1", "1", "o2Mix", 1},
+        {"heMixField", "86", "86", "heMix", 86},
+        {"heMixField", "87", "0", "heMix", 0},
+        {"heMix_2Field", "-1", "0", "heMix_2", 0},
+        {"lestageField", "-2", "0.0", "lestage", 0},
+        {"departField", "-7", "-7", "pressionDepart", -7},
+        {"finField", "210", "210", "pressionFin", 210},
+        {"noPlongeeField", "99999999999", "99999999999", "noPlongee", 2147483647},
+    };
+    for (const Case& it : cases) {
+        form.blankFields();
+        type(it.control, it.typed);
+        const Plongee dive = form.addDiveToList();
+        EXPECT_EQ(number(dive, it.field), it.stored) << it.control << ' ' << it.typed;
+        EXPECT_EQ(shown(it.control), QString::fromUtf8(it.shown)) << it.control << ' ' << it.typed;
+    }
+    EXPECT_TRUE(desktop.alerts.questions.empty() && desktop.alerts.told.isEmpty());
+}
+
+TEST_F(DiveFormTest, clearsForANewDive) {
+    for (const auto& placed : controls.controls()) {
+        FormStateBase& state = form.state();
+        state.setText(indexOf(placed.name.c_str()), QStringLiteral("17"));
+        state.setTag(indexOf(placed.name.c_str()), 3);
+    }
+    form.profile().profilProfondeur.appendReal(12);
+    store("fabricant", "Maker");
+    store("ordinateur", "Model");
+    store("serie", "A1");
+    store("country code", "FR");
+    store("low GF", "30");
+    store("high GF", "85");
+    store("tank volume", "15");
+    store("tank pressure", "232");
+    form.blankFields();
+
+    const std::pair<const char*, const char*> texts[] = {
+        {"noPlongeeField", ""},
+        {"coeffField", "-"},
+        {"lieuField", ""},
+        {"countryCodeField", "FR"},
+        {"tempEauField", "-"},
+        {"tempAirField", "-"},
+        {"surfaceField", "--:--"},
+        {"profondeurField", ""},
+        {"tempsField", ""},
+        {"altitudeField", "0"},
+        {"deco_TTS_Field", "-"},
+        {"decoO2_Level_6_Field", "-"},
+        {"timeDeco_Level_1_Field", "-"},
+        {"decoHe_Level_3_Field", "0"},
+        {"depthDeco_Level_6_Field", "0"},
+        {"pony_3_VolumeField", "0"},
+        {"decoSoftNameField", "-"},
+        {"decoConservatismField", "-"},
+        {"lowGFField", "30"},
+        {"highGFField", "85"},
+        {"runtimeField", ""},
+        {"flowField", "0"},
+        {"volumeBlocField", "15"},
+        {"volumeBloc_2Field", "15"},
+        {"pressionBloc_2Field", "232"},
+        {"departField", ""},
+        {"fin_2Field", ""},
+        {"o2MixField", "21"},
+        {"heMix_2Field", "0"},
+        {"n2Mix_2Field", "79"},
+        {"fabricantField", "Maker"},
+        {"ordinateurField", "Model"},
+        {"serieField", "A1"},
+        {"equipement_12_Field", ""},
+        {"lestageField", ""},
+        {"notesField", ""},
+        {"difficulteField", "Very easy"},
+    };
+    for (const auto& [control, expected] : texts) {
+        EXPECT_EQ(shown(control), QString::fromUtf8(expected)) << control;
+    }
+    EXPECT_EQ(shown("gpsField"), text("Carnet", "GPS template"));
+    const std::pair<const char*, int> tags[] = {
+        {"pmBmPopUp", 0},          {"gpsSystemPopUp", 1},   {"meteoPopUp", 7},          {"ventSecteurPopUp", 0},
+        {"courantPopUp", 6},       {"visibilitePopUp", 7},  {"typePlongeePopUp", 8},    {"inoubliablePopUp", 0},
+        {"nocturneSwitch", 0},     {"decoPopUp", 0},        {"deco_Level_4_Switch", 0}, {"rebreatherMatrix", 0},
+        {"gazPopUp", 0},           {"ppO2PopUp", 0},        {"alliageBloc_2PopUp", 0},  {"combinaisonPopUp", 0},
+        {"configurationPopUp", 1}, {"difficulteSlider", 0},
+    };
+    for (const auto& [control, expected] : tags) {
+        EXPECT_EQ(tag(control), expected) << control;
+    }
+    EXPECT_EQ(form.state().date(controls.dateField), Date::fromDateTime(desktop.clock.moment));
+    EXPECT_EQ(form.state().date(controls.heureField).toDateTime(), QDate(2001, 1, 1).startOfDay());
+    EXPECT_EQ(form.profile().profilProfondeur, Series::ofReals({0.0}));
+    EXPECT_EQ(form.profile().ASC_Flag, Series::ofIntegers({0}));
+
+    // Only preferences that were saved once space the stops.
+    store("stop interval", "3");
+    form.blankFields();
+    EXPECT_EQ(shown("depthDeco_Level_1_Field"), u"3");
+    EXPECT_EQ(shown("depthDeco_Level_6_Field"), u"18");
+}
+
+TEST_F(DiveFormTest, showsADiveAndGivesItBack) {
+    Plongee dive;
+    dive.noPlongee = 57;
+    dive.coeff = 0;
+    dive.tempEau = dive.tempAir = -50;
+    dive.profondeur = 38.2F;
+    dive.decoDepth_Level_2 = 7.5F;
+    dive.decoDepth_Level_4 = -3;
+    dive.decoO2_Level_2 = 50;
+    dive.decoTime_Level_2 = 4;
+    dive.typePlongee = 2;  // no item of the menu has it
+    dive.o2Mix = dive.o2Mix_2 = 21;
+    dive.notes = QStringLiteral("two\nlines");
+    dive.profilProfondeur = Series::ofReals({0, 38.2, 0});
+    store("stop interval", "5");
+    form.editFields(dive);
+    EXPECT_EQ(shown("coeffField"), u"-");
+    EXPECT_EQ(shown("tempEauField") + shown("tempAirField"), u"--");
+    EXPECT_EQ(shown("profondeurField"), u"38.2");
+    const char* depths[] = {"3", "7.5", "9", "12", "15", "18"};
+    for (std::size_t level = 0; level < 6; ++level) {
+        EXPECT_EQ(form.state().text(controls.depthDeco_Level_Field[level]), QString::fromUtf8(depths[level]));
+    }
+    EXPECT_EQ(shown("decoO2_Level_1_Field") + shown("timeDeco_Level_1_Field") + shown("decoHe_Level_1_Field"), u"--0");
+    EXPECT_EQ(shown("decoO2_Level_2_Field") + shown("timeDeco_Level_2_Field"), u"504");
+
+    const Plongee built = form.addDiveToList();
+    for (const auto& item : Plongee::layout().items) {
+        if (std::string_view(item.key).find("decoDepth") == 0) {
+            continue;
+        }
+        const FieldValue before = fieldValue(dive, item);
+        const FieldValue after = fieldValue(built, item);
+        if (std::holds_alternative<qint32>(before) || std::holds_alternative<float>(before)) {
+            EXPECT_EQ(number(built, item.key.data()), number(dive, item.key.data())) << item.key;
+        }
+    }
+    EXPECT_EQ(built.notes, dive.notes);
+    EXPECT_EQ(built.profilProfondeur, dive.profilProfondeur);
+    EXPECT_EQ(built.SURF_Flag, Series::ofIntegers({0}));
+}
+
+TEST_F(DiveFormTest, followsTheEntries) {
+    const auto captions = [&] { return shown("blocField") + shown("bloc_2Field"); };
+    form.updateUI();
+    EXPECT_EQ(captions(), u"Bloc principal :Bloc secondaire :");
+    EXPECT_FALSE(form.state().at(indexOf("flowField")).enabled);
+    choose("rebreatherMatrix", 1);
+    EXPECT_TRUE(form.state().at(indexOf("flowField")).enabled);
+    choose("rebreatherMatrix", 3);
+    EXPECT_EQ(captions(), u"OXYGÈNE :DILUANT :");
+    EXPECT_EQ(shown("o2MixField"), u"100");
+    EXPECT_EQ(shown("setPointField"), text("Carnet", "high setpoint"));
+    choose("rebreatherMatrix", 4);
+    EXPECT_EQ(captions(), u"OXYGÈNE :DILUANT :");
+    choose("rebreatherMatrix", 0);
+    EXPECT_EQ(shown("setPointField"), text("Carnet", "PpO2"));
+
+    EXPECT_EQ(shown("ftDepthField") + shown("ft_18m_Field") + shown("fahrEauField"), u"mm°C");
+    store("us units", "YES");
+    form.updateUI();
+    EXPECT_EQ(shown("ftAltitudeField") + shown("ft_3m_Field") + shown("fahrAirField"), u"ftft°F");
+
+    const char* words[] = {"Very easy", "Easy", "Normal", "Hard", "Very hard", "Extreme", "Extreme"};
+    for (int difficulty = 0; difficulty < 7; ++difficulty) {
+        choose("difficulteSlider", difficulty);
+        EXPECT_EQ(shown("difficulteField"), QString::fromUtf8(words[difficulty]));
+    }
+
+    const auto mix = [&] {
+        return QStringList{shown("o2MixField"), shown("n2MixField"), shown("heMixField")}.join(u'/');
+    };
+    type("o2MixField", "32");
+    choose("razNitroxButton", 0);
+    EXPECT_EQ(mix(), u"32/68/0");
+    choose("razHelioxButton", 0);
+    EXPECT_EQ(mix(), u"32/0/68");
+    choose("razAirButton", 0);
+    EXPECT_EQ(mix(), u"21/79/0");
+}
+
+TEST_F(DiveFormTest, offersNewWordsToTheSharedLists) {
+    desktop.pickLists.append(PickList::tableauDesLieux, QStringLiteral("Nice"));
+    const auto finish = [&](const char* control, const char* typed) {
+        type(control, typed);
+        form.endEditing(indexOf(control));
+    };
+    finish("lieuField", "Nice");
+    finish("lieuField", "  ");
+    finish("decoSoftNameField", "Own list");
+    EXPECT_TRUE(desktop.alerts.questions.empty());
+
+    desktop.alerts.answerNext(0);
+    finish("lieuField", " Calvi");
+    const QStringList expected{QStringLiteral(" Calvi"), QStringLiteral("Nice")};
+    EXPECT_EQ(desktop.alerts.questions.at(0).message, u"Add “ Calvi” to the list?");
+    EXPECT_EQ(desktop.alerts.beeps, 1);
+    EXPECT_EQ(desktop.pickLists[PickList::tableauDesLieux], expected);
+    EXPECT_EQ(desktop.preferences.strings(QStringLiteral("lieux")), expected);
+
+    desktop.pickLists.append(PickList::sacDePlongee, QStringLiteral("Torch"));
+    desktop.pickLists.append(PickList::sacDePlongee, QStringLiteral("Knife"));
+    desktop.alerts.answerNext(1);
+    finish("equipement_7_Field", "Reel");
+    EXPECT_EQ(desktop.preferences.strings(QStringLiteral("sac de plongee")),
+              QStringList({QStringLiteral("Knife"), QStringLiteral("Torch")}));
+}
+
+TEST_F(DiveFormTest, hasWordsForEveryTitleInEveryLanguage) {
+    for (const char* language : {"en", "fr"}) {
+        setTextLanguage(QString::fromUtf8(language));
+        const auto check = [&](const Title& title) {
+            EXPECT_NE(title.text(), u"error !") << language << ' ' << title.key;
+        };
+        for (const auto& group : controls.groups()) {
+            check(group.title);
+        }
+        for (const auto& placed : controls.controls()) {
+            check(placed.control.label);
+            check(placed.control.unit);
+            check(placed.control.tip);
+            for (const auto& choice : placed.control.choices) {
+                check(choice.title);
+            }
+        }
+    }
+}
+
+}  // namespace
+
+}  // namespace tavrel
