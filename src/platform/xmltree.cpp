@@ -3,10 +3,10 @@
 #include "platform/texts.h"
 
 #include <QStringDecoder>
-#include <libxml/SAX2.h>
 #include <libxml/parser.h>
 #include <libxml/tree.h>
 
+#include <algorithm>
 #include <cstring>
 #include <limits>
 
@@ -14,47 +14,99 @@ namespace tavrel {
 
 namespace {
 
-const char* characters(const xmlChar* text) {
-    return reinterpret_cast<const char*>(text);
-}
-
-bool isElement(const xmlNode* node) {
-    return node->type == XML_ELEMENT_NODE;
-}
-
-bool isText(const xmlNode* node) {
-    return node->type == XML_TEXT_NODE || node->type == XML_CDATA_SECTION_NODE;
-}
+using Node = XmlNodes::Node;
+constexpr std::uint32_t none = XmlNodes::none;
 
 bool isBlank(std::string_view text) {
     return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
 }
 
-std::string_view content(const xmlNode* text) {
-    return text->content ? std::string_view(characters(text->content)) : std::string_view();
-}
+/// Builds the nodes from the parser's events.
+class Builder {
+public:
+    explicit Builder(XmlNodes& tree) : tree_(tree) {}
 
-void appendText(const xmlNode* element, std::string& text) {
-    bool holdsElements = false;
-    for (const xmlNode* child = element->children; child && !holdsElements; child = child->next) {
-        holdsElements = isElement(child);
+    void begin(const char* name) {
+        if (!open_.empty()) {
+            endRun(true);
+        }
+        const std::uint32_t index = append({name, none, none, none, 0, tree_.texts.size()});
+        open_.push_back({index, none});
     }
-    for (const xmlNode* child = element->children; child; child = child->next) {
-        if (isElement(child)) {
-            appendText(child, text);
-        } else if (isText(child)) {
-            const std::string_view piece = content(child);
-            if (!holdsElements || child->type == XML_CDATA_SECTION_NODE || !isBlank(piece)) {
-                text += piece;
-            }
+
+    void text(std::string_view piece) {
+        if (open_.empty()) {
+            return;
+        }
+        if (!inRun_) {
+            runStart_ = tree_.texts.size();
+            inRun_ = true;
+        }
+        tree_.texts += piece;
+    }
+
+    void end() {
+        if (!open_.empty()) {
+            endRun(false);
+            open_.pop_back();
         }
     }
-}
 
-/// What the parser's callbacks need while it runs.
+    /// Ends what a truncated file leaves open.
+    void endAll() {
+        while (!open_.empty()) {
+            end();
+        }
+    }
+
+private:
+    struct Open {
+        std::uint32_t index;
+        std::uint32_t lastChild;
+    };
+
+    std::uint32_t append(const Node& node) {
+        const auto index = static_cast<std::uint32_t>(tree_.nodes.size());
+        tree_.nodes.push_back(node);
+        if (!open_.empty()) {
+            Open& parent = open_.back();
+            tree_.nodes.back().parent = parent.index;
+            (parent.lastChild == none ? tree_.nodes[parent.index].first : tree_.nodes[parent.lastChild].next) = index;
+            parent.lastChild = index;
+        }
+        return index;
+    }
+
+    /// Gives the text that has come in a row to its element, as a node of its own beside elements.
+    void endRun(bool elementFollows) {
+        if (!inRun_) {
+            return;
+        }
+        inRun_ = false;
+        const bool besideElements = elementFollows || open_.back().lastChild != none;
+        const std::size_t length = tree_.texts.size() - runStart_;
+        if (besideElements && isBlank(std::string_view(tree_.texts).substr(runStart_))) {
+            tree_.texts.resize(runStart_);
+        } else if (besideElements) {
+            append({nullptr, none, none, none, static_cast<std::uint32_t>(length), runStart_});
+        } else {
+            tree_.nodes[open_.back().index].offset = runStart_;
+            tree_.nodes[open_.back().index].length = static_cast<std::uint32_t>(length);
+        }
+    }
+
+    XmlNodes& tree_;
+    std::vector<Open> open_;
+    std::size_t runStart_ = 0;
+    bool inRun_ = false;
+};
+
+/// What the parser's events need while it runs.
 struct Reading {
     const Progress& progress;
     std::size_t size;
+    xmlParserCtxtPtr parser;
+    Builder builder;
     std::size_t elements = 0;
     bool cancelled = false;
     bool limit = false;
@@ -63,28 +115,45 @@ struct Reading {
 
 constexpr std::size_t elementsPerProgress = 16384;
 
-Reading& reading(void* context) {
-    return *static_cast<Reading*>(static_cast<xmlParserCtxtPtr>(context)->_private);
+/// The reading of the file; null for the contents of an entity, which the parser only checks.
+Reading* reading(void* context) {
+    auto* parser = static_cast<xmlParserCtxtPtr>(context);
+    auto* state = static_cast<Reading*>(parser->_private);
+    return state->parser == parser ? state : nullptr;
 }
 
-void startElement(void* context, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri, int namespaces,
-                  const xmlChar** namespacePairs, int attributes, int defaulted, const xmlChar** attributeValues) {
-    Reading& state = reading(context);
-    auto* parser = static_cast<xmlParserCtxtPtr>(context);
-    if (++state.elements % elementsPerProgress == 0 && state.progress) {
-        const auto done = static_cast<std::size_t>(std::max(0L, xmlByteConsumed(parser)));
-        if (!state.progress(std::min(done, state.size), state.size)) {
-            state.cancelled = true;
-            xmlStopParser(parser);
+void startElement(void* context, const xmlChar* name, const xmlChar* prefix, const xmlChar*, int, const xmlChar**, int,
+                  int, const xmlChar**) {
+    Reading* state = reading(context);
+    if (!state) {
+        return;
+    }
+    if (++state->elements % elementsPerProgress == 0 && state->progress) {
+        const auto done = static_cast<std::size_t>(std::max(0L, xmlByteConsumed(state->parser)));
+        if (!state->progress(std::min(done, state->size), state->size)) {
+            state->cancelled = true;
+            xmlStopParser(state->parser);
             return;
         }
     }
-    xmlSAX2StartElementNs(context, name, prefix, uri, namespaces, namespacePairs, attributes, defaulted,
-                          attributeValues);
+    const xmlChar* whole = prefix ? xmlDictQLookup(state->parser->dict, prefix, name) : name;
+    state->builder.begin(reinterpret_cast<const char*>(whole));
+}
+
+void endElement(void* context, const xmlChar*, const xmlChar*, const xmlChar*) {
+    if (Reading* state = reading(context)) {
+        state->builder.end();
+    }
+}
+
+void characters(void* context, const xmlChar* text, int length) {
+    if (Reading* state = reading(context)) {
+        state->builder.text({reinterpret_cast<const char*>(text), static_cast<std::size_t>(length)});
+    }
 }
 
 void noteError(void* context, xmlErrorPtr error) {
-    Reading& state = reading(context);
+    auto& state = *static_cast<Reading*>(static_cast<xmlParserCtxtPtr>(context)->_private);
     state.limit = state.limit || error->code == XML_ERR_ENTITY_LOOP || error->code == XML_ERR_NO_MEMORY;
     if (state.firstError.isEmpty() && error->message) {
         state.firstError = QString::fromUtf8(error->message).trimmed();
@@ -94,35 +163,42 @@ void noteError(void* context, xmlErrorPtr error) {
     }
 }
 
+/// The parser's events come to the builder. Those of declarations stay with libxml2, which needs them to watch entities.
+void listen(xmlSAXHandler& events) {
+    events.startElementNs = startElement;
+    events.endElementNs = endElement;
+    events.characters = characters;
+    events.ignorableWhitespace = characters;
+    events.cdataBlock = characters;
+    events.reference = nullptr;
+    events.comment = nullptr;
+    events.processingInstruction = nullptr;
+    events.serror = noteError;
+}
+
 struct FreeParser {
-    void operator()(xmlParserCtxt* parser) const { xmlFreeParserCtxt(parser); }
+    void operator()(xmlParserCtxt* parser) const {
+        xmlFreeDoc(parser->myDoc);
+        xmlFreeParserCtxt(parser);
+    }
 };
 
 }  // namespace
 
-std::string_view XmlElement::name() const {
-    return node_ ? std::string_view(characters(node_->name)) : std::string_view();
-}
-
-XmlElement XmlElement::parent() const {
-    const bool hasParent = node_ && node_->parent && isElement(node_->parent);
-    return XmlElement(hasParent ? node_->parent : nullptr);
-}
-
-const _xmlNode* XmlElement::matching(const _xmlNode* node, const char* name) {
-    while (node &&
-           !(isElement(node) && std::strcmp(characters(node->name), name) == 0 && !(node->ns && node->ns->prefix))) {
-        node = node->next;
+XmlElement XmlElement::matching(const char* name) const {
+    XmlElement element = *this;
+    while (!element.isNull() && !(element.node().name && std::strcmp(element.node().name, name) == 0)) {
+        element = at(element.node().next);
     }
-    return node;
+    return element;
 }
 
 XmlElement::Children XmlElement::children(const char* name) const {
-    return {node_ ? matching(node_->children, name) : nullptr, name};
+    return {first(name), name};
 }
 
 XmlElement XmlElement::first(const char* name) const {
-    return XmlElement(node_ ? matching(node_->children, name) : nullptr);
+    return isNull() ? XmlElement() : at(node().first).matching(name);
 }
 
 XmlElement XmlElement::last(const char* name) const {
@@ -134,27 +210,40 @@ XmlElement XmlElement::last(const char* name) const {
 }
 
 XmlElement::Children::Iterator& XmlElement::Children::Iterator::operator++() {
-    node_ = matching(node_->next, name_);
+    element_ = element_.at(element_.node().next).matching(name_);
     return *this;
 }
 
 std::size_t XmlElement::Children::count() const {
     std::size_t number = 0;
-    for (const XmlElement child : *this) {
-        number += child.isNull() ? 0 : 1;
+    for ([[maybe_unused]] const XmlElement child : *this) {
+        ++number;
     }
     return number;
 }
 
 std::string_view XmlElement::text(std::string& buffer) const {
-    if (!node_ || !node_->children) {
+    if (isNull()) {
         return {};
     }
-    if (!node_->children->next && isText(node_->children)) {
-        return content(node_->children);
+    if (node().first == none) {
+        return tree_->textOf(node());
     }
+    // The descendants in document order, without recursion.
     buffer.clear();
-    appendText(node_, buffer);
+    std::uint32_t index = node().first;
+    while (index != index_) {
+        const Node& here = tree_->nodes[index];
+        if (here.first != none) {
+            index = here.first;
+            continue;
+        }
+        buffer += tree_->textOf(here);
+        while (index != index_ && tree_->nodes[index].next == none) {
+            index = tree_->nodes[index].parent;
+        }
+        index = index == index_ ? index_ : tree_->nodes[index].next;
+    }
     return buffer;
 }
 
@@ -168,31 +257,30 @@ QString XmlElement::text() const {
     return decoder.hasError() ? QString::fromLatin1(bytes) : decoded;
 }
 
-void XmlTree::Free::operator()(_xmlDoc* document) const {
-    xmlFreeDoc(document);
+void XmlTree::Free::operator()(_xmlDict* names) const {
+    xmlDictFree(names);
 }
 
 Expected<XmlTree> XmlTree::parse(QByteArrayView bytes, const Progress& progress) {
-    if (bytes.size() > std::numeric_limits<int>::max()) {
-        return failure(text("Main", "XML file too large"));
-    }
     const std::unique_ptr<xmlParserCtxt, FreeParser> parser(xmlNewParserCtxt());
-    if (!parser) {
+    if (bytes.size() > std::numeric_limits<int>::max() || !parser) {
         return failure(text("Main", "XML file too large"));
     }
-    Reading state{progress, static_cast<std::size_t>(bytes.size())};
+    XmlTree tree;
+    xmlDictReference(parser->dict);
+    tree.names_.reset(parser->dict);
+
+    Reading state{progress, static_cast<std::size_t>(bytes.size()), parser.get(), Builder(*tree.nodes_)};
     parser->_private = &state;
-    parser->sax->startElementNs = startElement;
-    parser->sax->serror = noteError;
+    listen(*parser->sax);
     // Without XML_PARSE_NOENT, XML_PARSE_DTDLOAD and XML_PARSE_HUGE: nothing is resolved and the limits hold.
-    constexpr int options =
-        XML_PARSE_RECOVER | XML_PARSE_NONET | XML_PARSE_COMPACT | XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
-    XmlTree tree(Document(
-        xmlCtxtReadMemory(parser.get(), bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr, options)));
+    constexpr int options = XML_PARSE_RECOVER | XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
+    parser->myDoc = xmlCtxtReadMemory(parser.get(), bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr, options);
+    state.builder.endAll();
     if (state.cancelled) {
         return failure(text("Main", "Cancelled"));
     }
-    // A parser that recovers from errors disables its callbacks only when it gives up.
+    // A parser that recovers from errors disables its events only when it gives up.
     if (state.limit || parser->disableSAX != 0) {
         return failure(text("Main", "XML file beyond limits"), state.firstError);
     }
@@ -200,10 +288,6 @@ Expected<XmlTree> XmlTree::parse(QByteArrayView bytes, const Progress& progress)
         return failure(text("Main", "XML file without elements"), state.firstError);
     }
     return tree;
-}
-
-XmlElement XmlTree::root() const {
-    return XmlElement(document_ ? xmlDocGetRootElement(document_.get()) : nullptr);
 }
 
 }  // namespace tavrel

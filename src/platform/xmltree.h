@@ -6,14 +6,35 @@
 #include <QByteArrayView>
 #include <QString>
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
-struct _xmlDoc;
-struct _xmlNode;
+struct _xmlDict;
 
 namespace tavrel {
+
+/// The nodes of an XmlTree: elements, and texts between elements, in one block. An element that holds nothing but text
+/// holds it itself.
+struct XmlNodes {
+    static constexpr std::uint32_t none = 0xFFFFFFFF;
+
+    struct Node {
+        const char* name;  ///< null for a text
+        std::uint32_t parent;
+        std::uint32_t first;  ///< child
+        std::uint32_t next;   ///< sibling
+        std::uint32_t length;
+        std::size_t offset;  ///< of its text in the texts
+    };
+
+    std::string_view textOf(const Node& node) const { return std::string_view(texts).substr(node.offset, node.length); }
+
+    std::vector<Node> nodes;
+    std::string texts;
+};
 
 /// An element of an XmlTree, valid while the tree lives. The null element stands for one that is missing: it has no
 /// children and an empty text. Names are compared as they stand in the file, a prefix included.
@@ -23,9 +44,9 @@ public:
 
     XmlElement() = default;
 
-    bool isNull() const { return !node_; }
-    std::string_view name() const;
-    XmlElement parent() const;
+    bool isNull() const { return !tree_; }
+    std::string_view name() const { return isNull() ? std::string_view() : node().name; }
+    XmlElement parent() const { return isNull() ? XmlElement() : at(node().parent); }
     /// The children of a name, in order.
     Children children(const char* name) const;
     XmlElement first(const char* name) const;
@@ -40,58 +61,66 @@ public:
 
 private:
     friend class XmlTree;
-    explicit XmlElement(const _xmlNode* node) : node_(node) {}
-    static const _xmlNode* matching(const _xmlNode* node, const char* name);
+    XmlElement(const XmlNodes* tree, std::uint32_t index) : tree_(tree), index_(index) {}
 
-    const _xmlNode* node_ = nullptr;
+    const XmlNodes::Node& node() const { return tree_->nodes[index_]; }
+    XmlElement at(std::uint32_t index) const {
+        return index == XmlNodes::none ? XmlElement() : XmlElement(tree_, index);
+    }
+    /// The element itself or the next sibling of that name.
+    XmlElement matching(const char* name) const;
+
+    const XmlNodes* tree_ = nullptr;
+    std::uint32_t index_ = 0;
 };
 
 class XmlElement::Children {
 public:
     class Iterator {
     public:
-        Iterator(const _xmlNode* node, const char* name) : node_(node), name_(name) {}
-        XmlElement operator*() const { return XmlElement(node_); }
+        Iterator(XmlElement element, const char* name) : element_(element), name_(name) {}
+        XmlElement operator*() const { return element_; }
         Iterator& operator++();
-        bool operator!=(const Iterator& other) const { return node_ != other.node_; }
+        bool operator!=(const Iterator& other) const { return element_.tree_ != other.element_.tree_; }
 
     private:
-        const _xmlNode* node_;
+        XmlElement element_;
         const char* name_;
     };
 
     Iterator begin() const { return {first_, name_}; }
-    Iterator end() const { return {nullptr, name_}; }
+    Iterator end() const { return {{}, name_}; }
     std::size_t count() const;
 
 private:
     friend class XmlElement;
-    Children(const _xmlNode* first, const char* name) : first_(first), name_(name) {}
+    Children(XmlElement first, const char* name) : first_(first), name_(name) {}
 
-    const _xmlNode* first_;
+    XmlElement first_;
     const char* name_;
 };
 
-/// An XML file as a tree. Malformed markup is repaired as far as the parser recovers it, and texts are converted from
-/// the encoding that the file declares. Nothing outside the bytes is ever read: entities, external references and
-/// inclusions stay unresolved, and the network is out of reach. Fails when the bytes hold no element, or when they nest
-/// or grow beyond the parser's limits (256 levels, texts of 10 MB, entities that multiply each other).
+/// An XML file as a tree of elements and texts, without attributes. Malformed markup is repaired as far as libxml2's
+/// parser recovers it, and texts are converted from the encoding that the file declares. Nothing outside the bytes is
+/// ever read: entities, external references and inclusions stay unresolved, and the network is out of reach. Fails when
+/// the bytes hold no element, or when they nest or grow beyond the parser's limits (256 levels, names of 50 kB,
+/// entities that multiply each other).
 class XmlTree {
 public:
     /// The progress counts bytes.
     static Expected<XmlTree> parse(QByteArrayView bytes, const Progress& progress = {});
 
-    XmlElement root() const;
+    XmlElement root() const { return nodes_->nodes.empty() ? XmlElement() : XmlElement(nodes_.get(), 0); }
 
 private:
     struct Free {
-        void operator()(_xmlDoc* document) const;
+        void operator()(_xmlDict* names) const;
     };
-    using Document = std::unique_ptr<_xmlDoc, Free>;
 
-    explicit XmlTree(Document document) : document_(std::move(document)) {}
+    XmlTree() : nodes_(std::make_unique<XmlNodes>()) {}
 
-    Document document_;
+    std::unique_ptr<XmlNodes> nodes_;
+    std::unique_ptr<_xmlDict, Free> names_;  // holds the names of the nodes
 };
 
 }  // namespace tavrel

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+
+namespace tavrel {
+
+/// Times the work, and in turn with it the reference that bounds it. The counter "ratio" is work by reference, each at
+/// its fastest, which other programs on the machine disturb least.
+template <class Work, class Reference>
+void againstReference(benchmark::State& state, Work work, Reference reference) {
+    using Clock = std::chrono::steady_clock;
+    using Seconds = std::chrono::duration<double>;
+    Seconds fastestWork = Seconds::max();
+    Seconds fastestReference = Seconds::max();
+    for (auto turn : state) {
+        const auto start = Clock::now();
+        work();
+        const auto middle = Clock::now();
+        reference();
+        fastestReference = std::min<Seconds>(fastestReference, Clock::now() - middle);
+        fastestWork = std::min<Seconds>(fastestWork, middle - start);
+        state.SetIterationTime(Seconds(middle - start).count());
+    }
+    state.counters["ratio"] = fastestWork / fastestReference;
+    state.counters["work_ms"] = 1000 * fastestWork.count();
+    state.counters["reference_ms"] = 1000 * fastestReference.count();
+}
+
+}  // namespace tavrel
