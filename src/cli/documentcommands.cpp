@@ -1,13 +1,10 @@
 #include "cli/documentcommands.h"
 
-#include "cli/clidesktop.h"
-#include "cli/documentdriver.h"
 #include "cli/listing.h"
-#include "platform/safefile.h"
+#include "cli/session.h"
 #include "platform/texts.h"
 
 #include <CLI/CLI.hpp>
-#include <QFile>
 #include <QFileInfo>
 
 #include <memory>
@@ -33,38 +30,8 @@ struct Arguments {
 };
 
 QString fileArgument(const Arguments& arguments) {
-    return QFile::decodeName(QByteArray::fromStdString(arguments.file));
+    return pathArgument(arguments.file);
 }
-
-/// An open document on a desktop of its own.
-struct Session {
-    explicit Session(Console& console) : desktop(console) {}
-
-    Expected<void> open(const QString& path) {
-        const auto bytes = FileBytes::open(path);
-        if (!bytes) {
-            return tl::unexpected(bytes.error());
-        }
-        const auto kind = documentKindOf(path, bytes->bytes());
-        if (!kind) {
-            return tl::unexpected(openingFailure(path, kind.error()));
-        }
-        driver = (*kind)->make(desktop);
-        return driver->document().open(path);
-    }
-
-    /// A failure when the document has no such row.
-    Expected<void> checkRow(int row) const {
-        const int count = driver->document().count();
-        if (row < 0 || row >= count) {
-            return failure(textWith("Cli", "No such row", QStringLiteral("error !"), row, count));
-        }
-        return {};
-    }
-
-    CliDesktop desktop;
-    std::unique_ptr<DocumentDriver> driver;
-};
 
 /// Opens the file, does the work and, when all of it succeeded, saves the document.
 template <class Work>

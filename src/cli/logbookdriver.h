@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/documentdriver.h"
+#include "interchange/exports.h"
 #include "logbook/carnet.h"
 
 namespace tavrel {
@@ -9,7 +10,7 @@ namespace tavrel {
 /// separated by commas.
 class LogbookDriver : public DocumentDriver {
 public:
-    explicit LogbookDriver(Desktop& desktop) : carnet_(desktop) {}
+    explicit LogbookDriver(Desktop& desktop) : carnet_(desktop, logbookExportTypes()) {}
 
     Carnet& carnet() { return carnet_; }
 

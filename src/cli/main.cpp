@@ -2,6 +2,7 @@
 #include "cli/commandline.h"
 #include "cli/documentcommands.h"
 #include "cli/inspectcommand.h"
+#include "cli/interchangecommands.h"
 #include "platform/texts.h"
 
 #include <CLI/CLI.hpp>
@@ -24,6 +25,7 @@ int main(int argc, char** argv) try {
     tavrel::Console console{std::cout, std::cerr};
     tavrel::addDocumentCommands(app, console);
     tavrel::addInspectCommand(app, console);
+    tavrel::addInterchangeCommands(app, console);
     tavrel::addCalcCommand(app, console);
     return tavrel::runCommandLine(app, argc, argv, console);
 } catch (const std::exception& error) {

@@ -163,7 +163,8 @@ void noteError(void* context, xmlErrorPtr error) {
     }
 }
 
-/// The parser's events come to the builder. Those of declarations stay with libxml2, which needs them to watch entities.
+/// The parser's events come to the builder. Those of declarations stay with libxml2, which needs them to watch
+/// entities.
 void listen(xmlSAXHandler& events) {
     events.startElementNs = startElement;
     events.endElementNs = endElement;
@@ -175,6 +176,21 @@ void listen(xmlSAXHandler& events) {
     events.processingInstruction = nullptr;
     events.serror = noteError;
 }
+
+/// While it lives the library prints nothing of its own, as it would about characters that it cannot convert.
+class Silence {
+public:
+    Silence() : handler_(xmlStructuredError), context_(xmlStructuredErrorContext) {
+        xmlSetStructuredErrorFunc(nullptr, [](void*, xmlErrorPtr) {});
+    }
+    ~Silence() { xmlSetStructuredErrorFunc(context_, handler_); }
+    Silence(const Silence&) = delete;
+    Silence& operator=(const Silence&) = delete;
+
+private:
+    xmlStructuredErrorFunc handler_;
+    void* context_;
+};
 
 struct FreeParser {
     void operator()(xmlParserCtxt* parser) const {
@@ -270,12 +286,14 @@ Expected<XmlTree> XmlTree::parse(QByteArrayView bytes, const Progress& progress)
     xmlDictReference(parser->dict);
     tree.names_.reset(parser->dict);
 
+    const Silence silence;
     Reading state{progress, static_cast<std::size_t>(bytes.size()), parser.get(), Builder(*tree.nodes_)};
     parser->_private = &state;
     listen(*parser->sax);
     // Without XML_PARSE_NOENT, XML_PARSE_DTDLOAD and XML_PARSE_HUGE: nothing is resolved and the limits hold.
     constexpr int options = XML_PARSE_RECOVER | XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
-    parser->myDoc = xmlCtxtReadMemory(parser.get(), bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr, options);
+    parser->myDoc =
+        xmlCtxtReadMemory(parser.get(), bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr, options);
     state.builder.endAll();
     if (state.cancelled) {
         return failure(text("Main", "Cancelled"));

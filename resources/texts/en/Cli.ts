@@ -11,6 +11,7 @@
 <message><source>Little-endian</source><translation>Byte order: little-endian</translation></message>
 <message><source>No such row</source><translation>There is no row %d: the document has %d records, counted from 0.</translation></message>
 <message><source>No such type</source><translation>“%@” is not a type of document. Types: %@.</translation></message>
+<message><source>Not a logbook</source><translation>“%@” is not a logbook.</translation></message>
 <message><source>Not an entry</source><translation>“%@” is not of the form field=value.</translation></message>
 <message><source>Objects</source><translation>Objects: %d</translation></message>
 <message><source>Output not written</source><translation>The output could not be written.</translation></message>

@@ -11,6 +11,7 @@
 <message><source>Little-endian</source><translation>Ordre des octets : petit-boutiste</translation></message>
 <message><source>No such row</source><translation>Il n’y a pas de ligne %d : le document compte %d fiches, numérotées à partir de 0.</translation></message>
 <message><source>No such type</source><translation>« %@ » n’est pas un type de document. Types : %@.</translation></message>
+<message><source>Not a logbook</source><translation>« %@ » n’est pas un carnet de plongée.</translation></message>
 <message><source>Not an entry</source><translation>« %@ » n’est pas de la forme champ=valeur.</translation></message>
 <message><source>Objects</source><translation>Objets : %d</translation></message>
 <message><source>Output not written</source><translation>La sortie n’a pas pu être écrite.</translation></message>

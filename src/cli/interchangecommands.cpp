@@ -1,0 +1,107 @@
+#include "cli/interchangecommands.h"
+
+#include "cli/session.h"
+#include "interchange/exports.h"
+#include "interchange/imports.h"
+#include "platform/texts.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace tavrel {
+
+namespace {
+
+struct Arguments {
+    std::string file;
+    std::string other;  ///< what is imported, or written
+    std::string format;
+};
+
+using Reader = Expected<ImportResult> (*)(Carnet&, const QString&, const Progress&);
+
+/// By the name of the format; without one the file tells.
+const std::map<std::string, Reader>& readers() {
+    static const std::map<std::string, Reader> byName{
+        {"", readDives}, {"udcf", readUDCF}, {"uddf", readUDDF}, {"handheld", readFromiPhoneFile}};
+    return byName;
+}
+
+/// Saves the dives that came in also when one of them stopped the import; the stop still is a failure.
+Expected<void> importInto(Carnet& carnet, const Arguments& arguments, Console& console) {
+    const auto result = readers().at(arguments.format)(carnet, pathArgument(arguments.other), {});
+    if (!result) {
+        return tl::unexpected(result.error());
+    }
+    if (result->taken > 0) {
+        if (auto saved = carnet.save(); !saved) {
+            return saved;
+        }
+    }
+    if (!result->isWhole()) {
+        return failure(result->message());
+    }
+    print(console, result->message());
+    return {};
+}
+
+Expected<void> exportFrom(Carnet& carnet, const Arguments& arguments) {
+    const auto& exports = logbookExports();
+    const auto chosen = std::find_if(exports.begin(), exports.end(),
+                                     [&](const LogbookExport& it) { return it.name == arguments.format; });
+    return carnet.exportAs(pathArgument(arguments.other), QString::fromLatin1(chosen->typeName));
+}
+
+template <class Work>
+void withLogbook(const Arguments& arguments, Console& console, Work work) {
+    Session session(console);
+    const auto done = session.open(pathArgument(arguments.file))
+                          .and_then([&] { return session.logbook(); })
+                          .and_then([&](Carnet* carnet) { return work(*carnet); });
+    if (!done) {
+        fail(console, done.error());
+    }
+}
+
+}  // namespace
+
+void addInterchangeCommands(CLI::App& app, Console& console) {
+    const auto arguments = std::make_shared<Arguments>();
+    const auto addFile = [&](CLI::App* command) {
+        command->add_option("FILE", arguments->file, "The logbook")->required();
+    };
+
+    CLI::App* import = app.add_subcommand(
+        "import",
+        "Appends the dives of a file to a logbook. A dive that cannot be taken ends the import: the dives before it\n"
+        "are kept and saved, the reason is told, and the exit code is 1.");
+    addFile(import);
+    import->add_option("SOURCE", arguments->other, "The file with the dives")->required();
+    import->add_option("--format", arguments->format, "What SOURCE is; told by its contents when not given")
+        ->check(CLI::IsMember({"udcf", "uddf", "handheld"}));
+    import->callback([arguments, &console] {
+        withLogbook(*arguments, console,
+                    [&](Carnet& carnet) { return importInto(carnet, *arguments, console);
+});
+}  // namespace tavrel
+);
+
+std::vector<std::string> formats;
+for (const LogbookExport& it : logbookExports()) {
+    formats.emplace_back(it.name);
+}
+CLI::App* exporting = app.add_subcommand(
+    "export", "Writes a logbook in another format; TARGET is written as a whole or, on a failure, not at all.");
+addFile(exporting);
+exporting->add_option("TARGET", arguments->other, "The file to write")->required();
+exporting->add_option("--format", arguments->format, "The format")->required()->check(CLI::IsMember(formats));
+exporting->callback([arguments, &console] {
+    withLogbook(*arguments, console, [&](Carnet& carnet) { return exportFrom(carnet, *arguments); });
+});
+}
+
+}  // namespace tavrel

@@ -1,0 +1,43 @@
+#include "cli/session.h"
+
+#include "platform/safefile.h"
+#include "platform/texts.h"
+
+#include <QFile>
+
+namespace tavrel {
+
+QString pathArgument(const std::string& argument) {
+    return QFile::decodeName(QByteArray::fromStdString(argument));
+}
+
+Expected<void> Session::open(const QString& path) {
+    const auto bytes = FileBytes::open(path);
+    if (!bytes) {
+        return tl::unexpected(bytes.error());
+    }
+    const auto kind = documentKindOf(path, bytes->bytes());
+    if (!kind) {
+        return tl::unexpected(openingFailure(path, kind.error()));
+    }
+    driver = (*kind)->make(desktop);
+    return driver->document().open(path);
+}
+
+Expected<void> Session::checkRow(int row) const {
+    const int count = driver->document().count();
+    if (row < 0 || row >= count) {
+        return failure(textWith("Cli", "No such row", QStringLiteral("error !"), row, count));
+    }
+    return {};
+}
+
+Expected<Carnet*> Session::logbook() const {
+    auto* carnet = dynamic_cast<Carnet*>(&driver->document());
+    if (!carnet) {
+        return failure(textWith("Cli", "Not a logbook", QStringLiteral("error !"), driver->document().displayName()));
+    }
+    return carnet;
+}
+
+}  // namespace tavrel
