@@ -2,6 +2,7 @@
 
 #include "cli/listing.h"
 #include "cli/session.h"
+#include "platform/safefile.h"
 #include "platform/texts.h"
 
 #include <CLI/CLI.hpp>
