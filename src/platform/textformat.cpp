@@ -82,7 +82,7 @@ QString padded(const QString& text, const Placeholder& placeholder) {
 
 /// The conversion with its flags, width and precision, for fmt's printf. The length letters are left out: fmt knows the
 /// type.
-std::string specification(const Placeholder& placeholder, const std::string& flags) {
+std::string printfPlaceholder(const Placeholder& placeholder, const std::string& flags) {
     std::string result(1, '%');
     result += flags;
     if (placeholder.width > 0) {
@@ -101,7 +101,7 @@ std::optional<QString> filledInteger(const Placeholder& placeholder, const Forma
     if (!integer) {
         return std::nullopt;
     }
-    const std::string format = specification(placeholder, placeholder.flags);
+    const std::string format = printfPlaceholder(placeholder, placeholder.flags);
     if (placeholder.conversion == 'd' || placeholder.conversion == 'i') {
         return QString::fromStdString(fmt::sprintf(format, static_cast<long long>(*integer)));
     }
@@ -123,7 +123,7 @@ std::optional<QString> filledReal(const Placeholder& placeholder, const FormatAr
     if (!std::isfinite(value)) {
         return padded(shortestText(value), placeholder);
     }
-    return QString::fromStdString(fmt::sprintf(specification(placeholder, placeholder.flags), value));
+    return QString::fromStdString(fmt::sprintf(printfPlaceholder(placeholder, placeholder.flags), value));
 }
 
 std::optional<QString> filled(const Placeholder& placeholder, const FormatArgument& argument) {
