@@ -227,12 +227,4 @@ QString ppO2Title(double ppO2) {
     return shortestText(ppO2);
 }
 
-std::optional<int> ppO2MenuIndex(double ppO2) {
-    const auto found = std::find(ppO2Menu.begin(), ppO2Menu.end(), ppO2);
-    if (found == ppO2Menu.end()) {
-        return std::nullopt;
-    }
-    return static_cast<int>(found - ppO2Menu.begin());
-}
-
 }  // namespace tavrel

@@ -5,7 +5,6 @@
 
 #include <QString>
 
-#include <optional>
 #include <span>
 #include <variant>
 #include <vector>
@@ -71,7 +70,5 @@ QString rowField(const CalculatorPage& page, std::size_t row);
 
 /// The menu's title for a partial pressure.
 QString ppO2Title(double ppO2);
-/// The menu index of a partial pressure; nothing for one that the menu lacks.
-std::optional<int> ppO2MenuIndex(double ppO2);
 
 }  // namespace tavrel

@@ -68,7 +68,7 @@ JsonWriter jsonOf(const CalculatorPage& page, const CalculatorResult& result) {
     return json;
 }
 
-/// The partial pressures of the menu, for help and for messages.
+/// The partial pressures of the menu, for help.
 std::string ppO2Choices() {
     QStringList titles;
     for (const double ppO2 : ppO2Menu) {
@@ -77,17 +77,13 @@ std::string ppO2Choices() {
     return titles.join(QStringLiteral(", ")).toStdString();
 }
 
-// A menu takes its own items only: a depth for another partial pressure than the one asked for would be dangerous.
-std::string checkPpO2(const std::string& argument) {
-    return ppO2MenuIndex(doubleValue(fromArgument(argument))) ? std::string() : "not one of " + ppO2Choices();
-}
-
 double inputValue(const CalculatorInput& input, const std::string& argument) {
-    const double value = doubleValue(fromArgument(argument));
-    if (input.kind == CalculatorInputKind::PpO2Menu) {
-        return ppO2OfMenuIndex(ppO2MenuIndex(value).value_or(-1));
+    const QString value = fromArgument(argument);
+    // The menu's items are a convenience of the window: here any partial pressure counts, and none is no choice.
+    if (input.kind == CalculatorInputKind::PpO2Menu && !startsWithNumber(value)) {
+        return ppO2OfMenuIndex(-1);
     }
-    return value;
+    return doubleValue(value);
 }
 
 void addPage(CLI::App& calc, const CalculatorPage& page, Console& console) {
@@ -101,15 +97,10 @@ void addPage(CLI::App& calc, const CalculatorPage& page, Console& console) {
     for (std::size_t position = 0; position < page.inputs.size(); ++position) {
         const CalculatorInput& input = page.inputs[position];
         std::string help = withoutMnemonic(text(input.label)).toStdString() + ", " + input.unit;
-        const bool menu = input.kind == CalculatorInputKind::PpO2Menu;
-        if (menu) {
-            help += ": " + ppO2Choices() + " [" + ppO2Title(ppO2Menu[defaultPpO2Index]).toStdString() + "]";
+        if (input.kind == CalculatorInputKind::PpO2Menu) {
+            help += ", usually " + ppO2Choices() + " [" + ppO2Title(ppO2OfMenuIndex(-1)).toStdString() + "]";
         }
-        CLI::Option* option = command->add_option("--" + std::string(input.option), arguments->inputs[position], help)
-                                  ->type_name("NUMBER");
-        if (menu) {
-            option->check(CLI::Validator(checkPpO2, ""));
-        }
+        command->add_option("--" + std::string(input.option), arguments->inputs[position], help)->type_name("NUMBER");
     }
     addJsonFlag(command, arguments->json);
     command->callback([&page, &console, arguments] {
@@ -202,20 +193,23 @@ JsonWriter jsonOf(const GeographicPosition& position, const GpsOutput& output, c
     return json;
 }
 
-const QRegularExpression& blanks() {
-    static const QRegularExpression expression(QStringLiteral("\\s+"));
-    return expression;
+// "D M S", or with their signs as on a chart: 48°23'12.5".
+QStringList angleParts(const QString& argument) {
+    static const QRegularExpression separators(QStringLiteral("[\\s°′″'\"]+"));
+    return argument.split(separators, Qt::SkipEmptyParts);
 }
 
-// "D M S": a part left out is an empty field, a fourth has no field to go to.
-std::string checkSexagesimal(const std::string& argument) {
-    return fromArgument(argument).split(blanks(), Qt::SkipEmptyParts).size() > 3
-               ? "\"" + argument + "\" is not degrees, minutes and seconds"
-               : std::string();
+// What no field takes would be left out without a word, and the position be kilometres off.
+void checkAngle(const std::string& argument, bool sexagesimal) {
+    const QStringList parts = angleParts(fromArgument(argument));
+    if (sexagesimal ? parts.size() > 3 : parts.size() > 1 && startsWithNumber(parts[1])) {
+        throw CLI::ValidationError("\"" + argument + '"', sexagesimal ? "not degrees, minutes and seconds"
+                                                                      : "not decimal degrees; is --sexagesimal meant?");
+    }
 }
 
 SexagesimalAngle angleOf(const QString& argument) {
-    QStringList parts = argument.split(blanks(), Qt::SkipEmptyParts);
+    QStringList parts = angleParts(argument);
     parts.resize(3);
     return {doubleValue(parts[0]), doubleValue(parts[1]), doubleValue(parts[2])};
 }
@@ -234,11 +228,6 @@ constexpr const char* towardsEd50 = "wgs84-ed50";
 constexpr const char* towardsWgs84 = "ed50-wgs84";
 
 void runSexagesimal(const GpsArguments& arguments, Console& console) {
-    for (const std::string& angle : {arguments.longitude, arguments.latitude}) {
-        if (const std::string wrong = checkSexagesimal(angle); !wrong.empty()) {
-            throw CLI::ValidationError("gps", wrong);
-        }
-    }
     const SexagesimalConversion conversion =
         convertSexagesimal(angleOf(fromArgument(arguments.longitude)), angleOf(fromArgument(arguments.latitude)),
                            doubleValue(fromArgument(arguments.altitude)));
@@ -278,7 +267,8 @@ void addGps(CLI::App& calc, Console& console) {
     auto arguments = std::make_shared<GpsArguments>();
     CLI::App* command = addCalculator(calc, CalculatorId::Gps);
     CLI::Option* sexagesimal = command->add_flag("--sexagesimal", arguments->sexagesimal,
-                                                 "ED50 to WGS84 from \"degrees minutes seconds\", with a report");
+                                                 "ED50 to WGS84 from \"degrees minutes seconds\", with a report; "
+                                                 "the parts are added, so west and south each takes its minus sign");
     CLI::Option* direction =
         command->add_option("--direction", arguments->direction, "Decimal degrees: ed50-wgs84 (default) or wgs84-ed50")
             ->type_name("")
@@ -290,6 +280,8 @@ void addGps(CLI::App& calc, Console& console) {
     sexagesimal->excludes(direction, log);
     addJsonFlag(command, arguments->json);
     command->callback([&console, arguments] {
+        checkAngle(arguments->longitude, arguments->sexagesimal);
+        checkAngle(arguments->latitude, arguments->sexagesimal);
         if (arguments->sexagesimal) {
             runSexagesimal(*arguments, console);
         } else {
@@ -302,7 +294,13 @@ void addGps(CLI::App& calc, Console& console) {
 
 void addCalcCommand(CLI::App& app, Console& console) {
     CLI::App* calc = app.add_subcommand("calc", "Diving calculators");
-    calc->require_subcommand(1);
+    // At least one calculator, checked last, so that a misspelt one is named.
+    calc->require_subcommand(0, 1);
+    calc->final_callback([calc] {
+        if (calc->get_subcommands().empty()) {
+            throw CLI::RequiredError("A calculator");
+        }
+    });
     for (const CalculatorPage& page : calculatorPages()) {
         addPage(*calc, page, console);
     }

@@ -38,6 +38,8 @@ TEST(CalcCommand, printsTheResultTextOrOneJsonObject) {
         {{"mod", "--o2", "32", "--ppo2", "1.4"}, "MOD : 33.8 m\n"},
         {{"mod", "--o2", "32"}, "MOD : 33.8 m\n"},
         {{"mod", "--o2=32", "--ppo2", "1,60"}, "MOD : 40.0 m\n"},
+        {{"mod", "--o2", "32", "--ppo2", "1.45"}, "MOD : 35.3 m\n"},
+        {{"mod", "--o2", "32", "--ppo2", ""}, "MOD : 33.8 m\n"},
         {{"mod", "--json"}, "{\"mod\": \"inf\"}\n"},
         {{"blend", "--json"}, "{\"oxygen\": 0, \"topUp\": \"nan\"}\n"},
         {{"trimix-min-depth", "--o2", "16", "--json"}, "{\"valid\": true, \"depth\": 0}\n"},
@@ -98,12 +100,12 @@ TEST(CalcCommand, refusesWrongUsageWithCodeTwo) {
         {},
         {"depth"},
         {"mod", "--depth", "3"},
-        {"mod", "--ppo2", "1.45"},
         {"convert", "--value", "3"},
         {"convert", "--from", "fathoms"},
         {"gps", "--direction", "north"},
         {"gps", "--sexagesimal", "--direction", "ed50-wgs84"},
         {"gps", "--sexagesimal", "--lon", "1 2 3 4"},
+        {"gps", "--lat", "48 23 12"},
     };
     for (const auto& arguments : wrong) {
         const Outcome outcome = calc(arguments);
