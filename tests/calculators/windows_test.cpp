@@ -36,6 +36,7 @@ void type(const QWidget& window, const char* field, const char* words) {
 }
 
 void pressEnter(QWidget& widget) {
+    widget.setFocus();
     for (const auto kind : {QEvent::KeyPress, QEvent::KeyRelease}) {
         QKeyEvent event(kind, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
         QApplication::sendEvent(&widget, &event);
@@ -84,6 +85,16 @@ TEST(NitroxWindow, calculatesOnEnterAndCopiesTheResult) {
     NitroxController window(CalculatorId::ProfMax);
     window.show();
     EXPECT_EQ(shown(window, "resultatField"), u"");
+    const auto copy = [&window] {
+        for (auto* button : window.findChildren<QPushButton*>()) {
+            if (!button->isDefault()) {
+                button->click();
+            }
+        }
+        return QApplication::clipboard()->text();
+    };
+    QApplication::clipboard()->setText(QStringLiteral("kept"));
+    EXPECT_EQ(copy(), u"kept") << "there is no result yet";
     type(window, "fracO2Field", "32,0 %");
     pressEnter(named<QLineEdit>(window, "fracO2Field"));
     EXPECT_EQ(shown(window, "resultatField"), u"MOD : 33.8 m");
@@ -97,12 +108,7 @@ TEST(NitroxWindow, calculatesOnEnterAndCopiesTheResult) {
     window.oxygenWindow();
     EXPECT_EQ(shown(window, "resultatField"), u"MOD : 40.0 m");
     window.profMax();
-    for (auto* button : window.findChildren<QPushButton*>()) {
-        if (!button->isDefault()) {
-            button->click();
-        }
-    }
-    EXPECT_EQ(QApplication::clipboard()->text(), u"MOD : 33.8 m");
+    EXPECT_EQ(copy(), u"MOD : 33.8 m");
 }
 
 TEST(RebreatherWindow, rowsKeepTheirColourWhereNoneIsSaid) {
@@ -110,6 +116,7 @@ TEST(RebreatherWindow, rowsKeepTheirColourWhereNoneIsSaid) {
     const auto bold = [&] { return named<QLabel>(window, "d10Field").font().bold(); };
     const auto colour = [&] { return named<QLabel>(window, "d10Field").palette().color(QPalette::Text); };
     const QColor black = colour();
+    const QSize size = window.sizeHint();
     const auto calculate = [&](const char* supply, const char* wanted) {
         type(window, "idEanxField", supply);
         type(window, "idRealFracO2Field", wanted);
@@ -124,6 +131,7 @@ TEST(RebreatherWindow, rowsKeepTheirColourWhereNoneIsSaid) {
     EXPECT_TRUE(bold());
     calculate("5", "0");
     EXPECT_NE(colour(), black) << "red stays at exactly 20";
+    EXPECT_EQ(window.sizeHint(), size) << "room for the result is there beforehand";
     calculate("100", "100");
     EXPECT_TRUE(shown(window, "d10Field").contains(u"nan"));
     EXPECT_NE(colour(), black) << "red stays at not-a-number";
@@ -188,8 +196,9 @@ TEST(GpsWindow, reportsInThreeColoursAndLogsEachStep) {
     pressEnter(named<QLineEdit>(window, "latitude_inField"));
     // Enter in the shared altitude runs the converter used last.
     pressEnter(named<QLineEdit>(window, "altitude_inField"));
+    pressEnter(named<QComboBox>(window, "geodesiePopUp"));
     qInstallMessageHandler(previous);
-    EXPECT_EQ(loggedLines.size(), 2 * 18);
+    EXPECT_EQ(loggedLines.size(), 3 * 18);
     EXPECT_EQ(loggedLines.value(2), u"lng WGS -> ED = 2.350000");
     EXPECT_EQ(named<QLineEdit>(window, "longitude_outField").text(), u"2.351285");
     EXPECT_TRUE(named<QLineEdit>(window, "altitude_outField").text().startsWith(u"Altitude : "));

@@ -15,6 +15,7 @@
 <message><source>Convert sexagesimal</source><translation>&amp;Convert to WGS84</translation></message>
 <message><source>Copy</source><translation>Cop&amp;y</translation></message>
 <message><source>Copy hint</source><translation>Copies the result</translation></message>
+<message><source>Copy report</source><translation>Copy &amp;report</translation></message>
 <message><source>Cubic feet (US)</source><translation>Cubic &amp;feet (US)</translation></message>
 <message><source>Cubic inches (US)</source><translation>Cubic &amp;inches (US)</translation></message>
 <message><source>Decimal converter</source><translation>Decimal degrees</translation></message>
@@ -49,6 +50,8 @@
 <message><source>Resulting altitude</source><translation>Altitude</translation></message>
 <message><source>Seconds</source><translation>seconds</translation></message>
 <message><source>Sexagesimal converter</source><translation>Degrees, minutes and seconds: ED50 → WGS84</translation></message>
+<message><source>Signs hint</source><translation>The three parts are added: west of Greenwich or
+south of the equator each takes its minus sign.</translation></message>
 <message><source>Temperature</source><translation>Temperature</translation></message>
 <message><source>Trimix</source><translation>Trimix</translation></message>
 <message><source>Unit conversions</source><translation>Unit conversions</translation></message>

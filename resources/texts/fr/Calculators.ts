@@ -15,6 +15,7 @@
 <message><source>Convert sexagesimal</source><translation>&amp;Convertir en WGS84</translation></message>
 <message><source>Copy</source><translation>Cop&amp;ier</translation></message>
 <message><source>Copy hint</source><translation>Copie le résultat</translation></message>
+<message><source>Copy report</source><translation>Copier le compte &amp;rendu</translation></message>
 <message><source>Cubic feet (US)</source><translation>&amp;Pieds cubes (US)</translation></message>
 <message><source>Cubic inches (US)</source><translation>Po&amp;uces cubes (US)</translation></message>
 <message><source>Decimal converter</source><translation>Degrés décimaux</translation></message>
@@ -49,6 +50,8 @@
 <message><source>Resulting altitude</source><translation>Altitude</translation></message>
 <message><source>Seconds</source><translation>secondes</translation></message>
 <message><source>Sexagesimal converter</source><translation>Degrés, minutes et secondes : ED50 → WGS84</translation></message>
+<message><source>Signs hint</source><translation>Les trois parties s’additionnent : à l’ouest ou
+au sud, chacune prend son signe moins.</translation></message>
 <message><source>Temperature</source><translation>Température</translation></message>
 <message><source>Trimix</source><translation>Trimix</translation></message>
 <message><source>Unit conversions</source><translation>Conversions d’unités</translation></message>

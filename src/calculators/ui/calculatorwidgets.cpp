@@ -1,7 +1,5 @@
 #include "calculators/ui/calculatorwidgets.h"
 
-#include "platform/texts.h"
-
 #include <QClipboard>
 #include <QGridLayout>
 #include <QGuiApplication>
@@ -60,12 +58,17 @@ QLabel* newFormulaLabel(const QString& formula, QWidget* parent) {
     return label;
 }
 
-QPushButton* newCopyButton(const std::function<QString()>& copied, QWidget* parent) {
-    auto* button = new QPushButton(text(TextKey("Calculators", "Copy")), parent);
+void copyResult(const QString& result) {
+    if (!result.trimmed().isEmpty()) {
+        QGuiApplication::clipboard()->setText(result);
+    }
+}
+
+QPushButton* newCopyButton(TextKey label, const std::function<QString()>& copied, QWidget* parent) {
+    auto* button = new QPushButton(text(label), parent);
     button->setToolTip(text(TextKey("Calculators", "Copy hint")));
     button->setAutoDefault(false);
-    QObject::connect(button, &QPushButton::clicked, button,
-                     [copied] { QGuiApplication::clipboard()->setText(copied()); });
+    QObject::connect(button, &QPushButton::clicked, button, [copied] { copyResult(copied()); });
     return button;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/texts.h"
+
 #include <QString>
 #include <Qt>
 
@@ -28,8 +30,10 @@ QLabel* newResultLabel(const char* name, QWidget* parent);
 /// The line that says where a result comes from.
 QLabel* newFormulaLabel(const QString& formula, QWidget* parent);
 
-/// A button that puts the text on the clipboard. It never takes Enter from the window's own button.
-QPushButton* newCopyButton(const std::function<QString()>& text, QWidget* parent);
+/// Puts a result on the clipboard; before there is one, the clipboard keeps what it holds.
+void copyResult(const QString& result);
+/// A button that copies a result. It never takes Enter from the window's own button.
+QPushButton* newCopyButton(TextKey label, const std::function<QString()>& copied, QWidget* parent);
 
 /// Shows a window that may be hidden, minimised or behind others.
 void bringToFront(QWidget* window);

@@ -5,11 +5,9 @@
 #include "platform/numbers.h"
 
 #include <QAction>
-#include <QClipboard>
 #include <QComboBox>
 #include <QEvent>
 #include <QGroupBox>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -19,6 +17,9 @@
 namespace tavrel {
 
 namespace {
+
+/// Inputs whose results are about as long as results get; they size a window that has none yet.
+constexpr std::array ordinaryInputs{61.7, 47.3, 203.9, 82.1};
 
 // What a row says before the first calculation.
 QString emptyRow(double consumption) {
@@ -65,7 +66,7 @@ CalculatorWindow::CalculatorWindow(CalculatorId id, QWidget* parent) : QDialog(p
 
     auto* copy = new QAction(this);
     copy->setShortcut(QKeySequence::Copy);
-    connect(copy, &QAction::triggered, this, [this] { QGuiApplication::clipboard()->setText(resultText()); });
+    connect(copy, &QAction::triggered, this, [this] { copyResult(resultText()); });
     addAction(copy);
 }
 
@@ -90,11 +91,11 @@ QGroupBox* CalculatorWindow::newResult() {
     grid->setColumnStretch(0, 1);
     QLabel* label = newResultLabel(page_.resultField, group);
     grid->addWidget(label, 0, 0);
-    // Room for a result of the usual length, so that the window does not grow under the user's hand.
-    const std::vector<double> ones(page_.inputs.size(), 1.0);
-    const QSize usual = label->fontMetrics().size(0, page_.evaluate(ones).text);
-    grid->addItem(new QSpacerItem(usual.width(), usual.height()), 0, 0);
-    grid->addWidget(newCopyButton([this] { return resultText(); }, group), 0, 1, Qt::AlignBottom);
+    const QSize ordinary = label->fontMetrics().size(0, ordinaryResult().text + QStringLiteral("00"));
+    grid->addItem(new QSpacerItem(ordinary.width(), ordinary.height()), 0, 0);
+    grid->addWidget(newCopyButton(
+                        TextKey("Calculators", "Copy"), [this] { return resultText(); }, group),
+                    0, 1, Qt::AlignBottom);
     return group;
 }
 
@@ -105,10 +106,16 @@ QGroupBox* CalculatorWindow::newTable() {
     paper->setBackgroundRole(QPalette::Base);
     paper->setAutoFillBackground(true);
     auto* rows = new QVBoxLayout(paper);
+    // As wide as a red row.
+    QFont bold = font();
+    bold.setBold(true);
+    const QFontMetrics metrics(bold);
+    const CalculatorResult ordinary = ordinaryResult();
     for (std::size_t row = 0; row < tableConsumptions.size(); ++row) {
         auto* label = new QLabel(emptyRow(tableConsumptions[row]), paper);
         label->setObjectName(rowField(page_, row));
         label->setForegroundRole(QPalette::Text);
+        label->setMinimumWidth(metrics.horizontalAdvance(ordinary.rows[row].text + QStringLiteral("00")));
         label->setTextInteractionFlags(Qt::TextSelectableByMouse);
         rows->addWidget(label);
     }
@@ -116,6 +123,14 @@ QGroupBox* CalculatorWindow::newTable() {
     layout->addWidget(paper, 1);
     layout->addWidget(new QLabel(rowLegend(page_), group));
     return group;
+}
+
+CalculatorResult CalculatorWindow::ordinaryResult() const {
+    std::vector<double> values;
+    for (std::size_t input = 0; input < page_.inputs.size(); ++input) {
+        values.push_back(ordinaryInputs[input % ordinaryInputs.size()]);
+    }
+    return page_.evaluate(values);
 }
 
 QString CalculatorWindow::resultText() const {

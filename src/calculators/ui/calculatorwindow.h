@@ -31,6 +31,8 @@ private:
     QGroupBox* newInputs();
     QGroupBox* newResult();
     QGroupBox* newTable();
+    /// A result to reserve room for, so that the window does not grow under the user's hand.
+    CalculatorResult ordinaryResult() const;
     double inputValue(const CalculatorInput& input) const;
     void showRows(const CalculatorPage& page, const std::vector<CalculatorRow>& rows);
     void colourRows();

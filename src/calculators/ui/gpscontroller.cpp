@@ -8,6 +8,7 @@
 #include <QFontDatabase>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLoggingCategory>
@@ -67,7 +68,6 @@ GpsController::GpsController(QWidget* parent) : QDialog(parent) {
     auto* altitudeGrid = new QGridLayout(altitude);
     altitude_inField = newNumberField("altitude_inField", altitude);
     addFieldRow(altitudeGrid, text(TextKey("Calculators", "Altitude")), altitude_inField, QStringLiteral("m"));
-    connect(altitude_inField, &QLineEdit::returnPressed, this, [this] { decimalLast_ ? convertGPS2() : convertGPS(); });
 
     auto* left = new QVBoxLayout;
     left->addWidget(altitude);
@@ -78,10 +78,22 @@ GpsController::GpsController(QWidget* parent) : QDialog(parent) {
     auto* layout = new QHBoxLayout(this);
     layout->addLayout(left);
     layout->addWidget(newReport(), 1);
+    longitude_in_degreeField->setFocus();
+}
+
+void GpsController::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        QDialog::keyPressEvent(event);
+        return;
+    }
+    const QWidget* focused = focusWidget();
+    const bool decimal = decimal_->isAncestorOf(focused) || (decimalLast_ && !sexagesimal_->isAncestorOf(focused));
+    decimal ? convertGPS2() : convertGPS();
 }
 
 QGroupBox* GpsController::newSexagesimal() {
     auto* group = new QGroupBox(text(TextKey("Calculators", "Sexagesimal converter")), this);
+    sexagesimal_ = group;
     auto* grid = new QGridLayout;
     const auto addAngle = [&](TextKey label, const std::array<std::pair<QLineEdit**, const char*>, 3>& parts) {
         const int row = grid->rowCount();
@@ -96,7 +108,6 @@ QGroupBox* GpsController::newSexagesimal() {
             *parts[place].first = field;
             field->setAccessibleName(withoutMnemonic(caption->text()) + u' ' + text(names[place]));
             field->setToolTip(text(names[place]));
-            connect(field, &QLineEdit::returnPressed, this, &GpsController::convertGPS);
             grid->addWidget(field, row, 1 + 2 * part);
             grid->addWidget(new QLabel(signs[place], group), row, 2 + 2 * part);
         }
@@ -113,6 +124,7 @@ QGroupBox* GpsController::newSexagesimal() {
     connect(convert, &QPushButton::clicked, this, &GpsController::convertGPS);
     auto* layout = new QVBoxLayout(group);
     layout->addLayout(grid);
+    layout->addWidget(new QLabel(text(TextKey("Calculators", "Signs hint")), group));
     layout->addWidget(newFormulaLabel(sexagesimalFormula(), group));
     layout->addWidget(convert, 0, Qt::AlignRight);
     return group;
@@ -120,6 +132,7 @@ QGroupBox* GpsController::newSexagesimal() {
 
 QGroupBox* GpsController::newDecimal() {
     auto* group = new QGroupBox(text(TextKey("Calculators", "Decimal converter")), this);
+    decimal_ = group;
     auto* grid = new QGridLayout;
     geodesiePopUp = new QComboBox(group);
     geodesiePopUp->setObjectName(QStringLiteral("geodesiePopUp"));
@@ -132,9 +145,6 @@ QGroupBox* GpsController::newDecimal() {
                 Qt::AlignRight);
     addFieldRow(grid, text(TextKey("Calculators", "Decimal latitude")), latitude_inField, QStringLiteral("°"),
                 Qt::AlignRight);
-    for (const QLineEdit* field : {longitude_inField, latitude_inField}) {
-        connect(field, &QLineEdit::returnPressed, this, &GpsController::convertGPS2);
-    }
     auto* convert = newConvertButton(text(TextKey("Calculators", "Convert decimal")), group);
     connect(convert, &QPushButton::clicked, this, &GpsController::convertGPS2);
     auto* layout = new QVBoxLayout(group);
@@ -161,7 +171,7 @@ QGroupBox* GpsController::newOutput() {
     const auto lines = [this] {
         return longitude_outField->text() + u'\n' + latitude_outField->text() + u'\n' + altitude_outField->text();
     };
-    layout->addWidget(newCopyButton(lines, resultatField), 0, Qt::AlignRight);
+    layout->addWidget(newCopyButton(TextKey("Calculators", "Copy"), lines, resultatField), 0, Qt::AlignRight);
     return resultatField;
 }
 
@@ -177,11 +187,16 @@ QGroupBox* GpsController::newReport() {
     colours.setColor(QPalette::Base, paper);
     colours.setColor(QPalette::Text, colourOf(ReportRole::Label));
     gpsDataField->setPalette(colours);
-    // Room for the longest line, a geocentric coordinate.
-    gpsDataField->setMinimumWidth(gpsDataField->fontMetrics().horizontalAdvance(u'0') * 42);
+    // Room for the whole report and its longest line, a geocentric coordinate.
+    const QFontMetrics metrics = gpsDataField->fontMetrics();
+    const auto lines = static_cast<int>(reportLines(gpsReport({})).size()) + 1;
+    const int margin = static_cast<int>(gpsDataField->document()->documentMargin()) + gpsDataField->frameWidth();
+    gpsDataField->setMinimumSize(metrics.horizontalAdvance(u'0') * 42, metrics.lineSpacing() * lines + 2 * margin);
     auto* layout = new QVBoxLayout(group);
     layout->addWidget(gpsDataField);
-    layout->addWidget(newCopyButton([this] { return gpsDataField->toPlainText(); }, group), 0, Qt::AlignRight);
+    layout->addWidget(newCopyButton(
+                          TextKey("Calculators", "Copy report"), [this] { return gpsDataField->toPlainText(); }, group),
+                      0, Qt::AlignRight);
     return group;
 }
 

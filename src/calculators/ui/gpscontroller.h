@@ -14,7 +14,7 @@ namespace tavrel {
 
 /// Two converters of positions between ED50 and WGS84: one from degrees, minutes and seconds with a report of every
 /// step, one from decimal degrees in either direction. They share the altitude and the output fields. Enter runs the
-/// converter whose field has the focus; in the altitude, the one used last.
+/// converter that has the focus; elsewhere, as in the altitude, the one used last.
 class GpsController : public QDialog {
     Q_OBJECT
 
@@ -32,6 +32,9 @@ public:
                                               double altitude);
     /// In the direction of the menu; writes the output fields and the diagnostic log (category "tavrel.gps").
     void convertLongitude(double longitude, double latitude, double altitude);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     QGroupBox* newSexagesimal();
@@ -56,6 +59,8 @@ private:
     QLineEdit* altitude_outField;
     QGroupBox* resultatField;  ///< the area that holds the output fields
     QTextEdit* gpsDataField;
+    QGroupBox* sexagesimal_;
+    QGroupBox* decimal_;
     bool decimalLast_ = false;
 };
 

@@ -53,11 +53,13 @@ PhysiqueController::PhysiqueController(QWidget* parent) : QDialog(parent), conve
     connect(convert, &QPushButton::clicked, this, &PhysiqueController::convertir);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
-    buttons->addWidget(newCopyButton([this] { return resultText(); }, this));
+    buttons->addWidget(newCopyButton(
+        TextKey("Calculators", "Copy"), [this] { return resultText(); }, this));
     buttons->addWidget(convert);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(conversionsTabView);
     layout->addLayout(buttons);
+    fieldOf(this, conversionTabs().front().units.front())->setFocus();
 }
 
 QWidget* PhysiqueController::newTab(const ConversionTab& tab) {
@@ -117,7 +119,9 @@ QString PhysiqueController::resultText() const {
     const QWidget* page = conversionsTabView->currentWidget();
     QStringList lines;
     for (const ConversionUnit& unit : tabNamed(page->objectName())->units) {
-        lines << fieldOf(page, unit)->text() + u' ' + QString::fromUtf8(unit.symbol);
+        if (const QString figure = fieldOf(page, unit)->text(); !figure.isEmpty()) {
+            lines << figure + u' ' + QString::fromUtf8(unit.symbol);
+        }
     }
     return lines.join(u'\n');
 }
