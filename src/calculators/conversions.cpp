@@ -11,7 +11,7 @@ namespace {
 
 // 100,000 Pa over 6,894.757 Pa, the pound-force per square inch.
 constexpr double psiPerBar = 14.50377;
-// Rounded as printed on fill-station cards. They are not each other's inverses, so a volume does not come back exactly.
+// Each rounded on its own, so they are not each other's inverses and a volume does not come back exactly.
 constexpr double litresPerCubicFoot = 28.317;
 constexpr double cubicInchesPerLitre = 61.024;
 constexpr double cubicInchesPerLitreBack = 61.0241;

@@ -10,8 +10,7 @@ namespace tavrel {
 /// The two equivalent depths of a mix at a depth.
 struct EquivalentDepths {
     double ead = 0;  ///< equivalent air depth by nitrogen, never below 0 (not-a-number stays)
-    double end =
-        0;  ///< equivalent narcotic depth; oxygen counts as narcotic, so only helium lowers it; may be negative
+    double end = 0;  ///< equivalent narcotic depth; oxygen narcotises too, so only helium lowers it; may be negative
 };
 EquivalentDepths trimixEquivalentDepths(double oxygen, double helium, double depth);
 
