@@ -24,7 +24,7 @@ Expected<void> makeLogbook(const QString& list, const QString& target, Console& 
         return tl::unexpected(dives.error());
     }
     CliDesktop desktop(console);
-    LogbookDriver logbook(desktop);
+    LogbookDriver logbook(desktop.desktop());
     for (const ListedDive& dive : *dives) {
         logbook.beginRecord();
         for (const auto& [field, value] : dive.entries) {

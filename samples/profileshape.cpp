@@ -84,7 +84,8 @@ ProfileSeries drawProfile(const ProfileShape& shape, int interval) {
         if (std::abs(now.speed) < stayingSpeed && now.depth >= movingDepth && now.depth < deepest) {
             now.depth -= movedUp(seed, second);
         }
-        depths.push_back(static_cast<double>((now.depth + 5) / 10) / 10.0);
+        const int decimetres = (now.depth + 5) / 10;
+        depths.push_back(decimetres / 10.0);
         ascents.push_back(now.speed >= ascentAlarmSpeed);
         slowDowns.push_back(now.speed >= slowDownSpeed);
         surfaces.push_back(now.depth < surfaceDepth);

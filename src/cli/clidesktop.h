@@ -29,7 +29,7 @@ class CliDesktop {
 public:
     explicit CliDesktop(Console& console);
 
-    operator Desktop&() { return desktop_; }
+    Desktop& desktop() { return desktop_; }
 
 private:
     Preferences preferences_;

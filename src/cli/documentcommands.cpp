@@ -80,7 +80,7 @@ void runNew(const Arguments& arguments, Console& console) {
         return;
     }
     CliDesktop desktop(console);
-    if (const auto saved = kind->make(desktop)->document().saveAs(path); !saved) {
+    if (const auto saved = kind->make(desktop.desktop())->document().saveAs(path); !saved) {
         fail(console, saved.error());
     }
 }
@@ -146,7 +146,7 @@ Expected<void> showJson(const QString& path, Console& console) {
     const auto written = documentKindOf(path, bytes->bytes()).and_then([&](const DocumentKind* kind) {
         CliDesktop desktop(console);
         JsonWriter json = jsonOn(console);
-        return kind->make(desktop)->writeJson(bytes->bytes(), json).map([&] { console.out << '\n'; });
+        return kind->make(desktop.desktop())->writeJson(bytes->bytes(), json).map([&] { console.out << '\n'; });
     });
     return written.map_error([&](const Failure& reason) { return openingFailure(path, reason); });
 }

@@ -1,12 +1,12 @@
 #include "cli/inspectcommand.h"
 
+#include "cli/session.h"
 #include "platform/safefile.h"
 #include "platform/texts.h"
 #include "platform/typedstreamtree.h"
 
 #include <CLI/CLI.hpp>
 #include <QByteArrayView>
-#include <QFile>
 
 #include <memory>
 
@@ -47,7 +47,7 @@ void addInspectCommand(CLI::App& app, Console& console) {
     command->add_option("FILE", arguments->file, "Any typed stream")->required();
     command->add_flag("--json", arguments->json, "The whole tree, as one JSON object");
     command->callback([arguments, &console] {
-        const QString path = QFile::decodeName(QByteArray::fromStdString(arguments->file));
+        const QString path = pathArgument(arguments->file);
         const auto bytes = FileBytes::open(path);
         if (!bytes) {
             fail(console, bytes.error());

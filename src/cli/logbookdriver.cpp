@@ -53,6 +53,7 @@ Expected<QString> LogbookDriver::find(const QString& field, const QString& text)
 
 std::vector<ListColumn> LogbookDriver::tableColumns() const {
     std::vector<ListColumn> columns;
+    columns.reserve(diveColumns.size());
     for (const auto& column : diveColumns) {
         columns.push_back({QString::fromLatin1(column.field), column.title.text()});
     }

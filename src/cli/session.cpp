@@ -20,7 +20,7 @@ Expected<void> Session::open(const QString& path) {
     if (!kind) {
         return tl::unexpected(openingFailure(path, kind.error()));
     }
-    driver = (*kind)->make(desktop);
+    driver = (*kind)->make(desktop.desktop());
     return driver->document().open(path);
 }
 
