@@ -5,7 +5,6 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -15,33 +14,38 @@ namespace tavrel {
 
 namespace {
 
-/// Gives the label columns of groups that stand under one another the same widths.
-void alignLabels(const std::vector<LaidOutGroup>& groups) {
-    int pairs = 0;
-    for (const LaidOutGroup& group : groups) {
-        pairs = std::max(pairs, group.pairs);
-    }
-    for (int pair = 0; pair < pairs; ++pair) {
-        std::map<int, int> widest;  // by the number of pairs side by side
-        const auto eachLabel = [&](const LaidOutGroup& group, auto visit) {
-            for (int row = 0; pair < group.pairs && row < group.grid->rowCount(); ++row) {
-                const QLayoutItem* item = group.grid->itemAtPosition(row, labelColumn(pair));
-                if (item && qobject_cast<QLabel*>(item->widget())) {
-                    visit(item->widget()->sizeHint().width());
-                }
-            }
-        };
-        for (const LaidOutGroup& group : groups) {
-            eachLabel(group, [&](int width) { widest[group.pairs] = std::max(widest[group.pairs], width); });
+/// The width that a column of a grid needs; what spans several columns does not count.
+int neededWidth(const QGridLayout& grid, int column) {
+    int width = 0;
+    for (int row = 0; row < grid.rowCount(); ++row) {
+        const QLayoutItem* item = grid.itemAtPosition(row, column);
+        if (item && (column == 0 || item != grid.itemAtPosition(row, column - 1)) &&
+            item != grid.itemAtPosition(row, column + 1)) {
+            width = std::max(width, item->sizeHint().width());
         }
+    }
+    return width;
+}
+
+/// Puts the pairs of labels and controls of groups that stand under one another under one another too. Groups without
+/// labels go their own way.
+void alignPairs(const std::vector<LaidOutGroup>& groups) {
+    std::map<std::pair<int, int>, int> widest;  // by the number of pairs side by side and the column
+    const auto eachColumn = [&](auto visit) {
         for (const LaidOutGroup& group : groups) {
             bool labelled = false;
-            eachLabel(group, [&](int) { labelled = true; });
-            if (labelled) {
-                group.grid->setColumnMinimumWidth(labelColumn(pair), widest[group.pairs]);
+            for (int pair = 0; pair < group.pairs; ++pair) {
+                labelled = labelled || neededWidth(*group.grid, labelColumn(pair)) > 0;
+            }
+            for (int pair = 0; labelled && pair < group.pairs; ++pair) {
+                for (const int column : {labelColumn(pair), controlColumn(pair)}) {
+                    visit(*group.grid, column, widest[{group.pairs, column}]);
+                }
             }
         }
-    }
+    };
+    eachColumn([](QGridLayout& grid, int column, int& width) { width = std::max(width, neededWidth(grid, column)); });
+    eachColumn([](QGridLayout& grid, int column, int width) { grid.setColumnMinimumWidth(column, width); });
 }
 
 }  // namespace
@@ -151,7 +155,7 @@ QWidget* FormPages::buildPage(int number) {
     if (!pageFilled) {
         bands->addStretch();
     }
-    alignLabels(groups);
+    alignPairs(groups);
     for (std::size_t each = 1; each < tabOrder.size(); ++each) {
         QWidget::setTabOrder(tabOrder[each - 1], tabOrder[each]);
     }

@@ -192,20 +192,23 @@ QSize DiveEditWindow::naturalSize(int page) const {
 void DiveEditWindow::goView(int page) {
     page_ = page;
     pageBar_->setCurrentIndex(page - 1);
-    const bool focused = stack_->isAncestorOf(focusWidget());
+    focusesPage_ = focusesPage_ || stack_->isAncestorOf(focusWidget());
     stack_->setCurrentIndex(0);
     resizeWindowToSize(naturalSize(page));
     if (!resizing_) {
         showPage();
-    }
-    if (focused) {
-        pages_.takeFirstFocus(page);
     }
 }
 
 void DiveEditWindow::showPage() {
     stack_->setCurrentIndex(page_);
     carnet_.updateUI();
+    if (std::exchange(focusesPage_, false)) {
+        pages_.takeFirstFocus(page_);
+    }
+    if (focusesNumber_) {
+        focusesNumber_ = !pages_.takeFocus(carnet_.form().controls().noPlongeeField.index);
+    }
 }
 
 void DiveEditWindow::resizeWindowToSize(const QSize& size) {
@@ -237,18 +240,20 @@ void DiveEditWindow::takeFocus(int control) {
     if (control != carnet_.form().controls().noPlongeeField.index) {
         return;
     }
+    focusesNumber_ = true;
     if (page_ != 1) {
         goView(1);
+    } else {
+        focusesNumber_ = !pages_.takeFocus(control);
     }
-    focusesNumber_ = !pages_.takeFocus(control);
 }
 
 void DiveEditWindow::bringToFront() {
     show();
     raise();
     activateWindow();
-    if (std::exchange(focusesNumber_, false)) {
-        pages_.takeFocus(carnet_.form().controls().noPlongeeField.index);
+    if (focusesNumber_) {
+        focusesNumber_ = !pages_.takeFocus(carnet_.form().controls().noPlongeeField.index);
     }
 }
 

@@ -77,6 +77,7 @@ private:
     QLabel* status_ = nullptr;
     QPropertyAnimation* resizing_ = nullptr;
     int page_ = 1;
+    bool focusesPage_ = false;
     bool focusesNumber_ = true;  ///< as soon as it is in sight
     bool closing_ = false;
 };
