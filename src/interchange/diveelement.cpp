@@ -1,5 +1,6 @@
 #include "interchange/diveelement.h"
 
+#include "interchange/exportprogress.h"
 #include "platform/numbers.h"
 
 #include <array>
@@ -132,14 +133,18 @@ void writeComments(XmlWriter& xml, std::string_view banner, const QDateTime& mom
     xml.comment(written.toStdString());
 }
 
-void writeDives(XmlWriter& xml, Carnet& carnet, const DiveDateNames& names) {
+Expected<void> writeDives(XmlWriter& xml, Carnet& carnet, const DiveDateNames& names) {
     xml.begin("ADDINFO");
     xml.integer("TOTALDIVES", carnet.count());
     xml.end();
     xml.begin("REPGROUP");
     DiveWriter writer(xml, names);
-    for (const auto& dive : carnet.records()) {
-        writer.write(*dive);
+    const auto written = forEachDive(carnet, [&](const Plongee& dive) -> Expected<void> {
+        writer.write(dive);
+        return {};
+    });
+    if (!written) {
+        return written;
     }
     xml.end();
     if (carnet.count() > 0) {
@@ -150,6 +155,7 @@ void writeDives(XmlWriter& xml, Carnet& carnet, const DiveDateNames& names) {
             working.*alarm.flags = last.*alarm.flags;
         }
     }
+    return {};
 }
 
 }  // namespace tavrel

@@ -16,6 +16,6 @@ struct DiveDateNames {
 void writeComments(XmlWriter& xml, std::string_view banner, const QDateTime& moment);
 
 /// ADDINFO with the number of dives, then REPGROUP with a DIVE for each; the working profile takes the last one's.
-void writeDives(XmlWriter& xml, Carnet& carnet, const DiveDateNames& names);
+Expected<void> writeDives(XmlWriter& xml, Carnet& carnet, const DiveDateNames& names);
 
 }  // namespace tavrel

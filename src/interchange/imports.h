@@ -29,8 +29,8 @@ struct ImportResult {
 };
 
 /// Appends the dives of a file to the logbook as one undo step. Each goes through the logbook's form, with all its
-/// corrections: the form is cleared, filled and built from, and holds the last dive afterwards. Fails, with the logbook
-/// as it was, when the file cannot be read at all. Reports the progress in thousandths.
+/// corrections: the form is cleared, filled and built from, and holds the last dive afterwards, with no dive selected.
+/// Fails, with the logbook as it was, when the file cannot be read at all. Reports the progress in thousandths.
 Expected<ImportResult> readUDCF(Carnet& carnet, const QString& file, const Progress& progress = {});
 Expected<ImportResult> readUDDF(Carnet& carnet, const QString& file, const Progress& progress = {});
 Expected<ImportResult> readFromiPhoneFile(Carnet& carnet, const QString& file, const Progress& progress = {});

@@ -1,3 +1,4 @@
+#include "interchange/exportprogress.h"
 #include "interchange/exports.h"
 #include "platform/macroman.h"
 #include "platform/numbers.h"
@@ -107,6 +108,33 @@ char32_t appendDive(std::string& out, const MacRoman& macRoman, std::string_view
     return line.unfit();
 }
 
+/// A line for each point of a dive's profile.
+void appendProfile(std::string& out, const Plongee& dive, std::string_view separator) {
+    // In the order of the cells: the surface flag comes before the ceiling flag, against the header.
+    static constexpr std::array<Series ProfileSeries::*, 5> flagCells{
+        &ProfileSeries::ASC_Flag, &ProfileSeries::SLOW_Flag, &ProfileSeries::SURF_Flag, &ProfileSeries::CEIL_Flag,
+        &ProfileSeries::GAZ_Flag};
+    const std::size_t points = dive.profilProfondeur.size();
+    for (std::size_t point = 0; point < points; ++point) {
+        appendInteger(out, dive.noPlongee);
+        out += separator;
+        appendInteger(out, static_cast<qint64>(point) + 1);
+        out += separator;
+        appendFixed(out, dive.profilProfondeur.real(point), 1);
+        for (const auto flags : flagCells) {
+            out += separator;
+            if ((dive.*flags).size() == points) {
+                appendInteger(out, (dive.*flags).integer(point));
+            }
+        }
+        out += separator;
+        if (dive.PRESS_Data.size() == points) {
+            appendFixed(out, dive.PRESS_Data.real(point), 1);
+        }
+        out += '\n';
+    }
+}
+
 Failure unfitCharacter(qint32 diveNumber, char32_t character) {
     const QString code = QStringLiteral("U+") + QString::number(character, 16).toUpper().rightJustified(4, u'0');
     return {textWith("Carnet", "Character not in Mac OS Roman", QStringLiteral("error !"), diveNumber,
@@ -125,46 +153,29 @@ Expected<QByteArray> exportTextCSVFormat(Carnet& carnet, std::string_view separa
     appendJoined(out, diveHeaders, separator);
     out += ends;
     out += '\r';
-    for (const auto& dive : carnet.records()) {
+    const auto written = forEachDive(carnet, [&](const Plongee& dive) -> Expected<void> {
         out += ends;
-        if (const char32_t unfit = appendDive(out, *macRoman, separator, *dive)) {
-            return tl::unexpected(unfitCharacter(dive->noPlongee, unfit));
+        if (const char32_t unfit = appendDive(out, *macRoman, separator, dive)) {
+            return tl::unexpected(unfitCharacter(dive.noPlongee, unfit));
         }
         out += ends;
         out += '\n';
-    }
-    return bytesOf(out);
+        return {};
+    });
+    return written.map([&] { return bytesOf(out); });
 }
 
 Expected<QByteArray> exportProfileCSVFormat(Carnet& carnet, std::string_view separator) {
-    // In the order of the cells: the surface flag comes before the ceiling flag, against the header.
-    static constexpr std::array<Series ProfileSeries::*, 5> flagCells{
-        &ProfileSeries::ASC_Flag, &ProfileSeries::SLOW_Flag, &ProfileSeries::SURF_Flag, &ProfileSeries::CEIL_Flag,
-        &ProfileSeries::GAZ_Flag};
     std::string out;
     appendJoined(out, profileHeaders, separator);
     out += '\n';
     carnet.deselectAll();
-    for (const auto& dive : carnet.records()) {
-        const std::size_t points = dive->profilProfondeur.size();
-        for (std::size_t point = 0; point < points; ++point) {
-            appendInteger(out, dive->noPlongee);
-            out += separator;
-            appendInteger(out, static_cast<qint64>(point) + 1);
-            out += separator;
-            appendFixed(out, dive->profilProfondeur.real(point), 1);
-            for (const auto flags : flagCells) {
-                out += separator;
-                if (((*dive).*flags).size() == points) {
-                    appendInteger(out, ((*dive).*flags).integer(point));
-                }
-            }
-            out += separator;
-            if (dive->PRESS_Data.size() == points) {
-                appendFixed(out, dive->PRESS_Data.real(point), 1);
-            }
-            out += '\n';
-        }
+    const auto written = forEachDive(carnet, [&](const Plongee& dive) -> Expected<void> {
+        appendProfile(out, dive, separator);
+        return {};
+    });
+    if (!written) {
+        return tl::unexpected(written.error());
     }
     if (!carnet.records().empty()) {
         carnet.form().profile() = *carnet.records().back();

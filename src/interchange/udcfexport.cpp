@@ -21,8 +21,7 @@ Expected<QByteArray> exportUDCFFormat(Carnet& carnet) {
     xml.element("MODEL", std::string_view("Tavrel"));
     xml.element("VERSION", std::string_view("1.10.0 (20141025)"));
     xml.end();
-    writeDives(xml, carnet, upperCaseNames);
-    return xml.finish();
+    return writeDives(xml, carnet, upperCaseNames).map([&] { return xml.finish(); });
 }
 
 }  // namespace tavrel

@@ -2,12 +2,15 @@
 
 #include "platform/desktop.h"
 #include "platform/failure.h"
+#include "platform/progress.h"
 
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QObject>
 #include <QString>
 #include <QUndoStack>
+
+#include <utility>
 
 namespace tavrel {
 
@@ -36,6 +39,11 @@ public:
     /// steps.
     bool isChanged() const;
     QUndoStack& undoStack() { return undoStack_; }
+
+    /// Is told of reading and exporting, which may take long, until another one is set. Cancelling makes them fail,
+    /// with the document as it was and nothing written.
+    void setProgress(Progress progress) { progress_ = std::move(progress); }
+    const Progress& progress() const { return progress_; }
 
     /// Reads the file as the document's type; its steps can then no longer be undone. On failure the document is as it
     /// was.
@@ -66,6 +74,7 @@ private:
     QString type_;
     QString file_;
     QUndoStack undoStack_;
+    Progress progress_;
     bool changedBesideStack_ = false;
     bool toldChanged_ = false;
 };

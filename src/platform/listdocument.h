@@ -72,7 +72,9 @@ protected:
     Expected<QByteArray> archive() const { return writeRecords<Record>(*list_, Record::layout()); }
 
     Expected<List> unarchive(QByteArrayView data) const {
-        return readRecords<Record>(data, Record::layout()).map([](auto&& file) { return std::move(file.records); });
+        return readRecords<Record>(data, Record::layout(), progress()).map([](auto&& file) {
+            return std::move(file.records);
+        });
     }
 
 private:

@@ -313,6 +313,22 @@ TEST_F(Exports, ofAnEmptyLogbook) {
     EXPECT_FALSE(QFile::exists(target));
 }
 
+TEST_F(Exports, canBeCancelled) {
+    carnet.appendDives(QStringLiteral("add"), std::vector<Plongee>(100, wreckDive()));
+    for (const LogbookExport& it : logbookExports()) {
+        std::size_t last = 0;
+        carnet.setProgress([&](std::size_t done, std::size_t total) {
+            EXPECT_EQ(total, 100U);
+            last = done;
+            return done < 50;
+        });
+        const QString target = desktop.path(QString::fromLatin1(it.name));
+        EXPECT_FALSE(carnet.exportAs(target, QString::fromLatin1(it.typeName))) << it.name;
+        EXPECT_FALSE(QFile::exists(target)) << it.name;
+        EXPECT_TRUE(last >= 50 && last < 100) << last;
+    }
+}
+
 TEST_F(Exports, nameTheCharacterThatDoesNotFitAndKeepTheFile) {
     Plongee unfit = wreckDive();
     unfit.noPlongee = 58;

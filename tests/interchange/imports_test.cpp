@@ -213,10 +213,12 @@ TEST_F(Imports, numberOnFromTheLastDiveAndUndoAsOneStep) {
     Plongee last;
     last.noPlongee = 57;
     carnet.appendDives(QStringLiteral("add"), {last});
+    carnet.selectRows({0});
     EXPECT_EQ(take(udcf(udcfDive({}) + udcfDive({}))).message(), u"2 dives were imported.");
     EXPECT_EQ(dive(1).noPlongee, 58);
     EXPECT_EQ(dive(2).noPlongee, 59);
     EXPECT_TRUE(carnet.isChanged());
+    EXPECT_TRUE(carnet.selectedRows().isEmpty()) << "the form no longer shows the dive that was selected";
     carnet.undoStack().undo();
     EXPECT_EQ(carnet.count(), 1);
 }
