@@ -203,8 +203,9 @@ QStringList angleParts(const QString& argument) {
 void checkAngle(const std::string& argument, bool sexagesimal) {
     const QStringList parts = angleParts(fromArgument(argument));
     if (sexagesimal ? parts.size() > 3 : parts.size() > 1 && startsWithNumber(parts[1])) {
-        throw CLI::ValidationError("\"" + argument + '"', sexagesimal ? "not degrees, minutes and seconds"
-                                                                      : "not decimal degrees; is --sexagesimal meant?");
+        const TextKey sentence =
+            sexagesimal ? TextKey("Cli", "Not sexagesimal") : TextKey("Cli", "Not decimal degrees");
+        wrongUsage(textWith(sentence, QStringLiteral("error !"), fromArgument(argument)));
     }
 }
 
@@ -294,13 +295,7 @@ void addGps(CLI::App& calc, Console& console) {
 
 void addCalcCommand(CLI::App& app, Console& console) {
     CLI::App* calc = app.add_subcommand("calc", "Diving calculators");
-    // At least one calculator, checked last, so that a misspelt one is named.
-    calc->require_subcommand(0, 1);
-    calc->final_callback([calc] {
-        if (calc->get_subcommands().empty()) {
-            throw CLI::RequiredError("A calculator");
-        }
-    });
+    requireOneCommand(*calc, "A calculator");
     for (const CalculatorPage& page : calculatorPages()) {
         addPage(*calc, page, console);
     }

@@ -33,14 +33,17 @@ void wrongUsage(const QString& sentence) {
     throw CLI::ValidationError(toArgument(sentence));
 }
 
-int runCommandLine(CLI::App& app, int argc, const char* const* argv, Console& console) {
-    // At least one command, checked last, so that a misspelt one is named.
+void requireOneCommand(CLI::App& app, const char* what) {
     app.require_subcommand(0, 1);
-    app.final_callback([&app] {
+    app.final_callback([&app, what] {
         if (app.get_subcommands().empty()) {
-            throw CLI::RequiredError("A command");
+            throw CLI::RequiredError(what);
         }
     });
+}
+
+int runCommandLine(CLI::App& app, int argc, const char* const* argv, Console& console) {
+    requireOneCommand(app, "A command");
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& stopped) {

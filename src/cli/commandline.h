@@ -37,6 +37,10 @@ void fail(Console& console, const Failure& failure);
 /// Leaves a command that was asked for something that does not exist; the program ends with exitWrongUsage.
 [[noreturn]] void wrongUsage(const QString& sentence);
 
+/// Requires one of the commands under this one, checked last, so that a misspelt command is named. `what` is for the
+/// message: "A command".
+void requireOneCommand(CLI::App& app, const char* what);
+
 /// Parses the arguments and runs the command among them. Returns the exit code: 0 done (help and version included), 1
 /// failed, 2 wrong usage.
 int runCommandLine(CLI::App& app, int argc, const char* const* argv, Console& console);

@@ -13,6 +13,8 @@
 <message><source>No such type</source><translation>“%@” is not a type of document. Types: %@.</translation></message>
 <message><source>Not a logbook</source><translation>“%@” is not a logbook.</translation></message>
 <message><source>Not an entry</source><translation>“%@” is not of the form field=value.</translation></message>
+<message><source>Not decimal degrees</source><translation>“%@” is not decimal degrees. Is --sexagesimal meant?</translation></message>
+<message><source>Not sexagesimal</source><translation>“%@” is not degrees, minutes and seconds.</translation></message>
 <message><source>Objects</source><translation>Objects: %d</translation></message>
 <message><source>Output not written</source><translation>The output could not be written.</translation></message>
 <message><source>References</source><translation>References: %d</translation></message>

@@ -13,6 +13,8 @@
 <message><source>No such type</source><translation>« %@ » n’est pas un type de document. Types : %@.</translation></message>
 <message><source>Not a logbook</source><translation>« %@ » n’est pas un carnet de plongée.</translation></message>
 <message><source>Not an entry</source><translation>« %@ » n’est pas de la forme champ=valeur.</translation></message>
+<message><source>Not decimal degrees</source><translation>« %@ » n’est pas en degrés décimaux. Faut-il --sexagesimal ?</translation></message>
+<message><source>Not sexagesimal</source><translation>« %@ » n’est pas en degrés, minutes et secondes.</translation></message>
 <message><source>Objects</source><translation>Objets : %d</translation></message>
 <message><source>Output not written</source><translation>La sortie n’a pas pu être écrite.</translation></message>
 <message><source>References</source><translation>Références : %d</translation></message>
