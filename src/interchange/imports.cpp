@@ -124,7 +124,9 @@ Expected<ImportResult> importFile(Carnet& carnet, const QString& file, std::opti
     if (!bytes) {
         return tl::unexpected(bytes.error());
     }
-    return importDives(carnet, bytes->bytes(), format, progress);
+    return importDives(carnet, bytes->bytes(), format, progress).map_error([&](const Failure& reason) {
+        return openingFailure(file, reason);
+    });
 }
 
 }  // namespace

@@ -5,6 +5,8 @@
 #include "support/printing.h"
 #include "support/testdesktop.h"
 
+#include <QDir>
+#include <QElapsedTimer>
 #include <gtest/gtest.h>
 
 namespace tavrel {
@@ -250,6 +252,28 @@ TEST_F(Imports, leaveTheLogbookWhenTheFileCannotBeRead) {
     }
     EXPECT_FALSE(readUDCF(carnet, desktop.path(QStringLiteral("missing.udcf"))));
     EXPECT_EQ(carnet.undoStack().count(), 0);
+}
+
+TEST_F(Imports, surviveHostileFilesAndReadNoOther) {
+    const QDir folder(QStringLiteral(TAVREL_TEST_DATA "/hostile"));
+    const QStringList files = folder.entryList({QStringLiteral("import-*.xml")});
+    EXPECT_GE(files.size(), 12);
+    QElapsedTimer timer;
+    timer.start();
+    for (const QString& file : files) {
+        for (const auto read : {readUDCF, readUDDF, readFromiPhoneFile}) {
+            const auto result = read(carnet, folder.filePath(file), {});
+            if (!result) {
+                EXPECT_TRUE(result.error().message().contains(file)) << result.error().message().toStdString();
+            }
+        }
+    }
+    EXPECT_LT(timer.elapsed(), 10'000);
+    for (const auto& taken : carnet.records()) {
+        EXPECT_FALSE(taken->lieu.contains(u"root:") || taken->lieu.contains(u"deep")) << taken->lieu.toStdString();
+        const double deepest = static_cast<double>(taken->profondeur);
+        EXPECT_TRUE(deepest >= 0 && deepest <= 2147483648.0) << deepest;
+    }
 }
 
 TEST_F(Imports, canBeCancelledAndKeepWhatWasTaken) {

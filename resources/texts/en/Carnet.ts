@@ -54,6 +54,7 @@
 <message><source>Group team</source><translation>Team</translation></message>
 <message><source>Group weather</source><translation>Weather</translation></message>
 <message><source>Hail</source><translation>Hail</translation></message>
+<message><source>Handheld files</source><translation>Handheld logbooks</translation></message>
 <message><source>Hard</source><translation>Hard</translation></message>
 <message><source>Helium percent</source><translation>Helium must lie between 0 and 86 percent.</translation></message>
 <message><source>High tide</source><translation>High tide</translation></message>
@@ -62,8 +63,10 @@
 <message><source>Import cancelled</source><translation>The import was cancelled.</translation></message>
 <message><source>Import element missing</source><translation>the element %@ is missing</translation></message>
 <message><source>Import format unknown</source><translation>The file is neither UDCF nor UDDF nor a handheld logbook.</translation></message>
+<message><source>Import handheld</source><translation>Import from handheld</translation></message>
 <message><source>Import stopped</source><translation>The import stopped at dive %d of the file: %@.</translation></message>
 <message><source>Imported dives</source><translation>%d dives were imported.</translation></message>
+<message><source>Importing</source><translation>Importing dives …</translation></message>
 <message><source>Label air temperature</source><translation>Air temperature</translation></message>
 <message><source>Label algorithm</source><translation>Algorithm</translation></message>
 <message><source>Label altitude</source><translation>Altitude</translation></message>
@@ -192,6 +195,7 @@
 <message><source>Tip delete</source><translation>Delete the selected dives</translation></message>
 <message><source>Tip import UDCF</source><translation>Import dives from a UDCF file</translation></message>
 <message><source>Tip import UDDF</source><translation>Import dives from a UDDF file</translation></message>
+<message><source>Tip import handheld</source><translation>Import dives from the file of a handheld logbook</translation></message>
 <message><source>Tip insert</source><translation>Insert the dive before the selected one</translation></message>
 <message><source>Tip preset air</source><translation>Air in the main tank: oxygen 21, nitrogen 79, no helium</translation></message>
 <message><source>Tip preset heliox</source><translation>Heliox in the main tank: helium makes up the rest of the oxygen</translation></message>
@@ -205,6 +209,8 @@
 <message><source>Total dives</source><translation>%d dives</translation></message>
 <message><source>Training</source><translation>Training</translation></message>
 <message><source>Tropical suit</source><translation>Tropical suit</translation></message>
+<message><source>UDCF files</source><translation>UDCF files</translation></message>
+<message><source>UDDF files</source><translation>UDDF files</translation></message>
 <message><source>Under ice</source><translation>Under ice</translation></message>
 <message><source>Undo add</source><translation>Add Dive</translation></message>
 <message><source>Undo delete</source><translation>Delete Dives</translation></message>

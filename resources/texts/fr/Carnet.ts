@@ -54,6 +54,7 @@
 <message><source>Group team</source><translation>Palanquée</translation></message>
 <message><source>Group weather</source><translation>Météo</translation></message>
 <message><source>Hail</source><translation>Grêle</translation></message>
+<message><source>Handheld files</source><translation>Carnets de poche</translation></message>
 <message><source>Hard</source><translation>Difficile</translation></message>
 <message><source>Helium percent</source><translation>L’hélium doit être compris entre 0 et 86 pour cent.</translation></message>
 <message><source>High tide</source><translation>Pleine mer</translation></message>
@@ -61,9 +62,11 @@
 <message><source>Import UDDF</source><translation>Importer UDDF</translation></message>
 <message><source>Import cancelled</source><translation>L’importation a été annulée.</translation></message>
 <message><source>Import element missing</source><translation>l’élément %@ manque</translation></message>
-<message><source>Import format unknown</source><translation>Le fichier n’est ni UDCF, ni UDDF, ni un carnet d’ordinateur de poche.</translation></message>
+<message><source>Import format unknown</source><translation>Le fichier n’est ni de l’UDCF, ni de l’UDDF, ni un carnet de poche.</translation></message>
+<message><source>Import handheld</source><translation>Importer du carnet de poche</translation></message>
 <message><source>Import stopped</source><translation>L’importation s’est arrêtée à la plongée %d du fichier : %@.</translation></message>
 <message><source>Imported dives</source><translation>%d plongées ont été importées.</translation></message>
+<message><source>Importing</source><translation>Importation des plongées…</translation></message>
 <message><source>Label air temperature</source><translation>Température de l’air</translation></message>
 <message><source>Label algorithm</source><translation>Algorithme</translation></message>
 <message><source>Label altitude</source><translation>Altitude</translation></message>
@@ -192,6 +195,7 @@
 <message><source>Tip delete</source><translation>Supprimer les plongées sélectionnées</translation></message>
 <message><source>Tip import UDCF</source><translation>Importer des plongées d’un fichier UDCF</translation></message>
 <message><source>Tip import UDDF</source><translation>Importer des plongées d’un fichier UDDF</translation></message>
+<message><source>Tip import handheld</source><translation>Importer les plongées du fichier d’un carnet de poche</translation></message>
 <message><source>Tip insert</source><translation>Insérer la plongée avant celle qui est sélectionnée</translation></message>
 <message><source>Tip preset air</source><translation>Air dans le bloc principal : oxygène 21, azote 79, sans hélium</translation></message>
 <message><source>Tip preset heliox</source><translation>Héliox dans le bloc principal : l’hélium complète l’oxygène</translation></message>
@@ -205,6 +209,8 @@
 <message><source>Total dives</source><translation>%d plongées</translation></message>
 <message><source>Training</source><translation>Formation</translation></message>
 <message><source>Tropical suit</source><translation>Combinaison tropicale</translation></message>
+<message><source>UDCF files</source><translation>Fichiers UDCF</translation></message>
+<message><source>UDDF files</source><translation>Fichiers UDDF</translation></message>
 <message><source>Under ice</source><translation>Sous glace</translation></message>
 <message><source>Undo add</source><translation>Ajouter la plongée</translation></message>
 <message><source>Undo delete</source><translation>Supprimer les plongées</translation></message>

@@ -1,0 +1,72 @@
+#include "interchange/ui/importcommands.h"
+
+#include "platform/alerts.h"
+#include "platform/texts.h"
+#include "platform/ui/progresswindow.h"
+
+namespace tavrel {
+
+namespace {
+
+/// How a format is asked for and read.
+struct FormatCommand {
+    TextKey title;
+    TextKey files;
+    QStringList extensions;
+    Expected<ImportResult> (*read)(Carnet&, const QString&, const Progress&);
+};
+
+const FormatCommand& commandOf(ImportFormat format) {
+    const auto extensions = [](const char* own) {
+        QStringList all{QStringLiteral("txt"), QStringLiteral("xml")};
+        return own ? all << QString::fromLatin1(own) : all;
+    };
+    static const FormatCommand udcf{TextKey("Carnet", "Import UDCF"), TextKey("Carnet", "UDCF files"),
+                                    extensions("udcf"), readUDCF};
+    static const FormatCommand uddf{TextKey("Carnet", "Import UDDF"), TextKey("Carnet", "UDDF files"),
+                                    extensions("uddf"), readUDDF};
+    static const FormatCommand handheld{TextKey("Carnet", "Import handheld"), TextKey("Carnet", "Handheld files"),
+                                        extensions(nullptr), readFromiPhoneFile};
+    switch (format) {
+        case ImportFormat::uddf:
+            return uddf;
+        case ImportFormat::handheld:
+            return handheld;
+        case ImportFormat::udcf:
+            break;
+    }
+    return udcf;
+}
+
+}  // namespace
+
+ImportCommands::ImportCommands(Carnet& carnet, DocumentWindow& window, Desktop& desktop, FileDialogs& fileDialogs)
+    : QObject(&window), carnet_(carnet), window_(window), desktop_(desktop), fileDialogs_(fileDialogs) {}
+
+void ImportCommands::chooseAndImport(ImportFormat format) {
+    const FormatCommand& command = commandOf(format);
+    const QStringList files =
+        fileDialogs_.filesToOpen(&window_, text(command.title), {{text(command.files), command.extensions}}, false);
+    if (!files.isEmpty()) {
+        importFile(files.constLast(), format);
+    }
+}
+
+void ImportCommands::importFile(const QString& file, ImportFormat format) {
+    // The form is about to hold other dives; what is being edited in it goes to its own first.
+    window_.commitEditing();
+    const auto result = [&] {
+        ProgressWindow progress(&window_, text("Carnet", "Importing"));
+        return commandOf(format).read(carnet_, file, progress.progress());
+    }();
+    if (!result) {
+        desktop_.alerts.fail(result.error());
+        return;
+    }
+    if (result->taken > 0) {
+        carnet_.selectLastDive(carnet_.count() - 1, false);
+    }
+    desktop_.alerts.tell(result->message());
+}
+
+}  // namespace tavrel

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "interchange/imports.h"
+#include "platform/ui/documentwindow.h"
+#include "platform/ui/filedialogs.h"
+
+#include <QObject>
+
+namespace tavrel {
+
+/// The imports of a logbook's window: ask for one file, read it with progress, and tell at the end how many dives came
+/// in and what stopped the import. Belongs to the window.
+class ImportCommands : public QObject {
+    Q_OBJECT
+
+public:
+    ImportCommands(Carnet& carnet, DocumentWindow& window, Desktop& desktop, FileDialogs& fileDialogs);
+
+    void importUDCF() { chooseAndImport(ImportFormat::udcf); }
+    void importUDDF() { chooseAndImport(ImportFormat::uddf); }
+    void importHandheld() { chooseAndImport(ImportFormat::handheld); }
+
+    void importFile(const QString& file, ImportFormat format);
+
+private:
+    void chooseAndImport(ImportFormat format);
+
+    Carnet& carnet_;
+    DocumentWindow& window_;
+    Desktop& desktop_;
+    FileDialogs& fileDialogs_;
+};
+
+}  // namespace tavrel

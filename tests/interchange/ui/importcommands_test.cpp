@@ -1,0 +1,117 @@
+#include "interchange/ui/importcommands.h"
+
+#include "platform/ui/progresswindow.h"
+#include "support/testdesktop.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFile>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <thread>
+
+namespace tavrel {
+
+namespace {
+
+class PlainWindow : public DocumentWindow {
+public:
+    using DocumentWindow::DocumentWindow;
+    void printDocument() override {}
+    void commitEditing() override { ++commits; }
+
+    int commits = 0;
+};
+
+/// Answers with one file and remembers what was asked.
+class AnsweringFileDialogs : public FileDialogs {
+public:
+    QStringList filesToOpen(QWidget* parent, const QString&, const QList<FileFilter>& filters, bool several) override {
+        EXPECT_NE(parent, nullptr);
+        EXPECT_FALSE(several);
+        offered = filters.value(0).extensions;
+        return answer;
+    }
+    std::optional<FileToSave> fileToSave(QWidget*, const QString&, const QString&, const QList<FileFilter>&) override {
+        return {};
+    }
+
+    QStringList answer;
+    QStringList offered;
+};
+
+class ImportWindow : public testing::Test {
+protected:
+    QString written(const QByteArray& bytes) {
+        const QString path = desktop.path(QStringLiteral("source.xml"));
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return path;
+    }
+
+    TestDesktop desktop;
+    Carnet carnet{desktop.desktop()};
+    PlainWindow window{carnet, desktop.desktop()};
+    AnsweringFileDialogs dialogs;
+    ImportCommands commands{carnet, window, desktop.desktop(), dialogs};
+};
+
+TEST_F(ImportWindow, asksForAFileAndTellsWhatCameIn) {
+    const QByteArray dive = "<DIVE><SAMPLES/><GASES><MIX><TANK/></MIX></GASES></DIVE>";
+    const QByteArray gases = "<gases><mix><tank/></mix></gases>";
+    struct Case {
+        void (ImportCommands::*command)();
+        const char* extension;
+        QByteArray file;
+        int count;
+        const char* told;
+    };
+    const Case cases[] = {
+        {&ImportCommands::importUDCF, "udcf", "<PROFILE><REPGROUP>" + dive + dive + "</REPGROUP></PROFILE>", 2,
+         "2 dives were imported."},
+        {&ImportCommands::importUDDF, "uddf",
+         "<uddf><profiledata><repetitiongroup><dive/></repetitiongroup></profiledata></uddf>", 3,
+         "One dive was imported."},
+        {&ImportCommands::importHandheld, nullptr, "<log><repgroup><dive>" + gases + "</dive><dive/></repgroup></log>",
+         4, "One dive was imported. The import stopped at dive 2 of the file: the element gases is missing."},
+    };
+    for (const Case& it : cases) {
+        dialogs.answer = {written(it.file)};
+        (commands.*it.command)();
+        QStringList extensions{QStringLiteral("txt"), QStringLiteral("xml")};
+        EXPECT_EQ(dialogs.offered, it.extension ? extensions << QLatin1String(it.extension) : extensions);
+        EXPECT_EQ(carnet.count(), it.count);
+        EXPECT_EQ(desktop.alerts.told.value(desktop.alerts.told.size() - 1), QLatin1String(it.told));
+    }
+    EXPECT_EQ(window.commits, 3);
+
+    dialogs.answer = {};
+    commands.importUDCF();
+    EXPECT_EQ(desktop.alerts.told.size(), 3) << "nothing chosen, nothing told";
+    dialogs.answer = {written("no dives")};
+    commands.importUDDF();
+    EXPECT_EQ(desktop.alerts.failures.size(), 1U);
+    EXPECT_EQ(carnet.undoStack().count(), 3);
+}
+
+TEST_F(ImportWindow, showsProgressOfLongWorkAndCancels) {
+    ProgressWindow work(&window, QStringLiteral("Working"));
+    const Progress progress = work.progress();
+    EXPECT_TRUE(progress(0, 100));
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "quick work shows nothing";
+    std::this_thread::sleep_for(std::chrono::milliseconds(600));
+    EXPECT_TRUE(progress(10, 100));
+    QWidget* shown = QApplication::activeModalWidget();
+    ASSERT_NE(shown, nullptr);
+    const auto buttons = shown->findChildren<QAbstractButton*>();
+    ASSERT_EQ(buttons.size(), 1);
+    buttons[0]->click();
+    EXPECT_FALSE(progress(20, 100));
+    EXPECT_TRUE(work.wasCancelled());
+}
+
+}  // namespace
+
+}  // namespace tavrel
