@@ -191,6 +191,7 @@ TEST_F(CommandLine, tellsWhatAFileHoldsInJson) {
     const QJsonObject file = parsed("show a.carnet --json");
     EXPECT_EQ(file[u"type"].toString(), u"Dive logbook");
     EXPECT_EQ(file[u"class"].toString(), u"Plongee");
+    ASSERT_EQ(file[u"records"].toArray().size(), 1);
     const QJsonObject dive = file[u"records"].toArray()[0].toObject();
     EXPECT_EQ(dive.size(), 134);
     EXPECT_EQ(dive[u"noPlongee"].toInt(), 1);
@@ -202,6 +203,7 @@ TEST_F(CommandLine, tellsWhatAFileHoldsInJson) {
     const QJsonObject tree = parsed("inspect a.carnet --json");
     EXPECT_EQ(tree[u"byteOrder"].toString(), u"little");
     EXPECT_EQ(tree[u"system"].toInt(), 1000);
+    ASSERT_EQ(tree[u"groups"].toArray().size(), 1);
     const auto root = tree[u"groups"].toArray()[0].toArray()[1].toArray()[0].toObject();
     EXPECT_EQ(root[u"classes"].toArray()[0].toArray()[0].toString(), u"NSMutableArray");
 }
