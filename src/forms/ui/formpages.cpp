@@ -60,7 +60,7 @@ FormPages::FormPages(FormStateBase& state, Desktop& desktop, OwnList ownList)
     }
     showAll();  // before the layout measures the captions that the state holds
     for (int number = 1; number <= state.table().pageCount(); ++number) {
-        pages_.push_back(buildPage(number));
+        pages_.emplace_back(buildPage(number));
     }
     showAll();
     connect(&state, &FormStateBase::controlChanged, this,

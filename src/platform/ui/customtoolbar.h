@@ -74,8 +74,7 @@ public:
     QString titleOf(const QString& identifier) const;
     /// Separators and spaces, of which a toolbar may hold several.
     static bool isPlace(const QString& identifier);
-
-public Q_SLOTS:
+    /// Opens the dialog in which the toolbar is arranged.
     void runCustomisation();
 
 protected:
