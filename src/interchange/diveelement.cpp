@@ -139,7 +139,7 @@ Expected<void> writeDives(XmlWriter& xml, Carnet& carnet, const DiveDateNames& n
     xml.end();
     xml.begin("REPGROUP");
     DiveWriter writer(xml, names);
-    const auto written = forEachDive(carnet, [&](const Plongee& dive) -> Expected<void> {
+    auto written = forEachDive(carnet, [&](const Plongee& dive) -> Expected<void> {
         writer.write(dive);
         return {};
     });

@@ -13,6 +13,8 @@ constexpr CalendarNames lowerCaseCalendar{"year", "month", "day", "time", "hour"
 
 enum GasKind { air, nitrox, trimix, heliox, triox };
 
+constexpr qint64 minutesOfDay = 1440;
+
 /// Floor division for the carry of calendar numbers.
 qint64 floorDivided(qint64 value, qint64 by) {
     return value / by - (value % by < 0 ? 1 : 0);
@@ -43,11 +45,12 @@ double doubleOf(XmlElement element) {
 Date calendarDate(XmlElement element, const CalendarNames& names) {
     const XmlElement time = element.parent().last(names.time);
     const qint64 minutes = qint64(60) * integerOf(time.last(names.hour)) + integerOf(time.last(names.minute));
-    const qint64 carriedDays = floorDivided(minutes, 24 * 60);
+    const qint64 carriedDays = floorDivided(minutes, minutesOfDay);
     const qint64 day =
         julianDayOfMonth(integerOf(element.last(names.year)), qint64(integerOf(element.last(names.month))) - 1) +
         integerOf(element.last(names.day)) - 1 + carriedDays;
-    const QTime clock = QTime::fromMSecsSinceStartOfDay(static_cast<int>(minutes - carriedDays * 24 * 60) * 60'000);
+    const QTime clock =
+        QTime::fromMSecsSinceStartOfDay(static_cast<int>(minutes - carriedDays * minutesOfDay) * 60'000);
     return Date::fromDateTime(QDateTime(QDate::fromJulianDay(day), clock));
 }
 

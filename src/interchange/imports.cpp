@@ -72,10 +72,11 @@ private:
     void takeDives(const DiveSource& source, XmlElement root) {
         const auto dives = source.group(root).children(source.diveName);
         const std::size_t total = dives.count();
-        if (total > 0) {
-            // From here on the form holds imported dives, which must not be stored into a selected one.
-            carnet_.deselectAll();
+        if (total == 0) {
+            return;
         }
+        // From here on the form holds imported dives, which must not be stored into a selected one.
+        carnet_.deselectAll();
         std::vector<Plongee> taken;
         taken.reserve(total);
         {

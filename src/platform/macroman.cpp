@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <bit>
 #include <cerrno>
+#include <cstdint>
 #include <cstring>
 #include <iterator>
 
@@ -25,13 +26,17 @@ constexpr std::pair<int, char32_t> corrections[] = {{0xC6, 0x2206}, {0xDB, 0x20A
 
 constexpr int firstUpper = 0x80;
 
+bool isOpen(iconv_t converter) {
+    return std::bit_cast<std::intptr_t>(converter) != -1;
+}
+
 }  // namespace
 
 Expected<MacRoman> MacRoman::open() {
     const iconv_t converter =
         iconv_open(std::endian::native == std::endian::little ? "UCS-4LE" : "UCS-4BE", "MACINTOSH");
     MacRoman table;
-    bool whole = converter != reinterpret_cast<iconv_t>(-1);
+    bool whole = isOpen(converter);
     for (int index = 0; whole && index < 128; ++index) {
         char byte = static_cast<char>(firstUpper + index);
         char* in = &byte;
@@ -40,7 +45,7 @@ Expected<MacRoman> MacRoman::open() {
         std::size_t outLeft = sizeof(char32_t);
         whole = iconv(converter, &in, &inLeft, &out, &outLeft) != static_cast<std::size_t>(-1) && outLeft == 0;
     }
-    if (converter != reinterpret_cast<iconv_t>(-1)) {
+    if (isOpen(converter)) {
         iconv_close(converter);
     }
     if (!whole) {

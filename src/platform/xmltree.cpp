@@ -273,8 +273,8 @@ QString XmlElement::text() const {
     return decoder.hasError() ? QString::fromLatin1(bytes) : decoded;
 }
 
-void XmlTree::Free::operator()(_xmlDict* names) const {
-    xmlDictFree(names);
+void XmlTree::Free::operator()(void* names) const {
+    xmlDictFree(static_cast<xmlDictPtr>(names));
 }
 
 Expected<XmlTree> XmlTree::parse(QByteArrayView bytes, const Progress& progress) {

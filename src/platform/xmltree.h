@@ -12,8 +12,6 @@
 #include <string_view>
 #include <vector>
 
-struct _xmlDict;
-
 namespace tavrel {
 
 /// The nodes of an XmlTree: elements, and texts between elements, in one block. An element that holds nothing but text
@@ -76,12 +74,14 @@ private:
 
 class XmlElement::Children {
 public:
+    struct End {};
+
     class Iterator {
     public:
         Iterator(XmlElement element, const char* name) : element_(element), name_(name) {}
         XmlElement operator*() const { return element_; }
         Iterator& operator++();
-        bool operator!=(const Iterator& other) const { return element_.tree_ != other.element_.tree_; }
+        bool operator!=(End) const { return !element_.isNull(); }
 
     private:
         XmlElement element_;
@@ -89,7 +89,7 @@ public:
     };
 
     Iterator begin() const { return {first_, name_}; }
-    Iterator end() const { return {{}, name_}; }
+    End end() const { return {}; }
     std::size_t count() const;
 
 private:
@@ -114,13 +114,13 @@ public:
 
 private:
     struct Free {
-        void operator()(_xmlDict* names) const;
+        void operator()(void* names) const;
     };
 
     XmlTree() : nodes_(std::make_unique<XmlNodes>()) {}
 
     std::unique_ptr<XmlNodes> nodes_;
-    std::unique_ptr<_xmlDict, Free> names_;  // holds the names of the nodes
+    std::unique_ptr<void, Free> names_;  // the parser's dictionary, which holds the names of the nodes
 };
 
 }  // namespace tavrel
