@@ -1,0 +1,347 @@
+#include "logbook/tablecells.h"
+
+#include "logbook/divechoices.h"
+#include "platform/numbers.h"
+#include "platform/preferences.h"
+#include "platform/texts.h"
+
+#include <algorithm>
+#include <span>
+
+namespace tavrel {
+
+namespace {
+
+constexpr qint32 temperatureNotGiven = -50;
+
+/// Percent of oxygen from which a gas counts as nitrox, and as pure oxygen.
+constexpr qint32 leastNitrox = 22;
+constexpr qint32 leastOxygen = 98;
+
+QString numberText(qint32 value) {
+    return QString::number(value);
+}
+QString numberText(float value) {
+    return shortestText(value);
+}
+
+std::optional<QString> titleOf(std::span<const Choice> choices, qint32 tag) {
+    const auto* found = std::find_if(choices.data(), choices.data() + choices.size(),
+                                     [tag](const Choice& choice) { return choice.tag == tag; });
+    return found == choices.data() + choices.size() ? std::nullopt : std::optional(found->title.text());
+}
+
+QString plainText(const Plongee& dive, std::string_view field, const TableStyle& style) {
+    const auto* item = Plongee::layout().find(field);
+    if (!item) {
+        return {};
+    }
+    const auto show = [&](const auto& value) -> QString {
+        using Value = std::decay_t<decltype(value)>;
+        if constexpr (std::is_same_v<Value, QString>) {
+            return value;
+        } else if constexpr (std::is_same_v<Value, Date>) {
+            const QDateTime moment = value.toDateTime();
+            return field == "heure" ? style.locale.toString(moment.time(), QLocale::ShortFormat)
+                                    : style.locale.toString(moment.date(), style.dateFormat);
+        } else if constexpr (std::is_same_v<Value, qint32> || std::is_same_v<Value, float>) {
+            return numberText(value);
+        } else {
+            return {};
+        }
+    };
+    return std::visit([&](auto member) { return show(dive.*member); }, item->member);
+}
+
+QString tideText(const Plongee& dive) {
+    if (dive.pmBm == 1) {
+        return dive.coeff != 0 ? textWith("Carnet", "TableView high tide", QStringLiteral("N/A"), dive.coeff)
+                               : textWith("Carnet", "TableView high tide only", QStringLiteral("N/A"), 0);
+    }
+    if (dive.pmBm == 2) {
+        return dive.coeff != 0 ? textWith("Carnet", "TableView low tide", QStringLiteral("N/A"), dive.coeff)
+                               : textWith("Carnet", "TableView low tide only", QStringLiteral("N/A"), 0);
+    }
+    return dive.coeff != 0 ? numberText(dive.coeff) : QStringLiteral("-");
+}
+
+QString waterText(const Plongee& dive, const TableStyle& style) {
+    if (dive.tempEau == temperatureNotGiven) {
+        return QStringLiteral("-");
+    }
+    return style.usUnits ? textWith("Carnet", "Farenheit", QStringLiteral("error !"), dive.tempEau)
+                         : textWith("Carnet", "Celsius", QStringLiteral("error !"), dive.tempEau);
+}
+
+QString visibilityText(const Plongee& dive) {
+    // The menu's last item, not given, has no word here.
+    return dive.visibilite == 7 ? QString() : titleOf(choices::visibility, dive.visibilite).value_or(QString());
+}
+
+/// Air, and what the diver breathed at the first two stops. A gas entered for a stop counts whether or not the stop is
+/// marked as made, as it does for the colours; no gas entered (0) counts as air. Where oxygen meets the leanest nitrox,
+/// 22 percent, which a badly analysed air could be, only the oxygen is named.
+QString airText(const Plongee& dive) {
+    const auto [lean, rich] = std::minmax(dive.decoO2_Level_1, dive.decoO2_Level_2);
+    if (rich >= leastOxygen) {
+        return lean > leastNitrox && lean < leastOxygen ? text("Carnet", "TableView air Nx O2")
+                                                        : text("Carnet", "TableView air O2");
+    }
+    return rich >= leastNitrox ? text("Carnet", "TableView air Nx") : text("Carnet", "Air");
+}
+
+QString gasText(const Plongee& dive) {
+    const auto mix = [&dive](QLatin1StringView name) {
+        return QStringLiteral("%1 %2/%3").arg(name, numberText(dive.o2Mix), numberText(dive.heMix));
+    };
+    switch (dive.gaz) {
+        case 0:
+            return airText(dive);
+        case 1:
+            return dive.deco_Level_1_sw == 1 && dive.decoO2_Level_1 >= leastOxygen
+                       ? QStringLiteral("O2")
+                       : QStringLiteral("Nx ") + numberText(dive.o2Mix);
+        case 2:
+            return mix(QLatin1StringView("Tx"));
+        case 3:
+            return QStringLiteral("Heliox ") + numberText(dive.o2Mix);
+        case 4:
+            return mix(QLatin1StringView("Triox"));
+        case 5:
+            return mix(QLatin1StringView("Heliair"));
+        default:
+            return numberText(dive.gaz);
+    }
+}
+
+const QColor deviceGreen = QColor::fromRgbF(0.0F, 0.7F, 0.0F);
+const QColor deviceBrown = QColor::fromRgbF(0.4F, 0.2F, 0.0F);
+const QColor nightBlue = QColor::fromRgbF(0.0F, 0.0F, 0.3F);
+const QColor brown = QColor::fromRgbF(0.6F, 0.4F, 0.2F);
+const QColor grey = QColor::fromRgbF(0.5F, 0.5F, 0.5F);
+const QColor black = QColor::fromRgbF(0.0F, 0.0F, 0.0F);
+const QColor white = QColor::fromRgbF(1.0F, 1.0F, 1.0F);
+const QColor yellow = QColor::fromRgbF(1.0F, 1.0F, 0.0F);
+const QColor red = QColor::fromRgbF(1.0F, 0.0F, 0.0F);
+
+bool isMixWithHelium(const Plongee& dive) {
+    return dive.gaz >= 2 && dive.gaz <= 5;
+}
+
+bool isClosedCircuit(const Plongee& dive) {
+    return dive.rebreather >= 2 && dive.rebreather <= 4;
+}
+
+void colourForeign(CellStyle& cell, const Plongee& dive, std::string_view field, const TableStyle& style) {
+    if (!style.foreignInColor || field == "epaves" || field == "inoubliable") {
+        return;
+    }
+    cell.text.reset();
+    cell.background.reset();
+    if (dive.countryCode != style.countryCode && style.foreignColor.isValid()) {
+        cell.background = style.foreignColor;
+    }
+}
+
+CellStyle mixStyleOfNumber(const Plongee& dive) {
+    if (dive.gaz == 1 && dive.rebreather == 0) {
+        return {true, yellow, deviceGreen};
+    }
+    if (isMixWithHelium(dive) && dive.rebreather == 0) {
+        return {true, white, brown};
+    }
+    if (dive.decoO2_Level_1 >= leastOxygen) {
+        return {true, white, black};
+    }
+    if (dive.rebreather == 1) {
+        return {true, yellow, grey};
+    }
+    if (isClosedCircuit(dive)) {
+        return {true, yellow, black};
+    }
+    return {true, deviceBrown, {}};
+}
+
+CellStyle mixStyleOfGas(const Plongee& dive, bool boldBefore) {
+    if (dive.gaz == 1) {
+        return {true, yellow, deviceGreen};
+    }
+    if (isMixWithHelium(dive)) {
+        return {true, white, brown};
+    }
+    if (isClosedCircuit(dive)) {
+        return {boldBefore, yellow, black};
+    }
+    if (dive.decoO2_Level_1 < leastOxygen) {
+        return {};
+    }
+    return {true, white, black};
+}
+
+void colourMix(CellStyle& cell, const Plongee& dive, std::string_view field, const TableStyle& style) {
+    if (!style.mixInColor) {
+        return;
+    }
+    if (field == "noPlongee") {
+        cell = mixStyleOfNumber(dive);
+    } else if (field == "gaz") {
+        cell = mixStyleOfGas(dive, cell.bold);
+    }
+}
+
+void colourNight(CellStyle& cell, const Plongee& dive, std::string_view field, const TableStyle& style) {
+    if (style.nightInColor) {
+        if (field == "visibilite" && dive.nocturne == 1) {
+            cell.text = white;
+            cell.background = nightBlue;
+        } else if (field == "visibilite") {
+            cell = {};
+        }
+    } else if (!style.mixInColor && (field == "noPlongee" || field == "gaz")) {
+        cell = {};
+    }
+}
+
+void colourText(CellStyle& cell, const Plongee& dive, std::string_view field, const TableStyle& style) {
+    const std::string_view column = style.colouredTheme == 0   ? "lieu"
+                                    : style.colouredTheme == 1 ? "site"
+                                                               : "visibilite";
+    if (field != column) {
+        return;
+    }
+    const bool chosen = cellText(dive, field, style) == style.colouredText;
+    if (style.textInColor || chosen) {
+        const bool marked = style.textInColor && chosen;
+        cell.bold = marked;
+        cell.text = marked ? std::optional(red) : std::nullopt;
+    }
+}
+
+std::optional<QColor> given(const QColor& color) {
+    return color.isValid() ? std::optional(color) : std::nullopt;
+}
+
+void colourLowTemperature(CellStyle& cell, const Plongee& dive, std::string_view field, const TableStyle& style) {
+    if (field == "tempEau") {
+        // A temperature that was not given, -50, lies below most thresholds and is coloured too.
+        const bool low = style.lowTemperatureInColor && dive.tempEau < style.lowTemperature;
+        cell.text = low ? given(style.lowTemperatureColor) : std::nullopt;
+    }
+}
+
+void colourDepthAndTime(CellStyle& cell, std::string_view field, const TableStyle& style) {
+    if (field == "profondeur") {
+        cell.text = style.depthTimeInColor ? given(style.depthColor) : std::nullopt;
+    } else if (field == "temps") {
+        cell.text = style.depthTimeInColor ? given(style.timeColor) : std::nullopt;
+    }
+}
+
+}  // namespace
+
+TableStyle TableStyle::read(const Preferences& preferences, const QLocale& locale) {
+    TableStyle style;
+    style.displayUnits = preferences.boolean(QStringLiteral("display units"));
+    style.usUnits = preferences.boolean(QStringLiteral("us units"));
+    style.foreignInColor = preferences.boolean(QStringLiteral("foreign in color"));
+    style.mixInColor = preferences.boolean(QStringLiteral("mix in color"));
+    style.nightInColor = preferences.boolean(QStringLiteral("nocturnes in color"));
+    style.textInColor = preferences.boolean(QStringLiteral("color item"));
+    style.lowTemperatureInColor = preferences.boolean(QStringLiteral("low temperature in color"));
+    style.depthTimeInColor = preferences.boolean(QStringLiteral("depth time in color"));
+    style.countryCode = preferences.string(QStringLiteral("country code"));
+    style.colouredText = preferences.string(QStringLiteral("coloured text"));
+    style.colouredTheme = preferences.integer(QStringLiteral("coloured theme"));
+    style.lowTemperature = preferences.integer(QStringLiteral("low temperature value"));
+    style.foreignColor = preferences.color(QStringLiteral("foreign color"));
+    style.lowTemperatureColor = preferences.color(QStringLiteral("low temperature color"));
+    style.depthColor = preferences.color(QStringLiteral("depth color"));
+    style.timeColor = preferences.color(QStringLiteral("time color"));
+    style.locale = locale;
+    style.dateFormat = locale.dateFormat(QLocale::ShortFormat);
+    if (!style.dateFormat.contains(QLatin1StringView("yyyy"))) {
+        style.dateFormat.replace(QLatin1StringView("yy"), QLatin1StringView("yyyy"));
+    }
+    return style;
+}
+
+QString cellText(const Plongee& dive, std::string_view field, const TableStyle& style) {
+    if (field == "coeff") {
+        return tideText(dive);
+    }
+    if (field == "profondeur" && style.displayUnits) {
+        return numberText(dive.profondeur) + (style.usUnits ? QStringLiteral(" ft") : QStringLiteral(" m"));
+    }
+    if (field == "temps" && style.displayUnits) {
+        return numberText(dive.temps) + QStringLiteral(" '");
+    }
+    if (field == "tempEau") {
+        return waterText(dive, style);
+    }
+    if (field == "deco") {
+        return titleOf(choices::decoMethod, dive.deco).value_or(numberText(dive.deco));
+    }
+    if (field == "visibilite") {
+        return visibilityText(dive);
+    }
+    if (field == "inoubliable" || field == "epaves") {
+        return {};
+    }
+    if (field == "gaz") {
+        return gasText(dive);
+    }
+    if (field == "ppO2") {
+        return titleOf(choices::setPoint, dive.ppO2).value_or(QStringLiteral("..."));
+    }
+    if (field == "rebreather") {
+        return titleOf(choices::apparatus, dive.rebreather).value_or(numberText(dive.rebreather));
+    }
+    return plainText(dive, field, style);
+}
+
+QString cellImage(const Plongee& dive, std::string_view field) {
+    if (field == "epaves" && !dive.epaves.isEmpty()) {
+        return QStringLiteral("epave");
+    }
+    if (field == "inoubliable") {
+        switch (dive.inoubliable) {
+            case 1:
+                return QStringLiteral("coeur");
+            case 2:
+                return QStringLiteral("point");
+            case 3:
+                return QStringLiteral("croix");
+            case 4:
+                return QStringLiteral("death");
+            default:
+                break;
+        }
+    }
+    return {};
+}
+
+QString cellWords(const Plongee& dive, std::string_view field, const TableStyle& style) {
+    if (field == "epaves") {
+        return dive.epaves;
+    }
+    if (field == "inoubliable") {
+        return cellImage(dive, field).isEmpty() ? QString()
+                                                : titleOf(choices::rating, dive.inoubliable).value_or(QString());
+    }
+    return cellText(dive, field, style);
+}
+
+CellStyle cellStyle(const Plongee& dive, std::string_view field, const TableStyle& style) {
+    // Each rule may override what the ones before it set. Drawing a cell asks for nothing more: the table is read again
+    // once per change of the preferences or the list, never from here.
+    CellStyle cell;
+    colourForeign(cell, dive, field, style);
+    colourMix(cell, dive, field, style);
+    colourNight(cell, dive, field, style);
+    colourText(cell, dive, field, style);
+    colourLowTemperature(cell, dive, field, style);
+    colourDepthAndTime(cell, field, style);
+    return cell;
+}
+
+}  // namespace tavrel
