@@ -28,6 +28,7 @@ Carnet::Carnet(Desktop& desktop, const std::vector<ExportType>& exportTypes)
     const Date now = Date::fromDateTime(desktop.clock.now());
     form_.state().setDate(form_.controls().dateField, now);
     form_.state().setDate(form_.controls().heureField, now);
+    connect(&form_, &DiveForm::userEdited, this, [this] { hasEntries_ = true; });
     connect(this, &ListDocumentBase::selectionChanged, this, &Carnet::changementSelectionMaTableView);
     connect(this, &ListDocumentBase::listChanged, this, &Carnet::stateChanged);
     connect(this, &ListDocumentBase::listRestored, this, &Carnet::changementSelectionMaTableView);
@@ -49,6 +50,7 @@ void Carnet::setUpFirstRunColumns() {
     if (preferences.boolean(QStringLiteral("column numero"))) {
         return;
     }
+    const Preferences::Together together(preferences);
     for (const auto& column : diveColumns) {
         preferences.set(QString::fromLatin1(column.visibilityKey), column.shownAtFirst);
     }
@@ -97,9 +99,13 @@ void Carnet::newDive() {
     blankFields();
     Q_EMIT editWindowRequested();
     proposeNextNumber();
-    editWindowTitle_ = textWith("Carnet", "Dive number title", QStringLiteral("error !"), nextDiveNumber());
-    Q_EMIT editWindowTitleChanged();
+    titleEditWindow(nextDiveNumber());
     updateUI();
+}
+
+void Carnet::titleEditWindow(qint32 number) {
+    editWindowTitle_ = textWith("Carnet", "Dive number title", QStringLiteral("error !"), number);
+    Q_EMIT editWindowTitleChanged();
 }
 
 void Carnet::addDive() {
@@ -133,7 +139,15 @@ void Carnet::updateDive() {
     List dives = records();
     dives[static_cast<std::size_t>(row)] = std::make_shared<const Plongee>(builtDive());
     changeList(text("Carnet", "Undo update"), std::move(dives));
+    hasEntries_ = false;
+    titleEditWindow(recordAt(row)->noPlongee);
     updateUI();
+}
+
+void Carnet::storeEntries() {
+    if (hasEntries_ && showsSelectedDive_ && selectedRow() >= 0) {
+        updateDive();
+    }
 }
 
 void Carnet::deleteDive() {
@@ -167,10 +181,9 @@ void Carnet::renumDives(qint32 first) {
             dives[row] = std::make_shared<const Plongee>(builtDive());
         }
         changeList(text("Carnet", "Undo renumber"), std::move(dives));
-        if (count() > 0) {
-            selectRows({count() - 1});
-        }
     }
+    selectRows({count() - 1});
+    changementSelectionMaTableView();
     Q_EMIT renumberWindowClosed();
 }
 
@@ -233,8 +246,15 @@ void Carnet::editFields() {
         return;
     }
     form_.editFields(*dive);
-    editWindowTitle_ = textWith("Carnet", "Dive number title", QStringLiteral("error !"), dive->noPlongee);
-    Q_EMIT editWindowTitleChanged();
+    showsSelectedDive_ = true;
+    hasEntries_ = false;
+    titleEditWindow(dive->noPlongee);
+}
+
+void Carnet::blankFields() {
+    form_.blankFields();
+    showsSelectedDive_ = false;
+    hasEntries_ = false;
 }
 
 void Carnet::updateUI() {
@@ -265,6 +285,9 @@ Expected<void> Carnet::setValue(int row, const QString& field, const FieldValue&
     List dives = records();
     dives[static_cast<std::size_t>(row)] = std::move(dive);
     changeList(text("Carnet", "Undo update"), std::move(dives));
+    if (row == _currentIndex) {
+        changementSelectionMaTableView();
+    }
     return {};
 }
 
@@ -285,11 +308,16 @@ void Carnet::sortBy(const QString& field) {
             selection.append(static_cast<int>(row));
         }
     }
-    // The dive in the form stays the same one, with what was typed into it.
+    // The dive in the form stays, with what was typed into it, unless another of several selected dives is now the
+    // last.
+    const auto inForm = recordAt(selectedRow());
     keepsForm_ = true;
     replaceList(std::move(dives));
     selectRows(selection);
     keepsForm_ = false;
+    if (recordAt(selectedRow()) != inForm) {
+        changementSelectionMaTableView();
+    }
 }
 
 Expected<int> Carnet::findTextWithField(const QString& field, const QString& searched) {

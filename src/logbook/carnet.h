@@ -57,6 +57,8 @@ public:
     void selectLastDive(int index, bool selected);
     void editWindow();
     void closeEditWindow();
+    /// Stores what the user entered into the form since the selected dive was loaded; nothing when there is nothing.
+    void storeEntries();
     /// Follows a selection: the dive of the selected row goes into the form.
     void changementSelectionMaTableView();
     /// The number a new dive gets: that of the last dive by position, and one.
@@ -66,7 +68,7 @@ public:
     void appendDives(const QString& step, std::vector<Plongee> taken);
 
     // The form.
-    void blankFields() { form_.blankFields(); }
+    void blankFields();
     /// Loads the dive at currentIndex into the form.
     void editFields();
     void updateUI();
@@ -122,12 +124,15 @@ private:
     void setUpFirstRunColumns();
     Plongee builtDive() { return form_.addDiveToList(); }
     void proposeNextNumber();
+    void titleEditWindow(qint32 number);
 
     DiveForm form_;
     std::vector<ExportType> exportTypes_;
     std::vector<NotificationCentre::Subscription> subscriptions_;
     int _currentIndex = -1;
     bool keepsForm_ = false;
+    bool showsSelectedDive_ = false;  ///< rather than a cleared form
+    bool hasEntries_ = false;         ///< of the user's since the form was loaded, cleared or stored
     QString _idColonne;
     std::map<QString, bool> _ascendingDirection;
     QString foundText_;

@@ -16,6 +16,21 @@
 <message><source>Character not in Mac OS Roman</source><translation>Dive no. %d holds the character “%@” (%@), which Mac OS Roman text cannot hold.</translation></message>
 <message><source>Clear</source><translation>Clear</translation></message>
 <message><source>Cloudy</source><translation>Cloudy</translation></message>
+<message><source>Column apparatus</source><translation>Apparatus</translation></message>
+<message><source>Column date</source><translation>Date</translation></message>
+<message><source>Column decompression</source><translation>Decompression</translation></message>
+<message><source>Column depth</source><translation>Depth</translation></message>
+<message><source>Column dive time</source><translation>Duration</translation></message>
+<message><source>Column gas</source><translation>Gas</translation></message>
+<message><source>Column number</source><translation>No.</translation></message>
+<message><source>Column place</source><translation>Place</translation></message>
+<message><source>Column rating</source><translation>Rating</translation></message>
+<message><source>Column site</source><translation>Site</translation></message>
+<message><source>Column tide</source><translation>Tide</translation></message>
+<message><source>Column time of day</source><translation>Time</translation></message>
+<message><source>Column visibility</source><translation>Visibility</translation></message>
+<message><source>Column water</source><translation>Water</translation></message>
+<message><source>Column wreck</source><translation>Wreck</translation></message>
 <message><source>Degree Celsius</source><translation>°C</translation></message>
 <message><source>Degree Farenheit</source><translation>°F</translation></message>
 <message><source>Dive number title</source><translation>Dive no. %d</translation></message>
@@ -29,6 +44,13 @@
 <message><source>Extreme</source><translation>Extreme</translation></message>
 <message><source>Farenheit</source><translation>%d °F</translation></message>
 <message><source>Find</source><translation>Find</translation></message>
+<message><source>Find boats</source><translation>Boats</translation></message>
+<message><source>Find buddies</source><translation>Buddies</translation></message>
+<message><source>Find computers</source><translation>Computers</translation></message>
+<message><source>Find in</source><translation>Find in: %@</translation></message>
+<message><source>Find notes</source><translation>Notes</translation></message>
+<message><source>Find where</source><translation>Choose what to search</translation></message>
+<message><source>Find wrecks</source><translation>Wrecks</translation></message>
 <message><source>Foggy</source><translation>Foggy</translation></message>
 <message><source>Form of dive</source><translation>Dive %d of %d – stored when you close the window or go to another dive</translation></message>
 <message><source>Form of new dive</source><translation>New dive – “Add” puts it at the end of the logbook</translation></message>
@@ -128,12 +150,18 @@
 <message><source>Label wrecks</source><translation>Wreck</translation></message>
 <message><source>Low tide</source><translation>Low tide</translation></message>
 <message><source>Medium</source><translation>Medium</translation></message>
+<message><source>Menu delete dives</source><translation>Delete Dives…</translation></message>
+<message><source>Menu dive</source><translation>Dive</translation></message>
+<message><source>Menu edit dive</source><translation>Edit Dive</translation></message>
+<message><source>Menu insert dive</source><translation>Insert Before Selected Dive</translation></message>
+<message><source>Menu new dive</source><translation>New Dive</translation></message>
 <message><source>Moderate</source><translation>Moderate</translation></message>
 <message><source>Movies</source><translation>Filming</translation></message>
 <message><source>Next</source><translation>Next</translation></message>
 <message><source>Next dive</source><translation>Next dive</translation></message>
 <message><source>No Tek</source><translation>Recreational</translation></message>
 <message><source>No dive to export</source><translation>The logbook holds no dive, and UDDF cannot be written without one.</translation></message>
+<message><source>No dives yet</source><translation>No dives yet. Press %@ to enter the first one.</translation></message>
 <message><source>No such field</source><translation>Dives have no field "%@" that can be used this way.</translation></message>
 <message><source>No suit</source><translation>No suit</translation></message>
 <message><source>None</source><translation>None</translation></message>
@@ -164,6 +192,9 @@
 <message><source>Rating unforgettable</source><translation>Unforgettable</translation></message>
 <message><source>Recreational</source><translation>Recreational</translation></message>
 <message><source>Recuperation</source><translation>Recovery</translation></message>
+<message><source>Renumber explanation</source><translation>All dives are numbered anew, in the order in which the table shows them.</translation></message>
+<message><source>Renumber first</source><translation>Number of the first dive:</translation></message>
+<message><source>Renumber title</source><translation>Renumber Dives</translation></message>
 <message><source>Semi-dry suit</source><translation>Semi-dry suit</translation></message>
 <message><source>Shorty</source><translation>Shorty</translation></message>
 <message><source>Snowy</source><translation>Snowy</translation></message>
@@ -171,6 +202,7 @@
 <message><source>Steel</source><translation>Steel</translation></message>
 <message><source>Strong</source><translation>Strong</translation></message>
 <message><source>T-shirt</source><translation>T-shirt</translation></message>
+<message><source>Table of dives</source><translation>Dives</translation></message>
 <message><source>TableView air Nx</source><translation>Air / Nx</translation></message>
 <message><source>TableView air Nx O2</source><translation>Air / Nx / O2</translation></message>
 <message><source>TableView air O2</source><translation>Air / O2</translation></message>

@@ -35,6 +35,10 @@
 <message><source>Insert</source><translation>Insert</translation></message>
 <message><source>Logbook</source><translation>Logbook</translation></message>
 <message><source>Materiel</source><translation>Equipment</translation></message>
+<message><source>Menu columns</source><translation>Columns</translation></message>
+<message><source>Menu copy</source><translation>Copy</translation></message>
+<message><source>Menu find</source><translation>Find</translation></message>
+<message><source>Menu select all</source><translation>Select All</translation></message>
 <message><source>Move down</source><translation>Move towards the end</translation></message>
 <message><source>Move up</source><translation>Move towards the front</translation></message>
 <message><source>No</source><translation>No</translation></message>

@@ -16,6 +16,21 @@
 <message><source>Character not in Mac OS Roman</source><translation>La plongée n° %d contient le caractère « %@ » (%@), que le texte Mac OS Roman ne peut contenir.</translation></message>
 <message><source>Clear</source><translation>Dégagé</translation></message>
 <message><source>Cloudy</source><translation>Nuageux</translation></message>
+<message><source>Column apparatus</source><translation>Appareil</translation></message>
+<message><source>Column date</source><translation>Date</translation></message>
+<message><source>Column decompression</source><translation>Décompression</translation></message>
+<message><source>Column depth</source><translation>Prof.</translation></message>
+<message><source>Column dive time</source><translation>Durée</translation></message>
+<message><source>Column gas</source><translation>Gaz</translation></message>
+<message><source>Column number</source><translation>N°</translation></message>
+<message><source>Column place</source><translation>Lieu</translation></message>
+<message><source>Column rating</source><translation>Avis</translation></message>
+<message><source>Column site</source><translation>Site</translation></message>
+<message><source>Column tide</source><translation>Marée</translation></message>
+<message><source>Column time of day</source><translation>Heure</translation></message>
+<message><source>Column visibility</source><translation>Visibilité</translation></message>
+<message><source>Column water</source><translation>Eau</translation></message>
+<message><source>Column wreck</source><translation>Épave</translation></message>
 <message><source>Degree Celsius</source><translation>°C</translation></message>
 <message><source>Degree Farenheit</source><translation>°F</translation></message>
 <message><source>Dive number title</source><translation>Plongée n° %d</translation></message>
@@ -29,6 +44,13 @@
 <message><source>Extreme</source><translation>Extrême</translation></message>
 <message><source>Farenheit</source><translation>%d °F</translation></message>
 <message><source>Find</source><translation>Rechercher</translation></message>
+<message><source>Find boats</source><translation>Bateaux</translation></message>
+<message><source>Find buddies</source><translation>Équipiers</translation></message>
+<message><source>Find computers</source><translation>Ordinateurs</translation></message>
+<message><source>Find in</source><translation>Chercher dans : %@</translation></message>
+<message><source>Find notes</source><translation>Notes</translation></message>
+<message><source>Find where</source><translation>Choisir où chercher</translation></message>
+<message><source>Find wrecks</source><translation>Épaves</translation></message>
 <message><source>Foggy</source><translation>Brumeux</translation></message>
 <message><source>Form of dive</source><translation>Plongée %d sur %d – enregistrée quand vous fermez la fenêtre ou changez de plongée</translation></message>
 <message><source>Form of new dive</source><translation>Nouvelle plongée – « Ajouter » l’inscrit à la fin du carnet</translation></message>
@@ -128,12 +150,18 @@
 <message><source>Label wrecks</source><translation>Épave</translation></message>
 <message><source>Low tide</source><translation>Basse mer</translation></message>
 <message><source>Medium</source><translation>Moyenne</translation></message>
+<message><source>Menu delete dives</source><translation>Supprimer les plongées…</translation></message>
+<message><source>Menu dive</source><translation>Plongée</translation></message>
+<message><source>Menu edit dive</source><translation>Modifier la plongée</translation></message>
+<message><source>Menu insert dive</source><translation>Insérer avant la plongée choisie</translation></message>
+<message><source>Menu new dive</source><translation>Nouvelle plongée</translation></message>
 <message><source>Moderate</source><translation>Modéré</translation></message>
 <message><source>Movies</source><translation>Vidéo</translation></message>
 <message><source>Next</source><translation>Suivante</translation></message>
 <message><source>Next dive</source><translation>Plongée suivante</translation></message>
 <message><source>No Tek</source><translation>Loisir</translation></message>
 <message><source>No dive to export</source><translation>Le carnet ne contient aucune plongée, et l’UDDF ne peut s’écrire sans.</translation></message>
+<message><source>No dives yet</source><translation>Aucune plongée. Appuyez sur %@ pour saisir la première.</translation></message>
 <message><source>No such field</source><translation>Les plongées n’ont pas de champ « %@ » utilisable ainsi.</translation></message>
 <message><source>No suit</source><translation>Sans combinaison</translation></message>
 <message><source>None</source><translation>Nul</translation></message>
@@ -164,6 +192,9 @@
 <message><source>Rating unforgettable</source><translation>Inoubliable</translation></message>
 <message><source>Recreational</source><translation>Loisir</translation></message>
 <message><source>Recuperation</source><translation>Récupération</translation></message>
+<message><source>Renumber explanation</source><translation>Toutes les plongées sont renumérotées, dans l’ordre où le tableau les montre.</translation></message>
+<message><source>Renumber first</source><translation>Numéro de la première plongée :</translation></message>
+<message><source>Renumber title</source><translation>Renuméroter les plongées</translation></message>
 <message><source>Semi-dry suit</source><translation>Combinaison semi-étanche</translation></message>
 <message><source>Shorty</source><translation>Shorty</translation></message>
 <message><source>Snowy</source><translation>Neigeux</translation></message>
@@ -171,6 +202,7 @@
 <message><source>Steel</source><translation>Acier</translation></message>
 <message><source>Strong</source><translation>Fort</translation></message>
 <message><source>T-shirt</source><translation>T-shirt</translation></message>
+<message><source>Table of dives</source><translation>Plongées</translation></message>
 <message><source>TableView air Nx</source><translation>Air / Nx</translation></message>
 <message><source>TableView air Nx O2</source><translation>Air / Nx / O2</translation></message>
 <message><source>TableView air O2</source><translation>Air / O2</translation></message>

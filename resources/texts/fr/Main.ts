@@ -35,6 +35,10 @@
 <message><source>Insert</source><translation>Insérer</translation></message>
 <message><source>Logbook</source><translation>Carnet</translation></message>
 <message><source>Materiel</source><translation>Matériel</translation></message>
+<message><source>Menu columns</source><translation>Colonnes</translation></message>
+<message><source>Menu copy</source><translation>Copier</translation></message>
+<message><source>Menu find</source><translation>Rechercher</translation></message>
+<message><source>Menu select all</source><translation>Tout sélectionner</translation></message>
 <message><source>Move down</source><translation>Déplacer vers la fin</translation></message>
 <message><source>Move up</source><translation>Déplacer vers le début</translation></message>
 <message><source>No</source><translation>Non</translation></message>

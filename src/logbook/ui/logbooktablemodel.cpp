@@ -1,8 +1,7 @@
 #include "logbook/ui/logbooktablemodel.h"
 
 #include "logbook/divecolumns.h"
-
-#include <array>
+#include "platform/ui/icons.h"
 
 namespace tavrel {
 
@@ -27,18 +26,6 @@ void LogbookTableModel::reload() {
     endResetModel();
 }
 
-QIcon LogbookTableModel::image(const QString& name) const {
-    auto found = images_.find(name);
-    if (found == images_.end()) {
-        found = images_.insert(name, QIcon(QStringLiteral(":/icons/%1.svg").arg(name)));
-    }
-    return *found;
-}
-
-QString LogbookTableModel::words(int row, int column) const {
-    return cellWords(dive(row), diveColumns[static_cast<std::size_t>(column)].field, style_);
-}
-
 QVariant LogbookTableModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
         return {};
@@ -53,7 +40,7 @@ QVariant LogbookTableModel::data(const QModelIndex& index, int role) const {
             return cellWords(shown, column.field, style_);
         case Qt::DecorationRole: {
             const QString name = column.showsImage ? cellImage(shown, column.field) : QString();
-            return name.isEmpty() ? QVariant() : QVariant(image(name));
+            return name.isEmpty() ? QVariant() : QVariant(iconNamed(name));
         }
         case Qt::TextAlignmentRole:
             return QVariant(column.alignment | Qt::AlignVCenter);

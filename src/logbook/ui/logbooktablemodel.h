@@ -5,8 +5,6 @@
 
 #include <QAbstractTableModel>
 #include <QFont>
-#include <QHash>
-#include <QIcon>
 
 namespace tavrel {
 
@@ -25,21 +23,16 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-    /// What the cell says in words, whether it shows them or an image.
-    QString words(int row, int column) const;
-
     /// Reads the preferences again and shows everything anew.
     void reload();
 
 private:
     const Plongee& dive(int row) const { return *carnet_.records()[static_cast<std::size_t>(row)]; }
-    QIcon image(const QString& name) const;
 
     Carnet& carnet_;
     const Preferences& preferences_;
     TableStyle style_;
     QFont bold_;
-    mutable QHash<QString, QIcon> images_;
 };
 
 }  // namespace tavrel

@@ -43,6 +43,8 @@ public:
 Q_SIGNALS:
     /// Asked by the title bar's close button; the application answers with the save prompt and closes the document.
     void closeRequested();
+    /// Asked by a Save of the window's own (a toolbar's); the application saves as its File menu does.
+    void saveRequested();
     void filesDropped(const QStringList& files);
 
 protected:

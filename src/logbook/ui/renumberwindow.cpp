@@ -1,0 +1,56 @@
+#include "logbook/ui/renumberwindow.h"
+
+#include "platform/texts.h"
+
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+#include <limits>
+
+namespace tavrel {
+
+RenumberWindow::RenumberWindow(Carnet& carnet, QWidget* parent)
+    : QDialog(parent), carnet_(carnet), first_(new QSpinBox) {
+    setObjectName(QStringLiteral("renumberWindow"));
+    setWindowTitle(text("Carnet", "Renumber title"));
+    first_->setObjectName(QStringLiteral("firstNumber"));
+    first_->setRange(0, std::numeric_limits<int>::max());
+    first_->setValue(1);
+
+    auto* explanation = new QLabel(text("Carnet", "Renumber explanation"));
+    explanation->setWordWrap(true);
+    explanation->setMinimumWidth(fontMetrics().averageCharWidth() * 50);
+    auto* buttons = new QDialogButtonBox;
+    buttons->addButton(QStringLiteral("OK"), QDialogButtonBox::AcceptRole)->setDefault(true);
+    buttons->addButton(text("Main", "Cancel"), QDialogButtonBox::RejectRole);
+    connect(buttons, &QDialogButtonBox::accepted, this, &RenumberWindow::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &RenumberWindow::reject);
+
+    auto* entry = new QFormLayout;
+    entry->addRow(text("Carnet", "Renumber first"), first_);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(explanation);
+    layout->addLayout(entry);
+    layout->addWidget(buttons);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+
+    connect(&carnet, &Carnet::renumberWindowClosed, this, &QWidget::hide);
+}
+
+void RenumberWindow::bringToFront() {
+    show();
+    raise();
+    activateWindow();
+    first_->setFocus();
+    first_->selectAll();
+}
+
+void RenumberWindow::accept() {
+    carnet_.renumDives(first_->value());
+}
+
+}  // namespace tavrel

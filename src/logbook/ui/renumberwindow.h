@@ -1,0 +1,26 @@
+#pragma once
+
+#include "logbook/carnet.h"
+
+#include <QDialog>
+
+class QSpinBox;
+
+namespace tavrel {
+
+/// Asks for the first number and numbers all dives of a logbook from it on. Closes when the logbook has done so.
+class RenumberWindow : public QDialog {
+    Q_OBJECT
+
+public:
+    RenumberWindow(Carnet& carnet, QWidget* parent);
+
+    void bringToFront();
+    void accept() override;
+
+private:
+    Carnet& carnet_;
+    QSpinBox* first_;
+};
+
+}  // namespace tavrel
