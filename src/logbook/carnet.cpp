@@ -336,6 +336,9 @@ Expected<int> Carnet::findTextWithField(const QString& field, const QString& sea
     }
     const int matches = static_cast<int>(found.size());
     selectRows(found);
+    if (!found.isEmpty()) {
+        Q_EMIT rowRevealed(found.front());
+    }
     foundText_ = matches == 1 ? text("Carnet", "One dive found")
                               : textWith("Carnet", "Found dives", QStringLiteral("error !"), matches);
     Q_EMIT stateChanged();

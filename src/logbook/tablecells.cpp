@@ -56,11 +56,11 @@ QString plainText(const Plongee& dive, std::string_view field, const TableStyle&
 QString tideText(const Plongee& dive) {
     if (dive.pmBm == 1) {
         return dive.coeff != 0 ? textWith("Carnet", "TableView high tide", QStringLiteral("N/A"), dive.coeff)
-                               : textWith("Carnet", "TableView high tide only", QStringLiteral("N/A"), 0);
+                               : text("Carnet", "TableView high tide only", QStringLiteral("N/A"));
     }
     if (dive.pmBm == 2) {
         return dive.coeff != 0 ? textWith("Carnet", "TableView low tide", QStringLiteral("N/A"), dive.coeff)
-                               : textWith("Carnet", "TableView low tide only", QStringLiteral("N/A"), 0);
+                               : text("Carnet", "TableView low tide only", QStringLiteral("N/A"));
     }
     return dive.coeff != 0 ? numberText(dive.coeff) : QStringLiteral("-");
 }

@@ -48,8 +48,6 @@ public:
     void resizeWindowToSize(const QSize& size);
 
     FormPages& pages() { return pages_; }
-    void bringToFront();
-
     CustomToolBar& toolBar() { return *toolBar_; }
     /// Ends an entry under way, before the form is taken or replaced from elsewhere.
     void finishEditing() { pages_.finishEditing(); }

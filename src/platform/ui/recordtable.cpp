@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include <cmath>
+#include <memory>
 
 namespace tavrel {
 
@@ -55,6 +56,7 @@ private:
 RecordTable::RecordTable(QAbstractItemModel* tableModel, ListDocumentBase& document, QWidget* parent)
     : QTableView(parent), document_(document), placeholder_(new QLabel(viewport())) {
     setModel(tableModel);
+    const std::unique_ptr<QItemSelectionModel> unused(selectionModel());
     selection_ = new RowSelectionModel(tableModel, document, this);
     setSelectionModel(selection_);
     setItemDelegate(new CellDelegate(*selection_, this));
@@ -145,7 +147,7 @@ QModelIndex RecordTable::moveCursor(CursorAction action, Qt::KeyboardModifiers m
 
 void RecordTable::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     // The table follows the keyboard; where the document selects, it says itself what is to be seen.
-    setAutoScroll(!selection_->isMirroring());
+    setAutoScroll(!selection_ || !selection_->isMirroring());
     QTableView::currentChanged(current, previous);
     setAutoScroll(true);
 }

@@ -41,7 +41,7 @@ private:
     void updatePlaceholder();
 
     ListDocumentBase& document_;
-    RowSelectionModel* selection_;
+    RowSelectionModel* selection_ = nullptr;
     QLabel* placeholder_;
 };
 

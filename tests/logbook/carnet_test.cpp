@@ -1,0 +1,299 @@
+#include "logbook/carnet.h"
+
+#include "logbook/divecolumns.h"
+#include "logbook/divesort.h"
+#include "support/testdesktop.h"
+
+#include <QSignalSpy>
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace tavrel {
+
+namespace {
+
+class CarnetTest : public testing::Test {
+protected:
+    CarnetTest() { setTextLanguage(QStringLiteral("en")); }
+
+    void hold(std::vector<Plongee> dives) {
+        carnet.appendDives(QStringLiteral("Add"), std::move(dives));
+        carnet.undoStack().setClean();
+    }
+    void holdNumbers(const QList<int>& list) {
+        std::vector<Plongee> dives;
+        for (const int number : list) {
+            dives.push_back({.noPlongee = number});
+        }
+        hold(std::move(dives));
+    }
+    QList<int> numbers() const {
+        QList<int> result;
+        for (const auto& dive : carnet.records()) {
+            result.append(dive->noPlongee);
+        }
+        return result;
+    }
+    void type(ControlId<DiveControls> control, const char* text) {
+        carnet.form().state().type(control.index, QString::fromUtf8(text));
+    }
+    QString shown(ControlId<DiveControls> control) const { return carnet.form().state().text(control); }
+
+    TestDesktop desktop;
+    Carnet carnet{desktop.desktop(), {{QStringLiteral("Export"), [](Carnet& each) -> Expected<QByteArray> {
+                                           return QByteArray::number(each.count());
+                                       }}}};
+    const DiveControls& controls = carnet.form().controls();
+};
+
+TEST_F(CarnetTest, proposesTheNumberAfterTheLastDiveByPosition) {
+    carnet.newDive();
+    EXPECT_EQ(shown(controls.noPlongeeField), u"1");
+    EXPECT_EQ(carnet.editWindowTitle(), u"Dive no.\u00a01");
+    holdNumbers({80, 57});
+    carnet.newDive();
+    EXPECT_EQ(shown(controls.noPlongeeField), u"58");
+    holdNumbers({std::numeric_limits<int>::max()});
+    EXPECT_EQ(carnet.nextDiveNumber(), std::numeric_limits<int>::min());
+}
+
+TEST_F(CarnetTest, addsAtTheEndAndInsertsBeforeTheSelectedDive) {
+    holdNumbers({1, 2, 3, 4, 5});
+    carnet.newDive();
+    type(controls.noPlongeeField, "3");
+    carnet.addDive();
+    EXPECT_EQ(numbers(), QList<int>({1, 2, 3, 4, 5, 3}));
+    EXPECT_EQ(carnet.selectedRow(), -1);
+    EXPECT_EQ(shown(controls.noPlongeeField), u"4");
+    EXPECT_TRUE(carnet.isChanged());
+
+    carnet.selectRows({3});
+    type(controls.noPlongeeField, "40");
+    carnet.insertDive();
+    EXPECT_EQ(numbers(), QList<int>({1, 2, 3, 40, 4, 5, 3}));
+
+    type(controls.noPlongeeField, "41");
+    carnet.updateDive();
+    EXPECT_EQ(numbers(), QList<int>({1, 2, 3, 41, 4, 5, 3}));
+    EXPECT_EQ(carnet.editWindowTitle(), u"Dive no.\u00a041");
+    carnet.undoStack().undo();
+    EXPECT_EQ(shown(controls.noPlongeeField), u"40");  // the form follows
+
+    carnet.undoStack().setClean();
+    carnet.deselectAll();
+    carnet.insertDive();
+    carnet.updateDive();
+    EXPECT_FALSE(carnet.isChanged());
+    EXPECT_EQ(desktop.alerts.beeps, 2);
+}
+
+TEST_F(CarnetTest, deletesTheSelectedDivesAfterOneConfirmation) {
+    holdNumbers({1, 2, 3, 4, 5});
+    carnet.deleteDive();
+    EXPECT_TRUE(desktop.alerts.questions.empty());
+
+    carnet.selectRows({4, 0, 2, 2, 9, -1});
+    desktop.alerts.answerNext(1);
+    carnet.deleteDive();
+    EXPECT_EQ(numbers(), QList<int>({1, 2, 3, 4, 5}));
+    desktop.alerts.answerNext(0);
+    carnet.deleteDive();
+    EXPECT_EQ(numbers(), QList<int>({2, 4}));
+    EXPECT_EQ(carnet.selectedRow(), -1);
+    EXPECT_EQ(desktop.alerts.beeps, 2);
+    EXPECT_EQ(desktop.alerts.questions.back().buttons, QStringList({QStringLiteral("OK"), QStringLiteral("Cancel")}));
+
+    carnet.undoStack().undo();
+    EXPECT_EQ(numbers(), QList<int>({1, 2, 3, 4, 5}));
+    EXPECT_FALSE(carnet.isChanged());
+    carnet.undoStack().redo();
+    EXPECT_EQ(numbers(), QList<int>({2, 4}));
+}
+
+TEST_F(CarnetTest, renumbersThroughTheForm) {
+    const QSignalSpy closed(&carnet, &Carnet::renumberWindowClosed);
+    hold({{.noPlongee = 7, .o2Mix = 0, .tempEau = 120}, {.noPlongee = 3, .o2Mix = 32}, {.noPlongee = 9}});
+    carnet.renumDives(10);
+    EXPECT_EQ(numbers(), QList<int>({10, 11, 12}));
+    EXPECT_EQ(carnet.recordAt(0)->tempEau, -50);
+    EXPECT_EQ(carnet.recordAt(0)->o2Mix, 21);
+    EXPECT_EQ(carnet.recordAt(1)->o2Mix, 32);
+    EXPECT_EQ(carnet.selectedRows(), QList<int>({2}));
+    EXPECT_EQ(shown(controls.noPlongeeField), u"12");
+    EXPECT_EQ(carnet.editWindowTitle(), u"Dive no.\u00a012");
+    EXPECT_EQ(closed.count(), 1);
+    carnet.undoStack().undo();
+    EXPECT_EQ(numbers(), QList<int>({7, 3, 9}));
+
+    Carnet empty(desktop.desktop());
+    empty.renumDives(1);
+    EXPECT_TRUE(empty.isChanged());
+}
+
+TEST_F(CarnetTest, goesFromDiveToDiveStoringTheForm) {
+    holdNumbers({1, 2, 3});
+    carnet.selectRows({1});
+    type(controls.siteField, "Wall");
+    carnet.prevDive();
+    EXPECT_EQ(carnet.recordAt(1)->site, u"Wall");
+    EXPECT_EQ(carnet.selectedRows(), QList<int>({0}));
+    EXPECT_EQ(shown(controls.noPlongeeField), u"1");
+    EXPECT_FALSE(carnet.canGoBack());
+    carnet.prevDive();
+    EXPECT_EQ(carnet.selectedRow(), -1);
+    EXPECT_EQ(carnet.currentIndex(), -1);
+
+    carnet.undoStack().setClean();
+    carnet.nextDive();  // nothing selected: nothing stored, nothing selected
+    EXPECT_FALSE(carnet.isChanged());
+    carnet.selectRows({2});
+    type(controls.siteField, "Cave");
+    carnet.closeEditWindow();
+    EXPECT_EQ(carnet.recordAt(2)->site, u"Cave");
+}
+
+TEST_F(CarnetTest, storesEntriesOnlyIntoTheDiveTheyWereMadeFor) {
+    holdNumbers({1, 2});
+    carnet.selectRows({0});
+    carnet.storeEntries();
+    EXPECT_FALSE(carnet.isChanged());
+    carnet.newDive();
+    type(controls.siteField, "Elsewhere");
+    carnet.storeEntries();
+    EXPECT_FALSE(carnet.isChanged());
+    carnet.selectRows({1});
+    type(controls.siteField, "Here");
+    carnet.storeEntries();
+    EXPECT_EQ(carnet.recordAt(1)->site, u"Here");
+}
+
+TEST_F(CarnetTest, findsWhatFieldsHold) {
+    const auto team = [](const char* names) { return Plongee{.partenaires = QString::fromUtf8(names)}; };
+    hold({team("Abel"), team("Zoé"), {}, team(""), team("max, GABRIEL")});
+    const QString buddies = QStringLiteral("partenaires");
+
+    EXPECT_EQ(carnet.findTextWithField(buddies, QStringLiteral("ab")), 3);
+    EXPECT_EQ(carnet.selectedRows(), QList<int>({0, 2, 4}));  // no text at all counts as a match
+    EXPECT_EQ(carnet.foundText(), u"3 dives found");
+    EXPECT_EQ(carnet.findTextWithField(buddies, QString()), 1);
+    EXPECT_EQ(carnet.foundText(), u"One dive found");
+    EXPECT_EQ(carnet.findTextWithField(QStringLiteral("notes"), QStringLiteral("x")), 5);
+
+    carnet.findInOrdinateurs(QStringLiteral("ab"));
+    EXPECT_EQ(desktop.alerts.failures.size(), 1U);
+    EXPECT_EQ(carnet.selectedRow(), -1);
+    EXPECT_EQ(carnet.foundText(), u"5 dives found");
+}
+
+TEST_F(CarnetTest, sortsDescendingFirstAndKeepsTheSelectedDives) {
+    hold({{.noPlongee = 2, .site = QStringLiteral("b")},
+          {.noPlongee = 9, .site = QStringLiteral("é")},
+          {.noPlongee = 1},
+          {.noPlongee = 4, .site = QStringLiteral("B")}});
+    const QString number = QStringLiteral("noPlongee");
+    carnet.selectRows({0, 1});
+    carnet.sortBy(number);
+    EXPECT_EQ(numbers(), QList<int>({9, 4, 2, 1}));
+    EXPECT_FALSE(carnet.isChanged());
+    EXPECT_EQ(carnet.selectedRows(), QList<int>({0, 2}));
+    EXPECT_EQ(shown(controls.noPlongeeField), u"2");  // of the last selected row, which updateDive would replace
+
+    carnet.selectRows({1});
+    type(controls.siteField, "typed");
+    carnet.sortBy(number);
+    EXPECT_EQ(numbers(), QList<int>({1, 2, 4, 9}));
+    EXPECT_EQ(carnet.selectedRows(), QList<int>({2}));
+    EXPECT_EQ(shown(controls.siteField), u"typed");
+
+    carnet.sortBy(QStringLiteral("site"));
+    EXPECT_EQ(numbers(), QList<int>({9, 2, 4, 1}));
+    carnet.sortBy(number);  // goes on in the direction that it had
+    EXPECT_EQ(numbers(), QList<int>({1, 2, 4, 9}));
+    EXPECT_TRUE(carnet.sortedAscending());
+}
+
+TEST(DiveSort, ordersEveryKindOfValueAndKeepsEqualDivesInTheirOrder) {
+    std::vector<DivePointer> dives;
+    for (const float depth : {12.5F, std::numeric_limits<float>::quiet_NaN(), -1.0F, 12.5F}) {
+        const Plongee dive{.date = depth < 0 ? Date() : Date(static_cast<double>(dives.size())), .profondeur = depth};
+        dives.push_back(std::make_shared<const Plongee>(dive));
+    }
+    EXPECT_EQ(sortedOrder(dives, QStringLiteral("profondeur"), true), std::vector<int>({1, 2, 0, 3}));
+    EXPECT_EQ(sortedOrder(dives, QStringLiteral("profondeur"), false), std::vector<int>({0, 3, 2, 1}));
+    EXPECT_EQ(sortedOrder(dives, QStringLiteral("date"), true), std::vector<int>({2, 0, 1, 3}));
+    EXPECT_EQ(sortedOrder(dives, QStringLiteral("lieu"), false), std::vector<int>({0, 1, 2, 3}));
+    EXPECT_EQ(sortedOrder(dives, QStringLiteral("nothing"), false), std::vector<int>({0, 1, 2, 3}));
+    EXPECT_EQ(sortedOrder({}, QStringLiteral("date"), false), std::vector<int>());
+}
+
+TEST_F(CarnetTest, savesByTypeAndReplacesTheListBeforeItChecksTheType) {
+    holdNumbers({1, 2, 3});
+    const auto bytes = carnet.dataRepresentationOfType(Carnet::typeName());
+    ASSERT_TRUE(bytes);
+    EXPECT_EQ(carnet.dataRepresentationOfType(QStringLiteral("Export")).value_or(QByteArray()), "3");
+    EXPECT_FALSE(carnet.dataRepresentationOfType(QStringLiteral("Other")));
+
+    Carnet other(desktop.desktop());
+    QList<int> revealed;
+    QObject::connect(&other, &Carnet::rowRevealed, [&](int row) { revealed.append(row); });
+    ASSERT_TRUE(other.loadDataRepresentation(*bytes, Carnet::typeName()));
+    EXPECT_EQ(other.count(), 3);
+    EXPECT_EQ(other.selectedRow(), -1);
+    EXPECT_EQ(revealed, QList<int>({2}));
+
+    Carnet wrong(desktop.desktop());
+    EXPECT_FALSE(wrong.loadDataRepresentation(*bytes, QStringLiteral("Other")));
+    EXPECT_EQ(wrong.count(), 3);
+    EXPECT_FALSE(wrong.loadDataRepresentation("nonsense", Carnet::typeName()));
+    EXPECT_EQ(wrong.count(), 3);
+}
+
+TEST_F(CarnetTest, setsAFieldByItsName) {
+    holdNumbers({1, 2});
+    carnet.selectRows({1});
+    EXPECT_TRUE(carnet.setValue(1, QStringLiteral("site"), QStringLiteral("Reef")));
+    EXPECT_EQ(carnet.recordAt(1)->site, u"Reef");
+    EXPECT_EQ(shown(controls.siteField), u"Reef");
+    EXPECT_FALSE(carnet.setValue(2, QStringLiteral("site"), QStringLiteral("Reef")));
+    EXPECT_FALSE(carnet.setValue(0, QStringLiteral("site"), qint32(3)));
+    EXPECT_FALSE(carnet.setValue(0, QStringLiteral("ordi"), QString()));
+}
+
+TEST(CarnetColumns, areSetUpWhereTheNumberIsHidden) {
+    TestDesktop desktop;
+    auto& preferences = desktop.preferences;
+    const auto shown = [&](const char* key) { return preferences.boolean(QString::fromUtf8(key)); };
+    preferences.set(QStringLiteral("column gaz"), false);
+    const Carnet first(desktop.desktop());
+    for (const auto& column : diveColumns) {
+        EXPECT_EQ(shown(column.visibilityKey), QLatin1StringView(column.field) != u"rebreather") << column.field;
+    }
+    preferences.set(QStringLiteral("column site"), false);
+    const Carnet second(desktop.desktop());
+    EXPECT_FALSE(shown("column site"));
+    preferences.set(QStringLiteral("column numero"), false);
+    const Carnet third(desktop.desktop());
+    EXPECT_TRUE(shown("column site"));
+}
+
+TEST_F(CarnetTest, answersTheNotifications) {
+    int answers = 0;
+    const auto count = [&answers] { ++answers; };
+    QObject::connect(&carnet, &Carnet::tableReloadRequested, count);
+    QObject::connect(&carnet, &Carnet::columnsRebuildRequested, count);
+    QObject::connect(&carnet, &Carnet::profileRedrawRequested, count);
+    QObject::connect(&carnet, &Carnet::synthesisRefillRequested, count);
+    QObject::connect(&carnet, &Carnet::renumberWindowRequested, count);
+    for (const char* name : {"updateTableView", "updateColumnsTableView", "profile", "updateEditDive", "renumDives"}) {
+        desktop.notifications.post(QString::fromUtf8(name));
+    }
+    EXPECT_EQ(answers, 5);
+    desktop.preferences.set(QStringLiteral("us units"), true);
+    desktop.notifications.post(QStringLiteral("updateDeco"));
+    EXPECT_EQ(shown(controls.ftDepthField), u"ft");
+}
+
+}  // namespace
+
+}  // namespace tavrel
