@@ -10,7 +10,7 @@
 namespace tavrel {
 
 /// A column of the logbook table: the dive field it shows, the preference that shows it, its title, its width in
-/// characters at first, and whether it is on at first.
+/// digits at first, and whether it is on at first.
 struct DiveColumn {
     const char* field;
     const char* visibilityKey;
@@ -24,20 +24,20 @@ struct DiveColumn {
 /// The columns in their order. The wreck column's key is spelled with an underscore.
 inline constexpr std::array<DiveColumn, 15> diveColumns{{
     {"noPlongee", "column numero", {"Carnet", "Column number"}, 6, Qt::AlignRight},
-    {"date", "column date", {"Carnet", "Column date"}, 11, Qt::AlignRight},
-    {"lieu", "column lieu", {"Carnet", "Column place"}, 18},
-    {"site", "column site", {"Carnet", "Column site"}, 22},
-    {"heure", "column heure", {"Carnet", "Column time of day"}, 9, Qt::AlignRight},
-    {"profondeur", "column profondeur", {"Carnet", "Column depth"}, 9, Qt::AlignRight},
+    {"date", "column date", {"Carnet", "Column date"}, 12, Qt::AlignRight},
+    {"lieu", "column lieu", {"Carnet", "Column place"}, 15},
+    {"site", "column site", {"Carnet", "Column site"}, 20},
+    {"heure", "column heure", {"Carnet", "Column time of day"}, 7, Qt::AlignRight},
+    {"profondeur", "column profondeur", {"Carnet", "Column depth"}, 8, Qt::AlignRight},
     {"temps", "column temps", {"Carnet", "Column dive time"}, 8, Qt::AlignRight},
-    {"tempEau", "column temp eau", {"Carnet", "Column water"}, 8, Qt::AlignRight},
+    {"tempEau", "column temp eau", {"Carnet", "Column water"}, 7, Qt::AlignRight},
     {"deco", "column deco", {"Carnet", "Column decompression"}, 14},
-    {"coeff", "column coeff", {"Carnet", "Column tide"}, 11},
-    {"visibilite", "column visibilite", {"Carnet", "Column visibility"}, 13},
-    {"epaves", "column_epave", {"Carnet", "Column wreck"}, 7, Qt::AlignHCenter, true},
-    {"inoubliable", "column inoubliable", {"Carnet", "Column rating"}, 7, Qt::AlignHCenter, true},
-    {"gaz", "column gaz", {"Carnet", "Column gas"}, 13},
-    {"rebreather", "column scaph", {"Carnet", "Column apparatus"}, 11, Qt::AlignLeft, false, false},
+    {"coeff", "column coeff", {"Carnet", "Column tide"}, 10},
+    {"visibilite", "column visibilite", {"Carnet", "Column visibility"}, 14},
+    {"epaves", "column_epave", {"Carnet", "Column wreck"}, 6, Qt::AlignHCenter, true},
+    {"inoubliable", "column inoubliable", {"Carnet", "Column rating"}, 6, Qt::AlignHCenter, true},
+    {"gaz", "column gaz", {"Carnet", "Column gas"}, 12},
+    {"rebreather", "column scaph", {"Carnet", "Column apparatus"}, 10, Qt::AlignLeft, false, false},
 }};
 
 /// The place of a column among diveColumns by the field it shows; -1 when there is none.

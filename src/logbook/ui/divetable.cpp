@@ -55,7 +55,7 @@ DiveTable::~DiveTable() {
 
 void DiveTable::fitColumns() {
     const auto* header = horizontalHeader();
-    const int character = fontMetrics().averageCharWidth();
+    const int character = fontMetrics().horizontalAdvance(u'0');
     for (std::size_t column = 0; column < diveColumns.size(); ++column) {
         const int section = static_cast<int>(column);
         setColumnWidth(section, std::max(character * diveColumns[column].width, header->sectionSizeHint(section)));

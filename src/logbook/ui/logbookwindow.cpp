@@ -58,7 +58,7 @@ LogbookWindow::LogbookWindow(Carnet& carnet, Desktop& desktop)
     connect(&carnet, &Carnet::renumberWindowRequested, this, [this] { renumberWindow().bringToFront(); });
     updateState();
 
-    resize(1180, 640);
+    resize(1200, 680);
     restoreGeometry(desktop.preferences.windowState(frameState));
     table_->setFocus();
     table_->reveal(carnet.count() - 1);

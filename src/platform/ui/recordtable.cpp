@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QProxyStyle>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
@@ -23,6 +24,16 @@ double luminance(const QColor& color) {
     };
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
+
+/// The style of the program with some air between the columns, in cells and headers alike.
+class AiryStyle : public QProxyStyle {
+public:
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        constexpr int air = 4;
+        const int plain = QProxyStyle::pixelMetric(metric, option, widget);
+        return metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin ? plain + air : plain;
+    }
+};
 
 class CellDelegate : public QStyledItemDelegate {
 public:
@@ -61,6 +72,11 @@ RecordTable::RecordTable(QAbstractItemModel* tableModel, ListDocumentBase& docum
     setSelectionModel(selection_);
     setItemDelegate(new CellDelegate(*selection_, this));
 
+    auto* airy = new AiryStyle;
+    airy->setParent(this);
+    setStyle(airy);
+    horizontalHeader()->setStyle(airy);
+
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
@@ -76,7 +92,7 @@ RecordTable::RecordTable(QAbstractItemModel* tableModel, ListDocumentBase& docum
     horizontalHeader()->setSectionsMovable(true);
     horizontalHeader()->setSectionsClickable(true);
     horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setStretchLastSection(false);
+    horizontalHeader()->setStretchLastSection(true);
     fitRows();
 
     placeholder_->setAlignment(Qt::AlignCenter);
