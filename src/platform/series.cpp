@@ -1,5 +1,7 @@
 #include "platform/series.h"
 
+#include "platform/largememory.h"
+
 #include <algorithm>
 #include <bit>
 #include <cmath>
@@ -62,30 +64,41 @@ Series Series::empty() {
     return series;
 }
 
-std::size_t Series::size() const {
+// The numbers when they are of that form; those of another form are nothing.
+template <class Value>
+std::span<const Value> Series::block() const {
     if (!data_) {
-        return 0;
+        return {};
     }
-    const auto& numbers = data_->numbers;
-    if (const auto* small = std::get_if<std::vector<std::int8_t>>(&numbers)) {
-        return small->size();
+    if (const auto* pooled = std::get_if<Pooled<Value>>(&data_->numbers)) {
+        return pooled->numbers;
     }
-    if (const auto* reals = std::get_if<std::vector<double>>(&numbers)) {
-        return reals->size();
-    }
-    return std::get<Mixed>(numbers).codes.size();
+    const auto* numbers = std::get_if<std::vector<Value>>(&data_->numbers);
+    return numbers ? std::span<const Value>(*numbers) : std::span<const Value>();
+}
+
+std::span<const double> Series::realBlock() const {
+    return block<double>();
+}
+
+std::span<const std::int8_t> Series::smallBlock() const {
+    return block<std::int8_t>();
+}
+
+std::size_t Series::size() const {
+    const Mixed* mixed = data_ ? std::get_if<Mixed>(&data_->numbers) : nullptr;
+    return mixed ? mixed->codes.size() : realBlock().size() + smallBlock().size();
 }
 
 Number Series::at(std::size_t index) const {
     Q_ASSERT(index < size());
-    const auto& numbers = data_->numbers;
-    if (const auto* small = std::get_if<std::vector<std::int8_t>>(&numbers)) {
-        return Number::ofInteger((*small)[index]);
+    if (const auto small = smallBlock(); !small.empty()) {
+        return Number::ofInteger(small[index]);
     }
-    if (const auto* reals = std::get_if<std::vector<double>>(&numbers)) {
-        return Number::ofReal((*reals)[index]);
+    if (const auto reals = realBlock(); !reals.empty()) {
+        return Number::ofReal(reals[index]);
     }
-    const Mixed& mixed = std::get<Mixed>(numbers);
+    const Mixed& mixed = std::get<Mixed>(data_->numbers);
     Number number{mixed.codes[index], 0, 0.0};
     if (number.isReal()) {
         number.real = std::bit_cast<double>(mixed.bits[index]);
@@ -108,20 +121,43 @@ void Series::append(Number number) {
     }
 }
 
-void Series::append(std::span<const double> values) {
+// The vector of that form, for changing it; null when the numbers are of another.
+template <class Value>
+std::vector<Value>* Series::owned() {
     auto& numbers = detached().numbers;
-    if (const auto* small = std::get_if<std::vector<std::int8_t>>(&numbers);
-        small && small->empty() && !values.empty()) {
-        numbers = std::vector<double>(values.begin(), values.end());
-    } else if (auto* reals = std::get_if<std::vector<double>>(&numbers)) {
-        reals->insert(reals->end(), values.begin(), values.end());
-    } else if (!values.empty()) {
-        Mixed& all = mixed();
-        all.codes.insert(all.codes.end(), values.size(), 'd');
-        for (const double value : values) {
-            all.bits.push_back(std::bit_cast<std::uint64_t>(value));
-        }
+    if (const auto* pooled = std::get_if<Pooled<Value>>(&numbers)) {
+        const auto copied = pooled->numbers;
+        numbers = std::vector<Value>(copied.begin(), copied.end());
+    } else if (size() == 0) {
+        numbers.template emplace<std::vector<Value>>();
     }
+    return std::get_if<std::vector<Value>>(&numbers);
+}
+
+template <class Value>
+void Series::appendBlock(std::span<const Value> values, char code) {
+    if (values.empty()) {
+        detached();
+        return;
+    }
+    if (auto* numbers = owned<Value>()) {
+        numbers->insert(numbers->end(), values.begin(), values.end());
+        return;
+    }
+    Mixed& all = mixed();
+    all.codes.insert(all.codes.end(), values.size(), code);
+    for (const Value value : values) {
+        all.bits.push_back(bitsOf(code == 'd' ? Number::ofReal(static_cast<double>(value))
+                                              : Number::ofInteger(static_cast<std::int64_t>(value))));
+    }
+}
+
+void Series::append(std::span<const double> values) {
+    appendBlock(values, 'd');
+}
+
+void Series::append(std::span<const std::int8_t> values) {
+    appendBlock(values, 'i');
 }
 
 void Series::append(std::span<const float> values) {
@@ -137,48 +173,24 @@ void Series::append(std::span<const float> values) {
     }
 }
 
-void Series::append(std::span<const std::int8_t> values) {
-    auto& numbers = detached().numbers;
-    if (auto* small = std::get_if<std::vector<std::int8_t>>(&numbers)) {
-        small->insert(small->end(), values.begin(), values.end());
-    } else if (!values.empty()) {
-        Mixed& all = mixed();
-        all.codes.insert(all.codes.end(), values.size(), 'i');
-        for (const std::int8_t value : values) {
-            all.bits.push_back(std::bit_cast<std::uint64_t>(std::int64_t{value}));
-        }
-    }
-}
-
 void Series::clear() {
     data_ = new Data;
-}
-
-std::span<const double> Series::realBlock() const {
-    const auto* reals = data_ ? std::get_if<std::vector<double>>(&data_->numbers) : nullptr;
-    return reals ? std::span<const double>(*reals) : std::span<const double>();
-}
-
-std::span<const std::int8_t> Series::smallBlock() const {
-    const auto* small = data_ ? std::get_if<std::vector<std::int8_t>>(&data_->numbers) : nullptr;
-    return small ? std::span<const std::int8_t>(*small) : std::span<const std::int8_t>();
 }
 
 bool operator==(const Series& left, const Series& right) {
     if (left.isNull() || right.isNull()) {
         return left.isNull() && right.isNull();
     }
-    const auto& one = left.data_->numbers;
-    const auto& other = right.data_->numbers;
-    if (one.index() != other.index()) {
-        return false;
+    if (const auto reals = left.realBlock(); !reals.empty()) {
+        return reals.size() == right.realBlock().size() &&
+               std::memcmp(reals.data(), right.realBlock().data(), reals.size_bytes()) == 0;
     }
-    if (const auto* reals = std::get_if<std::vector<double>>(&one)) {
-        const auto& otherReals = std::get<std::vector<double>>(other);
-        return reals->size() == otherReals.size() &&
-               std::memcmp(reals->data(), otherReals.data(), reals->size() * sizeof(double)) == 0;
+    if (const auto small = left.smallBlock(); !small.empty()) {
+        return std::ranges::equal(small, right.smallBlock());
     }
-    return one == other;
+    const auto* one = std::get_if<Series::Mixed>(&left.data_->numbers);
+    const auto* other = std::get_if<Series::Mixed>(&right.data_->numbers);
+    return one && other ? *one == *other : left.size() == 0 && right.size() == 0;
 }
 
 Series::Data& Series::detached() {
@@ -204,5 +216,34 @@ Series::Mixed& Series::mixed() {
     }
     return std::get<Mixed>(numbers);
 }
+
+std::byte* SeriesPool::roomFor(std::size_t bytes) {
+    if (left_ < bytes) {
+        constexpr std::size_t first = std::size_t{1} << 15;
+        constexpr std::size_t last = std::size_t{1} << 24;
+        blockBytes_ = std::clamp(blockBytes_ * 2, first, last);
+        left_ = std::max(bytes, blockBytes_);
+        auto memory = allocateLarge(left_);
+        next_ = memory.get();
+        memory_ = std::move(memory);
+    }
+    return next_;
+}
+
+template <class Value>
+Series SeriesPool::series(const Value* room, std::size_t count) {
+    Series series = Series::empty();
+    if (count > 0) {
+        series.data_->numbers = Series::Pooled<Value>{memory_, {room, count}};
+        // Whole doubles, so that the next ones are aligned.
+        const std::size_t bytes = (count * sizeof(Value) + sizeof(double) - 1) / sizeof(double) * sizeof(double);
+        next_ += std::min(bytes, left_);
+        left_ -= std::min(bytes, left_);
+    }
+    return series;
+}
+
+template Series SeriesPool::series(const double*, std::size_t);
+template Series SeriesPool::series(const std::int8_t*, std::size_t);
 
 }  // namespace tavrel

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <variant>
 #include <vector>
@@ -27,6 +28,8 @@ struct Number {
     /// Truncated toward zero, saturating at the 32-bit bounds; 0 for not-a-number.
     qint32 toInt() const;
 };
+
+class SeriesPool;
 
 /// One series of a profile: an array of numbers, or nothing (isNull). Holds every number with its type code and bits,
 /// in a form that costs a byte for a flag and eight for a depth. Copies share their numbers until one of them changes.
@@ -61,6 +64,14 @@ public:
     friend bool operator==(const Series& left, const Series& right);
 
 private:
+    friend class SeriesPool;
+
+    // Numbers in memory that many series share, as SeriesPool hands it out.
+    template <class Value>
+    struct Pooled {
+        std::shared_ptr<const std::byte[]> memory;
+        std::span<const Value> numbers;
+    };
     struct Mixed {
         std::vector<char> codes;
         std::vector<std::uint64_t> bits;  // of the double, or of the integer
@@ -69,13 +80,40 @@ private:
     // The contents decide the form: bytes while every number is an 'i' that fits one (so also without numbers), doubles
     // while every one is a 'd', else the mixed form.
     struct Data : QSharedData {
-        std::variant<std::vector<std::int8_t>, std::vector<double>, Mixed> numbers;
+        std::variant<std::vector<std::int8_t>, std::vector<double>, Mixed, Pooled<std::int8_t>, Pooled<double>> numbers;
     };
 
+    template <class Value>
+    std::span<const Value> block() const;
+    template <class Value>
+    std::vector<Value>* owned();
+    template <class Value>
+    void appendBlock(std::span<const Value> values, char code);
     Data& detached();
     Mixed& mixed();
 
     QSharedDataPointer<Data> data_;
+};
+
+/// Memory for the series that are made together when a file is read. They keep it as long as one of them lives.
+class SeriesPool {
+public:
+    /// Room for so many doubles or bytes, until the next call.
+    template <class Value>
+    Value* room(std::size_t count) {
+        return reinterpret_cast<Value*>(roomFor(count * sizeof(Value)));
+    }
+    /// The series of the first numbers in the room that was given out last.
+    template <class Value>
+    Series series(const Value* room, std::size_t count);
+
+private:
+    std::byte* roomFor(std::size_t bytes);
+
+    std::shared_ptr<const std::byte[]> memory_;
+    std::byte* next_ = nullptr;
+    std::size_t left_ = 0;
+    std::size_t blockBytes_ = 0;
 };
 
 }  // namespace tavrel

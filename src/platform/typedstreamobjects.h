@@ -1,24 +1,23 @@
 #pragma once
 
+#include "platform/largememory.h"
+
 #include <QtGlobal>
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
+#include <cstring>
 #include <memory>
-#include <new>
 
 namespace tavrel {
 
 /// What stands under a number of a typed stream's object table.
 enum class Holds : std::uint8_t {
-    klass,        ///< payload: index of the class
-    cString,      ///< payload: index of the shared string
-    opaque,       ///< an object that is still being read, or that nobody decodes
-    number,       ///< a number as it stands in the stream; payload: offset of its value
-    smallNumber,  ///< an 'i' that fits a byte; payload: that byte
-    realNumber,   ///< a 'd'; payload: index among the reader's doubles
-    text,         ///< payload of this and the following: index in the reader's list of them
+    klass,    ///< payload: index of the class
+    cString,  ///< payload: index of the shared string
+    opaque,   ///< an object that is still being read, or that nobody decodes
+    number,   ///< a number as it stands in the stream; payload: offset of its value
+    text,     ///< payload of this and the following: index in the reader's list of them
     date,
     series,
     color,
@@ -44,49 +43,47 @@ private:
     std::uint64_t word_ = static_cast<std::uint8_t>(Holds::opaque);
 };
 
-/// The objects of a stream by number. Grows through realloc, which moves pages of a large table instead of copying
-/// them.
+/// The objects of a stream by number.
 class ObjectTable {
 public:
     std::size_t size() const { return size_; }
-    ObjectEntry& operator[](std::size_t number) { return entries_[number]; }
-    const ObjectEntry& operator[](std::size_t number) const { return entries_[number]; }
+    ObjectEntry& operator[](std::size_t number) { return entries()[number]; }
+    const ObjectEntry& operator[](std::size_t number) const { return entries()[number]; }
+
+    /// Sets memory aside for so many entries, when none are there yet. Until they are made they take none.
+    void reserve(std::size_t count) {
+        if (size_ == 0) {
+            resize(count);
+        }
+    }
 
     std::size_t push(ObjectEntry entry) {
-        if (size_ == capacity_) {
-            grow(size_ + 1);
-        }
-        entries_[size_] = entry;
+        *room(1) = entry;
         return size_++;
     }
 
     /// Room for so many more entries: writes at the pointer become objects through extend().
     ObjectEntry* room(std::size_t count) {
         if (capacity_ - size_ < count) {
-            grow(size_ + count);
+            resize(capacity_ + capacity_ / 2 + count + 64);
         }
-        return entries_.get() + size_;
+        return entries() + size_;
     }
     void extend(std::size_t count) { size_ += count; }
 
 private:
-    struct Free {
-        void operator()(ObjectEntry* entries) const { std::free(entries); }
-    };
+    ObjectEntry* entries() const { return reinterpret_cast<ObjectEntry*>(memory_.get()); }
 
-    void grow(std::size_t needed) {
-        std::size_t capacity = capacity_ + capacity_ / 2 + 64;
-        capacity = capacity < needed ? needed : capacity;
-        void* bytes = std::realloc(static_cast<void*>(entries_.get()), capacity * sizeof(ObjectEntry));
-        if (!bytes) {
-            throw std::bad_alloc();
+    void resize(std::size_t capacity) {
+        auto memory = allocateLarge(capacity * sizeof(ObjectEntry));
+        if (size_ > 0) {
+            std::memcpy(memory.get(), memory_.get(), size_ * sizeof(ObjectEntry));
         }
-        static_cast<void>(entries_.release());
-        entries_.reset(static_cast<ObjectEntry*>(bytes));
+        memory_ = std::move(memory);
         capacity_ = capacity;
     }
 
-    std::unique_ptr<ObjectEntry[], Free> entries_;
+    std::unique_ptr<std::byte[], FreeMemory> memory_;
     std::size_t size_ = 0;
     std::size_t capacity_ = 0;
 };

@@ -15,7 +15,22 @@ namespace tavrel {
 namespace {
 
 bool isIntegerCode(char code) {
-    return code != '\0' && std::string_view("cCsSiIlLqQB").find(code) != std::string_view::npos;
+    switch (code) {
+        case 'c':
+        case 'C':
+        case 's':
+        case 'S':
+        case 'i':
+        case 'I':
+        case 'l':
+        case 'L':
+        case 'q':
+        case 'Q':
+        case 'B':
+            return true;
+        default:
+            return false;
+    }
 }
 
 bool isRealCode(char code) {
@@ -135,6 +150,9 @@ qint32 TypedStreamReader::readInteger() {
     }
     const std::size_t start = scanner_.offset();
     const char code = scanner_.readTypeCode();
+    if (code == 'i') {
+        return static_cast<qint32>(scanner_.readInteger('i'));
+    }
     if (!isIntegerCode(code)) {
         scanner_.fail(StreamFault::wrongItemType, start);
         return 0;
@@ -373,12 +391,20 @@ ObjectEntry TypedStreamReader::decodeSeries() {
     Series series = Series::empty();
     std::size_t foreign = 0;  // offset of the first element that is no number
     for (std::size_t index = 0; index < count && scanner_.ok(); ++index) {
+        if (foreign == 0) {
+            index += numbers_.read(count - index, series);
+            if (index == count) {
+                break;
+            }
+        }
         const std::size_t start = scanner_.offset();
+        const std::size_t known = scanner_.definitions();
         requireObjectGroup(StreamFault::wrongItemType);
         const ObjectEntry entry = scanner_.ok() ? readObject() : ObjectEntry();
-        const Holds kind = entry.kind();
-        const bool isNumber = kind == Holds::number || kind == Holds::smallNumber || kind == Holds::realNumber;
-        if (!isNumber) {
+        if (entry.kind() == Holds::number && scanner_.definitions() == known + 1) {
+            numbers_.learn(start, entry);
+        }
+        if (entry.kind() != Holds::number) {
             foreign = foreign ? foreign : start;
         } else if (!foreign) {
             series.append(numberOf(entry));

@@ -2,6 +2,7 @@
 
 #include "platform/date.h"
 #include "platform/image.h"
+#include "platform/numberrun.h"
 #include "platform/series.h"
 #include "platform/typedstreamscanner.h"
 
@@ -35,6 +36,9 @@ class TypedStreamReader {
 public:
     /// Without a record class every record is an object that is skipped.
     explicit TypedStreamReader(QByteArrayView bytes, std::string_view recordClass = {}, RecordSink* sink = nullptr);
+
+    TypedStreamReader(const TypedStreamReader&) = delete;
+    TypedStreamReader& operator=(const TypedStreamReader&) = delete;
 
     bool ok() const { return scanner_.ok(); }
     Failure failure() const { return scanner_.failure(); }
@@ -85,7 +89,6 @@ private:
 
     std::size_t readCount();
     Number numberOf(const ObjectEntry& entry);
-    void appendNumber(Series& series, const ObjectEntry& entry);
 
     template <class Value>
     static ObjectEntry keep(std::vector<Value>& list, Holds kind, Value value) {
@@ -94,6 +97,7 @@ private:
     }
 
     TypedStreamScanner scanner_;
+    NumberRun numbers_{scanner_};
     RecordSink* sink_;
     int depth_ = 0;
     std::size_t itemStart_ = 0;

@@ -37,7 +37,10 @@ TypedStreamScanner::TypedStreamScanner(QByteArrayView bytes, std::string_view re
     : begin_(reinterpret_cast<const unsigned char*>(bytes.data())),
       position_(begin_),
       end_(begin_ + bytes.size()),
-      recordClass_(recordClass) {}
+      recordClass_(recordClass) {
+    // The smallest number objects that are met in mass take eight bytes or so.
+    objects_.reserve(static_cast<std::size_t>(bytes.size()) / 8);
+}
 
 void TypedStreamScanner::readHeader() {
     const std::int64_t version = readSigned();

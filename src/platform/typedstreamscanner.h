@@ -92,6 +92,8 @@ public:
     bool hasGroup();
     void readObjectEnd();
 
+    /// How many objects, classes and strings were defined so far.
+    std::size_t definitions() const { return objects_.size() + strings_.size(); }
     ObjectTable& objects() { return objects_; }
     const ObjectTable& objects() const { return objects_; }
     /// The bytes at an offset that an entry of the object table holds, for reading its number again.
