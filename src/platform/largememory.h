@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 #include <memory>
 #include <new>
@@ -15,25 +16,28 @@ struct FreeMemory {
     void operator()(void* memory) const { std::free(memory); }
 };
 
-/// Memory that is not cleared. Blocks of megabytes ask for large pages, so that a file's millions of numbers do not
-/// cost a page fault for every few hundred of them; what is not touched takes no memory.
-inline std::unique_ptr<std::byte[], FreeMemory> allocateLarge(std::size_t bytes) {
-    constexpr std::size_t largePage = std::size_t{2} << 20;
-    void* memory = nullptr;
-    if (bytes < largePage) {
-        memory = std::malloc(bytes);
-    } else {
-        const std::size_t whole = (bytes + largePage - 1) / largePage * largePage;
-        memory = std::aligned_alloc(largePage, whole);
+constexpr std::size_t largePage = std::size_t{2} << 20;
+
+/// Asks for large pages where a block of megabytes is about to be filled, so that a file's millions of numbers do not
+/// cost a page fault for every few hundred of them. Only a hint.
+inline void preferLargePages([[maybe_unused]] void* memory, [[maybe_unused]] std::size_t bytes) {
 #ifdef __linux__
-        if (memory) {
-            madvise(memory, whole, MADV_HUGEPAGE);  // only a hint
-        }
-#endif
+    const auto start = (reinterpret_cast<std::uintptr_t>(memory) + largePage - 1) / largePage * largePage;
+    const auto end = (reinterpret_cast<std::uintptr_t>(memory) + bytes) / largePage * largePage;
+    if (start < end) {
+        madvise(reinterpret_cast<void*>(start), end - start, MADV_HUGEPAGE);
     }
+#endif
+}
+
+/// Memory that is not cleared. Of a large block, what is not touched takes no memory.
+inline std::unique_ptr<std::byte[], FreeMemory> allocateLarge(std::size_t bytes) {
+    const std::size_t whole = (bytes + largePage - 1) / largePage * largePage;
+    void* const memory = bytes < largePage ? std::malloc(bytes) : std::aligned_alloc(largePage, whole);
     if (!memory) {
         throw std::bad_alloc();
     }
+    preferLargePages(memory, bytes < largePage ? bytes : whole);
     return std::unique_ptr<std::byte[], FreeMemory>(static_cast<std::byte*>(memory));
 }
 

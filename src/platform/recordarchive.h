@@ -103,6 +103,18 @@ inline void writeItem(TypedStreamWriter& writer, Travel, const Image& value) {
     writer.writeImage(value);
 }
 
+/// How many numbers the series of a record hold.
+template <class Record>
+std::size_t numbersIn(const Record& record, const RecordLayout<Record>& layout) {
+    std::size_t count = 0;
+    for (const auto& item : layout.items) {
+        if (const auto* series = std::get_if<Series Record::*>(&item.member)) {
+            count += (record.*(*series)).size();
+        }
+    }
+    return count;
+}
+
 constexpr std::size_t recordsPerProgress = 128;
 
 }  // namespace recordarchive
@@ -139,7 +151,11 @@ Expected<RecordFile<Record>> readRecords(QByteArrayView bytes, const RecordLayou
 template <class Record>
 QByteArray writeRecords(const std::vector<std::shared_ptr<const Record>>& records, const RecordLayout<Record>& layout,
                         TypedStreamWriter::Numbers numbers = TypedStreamWriter::Numbers::shared) {
-    TypedStreamWriter writer(numbers);
+    std::size_t samples = 0;
+    for (const auto& record : records) {
+        samples += recordarchive::numbersIn(*record, layout);
+    }
+    TypedStreamWriter writer(numbers, samples);
     const TypedStreamWriter::Class recordClass{layout.className, layout.version, &TypedStreamWriter::rootClass};
     writer.beginRoot(records.size());
     for (const auto& record : records) {

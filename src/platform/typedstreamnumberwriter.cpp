@@ -1,9 +1,10 @@
-#include "platform/floatwidening.h"
+#include "platform/floatbits.h"
 #include "platform/typedstreamtags.h"
 #include "platform/typedstreamwriter.h"
 
 #include <QtEndian>
 
+#include <array>
 #include <bit>
 #include <cstring>
 #include <limits>
@@ -16,6 +17,8 @@ using Element = SharedNumbers::Element;
 
 // More than any prefix of a number takes with references of five bytes each.
 constexpr std::size_t prefixRoom = 32;
+// What is copied at once of a prefix; it seldom takes more than half of it.
+constexpr std::size_t prefixBlock = 16;
 
 std::size_t sizeOf(Element element) {
     return element >> 56;
@@ -39,6 +42,32 @@ char* repeat(char* at, Element element, std::size_t times) {
         qToLittleEndian(pattern, at);
     }
     return end;
+}
+
+char* storeWord(char* at, unsigned char tag, std::uint64_t word, int bytes) {
+    *at = static_cast<char>(tag);
+    qToLittleEndian(word, at + 1);
+    return at + 1 + bytes;
+}
+
+// The shortest form of an integer of 32 bits. There must be room for nine bytes, whatever it takes.
+char* storeInteger(char* at, std::int32_t value) {
+    const auto word = static_cast<std::uint64_t>(value);
+    if (value >= streamtags::firstReference && value <= std::numeric_limits<std::int8_t>::max()) {
+        *at = static_cast<char>(value);
+        return at + 1;
+    }
+    return value == static_cast<std::int16_t>(value) ? storeWord(at, streamtags::shortInteger, word, 2)
+                                                     : storeWord(at, streamtags::integer, word, 4);
+}
+
+char* storeValue(char* at, std::int8_t value) {
+    return storeInteger(at, value);
+}
+
+char* storeValue(char* at, double value) {
+    return isIntegral(value) ? storeInteger(at, static_cast<std::int32_t>(value))
+                             : storeWord(at, streamtags::real, std::bit_cast<std::uint64_t>(value), 8);
 }
 
 }  // namespace
@@ -82,7 +111,7 @@ void TypedStreamWriter::putNumber(const Number& number) {
 
 void TypedStreamWriter::putReals(std::span<const double> values) {
     if (numbers_ == Numbers::literal) {
-        putRealLiterals(values);
+        putLiterals(values, 'd');
         return;
     }
     for (std::size_t index = 0; index < values.size(); ++index) {
@@ -105,15 +134,9 @@ void TypedStreamWriter::putReals(std::span<const double> values) {
     }
 }
 
-void TypedStreamWriter::putRealLiterals(std::span<const double> values) {
-    for (const double value : values) {
-        putNumberLiteral(Number::ofReal(value));
-    }
-}
-
 void TypedStreamWriter::putSmall(std::span<const std::int8_t> values) {
     if (numbers_ == Numbers::literal) {
-        putSmallLiterals(values);
+        putLiterals(values, 'i');
         return;
     }
     for (std::size_t index = 0; index < values.size();) {
@@ -133,10 +156,27 @@ void TypedStreamWriter::putSmall(std::span<const std::int8_t> values) {
     }
 }
 
-void TypedStreamWriter::putSmallLiterals(std::span<const std::int8_t> values) {
-    for (const std::int8_t value : values) {
-        putNumberLiteral(Number::ofInteger(value));
+// What precedes the value is the same for all of them, once the first one has been written.
+template <class Value>
+void TypedStreamWriter::putLiterals(std::span<const Value> values, char code) {
+    const std::string& prefix = numberPrefixes_[static_cast<unsigned char>(code)];
+    std::size_t index = 0;
+    for (; index < values.size() && (prefix.empty() || prefix.size() > prefixBlock); ++index) {
+        putNumberLiteral(code == 'd' ? Number::ofReal(static_cast<double>(values[index]))
+                                     : Number::ofInteger(static_cast<std::int64_t>(values[index])));
     }
+    std::array<char, prefixBlock> block{};
+    prefix.copy(block.data(), block.size());
+    const std::size_t size = prefix.size();
+    constexpr std::size_t longestValue = 10;  // with the end of the object
+    char* at = room((values.size() - index) * (size + longestValue) + prefixBlock);
+    nextObject_ += values.size() - index;
+    for (; index < values.size(); ++index) {
+        std::memcpy(at, block.data(), block.size());
+        at = storeValue(at + size, values[index]);
+        *at++ = static_cast<char>(streamtags::end);
+    }
+    position_ = at;
 }
 
 // The number of the object written.

@@ -1,6 +1,6 @@
 #include "platform/typedstreamreader.h"
 
-#include "platform/floatwidening.h"
+#include "platform/floatbits.h"
 #include "platform/typedstreamencoding.h"
 
 #include <QStringDecoder>

@@ -1,5 +1,7 @@
 #include "platform/typedstreamwriter.h"
 
+#include "platform/floatbits.h"
+#include "platform/largememory.h"
 #include "platform/typedstreamtags.h"
 
 #include <QtEndian>
@@ -30,21 +32,20 @@ constexpr Class bitmapClass{"NSBitmapImageRep", 17, &imageRepClass};
 constexpr unsigned char calibratedRgb = 1;
 constexpr unsigned char calibratedWhite = 3;
 
-// Whether the integer form gives back the same bits: integral, within 32 bits, and not the negative zero.
-bool isIntegral(double value) {
-    return value >= std::numeric_limits<std::int32_t>::min() && value <= std::numeric_limits<std::int32_t>::max() &&
-           std::bit_cast<std::uint64_t>(static_cast<double>(static_cast<std::int32_t>(value))) ==
-               std::bit_cast<std::uint64_t>(value);
-}
-
 }  // namespace
 
 constexpr Class TypedStreamWriter::rootClass{"NSObject", 0, nullptr};
 constexpr Class TypedStreamWriter::mutableArrayClass{"NSMutableArray", 0, &arrayClass};
 constexpr Class TypedStreamWriter::numberClass{"NSNumber", 0, &valueClass};
 
-TypedStreamWriter::TypedStreamWriter(Numbers numbers)
-    : numbers_(numbers), buffer_(4096, Qt::Uninitialized), position_(buffer_.data()), end_(position_ + buffer_.size()) {
+TypedStreamWriter::TypedStreamWriter(Numbers numbers, std::size_t expectedNumbers)
+    : numbers_(numbers), position_(nullptr), end_(nullptr) {
+    // An element takes 4 bytes to refer to a number in most files, and 16 to hold one.
+    const std::size_t expectedBytes = 4096 + expectedNumbers * (numbers == Numbers::shared ? 4 : 16);
+    buffer_ = QByteArray(static_cast<qsizetype>(expectedBytes + expectedBytes / 16), Qt::Uninitialized);
+    position_ = buffer_.data();
+    end_ = position_ + buffer_.size();
+    preferLargePages(position_, static_cast<std::size_t>(buffer_.size()));
     putSigned(streamtags::streamerVersion);
     constexpr std::string_view signature = streamtags::littleEndianSignature;
     putSigned(static_cast<std::int64_t>(signature.size()));
@@ -177,20 +178,12 @@ QByteArray TypedStreamWriter::take() {
     return std::move(buffer_);
 }
 
-// Room for so many bytes at position_.
-char* TypedStreamWriter::room(std::size_t count) {
-    if (static_cast<std::size_t>(end_ - position_) < count) {
-        const qsizetype used = position_ - buffer_.constData();
-        buffer_.resize(buffer_.size() * 2 + static_cast<qsizetype>(count));
-        position_ = buffer_.data() + used;
-        end_ = buffer_.data() + buffer_.size();
-    }
-    return position_;
-}
-
-void TypedStreamWriter::put(unsigned char byte) {
-    *room(1) = static_cast<char>(byte);
-    ++position_;
+void TypedStreamWriter::grow(std::size_t count) {
+    const std::size_t used = static_cast<std::size_t>(position_ - buffer_.constData());
+    buffer_.resize(buffer_.size() * 2 + static_cast<qsizetype>(count));
+    position_ = buffer_.data() + used;
+    end_ = buffer_.data() + buffer_.size();
+    preferLargePages(position_, static_cast<std::size_t>(end_ - position_));
 }
 
 void TypedStreamWriter::put(std::string_view bytes) {

@@ -41,7 +41,8 @@ public:
     static const Class mutableArrayClass;
     static const Class numberClass;
 
-    explicit TypedStreamWriter(Numbers numbers = Numbers::shared);
+    /// Sets memory aside for so many numbers in series beside the first bytes; what is not needed takes none.
+    explicit TypedStreamWriter(Numbers numbers = Numbers::shared, std::size_t expectedNumbers = 0);
 
     /// The root array; its elements follow, then endObject().
     void beginRoot(std::size_t count);
@@ -70,8 +71,18 @@ private:
         int size;
     };
 
-    char* room(std::size_t count);
-    void put(unsigned char byte);
+    // Room for so many bytes at position_.
+    char* room(std::size_t count) {
+        if (static_cast<std::size_t>(end_ - position_) < count) {
+            grow(count);
+        }
+        return position_;
+    }
+    void put(unsigned char byte) {
+        *room(1) = static_cast<char>(byte);
+        ++position_;
+    }
+    void grow(std::size_t count);
     void put(std::string_view bytes);
     void putSigned(std::int64_t value);
     void putUnsigned(std::uint64_t value);
@@ -91,9 +102,9 @@ private:
     std::size_t putNumberLiteral(const Number& number);
     void putNumberValue(const Number& number);
     void putReals(std::span<const double> values);
-    void putRealLiterals(std::span<const double> values);
     void putSmall(std::span<const std::int8_t> values);
-    void putSmallLiterals(std::span<const std::int8_t> values);
+    template <class Value>
+    void putLiterals(std::span<const Value> values, char code);
     void putNumberPrefix(char code);
     SharedNumbers::Element elementFor(std::size_t object) const;
 

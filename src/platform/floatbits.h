@@ -3,6 +3,7 @@
 #include <bit>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 
 namespace tavrel {
 
@@ -26,6 +27,13 @@ inline float narrowed(double value) {
     auto payload = static_cast<std::uint32_t>(bits >> 29 & 0x7fffffU);
     payload = payload == 0 ? 0x400000U : payload;
     return std::bit_cast<float>(static_cast<std::uint32_t>(bits >> 32 & 0x80000000U) | 0x7f800000U | payload);
+}
+
+/// Whether a 32-bit integer gives back the same bits: integral, small enough, and not the negative zero.
+inline bool isIntegral(double value) {
+    return value >= std::numeric_limits<std::int32_t>::min() && value <= std::numeric_limits<std::int32_t>::max() &&
+           std::bit_cast<std::uint64_t>(static_cast<double>(static_cast<std::int32_t>(value))) ==
+               std::bit_cast<std::uint64_t>(value);
 }
 
 }  // namespace tavrel
