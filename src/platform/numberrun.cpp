@@ -50,7 +50,7 @@ std::size_t NumberRun::read(std::size_t limit, Series& series) {
     }
     if (small_.byShort.empty() && scanner_.objects_.size() > byteReferences) {
         reals_.byShort.assign(Known<std::uint64_t>::shortReferences, reals_.unknown);
-        small_.byShort.assign(Known<std::int16_t>::shortReferences, small_.unknown);
+        small_.byShort.assign(Known<std::uint16_t>::shortReferences, small_.unknown);
     }
     std::size_t total = 0;
     while (total < limit && scanner_.end_ - scanner_.position_ >= stepBytes && *scanner_.position_ == elementType_) {
@@ -153,7 +153,7 @@ bool NumberRun::resolve(const unsigned char* at, std::uint64_t& value, std::size
     return true;
 }
 
-bool NumberRun::resolve(const unsigned char* at, std::int16_t& value, std::size_t& size) {
+bool NumberRun::resolve(const unsigned char* at, std::uint16_t& value, std::size_t& size) {
     if (codeAt(at) != 'i') {
         return false;
     }
@@ -166,7 +166,7 @@ bool NumberRun::resolve(const unsigned char* at, std::int16_t& value, std::size_
     if (number != static_cast<std::int8_t>(number)) {
         return false;
     }
-    value = static_cast<std::int16_t>(number);
+    value = static_cast<std::uint8_t>(number);
     keep(small_, reference.value, value);
     size = reference.size;
     return true;
@@ -179,8 +179,21 @@ std::size_t NumberRun::realReferences(double* block, std::size_t limit) {
     const std::uint64_t shortReference = reals_.byShort.empty() ? 0 : type | streamtags::shortInteger << 8;
     const std::uint64_t* const byShort = reals_.byShort.data();
     std::size_t count = 0;
+    const std::uint64_t pairMask = 0x0000ffff0000ffffU;
+    const std::uint64_t pair = shortReference | shortReference << 32;
     while (count < limit && at <= last) {
         const std::uint64_t word = wordAt(at);
+        if ((word & pairMask) == pair && count + 2 <= limit && shortReference != 0) {
+            const std::uint64_t first = byShort[word >> 16 & 0xffff];
+            const std::uint64_t second = byShort[word >> 48];
+            if (first != reals_.unknown && second != reals_.unknown) {
+                block[count] = std::bit_cast<double>(first);
+                block[count + 1] = std::bit_cast<double>(second);
+                count += 2;
+                at += 8;
+                continue;
+            }
+        }
         std::uint64_t bits = 0;
         std::size_t size = 2;
         if ((word & 0xffff) == shortReference) {
@@ -206,10 +219,11 @@ std::size_t NumberRun::smallReferences(std::int8_t* block, std::size_t limit) {
     const unsigned char* const last = scanner_.end_ - stepBytes;
     const std::uint64_t type = elementType_;
     const std::uint64_t shortReference = small_.byShort.empty() ? 0 : type | streamtags::shortInteger << 8;
+    const std::uint64_t quad = type * 0x0001000100010001U;
     std::size_t count = 0;
     while (count < limit && at <= last) {
         const std::uint64_t word = wordAt(at);
-        std::int16_t value = 0;
+        std::uint16_t value = 0;
         std::size_t size = 2;
         if ((word & 0xffff) == shortReference) {
             value = small_.byShort[word >> 16 & 0xffff];
@@ -227,13 +241,30 @@ std::size_t NumberRun::smallReferences(std::int8_t* block, std::size_t limit) {
         if (size > 4) {
             continue;
         }
-        // As long as the same reference goes on, four or two of them at a time.
+        // As long as the same reference goes on, eight or four of them at a time; among references of a byte, four at a
+        // time whatever they refer to.
         const std::uint64_t pattern =
             size == 2 ? (word & 0xffff) * 0x0001000100010001U : (word & 0xffffffff) * 0x0000000100000001U;
-        const std::size_t step = 8 / size;
-        while (count + step <= limit && at <= last && wordAt(at) == pattern) {
-            std::memset(block + count, value, 4);
-            count += step;
+        const std::size_t step = 16 / size;
+        for (;;) {
+            while (count + step <= limit && at <= last && wordAt(at) == pattern && wordAt(at + 8) == pattern) {
+                std::memset(block + count, value, 8);
+                count += step;
+                at += 16;
+            }
+            const std::uint64_t next = wordAt(at);
+            if (size != 2 || count + 4 > limit || at > last || (next & 0x00ff00ff00ff00ffU) != quad) {
+                break;
+            }
+            const std::uint16_t values[] = {small_.byByte[next >> 8 & 0xff], small_.byByte[next >> 24 & 0xff],
+                                            small_.byByte[next >> 40 & 0xff], small_.byByte[next >> 56]};
+            if (((values[0] | values[1] | values[2] | values[3]) & small_.unknown) != 0) {
+                break;
+            }
+            for (std::size_t index = 0; index < 4; ++index) {
+                block[count + index] = static_cast<std::int8_t>(values[index]);
+            }
+            count += 4;
             at += 8;
         }
     }

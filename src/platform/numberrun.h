@@ -63,7 +63,7 @@ private:
     Reference referenceAt(const unsigned char* at) const;
     char codeAt(const unsigned char* at) const;
     bool resolve(const unsigned char* at, std::uint64_t& value, std::size_t& size);
-    bool resolve(const unsigned char* at, std::int16_t& value, std::size_t& size);
+    bool resolve(const unsigned char* at, std::uint16_t& value, std::size_t& size);
     template <class Value>
     static void keep(Known<Value>& known, std::int64_t reference, Value value);
 
@@ -71,7 +71,7 @@ private:
     SeriesPool pool_;
     unsigned char elementType_ = 0;                    // the byte that refers to the type "@"
     Known<std::uint64_t> reals_{0x7ff4000000000000U};  // bits; the unknown one is a not-a-number that is never kept
-    Known<std::int16_t> small_{-32768};
+    Known<std::uint16_t> small_{0x100};                // bytes; the unknown one has a bit beyond them
     Prefix realPrefix_;
     Prefix smallPrefix_;
 };
