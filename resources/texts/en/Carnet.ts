@@ -227,7 +227,6 @@
 <message><source>Tip delete</source><translation>Delete the selected dives</translation></message>
 <message><source>Tip import UDCF</source><translation>Import dives from a UDCF file</translation></message>
 <message><source>Tip import UDDF</source><translation>Import dives from a UDDF file</translation></message>
-<message><source>Tip import handheld</source><translation>Import dives from the file of a handheld logbook</translation></message>
 <message><source>Tip insert</source><translation>Insert the dive before the selected one</translation></message>
 <message><source>Tip preset air</source><translation>Air in the main tank: oxygen 21, nitrogen 79, no helium</translation></message>
 <message><source>Tip preset heliox</source><translation>Heliox in the main tank: helium makes up the rest of the oxygen</translation></message>

@@ -227,7 +227,6 @@
 <message><source>Tip delete</source><translation>Supprimer les plongées sélectionnées</translation></message>
 <message><source>Tip import UDCF</source><translation>Importer des plongées d’un fichier UDCF</translation></message>
 <message><source>Tip import UDDF</source><translation>Importer des plongées d’un fichier UDDF</translation></message>
-<message><source>Tip import handheld</source><translation>Importer les plongées du fichier d’un carnet de poche</translation></message>
 <message><source>Tip insert</source><translation>Insérer la plongée avant celle qui est sélectionnée</translation></message>
 <message><source>Tip preset air</source><translation>Air dans le bloc principal : oxygène 21, azote 79, sans hélium</translation></message>
 <message><source>Tip preset heliox</source><translation>Héliox dans le bloc principal : l’hélium complète l’oxygène</translation></message>

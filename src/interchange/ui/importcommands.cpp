@@ -40,8 +40,12 @@ const FormatCommand& commandOf(ImportFormat format) {
 
 }  // namespace
 
-ImportCommands::ImportCommands(Carnet& carnet, DocumentWindow& window, Desktop& desktop, FileDialogs& fileDialogs)
-    : QObject(&window), carnet_(carnet), window_(window), desktop_(desktop), fileDialogs_(fileDialogs) {}
+ImportCommands::ImportCommands(Carnet& carnet, LogbookWindow& window, Desktop& desktop, FileDialogs& fileDialogs)
+    : QObject(&window), carnet_(carnet), window_(window), desktop_(desktop), fileDialogs_(fileDialogs) {
+    window.provideCommand(QStringLiteral("importUDCF"), [this] { importUDCF(); });
+    window.provideCommand(QStringLiteral("importUDDF"), [this] { importUDDF(); });
+    window.addImport(text("Carnet", "Import handheld"), [this] { importHandheld(); });
+}
 
 void ImportCommands::chooseAndImport(ImportFormat format) {
     const FormatCommand& command = commandOf(format);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "interchange/imports.h"
-#include "platform/ui/documentwindow.h"
+#include "logbook/ui/logbookwindow.h"
 #include "platform/ui/filedialogs.h"
 
 #include <QObject>
@@ -9,12 +9,12 @@
 namespace tavrel {
 
 /// The imports of a logbook's window: ask for one file, read it with progress, and tell at the end how many dives came
-/// in and what stopped the import. Belongs to the window.
+/// in and what stopped the import. Belongs to the window, whose toolbars and import menu get the commands.
 class ImportCommands : public QObject {
     Q_OBJECT
 
 public:
-    ImportCommands(Carnet& carnet, DocumentWindow& window, Desktop& desktop, FileDialogs& fileDialogs);
+    ImportCommands(Carnet& carnet, LogbookWindow& window, Desktop& desktop, FileDialogs& fileDialogs);
 
     void importUDCF() { chooseAndImport(ImportFormat::udcf); }
     void importUDDF() { chooseAndImport(ImportFormat::uddf); }
@@ -26,7 +26,7 @@ private:
     void chooseAndImport(ImportFormat format);
 
     Carnet& carnet_;
-    DocumentWindow& window_;
+    LogbookWindow& window_;
     Desktop& desktop_;
     FileDialogs& fileDialogs_;
 };

@@ -135,6 +135,12 @@ void LogbookWindow::provideCommand(const QString& identifier, std::function<void
     }
 }
 
+void LogbookWindow::addImport(const QString& title, const std::function<void()>& command) {
+    auto* action = new QAction(title, this);
+    connect(action, &QAction::triggered, this, command);
+    furtherImports_.append(action);
+}
+
 void LogbookWindow::giveToEditWindow(const QString& identifier) {
     if (editToolbarHas(identifier)) {
         editWindow_->setCommand(identifier, provided_.at(identifier));
@@ -246,7 +252,7 @@ QList<QAction*> LogbookWindow::importActions() {
             actions.append(action);
         }
     }
-    return actions;
+    return actions + furtherImports_;
 }
 
 QList<QWidget*> LogbookWindow::furtherWindows() {

@@ -30,6 +30,8 @@ public:
     /// What an item of the toolbars does that others provide: "importUDCF", "importUDDF", "profil", "profilData",
     /// "synthese", "statistics". The edit window gets those that it has a place for. Until then an item does not show.
     void provideCommand(const QString& identifier, std::function<void()> command);
+    /// An import that the toolbars have no item for; the File menu shows it behind theirs.
+    void addImport(const QString& title, const std::function<void()>& command);
 
     /// Deselects all dives and prints the table, landscape.
     void printLogbook();
@@ -70,6 +72,7 @@ private:
     RenumberWindow* renumberWindow_ = nullptr;
     std::unique_ptr<DiveEditWindow> editWindow_;
     std::map<QString, std::function<void()>> provided_;
+    QList<QAction*> furtherImports_;
 
     QAction *newDive_, *editDive_, *insertDive_, *deleteDive_, *previousDive_, *nextDive_;
     QAction *copy_, *selectAll_, *find_, *columns_, *customise_;

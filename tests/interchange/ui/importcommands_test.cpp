@@ -15,15 +15,6 @@ namespace tavrel {
 
 namespace {
 
-class PlainWindow : public DocumentWindow {
-public:
-    using DocumentWindow::DocumentWindow;
-    void printDocument() override {}
-    void commitEditing() override { ++commits; }
-
-    int commits = 0;
-};
-
 /// Answers with one file and remembers what was asked.
 class AnsweringFileDialogs : public FileDialogs {
 public:
@@ -53,45 +44,43 @@ protected:
 
     TestDesktop desktop;
     Carnet carnet{desktop.desktop()};
-    PlainWindow window{carnet, desktop.desktop()};
+    LogbookWindow window{carnet, desktop.desktop()};
     AnsweringFileDialogs dialogs;
-    ImportCommands commands{carnet, window, desktop.desktop(), dialogs};
+    // The window owns it.
+    ImportCommands* commands = new ImportCommands(carnet, window, desktop.desktop(), dialogs);
 };
 
 TEST_F(ImportWindow, asksForAFileAndTellsWhatCameIn) {
     const QByteArray dive = "<DIVE><SAMPLES/><GASES><MIX><TANK/></MIX></GASES></DIVE>";
     const QByteArray gases = "<gases><mix><tank/></mix></gases>";
     struct Case {
-        void (ImportCommands::*command)();
         const char* extension;
         QByteArray file;
         int count;
         const char* told;
     };
     const Case cases[] = {
-        {&ImportCommands::importUDCF, "udcf", "<PROFILE><REPGROUP>" + dive + dive + "</REPGROUP></PROFILE>", 2,
-         "2 dives were imported."},
-        {&ImportCommands::importUDDF, "uddf",
-         "<uddf><profiledata><repetitiongroup><dive/></repetitiongroup></profiledata></uddf>", 3,
+        {"udcf", "<PROFILE><REPGROUP>" + dive + dive + "</REPGROUP></PROFILE>", 2, "2 dives were imported."},
+        {"uddf", "<uddf><profiledata><repetitiongroup><dive/></repetitiongroup></profiledata></uddf>", 3,
          "One dive was imported."},
-        {&ImportCommands::importHandheld, nullptr, "<log><repgroup><dive>" + gases + "</dive><dive/></repgroup></log>",
-         4, "One dive was imported. The import stopped at dive 2 of the file: the element gases is missing."},
+        {nullptr, "<log><repgroup><dive>" + gases + "</dive><dive/></repgroup></log>", 4,
+         "One dive was imported. The import stopped at dive 2 of the file: the element gases is missing."},
     };
+    const QList<QAction*> actions = window.importActions();
+    ASSERT_EQ(actions.size(), std::ssize(cases));
     for (const Case& it : cases) {
         dialogs.answer = {written(it.file)};
-        (commands.*it.command)();
+        actions[&it - cases]->trigger();
         QStringList extensions{QStringLiteral("txt"), QStringLiteral("xml")};
         EXPECT_EQ(dialogs.offered, it.extension ? extensions << QLatin1String(it.extension) : extensions);
         EXPECT_EQ(carnet.count(), it.count);
         EXPECT_EQ(desktop.alerts.told.value(desktop.alerts.told.size() - 1), QLatin1String(it.told));
     }
-    EXPECT_EQ(window.commits, 3);
-
     dialogs.answer = {};
-    commands.importUDCF();
+    commands->importUDCF();
     EXPECT_EQ(desktop.alerts.told.size(), 3) << "nothing chosen, nothing told";
     dialogs.answer = {written("no dives")};
-    commands.importUDDF();
+    commands->importUDDF();
     EXPECT_EQ(desktop.alerts.failures.size(), 1U);
     EXPECT_EQ(carnet.undoStack().count(), 3);
 }
