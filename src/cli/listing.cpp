@@ -1,5 +1,6 @@
 #include "cli/listing.h"
 
+#include "platform/numbers.h"
 #include "platform/texts.h"
 
 #include <QStringList>
@@ -26,7 +27,7 @@ QString onOneLine(QString cell) {
 struct PrintedColumn {
     QStringList lines;
     qsizetype width = 0;
-    bool numbers = true;  ///< every cell is a number or empty; such a column is aligned to the right
+    bool numbers = true;  ///< every cell begins with a number or is empty; such a column is aligned to the right
 
     void add(const QString& line) {
         width = std::max(width, line.size());
@@ -43,11 +44,7 @@ PrintedColumn printedColumn(const DocumentDriver& driver, const ListColumn& colu
     printed.add(onOneLine(column.heading));
     for (const int row : rows) {
         const QString cell = onOneLine(driver.cell(row, column.field));
-        bool isNumber = cell.isEmpty();
-        if (!isNumber) {
-            static_cast<void>(cell.toDouble(&isNumber));
-        }
-        printed.numbers = printed.numbers && isNumber;
+        printed.numbers = printed.numbers && (cell.isEmpty() || startsWithNumber(cell));
         printed.add(cell);
     }
     return printed;

@@ -5,6 +5,8 @@
 #include "platform/recordjson.h"
 #include "platform/texts.h"
 
+#include <algorithm>
+
 namespace tavrel {
 
 namespace {
@@ -40,7 +42,16 @@ std::optional<Series> seriesOf(const QString& value, bool reals) {
     return series;
 }
 
+const DiveColumn* tableColumn(const QString& field) {
+    const auto found = std::find_if(diveColumns.begin(), diveColumns.end(),
+                                    [&](const DiveColumn& column) { return field == QLatin1StringView(column.field); });
+    return found == diveColumns.end() ? nullptr : found;
+}
+
 }  // namespace
+
+LogbookDriver::LogbookDriver(Desktop& desktop)
+    : carnet_(desktop, logbookExportTypes()), style_(TableStyle::read(desktop.preferences)) {}
 
 Expected<void> LogbookDriver::renumber(qint32 first) {
     carnet_.renumDives(first);
@@ -61,16 +72,16 @@ std::vector<ListColumn> LogbookDriver::tableColumns() const {
 }
 
 std::optional<ListColumn> LogbookDriver::column(const QString& field) const {
-    for (const auto& column : diveColumns) {
-        if (field == QLatin1StringView(column.field)) {
-            return ListColumn{field, column.title.text()};
-        }
+    if (const DiveColumn* column = tableColumn(field)) {
+        return ListColumn{field, column->title.text()};
     }
     return Plongee::layout().find(field.toStdString()) ? std::optional(ListColumn{field, field}) : std::nullopt;
 }
 
 QString LogbookDriver::cell(int row, const QString& field) const {
-    return fieldText(fieldValue(*carnet_.recordAt(row), *Plongee::layout().find(field.toStdString())));
+    const Plongee& dive = *carnet_.recordAt(row);
+    return tableColumn(field) ? cellWords(dive, field.toStdString(), style_)
+                              : fieldText(fieldValue(dive, *Plongee::layout().find(field.toStdString())));
 }
 
 bool LogbookDriver::hasEntryBeside(const QString& field) const {

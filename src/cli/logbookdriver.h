@@ -3,6 +3,7 @@
 #include "cli/documentdriver.h"
 #include "interchange/exports.h"
 #include "logbook/carnet.h"
+#include "logbook/tablecells.h"
 
 namespace tavrel {
 
@@ -10,7 +11,7 @@ namespace tavrel {
 /// separated by commas.
 class LogbookDriver : public DocumentDriver {
 public:
-    explicit LogbookDriver(Desktop& desktop) : carnet_(desktop, logbookExportTypes()) {}
+    explicit LogbookDriver(Desktop& desktop);
 
     Carnet& carnet() { return carnet_; }
 
@@ -33,6 +34,7 @@ protected:
 
 private:
     Carnet carnet_;
+    TableStyle style_;
 };
 
 }  // namespace tavrel
