@@ -127,7 +127,7 @@ void Carnet::insertDive() {
     List dives = records();
     dives.insert(dives.begin() + row, std::make_shared<const Plongee>(builtDive()));
     changeList(text("Carnet", "Undo insert"), std::move(dives));
-    updateUI();
+    formIsStored(row);
 }
 
 void Carnet::updateDive() {
@@ -139,6 +139,11 @@ void Carnet::updateDive() {
     List dives = records();
     dives[static_cast<std::size_t>(row)] = std::make_shared<const Plongee>(builtDive());
     changeList(text("Carnet", "Undo update"), std::move(dives));
+    formIsStored(row);
+}
+
+void Carnet::formIsStored(int row) {
+    showsSelectedDive_ = true;
     hasEntries_ = false;
     titleEditWindow(recordAt(row)->noPlongee);
     updateUI();
@@ -187,10 +192,43 @@ void Carnet::renumDives(qint32 first) {
     Q_EMIT renumberWindowClosed();
 }
 
+// Before the form shows another dive or closes. A cleared form holds no selected dive: untouched there is nothing to
+// store, and a new dive in it takes the place of a stored one only when its diver says so.
+bool Carnet::storeForm() {
+    if (showsSelectedDive_) {
+        updateDive();
+        return true;
+    }
+    if (!hasEntries_) {
+        return true;
+    }
+    desktop().alerts.beep();
+    const qint32 number = recordAt(selectedRow())->noPlongee;
+    switch (desktop().alerts.ask(
+        text("Carnet", "New dive not added"),
+        {text("Main", "Add"), textWith("Carnet", "Replace dive", QStringLiteral("error !"), number),
+         text("Main", "Cancel")})) {
+        case 0: {
+            const QList<int> rows = selectedRows();
+            addDive();
+            selectRows(rows);
+            return true;
+        }
+        case 1:
+            updateDive();
+            return true;
+        default:
+            return false;
+    }
+}
+
 void Carnet::step(int direction) {
-    updateDive();
     const int row = selectedRow();
     if (row < 0) {
+        updateDive();
+        return;
+    }
+    if (!storeForm()) {
         return;
     }
     selectLastDive(row + direction, true);
@@ -214,11 +252,12 @@ void Carnet::editWindow() {
     }
 }
 
-void Carnet::closeEditWindow() {
-    if (selectedRow() >= 0) {
-        updateDive();
+bool Carnet::closeEditWindow() {
+    if (selectedRow() >= 0 && !storeForm()) {
+        return false;
     }
     Q_EMIT editWindowClosed();
+    return true;
 }
 
 void Carnet::changementSelectionMaTableView() {

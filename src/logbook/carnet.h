@@ -51,12 +51,14 @@ public:
     void deleteDive();
     /// Numbers all dives from first on, each through the form, whose corrections apply.
     void renumDives(qint32 first);
+    /// Stores the form into the selected dive and goes to the one before or behind it.
     void prevDive() { step(-1); }
     void nextDive() { step(+1); }
     /// Selects the row alone and scrolls to it; when it is not to stay selected, only scrolls.
     void selectLastDive(int index, bool selected);
     void editWindow();
-    void closeEditWindow();
+    /// Stores the form into the selected dive and closes; false when the user would rather go on editing.
+    bool closeEditWindow();
     /// Stores what the user entered into the form since the selected dive was loaded; nothing when there is nothing.
     void storeEntries();
     /// Follows a selection: the dive of the selected row goes into the form.
@@ -124,6 +126,8 @@ private:
     void setUpFirstRunColumns();
     Plongee builtDive() { return form_.addDiveToList(); }
     void proposeNextNumber();
+    bool storeForm();
+    void formIsStored(int row);
     void titleEditWindow(qint32 number);
 
     DiveForm form_;

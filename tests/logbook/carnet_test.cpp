@@ -168,6 +168,30 @@ TEST_F(CarnetTest, storesEntriesOnlyIntoTheDiveTheyWereMadeFor) {
     EXPECT_EQ(carnet.recordAt(1)->site, u"Here");
 }
 
+TEST_F(CarnetTest, asksBeforeANewDiveTakesThePlaceOfAStoredOne) {
+    holdNumbers({1, 2});
+    carnet.selectRows({1});
+    carnet.newDive();
+    EXPECT_TRUE(carnet.closeEditWindow());  // untouched: nothing to store
+    EXPECT_FALSE(carnet.isChanged());
+
+    const auto answer = [&](int button) {
+        desktop.alerts.answerNext(button);
+        type(controls.siteField, "New");
+        return carnet.closeEditWindow();
+    };
+    EXPECT_FALSE(answer(2));
+    EXPECT_FALSE(carnet.isChanged());
+    EXPECT_TRUE(answer(0));
+    ASSERT_EQ(carnet.count(), 3);
+    EXPECT_EQ(carnet.recordAt(2)->site, u"New");
+    EXPECT_EQ(carnet.selectedRows(), QList<int>({1}));
+    carnet.newDive();
+    EXPECT_TRUE(answer(1));
+    EXPECT_EQ(carnet.count(), 3);
+    EXPECT_EQ(carnet.recordAt(1)->site, u"New");
+}
+
 TEST_F(CarnetTest, findsWhatFieldsHold) {
     const auto team = [](const char* names) { return Plongee{.partenaires = QString::fromUtf8(names)}; };
     hold({team("Abel"), team("Zoé"), {}, team(""), team("max, GABRIEL")});

@@ -157,6 +157,7 @@
 <message><source>Menu new dive</source><translation>New Dive</translation></message>
 <message><source>Moderate</source><translation>Moderate</translation></message>
 <message><source>Movies</source><translation>Filming</translation></message>
+<message><source>New dive not added</source><translation>The form holds a new dive that is not in the logbook yet.</translation></message>
 <message><source>Next</source><translation>Next</translation></message>
 <message><source>Next dive</source><translation>Next dive</translation></message>
 <message><source>No Tek</source><translation>Recreational</translation></message>
@@ -195,6 +196,7 @@
 <message><source>Renumber explanation</source><translation>All dives are numbered anew, in the order in which the table shows them.</translation></message>
 <message><source>Renumber first</source><translation>Number of the first dive:</translation></message>
 <message><source>Renumber title</source><translation>Renumber Dives</translation></message>
+<message><source>Replace dive</source><translation>Replace Dive %d</translation></message>
 <message><source>Semi-dry suit</source><translation>Semi-dry suit</translation></message>
 <message><source>Shorty</source><translation>Shorty</translation></message>
 <message><source>Snowy</source><translation>Snowy</translation></message>

@@ -157,6 +157,7 @@
 <message><source>Menu new dive</source><translation>Nouvelle plongée</translation></message>
 <message><source>Moderate</source><translation>Modéré</translation></message>
 <message><source>Movies</source><translation>Vidéo</translation></message>
+<message><source>New dive not added</source><translation>Le formulaire contient une nouvelle plongée qui n’est pas encore dans le carnet.</translation></message>
 <message><source>Next</source><translation>Suivante</translation></message>
 <message><source>Next dive</source><translation>Plongée suivante</translation></message>
 <message><source>No Tek</source><translation>Loisir</translation></message>
@@ -195,6 +196,7 @@
 <message><source>Renumber explanation</source><translation>Toutes les plongées sont renumérotées, dans l’ordre où le tableau les montre.</translation></message>
 <message><source>Renumber first</source><translation>Numéro de la première plongée :</translation></message>
 <message><source>Renumber title</source><translation>Renuméroter les plongées</translation></message>
+<message><source>Replace dive</source><translation>Remplacer la plongée %d</translation></message>
 <message><source>Semi-dry suit</source><translation>Combinaison semi-étanche</translation></message>
 <message><source>Shorty</source><translation>Shorty</translation></message>
 <message><source>Snowy</source><translation>Neigeux</translation></message>

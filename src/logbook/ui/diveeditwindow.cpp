@@ -273,8 +273,12 @@ void DiveEditWindow::updateState() {
 void DiveEditWindow::closeEvent(QCloseEvent* event) {
     if (isVisible() && !std::exchange(closing_, true)) {
         finishEditing();
-        carnet_.closeEditWindow();
+        const bool closes = carnet_.closeEditWindow();
         closing_ = false;
+        if (!closes) {
+            event->ignore();
+            return;
+        }
     }
     QMainWindow::closeEvent(event);
 }
