@@ -72,11 +72,4 @@ QPushButton* newCopyButton(TextKey label, const std::function<QString()>& copied
     return button;
 }
 
-void bringToFront(QWidget* window) {
-    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
-    window->show();
-    window->raise();
-    window->activateWindow();
-}
-
 }  // namespace tavrel

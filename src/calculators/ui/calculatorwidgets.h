@@ -35,7 +35,4 @@ void copyResult(const QString& result);
 /// A button that copies a result. It never takes Enter from the window's own button.
 QPushButton* newCopyButton(TextKey label, const std::function<QString()>& copied, QWidget* parent);
 
-/// Shows a window that may be hidden, minimised or behind others.
-void bringToFront(QWidget* window);
-
 }  // namespace tavrel

@@ -1,11 +1,11 @@
 #include "calculators/ui/calculatorwindows.h"
 
-#include "calculators/ui/calculatorwidgets.h"
 #include "calculators/ui/gpscontroller.h"
 #include "calculators/ui/nitroxcontroller.h"
 #include "calculators/ui/physiquecontroller.h"
 #include "calculators/ui/scrccrcontroller.h"
 #include "calculators/ui/trimixcontroller.h"
+#include "platform/ui/bringtofront.h"
 
 #include <QAction>
 #include <QMenu>

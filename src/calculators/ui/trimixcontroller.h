@@ -1,7 +1,7 @@
 #pragma once
 
-#include "calculators/ui/calculatorwidgets.h"
 #include "calculators/ui/calculatorwindow.h"
+#include "platform/ui/bringtofront.h"
 
 namespace tavrel {
 
