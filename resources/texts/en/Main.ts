@@ -3,27 +3,51 @@
 <TS version="2.1" language="en">
 <context>
 <name>Main</name>
+<message><source>About text</source><translation>A logbook for divers, with calculators and record books.</translation></message>
+<message><source>About title</source><translation>About Tavrel</translation></message>
+<message><source>Activities</source><translation>Activities</translation></message>
 <message><source>Add</source><translation>Add</translation></message>
+<message><source>Add entry</source><translation>Add</translation></message>
 <message><source>Add item to ComboBox</source><translation>Add “%@” to the list?</translation></message>
 <message><source>Add to toolbar</source><translation>Add to the toolbar</translation></message>
+<message><source>All documents</source><translation>All documents</translation></message>
+<message><source>All files</source><translation>All files</translation></message>
+<message><source>Brands</source><translation>Brands</translation></message>
+<message><source>Buddies</source><translation>Buddies</translation></message>
 <message><source>Cancel</source><translation>Cancel</translation></message>
 <message><source>Cancelled</source><translation>The work was cancelled.</translation></message>
 <message><source>Carnet de plongee</source><translation>Dive logbook</translation></message>
+<message><source>Causes of sinking</source><translation>Causes of Sinking</translation></message>
+<message><source>Clubs</source><translation>Clubs</translation></message>
+<message><source>Command line description</source><translation>A logbook for divers.</translation></message>
+<message><source>Command line files</source><translation>Documents to open.</translation></message>
+<message><source>Command line help</source><translation>Show this help.</translation></message>
+<message><source>Command line version</source><translation>Show the version.</translation></message>
 <message><source>Cotation 1</source><translation>★</translation></message>
+<message><source>Countries</source><translation>Countries</translation></message>
+<message><source>Country codes</source><translation>Country Codes</translation></message>
 <message><source>Customise</source><translation>Customise…</translation></message>
 <message><source>Customise toolbar</source><translation>Customise toolbar</translation></message>
 <message><source>Deco</source><translation>Decompression</translation></message>
 <message><source>Delete</source><translation>Delete</translation></message>
+<message><source>Delete entries</source><translation>Delete</translation></message>
 <message><source>Display</source><translation>Display</translation></message>
+<message><source>Dive computers</source><translation>Dive Computers</translation></message>
 <message><source>Divers documents</source><translation>Miscellaneous documents</translation></message>
+<message><source>Diving bag</source><translation>Diving Bag</translation></message>
 <message><source>Document has no file</source><translation>The document has not been saved to a file yet.</translation></message>
 <message><source>Document not opened</source><translation>“%@” could not be opened: %@</translation></message>
 <message><source>Document not saved</source><translation>“%@” could not be saved: %@</translation></message>
+<message><source>Don't save</source><translation>Don’t Save</translation></message>
+<message><source>Equipment types</source><translation>Equipment Types</translation></message>
 <message><source>Erase</source><translation>Clear</translation></message>
 <message><source>Erase dive</source><translation>Delete the selected dives?</translation></message>
 <message><source>Erase selection</source><translation>Delete the selected entries?</translation></message>
+<message><source>Export document</source><translation>Export</translation></message>
+<message><source>Exporting</source><translation>Exporting…</translation></message>
 <message><source>File is a folder</source><translation>It is a folder, not a file.</translation></message>
 <message><source>File is not regular</source><translation>It is not a regular file.</translation></message>
+<message><source>File is open</source><translation>It is open in another window.</translation></message>
 <message><source>File missing</source><translation>There is no such file.</translation></message>
 <message><source>File not readable</source><translation>The file cannot be read.</translation></message>
 <message><source>File not writable</source><translation>The file cannot be written.</translation></message>
@@ -33,28 +57,66 @@
 <message><source>Folder missing</source><translation>The folder does not exist.</translation></message>
 <message><source>General</source><translation>General</translation></message>
 <message><source>Insert</source><translation>Insert</translation></message>
+<message><source>Loading</source><translation>Loading…</translation></message>
 <message><source>Logbook</source><translation>Logbook</translation></message>
 <message><source>Materiel</source><translation>Equipment</translation></message>
+<message><source>Memo</source><translation>Memo</translation></message>
+<message><source>Memo hint</source><translation>Notes for yourself, kept between sessions</translation></message>
+<message><source>Menu about</source><translation>About Tavrel</translation></message>
+<message><source>Menu calculators</source><translation>Calculators</translation></message>
+<message><source>Menu clear recent</source><translation>Clear List</translation></message>
+<message><source>Menu close</source><translation>Close</translation></message>
 <message><source>Menu columns</source><translation>Columns</translation></message>
 <message><source>Menu copy</source><translation>Copy</translation></message>
+<message><source>Menu edit</source><translation>Edit</translation></message>
+<message><source>Menu export</source><translation>Export…</translation></message>
+<message><source>Menu file</source><translation>File</translation></message>
 <message><source>Menu find</source><translation>Find</translation></message>
+<message><source>Menu help</source><translation>Help</translation></message>
+<message><source>Menu import</source><translation>Import</translation></message>
+<message><source>Menu lists</source><translation>Lists</translation></message>
+<message><source>Menu minimise</source><translation>Minimise</translation></message>
+<message><source>Menu new</source><translation>New</translation></message>
+<message><source>Menu open</source><translation>Open…</translation></message>
+<message><source>Menu open recent</source><translation>Open Recent</translation></message>
+<message><source>Menu page setup</source><translation>Page Set&amp;up…</translation></message>
+<message><source>Menu preferences</source><translation>Preferences…</translation></message>
+<message><source>Menu print</source><translation>&amp;Print…</translation></message>
+<message><source>Menu quit</source><translation>Quit</translation></message>
+<message><source>Menu renumber</source><translation>Renumber Dives…</translation></message>
+<message><source>Menu revert</source><translation>Revert to Saved</translation></message>
+<message><source>Menu save as</source><translation>Save As…</translation></message>
 <message><source>Menu select all</source><translation>Select All</translation></message>
+<message><source>Menu view</source><translation>View</translation></message>
+<message><source>Menu window</source><translation>Window</translation></message>
 <message><source>Move down</source><translation>Move towards the end</translation></message>
 <message><source>Move up</source><translation>Move towards the front</translation></message>
+<message><source>New entry</source><translation>New entry</translation></message>
 <message><source>No</source><translation>No</translation></message>
 <message><source>No Mac OS Roman</source><translation>This system cannot convert text to Mac OS Roman.</translation></message>
 <message><source>No space left</source><translation>There is not enough space on the disk.</translation></message>
 <message><source>No such field</source><translation>There is no field “%@”.</translation></message>
 <message><source>No such value</source><translation>“%@” cannot be “%@”.</translation></message>
 <message><source>No valid datas</source><translation>The values are not valid.</translation></message>
+<message><source>Open document</source><translation>Open</translation></message>
+<message><source>Places</source><translation>Places</translation></message>
 <message><source>Preferences not saved</source><translation>The preferences could not be saved to “%@”.</translation></message>
 <message><source>Print</source><translation>Print</translation></message>
 <message><source>Printing</source><translation>Printing…</translation></message>
 <message><source>Profile</source><translation>Profile</translation></message>
 <message><source>Rebreather</source><translation>Rebreather</translation></message>
+<message><source>Redo</source><translation>Redo</translation></message>
+<message><source>Redo step</source><translation>Redo %@</translation></message>
 <message><source>Remove from toolbar</source><translation>Remove from the toolbar</translation></message>
+<message><source>Revert</source><translation>Revert</translation></message>
+<message><source>Revert question</source><translation>Revert “%@” to the saved version? Your changes will be lost.</translation></message>
 <message><source>Save</source><translation>Save</translation></message>
+<message><source>Save changes</source><translation>Save the changes made to “%@”?</translation></message>
+<message><source>Save document as</source><translation>Save as</translation></message>
 <message><source>Separator</source><translation>Separator</translation></message>
+<message><source>Services</source><translation>Services</translation></message>
+<message><source>Shops</source><translation>Shops</translation></message>
+<message><source>Sites</source><translation>Sites</translation></message>
 <message><source>Space</source><translation>Space</translation></message>
 <message><source>Synthesis card</source><translation>Summary card</translation></message>
 <message><source>Tip customise</source><translation>Choose what this toolbar holds</translation></message>
@@ -67,8 +129,13 @@
 <message><source>Toolbar shows</source><translation>Show</translation></message>
 <message><source>Toolbar words</source><translation>Words</translation></message>
 <message><source>Toolbar words beside icons</source><translation>Words beside icons</translation></message>
+<message><source>Undo</source><translation>Undo</translation></message>
+<message><source>Undo step</source><translation>Undo %@</translation></message>
 <message><source>Unknown document type</source><translation>Tavrel knows no document type "%@".</translation></message>
+<message><source>Unknown kind of document</source><translation>It is a kind of document that Tavrel does not know.</translation></message>
 <message><source>Untitled</source><translation>Untitled</translation></message>
+<message><source>Wreck types</source><translation>Wreck Types</translation></message>
+<message><source>Wrecks</source><translation>Wrecks</translation></message>
 <message><source>XML file beyond limits</source><translation>The XML file nests or grows beyond all reason and was not read.</translation></message>
 <message><source>XML file too large</source><translation>The XML file is too large to be read.</translation></message>
 <message><source>XML file without elements</source><translation>The file is not XML.</translation></message>

@@ -3,27 +3,51 @@
 <TS version="2.1" language="fr">
 <context>
 <name>Main</name>
+<message><source>About text</source><translation>Un carnet de plongée, avec des calculateurs et des registres.</translation></message>
+<message><source>About title</source><translation>À propos de Tavrel</translation></message>
+<message><source>Activities</source><translation>Activités</translation></message>
 <message><source>Add</source><translation>Ajouter</translation></message>
+<message><source>Add entry</source><translation>Ajouter</translation></message>
 <message><source>Add item to ComboBox</source><translation>Ajouter « %@ » à la liste ?</translation></message>
 <message><source>Add to toolbar</source><translation>Ajouter à la barre d’outils</translation></message>
+<message><source>All documents</source><translation>Tous les documents</translation></message>
+<message><source>All files</source><translation>Tous les fichiers</translation></message>
+<message><source>Brands</source><translation>Marques</translation></message>
+<message><source>Buddies</source><translation>Palanquées</translation></message>
 <message><source>Cancel</source><translation>Annuler</translation></message>
 <message><source>Cancelled</source><translation>Le travail a été annulé.</translation></message>
 <message><source>Carnet de plongee</source><translation>Carnet de plongée</translation></message>
+<message><source>Causes of sinking</source><translation>Causes de naufrage</translation></message>
+<message><source>Clubs</source><translation>Clubs</translation></message>
+<message><source>Command line description</source><translation>Un carnet de plongée.</translation></message>
+<message><source>Command line files</source><translation>Documents à ouvrir.</translation></message>
+<message><source>Command line help</source><translation>Afficher cette aide.</translation></message>
+<message><source>Command line version</source><translation>Afficher la version.</translation></message>
 <message><source>Cotation 1</source><translation>★</translation></message>
+<message><source>Countries</source><translation>Pays</translation></message>
+<message><source>Country codes</source><translation>Codes des pays</translation></message>
 <message><source>Customise</source><translation>Personnaliser…</translation></message>
 <message><source>Customise toolbar</source><translation>Personnaliser la barre d’outils</translation></message>
 <message><source>Deco</source><translation>Décompression</translation></message>
 <message><source>Delete</source><translation>Supprimer</translation></message>
+<message><source>Delete entries</source><translation>Supprimer</translation></message>
 <message><source>Display</source><translation>Affichage</translation></message>
+<message><source>Dive computers</source><translation>Ordinateurs de plongée</translation></message>
 <message><source>Divers documents</source><translation>Documents divers</translation></message>
+<message><source>Diving bag</source><translation>Sac de plongée</translation></message>
 <message><source>Document has no file</source><translation>Le document n’a pas encore été enregistré dans un fichier.</translation></message>
 <message><source>Document not opened</source><translation>Impossible d’ouvrir « %@ » : %@</translation></message>
 <message><source>Document not saved</source><translation>Impossible d’enregistrer « %@ » : %@</translation></message>
+<message><source>Don't save</source><translation>Ne pas enregistrer</translation></message>
+<message><source>Equipment types</source><translation>Types de matériel</translation></message>
 <message><source>Erase</source><translation>Effacer</translation></message>
 <message><source>Erase dive</source><translation>Supprimer les plongées sélectionnées ?</translation></message>
 <message><source>Erase selection</source><translation>Supprimer les éléments sélectionnés ?</translation></message>
+<message><source>Export document</source><translation>Exporter</translation></message>
+<message><source>Exporting</source><translation>Exportation…</translation></message>
 <message><source>File is a folder</source><translation>C’est un dossier et non un fichier.</translation></message>
 <message><source>File is not regular</source><translation>Ce n’est pas un fichier ordinaire.</translation></message>
+<message><source>File is open</source><translation>Il est ouvert dans une autre fenêtre.</translation></message>
 <message><source>File missing</source><translation>Ce fichier n’existe pas.</translation></message>
 <message><source>File not readable</source><translation>Le fichier ne peut pas être lu.</translation></message>
 <message><source>File not writable</source><translation>Le fichier ne peut pas être écrit.</translation></message>
@@ -33,28 +57,66 @@
 <message><source>Folder missing</source><translation>Le dossier n’existe pas.</translation></message>
 <message><source>General</source><translation>Général</translation></message>
 <message><source>Insert</source><translation>Insérer</translation></message>
+<message><source>Loading</source><translation>Chargement…</translation></message>
 <message><source>Logbook</source><translation>Carnet</translation></message>
 <message><source>Materiel</source><translation>Matériel</translation></message>
+<message><source>Memo</source><translation>Pense-bête</translation></message>
+<message><source>Memo hint</source><translation>Des notes pour vous, gardées d’une session à l’autre</translation></message>
+<message><source>Menu about</source><translation>À propos de Tavrel</translation></message>
+<message><source>Menu calculators</source><translation>Calculateurs</translation></message>
+<message><source>Menu clear recent</source><translation>Effacer la liste</translation></message>
+<message><source>Menu close</source><translation>Fermer</translation></message>
 <message><source>Menu columns</source><translation>Colonnes</translation></message>
 <message><source>Menu copy</source><translation>Copier</translation></message>
+<message><source>Menu edit</source><translation>Édition</translation></message>
+<message><source>Menu export</source><translation>Exporter…</translation></message>
+<message><source>Menu file</source><translation>Fichier</translation></message>
 <message><source>Menu find</source><translation>Rechercher</translation></message>
+<message><source>Menu help</source><translation>Aide</translation></message>
+<message><source>Menu import</source><translation>Importer</translation></message>
+<message><source>Menu lists</source><translation>Listes</translation></message>
+<message><source>Menu minimise</source><translation>Réduire</translation></message>
+<message><source>Menu new</source><translation>Nouveau</translation></message>
+<message><source>Menu open</source><translation>Ouvrir…</translation></message>
+<message><source>Menu open recent</source><translation>Ouvrir récent</translation></message>
+<message><source>Menu page setup</source><translation>Mise en page…</translation></message>
+<message><source>Menu preferences</source><translation>Préférences…</translation></message>
+<message><source>Menu print</source><translation>&amp;Imprimer…</translation></message>
+<message><source>Menu quit</source><translation>Quitter</translation></message>
+<message><source>Menu renumber</source><translation>Renuméroter les plongées…</translation></message>
+<message><source>Menu revert</source><translation>Revenir à la version enregistrée</translation></message>
+<message><source>Menu save as</source><translation>Enregistrer sous…</translation></message>
 <message><source>Menu select all</source><translation>Tout sélectionner</translation></message>
+<message><source>Menu view</source><translation>Affichage</translation></message>
+<message><source>Menu window</source><translation>Fenêtre</translation></message>
 <message><source>Move down</source><translation>Déplacer vers la fin</translation></message>
 <message><source>Move up</source><translation>Déplacer vers le début</translation></message>
+<message><source>New entry</source><translation>Nouvelle entrée</translation></message>
 <message><source>No</source><translation>Non</translation></message>
 <message><source>No Mac OS Roman</source><translation>Ce système ne sait pas convertir du texte en Mac OS Roman.</translation></message>
 <message><source>No space left</source><translation>Il n’y a plus assez de place sur le disque.</translation></message>
 <message><source>No such field</source><translation>Il n’y a pas de champ « %@ ».</translation></message>
 <message><source>No such value</source><translation>« %@ » ne peut pas valoir « %@ ».</translation></message>
 <message><source>No valid datas</source><translation>Les valeurs ne sont pas valables.</translation></message>
+<message><source>Open document</source><translation>Ouvrir</translation></message>
+<message><source>Places</source><translation>Lieux</translation></message>
 <message><source>Preferences not saved</source><translation>Impossible d’enregistrer les préférences dans « %@ ».</translation></message>
 <message><source>Print</source><translation>Imprimer</translation></message>
 <message><source>Printing</source><translation>Impression…</translation></message>
 <message><source>Profile</source><translation>Profil</translation></message>
 <message><source>Rebreather</source><translation>Recycleur</translation></message>
+<message><source>Redo</source><translation>Rétablir</translation></message>
+<message><source>Redo step</source><translation>Rétablir : %@</translation></message>
 <message><source>Remove from toolbar</source><translation>Retirer de la barre d’outils</translation></message>
+<message><source>Revert</source><translation>Revenir</translation></message>
+<message><source>Revert question</source><translation>Revenir à la version enregistrée de « %@ » ? Les modifications seront perdues.</translation></message>
 <message><source>Save</source><translation>Enregistrer</translation></message>
+<message><source>Save changes</source><translation>Enregistrer les modifications de « %@ » ?</translation></message>
+<message><source>Save document as</source><translation>Enregistrer sous</translation></message>
 <message><source>Separator</source><translation>Séparateur</translation></message>
+<message><source>Services</source><translation>Prestations</translation></message>
+<message><source>Shops</source><translation>Magasins</translation></message>
+<message><source>Sites</source><translation>Sites</translation></message>
 <message><source>Space</source><translation>Espace</translation></message>
 <message><source>Synthesis card</source><translation>Fiche de synthèse</translation></message>
 <message><source>Tip customise</source><translation>Choisir le contenu de cette barre d’outils</translation></message>
@@ -67,8 +129,13 @@
 <message><source>Toolbar shows</source><translation>Afficher</translation></message>
 <message><source>Toolbar words</source><translation>Texte</translation></message>
 <message><source>Toolbar words beside icons</source><translation>Texte à côté des icônes</translation></message>
+<message><source>Undo</source><translation>Annuler</translation></message>
+<message><source>Undo step</source><translation>Annuler : %@</translation></message>
 <message><source>Unknown document type</source><translation>Tavrel ne connaît pas de type de document « %@ ».</translation></message>
+<message><source>Unknown kind of document</source><translation>Tavrel ne connaît pas ce genre de document.</translation></message>
 <message><source>Untitled</source><translation>Sans titre</translation></message>
+<message><source>Wreck types</source><translation>Types d’épaves</translation></message>
+<message><source>Wrecks</source><translation>Épaves</translation></message>
 <message><source>XML file beyond limits</source><translation>Le fichier XML s’imbrique ou s’étend au-delà de toute mesure et n’a pas été lu.</translation></message>
 <message><source>XML file too large</source><translation>Le fichier XML est trop grand pour être lu.</translation></message>
 <message><source>XML file without elements</source><translation>Le fichier n’est pas du XML.</translation></message>

@@ -1,6 +1,7 @@
 #include "platform/ui/printing.h"
 
 #include "platform/texts.h"
+#include "platform/ui/progresswindow.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QFontInfo>
@@ -8,7 +9,6 @@
 #include <QPageSetupDialog>
 #include <QPainter>
 #include <QPrintDialog>
-#include <QProgressDialog>
 #include <QTableView>
 #include <QTextDocument>
 
@@ -56,11 +56,11 @@ bool paintPages(QPrinter& printer, QWidget* window, const Sheet& sheet, int page
     if (!painter.begin(&printer)) {
         return false;
     }
-    QProgressDialog progress(text("Main", "Printing"), text("Main", "Cancel"), 0, pages, window);
-    progress.setWindowModality(Qt::WindowModal);
+    ProgressWindow work(window, text("Main", "Printing"));
+    const Progress progress = work.progress();
     for (int page = 0; page < pages; ++page) {
-        progress.setValue(page);
-        if (progress.wasCanceled() || (page > 0 && !printer.newPage())) {
+        const bool goesOn = progress(static_cast<std::size_t>(page), static_cast<std::size_t>(pages));
+        if (!goesOn || (page > 0 && !printer.newPage())) {
             painter.end();
             printer.abort();
             return false;
@@ -70,7 +70,6 @@ bool paintPages(QPrinter& printer, QWidget* window, const Sheet& sheet, int page
         paintPage(painter, page);
         painter.restore();
     }
-    progress.setValue(pages);
     return true;
 }
 

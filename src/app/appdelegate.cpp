@@ -1,0 +1,42 @@
+#include "app/appdelegate.h"
+
+#include "app/picklistwindow.h"
+#include "platform/notificationcentre.h"
+#include "platform/texts.h"
+#include "platform/ui/bringtofront.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace tavrel {
+
+QWidget* AppDelegate::showEditor(const PickListEditorDescription& editor) {
+    if (editor.reloads) {
+        desktop_.pickLists.reload(editor.first.list);
+    }
+    auto& window = editors_[&editor];
+    if (!window) {
+        window = std::make_unique<PickListWindow>(desktop_, editor);
+    }
+    bringToFront(window.get());
+    return window.get();
+}
+
+void AppDelegate::sendRenumDivesNotification() {
+    desktop_.notifications.post(QStringLiteral("renumDives"));
+}
+
+void AppDelegate::showAbout(QWidget* parent) {
+    auto* about = new QMessageBox(parent);
+    about->setAttribute(Qt::WA_DeleteOnClose);
+    about->setWindowTitle(text("Main", "About title"));
+    about->setIconPixmap(QApplication::windowIcon().pixmap(64));
+    about->setTextFormat(Qt::RichText);
+    about->setText(QStringLiteral("<h3>%1 %2</h3>")
+                       .arg(QApplication::applicationDisplayName(), QApplication::applicationVersion()));
+    about->setInformativeText(text("Main", "About text"));
+    about->addButton(QMessageBox::Ok);
+    about->open();
+}
+
+}  // namespace tavrel

@@ -1,0 +1,79 @@
+#include "app/applicationwindows.h"
+
+#include "app/keptframe.h"
+#include "platform/preferences.h"
+#include "platform/texts.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QLabel>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace tavrel {
+
+namespace {
+
+QString memoKey() {
+    return QStringLiteral("pense bete text");
+}
+
+}  // namespace
+
+MemoWindow::MemoWindow(Preferences& preferences) : preferences_(preferences), editor_(new QPlainTextEdit(this)) {
+    setWindowTitle(text("Main", "Memo"));
+    editor_->setPlainText(preferences.string(memoKey()));
+    editor_->setAccessibleName(windowTitle());
+    editor_->setPlaceholderText(text("Main", "Memo hint"));
+    editor_->setFrameShape(QFrame::NoFrame);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(editor_);
+    resize(360, 280);
+    new KeptFrame(*this, preferences, QStringLiteral("PenseBete"));
+    new QShortcut(QKeySequence::Close, this, [this] { close(); });
+    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &MemoWindow::keep);
+}
+
+void MemoWindow::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::ActivationChange && !isActiveWindow()) {
+        keep();
+    }
+    QWidget::changeEvent(event);
+}
+
+void MemoWindow::hideEvent(QHideEvent* event) {
+    keep();
+    QWidget::hideEvent(event);
+}
+
+void MemoWindow::keep() {
+    if (editor_->document()->isModified()) {
+        preferences_.set(memoKey(), editor_->toPlainText());
+        editor_->document()->setModified(false);
+    }
+}
+
+LoadingWindow::LoadingWindow() : loadingIndicator_(new QProgressBar(this)) {
+    setWindowTitle(text("Main", "Loading"));
+    setWindowFlag(Qt::WindowCloseButtonHint, false);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(new QLabel(windowTitle(), this));
+    layout->addWidget(loadingIndicator_);
+    loadingIndicator_->setTextVisible(false);
+    loadingIndicator_->setMinimumWidth(240);
+}
+
+void LoadingWindow::start() {
+    // Without an end to count to, the bar moves to and fro.
+    loadingIndicator_->setRange(0, 0);
+    show();
+    raise();
+}
+
+void LoadingWindow::stop() {
+    loadingIndicator_->setRange(0, 1);
+    close();
+}
+
+}  // namespace tavrel

@@ -1,0 +1,119 @@
+#include "app/menucommands.h"
+
+#include "app/appdelegate.h"
+#include "app/mydocumentcontroller.h"
+#include "platform/ui/printing.h"
+
+#include <QApplication>
+
+namespace tavrel {
+
+namespace {
+
+using Context = MenuContext;
+using Menu = MenuName;
+using Part = MenuPart;
+
+bool canRevert(Context& context) {
+    const Document& document = context.window.document();
+    return !document.file().isEmpty() && document.isChanged();
+}
+
+bool canExport(Context& context) {
+    return !context.documents.exportFormats(context.window).isEmpty();
+}
+
+void quit(Context& context) {
+    if (context.documents.closeAllDocuments()) {
+        QApplication::quit();
+    }
+}
+
+const MenuEntry entries[] = {
+    {Menu::file, Part::newDocuments, "new", TextKey("Main", "Menu new"), "", "nouveau"},
+    {Menu::file, Part::command, "openDocument", TextKey("Main", "Menu open"), "Ctrl+O", "ouvrir",
+     [](Context& context) { context.documents.openDocument(&context.window); }, nullptr, "", true},
+    {Menu::file, Part::recentDocuments, "recent", TextKey("Main", "Menu open recent")},
+    {Menu::file, Part::separator},
+    {Menu::file, Part::command, "closeDocument", TextKey("Main", "Menu close"), "Ctrl+W", "fermer",
+     [](Context& context) { context.documents.closeDocument(context.window); }},
+    {Menu::file, Part::command, "saveDocument", TextKey("Main", "Save"), "Ctrl+S", "enregistrer",
+     [](Context& context) { context.documents.saveDocument(context.window); }, nullptr, "", true},
+    {Menu::file, Part::command, "saveDocumentAs", TextKey("Main", "Menu save as"), "Ctrl+Shift+S", "",
+     [](Context& context) { context.documents.saveDocumentAs(context.window); }, nullptr, "", true},
+    {Menu::file, Part::command, "revertDocumentToSaved", TextKey("Main", "Menu revert"), "", "",
+     [](Context& context) { context.documents.revertDocument(context.window); }, canRevert},
+    {Menu::file, Part::separator},
+    {Menu::file, Part::imports, "import", TextKey("Main", "Menu import")},
+    {Menu::file, Part::command, "exportDocument", TextKey("Main", "Menu export"), "", "",
+     [](Context& context) { context.documents.exportDocument(context.window); }, canExport},
+    {Menu::file, Part::separator},
+    {Menu::file, Part::command, "runPageLayout", TextKey("Main", "Menu page setup"), "Ctrl+Shift+P", "",
+     [](Context& context) { runPageLayout(&context.window); }},
+    {Menu::file, Part::command, "printDocument", TextKey("Main", "Menu print"), "Ctrl+P", "imprimante",
+     [](Context& context) { context.window.printDocument(); }},
+    {Menu::file, Part::separator},
+    {Menu::file, Part::command, "terminate", TextKey("Main", "Menu quit"), "Ctrl+Q", "quitter", quit, nullptr, "",
+     true},
+
+    {Menu::edit, Part::undo, "undo", TextKey("Main", "Undo"), "Ctrl+Z", "annuler", nullptr, nullptr, "", true},
+    {Menu::edit, Part::redo, "redo", TextKey("Main", "Redo"), "Ctrl+Shift+Z; Ctrl+Y", "retablir", nullptr, nullptr, "",
+     true},
+    {Menu::edit, Part::separator},
+    {Menu::edit, Part::editActions},
+    {Menu::edit, Part::separator},
+    {Menu::edit, Part::command, "showPreferencePanel", TextKey("Main", "Menu preferences"), "Ctrl+,",
+     "GeneralPreferences", [](Context& context) { context.documents.showPreferencePanel(); }, nullptr, "", true},
+
+    {Menu::view, Part::viewActions},
+
+    {Menu::own, Part::ownActions},
+    {Menu::own, Part::separator},
+    {Menu::own, Part::command, "sendRenumDivesNotification", TextKey("Main", "Menu renumber"), "", "",
+     [](Context& context) { context.delegate.sendRenumDivesNotification(); }, nullptr, "Plongee"},
+
+    {Menu::calculators, Part::calculators},
+
+    {Menu::lists, Part::editors},
+
+    {Menu::window, Part::command, "performMiniaturize", TextKey("Main", "Menu minimise"), "Ctrl+M", "",
+     [](Context& context) { context.window.showMinimized(); }},
+    {Menu::window, Part::command, "showPenseBeteWindow", TextKey("Main", "Memo"), "", "memo",
+     [](Context& context) { context.documents.showPenseBeteWindow(); }},
+    {Menu::window, Part::separator},
+    {Menu::window, Part::windows},
+
+    {Menu::help, Part::command, "about", TextKey("Main", "Menu about"), "", "tavrel",
+     [](Context& context) { context.delegate.showAbout(&context.window); }},
+};
+
+}  // namespace
+
+TextKey menuTitle(MenuName menu) {
+    switch (menu) {
+        case Menu::file:
+            return TextKey("Main", "Menu file");
+        case Menu::edit:
+            return TextKey("Main", "Menu edit");
+        case Menu::view:
+            return TextKey("Main", "Menu view");
+        case Menu::own:
+            return {};
+        case Menu::calculators:
+            return TextKey("Main", "Menu calculators");
+        case Menu::lists:
+            return TextKey("Main", "Menu lists");
+        case Menu::window:
+            return TextKey("Main", "Menu window");
+        case Menu::help:
+            return TextKey("Main", "Menu help");
+    }
+    Q_UNREACHABLE();
+    return {};
+}
+
+std::span<const MenuEntry> menuEntries() {
+    return entries;
+}
+
+}  // namespace tavrel

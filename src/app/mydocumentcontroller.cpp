@@ -1,0 +1,378 @@
+#include "app/mydocumentcontroller.h"
+
+#include "app/applicationwindows.h"
+#include "app/preferenceswindow.h"
+#include "platform/alerts.h"
+#include "platform/preferences.h"
+#include "platform/safefile.h"
+#include "platform/texts.h"
+#include "platform/ui/bringtofront.h"
+#include "platform/ui/progresswindow.h"
+
+#include <QApplication>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <functional>
+#include <optional>
+#include <utility>
+
+namespace tavrel {
+
+namespace {
+
+/// The one name of an existing file, whatever links and dots lead to it.
+QString identity(const QString& file) {
+    return QFileInfo(file).canonicalFilePath();
+}
+
+FileFilter filterOf(const DocumentType& type) {
+    return {text(type.title), {QString::fromLatin1(type.extension)}};
+}
+
+/// Does a document's reading or exporting with its progress shown; nothing when the user cancelled it.
+std::optional<Expected<void>> withProgress(Document& document, QWidget* window, TextKey title,
+                                           const std::function<Expected<void>()>& doWork) {
+    ProgressWindow work(window, text(title));
+    document.setProgress(work.progress());
+    const Expected<void> done = doWork();
+    document.setProgress({});
+    return work.wasCancelled() ? std::nullopt : std::optional(done);
+}
+
+/// Whether a dialog stands over one of a document's windows; its code is still running and needs them.
+bool hasOpenDialog(DocumentWindow& window) {
+    QList<QWidget*> windows = window.furtherWindows();
+    windows.append(&window);
+    const QList<QWidget*> all = QApplication::topLevelWidgets();
+    return std::any_of(all.begin(), all.end(), [&](const QWidget* each) {
+        return each->isVisible() && each->isModal() && each->parentWidget() &&
+               windows.contains(each->parentWidget()->window());
+    });
+}
+
+}  // namespace
+
+MyDocumentController::MyDocumentController(Desktop& desktop, FileDialogs& fileDialogs, DocumentTypes types)
+    : desktop_(desktop), fileDialogs_(fileDialogs), types_(std::move(types)), recentDocuments_(desktop.preferences) {}
+
+MyDocumentController::~MyDocumentController() = default;
+
+QList<DocumentWindow*> MyDocumentController::windows() const {
+    QList<DocumentWindow*> windows;
+    for (const auto& each : open_) {
+        windows.append(each.window.get());
+    }
+    return windows;
+}
+
+const DocumentType& MyDocumentController::typeOf(const DocumentWindow& window) const {
+    const auto found =
+        std::find_if(open_.begin(), open_.end(), [&](const auto& each) { return each.window.get() == &window; });
+    return found == open_.end() ? types_.front() : *found->type;
+}
+
+QString MyDocumentController::defaultType() const {
+    return defaultType_.isNull() ? types_.front().name.text() : defaultType_;
+}
+
+DocumentWindow* MyDocumentController::newDocument() {
+    const DocumentType* type = documentTypeNamed(types_, defaultType());
+    if (!type) {
+        return nullptr;
+    }
+    return addWindow(*type, type->makeDocument(desktop_));
+}
+
+void MyDocumentController::newDocumentOfType(const DocumentType& type) {
+    setDefaultType(type.name.text());
+    newDocument();
+    setDefaultType({});
+}
+
+DocumentWindow* MyDocumentController::addWindow(const DocumentType& type, std::unique_ptr<Document> document) {
+    auto window = type.makeWindow(*document, desktop_);
+    DocumentWindow* added = window.get();
+    open_.push_back({&type, std::move(document), std::move(window)});
+    connect(added, &DocumentWindow::closeRequested, this, [this, added] { closeDocument(*added); });
+    connect(added, &DocumentWindow::filesDropped, this, &MyDocumentController::openFiles);
+    connect(added, &DocumentWindow::saveRequested, this, [this, added] { saveDocument(*added); });
+    connect(&added->document(), &Document::fileChanged, this, &MyDocumentController::windowsChanged);
+    Q_EMIT windowOpened(added);
+    bringToFront(added);
+    Q_EMIT windowsChanged();
+    return added;
+}
+
+DocumentWindow* MyDocumentController::windowOf(const QString& file) const {
+    const QString wanted = identity(file);
+    for (const auto& each : open_) {
+        if (!wanted.isEmpty() && identity(each.document->file()) == wanted) {
+            return each.window.get();
+        }
+    }
+    return nullptr;
+}
+
+Expected<DocumentWindow*> MyDocumentController::open(const QString& file) {
+    if (DocumentWindow* window = windowOf(file)) {
+        bringToFront(window);
+        return window;
+    }
+    const auto type = documentTypeOf(types_, file);
+    if (!type) {
+        if (!QFileInfo::exists(file)) {
+            recentDocuments_.drop(QFileInfo(file).absoluteFilePath());
+        }
+        return tl::unexpected(type.error());
+    }
+    auto document = (*type)->makeDocument(desktop_);
+    const auto opened = withProgress(*document, QApplication::activeWindow(), TextKey("Main", "Loading"),
+                                     [&] { return document->open(file); });
+    if (!opened) {
+        return nullptr;
+    }
+    if (!*opened) {
+        return tl::unexpected(opened->error());
+    }
+    recentDocuments_.note(document->file());
+    DocumentWindow* window = addWindow(**type, std::move(document));
+    discardUntouched();
+    return window;
+}
+
+DocumentWindow* MyDocumentController::openFile(const QString& file) {
+    const auto window = open(file);
+    if (!window) {
+        desktop_.alerts.fail(window.error());
+        return nullptr;
+    }
+    return *window;
+}
+
+void MyDocumentController::openFiles(const QStringList& files) {
+    for (const QString& file : files) {
+        openFile(file);
+    }
+}
+
+void MyDocumentController::openDocument(QWidget* parent) {
+    FileFilter all{text("Main", "All documents"), {}};
+    QList<FileFilter> filters;
+    for (const DocumentType& type : types_) {
+        all.extensions.append(QString::fromLatin1(type.extension));
+        filters.append(filterOf(type));
+    }
+    filters.prepend(all);
+    // What a file is shows inside it, so its name may be any.
+    filters.append({text("Main", "All files"), {}});
+    openFiles(fileDialogs_.filesToOpen(parent, text("Main", "Open document"), filters, true));
+}
+
+bool MyDocumentController::applicationOpenUntitledFile() {
+    if (desktop_.preferences.boolean(QStringLiteral("pense bete"))) {
+        showPenseBeteWindow();
+    }
+    const QStringList recent = recentDocuments_.files();
+    launch(recent.mid(0, 1));
+    return true;
+}
+
+void MyDocumentController::launch(const QStringList& files) {
+    std::vector<Failure> failures;
+    for (const QString& file : files) {
+        if (auto window = open(file); !window) {
+            failures.push_back(window.error());
+        }
+    }
+    if (open_.empty()) {
+        newDocumentOfType(types_.front());
+        untouched_ = open_.back().window.get();
+    }
+    // Told last, over a window.
+    for (const Failure& failure : failures) {
+        desktop_.alerts.fail(failure);
+    }
+}
+
+void MyDocumentController::discardUntouched() {
+    DocumentWindow* window = std::exchange(untouched_, nullptr);
+    if (!window || window->document().isChanged() || !window->document().file().isEmpty()) {
+        return;
+    }
+    const QList<QWidget*> further = window->furtherWindows();
+    const bool isEdited = std::any_of(further.begin(), further.end(), [](auto* each) { return each->isVisible(); });
+    if (!isEdited && !hasOpenDialog(*window)) {
+        removeWindow(*window);
+    }
+}
+
+bool MyDocumentController::succeeded(const Expected<void>& result) {
+    if (!result) {
+        desktop_.alerts.fail(result.error());
+    }
+    return result.has_value();
+}
+
+bool MyDocumentController::saveDocument(DocumentWindow& window) {
+    if (window.document().file().isEmpty()) {
+        return saveDocumentAs(window);
+    }
+    window.commitEditing();
+    return succeeded(window.document().save());
+}
+
+bool MyDocumentController::saveDocumentAs(DocumentWindow& window) {
+    window.commitEditing();
+    Document& document = window.document();
+    const DocumentType& type = typeOf(window);
+    const QString proposal =
+        document.file().isEmpty() ? document.displayName() + u'.' + QLatin1StringView(type.extension) : document.file();
+    const auto chosen = fileDialogs_.fileToSave(&window, text("Main", "Save document as"), proposal, {filterOf(type)});
+    if (!chosen) {
+        return false;
+    }
+    if (const auto* other = windowOf(chosen->file); other && other != &window) {
+        const Failure isOpen{text("Main", "File is open"), {}};
+        desktop_.alerts.fail(savingFailure(chosen->file, isOpen));
+        return false;
+    }
+    if (!succeeded(document.saveAs(chosen->file))) {
+        return false;
+    }
+    recentDocuments_.note(document.file());
+    return true;
+}
+
+bool MyDocumentController::revertDocument(DocumentWindow& window) {
+    Document& document = window.document();
+    const QString question = textWith("Main", "Revert question", QStringLiteral("error !"), document.displayName());
+    desktop_.alerts.beep();
+    if (desktop_.alerts.ask(question, {text("Main", "Revert"), text("Main", "Cancel")}) != 0) {
+        return false;
+    }
+    const auto reverted =
+        withProgress(document, &window, TextKey("Main", "Loading"), [&] { return document.revert(); });
+    return reverted && succeeded(*reverted);
+}
+
+QList<ExportFormat> MyDocumentController::exportFormats(DocumentWindow& window) const {
+    const DocumentType& type = typeOf(window);
+    return type.exports ? type.exports(window.document()) : QList<ExportFormat>();
+}
+
+bool MyDocumentController::exportDocument(DocumentWindow& window) {
+    window.commitEditing();
+    const QList<ExportFormat> formats = exportFormats(window);
+    QList<FileFilter> filters;
+    for (const ExportFormat& format : formats) {
+        filters.append({format.name, {format.extension}});
+    }
+    Document& document = window.document();
+    const QFileInfo file(document.file());
+    const QString name = document.file().isEmpty() ? document.displayName() : file.completeBaseName();
+    const QString proposal = document.file().isEmpty() ? name : file.absolutePath() + u'/' + name;
+    const auto chosen = fileDialogs_.fileToSave(&window, text("Main", "Export document"), proposal, filters);
+    if (!chosen) {
+        return false;
+    }
+    const auto exported = withProgress(document, &window, TextKey("Main", "Exporting"), [&] {
+        return document.exportAs(chosen->file, formats.value(chosen->filter).name);
+    });
+    return exported && succeeded(*exported);
+}
+
+bool MyDocumentController::mayClose(DocumentWindow& window) {
+    if (asked_.contains(&window) || hasOpenDialog(window)) {
+        // What the user is asked there comes first.
+        bringToFront(&window);
+        return false;
+    }
+    window.commitEditing();
+    Document& document = window.document();
+    if (!document.isChanged()) {
+        return true;
+    }
+    bringToFront(&window);
+    asked_.insert(&window);
+    desktop_.alerts.beep();
+    const QString question = textWith("Main", "Save changes", QStringLiteral("error !"), document.displayName());
+    const int answer =
+        desktop_.alerts.ask(question, {text("Main", "Save"), text("Main", "Don't save"), text("Main", "Cancel")});
+    const bool goesOn = answer == 0 ? saveDocument(window) : answer == 1;
+    asked_.remove(&window);
+    return goesOn;
+}
+
+bool MyDocumentController::closeDocument(DocumentWindow& window) {
+    if (!mayClose(window)) {
+        return false;
+    }
+    removeWindow(window);
+    return true;
+}
+
+bool MyDocumentController::mayQuit() {
+    const QList<DocumentWindow*> all = windows();
+    return std::all_of(all.begin(), all.end(), [this](DocumentWindow* window) {
+        // While one document asks, another may be closed.
+        return !windows().contains(window) || mayClose(*window);
+    });
+}
+
+bool MyDocumentController::closeAllDocuments() {
+    if (!mayQuit()) {
+        return false;
+    }
+    for (DocumentWindow* window : windows()) {
+        removeWindow(*window);
+    }
+    return true;
+}
+
+void MyDocumentController::removeWindow(DocumentWindow& window) {
+    const auto found =
+        std::find_if(open_.begin(), open_.end(), [&](const auto& each) { return each.window.get() == &window; });
+    if (found == open_.end()) {
+        return;
+    }
+    OpenDocument closed = std::move(*found);
+    open_.erase(found);
+    if (untouched_ == &window) {
+        untouched_ = nullptr;
+    }
+    closed.window->closeWithDocument();
+    // The window may be in the middle of the event that closes it, so it goes later, before its document.
+    closed.window.release()->deleteLater();
+    closed.document.release()->deleteLater();
+    Q_EMIT windowsChanged();
+}
+
+void MyDocumentController::showPreferencePanel() {
+    if (!preferences_) {
+        preferences_ = std::make_unique<PreferencesWindow>(desktop_);
+    }
+    bringToFront(preferences_.get());
+}
+
+void MyDocumentController::showPenseBeteWindow() {
+    if (!penseBeteWindow_) {
+        penseBeteWindow_ = std::make_unique<MemoWindow>(desktop_.preferences);
+    }
+    bringToFront(penseBeteWindow_.get());
+}
+
+void MyDocumentController::showLoadingWindow() {
+    if (!loadingWindow_) {
+        loadingWindow_ = std::make_unique<LoadingWindow>();
+    }
+    loadingWindow_->start();
+}
+
+void MyDocumentController::disposeLoadingWindow() {
+    if (loadingWindow_) {
+        loadingWindow_->stop();
+    }
+}
+
+}  // namespace tavrel

@@ -1,0 +1,341 @@
+#include "app/preferenceswindow.h"
+
+#include "app/keptframe.h"
+#include "platform/alerts.h"
+#include "platform/preferences.h"
+#include "platform/ui/customtoolbar.h"
+
+#include <QActionGroup>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QPushButton>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+namespace tavrel {
+
+namespace {
+
+constexpr std::array<ToolItem, 6> pageItems{{
+    {"general", {"Main", "General"}, "GeneralPreferences", {}},
+    {"carnet", {"Main", "Logbook"}, "carnet", {}},
+    {"affichage", {"Main", "Display"}, "colonnes", {}},
+    {"profil", {"Main", "Profile"}, "profil", {}},
+    {"deco", {"Main", "Deco"}, "deco", {}},
+    {"rebreather", {"Main", "Rebreather"}, "rebreather", {}},
+}};
+constexpr std::array<const char*, 6> pageNames{"general", "carnet", "affichage", "profil", "deco", "rebreather"};
+constexpr ToolBarDescription toolBarDescription{"prefsToolbar", pageItems, pageNames, pageNames};
+
+constexpr int columnsPerRow = 3;  // of the group that holds nothing but switches of columns
+
+bool isNamed(const PreferenceKey& key, const char* name) {
+    return name && std::strcmp(key.key, name) == 0;
+}
+
+bool isSame(TextKey left, TextKey right) {
+    return std::strcmp(left.key, right.key) == 0;
+}
+
+}  // namespace
+
+PreferencesWindow::PreferencesWindow(Desktop& desktop)
+    : desktop_(desktop),
+      blank_(new QWidget),
+      stack_(new QStackedWidget(this)),
+      toolBar_(new CustomToolBar(toolBarDescription, desktop.preferences, this)) {
+    setObjectName(QStringLiteral("Preferences"));
+    stack_->addWidget(blank_);
+    for (int page = 1; page <= static_cast<int>(pageItems.size()); ++page) {
+        pages_.push_back(newPage(page));
+        stack_->addWidget(pages_.back());
+    }
+    auto* resetButton = new QPushButton(text("Preferences", "Reset"), this);
+    resetButton->setObjectName(QStringLiteral("resetPreferences"));
+    resetButton->setToolTip(text("Preferences", "Tip reset"));
+    auto* closeButton = new QPushButton(text("Preferences", "Close"), this);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(resetButton);
+    buttons->addStretch();
+    buttons->addWidget(closeButton);
+    auto* central = new QWidget(this);
+    auto* layout = new QVBoxLayout(central);
+    layout->addWidget(stack_);
+    layout->addStretch();
+    layout->addLayout(buttons);
+    setCentralWidget(central);
+    setUpToolBar();
+
+    for (const Row& row : rows_) {
+        load(row);
+        row.control->onEdited([this, &key = row.key] { edited(key); });
+    }
+    connect(resetButton, &QPushButton::clicked, this, &PreferencesWindow::resetByUser);
+    connect(closeButton, &QPushButton::clicked, this, &QWidget::close);
+    new QShortcut(QKeySequence::Close, this, [this] { close(); });
+    // A logbook may change its columns too.
+    columnsChanged_ = desktop.notifications.subscribe(QStringLiteral("updateColumnsTableView"), [this] {
+        for (const Row& row : rows_) {
+            if (!posting_ && row.key.notice == PreferenceNotice::columns) {
+                load(row);
+            }
+        }
+    });
+    new KeptFrame(*this, desktop.preferences, QStringLiteral("Preferences"));
+    goView(1);
+}
+
+QWidget* PreferencesWindow::newPage(int page) {
+    auto* widget = new QWidget;
+    auto* layout = new QVBoxLayout(widget);
+    layout->setContentsMargins(0, 0, 0, 0);
+    std::vector<TextKey> groups;
+    for (const PreferenceKey& key : preferenceKeys()) {
+        const auto isKnown = [&](TextKey group) { return isSame(group, key.group); };
+        if (key.page == page && std::none_of(groups.begin(), groups.end(), isKnown)) {
+            groups.push_back(key.group);
+            layout->addWidget(newGroup(page, key.group, widget));
+        }
+    }
+    layout->addStretch();
+    return widget;
+}
+
+QWidget* PreferencesWindow::newGroup(int page, TextKey group, QWidget* parent) {
+    auto* box = new QGroupBox(text(group), parent);
+    auto* layout = new QGridLayout(box);
+    layout->setColumnStretch(columnsPerRow, 1);
+    int place = 0;
+    for (const PreferenceKey& key : preferenceKeys()) {
+        if (key.page != page || !isSame(key.group, group)) {
+            continue;
+        }
+        Row row{key, makePreferenceControl(key, box), {}};
+        QWidget* control = row.control->widget();
+        if (key.notice == PreferenceNotice::columns) {
+            layout->addWidget(control, place / columnsPerRow, place % columnsPerRow);
+        } else if (key.kind == PreferenceKind::onOff) {
+            layout->addWidget(control, place, 0, 1, columnsPerRow + 1);
+        } else {
+            auto* label = new QLabel(text(key.label), box);
+            label->setBuddy(control);
+            label->setIndent(key.enabledBy ? 24 : 0);
+            auto* unit = new QLabel(key.unit.isNull() ? QString() : fillFormat(text(key.unit), {}), box);
+            auto* line = new QHBoxLayout;
+            line->addWidget(control);
+            line->addWidget(unit);
+            line->addStretch();
+            layout->addWidget(label, place, 0);
+            layout->addLayout(line, place, 1, 1, columnsPerRow);
+            row.companions = {label, unit};
+            if (isNamed(key, "low temperature value")) {
+                temperatureUnit_ = unit;
+                unit->setObjectName(QStringLiteral("temperatureUnit"));
+            }
+        }
+        if (!key.kept) {
+            control->setToolTip(text("Preferences", "Tip wreck column"));
+        }
+        rows_.push_back(std::move(row));
+        ++place;
+    }
+    return box;
+}
+
+void PreferencesWindow::setUpToolBar() {
+    toolBar_->setContextMenuPolicy(Qt::PreventContextMenu);
+    auto* pages = new QActionGroup(this);
+    int page = 0;
+    for (const ToolItem& item : pageItems) {
+        const auto identifier = QString::fromLatin1(item.identifier);
+        toolBar_->setCommand(identifier, [this, shown = ++page] { goView(shown); });
+        QAction* action = toolBar_->action(identifier);
+        action->setCheckable(true);
+        pages->addAction(action);
+    }
+    toolBar_->rebuild();
+    addToolBar(toolBar_);
+}
+
+void PreferencesWindow::goView(int page) {
+    page_ = page;
+    const auto place = static_cast<std::size_t>(page - 1);
+    QWidget* shown = pages_[place];
+    stack_->setCurrentWidget(blank_);
+    // Only the page to be shown has a say in the window's size.
+    for (QWidget* each : pages_) {
+        const auto policy = each == shown ? QSizePolicy::Preferred : QSizePolicy::Ignored;
+        each->setSizePolicy(policy, policy);
+    }
+    // The layouts above the page learn of it only later by themselves.
+    stack_->updateGeometry();
+    centralWidget()->layout()->activate();
+    centralWidget()->updateGeometry();
+    layout()->activate();
+    resize(sizeHint());
+    stack_->setCurrentWidget(shown);
+    QAction* action = toolBar_->action(QString::fromLatin1(pageItems[place].identifier));
+    action->setChecked(true);
+    setWindowTitle(textWith("Preferences", "Window title", QStringLiteral("error !"), action->text()));
+    updateUI();
+}
+
+PreferenceControl& PreferencesWindow::control(const char* key) {
+    const auto row = std::find_if(rows_.begin(), rows_.end(), [&](const Row& each) { return isNamed(each.key, key); });
+    if (row == rows_.end()) {
+        qFatal("There is no setting %s", key);
+    }
+    return *row->control;
+}
+
+void PreferencesWindow::load(const Row& row) {
+    if (row.key.kept) {
+        row.control->setValue(storedValue(desktop_.preferences, row.key));
+    }
+}
+
+void PreferencesWindow::savePrefs() {
+    {
+        const Preferences::Together together(desktop_.preferences);
+        for (const PreferenceKey& key : preferenceKeys()) {
+            if (key.kept) {
+                storeValue(desktop_.preferences, key, control(key.key).value());
+            }
+        }
+    }
+    tellStoreTrouble();
+}
+
+void PreferencesWindow::tellStoreTrouble() {
+    const auto written = desktop_.preferences.synchronize();
+    // Once is enough: the settings hold for this session all the same.
+    if (!written && !storeTroubleTold_) {
+        storeTroubleTold_ = true;
+        desktop_.alerts.fail(written.error());
+    }
+}
+
+void PreferencesWindow::storeFrom(std::initializer_list<const char*> keys) {
+    const Preferences::Together together(desktop_.preferences);
+    for (const Row& row : rows_) {
+        if (std::any_of(keys.begin(), keys.end(), [&](const char* key) { return isNamed(row.key, key); })) {
+            storeValue(desktop_.preferences, row.key, row.control->value());
+        }
+    }
+}
+
+void PreferencesWindow::resetPreferences() {
+    for (const Row& row : rows_) {
+        if (row.key.kept) {
+            row.control->setValue(resetValue(row.key));
+        }
+    }
+    savePrefs();
+}
+
+void PreferencesWindow::resetByUser() {
+    desktop_.alerts.beep();
+    if (desktop_.alerts.ask(text("Preferences", "Reset question"),
+                            {text("Preferences", "Reset answer"), text("Main", "Cancel")}) == 0) {
+        resetPreferences();
+        updateColumnsTableViewNotification();
+        updateInterface();
+    }
+}
+
+void PreferencesWindow::updateUI() {
+    for (const Row& row : rows_) {
+        if (row.key.enabledBy) {
+            const bool enabled = control(row.key.enabledBy).value().toBool();
+            row.control->widget()->setEnabled(enabled);
+            for (QWidget* companion : row.companions) {
+                companion->setEnabled(enabled);
+            }
+        }
+        if (row.key.notice == PreferenceNotice::deco || row.key.notice == PreferenceNotice::rebreather) {
+            load(row);
+        }
+    }
+    const bool usUnits = control("us units").value().toBool();
+    temperatureUnit_->setText(usUnits ? text("Carnet", "Degree Farenheit") : text("Carnet", "Degree Celsius"));
+}
+
+void PreferencesWindow::edited(const PreferenceKey& key) {
+    if (key.kept) {
+        savePrefs();
+        tell(key.notice);
+    }
+}
+
+void PreferencesWindow::tell(PreferenceNotice notice) {
+    switch (notice) {
+        case PreferenceNotice::none:
+            return;
+        case PreferenceNotice::tableView:
+            return updateTableViewNotification();
+        case PreferenceNotice::columns:
+            return updateColumnsTableViewNotification();
+        case PreferenceNotice::editDive:
+            return updateEditDiveNotification();
+        case PreferenceNotice::profile:
+            return updateProfileNotification();
+        case PreferenceNotice::deco:
+            return updateDecoNotification();
+        case PreferenceNotice::rebreather:
+            return updateRebreatherNotification();
+        case PreferenceNotice::all:
+            return updateInterface();
+    }
+}
+
+void PreferencesWindow::post(const char* name) {
+    posting_ = true;
+    desktop_.notifications.post(QString::fromLatin1(name));
+    posting_ = false;
+}
+
+void PreferencesWindow::updateTableViewNotification() {
+    post("updateTableView");
+    updateUI();
+}
+
+void PreferencesWindow::updateColumnsTableViewNotification() {
+    post("updateColumnsTableView");
+}
+
+void PreferencesWindow::updateEditDiveNotification() {
+    post("updateEditDive");
+    updateUI();
+}
+
+void PreferencesWindow::updateProfileNotification() {
+    post("profile");
+    updateUI();
+}
+
+void PreferencesWindow::updateDecoNotification() {
+    post("updateDeco");
+    storeFrom({"stop interval", "low GF", "high GF"});
+    updateUI();
+}
+
+void PreferencesWindow::updateRebreatherNotification() {
+    post("updateRebreather");
+    storeFrom({"cell life"});
+    updateUI();
+}
+
+void PreferencesWindow::updateInterface() {
+    updateUI();
+    updateTableViewNotification();
+    updateProfileNotification();
+    updateEditDiveNotification();
+    updateDecoNotification();
+    updateRebreatherNotification();
+}
+
+}  // namespace tavrel

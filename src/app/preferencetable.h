@@ -1,0 +1,62 @@
+#pragma once
+
+#include "platform/preferences.h"
+#include "platform/texts.h"
+
+#include <QColor>
+#include <QVariant>
+
+#include <array>
+#include <span>
+#include <variant>
+
+namespace tavrel {
+
+/// How a setting is shown and stored.
+enum class PreferenceKind {
+    onOff,    ///< a switch, stored as 0 or 1
+    number,   ///< a field, stored as a number; an empty field as an empty text
+    opacity,  ///< a number from 0 to 1
+    text,     ///< a field, stored as a text
+    popUp,    ///< a menu, stored as its tag
+    color,    ///< a well, stored as an archived colour
+};
+
+/// What a change of a setting tells the open documents; named after the notification actions.
+enum class PreferenceNotice { none, tableView, columns, editDive, profile, deco, rebreather, all };
+
+/// Calibrated RGB, each part from 0 to 1, opaque.
+struct Rgb {
+    float red, green, blue;
+    QColor color() const { return QColor::fromRgbF(red, green, blue); }
+};
+
+using ResetValue = std::variant<bool, int, double, const char*, Rgb>;
+
+/// A setting: its key, its control, the value that a reset gives it, the page and group it stands in, what a change of
+/// it tells, its words, and the switch that has to be on for it to be of use.
+struct PreferenceKey {
+    const char* key;
+    const char* control;
+    ResetValue reset;
+    PreferenceKind kind;
+    int page;  ///< from 1
+    PreferenceNotice notice;
+    TextKey group;
+    TextKey label;
+    TextKey unit = {};
+    const char* enabledBy = nullptr;
+    std::span<const TextKey> choices = {};  ///< of a pop-up; the tag is the place
+    bool kept = true;                       ///< false: its switch neither shows nor stores anything
+};
+
+/// The settings in the order in which they are stored.
+std::span<const PreferenceKey> preferenceKeys();
+
+/// The value that a control shows: bool, text, int, double or colour by kind. A number that was never stored is an
+/// empty text, a colour that was never stored is the one a reset gives.
+QVariant storedValue(const Preferences& preferences, const PreferenceKey& key);
+QVariant resetValue(const PreferenceKey& key);
+void storeValue(Preferences& preferences, const PreferenceKey& key, const QVariant& value);
+
+}  // namespace tavrel

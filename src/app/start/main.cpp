@@ -1,0 +1,140 @@
+#include "app/appdelegate.h"
+#include "app/instanceserver.h"
+#include "app/mydocumentcontroller.h"
+#include "app/tavreldocuments.h"
+#include "app/windowmenus.h"
+#include "platform/clock.h"
+#include "platform/defaults.h"
+#include "platform/notificationcentre.h"
+#include "platform/picklists.h"
+#include "platform/preferences.h"
+#include "platform/ui/bringtofront.h"
+#include "platform/ui/dialogalerts.h"
+#include "platform/ui/filedialogs.h"
+#include "platform/ui/icons.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFileInfo>
+#include <QSessionManager>
+
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+using namespace tavrel;
+
+constexpr int wrongUsage = 2;
+
+void describe(QCommandLineParser& parser) {
+    parser.setApplicationDescription(text("Main", "Command line description"));
+    parser.addPositionalArgument(QStringLiteral("FILE"), text("Main", "Command line files"), QStringLiteral("[FILE…]"));
+    parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, text("Main", "Command line help")});
+    parser.addOption({{QStringLiteral("v"), QStringLiteral("version")}, text("Main", "Command line version")});
+}
+
+void print(std::FILE* out, const QString& words) {
+    std::fputs(words.toLocal8Bit().constData(), out);
+}
+
+/// --help and --version are answered without a display.
+bool answersWithoutWindows(int argc, char** argv) {
+    QStringList arguments;
+    for (int place = 0; place < argc; ++place) {
+        arguments.append(QString::fromLocal8Bit(argv[place]));
+    }
+    const auto has = [&](const char* option) { return arguments.contains(QLatin1StringView(option)); };
+    if (has("--version") || has("-v")) {
+        print(stdout, QStringLiteral("tavrel %1\n").arg(QStringLiteral(TAVREL_VERSION)));
+        return true;
+    }
+    if (has("--help") || has("-h")) {
+        const QCoreApplication application(argc, argv);
+        setTextLanguage();
+        QCommandLineParser parser;
+        describe(parser);
+        print(stdout, parser.helpText());
+        return true;
+    }
+    return false;
+}
+
+void nameApplication() {
+    QApplication::setApplicationName(QStringLiteral("tavrel"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Tavrel"));
+    QApplication::setApplicationVersion(QStringLiteral(TAVREL_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("tavrel"));
+    QApplication::setWindowIcon(iconNamed(QStringLiteral("tavrel")));
+}
+
+/// The files of the command line as absolute paths, for they may be opened by a program started elsewhere.
+QStringList absolutePaths(const QStringList& files) {
+    QStringList paths;
+    for (const QString& file : files) {
+        paths.append(QFileInfo(file).absoluteFilePath());
+    }
+    return paths;
+}
+
+void openHandedOver(MyDocumentController& documents, const QStringList& files) {
+    const QList<DocumentWindow*> windows = documents.windows();
+    if (!files.isEmpty()) {
+        documents.openFiles(files);
+    } else if (windows.isEmpty()) {
+        documents.applicationOpenUntitledFile();
+    } else {
+        bringToFront(windows.back());
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (answersWithoutWindows(argc, argv)) {
+        return 0;
+    }
+    QApplication application(argc, argv);
+    setTextLanguage();
+    nameApplication();
+    QCommandLineParser parser;
+    describe(parser);
+    if (!parser.parse(QApplication::arguments())) {
+        print(stderr, parser.errorText() + u'\n');
+        return wrongUsage;
+    }
+    const QStringList files = absolutePaths(parser.positionalArguments());
+    InstanceServer instances;
+    if (instances.handOver(files)) {
+        return 0;
+    }
+    instances.listen();
+
+    Preferences preferences;
+    PickLists pickLists(preferences);
+    startDesktop(preferences, pickLists);
+    NotificationCentre notifications;
+    DialogAlerts alerts;
+    const Clock clock;
+    Desktop desktop{preferences, notifications, pickLists, alerts, clock};
+    SystemFileDialogs fileDialogs;
+    MyDocumentController documents(desktop, fileDialogs, tavrelDocuments(fileDialogs));
+    AppDelegate delegate(desktop);
+    QObject::connect(&documents, &MyDocumentController::windowOpened, &documents,
+                     [&](DocumentWindow* window) { new WindowMenus(documents, delegate, *window); });
+    QObject::connect(&instances, &InstanceServer::handedOver, &documents,
+                     [&](const QStringList& others) { openHandedOver(documents, others); });
+    // Leaving the session asks as closing does.
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &documents, [&](QSessionManager& session) {
+        if (session.allowsInteraction() && !documents.mayQuit()) {
+            session.cancel();
+        }
+    });
+
+    if (files.isEmpty()) {
+        documents.applicationOpenUntitledFile();
+    } else {
+        documents.launch(files);
+    }
+    return QApplication::exec();
+}

@@ -1,0 +1,264 @@
+#include "app/preferenceswindow.h"
+
+#include "app/colorwell.h"
+#include "platform/defaults.h"
+#include "platform/ui/customtoolbar.h"
+#include "support/testdesktop.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace tavrel {
+
+namespace {
+
+class PreferencesTest : public testing::Test {
+protected:
+    PreferencesTest() {
+        for (const char* name : {"updateTableView", "updateColumnsTableView", "updateEditDive", "profile", "updateDeco",
+                                 "updateRebreather"}) {
+            subscriptions_.push_back(desktop.notifications.subscribe(QString::fromLatin1(name), [this, name] {
+                posted.append(QString::fromLatin1(name));
+                intervalWhenPosted = desktop.preferences.string(QStringLiteral("stop interval"));
+            }));
+        }
+    }
+
+    template <class Widget>
+    Widget& find(const char* name) {
+        auto* widget = window().findChild<Widget*>(QString::fromLatin1(name));
+        EXPECT_TRUE(widget) << name;
+        return *widget;
+    }
+    void type(const char* name, const char* words) {
+        auto& field = find<QLineEdit>(name);
+        field.selectAll();
+        QTest::keyClicks(&field, QString::fromLatin1(words));
+        QTest::keyClick(&field, Qt::Key_Return);
+    }
+    PreferencesWindow& window() {
+        if (!window_) {
+            window_ = std::make_unique<PreferencesWindow>(desktop.desktop());
+        }
+        return *window_;
+    }
+    /// The store as another program reads it.
+    std::unique_ptr<Preferences> readBack() {
+        auto store = std::make_unique<Preferences>(desktop.path(QStringLiteral("preferences.ini")));
+        registerDefaults(*store);
+        return store;
+    }
+    QStringList takePosted() { return std::exchange(posted, {}); }
+
+    TestDesktop desktop;
+    QStringList posted;
+    QString intervalWhenPosted;
+
+private:
+    std::vector<NotificationCentre::Subscription> subscriptions_;
+    std::unique_ptr<PreferencesWindow> window_;
+};
+
+TEST_F(PreferencesTest, resetGivesEverySettingItsValueAndStoresIt) {
+    desktop.preferences.set(QStringLiteral("column_epave"), true);
+    window().resetPreferences();
+    EXPECT_TRUE(takePosted().isEmpty());
+    const auto store = readBack();
+    const QString on = QStringLiteral("1");
+    const QString off = QStringLiteral("0");
+    const std::pair<const char*, QString> texts[] = {
+        {"tank volume", QStringLiteral("15")},
+        {"tank pressure", QStringLiteral("230")},
+        {"us units", off},
+        {"display units", on},
+        {"depth time in color", on},
+        {"color item", off},
+        {"coloured text", QStringLiteral("")},
+        {"coloured theme", off},
+        {"low temperature in color", off},
+        {"low temperature value", QStringLiteral("")},
+        {"mix in color", on},
+        {"foreign in color", on},
+        {"country code", QStringLiteral("FRA")},
+        {"column numero", on},
+        {"column visibilite", on},
+        {"column_epave", on},
+        {"column gaz", off},
+        {"column scaph", off},
+        {"alpha background color", QStringLiteral("0.2")},
+        {"alpha fill color", QStringLiteral("0.4")},
+        {"fill plot", on},
+        {"gradient yes", on},
+        {"x minor ticks", on},
+        {"y minor ticks", on},
+        {"dashed lines", on},
+        {"ppO2 line", off},
+        {"stop interval", QStringLiteral("3")},
+        {"low GF", QStringLiteral("0")},
+        {"high GF", QStringLiteral("0")},
+        {"cell life", QStringLiteral("18")},
+    };
+    for (const auto& [key, value] : texts) {
+        EXPECT_TRUE(store->isStored(QString::fromLatin1(key))) << key;
+        EXPECT_EQ(store->string(QString::fromLatin1(key)), value) << key;
+    }
+    const std::pair<const char*, Rgb> colors[] = {
+        {"depth color", {0.5F, 0, 0.5F}},     {"time color", {0, 0, 0.6F}},
+        {"low temperature color", {0, 0, 1}}, {"foreign color", {0.725F, 1, 0.674F}},
+        {"plot color", {1, 0.5F, 0}},         {"background color", {0.855F, 0.49F, 0.149F}},
+        {"fill color", {0.1F, 0.1F, 1}},      {"gradient lines color", {0.702F, 0.702F, 0.702F}},
+    };
+    for (const auto& [key, value] : colors) {
+        EXPECT_EQ(store->color(QString::fromLatin1(key)).name(), value.color().name()) << key;
+    }
+    // Keys without a control stay as they are registered; the interval's other spelling is one of them.
+    EXPECT_FALSE(store->isStored(QStringLiteral("stop_interval")));
+    EXPECT_FALSE(store->isStored(QStringLiteral("ASC color")));
+    EXPECT_FALSE(store->isStored(QStringLiteral("pense bete")));
+}
+
+TEST_F(PreferencesTest, everyChangeIsStoredAndTellsItsFollowers) {
+    desktop.preferences.set(QStringLiteral("column site"), true);
+    desktop.preferences.set(QStringLiteral("column_epave"), true);
+    EXPECT_TRUE(find<QCheckBox>("siteColumnSwitch").isChecked());
+    EXPECT_FALSE(find<QCheckBox>("epaveColumnSwitch").isChecked());
+
+    find<QCheckBox>("siteColumnSwitch").click();
+    EXPECT_EQ(takePosted(), QStringList{QStringLiteral("updateColumnsTableView")});
+    find<QCheckBox>("epaveColumnSwitch").click();
+    find<QCheckBox>("epaveColumnSwitch").click();
+    EXPECT_TRUE(takePosted().isEmpty());
+    find<QCheckBox>("mixInColorSwitch").click();
+    EXPECT_EQ(takePosted(), QStringList{QStringLiteral("updateTableView")});
+    find<QCheckBox>("dashedLinesSwitch").click();
+    EXPECT_EQ(takePosted(), QStringList{QStringLiteral("profile")});
+    type("stopIntervalField", "5");
+    EXPECT_EQ(takePosted(), QStringList{QStringLiteral("updateDeco")});
+    EXPECT_EQ(intervalWhenPosted, u"5");
+    type("cellLifeField", "24");
+    EXPECT_EQ(takePosted(), QStringList{QStringLiteral("updateRebreather")});
+    find<QCheckBox>("lowTemperatureSwitch").click();
+    type("tempValueField", "x-1,5");
+    type("volumeBlocField", "12");
+    takePosted();
+    find<QComboBox>("themeInColorPopUp").setCurrentIndex(2);
+    Q_EMIT find<QComboBox>("themeInColorPopUp").activated(2);
+    auto& well = find<ColorWell>("fillColorWell");
+    well.setChooser([](QWidget*, const QColor&) { return std::nullopt; });
+    well.click();
+    EXPECT_EQ(takePosted(), QStringList{QStringLiteral("updateTableView")});
+    well.setChooser([](QWidget*, const QColor&) { return QColor(10, 20, 30); });
+    well.click();
+    EXPECT_EQ(takePosted(), QStringList{QStringLiteral("profile")});
+    find<QCheckBox>("usUnitsSwitch").click();
+    EXPECT_EQ(takePosted().join(u' '), u"updateTableView profile updateEditDive updateDeco updateRebreather");
+
+    const auto store = readBack();
+    EXPECT_FALSE(store->boolean(QStringLiteral("column site")));
+    EXPECT_TRUE(store->boolean(QStringLiteral("column_epave")));
+    EXPECT_TRUE(store->boolean(QStringLiteral("mix in color")));
+    EXPECT_EQ(store->integer(QStringLiteral("stop interval")), 5);
+    EXPECT_EQ(store->integer(QStringLiteral("cell life")), 24);
+    EXPECT_DOUBLE_EQ(store->real(QStringLiteral("low temperature value")), -1.5);
+    EXPECT_EQ(store->integer(QStringLiteral("tank volume")), 12);
+    EXPECT_EQ(store->integer(QStringLiteral("coloured theme")), 2);
+    EXPECT_EQ(store->color(QStringLiteral("fill color")).name(), QColor(10, 20, 30).name());
+    EXPECT_TRUE(store->boolean(QStringLiteral("us units")));
+    // What has no control of its own in the change goes along with it: the defaults become the user's.
+    EXPECT_EQ(store->string(QStringLiteral("alpha fill color")), u"0.5");
+
+    // A second window shows what was stored.
+    PreferencesWindow second(desktop.desktop());
+    for (const PreferenceKey& key : preferenceKeys()) {
+        const QString typed = window().control(key.key).value().toString().replace(u',', u'.');
+        EXPECT_EQ(second.control(key.key).value().toString(), typed) << key.key;
+    }
+}
+
+TEST_F(PreferencesTest, decoAndRebreatherStoreAfterTheyTold) {
+    window().savePrefs();
+    window().control("stop interval").setValue(QStringLiteral("4"));
+    window().control("low GF").setValue(QStringLiteral("30"));
+    window().control("cell life").setValue(QStringLiteral("20"));
+    window().updateDecoNotification();
+    EXPECT_EQ(intervalWhenPosted, QString());
+    EXPECT_EQ(desktop.preferences.integer(QStringLiteral("stop interval")), 4);
+    EXPECT_EQ(desktop.preferences.integer(QStringLiteral("low GF")), 30);
+    // The window showed the stored values again, which took the unsaved lifetime with it.
+    EXPECT_EQ(window().control("cell life").value().toString(), QString());
+    window().control("cell life").setValue(QStringLiteral("20"));
+    window().updateRebreatherNotification();
+    EXPECT_EQ(desktop.preferences.integer(QStringLiteral("cell life")), 20);
+}
+
+TEST_F(PreferencesTest, switchesEnableWhatDependsOnThem) {
+    const struct {
+        const char* onOff;
+        QStringList dependents;
+    } cases[] = {
+        {"tableColorSwitch", {QStringLiteral("profondeurWell"), QStringLiteral("dureeWell")}},
+        {"itemColorSwitch", {QStringLiteral("textInColorField"), QStringLiteral("themeInColorPopUp")}},
+        {"lowTemperatureSwitch", {QStringLiteral("tempValueField"), QStringLiteral("lowTemperatureWell")}},
+        {"fillSwitch", {QStringLiteral("fillColorWell"), QStringLiteral("alphaFillField")}},
+        {"gradientYesSwitch", {QStringLiteral("gradientLinesColorWell")}},
+    };
+    for (const auto& it : cases) {
+        auto& box = find<QCheckBox>(it.onOff);
+        for (int turn = 0; turn < 2; ++turn) {
+            box.click();
+            for (const QString& name : it.dependents) {
+                EXPECT_EQ(find<QWidget>(name.toLatin1()).isEnabled(), box.isChecked()) << name.toStdString();
+            }
+        }
+    }
+    EXPECT_EQ(find<QLabel>("temperatureUnit").text(), text("Carnet", "Degree Celsius"));
+    find<QCheckBox>("usUnitsSwitch").click();
+    EXPECT_EQ(find<QLabel>("temperatureUnit").text(), text("Carnet", "Degree Farenheit"));
+}
+
+TEST_F(PreferencesTest, unreadableValuesShowTheDefaults) {
+    for (const char* key : {"alpha fill color", "fill plot", "plot color", "tank volume", "coloured theme"}) {
+        desktop.preferences.set(QString::fromLatin1(key), QStringList{QStringLiteral("a"), QStringLiteral("b")});
+    }
+    EXPECT_EQ(window().control("alpha fill color").value().toDouble(), 0.5);
+    EXPECT_TRUE(window().control("fill plot").value().toBool());
+    EXPECT_EQ(window().control("plot color").value().value<QColor>().name(), u"#ff0000");
+    EXPECT_EQ(window().control("tank volume").value().toString(), QString());
+    EXPECT_EQ(window().control("coloured theme").value().toInt(), 0);
+}
+
+TEST_F(PreferencesTest, pagesAndResetButton) {
+    auto* bar = window().findChild<CustomToolBar*>(QStringLiteral("prefsToolbar"));
+    ASSERT_TRUE(bar);
+    EXPECT_EQ(bar->arrangement().join(u' '), u"general carnet affichage profil deco rebreather");
+    window().show();
+    window().move(20, 30);
+    const int top = window().y();
+    int page = 0;
+    for (QAction* action : bar->actions()) {
+        action->trigger();
+        EXPECT_EQ(window().page(), ++page);
+        EXPECT_TRUE(action->isChecked());
+        EXPECT_EQ(window().y(), top);
+    }
+    // A logbook changed its columns.
+    desktop.preferences.set(QStringLiteral("column gaz"), true);
+    desktop.notifications.post(QStringLiteral("updateColumnsTableView"));
+    EXPECT_TRUE(find<QCheckBox>("gazColumnSwitch").isChecked());
+    takePosted();
+    desktop.alerts.answerNext(1);
+    find<QPushButton>("resetPreferences").click();
+    EXPECT_TRUE(takePosted().isEmpty());
+    desktop.alerts.answerNext(0);
+    find<QPushButton>("resetPreferences").click();
+    EXPECT_FALSE(find<QCheckBox>("gazColumnSwitch").isChecked());
+    EXPECT_EQ(takePosted().size(), 6);
+}
+
+}  // namespace
+
+}  // namespace tavrel

@@ -1,0 +1,117 @@
+#include "app/appdelegate.h"
+#include "app/preferenceswindow.h"
+#include "app/tavreldocuments.h"
+#include "app/testapplication.h"
+#include "app/windowmenus.h"
+
+#include <QAbstractButton>
+#include <QFile>
+#include <QMenuBar>
+#include <QRegularExpression>
+#include <QTableView>
+#include <gtest/gtest.h>
+
+namespace tavrel {
+
+namespace {
+
+/// The documents, windows and menus of the program as it is.
+class Program : public testing::Test {
+protected:
+    Program() : documents(desktop.desktop(), fileDialogs, tavrelDocuments(fileDialogs)), delegate(desktop.desktop()) {
+        QObject::connect(&documents, &MyDocumentController::windowOpened, &documents,
+                         [this](auto* window) { new WindowMenus(documents, delegate, *window); });
+    }
+    ~Program() override { setTextLanguage(QStringLiteral("en")); }
+
+    static QString contents(const char* file) {
+        QFile source(QStringLiteral(TAVREL_SOURCE_FOLDER "/") + QLatin1StringView(file));
+        EXPECT_TRUE(source.open(QIODevice::ReadOnly)) << file;
+        return QString::fromUtf8(source.readAll());
+    }
+
+    TestDesktop desktop;
+    QueuedFileDialogs fileDialogs;
+    MyDocumentController documents;
+    AppDelegate delegate;
+};
+
+/// Checks that no two actions of a menu share an access key, and none of the bar a shortcut.
+void expectOwnKeys(const QList<QAction*>& actions, QStringList& shortcuts) {
+    static const QRegularExpression accessKey(QStringLiteral("(?<!&)&([^&])"));
+    QString keys;
+    for (QAction* action : actions) {
+        const QString key = accessKey.match(action->text()).captured(1).toLower();
+        EXPECT_TRUE(action->isSeparator() || action->isCheckable() || !key.isEmpty()) << action->text().toStdString();
+        EXPECT_TRUE(key.isEmpty() || !keys.contains(key)) << action->text().toStdString();
+        keys += key;
+        for (const QKeySequence& shortcut : action->shortcuts()) {
+            EXPECT_FALSE(shortcuts.contains(shortcut.toString())) << action->text().toStdString();
+            shortcuts.append(shortcut.toString());
+        }
+        if (action->menu()) {
+            expectOwnKeys(action->menu()->actions(), shortcuts);
+        }
+    }
+}
+
+TEST_F(Program, menusHaveKeysOfTheirOwnInEveryLanguage) {
+    for (const char* language : {"en", "fr"}) {
+        setTextLanguage(QString::fromLatin1(language));
+        QStringList shortcuts;
+        expectOwnKeys(documents.newDocument()->menuBar()->actions(), shortcuts);
+        EXPECT_GT(shortcuts.size(), 15);
+    }
+}
+
+TEST_F(Program, importsExportsAndFollowsThePreferences) {
+    DocumentWindow* window = documents.openFile(QStringLiteral(TAVREL_SOURCE_FOLDER "/samples/sample.carnet"));
+    ASSERT_TRUE(window);
+    auto& carnet = static_cast<Carnet&>(window->document());
+    const int before = carnet.count();
+    fileDialogs.open = {QStringLiteral(TAVREL_SOURCE_FOLDER "/samples/sample-handheld.xml")};
+    window->importActions().back()->trigger();
+    EXPECT_GT(carnet.count(), before);
+    window->findChild<QAction*>(QStringLiteral("undo"))->trigger();
+    EXPECT_EQ(carnet.count(), before);
+
+    for (int format = 0; format < 6; ++format) {
+        const QString file = desktop.path(QStringLiteral("export %1").arg(format));
+        fileDialogs.save = {{file, format}};
+        EXPECT_TRUE(documents.exportDocument(*window)) << format;
+        EXPECT_GT(QFile(file).size(), 1000) << format;
+    }
+    EXPECT_EQ(fileDialogs.offered.size(), 6);
+
+    const auto* table = window->findChild<QTableView*>();
+    const auto shownDepth = [&] {
+        for (int column = 0; column < table->model()->columnCount(); ++column) {
+            if (table->model()->headerData(column, Qt::Horizontal).toString() == text("Carnet", "Column depth")) {
+                return table->model()->index(0, column).data().toString();
+            }
+        }
+        return QString();
+    };
+    EXPECT_TRUE(shownDepth().endsWith(u" m"));
+    PreferencesWindow preferences(desktop.desktop());
+    static_cast<QAbstractButton*>(preferences.control("us units").widget())->click();
+    EXPECT_TRUE(shownDepth().endsWith(u" ft"));
+    static_cast<QAbstractButton*>(preferences.control("display units").widget())->click();
+    EXPECT_FALSE(shownDepth().endsWith(u"t"));
+}
+
+TEST_F(Program, isKnownToTheDesktopForEveryTypeOfDocument) {
+    const QString entry = contents("resources/desktop/tavrel.desktop");
+    const QString package = contents("resources/desktop/tavrel.xml");
+    for (const DocumentType& type : documents.types()) {
+        const QString mime = QStringLiteral("application/x-tavrel-") + QLatin1StringView(type.extension);
+        EXPECT_TRUE(entry.contains(mime + u';')) << type.extension;
+        EXPECT_TRUE(package.contains(QStringLiteral("<mime-type type=\"%1\">").arg(mime))) << type.extension;
+        EXPECT_TRUE(package.contains(QStringLiteral("<glob pattern=\"*.%1\"/>").arg(QLatin1StringView(type.extension))))
+            << type.extension;
+    }
+}
+
+}  // namespace
+
+}  // namespace tavrel

@@ -1,0 +1,44 @@
+#include "app/testapplication.h"
+
+#include <gtest/gtest.h>
+
+namespace tavrel {
+
+const RecordLayout<Coin>& Coin::layout() {
+    static const Item<Coin> items[] = {{"name", &Coin::name}};
+    static const RecordLayout<Coin> layout{"Coin", 1, items};
+    return layout;
+}
+
+DocumentTypes testDocumentTypes() {
+    const auto makeWindow = [](Document& document, Desktop& desktop) {
+        return std::make_unique<TestWindow>(document, desktop);
+    };
+    const auto produce = [](Carnet& carnet) -> Expected<QByteArray> { return QByteArray::number(carnet.count()); };
+    const ExportType counted{QStringLiteral("Counted"), produce};
+    const auto exports = [](Document&) {
+        return QList<ExportFormat>{{QStringLiteral("Counted"), QStringLiteral("txt")}};
+    };
+    return {{{"Main", "Carnet de plongee"},
+             TextKey("Main", "Carnet de plongee"),
+             "newCarnetDocumentMenuAction",
+             "carnet",
+             "Plongee",
+             [=](Desktop& desktop) { return std::make_unique<Carnet>(desktop, std::vector{counted}); },
+             makeWindow,
+             exports},
+            {literal("Budget"), TextKey("Main", "Materiel"), "newBudgetDocumentMenuAction", "budget", "Coin",
+             [](Desktop& desktop) { return std::make_unique<Purse>(desktop); }, makeWindow}};
+}
+
+QString TestApplication::savedLogbook(const QString& name, int dives) {
+    Carnet carnet(desktop());
+    for (int dive = 0; dive < dives; ++dive) {
+        carnet.addDive();
+    }
+    const QString file = path(name);
+    EXPECT_TRUE(carnet.saveAs(file));
+    return file;
+}
+
+}  // namespace tavrel

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "app/mydocumentcontroller.h"
+#include "logbook/carnet.h"
+#include "platform/ui/filedialogs.h"
+#include "support/testdesktop.h"
+
+#include <QCoreApplication>
+
+#include <deque>
+
+namespace tavrel {
+
+/// Answers with the names queued for it, as a user who chooses them; cancels when there are none.
+class QueuedFileDialogs : public FileDialogs {
+public:
+    QStringList filesToOpen(QWidget*, const QString&, const QList<FileFilter>& filters, bool) override {
+        offered = filters;
+        return open.empty() ? QStringList() : std::exchange(open, {});
+    }
+    std::optional<FileToSave> fileToSave(QWidget*, const QString&, const QString& proposal,
+                                         const QList<FileFilter>& filters) override {
+        proposed = proposal;
+        offered = filters;
+        if (save.empty()) {
+            return std::nullopt;
+        }
+        const FileToSave next = save.front();
+        save.pop_front();
+        return next;
+    }
+
+    QStringList open;
+    std::deque<FileToSave> save;
+    QString proposed;
+    QList<FileFilter> offered;
+};
+
+/// A document's window with one more window that edits.
+class TestWindow : public DocumentWindow {
+public:
+    using DocumentWindow::DocumentWindow;
+
+    void printDocument() override { ++prints; }
+    QString ownMenuTitle() const override { return QStringLiteral("Dive"); }
+    QList<QWidget*> furtherWindows() override { return {&further}; }
+    void commitEditing() override { ++commits; }
+
+    QWidget further;
+    int prints = 0;
+    int commits = 0;
+};
+
+/// A second kind of document, with records of its own.
+struct Coin {
+    QString name = QStringLiteral("");
+    static const RecordLayout<Coin>& layout();
+};
+
+class Purse : public ListDocument<Coin> {
+public:
+    explicit Purse(Desktop& desktop) : ListDocument(desktop) { setType(QStringLiteral("Budget")); }
+    Expected<QByteArray> dataRepresentationOfType(const QString&) override { return archive(); }
+    Expected<void> loadDataRepresentation(QByteArrayView data, const QString&) override {
+        return unarchive(data).map([this](List list) { replaceList(std::move(list)); });
+    }
+};
+
+/// The logbook, exported to one format, and the purse, whose type name is the same in every language.
+DocumentTypes testDocumentTypes();
+
+/// The document controller of an application with nothing open.
+class TestApplication : public TestDesktop {
+public:
+    TestApplication() : documents(desktop(), fileDialogs, testDocumentTypes()) {}
+
+    TestWindow* frontWindow() { return static_cast<TestWindow*>(documents.windows().back()); }
+    Carnet& frontCarnet() { return static_cast<Carnet&>(frontWindow()->document()); }
+    /// A logbook file of the test's folder with that many dives.
+    QString savedLogbook(const QString& name, int dives);
+
+    QueuedFileDialogs fileDialogs;
+    MyDocumentController documents;
+};
+
+}  // namespace tavrel
