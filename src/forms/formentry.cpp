@@ -52,8 +52,9 @@ std::optional<int> sliderTag(const Control& control, const QString& value) {
 }
 
 std::optional<Date> dateOf(const QString& value) {
-    const QDateTime moment = value.contains(u'T') ? QDateTime::fromString(value, Qt::ISODateWithMs)
-                                                  : QDate::fromString(value, Qt::ISODate).startOfDay();
+    // A day is exactly ten characters long; what stands behind them would be passed over.
+    const QDate day = value.size() == 10 ? QDate::fromString(value, Qt::ISODate) : QDate();
+    const QDateTime moment = value.contains(u'T') ? QDateTime::fromString(value, Qt::ISODateWithMs) : day.startOfDay();
     return moment.isValid() ? std::optional(Date::fromDateTime(moment)) : std::nullopt;
 }
 

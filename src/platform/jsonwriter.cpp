@@ -18,7 +18,9 @@ void JsonWriter::appendReal(Real value) {
     std::array<char, 32> digits;
     const auto end = std::to_chars(digits.begin(), digits.end(), value).ptr;
     const std::string_view number(digits.data(), static_cast<std::size_t>(end - digits.data()));
-    if (std::isfinite(value)) {
+    if (value == 0 && std::signbit(value)) {
+        append("-0.0");  // "-0" is an integer to many readers, which have no zero below zero
+    } else if (std::isfinite(value)) {
         append(number);
     } else {
         separate();

@@ -131,6 +131,7 @@ TEST_F(CommandLine, endsWithTheReasonAndChangesNothing) {
         {"add a.carnet difficulte=6", 2, "difficulte"},
         {"add a.carnet nocturne=perhaps", 2, "perhaps"},
         {"add a.carnet date=2024-02-30", 2, "2024-02-30"},
+        {"add a.carnet date=2024-02-03x", 2, "2024-02-03x"},
         {"add a.carnet heure=25:00", 2, "25:00"},
         {"add a.carnet profilProfondeur=0,deep", 2, "deep"},
         {"add a.carnet ASC_Flag=0,,1", 2, "ASC_Flag"},
