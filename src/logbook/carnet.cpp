@@ -150,7 +150,7 @@ void Carnet::formIsStored(int row) {
 }
 
 void Carnet::storeEntries() {
-    if (hasEntries_ && showsSelectedDive_ && selectedRow() >= 0) {
+    if (hasEntries_ && formShowsSelectedDive()) {
         updateDive();
     }
 }
@@ -294,6 +294,7 @@ void Carnet::blankFields() {
     form_.blankFields();
     showsSelectedDive_ = false;
     hasEntries_ = false;
+    Q_EMIT stateChanged();
 }
 
 void Carnet::updateUI() {

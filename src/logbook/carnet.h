@@ -37,6 +37,8 @@ public:
     const DiveForm& form() const { return form_; }
     /// The row of the dive last loaded into the form; -1 when none.
     int currentIndex() const { return _currentIndex; }
+    /// Whether the form holds the dive of the selected row rather than a new one.
+    bool formShowsSelectedDive() const { return showsSelectedDive_ && selectedRow() >= 0; }
     const std::vector<ExportType>& exportTypes() const { return exportTypes_; }
 
     Expected<QByteArray> dataRepresentationOfType(const QString& type) override;

@@ -169,7 +169,7 @@ void DiveEditWindow::addShortcuts() {
 
 void DiveEditWindow::confirm() {
     finishEditing();
-    if (carnet_.selectedRow() >= 0) {
+    if (carnet_.formShowsSelectedDive()) {
         carnet_.updateDive();
     } else {
         carnet_.addDive();
@@ -265,9 +265,9 @@ void DiveEditWindow::updateState() {
     previous_->setEnabled(carnet_.canGoBack());
     next_->setEnabled(carnet_.canGoForward());
     toolBar_->validate();
-    const int row = carnet_.selectedRow();
-    status_->setText(row >= 0 ? textWith("Carnet", "Form of dive", QStringLiteral("error !"), row + 1, carnet_.count())
-                              : text("Carnet", "Form of new dive"));
+    status_->setText(carnet_.formShowsSelectedDive() ? textWith("Carnet", "Form of dive", QStringLiteral("error !"),
+                                                                carnet_.selectedRow() + 1, carnet_.count())
+                                                     : text("Carnet", "Form of new dive"));
 }
 
 void DiveEditWindow::closeEvent(QCloseEvent* event) {
