@@ -3,6 +3,7 @@
 #include "platform/texts.h"
 
 #include <QStringDecoder>
+#include <libxml/SAX2.h>
 #include <libxml/parser.h>
 #include <libxml/tree.h>
 
@@ -108,12 +109,18 @@ struct Reading {
     xmlParserCtxtPtr parser;
     Builder builder;
     std::size_t elements = 0;
+    std::size_t entityBytes = 0;
     bool cancelled = false;
     bool limit = false;
     QString firstError = {};
 };
 
 constexpr std::size_t elementsPerProgress = 16384;
+
+/// How many bytes of entities a file may have gone through: more than any that means well, few enough to be quick.
+std::size_t entityAllowance(std::size_t fileSize) {
+    return 1'000'000 + 5 * fileSize;
+}
 
 /// The reading of the file; null for the contents of an entity, which the parser only checks.
 Reading* reading(void* context) {
@@ -152,6 +159,35 @@ void characters(void* context, const xmlChar* text, int length) {
     }
 }
 
+/// The entity unless it ends the reading: its text counts at each reference, since the parser goes through it every
+/// time, if only to check it, and its own limits overlook a long entity that is named often.
+xmlEntityPtr counted(void* context, xmlEntityPtr entity, bool endless) {
+    auto* parser = static_cast<xmlParserCtxtPtr>(context);
+    auto& state = *static_cast<Reading*>(parser->_private);
+    state.entityBytes += static_cast<std::size_t>(std::max(0, entity->length));
+    if (!endless && state.entityBytes <= entityAllowance(state.size)) {
+        return entity;
+    }
+    state.limit = true;
+    xmlStopParser(parser);
+    return nullptr;
+}
+
+xmlEntityPtr entityNamed(void* context, const xmlChar* name) {
+    const xmlEntityPtr entity = xmlSAX2GetEntity(context, name);
+    const bool ownText = entity && entity->etype != XML_INTERNAL_PREDEFINED_ENTITY;
+    return ownText ? counted(context, entity, false) : entity;
+}
+
+/// Parameter entities, which the parser would expand, stay unresolved like the others. Those that name further ones
+/// end the reading: they serve to multiply each other, and libxml2 2.9 can loop for ever over them.
+xmlEntityPtr parameterEntityNamed(void* context, const xmlChar* name) {
+    if (const xmlEntityPtr entity = xmlSAX2GetParameterEntity(context, name)) {
+        counted(context, entity, xmlStrchr(entity->content, '%') != nullptr);
+    }
+    return nullptr;
+}
+
 void noteError(void* context, xmlErrorPtr error) {
     auto& state = *static_cast<Reading*>(static_cast<xmlParserCtxtPtr>(context)->_private);
     state.limit = state.limit || error->code == XML_ERR_ENTITY_LOOP || error->code == XML_ERR_NO_MEMORY;
@@ -171,6 +207,8 @@ void listen(xmlSAXHandler& events) {
     events.characters = characters;
     events.ignorableWhitespace = characters;
     events.cdataBlock = characters;
+    events.getEntity = entityNamed;
+    events.getParameterEntity = parameterEntityNamed;
     events.reference = nullptr;
     events.comment = nullptr;
     events.processingInstruction = nullptr;
