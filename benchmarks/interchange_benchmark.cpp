@@ -10,8 +10,8 @@
 
 #include <cmath>
 
-// 1,000 dives of 600 samples through every format, against what libxml2 alone takes to parse or serialise the same tree,
-// and against writing the bytes of a text export to a file.
+// 1,000 dives of 600 samples through every format, against what libxml2 alone takes to parse or serialise the same
+// tree, and against writing the bytes of a text export to a file.
 
 namespace tavrel {
 
@@ -33,8 +33,8 @@ Plongee benchmarkDive(int number) {
     for (int sample = 0; sample < sampleCount; ++sample) {
         dive.profilProfondeur.appendReal(20.0 * std::sin(3.1416 * sample / sampleCount) + number % 17);
         dive.PRESS_Data.appendReal(200.0 - 0.25 * sample);
-        for (const auto flags : {&Plongee::ASC_Flag, &Plongee::SLOW_Flag, &Plongee::SURF_Flag, &Plongee::CEIL_Flag,
-                                 &Plongee::GAZ_Flag}) {
+        for (const auto flags :
+             {&Plongee::ASC_Flag, &Plongee::SLOW_Flag, &Plongee::SURF_Flag, &Plongee::CEIL_Flag, &Plongee::GAZ_Flag}) {
             (dive.*flags).appendInteger(sample % 97 == 0 ? 1 : 0);
         }
     }
@@ -60,8 +60,9 @@ Logbook& logbook() {
 }
 
 QByteArray standardUddf() {
-    QByteArray file = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<uddf version=\"3.2.0\">\n  <profiledata>\n"
-                      "    <repetitiongroup>\n";
+    QByteArray file =
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<uddf version=\"3.2.0\">\n  <profiledata>\n"
+        "    <repetitiongroup>\n";
     for (int dive = 0; dive < diveCount; ++dive) {
         file += "      <dive>\n        <greatestdepth>31.4</greatestdepth>\n        <samples>\n";
         for (int sample = 0; sample < sampleCount; ++sample) {
@@ -104,7 +105,8 @@ void importUddf(benchmark::State& state) {
 
 void exportAgainstSerialising(benchmark::State& state, Expected<QByteArray> (*produce)(Carnet&)) {
     const QByteArray file = *produce(logbook().carnet);
-    xmlDocPtr tree = xmlReadMemory(file.constData(), static_cast<int>(file.size()), nullptr, nullptr, XML_PARSE_NOBLANKS);
+    xmlDocPtr tree =
+        xmlReadMemory(file.constData(), static_cast<int>(file.size()), nullptr, nullptr, XML_PARSE_NOBLANKS);
     againstReference(
         state, [&] { benchmark::DoNotOptimize(produce(logbook().carnet)); },
         [&] {
@@ -129,10 +131,22 @@ void exportText(benchmark::State& state, const char* type) {
 
 BENCHMARK(importUdcf)->Unit(benchmark::kMillisecond)->UseManualTime()->MinTime(3);
 BENCHMARK(importUddf)->Unit(benchmark::kMillisecond)->UseManualTime()->MinTime(3);
-BENCHMARK_CAPTURE(exportAgainstSerialising, udcf, exportUDCFFormat)->Unit(benchmark::kMillisecond)->UseManualTime()->MinTime(3);
-BENCHMARK_CAPTURE(exportAgainstSerialising, uddf, exportUDDFFormat)->Unit(benchmark::kMillisecond)->UseManualTime()->MinTime(3);
-BENCHMARK_CAPTURE(exportText, diveList, "Export Carnet CSV (Virgule)")->Unit(benchmark::kMillisecond)->UseManualTime()->MinTime(3);
-BENCHMARK_CAPTURE(exportText, profiles, "Export Profils CSV (Virgule)")->Unit(benchmark::kMillisecond)->UseManualTime()->MinTime(3);
+BENCHMARK_CAPTURE(exportAgainstSerialising, udcf, exportUDCFFormat)
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime()
+    ->MinTime(3);
+BENCHMARK_CAPTURE(exportAgainstSerialising, uddf, exportUDDFFormat)
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime()
+    ->MinTime(3);
+BENCHMARK_CAPTURE(exportText, diveList, "Export Carnet CSV (Virgule)")
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime()
+    ->MinTime(3);
+BENCHMARK_CAPTURE(exportText, profiles, "Export Profils CSV (Virgule)")
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime()
+    ->MinTime(3);
 
 }  // namespace
 

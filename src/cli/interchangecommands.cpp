@@ -75,33 +75,30 @@ void addInterchangeCommands(CLI::App& app, Console& console) {
         command->add_option("FILE", arguments->file, "The logbook")->required();
     };
 
-    CLI::App* import = app.add_subcommand(
+    CLI::App* importing = app.add_subcommand(
         "import",
         "Appends the dives of a file to a logbook. A dive that cannot be taken ends the import: the dives before it\n"
         "are kept and saved, the reason is told, and the exit code is 1.");
-    addFile(import);
-    import->add_option("SOURCE", arguments->other, "The file with the dives")->required();
-    import->add_option("--format", arguments->format, "What SOURCE is; told by its contents when not given")
+    addFile(importing);
+    importing->add_option("SOURCE", arguments->other, "The file with the dives")->required();
+    importing->add_option("--format", arguments->format, "What SOURCE is; told by its contents when not given")
         ->check(CLI::IsMember({"udcf", "uddf", "handheld"}));
-    import->callback([arguments, &console] {
-        withLogbook(*arguments, console,
-                    [&](Carnet& carnet) { return importInto(carnet, *arguments, console);
-});
-}  // namespace tavrel
-);
+    importing->callback([arguments, &console] {
+        withLogbook(*arguments, console, [&](Carnet& carnet) { return importInto(carnet, *arguments, console); });
+    });
 
-std::vector<std::string> formats;
-for (const LogbookExport& it : logbookExports()) {
-    formats.emplace_back(it.name);
-}
-CLI::App* exporting = app.add_subcommand(
-    "export", "Writes a logbook in another format; TARGET is written as a whole or, on a failure, not at all.");
-addFile(exporting);
-exporting->add_option("TARGET", arguments->other, "The file to write")->required();
-exporting->add_option("--format", arguments->format, "The format")->required()->check(CLI::IsMember(formats));
-exporting->callback([arguments, &console] {
-    withLogbook(*arguments, console, [&](Carnet& carnet) { return exportFrom(carnet, *arguments); });
-});
+    std::vector<std::string> formats;
+    for (const LogbookExport& it : logbookExports()) {
+        formats.emplace_back(it.name);
+    }
+    CLI::App* exporting = app.add_subcommand(
+        "export", "Writes a logbook in another format; TARGET is written as a whole or, on a failure, not at all.");
+    addFile(exporting);
+    exporting->add_option("TARGET", arguments->other, "The file to write")->required();
+    exporting->add_option("--format", arguments->format, "The format")->required()->check(CLI::IsMember(formats));
+    exporting->callback([arguments, &console] {
+        withLogbook(*arguments, console, [&](Carnet& carnet) { return exportFrom(carnet, *arguments); });
+    });
 }
 
 }  // namespace tavrel
