@@ -58,6 +58,9 @@ Expected<void> Document::saveAs(const QString& file) {
 }
 
 Expected<void> Document::exportAs(const QString& file, const QString& type) {
+    if (type != type_ && !file_.isEmpty() && QFileInfo(file) == QFileInfo(file_)) {
+        return tl::unexpected(savingFailure(file, {text("Main", "Export onto document"), {}}));
+    }
     const auto bytes = dataRepresentationOfType(type);
     if (!bytes) {
         return tl::unexpected(savingFailure(file, bytes.error()));

@@ -52,7 +52,8 @@ public:
     /// failure the document, its change state and the file on the disk are as they were.
     Expected<void> save();
     Expected<void> saveAs(const QString& file);
-    /// Writes another type (an export) beside; the document's file and change state stay.
+    /// Writes another type (an export) beside; the document's file and change state stay. An export loses what it does
+    /// not hold, so it never takes the place of the document's own file.
     Expected<void> exportAs(const QString& file, const QString& type);
     /// Reads its file again, dropping all changes; a failure without a file.
     Expected<void> revert();

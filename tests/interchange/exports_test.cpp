@@ -68,33 +68,22 @@ protected:
     Carnet carnet{desktop.desktop(), logbookExportTypes()};
 };
 
-constexpr const char* wreckSamples = R"(
-        <SAMPLES>
-          <DELTA>5.0</DELTA>
-          <SWITCH>1</SWITCH>
-          <D>0.0</D>
-          <D>0.2</D>
-          <D>18.8</D>
-          <ALARM>deco</ALARM>
-          <ALARM>ascent</ALARM>
-          <ALARM>surface</ALARM>
-          <ALARM>error</ALARM>
-          <D>6.0</D>
-          <ALARM>surface</ALARM>
-          <D>0.0</D>
-        </SAMPLES>)";
-
-std::string wreckElement(const char* date, const char* time, const char* const (&parts)[5]) {
-    const auto part = [&](int index, const char* text) {
-        return "          <" + std::string(parts[index]) + ">" + text + "</" + parts[index] + ">\n";
-    };
-    std::string indented =
-        "    <DIVE>\n      <PLACE>Étretat - A &amp; &lt;B&gt;</PLACE>\n      <" + std::string(date) + ">\n";
-    for (const auto& [index, text] : {std::pair(0, "2014"), {1, "07"}, {2, "05"}}) {
-        indented += part(index, text).substr(2);
-    }
-    indented += std::string("      </") + date + ">\n      <" + time + ">\n" + part(3, "09").substr(2) +
-                part(4, "05").substr(2) + "      </" + time + ">" + R"(
+/// The dives of both formats; UDDF writes the names of date and time in lower case.
+const std::string wreckGroup = R"(  <ADDINFO>
+    <TOTALDIVES>1</TOTALDIVES>
+  </ADDINFO>
+  <REPGROUP>
+    <DIVE>
+      <PLACE>Étretat - A &amp; &lt;B&gt;</PLACE>
+      <DATE>
+        <YEAR>2014</YEAR>
+        <MONTH>07</MONTH>
+        <DAY>05</DAY>
+      </DATE>
+      <TIME>
+        <HOUR>09</HOUR>
+        <MINUTE>05</MINUTE>
+      </TIME>
       <MAXDEPTH>18</MAXDEPTH>
       <DIVETIME>42</DIVETIME>
       <SURFACEINTERVAL>infinity</SURFACEINTERVAL>
@@ -113,16 +102,32 @@ std::string wreckElement(const char* date, const char* time, const char* const (
           <HE>0.00</HE>
         </MIX>
       </GASES>
-      <DELTAMODE/>)";
-    for (const char* line = wreckSamples; *line; ++line) {
-        if (*line == '\n') {
-            indented += '\n';
-            line += 2;  // two levels less than in the constant above
-        } else {
-            indented += *line;
-        }
+      <DELTAMODE/>
+      <SAMPLES>
+        <DELTA>5.0</DELTA>
+        <SWITCH>1</SWITCH>
+        <D>0.0</D>
+        <D>0.2</D>
+        <D>18.8</D>
+        <ALARM>deco</ALARM>
+        <ALARM>ascent</ALARM>
+        <ALARM>surface</ALARM>
+        <ALARM>error</ALARM>
+        <D>6.0</D>
+        <ALARM>surface</ALARM>
+        <D>0.0</D>
+      </SAMPLES>
+    </DIVE>
+  </REPGROUP>
+)";
+
+std::string withLowerCaseDates(const std::string& group) {
+    QString text = QString::fromStdString(group);
+    for (const char* name : {"DATE", "YEAR", "MONTH", "DAY", "TIME", "HOUR", "MINUTE"}) {
+        const QString upper = QLatin1String(name) + u'>';
+        text.replace(u'<' + upper, u'<' + upper.toLower()).replace(u'/' + upper, u'/' + upper.toLower());
     }
-    return indented + "\n    </DIVE>\n";
+    return text.toStdString();
 }
 
 TEST_F(Exports, writeTheTreeOfUDCF) {
@@ -139,12 +144,7 @@ TEST_F(Exports, writeTheTreeOfUDCF) {
     <MODEL>Tavrel</MODEL>
     <VERSION>1.10.0 (20141025)</VERSION>
   </DEVICE>
-  <ADDINFO>
-    <TOTALDIVES>1</TOTALDIVES>
-  </ADDINFO>
-  <REPGROUP>
-)" + wreckElement("DATE", "TIME", {"YEAR", "MONTH", "DAY", "HOUR", "MINUTE"}) +
-                                    "  </REPGROUP>\n</PROFILE>\n");
+)" + wreckGroup + "</PROFILE>\n");
 }
 
 TEST_F(Exports, writeTheTreeOfUDDF) {
@@ -178,12 +178,8 @@ TEST_F(Exports, writeTheTreeOfUDDF) {
       <he>0.000</he>
     </mixid>
   </gasdefinitions>
-  <ADDINFO>
-    <TOTALDIVES>1</TOTALDIVES>
-  </ADDINFO>
-  <REPGROUP>
-)" + wreckElement("date", "time", {"year", "month", "day", "hour", "minute"}) +
-                                    "  </REPGROUP>\n</uddf>\n");
+)" + withLowerCaseDates(wreckGroup) +
+                                    "</uddf>\n");
 }
 
 TEST_F(Exports, nameGasesAndSamplingIntervals) {

@@ -44,6 +44,7 @@
 <message><source>Erase dive</source><translation>Delete the selected dives?</translation></message>
 <message><source>Erase selection</source><translation>Delete the selected entries?</translation></message>
 <message><source>Export document</source><translation>Export</translation></message>
+<message><source>Export onto document</source><translation>An export cannot take the place of the document’s own file.</translation></message>
 <message><source>Exporting</source><translation>Exporting…</translation></message>
 <message><source>File is a folder</source><translation>It is a folder, not a file.</translation></message>
 <message><source>File is not regular</source><translation>It is not a regular file.</translation></message>

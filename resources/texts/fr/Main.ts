@@ -44,6 +44,7 @@
 <message><source>Erase dive</source><translation>Supprimer les plongées sélectionnées ?</translation></message>
 <message><source>Erase selection</source><translation>Supprimer les éléments sélectionnés ?</translation></message>
 <message><source>Export document</source><translation>Exporter</translation></message>
+<message><source>Export onto document</source><translation>Une exportation ne peut pas remplacer le fichier du document lui-même.</translation></message>
 <message><source>Exporting</source><translation>Exportation…</translation></message>
 <message><source>File is a folder</source><translation>C’est un dossier et non un fichier.</translation></message>
 <message><source>File is not regular</source><translation>Ce n’est pas un fichier ordinaire.</translation></message>
