@@ -22,7 +22,7 @@ void registerDefaults(Preferences& preferences) {
         {QStringLiteral("plot color"), archivedColor(QColor::fromRgbF(1, 0, 0))},
         {QStringLiteral("fill color"), blue},
         {QStringLiteral("alpha fill color"), QStringLiteral("0.5")},
-        {QStringLiteral("background color"), archivedColor(QColor::fromRgbF(0.5, 0.5, 0.5))},
+        {QStringLiteral("background color"), archivedWhite(0.5F)},
         {QStringLiteral("alpha background color"), QStringLiteral("0.5")},
         {QStringLiteral("ASC color"), archivedColor(QColor::fromRgbF(1, 1, 0))},
         {QStringLiteral("SLOW color"), blue},

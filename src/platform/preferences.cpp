@@ -173,7 +173,8 @@ void Preferences::set(const QString& key, const QVariant& value) {
 }
 
 void Preferences::setColor(const QString& key, const QColor& color) {
-    write(key, archivedColor(color));
+    const QVariant held = isStored(key) ? stored(key) : defaults_.value(key);
+    write(key, readColor(held) == color ? held : QVariant(archivedColor(color)));
 }
 
 void Preferences::remove(const QString& key) {

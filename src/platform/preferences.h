@@ -46,7 +46,8 @@ public:
     /// Stores a boolean (as 0 or 1), number, string, string list or bytes. Values reach the disk at once, the old file
     /// staying whole until the new one is complete.
     void set(const QString& key, const QVariant& value);
-    /// Stores the typed-stream archive of a calibrated colour.
+    /// Stores the typed-stream archive of a calibrated colour. The colour that the key has already keeps its archive,
+    /// and with it the colour space.
     void setColor(const QString& key, const QColor& color);
     void remove(const QString& key);
 

@@ -173,6 +173,23 @@ TEST(Preferences, haveTheirRegisteredDefaults) {
     EXPECT_NEAR(preferences.color(QStringLiteral("background color")).redF(), 0.5, 1e-4);
 }
 
+TEST(Preferences, keepTheSpaceOfAColor) {
+    TestDesktop desktop;
+    const QString background = QStringLiteral("background color");
+    const auto stored = [&] {
+        return QSettings(desktop.path(QStringLiteral("preferences.ini")), QSettings::IniFormat)
+            .value(background)
+            .toByteArray();
+    };
+    // The grey of the defaults is a white; the same grey as the user's own colour is RGB.
+    desktop.preferences.setColor(background, desktop.preferences.color(background));
+    EXPECT_EQ(stored(), archivedWhite(0.5F));
+    desktop.preferences.setColor(background, QColor::fromRgbF(0.702F, 0.702F, 0.702F));
+    EXPECT_TRUE(stored().contains("ffff"));
+    // A component travels as the decimal it was given as: 0.702, three times.
+    EXPECT_EQ(stored().count(QByteArray::fromHex("46b6333f")), 3);
+}
+
 TEST(Preferences, ofOneRunLeaveTheFileAsItIs) {
     TestDesktop desktop;
     desktop.preferences.set(QStringLiteral("country code"), QStringLiteral("FRA"));
