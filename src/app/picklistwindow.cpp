@@ -2,6 +2,7 @@
 
 #include "app/keptframe.h"
 #include "platform/alerts.h"
+#include "platform/preferences.h"
 #include "platform/texts.h"
 
 #include <QGridLayout>
@@ -103,6 +104,7 @@ void PickListEditor::deleteSelection() {
 
 void PickListEditor::store() {
     desktop_.pickLists.store(description_.list, QString::fromLatin1(description_.storedUnder));
+    desktop_.preferences.synchronize(desktop_.alerts);
 }
 
 void PickListEditor::showTotal() {

@@ -207,16 +207,7 @@ void PreferencesWindow::savePrefs() {
             }
         }
     }
-    tellStoreTrouble();
-}
-
-void PreferencesWindow::tellStoreTrouble() {
-    const auto written = desktop_.preferences.synchronize();
-    // Once is enough: the settings hold for this session all the same.
-    if (!written && !storeTroubleTold_) {
-        storeTroubleTold_ = true;
-        desktop_.alerts.fail(written.error());
-    }
+    desktop_.preferences.synchronize(desktop_.alerts);
 }
 
 void PreferencesWindow::storeFrom(std::initializer_list<const char*> keys) {

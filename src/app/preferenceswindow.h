@@ -60,14 +60,12 @@ private:
     QWidget* newPage(int page);
     QWidget* newGroup(int page, TextKey group, QWidget* parent);
     void setUpToolBar();
-    void showPage(QWidget* page);
     void load(const Row& row);
     void storeFrom(std::initializer_list<const char*> keys);
     void edited(const PreferenceKey& key);
     void tell(PreferenceNotice notice);
     void post(const char* name);
     void resetByUser();
-    void tellStoreTrouble();
 
     Desktop& desktop_;
     std::vector<Row> rows_;
@@ -78,7 +76,6 @@ private:
     QLabel* temperatureUnit_ = nullptr;
     int page_ = 0;
     bool posting_ = false;
-    bool storeTroubleTold_ = false;
     NotificationCentre::Subscription columnsChanged_;
 };
 

@@ -1,6 +1,7 @@
 #include "forms/picklistentry.h"
 
 #include "platform/alerts.h"
+#include "platform/preferences.h"
 #include "platform/texts.h"
 
 #include <algorithm>
@@ -20,6 +21,7 @@ void offerToPickList(Desktop& desktop, PickList list, const QString& typed) {
     }
     desktop.pickLists.sort(list);
     desktop.pickLists.store(list);
+    desktop.preferences.synchronize(desktop.alerts);
 }
 
 }  // namespace tavrel

@@ -1,5 +1,6 @@
 #include "platform/preferences.h"
 
+#include "platform/alerts.h"
 #include "platform/numbers.h"
 #include "platform/texts.h"
 
@@ -214,6 +215,16 @@ Expected<void> Preferences::synchronize() {
             textWith("Main", "Preferences not saved", QStringLiteral("Preferences not saved: %@"), store_.fileName()));
     }
     return {};
+}
+
+void Preferences::synchronize(Alerts& alerts) {
+    if (thisRun_ || troubleTold_) {
+        return;
+    }
+    if (const auto written = synchronize(); !written) {
+        troubleTold_ = true;
+        alerts.fail(written.error());
+    }
 }
 
 QByteArray Preferences::windowState(const QString& name) const {

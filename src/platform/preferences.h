@@ -14,6 +14,8 @@
 
 namespace tavrel {
 
+class Alerts;
+
 /// The user's settings: keys with booleans, numbers, strings, string arrays and colours. A key that was never stored,
 /// or that holds a value of another kind, reads as its registered default; without one as no, 0, "" or an empty list.
 ///
@@ -65,6 +67,8 @@ public:
 
     /// Writes what is pending; a failure when the store cannot be written.
     Expected<void> synchronize();
+    /// Writes what is pending, and tells of the first failure only: the values hold for this run all the same.
+    void synchronize(Alerts& alerts);
 
     /// State of windows (frames, toolbars, columns) beside the preferences proper.
     QByteArray windowState(const QString& name) const;
@@ -80,6 +84,7 @@ private:
     std::optional<QVariantMap> thisRun_;  ///< stands in for the store once it was read
     QVariantMap defaults_;
     int together_ = 0;
+    bool troubleTold_ = false;
 };
 
 }  // namespace tavrel

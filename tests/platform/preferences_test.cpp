@@ -146,6 +146,10 @@ TEST(Preferences, thatCannotBeWrittenStayInMemory) {
     Preferences preferences(obstacle.fileName() + QStringLiteral("/folder/tavrel.ini"));
     preferences.set(key, 12);
     EXPECT_EQ(preferences.integer(key), 12);
+    RecordingAlerts alerts;
+    preferences.synchronize(alerts);
+    preferences.synchronize(alerts);
+    EXPECT_EQ(alerts.failures.size(), 1U) << "told once";
     const auto result = preferences.synchronize();
     ASSERT_FALSE(result);
     EXPECT_TRUE(result.error().sentence.contains(u"obstacle/folder/tavrel.ini"));
