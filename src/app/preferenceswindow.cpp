@@ -6,8 +6,10 @@
 #include "platform/ui/customtoolbar.h"
 
 #include <QActionGroup>
+#include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -259,6 +261,15 @@ void PreferencesWindow::edited(const PreferenceKey& key) {
     if (key.kept) {
         savePrefs();
         tell(key.notice);
+    }
+}
+
+void PreferencesWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    // Going over to a logbook leaves the field, which by itself would only notice a change within the window.
+    auto* field = qobject_cast<QLineEdit*>(focusWidget());
+    if (event->type() == QEvent::ActivationChange && !isActiveWindow() && field) {
+        Q_EMIT field->editingFinished();
     }
 }
 

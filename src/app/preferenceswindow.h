@@ -50,6 +50,9 @@ public:
     /// The control of a setting.
     PreferenceControl& control(const char* key);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     struct Row {
         const PreferenceKey& key;

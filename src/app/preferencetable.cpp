@@ -134,7 +134,7 @@ QVariant storedValue(const Preferences& preferences, const PreferenceKey& key) {
         case PreferenceKind::onOff:
             return preferences.boolean(name);
         case PreferenceKind::number:
-            return preferences.string(name).isEmpty() ? QString() : shortestText(preferences.real(name));
+            return startsWithNumber(preferences.string(name)) ? shortestText(preferences.real(name)) : QString();
         case PreferenceKind::opacity:
             return preferences.real(name);
         case PreferenceKind::text:

@@ -229,6 +229,23 @@ TEST_F(PreferencesTest, unreadableValuesShowTheDefaults) {
     EXPECT_EQ(window().control("plot color").value().value<QColor>().name(), u"#ff0000");
     EXPECT_EQ(window().control("tank volume").value().toString(), QString());
     EXPECT_EQ(window().control("coloured theme").value().toInt(), 0);
+    // What stands in a number's place without being one is not shown as a number, nor stored as one.
+    desktop.preferences.set(QStringLiteral("low temperature value"), QStringLiteral("cold"));
+    EXPECT_EQ(PreferencesWindow(desktop.desktop()).control("low temperature value").value().toString(), QString());
+}
+
+TEST_F(PreferencesTest, fieldsCountWhenTheUserGoesToAnotherWindow) {
+    window().show();
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    auto& field = find<QLineEdit>("volumeBlocField");
+    field.setFocus();
+    QTest::keyClicks(&field, QStringLiteral("12"));
+    QWidget logbook;
+    logbook.show();
+    logbook.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&logbook));
+    EXPECT_EQ(readBack()->integer(QStringLiteral("tank volume")), 12);
 }
 
 TEST_F(PreferencesTest, pagesAndResetButton) {
