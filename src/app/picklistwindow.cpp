@@ -86,15 +86,16 @@ void PickListEditor::add() {
 }
 
 void PickListEditor::deleteSelection() {
-    QList<int> rows;
-    for (const QModelIndex& index : tableView_->selectionModel()->selectedRows()) {
-        rows.append(index.row());
-    }
-    if (rows.isEmpty()) {
+    if (!tableView_->selectionModel()->hasSelection()) {
         return;
     }
     desktop_.alerts.beep();
     if (desktop_.alerts.ask(text("Main", "Erase selection"), {QStringLiteral("OK"), text("Main", "Cancel")}) == 0) {
+        // Taken after the question: a form that changed the list meanwhile has undone the selection.
+        QList<int> rows;
+        for (const QModelIndex& index : tableView_->selectionModel()->selectedRows()) {
+            rows.append(index.row());
+        }
         desktop_.pickLists.remove(description_.list, rows);
         tableView_->clearSelection();
         store();

@@ -108,6 +108,16 @@ TEST_F(PickListEditors, keepWhatIsTypedSortedAndDeleteSeveralAtOnce) {
     EXPECT_EQ(total->text(), textWith("Carnet", "Entries", QString(), 3));
     EXPECT_TRUE(table->selectionModel()->selectedRows().isEmpty());
     EXPECT_EQ(desktop.alerts.beeps, 2);
+
+    // A form changes the list while the question is on the screen: nothing that was not selected goes.
+    select({1});
+    desktop.alerts.answerNext(0);
+    desktop.alerts.whileAsked = [&] {
+        desktop.pickLists.append(PickList::tableauDesLieux, QStringLiteral("B"));
+        desktop.pickLists.sort(PickList::tableauDesLieux);
+    };
+    deleteButton->click();
+    EXPECT_EQ(entries(window, places).join(u'|'), QStringLiteral(" a |B|b|") + accented);
 }
 
 TEST_F(PickListEditors, showTheSharedListsAndReloadTheLastSeven) {

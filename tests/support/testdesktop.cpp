@@ -16,6 +16,9 @@ void RecordingAlerts::clear() {
 
 int RecordingAlerts::ask(const QString& message, const QStringList& buttons) {
     questions.push_back({message, buttons});
+    if (whileAsked) {
+        whileAsked();
+    }
     if (answers_.empty()) {
         ADD_FAILURE() << "unexpected question: " << message.toStdString();
         return static_cast<int>(buttons.size()) - 1;

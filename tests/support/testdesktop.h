@@ -12,6 +12,7 @@
 #include <QTemporaryDir>
 
 #include <deque>
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -38,6 +39,7 @@ public:
     std::vector<Question> questions;
     QStringList told;
     std::vector<Failure> failures;
+    std::function<void()> whileAsked;  ///< what happens elsewhere before a question is answered
 
 private:
     std::deque<int> answers_;
