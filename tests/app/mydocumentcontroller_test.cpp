@@ -244,6 +244,7 @@ TEST_F(Documents, openWhenDroppedOnAWindow) {
     QApplication::sendEvent(app.frontWindow(), &enter);
     QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(app.frontWindow(), &drop);
+    QApplication::processEvents();
     EXPECT_EQ(names(), (QStringList{QStringLiteral("Untitled"), QStringLiteral("dives #1.carnet")}));
 }
 

@@ -44,8 +44,12 @@ void DocumentWindow::dragEnterEvent(QDragEnterEvent* event) {
 }
 
 void DocumentWindow::dropEvent(QDropEvent* event) {
-    event->acceptProposedAction();
-    Q_EMIT filesDropped(localFiles(*event->mimeData()));
+    // A copy whatever was proposed: whoever offers a move may delete the file after it.
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    // Opening may ask the user something, and whoever dragged waits for the end of this event.
+    QMetaObject::invokeMethod(
+        this, [this, files = localFiles(*event->mimeData())] { Q_EMIT filesDropped(files); }, Qt::QueuedConnection);
 }
 
 QStringList localFiles(const QMimeData& data) {
