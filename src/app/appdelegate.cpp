@@ -32,9 +32,10 @@ void AppDelegate::showAbout(QWidget* parent) {
     about->setWindowTitle(text("Main", "About title"));
     about->setIconPixmap(QApplication::windowIcon().pixmap(64));
     about->setTextFormat(Qt::RichText);
-    about->setText(QStringLiteral("<h3>%1 %2</h3>")
-                       .arg(QApplication::applicationDisplayName(), QApplication::applicationVersion()));
-    about->setInformativeText(text("Main", "About text"));
+    // The sentence would otherwise be broken to the width of the name.
+    about->setText(QStringLiteral("<h3>%1 %2</h3><p style=\"white-space: nowrap\">%3</p>")
+                       .arg(QApplication::applicationDisplayName(), QApplication::applicationVersion(),
+                            text("Main", "About text").toHtmlEscaped()));
     about->addButton(QMessageBox::Ok);
     about->open();
 }

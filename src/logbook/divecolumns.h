@@ -27,7 +27,7 @@ inline constexpr std::array<DiveColumn, 15> diveColumns{{
     {"date", "column date", {"Carnet", "Column date"}, 12, Qt::AlignRight},
     {"lieu", "column lieu", {"Carnet", "Column place"}, 15},
     {"site", "column site", {"Carnet", "Column site"}, 20},
-    {"heure", "column heure", {"Carnet", "Column time of day"}, 7, Qt::AlignRight},
+    {"heure", "column heure", {"Carnet", "Column time of day"}, 10, Qt::AlignRight},
     {"profondeur", "column profondeur", {"Carnet", "Column depth"}, 8, Qt::AlignRight},
     {"temps", "column temps", {"Carnet", "Column dive time"}, 8, Qt::AlignRight},
     {"tempEau", "column temp eau", {"Carnet", "Column water"}, 7, Qt::AlignRight},
