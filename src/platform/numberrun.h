@@ -15,7 +15,7 @@ namespace tavrel {
 /// stands in an array is left to the general way, one element at a time, from which this learns.
 class NumberRun {
 public:
-    explicit NumberRun(TypedStreamScanner& scanner) : scanner_(scanner) {}
+    explicit NumberRun(TypedStreamScanner& scanner);
 
     /// Appends elements from the scanner's place on, at most so many; how many they were. 0 where the next element is
     /// of another form, which may be damaged: the general way says what is wrong with it.
@@ -30,21 +30,21 @@ private:
     struct Prefix {
         std::array<std::uint64_t, 2> words{};
         std::array<std::uint64_t, 2> masks{};
-        std::size_t size = 0;  // 0: none yet
+        std::size_t size = 0;
+        char code = 0;
 
         bool stands(const unsigned char* at) const;
     };
 
-    // Values by the reference to them, one byte or the two bytes after the tag of a short integer.
-    template <class Value>
+    // Numbers by the reference to them, one byte or the two bytes after the tag of a short integer.
     struct Known {
-        static constexpr std::size_t shortReferences = 65536;
+        explicit Known(std::uint64_t unknownNumber) : unknown(unknownNumber) { byByte.fill(unknown); }
 
-        explicit Known(Value unknownValue) : unknown(unknownValue) { byByte.fill(unknown); }
+        void keep(std::int64_t reference, std::uint64_t number);
 
-        Value unknown;
-        std::array<Value, 256> byByte;
-        std::vector<Value> byShort;  // of all short references, once a stream is large enough to have them
+        std::uint64_t unknown;
+        std::array<std::uint64_t, 256> byByte;
+        std::vector<std::uint64_t> byShort;  // of all short references, once a stream is large enough to have them
     };
 
     struct Reference {
@@ -52,28 +52,28 @@ private:
         std::size_t size = 0;  // of the element, in bytes; 0: none
     };
 
+    std::size_t readReferences(char code, std::size_t limit, Series& series);
+    std::size_t readLiterals(const Prefix& prefix, std::size_t limit, Series& series);
     template <class Value>
-    std::size_t append(std::size_t (NumberRun::*decode)(Value*, std::size_t), std::size_t limit, Series& series);
-    std::size_t realReferences(double* block, std::size_t limit);
-    std::size_t smallReferences(std::int8_t* block, std::size_t limit);
-    std::size_t realLiterals(double* block, std::size_t limit);
-    std::size_t smallLiterals(std::int8_t* block, std::size_t limit);
+    std::size_t references(char code, std::size_t limit, Series& series);
+    std::size_t smallReferences(char code, std::size_t limit, Series& series);
+    template <class Value>
+    std::size_t realLiterals(const Prefix& prefix, std::size_t limit, Series& series);
+    std::size_t integerLiterals(const Prefix& prefix, std::size_t limit, Series& series);
+    template <class Value>
+    std::size_t append(const Value* room, std::size_t count, std::size_t limit, char code, Series& series);
 
     bool findElementType();
     Reference referenceAt(const unsigned char* at) const;
-    char codeAt(const unsigned char* at) const;
-    bool resolve(const unsigned char* at, std::uint64_t& value, std::size_t& size);
-    bool resolve(const unsigned char* at, std::uint16_t& value, std::size_t& size);
-    template <class Value>
-    static void keep(Known<Value>& known, std::int64_t reference, Value value);
+    ObjectEntry numberAt(const unsigned char* at) const;
+    bool resolve(const unsigned char* at, char code, std::uint64_t& number, std::size_t& size);
 
     TypedStreamScanner& scanner_;
     SeriesPool pool_;
-    unsigned char elementType_ = 0;                    // the byte that refers to the type "@"
-    Known<std::uint64_t> reals_{0x7ff4000000000000U};  // bits; the unknown one is a not-a-number that is never kept
-    Known<std::uint16_t> small_{0x100};                // bytes; the unknown one has a bit beyond them
-    Prefix realPrefix_;
-    Prefix smallPrefix_;
+    unsigned char elementType_ = 0;  // the byte that refers to the type "@"
+    Known reals_;                    // the bits of those of type 'd'
+    Known narrow_;                   // those of other types, as narrowNumber() makes them
+    std::vector<Prefix> prefixes_;
 };
 
 }  // namespace tavrel

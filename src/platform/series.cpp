@@ -1,5 +1,6 @@
 #include "platform/series.h"
 
+#include "platform/floatbits.h"
 #include "platform/largememory.h"
 
 #include <algorithm>
@@ -7,28 +8,48 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
+#include <type_traits>
 
 namespace tavrel {
 
 namespace {
 
-bool isSmall(const Number& number) {
-    return number.code == 'i' && number.integer >= std::numeric_limits<std::int8_t>::min() &&
-           number.integer <= std::numeric_limits<std::int8_t>::max();
+bool isUnsignedLong(char code) {
+    return code == 'Q' || code == 'L';
+}
+
+template <class Value>
+bool fits(std::int64_t value) {
+    return value >= std::numeric_limits<Value>::min() && value <= std::numeric_limits<Value>::max();
 }
 
 std::uint64_t bitsOf(const Number& number) {
     return number.isReal() ? std::bit_cast<std::uint64_t>(number.real) : std::bit_cast<std::uint64_t>(number.integer);
 }
 
+template <class Value>
+Number numberOf(Value value, char code) {
+    if constexpr (std::is_same_v<Value, float>) {
+        return Number::ofReal(widened(value), code);
+    } else if constexpr (std::is_same_v<Value, double>) {
+        return Number::ofReal(value, code);
+    } else {
+        return Number::ofInteger(value, code);
+    }
+}
+
 }  // namespace
+
+bool Number::isNarrow() const {
+    return !isReal() && fits<std::int32_t>(integer) && (integer >= 0 || !isUnsignedLong(code));
+}
 
 double Number::toDouble() const {
     if (isReal()) {
         return real;
     }
-    const bool isUnsigned = code == 'Q' || code == 'L';
-    return isUnsigned ? static_cast<double>(std::bit_cast<std::uint64_t>(integer)) : static_cast<double>(integer);
+    return isUnsignedLong(code) ? static_cast<double>(std::bit_cast<std::uint64_t>(integer))
+                                : static_cast<double>(integer);
 }
 
 qint32 Number::toInt() const {
@@ -64,7 +85,6 @@ Series Series::empty() {
     return series;
 }
 
-// The numbers when they are of that form; those of another form are nothing.
 template <class Value>
 std::span<const Value> Series::block() const {
     if (!data_) {
@@ -77,26 +97,28 @@ std::span<const Value> Series::block() const {
     return numbers ? std::span<const Value>(*numbers) : std::span<const Value>();
 }
 
-std::span<const double> Series::realBlock() const {
-    return block<double>();
-}
-
-std::span<const std::int8_t> Series::smallBlock() const {
-    return block<std::int8_t>();
-}
+template std::span<const double> Series::block() const;
+template std::span<const float> Series::block() const;
+template std::span<const std::int32_t> Series::block() const;
+template std::span<const std::int8_t> Series::block() const;
 
 std::size_t Series::size() const {
-    const Mixed* mixed = data_ ? std::get_if<Mixed>(&data_->numbers) : nullptr;
-    return mixed ? mixed->codes.size() : realBlock().size() + smallBlock().size();
+    return data_ ? std::visit([](const auto& numbers) { return numbers.size(); }, data_->numbers) : 0;
 }
 
 Number Series::at(std::size_t index) const {
     Q_ASSERT(index < size());
-    if (const auto small = smallBlock(); !small.empty()) {
-        return Number::ofInteger(small[index]);
+    if (const auto small = block<std::int8_t>(); !small.empty()) {
+        return numberOf(small[index], code());
     }
-    if (const auto reals = realBlock(); !reals.empty()) {
-        return Number::ofReal(reals[index]);
+    if (const auto reals = block<double>(); !reals.empty()) {
+        return numberOf(reals[index], code());
+    }
+    if (const auto singles = block<float>(); !singles.empty()) {
+        return numberOf(singles[index], code());
+    }
+    if (const auto integers = block<std::int32_t>(); !integers.empty()) {
+        return numberOf(integers[index], code());
     }
     const Mixed& mixed = std::get<Mixed>(data_->numbers);
     Number number{mixed.codes[index], 0, 0.0};
@@ -109,11 +131,19 @@ Number Series::at(std::size_t index) const {
 }
 
 void Series::append(Number number) {
-    if (isSmall(number)) {
-        const auto value = static_cast<std::int8_t>(number.integer);
-        append(std::span(&value, 1));
-    } else if (number.code == 'd') {
+    if (number.code == 'd') {
         append(std::span<const double>(&number.real, 1));
+    } else if (number.code == 'f') {
+        const float value = narrowed(number.real);
+        append(std::span<const float>(&value, 1));
+    } else if (number.isNarrow()) {
+        const auto value = static_cast<std::int32_t>(number.integer);
+        if (const auto small = static_cast<std::int8_t>(value);
+            small == value && (size() == 0 || !block<std::int8_t>().empty()) &&
+            appendBlock(std::span<const std::int8_t>(&small, 1), number.code)) {
+            return;
+        }
+        append(std::span<const std::int32_t>(&value, 1), number.code);
     } else {
         Mixed& all = mixed();
         all.codes.push_back(number.code);
@@ -121,55 +151,77 @@ void Series::append(Number number) {
     }
 }
 
-// The vector of that form, for changing it; null when the numbers are of another.
+// Appends to a block of that form, or makes an empty series one; false when the numbers are of another form.
 template <class Value>
-std::vector<Value>* Series::owned() {
-    auto& numbers = detached().numbers;
-    if (const auto* pooled = std::get_if<Pooled<Value>>(&numbers)) {
-        const auto copied = pooled->numbers;
-        numbers = std::vector<Value>(copied.begin(), copied.end());
-    } else if (size() == 0) {
-        numbers.template emplace<std::vector<Value>>();
-    }
-    return std::get_if<std::vector<Value>>(&numbers);
-}
-
-template <class Value>
-void Series::appendBlock(std::span<const Value> values, char code) {
+bool Series::appendBlock(std::span<const Value> values, char code) {
+    Data& data = detached();
     if (values.empty()) {
-        detached();
-        return;
+        return true;
     }
-    if (auto* numbers = owned<Value>()) {
-        numbers->insert(numbers->end(), values.begin(), values.end());
-        return;
+    if (size() == 0) {
+        data.code = code;
+        data.numbers.emplace<std::vector<Value>>(values.begin(), values.end());
+        return true;
     }
-    Mixed& all = mixed();
-    all.codes.insert(all.codes.end(), values.size(), code);
-    for (const Value value : values) {
-        all.bits.push_back(bitsOf(code == 'd' ? Number::ofReal(static_cast<double>(value))
-                                              : Number::ofInteger(static_cast<std::int64_t>(value))));
+    const auto present = block<Value>();
+    if (present.empty() || data.code != code) {
+        return false;
     }
+    if (std::holds_alternative<Pooled<Value>>(data.numbers)) {
+        std::vector<Value> copied(present.begin(), present.end());
+        data.numbers = std::move(copied);
+    }
+    auto& numbers = std::get<std::vector<Value>>(data.numbers);
+    numbers.insert(numbers.end(), values.begin(), values.end());
+    return true;
 }
 
 void Series::append(std::span<const double> values) {
-    appendBlock(values, 'd');
-}
-
-void Series::append(std::span<const std::int8_t> values) {
-    appendBlock(values, 'i');
+    if (!appendBlock(values, 'd')) {
+        Mixed& all = mixed();
+        for (const double value : values) {
+            all.codes.push_back('d');
+            all.bits.push_back(std::bit_cast<std::uint64_t>(value));
+        }
+    }
 }
 
 void Series::append(std::span<const float> values) {
-    if (values.empty()) {
-        detached();
+    if (!appendBlock(values, 'f')) {
+        Mixed& all = mixed();
+        for (const float value : values) {
+            all.codes.push_back('f');
+            all.bits.push_back(std::bit_cast<std::uint64_t>(widened(value)));
+        }
+    }
+}
+
+void Series::append(std::span<const std::int8_t> values, char code) {
+    if (!appendBlock(values, code)) {
+        const std::vector<std::int32_t> wider(values.begin(), values.end());
+        append(wider, code);
+    }
+}
+
+void Series::append(std::span<const std::int32_t> values, char code) {
+    const bool areSmall = std::ranges::all_of(values, fits<std::int8_t>);
+    if (const auto present = block<std::int8_t>();
+        areSmall && (size() == 0 || (!present.empty() && this->code() == code))) {
+        const std::vector<std::int8_t> narrower(values.begin(), values.end());
+        appendBlock<std::int8_t>(narrower, code);
         return;
     }
-    Mixed& all = mixed();
-    all.codes.insert(all.codes.end(), values.size(), 'f');
-    all.bits.reserve(all.bits.size() + values.size());
-    for (const float value : values) {
-        all.bits.push_back(std::bit_cast<std::uint64_t>(static_cast<double>(value)));
+    if (const auto present = block<std::int8_t>(); !present.empty() && this->code() == code) {
+        const std::vector<std::int32_t> wider(present.begin(), present.end());
+        clear();
+        appendBlock<std::int32_t>(wider, code);
+    }
+    if (!appendBlock(values, code)) {
+        Mixed& all = mixed();
+        for (const std::int32_t value : values) {
+            all.codes.push_back(code);
+            all.bits.push_back(bitsOf(Number::ofInteger(value)));
+        }
     }
 }
 
@@ -178,19 +230,25 @@ void Series::clear() {
 }
 
 bool operator==(const Series& left, const Series& right) {
-    if (left.isNull() || right.isNull()) {
+    if (left.isNull() || right.isNull() || left.size() != right.size()) {
         return left.isNull() && right.isNull();
     }
-    if (const auto reals = left.realBlock(); !reals.empty()) {
-        return reals.size() == right.realBlock().size() &&
-               std::memcmp(reals.data(), right.realBlock().data(), reals.size_bytes()) == 0;
-    }
-    if (const auto small = left.smallBlock(); !small.empty()) {
-        return std::ranges::equal(small, right.smallBlock());
+    if (left.size() == 0) {
+        return true;
     }
     const auto* one = std::get_if<Series::Mixed>(&left.data_->numbers);
     const auto* other = std::get_if<Series::Mixed>(&right.data_->numbers);
-    return one && other ? *one == *other : left.size() == 0 && right.size() == 0;
+    if (one || other) {
+        return one && other && *one == *other;
+    }
+    const auto sameBlock = [&]<class Value>(Value) {
+        const auto numbers = left.block<Value>();
+        const auto others = right.block<Value>();
+        return numbers.size() == others.size() &&
+               (numbers.empty() || std::memcmp(numbers.data(), others.data(), numbers.size_bytes()) == 0);
+    };
+    return left.code() == right.code() && sameBlock(std::int8_t()) && sameBlock(std::int32_t()) && sameBlock(float()) &&
+           sameBlock(double());
 }
 
 Series::Data& Series::detached() {
@@ -205,8 +263,6 @@ Series::Mixed& Series::mixed() {
     if (!std::holds_alternative<Mixed>(numbers)) {
         Mixed all;
         const std::size_t count = size();
-        all.codes.reserve(count + 1);
-        all.bits.reserve(count + 1);
         for (std::size_t index = 0; index < count; ++index) {
             const Number number = at(index);
             all.codes.push_back(number.code);
@@ -231,9 +287,10 @@ std::byte* SeriesPool::roomFor(std::size_t bytes) {
 }
 
 template <class Value>
-Series SeriesPool::series(const Value* room, std::size_t count) {
+Series SeriesPool::series(const Value* room, std::size_t count, char code) {
     Series series = Series::empty();
     if (count > 0) {
+        series.data_->code = code;
         series.data_->numbers = Series::Pooled<Value>{memory_, {room, count}};
         // Whole doubles, so that the next ones are aligned.
         const std::size_t bytes = (count * sizeof(Value) + sizeof(double) - 1) / sizeof(double) * sizeof(double);
@@ -243,7 +300,9 @@ Series SeriesPool::series(const Value* room, std::size_t count) {
     return series;
 }
 
-template Series SeriesPool::series(const double*, std::size_t);
-template Series SeriesPool::series(const std::int8_t*, std::size_t);
+template Series SeriesPool::series(const double*, std::size_t, char);
+template Series SeriesPool::series(const float*, std::size_t, char);
+template Series SeriesPool::series(const std::int32_t*, std::size_t, char);
+template Series SeriesPool::series(const std::int8_t*, std::size_t, char);
 
 }  // namespace tavrel

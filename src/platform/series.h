@@ -24,6 +24,8 @@ struct Number {
     static Number ofReal(double value, char code = 'd') { return {code, 0, value}; }
 
     bool isReal() const { return code == 'd' || code == 'f'; }
+    /// Whether it is an integer that 32 bits hold.
+    bool isNarrow() const;
     double toDouble() const;
     /// Truncated toward zero, saturating at the 32-bit bounds; 0 for not-a-number.
     qint32 toInt() const;
@@ -31,8 +33,9 @@ struct Number {
 
 class SeriesPool;
 
-/// One series of a profile: an array of numbers, or nothing (isNull). Holds every number with its type code and bits,
-/// in a form that costs a byte for a flag and eight for a depth. Copies share their numbers until one of them changes.
+/// One series of a profile: an array of numbers, or nothing (isNull). Holds every number with its type code and bits.
+/// While all are of one type a flag costs one byte, an integer or a single-precision number four and a double eight.
+/// Copies share their numbers until one of them changes.
 class Series {
 public:
     Series() = default;  // null
@@ -50,15 +53,23 @@ public:
     void append(Number number);
     void appendReal(double value) { append(Number::ofReal(value)); }
     void appendInteger(qint32 value) { append(Number::ofInteger(value)); }
-    /// Many at once: doubles of type 'd', singles of type 'f', or integers of type 'i' that fit a byte.
+    /// Many at once: doubles of type 'd', singles of type 'f', or integers of one of the integer types, which must hold
+    /// them.
     void append(std::span<const double> values);
     void append(std::span<const float> values);
-    void append(std::span<const std::int8_t> values);
+    void append(std::span<const std::int32_t> values, char code = 'i');
+    void append(std::span<const std::int8_t> values, char code = 'i');
     void clear();  ///< becomes an array without elements
 
-    /// All numbers in one block when every one is of type 'd', or an 'i' that fits a byte; else nothing.
-    std::span<const double> realBlock() const;
-    std::span<const std::int8_t> smallBlock() const;
+    /// All numbers in one block: of Value double or float when every one is of type 'd' or 'f', of std::int8_t or
+    /// std::int32_t when every one is of the integer type code() and they fit; else nothing. Only one of the blocks
+    /// holds numbers, the smallest that can.
+    template <class Value>
+    std::span<const Value> block() const;
+    /// The type code of the numbers when they stand in a block.
+    char code() const { return data_ ? data_->code : 'i'; }
+    /// Whether no block can hold them, because they differ in type or are too large.
+    bool isMixed() const { return data_ && std::holds_alternative<Mixed>(data_->numbers); }
 
     /// Same numbers, type codes and bits (not-a-number included).
     friend bool operator==(const Series& left, const Series& right);
@@ -71,24 +82,23 @@ private:
     struct Pooled {
         std::shared_ptr<const std::byte[]> memory;
         std::span<const Value> numbers;
+        std::size_t size() const { return numbers.size(); }
     };
     struct Mixed {
         std::vector<char> codes;
         std::vector<std::uint64_t> bits;  // of the double, or of the integer
+        std::size_t size() const { return codes.size(); }
         bool operator==(const Mixed&) const = default;
     };
-    // The contents decide the form: bytes while every number is an 'i' that fits one (so also without numbers), doubles
-    // while every one is a 'd', else the mixed form.
     struct Data : QSharedData {
-        std::variant<std::vector<std::int8_t>, std::vector<double>, Mixed, Pooled<std::int8_t>, Pooled<double>> numbers;
+        char code = 'i';
+        std::variant<std::vector<std::int8_t>, std::vector<std::int32_t>, std::vector<float>, std::vector<double>,
+                     Mixed, Pooled<std::int8_t>, Pooled<std::int32_t>, Pooled<float>, Pooled<double>>
+            numbers;
     };
 
     template <class Value>
-    std::span<const Value> block() const;
-    template <class Value>
-    std::vector<Value>* owned();
-    template <class Value>
-    void appendBlock(std::span<const Value> values, char code);
+    bool appendBlock(std::span<const Value> values, char code);
     Data& detached();
     Mixed& mixed();
 
@@ -103,9 +113,9 @@ public:
     Value* room(std::size_t count) {
         return reinterpret_cast<Value*>(roomFor(count * sizeof(Value)));
     }
-    /// The series of the first numbers in the room that was given out last.
+    /// The series of the first numbers in the room that was given out last, of that type code.
     template <class Value>
-    Series series(const Value* room, std::size_t count);
+    Series series(const Value* room, std::size_t count, char code);
 
 private:
     std::byte* roomFor(std::size_t bytes);

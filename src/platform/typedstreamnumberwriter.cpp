@@ -8,6 +8,7 @@
 #include <bit>
 #include <cstring>
 #include <limits>
+#include <type_traits>
 
 namespace tavrel {
 
@@ -24,8 +25,17 @@ std::size_t sizeOf(Element element) {
     return element >> 56;
 }
 
-std::uint64_t bitsOf(const Number& number) {
-    return number.isReal() ? std::bit_cast<std::uint64_t>(number.real) : std::bit_cast<std::uint64_t>(number.integer);
+// How SharedNumbers tells a number from all others of its table.
+std::uint64_t keyOf(double value, char) {
+    return std::bit_cast<std::uint64_t>(value);
+}
+
+std::uint64_t keyOf(float value, char code) {
+    return std::uint64_t{static_cast<unsigned char>(code)} << 32 | std::bit_cast<std::uint32_t>(value);
+}
+
+std::uint64_t keyOf(std::int32_t value, char code) {
+    return std::uint64_t{static_cast<unsigned char>(code)} << 32 | static_cast<std::uint32_t>(value);
 }
 
 // The same element so many times; eight bytes are written at once, so there must be room for as many beyond the last.
@@ -61,11 +71,21 @@ char* storeInteger(char* at, std::int32_t value) {
                                                      : storeWord(at, streamtags::integer, word, 4);
 }
 
-char* storeValue(char* at, std::int8_t value) {
+char* storeValue(char* at, std::int32_t value, char code) {
+    if (code == 'c' || code == 'C' || code == 'B') {
+        *at = static_cast<char>(value);
+        return at + 1;
+    }
     return storeInteger(at, value);
 }
 
-char* storeValue(char* at, double value) {
+char* storeValue(char* at, float value, char) {
+    return isIntegral(static_cast<double>(value))
+               ? storeInteger(at, static_cast<std::int32_t>(value))
+               : storeWord(at, streamtags::real, std::bit_cast<std::uint32_t>(value), 4);
+}
+
+char* storeValue(char* at, double value, char) {
     return isIntegral(value) ? storeInteger(at, static_cast<std::int32_t>(value))
                              : storeWord(at, streamtags::real, std::bit_cast<std::uint64_t>(value), 8);
 }
@@ -81,11 +101,11 @@ void TypedStreamWriter::writeSeries(const Series& series) {
     beginLiteral(mutableArrayClass);
     beginGroup("i");
     putSigned(static_cast<std::int64_t>(series.size()));
-    if (const auto reals = series.realBlock(); !reals.empty()) {
-        putReals(reals);
-    } else if (const auto small = series.smallBlock(); !small.empty()) {
-        putSmall(small);
-    } else {
+    putBlock(series.block<double>(), series.code());
+    putBlock(series.block<float>(), series.code());
+    putBlock(series.block<std::int32_t>(), series.code());
+    putBlock(series.block<std::int8_t>(), series.code());
+    if (series.isMixed()) {
         for (std::size_t index = 0; index < series.size(); ++index) {
             putNumber(series.at(index));
         }
@@ -93,32 +113,53 @@ void TypedStreamWriter::writeSeries(const Series& series) {
     endObject();
 }
 
-// One element of an array, as all functions below.
-void TypedStreamWriter::putNumber(const Number& number) {
-    if (number.code == 'd') {
-        putReals({&number.real, 1});
-    } else if (const auto small = static_cast<std::int8_t>(number.integer);
-               number.code == 'i' && small == number.integer) {
-        putSmall({&small, 1});
-    } else if (numbers_ == Numbers::literal) {
-        putNumberLiteral(number);
-    } else if (Element& element = otherNumbers_[{number.code, bitsOf(number)}]; element != 0) {
-        position_ = repeat(room(prefixRoom), element, 1);
+template <class Value>
+void TypedStreamWriter::putBlock(std::span<const Value> values, char code) {
+    if (values.empty()) {
+        return;
+    }
+    if (numbers_ == Numbers::literal) {
+        putLiterals(values, code);
+    } else if constexpr (std::is_same_v<Value, std::int8_t>) {
+        putSmall(values, code);
     } else {
-        element = elementFor(putNumberLiteral(number));
+        putShared(values, code);
     }
 }
 
-void TypedStreamWriter::putReals(std::span<const double> values) {
-    if (numbers_ == Numbers::literal) {
-        putLiterals(values, 'd');
-        return;
+// One element of an array of mixed types.
+void TypedStreamWriter::putNumber(const Number& number) {
+    if (number.code == 'd') {
+        putBlock(std::span<const double>(&number.real, 1), 'd');
+    } else if (number.code == 'f') {
+        const float value = narrowed(number.real);
+        putBlock(std::span<const float>(&value, 1), 'f');
+    } else if (number.isNarrow()) {
+        const auto value = static_cast<std::int32_t>(number.integer);
+        putBlock(std::span<const std::int32_t>(&value, 1), number.code);
+    } else if (Element& element = wide_[{number.code, number.integer}]; element != 0) {
+        position_ = repeat(room(prefixRoom), element, 1);
+    } else {
+        const Element known = elementFor(nextObject_);
+        putNumberPrefix(number.code);
+        if (number.code == 'I' || number.code == 'L' || number.code == 'Q') {
+            putUnsigned(std::bit_cast<std::uint64_t>(number.integer));
+        } else {
+            putSigned(number.integer);
+        }
+        endObject();
+        element = numbers_ == Numbers::shared ? known : 0;
     }
+}
+
+template <class Value>
+void TypedStreamWriter::putShared(std::span<const Value> values, char code) {
+    SharedNumbers& known = std::is_same_v<Value, double> ? reals_ : narrow_;
     for (std::size_t index = 0; index < values.size(); ++index) {
         char* at = room((values.size() - index) * sizeof(Element));
         Element element = 1;
         for (; index < values.size(); ++index) {
-            element = reals_.find(std::bit_cast<std::uint64_t>(values[index]));
+            element = known.find(keyOf(values[index], code));
             if (element == 0) {
                 break;
             }
@@ -127,24 +168,32 @@ void TypedStreamWriter::putReals(std::span<const double> values) {
         }
         position_ = at;
         if (element == 0) {
-            if (const Element known = elementFor(putNumberLiteral(Number::ofReal(values[index]))); known != 0) {
-                reals_.store(std::bit_cast<std::uint64_t>(values[index]), known);
+            element = elementFor(putLiteral(values[index], code));
+            if (element != 0) {
+                known.store(keyOf(values[index], code), element);
             }
         }
     }
 }
 
-void TypedStreamWriter::putSmall(std::span<const std::int8_t> values) {
-    if (numbers_ == Numbers::literal) {
-        putLiterals(values, 'i');
-        return;
+void TypedStreamWriter::putSmall(std::span<const std::int8_t> values, char code) {
+    if (smallCode_ != code) {
+        smallCode_ = code;
+        small_.fill(0);
     }
     for (std::size_t index = 0; index < values.size();) {
         const std::int8_t value = values[index];
         Element& element = small_[static_cast<std::uint8_t>(value)];
         if (element == 0) {
-            element = elementFor(putNumberLiteral(Number::ofInteger(value)));
-            ++index;
+            const std::uint64_t key = keyOf(std::int32_t{value}, code);
+            element = narrow_.find(key);
+            if (element == 0) {
+                element = elementFor(putLiteral(std::int32_t{value}, code));
+                ++index;
+                if (element != 0) {
+                    narrow_.store(key, element);
+                }
+            }
             continue;
         }
         std::size_t end = index + 1;
@@ -156,14 +205,23 @@ void TypedStreamWriter::putSmall(std::span<const std::int8_t> values) {
     }
 }
 
+// The number of the object written.
+template <class Value>
+std::size_t TypedStreamWriter::putLiteral(Value value, char code) {
+    const std::size_t object = nextObject_;
+    putNumberPrefix(code);
+    position_ = storeValue(room(prefixRoom), value, code);
+    endObject();
+    return object;
+}
+
 // What precedes the value is the same for all of them, once the first one has been written.
 template <class Value>
 void TypedStreamWriter::putLiterals(std::span<const Value> values, char code) {
     const std::string& prefix = numberPrefixes_[static_cast<unsigned char>(code)];
     std::size_t index = 0;
     for (; index < values.size() && (prefix.empty() || prefix.size() > prefixBlock); ++index) {
-        putNumberLiteral(code == 'd' ? Number::ofReal(static_cast<double>(values[index]))
-                                     : Number::ofInteger(static_cast<std::int64_t>(values[index])));
+        putLiteral(values[index], code);
     }
     std::array<char, prefixBlock> block{};
     prefix.copy(block.data(), block.size());
@@ -173,39 +231,10 @@ void TypedStreamWriter::putLiterals(std::span<const Value> values, char code) {
     nextObject_ += values.size() - index;
     for (; index < values.size(); ++index) {
         std::memcpy(at, block.data(), block.size());
-        at = storeValue(at + size, values[index]);
+        at = storeValue(at + size, values[index], code);
         *at++ = static_cast<char>(streamtags::end);
     }
     position_ = at;
-}
-
-// The number of the object written.
-std::size_t TypedStreamWriter::putNumberLiteral(const Number& number) {
-    const std::size_t object = nextObject_;
-    putNumberPrefix(number.code);
-    switch (number.code) {
-        case 'f':
-            putFloat(narrowed(number.real));
-            break;
-        case 'd':
-            putDouble(number.real);
-            break;
-        case 'c':
-        case 'C':
-        case 'B':
-            put(static_cast<unsigned char>(number.integer));
-            break;
-        case 'S':
-        case 'I':
-        case 'L':
-        case 'Q':
-            putUnsigned(std::bit_cast<std::uint64_t>(number.integer));
-            break;
-        default:
-            putSigned(number.integer);
-    }
-    endObject();
-    return object;
 }
 
 // Type, class and type code of a number. From the second one of a type on they are references only, always the same.

@@ -98,13 +98,16 @@ private:
     void beginGroup(std::string_view types) { putSharedString(types); }
     void beginLiteral(const Class& description);
 
-    void putNumber(const Number& number);
-    std::size_t putNumberLiteral(const Number& number);
-    void putNumberValue(const Number& number);
-    void putReals(std::span<const double> values);
-    void putSmall(std::span<const std::int8_t> values);
+    template <class Value>
+    void putBlock(std::span<const Value> values, char code);
+    template <class Value>
+    void putShared(std::span<const Value> values, char code);
+    void putSmall(std::span<const std::int8_t> values, char code);
     template <class Value>
     void putLiterals(std::span<const Value> values, char code);
+    template <class Value>
+    std::size_t putLiteral(Value value, char code);
+    void putNumber(const Number& number);
     void putNumberPrefix(char code);
     SharedNumbers::Element elementFor(std::size_t object) const;
 
@@ -120,9 +123,11 @@ private:
     QHash<QString, std::size_t> texts_;
     QHash<quint64, std::size_t> dates_;
     QHash<const void*, std::size_t> records_;
-    SharedNumbers reals_;
-    std::array<SharedNumbers::Element, 256> small_{};  // of the 'i' that fit a byte, by that byte
-    std::map<std::pair<char, std::uint64_t>, SharedNumbers::Element> otherNumbers_;
+    SharedNumbers reals_;   // of type 'd', by their bits
+    SharedNumbers narrow_;  // of other types, by their 32 bits and the type above them
+    std::map<std::pair<char, std::int64_t>, SharedNumbers::Element> wide_;  // integers beyond 32 bits
+    std::array<SharedNumbers::Element, 256> small_{};  // those of narrow_ that fit a byte, by that byte, of one type
+    char smallCode_ = 'i';
     std::array<std::string, 128> numberPrefixes_;  // what precedes the value of a number literal, by type code
 };
 

@@ -160,10 +160,24 @@ TEST(RecordArchive, ReadsLongSeriesWhateverTheMixOfReferencesAndLiterals) {
     Series mixed = flags;
     mixed.append(std::span<const double>(depths).first(500));
     mixed.appendInteger(1000);
-    mixed.append(flags.smallBlock().first(300));
+    mixed.append(flags.block<std::int8_t>().first(300));
+    Series pressures;  // falling through the bytes
+    Series singles;
+    Series booleans;
+    Series wide;
+    for (int index = 0; index < 900; ++index) {
+        pressures.appendInteger(230 - index / 4);
+        singles.append(Number::ofReal(static_cast<double>(static_cast<float>(index % 40) / 10), 'f'));
+        booleans.append(Number::ofInteger(index % 3 == 0 ? 1 : 0, 'c'));
+        wide.append(Number::ofInteger(index % 2 == 0 ? 40000 : 200, 'S'));
+    }
+    EXPECT_EQ(pressures.block<std::int32_t>().size(), 900U);
+    EXPECT_EQ(booleans.block<std::int8_t>().size(), 900U);
+    Series growing = pressures;  // its copy stays as it is
+    growing.append(Number::ofInteger(5000000000, 'q'));
     Samples samples;
-    for (const Series& numbers :
-         {flags, Series::ofReals(depths), mixed, flags, Series::ofReals(depths), Series::empty(), Series()}) {
+    for (const Series& numbers : {flags, Series::ofReals(depths), mixed, pressures, flags, singles, booleans, wide,
+                                  growing, pressures, singles, Series::ofReals(depths), Series::empty(), Series()}) {
         Sample sample;
         sample.numbers = numbers;
         samples.push_back(std::make_shared<Sample>(sample));
@@ -354,7 +368,7 @@ TEST(RecordArchive, BoundsNestingAndMemory) {
                                   cardLayout);
     ASSERT_TRUE(file) << file.error().message().toStdString();
     EXPECT_EQ(file->records[1]->numbers, Series::ofReals({0.5}));
-    EXPECT_EQ(file->records[0]->numbers.realBlock().data(), file->records[1]->numbers.realBlock().data());
+    EXPECT_EQ(file->records[0]->numbers.block<double>().data(), file->records[1]->numbers.block<double>().data());
 }
 
 }  // namespace
