@@ -144,15 +144,12 @@ bool TypedStreamReader::startItem() {
     return false;
 }
 
-qint32 TypedStreamReader::readInteger() {
+qint32 TypedStreamReader::readAnyInteger() {
     if (!startItem()) {
         return 0;
     }
     const std::size_t start = scanner_.offset();
     const char code = scanner_.readTypeCode();
-    if (code == 'i') {
-        return static_cast<qint32>(scanner_.readInteger('i'));
-    }
     if (!isIntegerCode(code)) {
         scanner_.fail(StreamFault::wrongItemType, start);
         return 0;
@@ -185,7 +182,7 @@ float TypedStreamReader::readFloatBits() {
     return std::bit_cast<float>(readInteger());
 }
 
-QString TypedStreamReader::readText() {
+QString TypedStreamReader::readAnyText() {
     const ObjectEntry entry = readItemObject();
     if (entry.kind() == Holds::text) {
         return texts_[entry.payload()];

@@ -57,10 +57,13 @@ public:
 
     // The items of a record, each a group of its own. An integer may travel under any integer code that holds it, a
     // float under f or d. Objects of unknown classes read as nil.
-    qint32 readInteger();
+    qint32 readInteger() {
+        const auto small = scanner_.takeSmallInteger();
+        return small ? *small : readAnyInteger();
+    }
     float readFloat();
     float readFloatBits();
-    QString readText();
+    QString readText() { return scanner_.takeNil() ? QString() : readAnyText(); }
     Date readDate();
     Series readSeries();
     Image readImage();
@@ -68,6 +71,8 @@ public:
 private:
     struct SkipHandler;
 
+    qint32 readAnyInteger();
+    QString readAnyText();
     ObjectEntry readObject();
     ObjectEntry decode(const ObjectHead& head);
     ObjectEntry readItemObject();

@@ -81,6 +81,12 @@ public:
     std::string_view readCString();
     std::string_view readRaw(std::size_t count);
 
+    /// Takes an integer of type 'i' in a group of its own when both take one byte, as most do; nothing when they do
+    /// not.
+    std::optional<std::int32_t> takeSmallInteger();
+    /// Takes nil in a group of type "@"; whether it stood there.
+    bool takeNil();
+
     /// Index of a class, nil as -1.
     std::int32_t readClass();
     const StreamClass& classAt(std::int32_t index) const { return classes_[static_cast<std::size_t>(index)]; }
@@ -106,6 +112,14 @@ private:
         std::string_view text;
         char code;
     };
+
+    // The type code of a group that takes one byte to name it and whose value has begun; 0 for any other.
+    char codeOfNext() const {
+        const auto index = static_cast<signed char>(*position_) - streamtags::firstReference;
+        return index >= 0 && static_cast<std::size_t>(index) < strings_.size()
+                   ? strings_[static_cast<std::size_t>(index)].code
+                   : '\0';
+    }
 
     std::uint64_t readWord(int bytes);
     std::optional<std::size_t> readReference();
@@ -161,6 +175,24 @@ inline std::string_view TypedStreamScanner::readType() {
 inline char TypedStreamScanner::readTypeCode() {
     const std::size_t index = readTypeIndex();
     return ok() ? strings_[index].code : '\0';
+}
+
+inline std::optional<std::int32_t> TypedStreamScanner::takeSmallInteger() {
+    if (end_ - position_ < 2 || codeOfNext() != 'i') {
+        return std::nullopt;
+    }
+    const auto value = static_cast<signed char>(position_[1]);
+    if (value < streamtags::firstReference) {
+        return std::nullopt;
+    }
+    position_ += 2;
+    return value;
+}
+
+inline bool TypedStreamScanner::takeNil() {
+    const bool isNil = end_ - position_ >= 2 && position_[1] == streamtags::nil && codeOfNext() == '@';
+    position_ += isNil ? 2 : 0;
+    return isNil;
 }
 
 inline bool TypedStreamScanner::hasGroup() {
