@@ -214,6 +214,15 @@ bool MyDocumentController::succeeded(const Expected<void>& result) {
     return result.has_value();
 }
 
+bool MyDocumentController::isTaken(const QString& file, const DocumentWindow& window) {
+    const DocumentWindow* other = windowOf(file);
+    if (!other || other == &window) {
+        return false;
+    }
+    desktop_.alerts.fail(savingFailure(file, {text("Main", "File is open"), {}}));
+    return true;
+}
+
 bool MyDocumentController::saveDocument(DocumentWindow& window) {
     if (window.document().file().isEmpty()) {
         return saveDocumentAs(window);
@@ -232,12 +241,7 @@ bool MyDocumentController::saveDocumentAs(DocumentWindow& window) {
     if (!chosen) {
         return false;
     }
-    if (const auto* other = windowOf(chosen->file); other && other != &window) {
-        const Failure isOpen{text("Main", "File is open"), {}};
-        desktop_.alerts.fail(savingFailure(chosen->file, isOpen));
-        return false;
-    }
-    if (!succeeded(document.saveAs(chosen->file))) {
+    if (isTaken(chosen->file, window) || !succeeded(document.saveAs(chosen->file))) {
         return false;
     }
     recentDocuments_.note(document.file());
@@ -273,7 +277,7 @@ bool MyDocumentController::exportDocument(DocumentWindow& window) {
     const QString name = document.file().isEmpty() ? document.displayName() : file.completeBaseName();
     const QString proposal = document.file().isEmpty() ? name : file.absolutePath() + u'/' + name;
     const auto chosen = fileDialogs_.fileToSave(&window, text("Main", "Export document"), proposal, filters);
-    if (!chosen) {
+    if (!chosen || isTaken(chosen->file, window)) {
         return false;
     }
     const auto exported = withProgress(document, &window, TextKey("Main", "Exporting"), [&] {

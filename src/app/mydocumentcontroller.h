@@ -84,6 +84,8 @@ private:
     /// Null without a failure when the user cancelled.
     Expected<DocumentWindow*> open(const QString& file);
     DocumentWindow* windowOf(const QString& file) const;
+    /// Whether the file is that of another open document than the window's; tells when it is.
+    bool isTaken(const QString& file, const DocumentWindow& window);
     DocumentWindow* addWindow(const DocumentType& type, std::unique_ptr<Document> document);
     void removeWindow(DocumentWindow& window);
     void discardUntouched();

@@ -163,6 +163,18 @@ TEST_F(Documents, areExportedBeside) {
     EXPECT_EQ(app.fileDialogs.proposed, app.path(QStringLiteral("dives")));
     EXPECT_EQ(contents(file), "3");
     EXPECT_EQ(window->document().displayName(), u"dives.carnet");
+
+    // Never over an open document, its own included.
+    const QString other = app.savedLogbook(QStringLiteral("other.carnet"), 1);
+    app.documents.openFile(other);
+    for (const QString& taken : {window->document().file(), other}) {
+        const QByteArray before = contents(taken);
+        app.alerts.clear();
+        app.fileDialogs.save = {{taken, 0}};
+        EXPECT_FALSE(app.documents.exportDocument(*window));
+        EXPECT_EQ(app.alerts.failures.size(), 1U);
+        EXPECT_EQ(contents(taken), before);
+    }
 }
 
 TEST_F(Documents, askBeforeTheyCloseWithChanges) {

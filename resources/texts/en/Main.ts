@@ -104,6 +104,7 @@
 <message><source>Preferences not saved</source><translation>The preferences could not be saved to “%@”.</translation></message>
 <message><source>Print</source><translation>Print</translation></message>
 <message><source>Printing</source><translation>Printing…</translation></message>
+<message><source>Printing failed</source><translation>The document could not be printed.</translation></message>
 <message><source>Profile</source><translation>Profile</translation></message>
 <message><source>Rebreather</source><translation>Rebreather</translation></message>
 <message><source>Redo</source><translation>Redo</translation></message>

@@ -104,6 +104,7 @@
 <message><source>Preferences not saved</source><translation>Impossible d’enregistrer les préférences dans « %@ ».</translation></message>
 <message><source>Print</source><translation>Imprimer</translation></message>
 <message><source>Printing</source><translation>Impression…</translation></message>
+<message><source>Printing failed</source><translation>Le document n’a pas pu être imprimé.</translation></message>
 <message><source>Profile</source><translation>Profil</translation></message>
 <message><source>Rebreather</source><translation>Recycleur</translation></message>
 <message><source>Redo</source><translation>Rétablir</translation></message>

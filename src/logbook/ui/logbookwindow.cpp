@@ -5,6 +5,7 @@
 #include "logbook/ui/divesearchfield.h"
 #include "logbook/ui/divetable.h"
 #include "logbook/ui/renumberwindow.h"
+#include "platform/alerts.h"
 #include "platform/preferences.h"
 #include "platform/ui/icons.h"
 #include "platform/ui/printing.h"
@@ -187,8 +188,9 @@ void LogbookWindow::printLogbook() {
     carnet_.deselectAll();
     const PrintSettings settings = Carnet::defaultPrintingSettings(true);
     QPrinter printer;
-    if (runPrintDialog(this, settings, printer)) {
-        printTable(printer, *table_, settings, carnet_.displayName());
+    if (runPrintDialog(this, settings, printer) && !printTable(printer, *table_, settings, carnet_.displayName()) &&
+        printer.printerState() == QPrinter::Error) {
+        desktop_.alerts.fail({text("Main", "Printing failed"), printer.outputFileName()});
     }
 }
 
