@@ -11,6 +11,12 @@
 
 namespace tavrel {
 
+namespace {
+
+constexpr std::size_t divesPerReport = 256;
+
+}  // namespace
+
 Carnet::Carnet(Desktop& desktop, const std::vector<ExportType>& exportTypes)
     : ListDocument(desktop), form_(desktop), exportTypes_(exportTypes) {
     setType(typeName());
@@ -175,21 +181,32 @@ void Carnet::deleteDive() {
     updateUI();
 }
 
-void Carnet::renumDives(qint32 first) {
+bool Carnet::renumDives(qint32 first, const Progress& progress) {
+    bool cancelled = false;
     {
         const FormStateBase::Batch batch(form_.state());
         List dives = records();
-        for (std::size_t row = 0; row < dives.size(); ++row) {
+        for (std::size_t row = 0; row < dives.size() && !cancelled; ++row) {
             form_.editFields(*dives[row]);
             form_.state().setInteger(form_.controls().noPlongeeField,
                                      static_cast<qint32>(static_cast<quint32>(first) + static_cast<quint32>(row)));
             dives[row] = std::make_shared<const Plongee>(builtDive());
+            cancelled = progress && row % divesPerReport == 0 && !progress(row, dives.size());
         }
-        changeList(text("Carnet", "Undo renumber"), std::move(dives));
+        if (!cancelled) {
+            changeList(text("Carnet", "Undo renumber"), std::move(dives));
+        }
     }
-    selectRows({count() - 1});
+    if (!cancelled) {
+        selectRows({count() - 1});
+    } else if (selectedRow() < 0) {
+        blankFields();
+    }
     changementSelectionMaTableView();
-    Q_EMIT renumberWindowClosed();
+    if (!cancelled) {
+        Q_EMIT renumberWindowClosed();
+    }
+    return !cancelled;
 }
 
 // Before the form shows another dive or closes. A cleared form holds no selected dive: untouched there is nothing to

@@ -5,6 +5,7 @@
 #include "platform/listdocument.h"
 #include "platform/notificationcentre.h"
 #include "platform/printsettings.h"
+#include "platform/progress.h"
 
 #include <functional>
 #include <map>
@@ -51,8 +52,9 @@ public:
     void insertDive();
     void updateDive();
     void deleteDive();
-    /// Numbers all dives from first on, each through the form, whose corrections apply.
-    void renumDives(qint32 first);
+    /// Numbers all dives from first on, each through the form, whose corrections apply. Whether it came to its end;
+    /// cancelled, no dive is changed.
+    bool renumDives(qint32 first, const Progress& progress = {});
     /// Stores the form into the selected dive and goes to the one before or behind it.
     void prevDive() { step(-1); }
     void nextDive() { step(+1); }

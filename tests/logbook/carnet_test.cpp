@@ -126,6 +126,10 @@ TEST_F(CarnetTest, renumbersThroughTheForm) {
     carnet.undoStack().undo();
     EXPECT_EQ(numbers(), QList<int>({7, 3, 9}));
 
+    EXPECT_FALSE(carnet.renumDives(20, [](std::size_t, std::size_t) { return false; }));
+    EXPECT_EQ(numbers(), QList<int>({7, 3, 9}));
+    EXPECT_EQ(closed.count(), 1);
+
     Carnet empty(desktop.desktop());
     empty.renumDives(1);
     EXPECT_TRUE(empty.isChanged());

@@ -31,6 +31,7 @@
 <message><source>Column visibility</source><translation>Visibility</translation></message>
 <message><source>Column water</source><translation>Water</translation></message>
 <message><source>Column wreck</source><translation>Wreck</translation></message>
+<message><source>Copying</source><translation>Copying the dives…</translation></message>
 <message><source>Degree Celsius</source><translation>°C</translation></message>
 <message><source>Degree Farenheit</source><translation>°F</translation></message>
 <message><source>Dive number title</source><translation>Dive no. %d</translation></message>
@@ -196,6 +197,7 @@
 <message><source>Renumber explanation</source><translation>All dives are numbered anew, in the order in which the table shows them.</translation></message>
 <message><source>Renumber first</source><translation>Number of the first dive:</translation></message>
 <message><source>Renumber title</source><translation>Renumber Dives</translation></message>
+<message><source>Renumbering</source><translation>Renumbering the dives…</translation></message>
 <message><source>Replace dive</source><translation>Replace Dive %d</translation></message>
 <message><source>Semi-dry suit</source><translation>Semi-dry suit</translation></message>
 <message><source>Shorty</source><translation>Shorty</translation></message>

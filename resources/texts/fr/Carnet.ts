@@ -31,6 +31,7 @@
 <message><source>Column visibility</source><translation>Visibilité</translation></message>
 <message><source>Column water</source><translation>Eau</translation></message>
 <message><source>Column wreck</source><translation>Épave</translation></message>
+<message><source>Copying</source><translation>Copie des plongées…</translation></message>
 <message><source>Degree Celsius</source><translation>°C</translation></message>
 <message><source>Degree Farenheit</source><translation>°F</translation></message>
 <message><source>Dive number title</source><translation>Plongée n° %d</translation></message>
@@ -196,6 +197,7 @@
 <message><source>Renumber explanation</source><translation>Toutes les plongées sont renumérotées, dans l’ordre où le tableau les montre.</translation></message>
 <message><source>Renumber first</source><translation>Numéro de la première plongée :</translation></message>
 <message><source>Renumber title</source><translation>Renuméroter les plongées</translation></message>
+<message><source>Renumbering</source><translation>Renumérotation des plongées…</translation></message>
 <message><source>Replace dive</source><translation>Remplacer la plongée %d</translation></message>
 <message><source>Semi-dry suit</source><translation>Combinaison semi-étanche</translation></message>
 <message><source>Shorty</source><translation>Shorty</translation></message>

@@ -9,6 +9,7 @@
 #include "platform/preferences.h"
 #include "platform/ui/icons.h"
 #include "platform/ui/printing.h"
+#include "platform/ui/progresswindow.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -195,9 +196,11 @@ void LogbookWindow::printLogbook() {
 }
 
 void LogbookWindow::copySelection() {
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    QGuiApplication::clipboard()->setText(table_->selectionAsText());
-    QGuiApplication::restoreOverrideCursor();
+    ProgressWindow progress(this, text("Carnet", "Copying"));
+    const QString rows = table_->selectionAsText(progress.progress());
+    if (!rows.isNull()) {
+        QGuiApplication::clipboard()->setText(rows);
+    }
 }
 
 void LogbookWindow::showRowMenu(const QPoint& place) {

@@ -1,6 +1,7 @@
 #include "logbook/ui/renumberwindow.h"
 
 #include "platform/texts.h"
+#include "platform/ui/progresswindow.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -50,7 +51,8 @@ void RenumberWindow::bringToFront() {
 }
 
 void RenumberWindow::accept() {
-    carnet_.renumDives(first_->value());
+    ProgressWindow progress(this, text("Carnet", "Renumbering"));
+    carnet_.renumDives(first_->value(), progress.progress());
 }
 
 }  // namespace tavrel

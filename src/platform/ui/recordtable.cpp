@@ -130,7 +130,7 @@ void RecordTable::reveal(int row) {
     }
 }
 
-QString RecordTable::selectionAsText() const {
+QString RecordTable::selectionAsText(const Progress& progress) const {
     const auto* header = horizontalHeader();
     QList<int> columns;
     for (int place = 0; place < header->count(); ++place) {
@@ -138,8 +138,15 @@ QString RecordTable::selectionAsText() const {
             columns.append(column);
         }
     }
+    constexpr qsizetype rowsPerReport = 256;
+    const QList<int> rows = document_.selectedRows();
     QString result;
-    for (const int row : document_.selectedRows()) {
+    for (qsizetype place = 0; place < rows.size(); ++place) {
+        if (progress && place % rowsPerReport == 0 &&
+            !progress(static_cast<std::size_t>(place), static_cast<std::size_t>(rows.size()))) {
+            return {};
+        }
+        const int row = rows[place];
         for (const int column : columns) {
             QString words = model()->index(row, column).data(Qt::AccessibleTextRole).toString();
             for (const QChar separator : {u'\t', u'\n', u'\r'}) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/listdocument.h"
+#include "platform/progress.h"
 
 #include <QTableView>
 
@@ -24,7 +25,8 @@ public:
     /// Scrolls to the row, whatever columns are hidden.
     void reveal(int row);
     /// The words of the selected rows' cells: visible columns in the order shown, a tab between two, a line per row.
-    QString selectionAsText() const;
+    /// Null when it was cancelled.
+    QString selectionAsText(const Progress& progress = {}) const;
 
 Q_SIGNALS:
     /// A row was double-clicked, or Return was pressed on it.
