@@ -77,7 +77,7 @@ QString MyDocumentController::defaultType() const {
 }
 
 DocumentWindow* MyDocumentController::newDocument() {
-    const DocumentType* type = documentTypeNamed(types_, defaultType());
+    const DocumentType* type = documentKindNamed(types_, defaultType());
     if (!type) {
         return nullptr;
     }
@@ -114,12 +114,20 @@ DocumentWindow* MyDocumentController::windowOf(const QString& file) const {
     return nullptr;
 }
 
+Expected<const DocumentType*> MyDocumentController::typeOfFile(const QString& file) const {
+    return FileBytes::open(file).and_then([&](const FileBytes& bytes) {
+        return documentKindOf(types_, file, bytes.bytes()).map_error([&](const Failure& reason) {
+            return openingFailure(file, reason);
+        });
+    });
+}
+
 Expected<DocumentWindow*> MyDocumentController::open(const QString& file) {
     if (DocumentWindow* window = windowOf(file)) {
         bringToFront(window);
         return window;
     }
-    const auto type = documentTypeOf(types_, file);
+    const auto type = typeOfFile(file);
     if (!type) {
         if (!QFileInfo::exists(file)) {
             recentDocuments_.drop(QFileInfo(file).absoluteFilePath());

@@ -83,6 +83,7 @@ private:
 
     /// Null without a failure when the user cancelled.
     Expected<DocumentWindow*> open(const QString& file);
+    Expected<const DocumentType*> typeOfFile(const QString& file) const;
     DocumentWindow* windowOf(const QString& file) const;
     /// Whether the file is that of another open document than the window's; tells when it is.
     bool isTaken(const QString& file, const DocumentWindow& window);

@@ -30,14 +30,8 @@ DocumentTypes tavrelDocuments(FileDialogs& fileDialogs) {
         new ImportCommands(carnet, *window, desktop, fileDialogs);
         return window;
     };
-    return {{{"Main", "Carnet de plongee"},
-             TextKey("Main", "Carnet de plongee"),
-             "newCarnetDocumentMenuAction",
-             "carnet",
-             "Plongee",
-             newCarnet,
-             newLogbookWindow,
-             carnetExports}};
+    return {{Carnet::kind, TextKey("Main", "Carnet de plongee"), "newCarnetDocumentMenuAction", newCarnet,
+             newLogbookWindow, carnetExports}};
 }
 
 }  // namespace tavrel

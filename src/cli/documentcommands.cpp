@@ -65,11 +65,12 @@ void enterAll(DocumentDriver& driver, const std::vector<std::string>& entries) {
 }
 
 void runNew(const Arguments& arguments, Console& console) {
-    const DocumentKind* kind = documentKindNamed(fromArgument(arguments.type));
+    const auto kinds = documentKinds();
+    const DriverKind* kind = documentKindNamed(kinds, fromArgument(arguments.type));
     if (!kind) {
         QStringList names;
-        for (const DocumentKind& known : documentKinds()) {
-            names.append(known.name());
+        for (const DriverKind& known : kinds) {
+            names.append(known.name.text());
         }
         wrongUsage(textWith("Cli", "No such type", QStringLiteral("error !"), fromArgument(arguments.type),
                             names.join(QStringLiteral(", "))));
@@ -143,7 +144,7 @@ Expected<void> showJson(const QString& path, Console& console) {
     if (!bytes) {
         return tl::unexpected(bytes.error());
     }
-    const auto written = documentKindOf(path, bytes->bytes()).and_then([&](const DocumentKind* kind) {
+    const auto written = documentKindOf(documentKinds(), path, bytes->bytes()).and_then([&](const DriverKind* kind) {
         CliDesktop desktop(console);
         JsonWriter json = jsonOn(console);
         return kind->make(desktop.desktop())->writeJson(bytes->bytes(), json).map([&] { console.out << '\n'; });

@@ -2,6 +2,7 @@
 
 #include "forms/formstate.h"
 #include "platform/desktop.h"
+#include "platform/documentkind.h"
 #include "platform/failure.h"
 #include "platform/jsonwriter.h"
 #include "platform/listdocument.h"
@@ -66,21 +67,11 @@ protected:
     virtual bool hasEntryBeside(const QString& field) const = 0;
 };
 
-/// A type of document: the key of its name in the table "Main", the class of its records, the ending of its files.
-struct DocumentKind {
-    const char* key;
-    const char* recordClass;
-    const char* ending;
+/// A type of document that the commands work on.
+struct DriverKind : DocumentKind {
     std::unique_ptr<DocumentDriver> (*make)(Desktop& desktop);
-
-    QString name() const;
 };
 
-std::span<const DocumentKind> documentKinds();
-/// The type of that name, in the user's language or as its key; null when there is none.
-const DocumentKind* documentKindNamed(const QString& name);
-/// The type of a file by the records in it; one without records goes by its name's ending, a logbook when that says
-/// nothing.
-Expected<const DocumentKind*> documentKindOf(const QString& path, QByteArrayView file);
+std::span<const DriverKind> documentKinds();
 
 }  // namespace tavrel

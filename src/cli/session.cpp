@@ -16,7 +16,7 @@ Expected<void> Session::open(const QString& path) {
     if (!bytes) {
         return tl::unexpected(bytes.error());
     }
-    const auto kind = documentKindOf(path, bytes->bytes());
+    const auto kind = documentKindOf(documentKinds(), path, bytes->bytes());
     if (!kind) {
         return tl::unexpected(openingFailure(path, kind.error()));
     }

@@ -43,10 +43,6 @@ Carnet::Carnet(Desktop& desktop, const std::vector<ExportType>& exportTypes)
 
 Carnet::~Carnet() = default;
 
-QString Carnet::typeName() {
-    return text("Main", "Carnet de plongee");
-}
-
 void Carnet::listen(const char* name, std::function<void()> handler) {
     subscriptions_.push_back(desktop().notifications.subscribe(QString::fromLatin1(name), std::move(handler)));
 }

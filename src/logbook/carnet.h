@@ -2,6 +2,7 @@
 
 #include "logbook/diveform.h"
 #include "logbook/plongee.h"
+#include "platform/documentkind.h"
 #include "platform/listdocument.h"
 #include "platform/notificationcentre.h"
 #include "platform/printsettings.h"
@@ -31,8 +32,9 @@ public:
     explicit Carnet(Desktop& desktop, const std::vector<ExportType>& exportTypes = {});
     ~Carnet() override;
 
+    static constexpr DocumentKind kind{{"Main", "Carnet de plongee"}, "Plongee", "carnet"};
     /// The document's type name, localised.
-    static QString typeName();
+    static QString typeName() { return kind.name.text(); }
 
     DiveForm& form() { return form_; }
     const DiveForm& form() const { return form_; }

@@ -72,7 +72,7 @@ struct DiveControls : ControlTable<DiveControls> {
                                      .label = {"Carnet", "Label country code"},
                                      .pickList = PickList::countryCodeArray,
                                      .width = 8});
-    const Id gpsField = add({.name = "gpsField", .field = "gps", .label = {"Carnet", "Label position"}});
+    const Id gpsField = add({.name = "gpsField", .field = "gps", .label = {"Carnet", "Label position"}, .width = 26});
     const Id gpsSystemPopUp = add({.name = "gpsSystemPopUp",
                                    .kind = ControlKind::popUp,
                                    .field = "gpsSystem",

@@ -19,16 +19,14 @@ DocumentTypes testDocumentTypes() {
     const auto exports = [](Document&) {
         return QList<ExportFormat>{{QStringLiteral("Counted"), QStringLiteral("txt")}};
     };
-    return {{{"Main", "Carnet de plongee"},
-             TextKey("Main", "Carnet de plongee"),
-             "newCarnetDocumentMenuAction",
-             "carnet",
-             "Plongee",
-             [=](Desktop& desktop) { return std::make_unique<Carnet>(desktop, std::vector{counted}); },
-             makeWindow,
+    return {{Carnet::kind, TextKey("Main", "Carnet de plongee"), "newCarnetDocumentMenuAction",
+             [=](Desktop& desktop) { return std::make_unique<Carnet>(desktop, std::vector{counted}); }, makeWindow,
              exports},
-            {literal("Budget"), TextKey("Main", "Materiel"), "newBudgetDocumentMenuAction", "budget", "Coin",
-             [](Desktop& desktop) { return std::make_unique<Purse>(desktop); }, makeWindow}};
+            {{literal("Budget"), "Coin", "budget"},
+             TextKey("Main", "Materiel"),
+             "newBudgetDocumentMenuAction",
+             [](Desktop& desktop) { return std::make_unique<Purse>(desktop); },
+             makeWindow}};
 }
 
 QString TestApplication::savedLogbook(const QString& name, int dives) {

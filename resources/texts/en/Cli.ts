@@ -20,6 +20,5 @@
 <message><source>References</source><translation>References: %d</translation></message>
 <message><source>Row</source><translation>Row</translation></message>
 <message><source>System version</source><translation>System version: %d</translation></message>
-<message><source>Unknown records</source><translation>It holds records that no document here has (%@).</translation></message>
 </context>
 </TS>

@@ -20,6 +20,5 @@
 <message><source>References</source><translation>Références : %d</translation></message>
 <message><source>Row</source><translation>Ligne</translation></message>
 <message><source>System version</source><translation>Version du système : %d</translation></message>
-<message><source>Unknown records</source><translation>Il contient des fiches qu’aucun document ne connaît (%@).</translation></message>
 </context>
 </TS>
