@@ -178,31 +178,23 @@ void Carnet::deleteDive() {
 }
 
 bool Carnet::renumDives(qint32 first, const Progress& progress) {
-    bool cancelled = false;
-    {
-        const FormStateBase::Batch batch(form_.state());
-        List dives = records();
-        for (std::size_t row = 0; row < dives.size() && !cancelled; ++row) {
-            form_.editFields(*dives[row]);
-            form_.state().setInteger(form_.controls().noPlongeeField,
-                                     static_cast<qint32>(static_cast<quint32>(first) + static_cast<quint32>(row)));
-            dives[row] = std::make_shared<const Plongee>(builtDive());
-            cancelled = progress && row % divesPerReport == 0 && !progress(row, dives.size());
-        }
-        if (!cancelled) {
-            changeList(text("Carnet", "Undo renumber"), std::move(dives));
+    // In a form of its own: the window's one need not follow, and stays as it is when the user cancels.
+    DiveForm form(desktop());
+    List dives = records();
+    for (std::size_t row = 0; row < dives.size(); ++row) {
+        form.editFields(*dives[row]);
+        form.state().setInteger(form.controls().noPlongeeField,
+                                static_cast<qint32>(static_cast<quint32>(first) + static_cast<quint32>(row)));
+        dives[row] = std::make_shared<const Plongee>(form.addDiveToList());
+        if (progress && row % divesPerReport == 0 && !progress(row, dives.size())) {
+            return false;
         }
     }
-    if (!cancelled) {
-        selectRows({count() - 1});
-    } else if (selectedRow() < 0) {
-        blankFields();
-    }
+    changeList(text("Carnet", "Undo renumber"), std::move(dives));
+    selectRows({count() - 1});
     changementSelectionMaTableView();
-    if (!cancelled) {
-        Q_EMIT renumberWindowClosed();
-    }
-    return !cancelled;
+    Q_EMIT renumberWindowClosed();
+    return true;
 }
 
 // Before the form shows another dive or closes. A cleared form holds no selected dive: untouched there is nothing to

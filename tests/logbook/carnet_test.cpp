@@ -126,8 +126,10 @@ TEST_F(CarnetTest, renumbersThroughTheForm) {
     carnet.undoStack().undo();
     EXPECT_EQ(numbers(), QList<int>({7, 3, 9}));
 
+    type(controls.siteField, "typed");
     EXPECT_FALSE(carnet.renumDives(20, [](std::size_t, std::size_t) { return false; }));
     EXPECT_EQ(numbers(), QList<int>({7, 3, 9}));
+    EXPECT_EQ(shown(controls.siteField), u"typed");
     EXPECT_EQ(closed.count(), 1);
 
     Carnet empty(desktop.desktop());

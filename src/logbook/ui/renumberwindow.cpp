@@ -51,6 +51,8 @@ void RenumberWindow::bringToFront() {
 }
 
 void RenumberWindow::accept() {
+    // The form is about to hold another dive; what is being edited in it goes to its own first.
+    carnet_.storeEntries();
     ProgressWindow progress(this, text("Carnet", "Renumbering"));
     carnet_.renumDives(first_->value(), progress.progress());
 }
