@@ -217,6 +217,11 @@ bool NumberRun::resolve(const unsigned char* at, char code, std::uint64_t& numbe
     return isNarrow;
 }
 
+// The first two bytes of an element with a short reference; more than two bytes can be while those are not kept.
+std::uint64_t NumberRun::shortElement(const Known& known) const {
+    return known.byShort.empty() ? 0x10000 : elementType_ | std::uint64_t{streamtags::shortInteger} << 8;
+}
+
 template <class Value>
 std::size_t NumberRun::references(char code, std::size_t limit, Series& series) {
     constexpr bool isDouble = std::is_same_v<Value, double>;
@@ -237,12 +242,12 @@ std::size_t NumberRun::references(char code, std::size_t limit, Series& series) 
     const unsigned char* const last = scanner_.end_ - stepBytes;
     const std::uint64_t type = elementType_;
     const std::uint64_t* const byShort = known.byShort.data();
-    const std::uint64_t shortReference = known.byShort.empty() ? 0 : type | streamtags::shortInteger << 8;
+    const std::uint64_t shortReference = shortElement(known);
     const std::uint64_t pair = shortReference | shortReference << 32;
     std::size_t count = 0;
     while (count < most && at <= last) {
         const std::uint64_t word = wordAt(at);
-        if ((word & 0x0000ffff0000ffffU) == pair && shortReference != 0 && count + 2 <= most) {
+        if ((word & 0x0000ffff0000ffffU) == pair && count + 2 <= most) {
             const std::uint64_t first = byShort[word >> 16 & 0xffff];
             const std::uint64_t second = byShort[word >> 48];
             if (matches(first) && matches(second)) {
@@ -281,7 +286,7 @@ std::size_t NumberRun::smallReferences(char code, std::size_t limit, Series& ser
     const unsigned char* const last = scanner_.end_ - stepBytes;
     const std::uint64_t type = elementType_;
     const std::uint64_t quad = type * 0x0001000100010001U;
-    const std::uint64_t shortReference = narrow_.byShort.empty() ? 0 : type | streamtags::shortInteger << 8;
+    const std::uint64_t shortReference = shortElement(narrow_);
     const std::uint64_t wanted = narrowType(code) | smallMark;
     std::size_t count = 0;
     while (count < most && at <= last) {

@@ -64,6 +64,7 @@ private:
     std::size_t append(const Value* room, std::size_t count, std::size_t limit, char code, Series& series);
 
     bool findElementType();
+    std::uint64_t shortElement(const Known& known) const;
     Reference referenceAt(const unsigned char* at) const;
     ObjectEntry numberAt(const unsigned char* at) const;
     bool resolve(const unsigned char* at, char code, std::uint64_t& number, std::size_t& size);

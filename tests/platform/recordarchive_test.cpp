@@ -1,7 +1,11 @@
 #include "platform/recordarchive.h"
 
+#include "platform/colorarchive.h"
+#include "platform/typedstreamtree.h"
 #include "support/streambytes.h"
 
+#include <QDir>
+#include <QFile>
 #include <gtest/gtest.h>
 
 #include <array>
@@ -369,6 +373,21 @@ TEST(RecordArchive, BoundsNestingAndMemory) {
     ASSERT_TRUE(file) << file.error().message().toStdString();
     EXPECT_EQ(file->records[1]->numbers, Series::ofReals({0.5}));
     EXPECT_EQ(file->records[0]->numbers.block<double>().data(), file->records[1]->numbers.block<double>().data());
+}
+
+// Each once made a reader fall.
+TEST(RecordArchive, SurvivesHostileFiles) {
+    const QDir folder(QStringLiteral(TAVREL_TEST_DATA "/hostile"));
+    const QStringList names = folder.entryList({QStringLiteral("stream-*")}, QDir::Files);
+    ASSERT_FALSE(names.isEmpty());
+    for (const QString& name : names) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QByteArray bytes = file.readAll();
+        EXPECT_FALSE(unarchivedColor(bytes).isValid()) << name.toStdString();  // walks all objects
+        EXPECT_FALSE(readRecords(bytes, sampleLayout)) << name.toStdString();
+        static_cast<void>(inspectStream(bytes));
+    }
 }
 
 }  // namespace
