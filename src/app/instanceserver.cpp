@@ -1,9 +1,13 @@
 #include "app/instanceserver.h"
 
 #include <QDataStream>
+#include <QFile>
 #include <QLocalSocket>
-#include <QLockFile>
 #include <QStandardPaths>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 namespace tavrel {
 
@@ -18,6 +22,28 @@ QString userSocket() {
     // The runtime folder belongs to the user alone, so no one else can answer in the program's name.
     return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + QStringLiteral("/tavrel.socket");
 }
+
+/// Lets programs that start at the same moment look for the one that runs one after the other.
+class StartLock {
+public:
+    explicit StartLock(const QString& socket)
+        : file_(::open(QFile::encodeName(socket + QStringLiteral(".lock")).constData(), O_RDWR | O_CREAT | O_CLOEXEC,
+                       0600)) {
+        if (file_ >= 0) {
+            ::flock(file_, LOCK_EX);
+        }
+    }
+    StartLock(const StartLock&) = delete;
+    StartLock& operator=(const StartLock&) = delete;
+    ~StartLock() {
+        if (file_ >= 0) {
+            ::close(file_);
+        }
+    }
+
+private:
+    int file_;
+};
 
 }  // namespace
 
@@ -40,10 +66,7 @@ bool InstanceServer::handOver(const QStringList& files) {
 }
 
 bool InstanceServer::listen() {
-    QLockFile lock(socket_ + QStringLiteral(".lock"));
-    if (!lock.tryLock(patience)) {
-        return false;
-    }
+    const StartLock oneAtATime(socket_);
     // Listening would push aside whoever listens already.
     QLocalSocket other;
     other.connectToServer(socket_);

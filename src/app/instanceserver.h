@@ -19,7 +19,8 @@ public:
 
     /// Hands the files, as absolute paths, to the program that runs already; says whether one took them.
     bool handOver(const QStringList& files);
-    /// Takes the place of the one that runs. A place left behind by a program that died is taken over.
+    /// Takes the place of the one that runs; fails when another program was quicker. A place left behind by one that
+    /// died is taken over.
     bool listen();
 
 Q_SIGNALS:

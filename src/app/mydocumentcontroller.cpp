@@ -143,8 +143,10 @@ Expected<DocumentWindow*> MyDocumentController::open(const QString& file) {
     if (!*opened) {
         return tl::unexpected(opened->error());
     }
-    recentDocuments_.note(document->file());
     DocumentWindow* window = addWindow(**type, std::move(document));
+    // Writing the list can wait until the window is there.
+    QMetaObject::invokeMethod(
+        this, [this, name = window->document().file()] { recentDocuments_.note(name); }, Qt::QueuedConnection);
     discardUntouched();
     return window;
 }

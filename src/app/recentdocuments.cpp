@@ -20,6 +20,9 @@ QStringList RecentDocuments::files() const {
 
 void RecentDocuments::note(const QString& file) {
     QStringList latest = files();
+    if (!latest.isEmpty() && latest.constFirst() == file) {
+        return;
+    }
     latest.removeAll(file);
     latest.prepend(file);
     keep(latest.mid(0, longest));

@@ -42,6 +42,11 @@ protected:
         return names;
     }
 
+    QStringList recent() {
+        QCoreApplication::processEvents();
+        return app.documents.recentDocuments().files();
+    }
+
     TestApplication app;
 };
 
@@ -115,7 +120,7 @@ TEST_F(Documents, thatCannotBeReadLeaveTheOpenOneAlone) {
     EXPECT_EQ(app.alerts.failures.size(), 3U);
     EXPECT_EQ(app.documents.windows(), QList{open});
     EXPECT_EQ(app.frontCarnet().count(), 2);
-    EXPECT_EQ(app.documents.recentDocuments().files(), QStringList{open->document().file()});
+    EXPECT_EQ(recent(), QStringList{open->document().file()});
 }
 
 TEST_F(Documents, areSavedUnderANameAndReverted) {
@@ -128,7 +133,7 @@ TEST_F(Documents, areSavedUnderANameAndReverted) {
     EXPECT_TRUE(app.documents.saveDocument(*app.frontWindow()));
     EXPECT_FALSE(app.frontCarnet().isChanged());
     EXPECT_EQ(app.frontWindow()->windowTitle(), u"dives.carnet[*]");
-    EXPECT_EQ(app.documents.recentDocuments().files(), QStringList{file});
+    EXPECT_EQ(recent(), QStringList{file});
 
     app.frontCarnet().addDive();
     EXPECT_TRUE(app.frontWindow()->isWindowModified());
@@ -230,18 +235,19 @@ TEST_F(Documents, openAtTheStart) {
     const QString second = app.savedLogbook(QStringLiteral("second.carnet"), 1);
     app.documents.openFiles({first, second});
     EXPECT_EQ(names(), (QStringList{QStringLiteral("first.carnet"), QStringLiteral("second.carnet")}));
-    EXPECT_EQ(app.documents.recentDocuments().files(), (QStringList{second, first}));
+    EXPECT_EQ(recent(), (QStringList{second, first}));
 
     app.documents.closeAllDocuments();
     app.documents.applicationOpenUntitledFile();
     EXPECT_EQ(names(), QStringList{QStringLiteral("second.carnet")});
+    EXPECT_EQ(recent(), (QStringList{second, first}));
 
     app.documents.closeAllDocuments();
     QFile::remove(second);
     app.documents.applicationOpenUntitledFile();
     EXPECT_EQ(names(), QStringList{QStringLiteral("Untitled")});
     EXPECT_EQ(app.alerts.failures.size(), 1U);
-    EXPECT_EQ(app.documents.recentDocuments().files(), QStringList{first});
+    EXPECT_EQ(recent(), QStringList{first});
     app.frontCarnet().addDive();
     app.documents.launch({first});
     EXPECT_EQ(app.documents.windows().size(), 2);

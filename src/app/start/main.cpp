@@ -105,10 +105,10 @@ int main(int argc, char** argv) {
     }
     const QStringList files = absolutePaths(parser.positionalArguments());
     InstanceServer instances;
-    if (instances.handOver(files)) {
+    // Of two that start at the same moment, the one that does not get to listen hands over after all.
+    if (instances.handOver(files) || (!instances.listen() && instances.handOver(files))) {
         return 0;
     }
-    instances.listen();
 
     Preferences preferences;
     PickLists pickLists(preferences);
