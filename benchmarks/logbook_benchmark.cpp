@@ -1,6 +1,6 @@
 #include "benchmarks/ratio.h"
-#include "logbook/plongee.h"
-#include "platform/recordarchive.h"
+#include "dives/plongee.h"
+#include "archive/recordarchive.h"
 
 #include <benchmark/benchmark.h>
 #include <zlib.h>

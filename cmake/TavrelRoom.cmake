@@ -1,12 +1,12 @@
-# A room is a static library tavrel_<room>; its windows are a second one, tavrel_<room>_ui. What a room may include is
-# what it links, so an include against the grain fails to build.
+# A room is a folder of src/: a static library tavrel_<room>, and for its windows a second one, tavrel_<room>_ui, in its
+# folder ui/. A room includes only its own headers and those of rooms that it links, straight or through others. As a
+# static library could include what it likes, tests/house holds every include against the links that are declared here.
 
 add_library(tavrel_options INTERFACE)
 target_compile_options(tavrel_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Wold-style-cast)
 target_compile_definitions(tavrel_options INTERFACE
-  QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400
-  TAVREL_VERSION="${PROJECT_VERSION}")
+  QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 if(TAVREL_WARNINGS_AS_ERRORS)
   target_compile_options(tavrel_options INTERFACE -Werror)
 endif()
@@ -19,23 +19,40 @@ if(TAVREL_FUZZ)
   target_compile_options(tavrel_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined)
   target_link_options(tavrel_options INTERFACE -fsanitize=address,undefined)
 endif()
+find_program(TAVREL_MOLD mold)
+if(TAVREL_MOLD AND NOT TAVREL_FUZZ)
+  target_link_options(tavrel_options INTERFACE -fuse-ld=mold)
+endif()
 
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 
-# tavrel_room(NAME LINKS ...): the static library tavrel_NAME of the sources in this folder. Its headers are included as
-# "folder/header.h" from src/.
-function(tavrel_room name)
+# tavrel_room(LINKS ...): the library of the sources in this folder, named after it. Its headers are included as
+# "folder/header.h" from src/; the target all_verify_interface_header_sets compiles each of them alone.
+function(tavrel_room)
   cmake_parse_arguments(ROOM "" "" "LINKS;PRIVATE_LINKS;RESOURCES" ${ARGN})
-  file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+  file(RELATIVE_PATH folder ${PROJECT_SOURCE_DIR}/src ${CMAKE_CURRENT_SOURCE_DIR})
+  string(REPLACE "/" "_" name ${folder})
+  file(GLOB headers CONFIGURE_DEPENDS *.h)
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
   add_library(tavrel_${name} STATIC ${sources} ${ROOM_RESOURCES})
+  target_sources(tavrel_${name} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR}/src FILES ${headers})
+  target_sources(tavrel_${name} PRIVATE ${headers})
+  set_target_properties(tavrel_${name} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON LINKER_LANGUAGE CXX)
   target_include_directories(tavrel_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   target_link_libraries(tavrel_${name} PUBLIC tavrel_options ${ROOM_LINKS} PRIVATE ${ROOM_PRIVATE_LINKS})
+
+  list(FILTER ROOM_LINKS INCLUDE REGEX "^tavrel_")
+  list(JOIN ROOM_LINKS " " links)
+  set_property(GLOBAL APPEND PROPERTY TAVREL_ROOMS "${folder} tavrel_${name}: ${links}")
 endfunction()
 
-# tavrel_test(NAME LINKS ...): the test program NAME_tests of the sources in this folder. Windows are driven on the offscreen
-# platform; every test gets its own empty settings folder.
-function(tavrel_test name)
+# tavrel_test(LINKS ...): the test program of the sources in this folder of tests/, named after it. Windows are driven on
+# the offscreen platform; every test gets its own empty settings folder.
+function(tavrel_test)
   cmake_parse_arguments(TEST "" "" "LINKS" ${ARGN})
+  file(RELATIVE_PATH folder ${PROJECT_SOURCE_DIR}/tests ${CMAKE_CURRENT_SOURCE_DIR})
+  string(REPLACE "/" "_" name ${folder})
   file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
   add_executable(${name}_tests ${sources})
   target_include_directories(${name}_tests PRIVATE ${PROJECT_SOURCE_DIR}/tests)

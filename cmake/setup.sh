@@ -3,7 +3,7 @@
 set -euo pipefail
 
 packages=(
-  g++ cmake ninja-build ccache
+  g++ cmake ninja-build ccache mold
   qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6 qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
   qt6-translations-l10n libgl-dev
   libfmt-dev libexpected-dev libcli11-dev libxml2-dev zlib1g-dev

@@ -1,8 +1,8 @@
 #include "interchange/imports.h"
-#include "platform/alerts.h"
-#include "platform/clock.h"
-#include "platform/picklists.h"
-#include "platform/preferences.h"
+#include "desktop/alerts.h"
+#include "desktop/clock.h"
+#include "desktop/picklists.h"
+#include "desktop/preferences.h"
 
 #include <QTemporaryDir>
 

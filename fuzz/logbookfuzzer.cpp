@@ -1,5 +1,5 @@
-#include "logbook/plongee.h"
-#include "platform/recordarchive.h"
+#include "dives/plongee.h"
+#include "archive/recordarchive.h"
 
 #include <QByteArrayView>
 

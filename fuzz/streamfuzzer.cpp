@@ -1,6 +1,6 @@
-#include "platform/colorarchive.h"
-#include "platform/recordarchive.h"
-#include "platform/typedstreamtree.h"
+#include "archive/colorarchive.h"
+#include "archive/recordarchive.h"
+#include "archive/typedstreamtree.h"
 
 #include <QByteArrayView>
 

@@ -1,6 +1,6 @@
 #include "divelist.h"
 
-#include "platform/numbers.h"
+#include "base/numbers.h"
 
 #include <map>
 

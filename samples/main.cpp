@@ -1,8 +1,8 @@
 #include "cli/clidesktop.h"
 #include "cli/logbookdriver.h"
 #include "divelist.h"
-#include "platform/safefile.h"
-#include "platform/texts.h"
+#include "base/safefile.h"
+#include "base/texts.h"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>

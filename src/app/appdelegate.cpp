@@ -1,9 +1,9 @@
 #include "app/appdelegate.h"
 
 #include "app/picklistwindow.h"
-#include "platform/notificationcentre.h"
-#include "platform/texts.h"
-#include "platform/ui/bringtofront.h"
+#include "base/texts.h"
+#include "desktop/notificationcentre.h"
+#include "desktop/ui/bringtofront.h"
 
 #include <QApplication>
 #include <QMessageBox>

@@ -2,7 +2,7 @@
 
 #include "app/picklisteditors.h"
 #include "calculators/ui/calculatorwindows.h"
-#include "platform/desktop.h"
+#include "desktop/desktop.h"
 
 #include <QObject>
 #include <QWidget>

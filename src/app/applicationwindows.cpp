@@ -1,8 +1,8 @@
 #include "app/applicationwindows.h"
 
-#include "app/keptframe.h"
-#include "platform/preferences.h"
-#include "platform/texts.h"
+#include "base/texts.h"
+#include "desktop/preferences.h"
+#include "desktop/ui/keptframe.h"
 
 #include <QCoreApplication>
 #include <QEvent>

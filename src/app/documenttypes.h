@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/desktop.h"
-#include "platform/document.h"
-#include "platform/documentkind.h"
-#include "platform/ui/documentwindow.h"
+#include "desktop/desktop.h"
+#include "documents/document.h"
+#include "documents/documentkind.h"
+#include "documents/ui/documentwindow.h"
 
 #include <QList>
 #include <QString>
@@ -22,7 +22,7 @@ struct ExportFormat {
 
 /// A type of document that the application creates and opens.
 struct DocumentType : DocumentKind {
-    TextKey title;          ///< in the menu of new documents and in file dialogs
+    Title title;            ///< in the menu of new documents and in file dialogs
     const char* newAction;  ///< the new-document action
     std::function<std::unique_ptr<Document>(Desktop&)> makeDocument;
     std::function<std::unique_ptr<DocumentWindow>(Document&, Desktop&)> makeWindow;

@@ -2,7 +2,7 @@
 
 #include "app/appdelegate.h"
 #include "app/mydocumentcontroller.h"
-#include "platform/ui/printing.h"
+#include "documents/ui/printing.h"
 
 #include <QApplication>
 
@@ -30,83 +30,82 @@ void quit(Context& context) {
 }
 
 const MenuEntry entries[] = {
-    {Menu::file, Part::newDocuments, "new", TextKey("Main", "Menu new"), "", "nouveau"},
-    {Menu::file, Part::command, "openDocument", TextKey("Main", "Menu open"), "Ctrl+O", "ouvrir",
+    {Menu::file, Part::newDocuments, "new", Title("Main", "Menu new"), "", "nouveau"},
+    {Menu::file, Part::command, "openDocument", Title("Main", "Menu open"), "Ctrl+O", "ouvrir",
      [](Context& context) { context.documents.openDocument(&context.window); }, nullptr, "", true},
-    {Menu::file, Part::recentDocuments, "recent", TextKey("Main", "Menu open recent")},
+    {Menu::file, Part::recentDocuments, "recent", Title("Main", "Menu open recent")},
     {Menu::file, Part::separator},
-    {Menu::file, Part::command, "closeDocument", TextKey("Main", "Menu close"), "Ctrl+W", "fermer",
+    {Menu::file, Part::command, "closeDocument", Title("Main", "Menu close"), "Ctrl+W", "fermer",
      [](Context& context) { context.documents.closeDocument(context.window); }},
-    {Menu::file, Part::command, "saveDocument", TextKey("Main", "Save"), "Ctrl+S", "enregistrer",
+    {Menu::file, Part::command, "saveDocument", Title("Main", "Save"), "Ctrl+S", "enregistrer",
      [](Context& context) { context.documents.saveDocument(context.window); }, nullptr, "", true},
-    {Menu::file, Part::command, "saveDocumentAs", TextKey("Main", "Menu save as"), "Ctrl+Shift+S", "",
+    {Menu::file, Part::command, "saveDocumentAs", Title("Main", "Menu save as"), "Ctrl+Shift+S", "",
      [](Context& context) { context.documents.saveDocumentAs(context.window); }, nullptr, "", true},
-    {Menu::file, Part::command, "revertDocumentToSaved", TextKey("Main", "Menu revert"), "", "",
+    {Menu::file, Part::command, "revertDocumentToSaved", Title("Main", "Menu revert"), "", "",
      [](Context& context) { context.documents.revertDocument(context.window); }, canRevert},
     {Menu::file, Part::separator},
-    {Menu::file, Part::imports, "import", TextKey("Main", "Menu import")},
-    {Menu::file, Part::command, "exportDocument", TextKey("Main", "Menu export"), "", "",
+    {Menu::file, Part::imports, "import", Title("Main", "Menu import")},
+    {Menu::file, Part::command, "exportDocument", Title("Main", "Menu export"), "", "",
      [](Context& context) { context.documents.exportDocument(context.window); }, canExport},
     {Menu::file, Part::separator},
-    {Menu::file, Part::command, "runPageLayout", TextKey("Main", "Menu page setup"), "Ctrl+Shift+P", "",
+    {Menu::file, Part::command, "runPageLayout", Title("Main", "Menu page setup"), "Ctrl+Shift+P", "",
      [](Context& context) { runPageLayout(&context.window); }},
-    {Menu::file, Part::command, "printDocument", TextKey("Main", "Menu print"), "Ctrl+P", "imprimante",
+    {Menu::file, Part::command, "printDocument", Title("Main", "Menu print"), "Ctrl+P", "imprimante",
      [](Context& context) { context.window.printDocument(); }},
     {Menu::file, Part::separator},
-    {Menu::file, Part::command, "terminate", TextKey("Main", "Menu quit"), "Ctrl+Q", "quitter", quit, nullptr, "",
-     true},
+    {Menu::file, Part::command, "terminate", Title("Main", "Menu quit"), "Ctrl+Q", "quitter", quit, nullptr, "", true},
 
-    {Menu::edit, Part::undo, "undo", TextKey("Main", "Undo"), "Ctrl+Z", "annuler", nullptr, nullptr, "", true},
-    {Menu::edit, Part::redo, "redo", TextKey("Main", "Redo"), "Ctrl+Shift+Z; Ctrl+Y", "retablir", nullptr, nullptr, "",
+    {Menu::edit, Part::undo, "undo", Title("Main", "Undo"), "Ctrl+Z", "annuler", nullptr, nullptr, "", true},
+    {Menu::edit, Part::redo, "redo", Title("Main", "Redo"), "Ctrl+Shift+Z; Ctrl+Y", "retablir", nullptr, nullptr, "",
      true},
     {Menu::edit, Part::separator},
     {Menu::edit, Part::editActions},
     {Menu::edit, Part::separator},
-    {Menu::edit, Part::command, "showPreferencePanel", TextKey("Main", "Menu preferences"), "Ctrl+,",
+    {Menu::edit, Part::command, "showPreferencePanel", Title("Main", "Menu preferences"), "Ctrl+,",
      "GeneralPreferences", [](Context& context) { context.documents.showPreferencePanel(); }, nullptr, "", true},
 
     {Menu::view, Part::viewActions},
 
     {Menu::own, Part::ownActions},
     {Menu::own, Part::separator},
-    {Menu::own, Part::command, "sendRenumDivesNotification", TextKey("Main", "Menu renumber"), "", "",
+    {Menu::own, Part::command, "sendRenumDivesNotification", Title("Main", "Menu renumber"), "", "",
      [](Context& context) { context.delegate.sendRenumDivesNotification(); }, nullptr, "Plongee"},
 
     {Menu::calculators, Part::calculators},
 
     {Menu::lists, Part::editors},
 
-    {Menu::window, Part::command, "performMiniaturize", TextKey("Main", "Menu minimise"), "Ctrl+M", "",
+    {Menu::window, Part::command, "performMiniaturize", Title("Main", "Menu minimise"), "Ctrl+M", "",
      [](Context& context) { context.window.showMinimized(); }},
-    {Menu::window, Part::command, "showPenseBeteWindow", TextKey("Main", "Memo"), "", "memo",
+    {Menu::window, Part::command, "showPenseBeteWindow", Title("Main", "Memo"), "", "memo",
      [](Context& context) { context.documents.showPenseBeteWindow(); }},
     {Menu::window, Part::separator},
     {Menu::window, Part::windows},
 
-    {Menu::help, Part::command, "about", TextKey("Main", "Menu about"), "", "tavrel",
+    {Menu::help, Part::command, "about", Title("Main", "Menu about"), "", "tavrel",
      [](Context& context) { context.delegate.showAbout(&context.window); }},
 };
 
 }  // namespace
 
-TextKey menuTitle(MenuName menu) {
+Title menuTitle(MenuName menu) {
     switch (menu) {
         case Menu::file:
-            return TextKey("Main", "Menu file");
+            return Title("Main", "Menu file");
         case Menu::edit:
-            return TextKey("Main", "Menu edit");
+            return Title("Main", "Menu edit");
         case Menu::view:
-            return TextKey("Main", "Menu view");
+            return Title("Main", "Menu view");
         case Menu::own:
             return {};
         case Menu::calculators:
-            return TextKey("Main", "Menu calculators");
+            return Title("Main", "Menu calculators");
         case Menu::lists:
-            return TextKey("Main", "Menu lists");
+            return Title("Main", "Menu lists");
         case Menu::window:
-            return TextKey("Main", "Menu window");
+            return Title("Main", "Menu window");
         case Menu::help:
-            return TextKey("Main", "Menu help");
+            return Title("Main", "Menu help");
     }
     Q_UNREACHABLE();
     return {};

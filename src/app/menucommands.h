@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/texts.h"
-#include "platform/ui/documentwindow.h"
+#include "base/texts.h"
+#include "documents/ui/documentwindow.h"
 
 #include <span>
 
@@ -41,7 +41,7 @@ struct MenuEntry {
     MenuName menu;
     MenuPart part;
     const char* name = "";  ///< of the action, for those who look for it
-    TextKey title = {};
+    Title title = {};
     const char* shortcut = "";  ///< several are parted by semicolons
     const char* icon = "";
     void (*run)(MenuContext&) = nullptr;
@@ -51,7 +51,7 @@ struct MenuEntry {
 };
 
 /// The title of a menu of the menu bar; null for the document's own, which names itself.
-TextKey menuTitle(MenuName menu);
+Title menuTitle(MenuName menu);
 
 /// All menus from left to right, each from top to bottom.
 std::span<const MenuEntry> menuEntries();

@@ -2,12 +2,12 @@
 
 #include "app/applicationwindows.h"
 #include "app/preferenceswindow.h"
-#include "platform/alerts.h"
-#include "platform/preferences.h"
-#include "platform/safefile.h"
-#include "platform/texts.h"
-#include "platform/ui/bringtofront.h"
-#include "platform/ui/progresswindow.h"
+#include "base/safefile.h"
+#include "base/texts.h"
+#include "desktop/alerts.h"
+#include "desktop/preferences.h"
+#include "desktop/ui/bringtofront.h"
+#include "desktop/ui/progresswindow.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -31,7 +31,7 @@ FileFilter filterOf(const DocumentType& type) {
 }
 
 /// Does a document's reading or exporting with its progress shown; nothing when the user cancelled it.
-std::optional<Expected<void>> withProgress(Document& document, QWidget* window, TextKey title,
+std::optional<Expected<void>> withProgress(Document& document, QWidget* window, Title title,
                                            const std::function<Expected<void>()>& doWork) {
     ProgressWindow work(window, text(title));
     document.setProgress(work.progress());
@@ -135,7 +135,7 @@ Expected<DocumentWindow*> MyDocumentController::open(const QString& file) {
         return tl::unexpected(type.error());
     }
     auto document = (*type)->makeDocument(desktop_);
-    const auto opened = withProgress(*document, QApplication::activeWindow(), TextKey("Main", "Loading"),
+    const auto opened = withProgress(*document, QApplication::activeWindow(), Title("Main", "Loading"),
                                      [&] { return document->open(file); });
     if (!opened) {
         return nullptr;
@@ -260,13 +260,12 @@ bool MyDocumentController::saveDocumentAs(DocumentWindow& window) {
 
 bool MyDocumentController::revertDocument(DocumentWindow& window) {
     Document& document = window.document();
-    const QString question = textWith("Main", "Revert question", QStringLiteral("error !"), document.displayName());
+    const QString question = textWith("Main", "Revert question", document.displayName());
     desktop_.alerts.beep();
     if (desktop_.alerts.ask(question, {text("Main", "Revert"), text("Main", "Cancel")}) != 0) {
         return false;
     }
-    const auto reverted =
-        withProgress(document, &window, TextKey("Main", "Loading"), [&] { return document.revert(); });
+    const auto reverted = withProgress(document, &window, Title("Main", "Loading"), [&] { return document.revert(); });
     return reverted && succeeded(*reverted);
 }
 
@@ -290,7 +289,7 @@ bool MyDocumentController::exportDocument(DocumentWindow& window) {
     if (!chosen || isTaken(chosen->file, window)) {
         return false;
     }
-    const auto exported = withProgress(document, &window, TextKey("Main", "Exporting"), [&] {
+    const auto exported = withProgress(document, &window, Title("Main", "Exporting"), [&] {
         return document.exportAs(chosen->file, formats.value(chosen->filter).name);
     });
     return exported && succeeded(*exported);
@@ -310,7 +309,7 @@ bool MyDocumentController::mayClose(DocumentWindow& window) {
     bringToFront(&window);
     asked_.insert(&window);
     desktop_.alerts.beep();
-    const QString question = textWith("Main", "Save changes", QStringLiteral("error !"), document.displayName());
+    const QString question = textWith("Main", "Save changes", document.displayName());
     const int answer =
         desktop_.alerts.ask(question, {text("Main", "Save"), text("Main", "Don't save"), text("Main", "Cancel")});
     const bool goesOn = answer == 0 ? saveDocument(window) : answer == 1;

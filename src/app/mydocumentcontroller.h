@@ -2,7 +2,7 @@
 
 #include "app/documenttypes.h"
 #include "app/recentdocuments.h"
-#include "platform/ui/filedialogs.h"
+#include "desktop/ui/filedialogs.h"
 
 #include <QObject>
 #include <QSet>

@@ -1,9 +1,9 @@
 #include "app/picklistwindow.h"
 
-#include "app/keptframe.h"
-#include "platform/alerts.h"
-#include "platform/preferences.h"
-#include "platform/texts.h"
+#include "base/texts.h"
+#include "desktop/alerts.h"
+#include "desktop/preferences.h"
+#include "desktop/ui/keptframe.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -109,7 +109,7 @@ void PickListEditor::store() {
 }
 
 void PickListEditor::showTotal() {
-    totalField_->setText(textWith("Carnet", "Entries", QStringLiteral("error !"), tableView_->model()->rowCount()));
+    totalField_->setText(textWith("Carnet", "Entries", tableView_->model()->rowCount()));
 }
 
 PickListWindow::PickListWindow(Desktop& desktop, const PickListEditorDescription& description) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/picklisteditors.h"
-#include "platform/desktop.h"
+#include "desktop/desktop.h"
 
 #include <QAbstractListModel>
 #include <QLabel>

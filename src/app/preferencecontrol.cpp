@@ -1,7 +1,7 @@
 #include "app/preferencecontrol.h"
 
 #include "app/colorwell.h"
-#include "platform/numbers.h"
+#include "base/numbers.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -85,7 +85,7 @@ private:
 class PopUpControl : public PreferenceControl {
 public:
     PopUpControl(const PreferenceKey& key, QWidget* parent) : box_(new QComboBox(parent)) {
-        for (const TextKey& choice : key.choices) {
+        for (const Title& choice : key.choices) {
             box_->addItem(text(choice));
         }
     }

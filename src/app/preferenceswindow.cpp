@@ -1,9 +1,9 @@
 #include "app/preferenceswindow.h"
 
-#include "app/keptframe.h"
-#include "platform/alerts.h"
-#include "platform/preferences.h"
-#include "platform/ui/customtoolbar.h"
+#include "desktop/alerts.h"
+#include "desktop/preferences.h"
+#include "desktop/ui/customtoolbar.h"
+#include "desktop/ui/keptframe.h"
 
 #include <QActionGroup>
 #include <QEvent>
@@ -39,7 +39,7 @@ bool isNamed(const PreferenceKey& key, const char* name) {
     return name && std::strcmp(key.key, name) == 0;
 }
 
-bool isSame(TextKey left, TextKey right) {
+bool isSame(Title left, Title right) {
     return std::strcmp(left.key, right.key) == 0;
 }
 
@@ -95,9 +95,9 @@ QWidget* PreferencesWindow::newPage(int page) {
     auto* widget = new QWidget;
     auto* layout = new QVBoxLayout(widget);
     layout->setContentsMargins(0, 0, 0, 0);
-    std::vector<TextKey> groups;
+    std::vector<Title> groups;
     for (const PreferenceKey& key : preferenceKeys()) {
-        const auto isKnown = [&](TextKey group) { return isSame(group, key.group); };
+        const auto isKnown = [&](Title group) { return isSame(group, key.group); };
         if (key.page == page && std::none_of(groups.begin(), groups.end(), isKnown)) {
             groups.push_back(key.group);
             layout->addWidget(newGroup(page, key.group, widget));
@@ -107,7 +107,7 @@ QWidget* PreferencesWindow::newPage(int page) {
     return widget;
 }
 
-QWidget* PreferencesWindow::newGroup(int page, TextKey group, QWidget* parent) {
+QWidget* PreferencesWindow::newGroup(int page, Title group, QWidget* parent) {
     auto* box = new QGroupBox(text(group), parent);
     auto* layout = new QGridLayout(box);
     layout->setColumnStretch(columnsPerRow, 1);
@@ -126,7 +126,7 @@ QWidget* PreferencesWindow::newGroup(int page, TextKey group, QWidget* parent) {
             auto* label = new QLabel(text(key.label), box);
             label->setBuddy(control);
             label->setIndent(key.enabledBy ? 24 : 0);
-            auto* unit = new QLabel(key.unit.isNull() ? QString() : fillFormat(text(key.unit), {}), box);
+            auto* unit = new QLabel(key.unit.isEmpty() ? QString() : fillFormat(text(key.unit), {}), box);
             auto* line = new QHBoxLayout;
             line->addWidget(control);
             line->addWidget(unit);
@@ -182,7 +182,7 @@ void PreferencesWindow::goView(int page) {
     stack_->setCurrentWidget(shown);
     QAction* action = toolBar_->action(QString::fromLatin1(pageItems[place].identifier));
     action->setChecked(true);
-    setWindowTitle(textWith("Preferences", "Window title", QStringLiteral("error !"), action->text()));
+    setWindowTitle(textWith("Preferences", "Window title", action->text()));
     updateUI();
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/preferencecontrol.h"
-#include "platform/desktop.h"
-#include "platform/notificationcentre.h"
+#include "desktop/desktop.h"
+#include "desktop/notificationcentre.h"
 
 #include <QLabel>
 #include <QMainWindow>
@@ -61,7 +61,7 @@ private:
     };
 
     QWidget* newPage(int page);
-    QWidget* newGroup(int page, TextKey group, QWidget* parent);
+    QWidget* newGroup(int page, Title group, QWidget* parent);
     void setUpToolBar();
     void load(const Row& row);
     void storeFrom(std::initializer_list<const char*> keys);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/preferences.h"
-#include "platform/texts.h"
+#include "base/texts.h"
+#include "desktop/preferences.h"
 
 #include <QColor>
 #include <QVariant>
@@ -42,12 +42,12 @@ struct PreferenceKey {
     PreferenceKind kind;
     int page;  ///< from 1
     PreferenceNotice notice;
-    TextKey group;
-    TextKey label;
-    TextKey unit = {};
+    Title group;
+    Title label;
+    Title unit = {};
     const char* enabledBy = nullptr;
-    std::span<const TextKey> choices = {};  ///< of a pop-up; the tag is the place
-    bool kept = true;                       ///< false: its switch neither shows nor stores anything
+    std::span<const Title> choices = {};  ///< of a pop-up; the tag is the place
+    bool kept = true;                     ///< false: its switch neither shows nor stores anything
 };
 
 /// The settings in the order in which they are stored.

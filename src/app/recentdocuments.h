@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/preferences.h"
+#include "desktop/preferences.h"
 
 #include <QObject>
 #include <QStringList>

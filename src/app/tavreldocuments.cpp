@@ -30,7 +30,7 @@ DocumentTypes tavrelDocuments(FileDialogs& fileDialogs) {
         new ImportCommands(carnet, *window, desktop, fileDialogs);
         return window;
     };
-    return {{Carnet::kind, TextKey("Main", "Carnet de plongee"), "newCarnetDocumentMenuAction", newCarnet,
+    return {{Carnet::kind, Title("Main", "Carnet de plongee"), "newCarnetDocumentMenuAction", newCarnet,
              newLogbookWindow, carnetExports}};
 }
 

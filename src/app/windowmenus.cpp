@@ -3,9 +3,9 @@
 #include "app/appdelegate.h"
 #include "app/mydocumentcontroller.h"
 #include "app/picklisteditors.h"
-#include "platform/texts.h"
-#include "platform/ui/bringtofront.h"
-#include "platform/ui/icons.h"
+#include "base/texts.h"
+#include "desktop/ui/bringtofront.h"
+#include "desktop/ui/icons.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -175,8 +175,8 @@ void WindowMenus::addStep(QMenu& menu, const MenuEntry& entry) {
     const bool isUndo = entry.part == MenuPart::undo;
     QAction* action = addCommand(menu, entry);
     const auto showStep = [&menu, action, isUndo, word = text(entry.title)](const QString& step) {
-        const TextKey key = isUndo ? TextKey("Main", "Undo step") : TextKey("Main", "Redo step");
-        action->setText(step.isEmpty() ? word : plain(textWith(key, word, step)));
+        const Title key = isUndo ? Title("Main", "Undo step") : Title("Main", "Redo step");
+        action->setText(step.isEmpty() ? word : plain(textWith(key, Fallback{word}, step)));
         assignMnemonics(menu.actions());
     };
     connect(action, &QAction::triggered, &stack, isUndo ? &QUndoStack::undo : &QUndoStack::redo);

@@ -1,9 +1,9 @@
 #include "calculators/calculatorpage.h"
 
+#include "base/numbers.h"
 #include "calculators/divingconstants.h"
 #include "calculators/nitrox.h"
 #include "calculators/trimix.h"
-#include "platform/numbers.h"
 
 #include <algorithm>
 #include <array>
@@ -15,8 +15,6 @@ namespace {
 
 using Values = std::span<const double>;
 
-const QString missingFormat = QStringLiteral("error !");
-
 // The inputs.
 
 constexpr const char* percent = "%";
@@ -24,47 +22,47 @@ constexpr const char* metres = "m";
 constexpr const char* bar = "bar";
 constexpr const char* litresPerMinute = "l/min";
 
-constexpr CalculatorInput ppO2Choice{"ppO2PopUp", "ppo2", TextKey("Nitrox", "Maximum ppO2"), bar,
+constexpr CalculatorInput ppO2Choice{"ppO2PopUp", "ppo2", Title("Nitrox", "Maximum ppO2"), bar,
                                      CalculatorInputKind::PpO2Menu};
-constexpr CalculatorInput nitroxOxygen{"fracO2Field", "o2", TextKey("Nitrox", "Oxygen of the mix"), percent};
+constexpr CalculatorInput nitroxOxygen{"fracO2Field", "o2", Title("Nitrox", "Oxygen of the mix"), percent};
 
 constexpr std::array profMaxInputs{nitroxOxygen, ppO2Choice};
 constexpr std::array bestMixInputs{
-    CalculatorInput{"profondeurMaxField", "depth", TextKey("Nitrox", "Planned maximum depth"), metres}, ppO2Choice};
+    CalculatorInput{"profondeurMaxField", "depth", Title("Nitrox", "Planned maximum depth"), metres}, ppO2Choice};
 constexpr std::array equivalentDepthInputs{
-    nitroxOxygen, CalculatorInput{"profondeurField", "depth", TextKey("Nitrox", "Depth"), metres}};
+    nitroxOxygen, CalculatorInput{"profondeurField", "depth", Title("Nitrox", "Depth"), metres}};
 constexpr std::array oxygenWindowInputs{
-    CalculatorInput{"winFO2", "o2", TextKey("Nitrox", "Oxygen of the mix"), percent},
-    CalculatorInput{"winMinPpO2", "min-ppo2", TextKey("Nitrox", "Minimum ppO2"), bar}};
+    CalculatorInput{"winFO2", "o2", Title("Nitrox", "Oxygen of the mix"), percent},
+    CalculatorInput{"winMinPpO2", "min-ppo2", Title("Nitrox", "Minimum ppO2"), bar}};
 constexpr std::array blendInputs{
-    CalculatorInput{"pressionInitialeField", "start-pressure", TextKey("Nitrox", "Pressure in the tank"), bar},
-    CalculatorInput{"fracO2InitialeField", "start-o2", TextKey("Nitrox", "Oxygen in the tank"), percent},
-    CalculatorInput{"pressionFinaleField", "end-pressure", TextKey("Nitrox", "Wanted pressure"), bar},
-    CalculatorInput{"fracO2FinaleField", "end-o2", TextKey("Nitrox", "Wanted oxygen"), percent}};
+    CalculatorInput{"pressionInitialeField", "start-pressure", Title("Nitrox", "Pressure in the tank"), bar},
+    CalculatorInput{"fracO2InitialeField", "start-o2", Title("Nitrox", "Oxygen in the tank"), percent},
+    CalculatorInput{"pressionFinaleField", "end-pressure", Title("Nitrox", "Wanted pressure"), bar},
+    CalculatorInput{"fracO2FinaleField", "end-o2", Title("Nitrox", "Wanted oxygen"), percent}};
 
-constexpr CalculatorInput trimixOxygen{"fracO2TxField", "o2", TextKey("Trimix", "Oxygen of the mix"), percent};
-constexpr std::array eadEndInputs{
-    trimixOxygen, CalculatorInput{"fracHeTxField", "he", TextKey("Trimix", "Helium of the mix"), percent},
-    CalculatorInput{"profondeurMaxField", "depth", TextKey("Trimix", "Depth"), metres}};
+constexpr CalculatorInput trimixOxygen{"fracO2TxField", "o2", Title("Trimix", "Oxygen of the mix"), percent};
+constexpr std::array eadEndInputs{trimixOxygen,
+                                  CalculatorInput{"fracHeTxField", "he", Title("Trimix", "Helium of the mix"), percent},
+                                  CalculatorInput{"profondeurMaxField", "depth", Title("Trimix", "Depth"), metres}};
 constexpr std::array profMinInputs{trimixOxygen};
 constexpr std::array bestTrimixInputs{
-    CalculatorInput{"depthTxField", "depth", TextKey("Trimix", "Planned depth"), metres},
-    CalculatorInput{"ENDField", "end", TextKey("Trimix", "Wanted narcotic depth"), metres},
-    CalculatorInput{"ppO2Field", "ppo2", TextKey("Trimix", "Wanted ppO2"), bar}};
+    CalculatorInput{"depthTxField", "depth", Title("Trimix", "Planned depth"), metres},
+    CalculatorInput{"ENDField", "end", Title("Trimix", "Wanted narcotic depth"), metres},
+    CalculatorInput{"ppO2Field", "ppo2", Title("Trimix", "Wanted ppO2"), bar}};
 
 constexpr std::array sodaTimeInputs{
-    CalculatorInput{"sodaWeightField", "weight", TextKey("Rebreather", "Absorbent weight"), "kg"},
-    CalculatorInput{"sodaCapacityField", "capacity", TextKey("Rebreather", "Absorbent capacity"), "l/kg"},
-    CalculatorInput{"metabolicProductionField", "production", TextKey("Rebreather", "Carbon dioxide production"),
+    CalculatorInput{"sodaWeightField", "weight", Title("Rebreather", "Absorbent weight"), "kg"},
+    CalculatorInput{"sodaCapacityField", "capacity", Title("Rebreather", "Absorbent capacity"), "l/kg"},
+    CalculatorInput{"metabolicProductionField", "production", Title("Rebreather", "Carbon dioxide production"),
                     litresPerMinute}};
 constexpr std::array breathedFractionInputs{
-    CalculatorInput{"brEanxField", "o2", TextKey("Rebreather", "Oxygen of the supply"), percent},
-    CalculatorInput{"brFlowField", "flow", TextKey("Rebreather", "Supply flow"), litresPerMinute},
-    CalculatorInput{"brMetabolicField", "consumption", TextKey("Rebreather", "Oxygen consumption"), litresPerMinute}};
+    CalculatorInput{"brEanxField", "o2", Title("Rebreather", "Oxygen of the supply"), percent},
+    CalculatorInput{"brFlowField", "flow", Title("Rebreather", "Supply flow"), litresPerMinute},
+    CalculatorInput{"brMetabolicField", "consumption", Title("Rebreather", "Oxygen consumption"), litresPerMinute}};
 constexpr std::array idealFlowInputs{
-    CalculatorInput{"idEanxField", "o2", TextKey("Rebreather", "Oxygen of the supply"), percent},
-    CalculatorInput{"idMetabolicField", "consumption", TextKey("Rebreather", "Oxygen consumption"), litresPerMinute},
-    CalculatorInput{"idRealFracO2Field", "fraction", TextKey("Rebreather", "Wanted breathed oxygen"), percent}};
+    CalculatorInput{"idEanxField", "o2", Title("Rebreather", "Oxygen of the supply"), percent},
+    CalculatorInput{"idMetabolicField", "consumption", Title("Rebreather", "Oxygen consumption"), litresPerMinute},
+    CalculatorInput{"idRealFracO2Field", "fraction", Title("Rebreather", "Wanted breathed oxygen"), percent}};
 
 // The constants that the formula lines show.
 
@@ -85,7 +83,7 @@ CalculatorResult profMax(Values in) {
 
 CalculatorResult bestMixPage(Values in) {
     const double oxygen = bestMix(in[0], in[1]);
-    return {textWith(TextKey("Nitrox", "Best Mix"), missingFormat, oxygen), {{"o2", oxygen}}, {}};
+    return {textWith(Title("Nitrox", "Best Mix"), oxygen), {{"o2", oxygen}}, {}};
 }
 
 CalculatorResult profEquivalente(Values in) {
@@ -95,101 +93,95 @@ CalculatorResult profEquivalente(Values in) {
 
 CalculatorResult oxygenWindowPage(Values in) {
     const OxygenWindow window = oxygenWindow(in[0], in[1]);
-    return {textWith(TextKey("Nitrox", "Oxygen window"), missingFormat, window.deepest, window.shallowest,
-                     window.nitrogenNeutral),
+    return {textWith(Title("Nitrox", "Oxygen window"), window.deepest, window.shallowest, window.nitrogenNeutral),
             {{"a", window.deepest}, {"b", window.shallowest}, {"c", window.nitrogenNeutral}},
             {}};
 }
 
 CalculatorResult blendNitrox(Values in) {
     const Blend result = blend(in[0], in[1], in[2], in[3]);
-    return {textWith(TextKey("Nitrox", "Oxygen to transfer"), missingFormat, result.oxygen, result.topUp),
+    return {textWith(Title("Nitrox", "Oxygen to transfer"), result.oxygen, result.topUp),
             {{"oxygen", result.oxygen}, {"topUp", result.topUp}},
             {}};
 }
 
 CalculatorResult calcEadEnd(Values in) {
     const EquivalentDepths depths = trimixEquivalentDepths(in[0], in[1], in[2]);
-    return {textWith(TextKey("Trimix", "EAD END"), missingFormat, depths.ead, depths.end),
-            {{"ead", depths.ead}, {"end", depths.end}},
-            {}};
+    return {
+        textWith(Title("Trimix", "EAD END"), depths.ead, depths.end), {{"ead", depths.ead}, {"end", depths.end}}, {}};
 }
 
 CalculatorResult profMin(Values in) {
     const std::optional<double> depth = trimixMinimumDepth(in[0]);
     if (!depth) {
-        return {text(TextKey("Main", "No valid datas"), missingFormat), {{"valid", false}}, {}};
+        return {text(Title("Main", "No valid datas")), {{"valid", false}}, {}};
     }
-    return {textWith(TextKey("Trimix", "Prof min"), missingFormat, *depth), {{"valid", true}, {"depth", *depth}}, {}};
+    return {textWith(Title("Trimix", "Prof min"), *depth), {{"valid", true}, {"depth", *depth}}, {}};
 }
 
 CalculatorResult calcBestTx(Values in) {
     const TrimixShares mix = bestTrimix(in[0], in[1], in[2]);
-    return {textWith(TextKey("Trimix", "Best Tx"), missingFormat, mix.oxygen, mix.helium),
-            {{"o2", mix.oxygen}, {"he", mix.helium}},
-            {}};
+    return {textWith(Title("Trimix", "Best Tx"), mix.oxygen, mix.helium), {{"o2", mix.oxygen}, {"he", mix.helium}}, {}};
 }
 
 CalculatorResult calcSodaTime(Values in) {
     const SodaTime time = sodaTime(in[0], in[1], in[2]);
-    return {textWith(TextKey("Rebreather", "Soda time"), missingFormat, time.hours, time.minutes),
+    return {textWith(Title("Rebreather", "Soda time"), time.hours, time.minutes),
             {{"hours", time.hours}, {"minutes", time.minutes}},
             {}};
 }
 
-CalculatorRow tableRow(TextKey format, double consumption, double value, RowColour colour) {
-    return {consumption, value, colour, textWith(format, missingFormat, consumption, value)};
+CalculatorRow tableRow(Title format, double consumption, double value, RowColour colour) {
+    return {consumption, value, colour, textWith(format, consumption, value)};
 }
 
 CalculatorResult calcBreathedFracO2(Values in) {
     const double fraction = breathedFraction(in[0], in[1], in[2]);
-    CalculatorResult result{
-        textWith(TextKey("Rebreather", "Breathed frac"), missingFormat, fraction), {{"fraction", fraction}}, {}};
+    CalculatorResult result{textWith(Title("Rebreather", "Breathed frac"), fraction), {{"fraction", fraction}}, {}};
     for (const double consumption : tableConsumptions) {
         const double value = breathedFraction(in[0], in[1], consumption);
         result.rows.push_back(
-            tableRow(TextKey("Rebreather", "Table breathed frac"), consumption, value, breathedFractionColour(value)));
+            tableRow(Title("Rebreather", "Table breathed frac"), consumption, value, breathedFractionColour(value)));
     }
     return result;
 }
 
 CalculatorResult calcIdealFlow(Values in) {
     const double flow = idealFlow(in[0], in[1], in[2]);
-    CalculatorResult result{textWith(TextKey("Rebreather", "Ideal flow"), missingFormat, flow), {{"flow", flow}}, {}};
+    CalculatorResult result{textWith(Title("Rebreather", "Ideal flow"), flow), {{"flow", flow}}, {}};
     for (const double consumption : tableConsumptions) {
         const double value = idealFlow(in[0], consumption, in[2]);
-        result.rows.push_back(
-            tableRow(TextKey("Rebreather", "Table flow"), consumption, value, idealFlowColour(value)));
+        result.rows.push_back(tableRow(Title("Rebreather", "Table flow"), consumption, value, idealFlowColour(value)));
     }
     return result;
 }
 
 const std::array<CalculatorPage, 11> pages{{
-    {CalculatorId::ProfMax, profMaxInputs, "resultatField", TextKey("Nitrox", "MOD formula"), noConstants, profMax},
-    {CalculatorId::BestMix, bestMixInputs, "resultatField", TextKey("Nitrox", "Best mix formula"), noConstants,
+    {CalculatorId::ProfMax, profMaxInputs, "resultatField", Title("Nitrox", "MOD formula"), noConstants, profMax},
+    {CalculatorId::BestMix, bestMixInputs, "resultatField", Title("Nitrox", "Best mix formula"), noConstants,
      bestMixPage},
-    {CalculatorId::EquivalentDepth, equivalentDepthInputs, "resultatField", TextKey("Nitrox", "EAD formula"),
-     airNitrogen, profEquivalente},
-    {CalculatorId::OxygenWindow, oxygenWindowInputs, "winResult", TextKey("Nitrox", "Oxygen window formula"),
+    {CalculatorId::EquivalentDepth, equivalentDepthInputs, "resultatField", Title("Nitrox", "EAD formula"), airNitrogen,
+     profEquivalente},
+    {CalculatorId::OxygenWindow, oxygenWindowInputs, "winResult", Title("Nitrox", "Oxygen window formula"),
      oxygenWindowConstants, oxygenWindowPage},
-    {CalculatorId::BlendNitrox, blendInputs, "resultatField", TextKey("Nitrox", "Blending formula"), airNitrogenShare,
+    {CalculatorId::BlendNitrox, blendInputs, "resultatField", Title("Nitrox", "Blending formula"), airNitrogenShare,
      blendNitrox},
-    {CalculatorId::TrimixEadEnd, eadEndInputs, "resultatField", TextKey("Trimix", "EAD END formula"), airNitrogen,
+    {CalculatorId::TrimixEadEnd, eadEndInputs, "resultatField", Title("Trimix", "EAD END formula"), airNitrogen,
      calcEadEnd},
-    {CalculatorId::TrimixProfMin, profMinInputs, "resultatField", TextKey("Trimix", "Minimum depth formula"),
+    {CalculatorId::TrimixProfMin, profMinInputs, "resultatField", Title("Trimix", "Minimum depth formula"),
      minimumDepthConstants, profMin},
-    {CalculatorId::BestTrimix, bestTrimixInputs, "resultatField", TextKey("Trimix", "Best trimix formula"), airNitrogen,
+    {CalculatorId::BestTrimix, bestTrimixInputs, "resultatField", Title("Trimix", "Best trimix formula"), airNitrogen,
      calcBestTx},
-    {CalculatorId::SodaTime, sodaTimeInputs, "sodaTimeField", TextKey("Rebreather", "Soda formula"), noConstants,
+    {CalculatorId::SodaTime, sodaTimeInputs, "sodaTimeField", Title("Rebreather", "Soda formula"), noConstants,
      calcSodaTime},
     {CalculatorId::BreathedFraction, breathedFractionInputs, "breathedFracO2Field",
-     TextKey("Rebreather", "Breathed fraction formula"), noConstants, calcBreathedFracO2, "c",
-     TextKey("Rebreather", "Breathed fraction legend"), airOxygen},
-    {CalculatorId::IdealFlow, idealFlowInputs, "idealFlowField", TextKey("Rebreather", "Ideal flow formula"),
-     noConstants, calcIdealFlow, "d", TextKey("Rebreather", "Ideal flow legend"), supplyFlows},
+     Title("Rebreather", "Breathed fraction formula"), noConstants, calcBreathedFracO2, "c",
+     Title("Rebreather", "Breathed fraction legend"), airOxygen},
+    {CalculatorId::IdealFlow, idealFlowInputs, "idealFlowField", Title("Rebreather", "Ideal flow formula"), noConstants,
+     calcIdealFlow, "d", Title("Rebreather", "Ideal flow legend"), supplyFlows},
 }};
 
-QString withConstants(TextKey key, Values constants) {
+QString withConstants(Title key, Values constants) {
     std::vector<FormatArgument> arguments;
     for (const double constant : constants) {
         arguments.push_back(formatArgument(constant));

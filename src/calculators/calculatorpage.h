@@ -19,7 +19,7 @@ enum class CalculatorInputKind {
 struct CalculatorInput {
     const char* field;   ///< the window's field
     const char* option;  ///< on the command line
-    TextKey label;       ///< with its mnemonic and its letter in the formula
+    Title label;         ///< with its mnemonic and its letter in the formula
     const char* unit;
     CalculatorInputKind kind = CalculatorInputKind::Number;
 };
@@ -48,12 +48,12 @@ struct CalculatorPage {
     CalculatorId id;
     std::span<const CalculatorInput> inputs;
     const char* resultField;
-    TextKey formula;  ///< the rule in divers' notation, with a %@ for each constant
+    Title formula;  ///< the rule in divers' notation, with a %@ for each constant
     std::span<const double> formulaConstants;
     /// The values in the order of `inputs`.
     CalculatorResult (*evaluate)(std::span<const double> values);
     const char* rowFieldLetter = nullptr;  ///< the row fields' first letter, on pages with a table
-    TextKey rowLegend{};                   ///< what the rows' colour says, with a %@ for each of its constants
+    Title rowLegend{};                     ///< what the rows' colour says, with a %@ for each of its constants
     std::span<const double> rowLegendConstants{};
 };
 

@@ -9,31 +9,31 @@ namespace {
 using enum CalculatorId;
 
 constexpr std::array<Calculator, calculatorCount> table{{
-    {ProfMax, CalculatorGroup::Nitrox, TextKey("Nitrox", "Maximum operating depth"), "displayProfMaxWindow",
+    {ProfMax, CalculatorGroup::Nitrox, Title("Nitrox", "Maximum operating depth"), "displayProfMaxWindow",
      "profMaxNitroxController", "Nitrox Prof Max", "mod"},
-    {BestMix, CalculatorGroup::Nitrox, TextKey("Nitrox", "Best mix for a depth"), "displayBestMixWindow",
+    {BestMix, CalculatorGroup::Nitrox, Title("Nitrox", "Best mix for a depth"), "displayBestMixWindow",
      "bestMixNitroxController", "Nitrox Best Mix", "best-mix"},
-    {EquivalentDepth, CalculatorGroup::Nitrox, TextKey("Nitrox", "Equivalent air depth"),
-     "displayEquivalentDepthWindow", "equivalentDepthNitroxController", "Nitrox Equivalent Depth", "ead"},
-    {OxygenWindow, CalculatorGroup::Nitrox, TextKey("Nitrox", "Depth range of a mix"), "displayOxygenWindow",
+    {EquivalentDepth, CalculatorGroup::Nitrox, Title("Nitrox", "Equivalent air depth"), "displayEquivalentDepthWindow",
+     "equivalentDepthNitroxController", "Nitrox Equivalent Depth", "ead"},
+    {OxygenWindow, CalculatorGroup::Nitrox, Title("Nitrox", "Depth range of a mix"), "displayOxygenWindow",
      "oxygenWindowNitroxController", "Nitrox Oxygen Window", "oxygen-window"},
-    {BlendNitrox, CalculatorGroup::Nitrox, TextKey("Nitrox", "Partial pressure blending"), "displayBlendNitroxWindow",
+    {BlendNitrox, CalculatorGroup::Nitrox, Title("Nitrox", "Partial pressure blending"), "displayBlendNitroxWindow",
      "blendNitroxController", "Blend Nitrox", "blend"},
-    {TrimixEadEnd, CalculatorGroup::Trimix, TextKey("Trimix", "Equivalent depths"), "displayTrimixEAD_ENDWindow",
+    {TrimixEadEnd, CalculatorGroup::Trimix, Title("Trimix", "Equivalent depths"), "displayTrimixEAD_ENDWindow",
      "trimixEAD_ENDController", "Trimix", "trimix-ead-end"},
-    {TrimixProfMin, CalculatorGroup::Trimix, TextKey("Trimix", "Minimum depth of a mix"), "displayTrimixProfMinWindow",
+    {TrimixProfMin, CalculatorGroup::Trimix, Title("Trimix", "Minimum depth of a mix"), "displayTrimixProfMinWindow",
      "trimixProfMinController", "Trimix Prof Min", "trimix-min-depth"},
-    {BestTrimix, CalculatorGroup::Trimix, TextKey("Trimix", "Best trimix for a depth"), "displayBestTrimix",
+    {BestTrimix, CalculatorGroup::Trimix, Title("Trimix", "Best trimix for a depth"), "displayBestTrimix",
      "bestTrimixController", "Best Trimix", "best-trimix"},
-    {SodaTime, CalculatorGroup::Rebreather, TextKey("Rebreather", "Absorbent endurance"), "displaySodaTimeWindow",
+    {SodaTime, CalculatorGroup::Rebreather, Title("Rebreather", "Absorbent endurance"), "displaySodaTimeWindow",
      "sodaTimeController", "Soda Time", "soda-time"},
-    {BreathedFraction, CalculatorGroup::Rebreather, TextKey("Rebreather", "SCR breathed fraction"),
+    {BreathedFraction, CalculatorGroup::Rebreather, Title("Rebreather", "SCR breathed fraction"),
      "displaySCRBreathedFracO2Window", "SCRBreathedFracO2Controller", "SCR Breathed Frac O2", "scr-fraction"},
-    {IdealFlow, CalculatorGroup::Rebreather, TextKey("Rebreather", "SCR ideal flow"), "displaySCRIdealFlowWindow",
+    {IdealFlow, CalculatorGroup::Rebreather, Title("Rebreather", "SCR ideal flow"), "displaySCRIdealFlowWindow",
      "SCRIdealFlowController", "SCR Flow Calc", "scr-flow"},
-    {Conversions, CalculatorGroup::Conversions, TextKey("Calculators", "Unit conversions"), "displayConversionsWindow",
+    {Conversions, CalculatorGroup::Conversions, Title("Calculators", "Unit conversions"), "displayConversionsWindow",
      "physiqueController", "Physique", "convert"},
-    {Gps, CalculatorGroup::Conversions, TextKey("Calculators", "GPS datum conversion"), "displayConversionsGPSWindow",
+    {Gps, CalculatorGroup::Conversions, Title("Calculators", "GPS datum conversion"), "displayConversionsGPSWindow",
      "gpsController", "Gps", "gps"},
 }};
 
@@ -57,18 +57,18 @@ const Calculator& calculator(CalculatorId id) {
     return table[static_cast<std::size_t>(id)];
 }
 
-TextKey calculatorGroupTitle(CalculatorGroup group) {
+Title calculatorGroupTitle(CalculatorGroup group) {
     switch (group) {
         case CalculatorGroup::Nitrox:
-            return TextKey("Calculators", "Nitrox");
+            return Title("Calculators", "Nitrox");
         case CalculatorGroup::Trimix:
-            return TextKey("Calculators", "Trimix");
+            return Title("Calculators", "Trimix");
         case CalculatorGroup::Rebreather:
-            return TextKey("Calculators", "Rebreather");
+            return Title("Calculators", "Rebreather");
         case CalculatorGroup::Conversions:
             break;
     }
-    return TextKey("Calculators", "Conversions");
+    return Title("Calculators", "Conversions");
 }
 
 QString withoutMnemonic(QString label) {

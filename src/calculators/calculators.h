@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/texts.h"
+#include "base/texts.h"
 
 #include <span>
 
@@ -31,7 +31,7 @@ enum class CalculatorGroup { Nitrox, Trimix, Rebreather, Conversions };
 struct Calculator {
     CalculatorId id;
     CalculatorGroup group;
-    TextKey title;
+    Title title;
     const char* action;           ///< AppDelegate's function that shows the window
     const char* controllerField;  ///< AppDelegate's name for the window's controller
     const char* windowLayout;     ///< the window's own name
@@ -41,7 +41,7 @@ struct Calculator {
 /// All calculators in menu order; a calculator's place is its id.
 std::span<const Calculator> calculators();
 const Calculator& calculator(CalculatorId id);
-TextKey calculatorGroupTitle(CalculatorGroup group);
+Title calculatorGroupTitle(CalculatorGroup group);
 
 /// A label without its mnemonic mark.
 QString withoutMnemonic(QString label);

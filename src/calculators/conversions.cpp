@@ -1,6 +1,6 @@
 #include "calculators/conversions.h"
 
-#include "platform/numbers.h"
+#include "base/numbers.h"
 
 #include <algorithm>
 #include <array>
@@ -31,22 +31,22 @@ constexpr int lastOfTwo = 2;
 constexpr int lastOfThree = 3;
 
 constexpr std::array<ConversionUnit, 2> pressureUnits{
-    {{"bar", "barField", "bar", TextKey("Calculators", "Bar"), firstTag},
-     {"psi", "psiField", "psi", TextKey("Calculators", "Pounds per square inch"), lastOfTwo}}};
+    {{"bar", "barField", "bar", Title("Calculators", "Bar"), firstTag},
+     {"psi", "psiField", "psi", Title("Calculators", "Pounds per square inch"), lastOfTwo}}};
 constexpr std::array<ConversionUnit, 3> volumeUnits{
-    {{"litres", "litresField", "l", TextKey("Calculators", "Litres"), firstTag},
-     {"cubicFeet", "cubicFeetUSField", "ft³", TextKey("Calculators", "Cubic feet (US)"), secondTag},
-     {"cubicInches", "cubicInchesUSField", "in³", TextKey("Calculators", "Cubic inches (US)"), lastOfThree}}};
+    {{"litres", "litresField", "l", Title("Calculators", "Litres"), firstTag},
+     {"cubicFeet", "cubicFeetUSField", "ft³", Title("Calculators", "Cubic feet (US)"), secondTag},
+     {"cubicInches", "cubicInchesUSField", "in³", Title("Calculators", "Cubic inches (US)"), lastOfThree}}};
 constexpr std::array<ConversionUnit, 2> lengthUnits{
-    {{"metres", "metresField", "m", TextKey("Calculators", "Metres"), firstTag},
-     {"feet", "feetField", "ft", TextKey("Calculators", "Feet"), lastOfTwo}}};
+    {{"metres", "metresField", "m", Title("Calculators", "Metres"), firstTag},
+     {"feet", "feetField", "ft", Title("Calculators", "Feet"), lastOfTwo}}};
 constexpr std::array<ConversionUnit, 2> massUnits{
-    {{"kilograms", "kilogrammeField", "kg", TextKey("Calculators", "Kilograms"), firstTag},
-     {"pounds", "livreUSField", "lb", TextKey("Calculators", "Pounds (US)"), lastOfTwo}}};
+    {{"kilograms", "kilogrammeField", "kg", Title("Calculators", "Kilograms"), firstTag},
+     {"pounds", "livreUSField", "lb", Title("Calculators", "Pounds (US)"), lastOfTwo}}};
 constexpr std::array<ConversionUnit, 3> temperatureUnits{
-    {{"celsius", "celsiusField", "°C", TextKey("Calculators", "Degrees Celsius"), firstTag},
-     {"fahrenheit", "farenheitField", "°F", TextKey("Calculators", "Degrees Fahrenheit"), secondTag},
-     {"kelvin", "kelvinField", "K", TextKey("Calculators", "Kelvin"), lastOfThree}}};
+    {{"celsius", "celsiusField", "°C", Title("Calculators", "Degrees Celsius"), firstTag},
+     {"fahrenheit", "farenheitField", "°F", Title("Calculators", "Degrees Fahrenheit"), secondTag},
+     {"kelvin", "kelvinField", "K", Title("Calculators", "Kelvin"), lastOfThree}}};
 
 std::vector<double> pressures(int tag, double value) {
     return tag == firstTag ? std::vector{value, value * psiPerBar} : std::vector{value / psiPerBar, value};
@@ -113,11 +113,11 @@ QString temperatureFormula() {
 }
 
 const std::array<ConversionTab, 5> tabs{
-    {{"pression", "choixPressionMatrix", TextKey("Calculators", "Pressure"), pressureUnits, pressures, pressureFormula},
-     {"volume", "choixVolumeMatrix", TextKey("Calculators", "Volume"), volumeUnits, volumes, volumeFormula},
-     {"longueur", "choixLongueurMatrix", TextKey("Calculators", "Length"), lengthUnits, lengths, lengthFormula},
-     {"masse", "choixMasseMatrix", TextKey("Calculators", "Mass"), massUnits, masses, massFormula},
-     {"temperature", "choixTemperatureMatrix", TextKey("Calculators", "Temperature"), temperatureUnits, temperatures,
+    {{"pression", "choixPressionMatrix", Title("Calculators", "Pressure"), pressureUnits, pressures, pressureFormula},
+     {"volume", "choixVolumeMatrix", Title("Calculators", "Volume"), volumeUnits, volumes, volumeFormula},
+     {"longueur", "choixLongueurMatrix", Title("Calculators", "Length"), lengthUnits, lengths, lengthFormula},
+     {"masse", "choixMasseMatrix", Title("Calculators", "Mass"), massUnits, masses, massFormula},
+     {"temperature", "choixTemperatureMatrix", Title("Calculators", "Temperature"), temperatureUnits, temperatures,
       temperatureFormula}}};
 
 }  // namespace

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/texts.h"
+#include "base/texts.h"
 
 #include <QString>
 
@@ -14,7 +14,7 @@ struct ConversionUnit {
     const char* name;    ///< on the command line and in its output
     const char* field;   ///< the window's field
     const char* symbol;  ///< behind a figure
-    TextKey label;
+    Title label;
     int tag;  ///< of its radio button
 };
 
@@ -22,7 +22,7 @@ struct ConversionUnit {
 struct ConversionTab {
     const char* identifier;  ///< of the tab
     const char* radioGroup;  ///< the group that chooses the source unit
-    TextKey title;
+    Title title;
     std::span<const ConversionUnit> units;
     /// The value of every unit, in the order of `units`, from a value in the unit of the tag; that value comes back as
     /// it is.

@@ -1,7 +1,7 @@
 #include "calculators/gps.h"
 
-#include "platform/numbers.h"
-#include "platform/texts.h"
+#include "base/numbers.h"
+#include "base/texts.h"
 
 #include <cmath>
 

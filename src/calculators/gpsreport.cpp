@@ -1,6 +1,6 @@
 #include "calculators/gpsreport.h"
 
-#include "platform/texts.h"
+#include "base/texts.h"
 
 namespace tavrel {
 

@@ -1,12 +1,12 @@
 #include "cli/calccommand.h"
 
+#include "base/jsonwriter.h"
+#include "base/numbers.h"
 #include "calculators/calculatorpage.h"
 #include "calculators/conversions.h"
 #include "calculators/gps.h"
 #include "calculators/gpsreport.h"
 #include "calculators/nitrox.h"
-#include "platform/jsonwriter.h"
-#include "platform/numbers.h"
 
 #include <CLI/CLI.hpp>
 #include <QRegularExpression>
@@ -203,9 +203,8 @@ QStringList angleParts(const QString& argument) {
 void checkAngle(const std::string& argument, bool sexagesimal) {
     const QStringList parts = angleParts(fromArgument(argument));
     if (sexagesimal ? parts.size() > 3 : parts.size() > 1 && startsWithNumber(parts[1])) {
-        const TextKey sentence =
-            sexagesimal ? TextKey("Cli", "Not sexagesimal") : TextKey("Cli", "Not decimal degrees");
-        wrongUsage(textWith(sentence, QStringLiteral("error !"), fromArgument(argument)));
+        const Title sentence = sexagesimal ? Title("Cli", "Not sexagesimal") : Title("Cli", "Not decimal degrees");
+        wrongUsage(textWith(sentence, fromArgument(argument)));
     }
 }
 

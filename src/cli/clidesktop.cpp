@@ -1,6 +1,6 @@
 #include "cli/clidesktop.h"
 
-#include "platform/defaults.h"
+#include "desktop/defaults.h"
 
 #include <ostream>
 

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "cli/commandline.h"
-#include "platform/alerts.h"
-#include "platform/clock.h"
-#include "platform/desktop.h"
-#include "platform/notificationcentre.h"
-#include "platform/picklists.h"
-#include "platform/preferences.h"
+#include "desktop/alerts.h"
+#include "desktop/clock.h"
+#include "desktop/desktop.h"
+#include "desktop/notificationcentre.h"
+#include "desktop/picklists.h"
+#include "desktop/preferences.h"
 
 namespace tavrel {
 

@@ -1,6 +1,6 @@
 #include "cli/commandline.h"
 
-#include "platform/texts.h"
+#include "base/texts.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/failure.h"
-#include "platform/jsonwriter.h"
+#include "base/failure.h"
+#include "base/jsonwriter.h"
 
 #include <QString>
 

@@ -1,9 +1,9 @@
 #include "cli/documentcommands.h"
 
+#include "base/safefile.h"
+#include "base/texts.h"
 #include "cli/listing.h"
 #include "cli/session.h"
-#include "platform/safefile.h"
-#include "platform/texts.h"
 
 #include <CLI/CLI.hpp>
 #include <QFileInfo>
@@ -56,7 +56,7 @@ void enterAll(DocumentDriver& driver, const std::vector<std::string>& entries) {
         const QString entry = fromArgument(argument);
         const auto equals = entry.indexOf(u'=');
         if (equals < 1) {
-            wrongUsage(textWith("Cli", "Not an entry", QStringLiteral("error !"), entry));
+            wrongUsage(textWith("Cli", "Not an entry", entry));
         }
         if (const auto entered = driver.enter(entry.left(equals), entry.mid(equals + 1)); !entered) {
             wrongUsage(entered.error().message());
@@ -72,12 +72,11 @@ void runNew(const Arguments& arguments, Console& console) {
         for (const DriverKind& known : kinds) {
             names.append(known.name.text());
         }
-        wrongUsage(textWith("Cli", "No such type", QStringLiteral("error !"), fromArgument(arguments.type),
-                            names.join(QStringLiteral(", "))));
+        wrongUsage(textWith("Cli", "No such type", fromArgument(arguments.type), names.join(QStringLiteral(", "))));
     }
     const QString path = fileArgument(arguments);
     if (QFileInfo::exists(path) || QFileInfo(path).isSymLink()) {
-        fail(console, {textWith("Cli", "File exists", QStringLiteral("error !"), path), {}});
+        fail(console, {textWith("Cli", "File exists", path), {}});
         return;
     }
     CliDesktop desktop(console);
@@ -162,7 +161,7 @@ Expected<void> showTable(const QString& path, const std::vector<std::string>& fi
     for (const std::string& field : fields) {
         const auto column = driver.column(fromArgument(field));
         if (!column) {
-            wrongUsage(textWith("Main", "No such field", QStringLiteral("error !"), fromArgument(field)));
+            wrongUsage(textWith("Main", "No such field", fromArgument(field)));
         }
         columns.push_back(*column);
     }

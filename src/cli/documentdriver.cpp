@@ -1,8 +1,8 @@
 #include "cli/documentdriver.h"
 
+#include "base/texts.h"
 #include "cli/logbookdriver.h"
 #include "forms/formentry.h"
-#include "platform/texts.h"
 
 namespace tavrel {
 
@@ -30,8 +30,7 @@ Expected<void> DocumentDriver::enter(const QString& field, const QString& value)
     if (const int index = entryIndex(form(), field); index >= 0) {
         return enterValue(form(), index, value);
     }
-    return enterBeside(field, value)
-        .value_or(failure(textWith("Main", "No such field", QStringLiteral("error !"), field)));
+    return enterBeside(field, value).value_or(failure(textWith("Main", "No such field", field)));
 }
 
 std::span<const DriverKind> documentKinds() {

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "base/failure.h"
+#include "base/jsonwriter.h"
+#include "desktop/desktop.h"
+#include "documents/documentkind.h"
+#include "documents/listdocument.h"
 #include "forms/formstate.h"
-#include "platform/desktop.h"
-#include "platform/documentkind.h"
-#include "platform/failure.h"
-#include "platform/jsonwriter.h"
-#include "platform/listdocument.h"
 
 #include <QByteArrayView>
 #include <QString>

@@ -1,6 +1,6 @@
 #include "cli/fieldtext.h"
 
-#include "platform/numbers.h"
+#include "base/numbers.h"
 
 #include <QStringList>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/recordlayout.h"
+#include "records/recordlayout.h"
 
 #include <QString>
 

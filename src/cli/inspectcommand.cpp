@@ -1,9 +1,9 @@
 #include "cli/inspectcommand.h"
 
+#include "archive/typedstreamtree.h"
+#include "base/safefile.h"
+#include "base/texts.h"
 #include "cli/session.h"
-#include "platform/safefile.h"
-#include "platform/texts.h"
-#include "platform/typedstreamtree.h"
 
 #include <CLI/CLI.hpp>
 #include <QByteArrayView>
@@ -16,14 +16,13 @@ namespace {
 
 void printSummary(const StreamSummary& summary, Console& console) {
     print(console, summary.littleEndian ? text("Cli", "Little-endian") : text("Cli", "Big-endian"));
-    print(console, textWith("Cli", "System version", QStringLiteral("error !"), qint64{summary.systemVersion}));
-    print(console, textWith("Cli", "Groups", QStringLiteral("error !"), summary.groups));
-    print(console, textWith("Cli", "Objects", QStringLiteral("error !"), summary.objects));
-    print(console, textWith("Cli", "References", QStringLiteral("error !"), summary.references));
+    print(console, textWith("Cli", "System version", qint64{summary.systemVersion}));
+    print(console, textWith("Cli", "Groups", summary.groups));
+    print(console, textWith("Cli", "Objects", summary.objects));
+    print(console, textWith("Cli", "References", summary.references));
     print(console, text("Cli", "Classes"));
     for (const auto& each : summary.classes) {
-        print(console,
-              textWith("Cli", "Class line", QStringLiteral("error !"), each.name, qint64{each.version}, each.objects));
+        print(console, textWith("Cli", "Class line", each.name, qint64{each.version}, each.objects));
     }
 }
 

@@ -1,9 +1,9 @@
 #include "cli/interchangecommands.h"
 
+#include "base/texts.h"
 #include "cli/session.h"
 #include "interchange/exports.h"
 #include "interchange/imports.h"
-#include "platform/texts.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,9 +1,9 @@
 #include "cli/logbookdriver.h"
 
+#include "archive/recordjson.h"
+#include "base/texts.h"
 #include "cli/fieldtext.h"
 #include "logbook/divecolumns.h"
-#include "platform/recordjson.h"
-#include "platform/texts.h"
 
 #include <algorithm>
 
@@ -95,7 +95,7 @@ std::optional<Expected<void>> LogbookDriver::enterBeside(const QString& field, c
     }
     auto series = seriesOf(value, kind->real);
     if (!series) {
-        return failure(textWith("Main", "No such value", QStringLiteral("error !"), field, value));
+        return failure(textWith("Main", "No such value", field, value));
     }
     carnet_.form().profile().*(kind->series) = std::move(*series);
     return Expected<void>();

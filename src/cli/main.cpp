@@ -1,9 +1,9 @@
+#include "base/texts.h"
 #include "cli/calccommand.h"
 #include "cli/commandline.h"
 #include "cli/documentcommands.h"
 #include "cli/inspectcommand.h"
 #include "cli/interchangecommands.h"
-#include "platform/texts.h"
 
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>

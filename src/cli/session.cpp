@@ -1,7 +1,7 @@
 #include "cli/session.h"
 
-#include "platform/safefile.h"
-#include "platform/texts.h"
+#include "base/safefile.h"
+#include "base/texts.h"
 
 #include <QFile>
 
@@ -27,7 +27,7 @@ Expected<void> Session::open(const QString& path) {
 Expected<void> Session::checkRow(int row) const {
     const int count = driver->document().count();
     if (row < 0 || row >= count) {
-        return failure(textWith("Cli", "No such row", QStringLiteral("error !"), row, count));
+        return failure(textWith("Cli", "No such row", row, count));
     }
     return {};
 }
@@ -35,7 +35,7 @@ Expected<void> Session::checkRow(int row) const {
 Expected<Carnet*> Session::logbook() const {
     auto* carnet = dynamic_cast<Carnet*>(&driver->document());
     if (!carnet) {
-        return failure(textWith("Cli", "Not a logbook", QStringLiteral("error !"), driver->document().displayName()));
+        return failure(textWith("Cli", "Not a logbook", driver->document().displayName()));
     }
     return carnet;
 }

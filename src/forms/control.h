@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/picklists.h"
-#include "platform/title.h"
+#include "base/texts.h"
+#include "desktop/picklists.h"
 
 #include <optional>
 #include <span>

@@ -1,6 +1,6 @@
 #include "forms/formentry.h"
 
-#include "platform/texts.h"
+#include "base/texts.h"
 
 #include <QDateTime>
 
@@ -80,7 +80,7 @@ Expected<void> enterValue(FormStateBase& form, int index, const QString& value) 
     const PlacedControl& placed = form.table().controls()[static_cast<std::size_t>(index)];
     const auto entered = [&](const auto& parsed, auto enter) -> Expected<void> {
         if (!parsed) {
-            return failure(textWith("Main", "No such value", QStringLiteral("error !"),
+            return failure(textWith("Main", "No such value",
                                     QString::fromStdString(placed.field.empty() ? placed.name : placed.field), value));
         }
         (form.*enter)(index, *parsed);

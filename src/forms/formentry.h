@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/failure.h"
 #include "forms/formstate.h"
-#include "platform/failure.h"
 
 #include <QString>
 

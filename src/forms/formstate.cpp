@@ -1,6 +1,6 @@
 #include "forms/formstate.h"
 
-#include "platform/numbers.h"
+#include "base/numbers.h"
 
 namespace tavrel {
 

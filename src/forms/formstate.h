@@ -1,7 +1,7 @@
 #pragma once
 
 #include "forms/controltable.h"
-#include "platform/date.h"
+#include "records/date.h"
 
 #include <QObject>
 #include <QString>

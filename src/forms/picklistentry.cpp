@@ -1,8 +1,8 @@
 #include "forms/picklistentry.h"
 
-#include "platform/alerts.h"
-#include "platform/preferences.h"
-#include "platform/texts.h"
+#include "base/texts.h"
+#include "desktop/alerts.h"
+#include "desktop/preferences.h"
 
 #include <algorithm>
 
@@ -14,8 +14,8 @@ void offerToPickList(Desktop& desktop, PickList list, const QString& typed) {
         return;
     }
     desktop.alerts.beep();
-    const int answer = desktop.alerts.ask(textWith("Main", "Add item to ComboBox", QStringLiteral("error !"), typed),
-                                          {text("Main", "Yes"), text("Main", "No")});
+    const int answer =
+        desktop.alerts.ask(textWith("Main", "Add item to ComboBox", typed), {text("Main", "Yes"), text("Main", "No")});
     if (answer == 0) {
         desktop.pickLists.append(list, typed);
     }

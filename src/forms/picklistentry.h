@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/desktop.h"
-#include "platform/picklists.h"
+#include "desktop/desktop.h"
+#include "desktop/picklists.h"
 
 namespace tavrel {
 

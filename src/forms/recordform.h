@@ -1,7 +1,7 @@
 #pragma once
 
 #include "forms/formstate.h"
-#include "platform/recordlayout.h"
+#include "records/recordlayout.h"
 
 #include <type_traits>
 

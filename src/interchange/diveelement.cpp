@@ -1,7 +1,7 @@
 #include "interchange/diveelement.h"
 
+#include "base/numbers.h"
 #include "interchange/exportprogress.h"
-#include "platform/numbers.h"
 
 #include <array>
 

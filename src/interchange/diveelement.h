@@ -1,7 +1,7 @@
 #pragma once
 
+#include "interchange/xml/xmlwriter.h"
 #include "logbook/carnet.h"
-#include "platform/xmlwriter.h"
 
 #include <string_view>
 

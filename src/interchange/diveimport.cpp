@@ -1,6 +1,6 @@
 #include "interchange/diveimport.h"
 
-#include "platform/numbers.h"
+#include "base/numbers.h"
 
 #include <array>
 #include <span>
@@ -129,8 +129,7 @@ void typeProfile(DiveForm& form, const std::vector<float>& depths) {
 Expected<XmlElement> required(XmlElement parent, const char* name) {
     const XmlElement element = parent.first(name);
     if (element.isNull()) {
-        return failure(
-            textWith("Carnet", "Import element missing", QStringLiteral("error !"), QString::fromLatin1(name)));
+        return failure(textWith("Carnet", "Import element missing", QString::fromLatin1(name)));
     }
     return element;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "interchange/xml/xmltree.h"
 #include "logbook/carnet.h"
-#include "platform/xmltree.h"
 
 namespace tavrel {
 

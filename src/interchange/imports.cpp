@@ -1,7 +1,7 @@
 #include "interchange/imports.h"
 
+#include "base/safefile.h"
 #include "interchange/diveimport.h"
-#include "platform/safefile.h"
 
 #include <cstring>
 
@@ -133,12 +133,11 @@ Expected<ImportResult> importFile(Carnet& carnet, const QString& file, std::opti
 }  // namespace
 
 QString ImportResult::message() const {
-    QString message = taken == 1 ? text("Carnet", "One dive imported")
-                                 : textWith("Carnet", "Imported dives", QStringLiteral("error !"), taken);
+    QString message = taken == 1 ? text("Carnet", "One dive imported") : textWith("Carnet", "Imported dives", taken);
     if (cancelled) {
         message += u' ' + text("Carnet", "Import cancelled");
     } else if (stoppedAt > 0) {
-        message += u' ' + textWith("Carnet", "Import stopped", QStringLiteral("error !"), stoppedAt, why);
+        message += u' ' + textWith("Carnet", "Import stopped", stoppedAt, why);
     }
     return message;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/progress.h"
 #include "logbook/carnet.h"
-#include "platform/progress.h"
 
 #include <QByteArrayView>
 

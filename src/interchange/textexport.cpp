@@ -1,7 +1,7 @@
+#include "base/numbers.h"
 #include "interchange/exportprogress.h"
 #include "interchange/exports.h"
-#include "platform/macroman.h"
-#include "platform/numbers.h"
+#include "interchange/macroman.h"
 
 #include <array>
 #include <span>
@@ -20,22 +20,22 @@ constexpr std::array<std::string_view, 9> profileHeaders{"Dive #", "Point", "Dep
                                                          "CEIL",   "SURF",  "GAS",   "PRESS"};
 
 // Words by code; a null key stands for "N/A", written in every language.
-constexpr TextKey notGiven;
-constexpr std::array<TextKey, 8> weatherWords{
-    TextKey("Carnet", "Clear"), TextKey("Carnet", "Cloudy"), TextKey("Carnet", "Foggy"),    TextKey("Carnet", "Rainy"),
-    TextKey("Carnet", "Hail"),  TextKey("Carnet", "Snowy"),  TextKey("Carnet", "Thundery"), notGiven};
-constexpr std::array<TextKey, 7> currentWords{TextKey("Carnet", "None"),
-                                              TextKey("Carnet", "Weak"),
-                                              TextKey("Carnet", "Moderate"),
-                                              TextKey("Carnet", "Strong"),
-                                              TextKey("Carnet", "Very strong"),
-                                              TextKey("Carnet", "Violent"),
-                                              notGiven};
-constexpr std::array<TextKey, 9> visibilityWords{TextKey("Carnet", "Excellent"),  TextKey("Carnet", "Very good"),
-                                                 TextKey("Carnet", "Good"),       TextKey("Carnet", "Medium"),
-                                                 TextKey("Carnet", "Bad"),        TextKey("Carnet", "Very bad"),
-                                                 TextKey("Carnet", "Execrable"),  notGiven,
-                                                 TextKey("Carnet", "Exceptional")};
+constexpr Title notGiven;
+constexpr std::array<Title, 8> weatherWords{
+    Title("Carnet", "Clear"), Title("Carnet", "Cloudy"), Title("Carnet", "Foggy"),    Title("Carnet", "Rainy"),
+    Title("Carnet", "Hail"),  Title("Carnet", "Snowy"),  Title("Carnet", "Thundery"), notGiven};
+constexpr std::array<Title, 7> currentWords{Title("Carnet", "None"),
+                                            Title("Carnet", "Weak"),
+                                            Title("Carnet", "Moderate"),
+                                            Title("Carnet", "Strong"),
+                                            Title("Carnet", "Very strong"),
+                                            Title("Carnet", "Violent"),
+                                            notGiven};
+constexpr std::array<Title, 9> visibilityWords{Title("Carnet", "Excellent"),  Title("Carnet", "Very good"),
+                                               Title("Carnet", "Good"),       Title("Carnet", "Medium"),
+                                               Title("Carnet", "Bad"),        Title("Carnet", "Very bad"),
+                                               Title("Carnet", "Execrable"),  notGiven,
+                                               Title("Carnet", "Exceptional")};
 
 void appendJoined(std::string& out, std::span<const std::string_view> cells, std::string_view separator) {
     for (std::size_t cell = 0; cell < cells.size(); ++cell) {
@@ -64,12 +64,12 @@ public:
     }
     void cell(qint32 number) { cell(QString::number(number)); }
     /// Codes count as unsigned: what lies outside the words, a negative code too, is an empty cell.
-    void cell(qint32 code, std::span<const TextKey> words) {
+    void cell(qint32 code, std::span<const Title> words) {
         const auto index = static_cast<std::size_t>(static_cast<quint32>(code));
         if (index >= words.size()) {
             cell(QString());
         } else {
-            cell(words[index].isNull() ? QStringLiteral("N/A") : text(words[index]));
+            cell(words[index].isEmpty() ? QStringLiteral("N/A") : text(words[index]));
         }
     }
 
@@ -137,8 +137,7 @@ void appendProfile(std::string& out, const Plongee& dive, std::string_view separ
 
 Failure unfitCharacter(qint32 diveNumber, char32_t character) {
     const QString code = QStringLiteral("U+") + QString::number(character, 16).toUpper().rightJustified(4, u'0');
-    return {textWith("Carnet", "Character not in Mac OS Roman", QStringLiteral("error !"), diveNumber,
-                     QString::fromUcs4(&character, 1), code),
+    return {textWith("Carnet", "Character not in Mac OS Roman", diveNumber, QString::fromUcs4(&character, 1), code),
             {}};
 }
 

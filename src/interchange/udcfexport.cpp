@@ -1,6 +1,6 @@
+#include "desktop/clock.h"
 #include "interchange/diveelement.h"
 #include "interchange/exports.h"
-#include "platform/clock.h"
 
 namespace tavrel {
 

@@ -1,5 +1,5 @@
+#include "base/numbers.h"
 #include "interchange/diveimport.h"
-#include "platform/numbers.h"
 
 #include <algorithm>
 

@@ -1,11 +1,11 @@
 #include "logbook/carnet.h"
 
+#include "base/texts.h"
+#include "desktop/alerts.h"
+#include "desktop/clock.h"
+#include "desktop/preferences.h"
 #include "logbook/divecolumns.h"
 #include "logbook/divesort.h"
-#include "platform/alerts.h"
-#include "platform/clock.h"
-#include "platform/preferences.h"
-#include "platform/texts.h"
 
 #include <algorithm>
 
@@ -67,7 +67,7 @@ Expected<QByteArray> Carnet::dataRepresentationOfType(const QString& type) {
             return exportType.produce(*this);
         }
     }
-    return failure(textWith("Main", "Unknown document type", QStringLiteral("error !"), type));
+    return failure(textWith("Main", "Unknown document type", type));
 }
 
 Expected<void> Carnet::loadDataRepresentation(QByteArrayView data, const QString& type) {
@@ -78,7 +78,7 @@ Expected<void> Carnet::loadDataRepresentation(QByteArrayView data, const QString
     deselectAll();
     replaceList(std::move(*dives));
     if (type != typeName()) {
-        return failure(textWith("Main", "Unknown document type", QStringLiteral("error !"), type));
+        return failure(textWith("Main", "Unknown document type", type));
     }
     updateUI();
     selectLastDive(count() - 1, false);
@@ -106,7 +106,7 @@ void Carnet::newDive() {
 }
 
 void Carnet::titleEditWindow(qint32 number) {
-    editWindowTitle_ = textWith("Carnet", "Dive number title", QStringLiteral("error !"), number);
+    editWindowTitle_ = textWith("Carnet", "Dive number title", number);
     Q_EMIT editWindowTitleChanged();
 }
 
@@ -211,8 +211,7 @@ bool Carnet::storeForm() {
     const qint32 number = recordAt(selectedRow())->noPlongee;
     switch (desktop().alerts.ask(
         text("Carnet", "New dive not added"),
-        {text("Main", "Add"), textWith("Carnet", "Replace dive", QStringLiteral("error !"), number),
-         text("Main", "Cancel")})) {
+        {text("Main", "Add"), textWith("Carnet", "Replace dive", number), text("Main", "Cancel")})) {
         case 0: {
             const QList<int> rows = selectedRows();
             addDive();
@@ -311,7 +310,7 @@ Expected<void> Carnet::setValue(int row, const QString& field, const FieldValue&
     const auto* item = Plongee::layout().find(field.toStdString());
     const auto held = recordAt(row);
     if (!item || !held) {
-        return failure(textWith("Carnet", "No such field", QStringLiteral("error !"), field));
+        return failure(textWith("Carnet", "No such field", field));
     }
     auto dive = std::make_shared<Plongee>(*held);
     const bool fits = std::visit(
@@ -325,7 +324,7 @@ Expected<void> Carnet::setValue(int row, const QString& field, const FieldValue&
         },
         item->member);
     if (!fits) {
-        return failure(textWith("Carnet", "No such field", QStringLiteral("error !"), field));
+        return failure(textWith("Carnet", "No such field", field));
     }
     List dives = records();
     dives[static_cast<std::size_t>(row)] = std::move(dive);
@@ -370,7 +369,7 @@ Expected<int> Carnet::findTextWithField(const QString& field, const QString& sea
     const auto* item = Plongee::layout().find(field.toStdString());
     const auto* member = item ? std::get_if<QString Plongee::*>(&item->member) : nullptr;
     if (!member) {
-        return failure(textWith("Carnet", "No such field", QStringLiteral("error !"), field));
+        return failure(textWith("Carnet", "No such field", field));
     }
     QList<int> found;
     for (int row = 0; row < count(); ++row) {
@@ -384,8 +383,7 @@ Expected<int> Carnet::findTextWithField(const QString& field, const QString& sea
     if (!found.isEmpty()) {
         Q_EMIT rowRevealed(found.front());
     }
-    foundText_ = matches == 1 ? text("Carnet", "One dive found")
-                              : textWith("Carnet", "Found dives", QStringLiteral("error !"), matches);
+    foundText_ = matches == 1 ? text("Carnet", "One dive found") : textWith("Carnet", "Found dives", matches);
     Q_EMIT stateChanged();
     return matches;
 }
@@ -397,8 +395,7 @@ void Carnet::find(const QString& field, const QString& searched) {
 }
 
 QString Carnet::stateText() const {
-    return count() == 1 ? text("Carnet", "One dive")
-                        : textWith("Carnet", "Total dives", QStringLiteral("error !"), count());
+    return count() == 1 ? text("Carnet", "One dive") : textWith("Carnet", "Total dives", count());
 }
 
 bool Carnet::canGoBack() const {

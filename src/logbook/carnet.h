@@ -1,12 +1,12 @@
 #pragma once
 
+#include "base/progress.h"
+#include "desktop/notificationcentre.h"
+#include "desktop/printsettings.h"
+#include "dives/plongee.h"
+#include "documents/documentkind.h"
+#include "documents/listdocument.h"
 #include "logbook/diveform.h"
-#include "logbook/plongee.h"
-#include "platform/documentkind.h"
-#include "platform/listdocument.h"
-#include "platform/notificationcentre.h"
-#include "platform/printsettings.h"
-#include "platform/progress.h"
 
 #include <functional>
 #include <map>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "dives/divechoices.h"
 #include "forms/controltable.h"
-#include "logbook/divechoices.h"
 
 namespace tavrel {
 

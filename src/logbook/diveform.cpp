@@ -1,8 +1,8 @@
 #include "logbook/diveform.h"
 
+#include "desktop/clock.h"
+#include "desktop/preferences.h"
 #include "forms/picklistentry.h"
-#include "platform/clock.h"
-#include "platform/preferences.h"
 
 namespace tavrel {
 

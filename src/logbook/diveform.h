@@ -1,9 +1,9 @@
 #pragma once
 
+#include "desktop/desktop.h"
+#include "dives/plongee.h"
 #include "forms/recordform.h"
 #include "logbook/divecontrols.h"
-#include "logbook/plongee.h"
-#include "platform/desktop.h"
 
 #include <QObject>
 #include <QStringList>

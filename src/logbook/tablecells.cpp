@@ -1,9 +1,9 @@
 #include "logbook/tablecells.h"
 
-#include "logbook/divechoices.h"
-#include "platform/numbers.h"
-#include "platform/preferences.h"
-#include "platform/texts.h"
+#include "base/numbers.h"
+#include "base/texts.h"
+#include "desktop/preferences.h"
+#include "dives/divechoices.h"
 
 #include <algorithm>
 #include <span>
@@ -55,11 +55,11 @@ QString plainText(const Plongee& dive, std::string_view field, const TableStyle&
 
 QString tideText(const Plongee& dive) {
     if (dive.pmBm == 1) {
-        return dive.coeff != 0 ? textWith("Carnet", "TableView high tide", QStringLiteral("N/A"), dive.coeff)
+        return dive.coeff != 0 ? textWith("Carnet", "TableView high tide", Fallback{QStringLiteral("N/A")}, dive.coeff)
                                : text("Carnet", "TableView high tide only", QStringLiteral("N/A"));
     }
     if (dive.pmBm == 2) {
-        return dive.coeff != 0 ? textWith("Carnet", "TableView low tide", QStringLiteral("N/A"), dive.coeff)
+        return dive.coeff != 0 ? textWith("Carnet", "TableView low tide", Fallback{QStringLiteral("N/A")}, dive.coeff)
                                : text("Carnet", "TableView low tide only", QStringLiteral("N/A"));
     }
     return dive.coeff != 0 ? numberText(dive.coeff) : QStringLiteral("-");
@@ -69,8 +69,7 @@ QString waterText(const Plongee& dive, const TableStyle& style) {
     if (dive.tempEau == temperatureNotGiven) {
         return QStringLiteral("-");
     }
-    return style.usUnits ? textWith("Carnet", "Farenheit", QStringLiteral("error !"), dive.tempEau)
-                         : textWith("Carnet", "Celsius", QStringLiteral("error !"), dive.tempEau);
+    return style.usUnits ? textWith("Carnet", "Farenheit", dive.tempEau) : textWith("Carnet", "Celsius", dive.tempEau);
 }
 
 QString visibilityText(const Plongee& dive) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "logbook/plongee.h"
+#include "dives/plongee.h"
 
 #include <QColor>
 #include <QLocale>

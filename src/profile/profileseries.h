@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/series.h"
+#include "records/series.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 #include "app/mydocumentcontroller.h"
 
 #include "app/testapplication.h"
-#include "platform/recordarchive.h"
+#include "archive/recordarchive.h"
 
 #include <QApplication>
 #include <QCloseEvent>

@@ -1,8 +1,8 @@
 #include "app/preferenceswindow.h"
 
 #include "app/colorwell.h"
-#include "platform/defaults.h"
-#include "platform/ui/customtoolbar.h"
+#include "desktop/defaults.h"
+#include "desktop/ui/customtoolbar.h"
 #include "support/testdesktop.h"
 
 #include <QCheckBox>

@@ -19,11 +19,11 @@ DocumentTypes testDocumentTypes() {
     const auto exports = [](Document&) {
         return QList<ExportFormat>{{QStringLiteral("Counted"), QStringLiteral("txt")}};
     };
-    return {{Carnet::kind, TextKey("Main", "Carnet de plongee"), "newCarnetDocumentMenuAction",
+    return {{Carnet::kind, Title("Main", "Carnet de plongee"), "newCarnetDocumentMenuAction",
              [=](Desktop& desktop) { return std::make_unique<Carnet>(desktop, std::vector{counted}); }, makeWindow,
              exports},
             {{literal("Budget"), "Coin", "budget"},
-             TextKey("Main", "Materiel"),
+             Title("Main", "Materiel"),
              "newBudgetDocumentMenuAction",
              [](Desktop& desktop) { return std::make_unique<Purse>(desktop); },
              makeWindow}};

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/mydocumentcontroller.h"
+#include "desktop/ui/filedialogs.h"
 #include "logbook/carnet.h"
-#include "platform/ui/filedialogs.h"
 #include "support/testdesktop.h"
 
 #include <QCoreApplication>

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "archive/recordarchive.h"
 #include "cli/fieldtext.h"
-#include "logbook/plongee.h"
-#include "platform/recordarchive.h"
+#include "dives/plongee.h"
 #include "support/printing.h"
 
 #include <QByteArray>

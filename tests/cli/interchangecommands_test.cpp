@@ -1,5 +1,5 @@
 #include "cli/commandrunner.h"
-#include "platform/xmltree.h"
+#include "interchange/xml/xmltree.h"
 
 namespace tavrel {
 

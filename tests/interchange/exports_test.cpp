@@ -1,7 +1,7 @@
 #include "interchange/exports.h"
 
 #include "interchange/frenchlocale.h"
-#include "platform/xmltree.h"
+#include "interchange/xml/xmltree.h"
 #include "support/printing.h"
 #include "support/testdesktop.h"
 

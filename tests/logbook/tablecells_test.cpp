@@ -1,7 +1,7 @@
 #include "logbook/tablecells.h"
 
+#include "base/texts.h"
 #include "logbook/divecolumns.h"
-#include "platform/texts.h"
 #include "support/testdesktop.h"
 
 #include <gtest/gtest.h>
@@ -101,7 +101,8 @@ TEST(TableCells, followUnitsAndLocale) {
 
     desktop.preferences.set(QStringLiteral("us units"), true);
     const auto american = TableStyle::read(desktop.preferences, QLocale(QLocale::English, QLocale::UnitedStates));
-    expectTexts({{"date", dive, "3/7/1998"}, {"profondeur", dive, "18.5 ft"}, {"tempEau", dive, "14\u00a0°F"}}, american);
+    expectTexts({{"date", dive, "3/7/1998"}, {"profondeur", dive, "18.5 ft"}, {"tempEau", dive, "14\u00a0°F"}},
+                american);
 
     desktop.preferences.set(QStringLiteral("display units"), false);
     expectTexts({{"profondeur", dive, "18.5"}, {"temps", dive, "45"}, {"tempEau", dive, "14\u00a0°F"}},

@@ -1,6 +1,6 @@
 #include "support/testdesktop.h"
 
-#include "platform/defaults.h"
+#include "desktop/defaults.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "platform/alerts.h"
-#include "platform/clock.h"
-#include "platform/desktop.h"
-#include "platform/notificationcentre.h"
-#include "platform/picklists.h"
-#include "platform/preferences.h"
+#include "desktop/alerts.h"
+#include "desktop/clock.h"
+#include "desktop/desktop.h"
+#include "desktop/notificationcentre.h"
+#include "desktop/picklists.h"
+#include "desktop/preferences.h"
 #include "support/printing.h"
 
 #include <QStringList>

@@ -39,7 +39,7 @@ void addFieldRow(QGridLayout* grid, const QString& label, QWidget* field, const 
 QLabel* newResultLabel(const char* name, QWidget* parent) {
     auto* label = new QLabel(parent);
     label->setObjectName(QLatin1StringView(name));
-    label->setAccessibleName(text(TextKey("Calculators", "Result")));
+    label->setAccessibleName(text(Title("Calculators", "Result")));
     label->setTextFormat(Qt::PlainText);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -52,7 +52,7 @@ QLabel* newResultLabel(const char* name, QWidget* parent) {
 
 QLabel* newFormulaLabel(const QString& formula, QWidget* parent) {
     auto* label = new QLabel(formula, parent);
-    label->setAccessibleName(text(TextKey("Calculators", "Formula")));
+    label->setAccessibleName(text(Title("Calculators", "Formula")));
     label->setTextFormat(Qt::PlainText);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return label;
@@ -64,9 +64,9 @@ void copyResult(const QString& result) {
     }
 }
 
-QPushButton* newCopyButton(TextKey label, const std::function<QString()>& copied, QWidget* parent) {
+QPushButton* newCopyButton(Title label, const std::function<QString()>& copied, QWidget* parent) {
     auto* button = new QPushButton(text(label), parent);
-    button->setToolTip(text(TextKey("Calculators", "Copy hint")));
+    button->setToolTip(text(Title("Calculators", "Copy hint")));
     button->setAutoDefault(false);
     QObject::connect(button, &QPushButton::clicked, button, [copied] { copyResult(copied()); });
     return button;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/texts.h"
+#include "base/texts.h"
 
 #include <QString>
 #include <Qt>
@@ -33,6 +33,6 @@ QLabel* newFormulaLabel(const QString& formula, QWidget* parent);
 /// Puts a result on the clipboard; before there is one, the clipboard keeps what it holds.
 void copyResult(const QString& result);
 /// A button that copies a result. It never takes Enter from the window's own button.
-QPushButton* newCopyButton(TextKey label, const std::function<QString()>& copied, QWidget* parent);
+QPushButton* newCopyButton(Title label, const std::function<QString()>& copied, QWidget* parent);
 
 }  // namespace tavrel

@@ -1,8 +1,8 @@
 #include "calculators/ui/calculatorwindow.h"
 
+#include "base/numbers.h"
 #include "calculators/nitrox.h"
 #include "calculators/ui/calculatorwidgets.h"
-#include "platform/numbers.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -51,7 +51,7 @@ CalculatorWindow::CalculatorWindow(CalculatorId id, QWidget* parent) : QDialog(p
     // In the order of the tab key.
     auto* left = new QVBoxLayout;
     left->addWidget(newInputs());
-    auto* button = new QPushButton(text(TextKey("Calculators", "Calculate")), this);
+    auto* button = new QPushButton(text(Title("Calculators", "Calculate")), this);
     button->setDefault(true);
     connect(button, &QPushButton::clicked, this, [this] { calculate(page_.id); });
     left->addWidget(button, 0, Qt::AlignRight);
@@ -71,7 +71,7 @@ CalculatorWindow::CalculatorWindow(CalculatorId id, QWidget* parent) : QDialog(p
 }
 
 QGroupBox* CalculatorWindow::newInputs() {
-    auto* group = new QGroupBox(text(TextKey("Calculators", "Inputs")), this);
+    auto* group = new QGroupBox(text(Title("Calculators", "Inputs")), this);
     auto* grid = new QGridLayout(group);
     for (const CalculatorInput& input : page_.inputs) {
         QWidget* field = nullptr;
@@ -86,7 +86,7 @@ QGroupBox* CalculatorWindow::newInputs() {
 }
 
 QGroupBox* CalculatorWindow::newResult() {
-    auto* group = new QGroupBox(text(TextKey("Calculators", "Result")), this);
+    auto* group = new QGroupBox(text(Title("Calculators", "Result")), this);
     auto* grid = new QGridLayout(group);
     grid->setColumnStretch(0, 1);
     QLabel* label = newResultLabel(page_.resultField, group);
@@ -94,13 +94,13 @@ QGroupBox* CalculatorWindow::newResult() {
     const QSize ordinary = label->fontMetrics().size(0, ordinaryResult().text + QStringLiteral("00"));
     grid->addItem(new QSpacerItem(ordinary.width(), ordinary.height()), 0, 0);
     grid->addWidget(newCopyButton(
-                        TextKey("Calculators", "Copy"), [this] { return resultText(); }, group),
+                        Title("Calculators", "Copy"), [this] { return resultText(); }, group),
                     0, 1, Qt::AlignBottom);
     return group;
 }
 
 QGroupBox* CalculatorWindow::newTable() {
-    auto* group = new QGroupBox(text(TextKey("Calculators", "By consumption")), this);
+    auto* group = new QGroupBox(text(Title("Calculators", "By consumption")), this);
     auto* paper = new QFrame(group);
     paper->setFrameShape(QFrame::StyledPanel);
     paper->setBackgroundRole(QPalette::Base);

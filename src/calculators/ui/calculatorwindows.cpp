@@ -5,7 +5,7 @@
 #include "calculators/ui/physiquecontroller.h"
 #include "calculators/ui/scrccrcontroller.h"
 #include "calculators/ui/trimixcontroller.h"
-#include "platform/ui/bringtofront.h"
+#include "desktop/ui/bringtofront.h"
 
 #include <QAction>
 #include <QMenu>

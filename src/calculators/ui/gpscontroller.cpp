@@ -1,8 +1,8 @@
 #include "calculators/ui/gpscontroller.h"
 
+#include "base/numbers.h"
 #include "calculators/calculators.h"
 #include "calculators/ui/calculatorwidgets.h"
-#include "platform/numbers.h"
 
 #include <QComboBox>
 #include <QFontDatabase>
@@ -64,10 +64,10 @@ GpsController::GpsController(QWidget* parent) : QDialog(parent) {
     setObjectName(QLatin1StringView(known.windowLayout));
     setWindowTitle(text(known.title));
 
-    auto* altitude = new QGroupBox(text(TextKey("Calculators", "Both converters")), this);
+    auto* altitude = new QGroupBox(text(Title("Calculators", "Both converters")), this);
     auto* altitudeGrid = new QGridLayout(altitude);
     altitude_inField = newNumberField("altitude_inField", altitude);
-    addFieldRow(altitudeGrid, text(TextKey("Calculators", "Altitude")), altitude_inField, QStringLiteral("m"));
+    addFieldRow(altitudeGrid, text(Title("Calculators", "Altitude")), altitude_inField, QStringLiteral("m"));
 
     auto* left = new QVBoxLayout;
     left->addWidget(altitude);
@@ -92,16 +92,16 @@ void GpsController::keyPressEvent(QKeyEvent* event) {
 }
 
 QGroupBox* GpsController::newSexagesimal() {
-    auto* group = new QGroupBox(text(TextKey("Calculators", "Sexagesimal converter")), this);
+    auto* group = new QGroupBox(text(Title("Calculators", "Sexagesimal converter")), this);
     sexagesimal_ = group;
     auto* grid = new QGridLayout;
-    const auto addAngle = [&](TextKey label, const std::array<std::pair<QLineEdit**, const char*>, 3>& parts) {
+    const auto addAngle = [&](Title label, const std::array<std::pair<QLineEdit**, const char*>, 3>& parts) {
         const int row = grid->rowCount();
         auto* caption = new QLabel(text(label), group);
         grid->addWidget(caption, row, 0);
         const std::array signs{QStringLiteral("°"), QStringLiteral("′"), QStringLiteral("″")};
-        const std::array names{TextKey("Calculators", "Degrees"), TextKey("Calculators", "Minutes"),
-                               TextKey("Calculators", "Seconds")};
+        const std::array names{Title("Calculators", "Degrees"), Title("Calculators", "Minutes"),
+                               Title("Calculators", "Seconds")};
         for (int part = 0; part < 3; ++part) {
             const auto place = static_cast<std::size_t>(part);
             QLineEdit* field = newNumberField(parts[place].second, group, part == 2 ? 9 : 6);
@@ -113,25 +113,25 @@ QGroupBox* GpsController::newSexagesimal() {
         }
         caption->setBuddy(*parts[0].first);
     };
-    addAngle(TextKey("Calculators", "Longitude ED50"), {{{&longitude_in_degreeField, "longitude_in_degreeField"},
-                                                         {&longitude_in_minutesField, "longitude_in_minutesField"},
-                                                         {&longitude_in_secondsField, "longitude_in_secondsField"}}});
-    addAngle(TextKey("Calculators", "Latitude ED50"), {{{&latitude_in_degreeField, "latitude_in_degreeField"},
-                                                        {&latitude_in_minutesField, "latitude_in_minutesField"},
-                                                        {&latitude_in_secondsField, "latitude_in_secondsField"}}});
+    addAngle(Title("Calculators", "Longitude ED50"), {{{&longitude_in_degreeField, "longitude_in_degreeField"},
+                                                       {&longitude_in_minutesField, "longitude_in_minutesField"},
+                                                       {&longitude_in_secondsField, "longitude_in_secondsField"}}});
+    addAngle(Title("Calculators", "Latitude ED50"), {{{&latitude_in_degreeField, "latitude_in_degreeField"},
+                                                      {&latitude_in_minutesField, "latitude_in_minutesField"},
+                                                      {&latitude_in_secondsField, "latitude_in_secondsField"}}});
     grid->setColumnStretch(0, 1);
-    auto* convert = newConvertButton(text(TextKey("Calculators", "Convert sexagesimal")), group);
+    auto* convert = newConvertButton(text(Title("Calculators", "Convert sexagesimal")), group);
     connect(convert, &QPushButton::clicked, this, &GpsController::convertGPS);
     auto* layout = new QVBoxLayout(group);
     layout->addLayout(grid);
-    layout->addWidget(new QLabel(text(TextKey("Calculators", "Signs hint")), group));
+    layout->addWidget(new QLabel(text(Title("Calculators", "Signs hint")), group));
     layout->addWidget(newFormulaLabel(sexagesimalFormula(), group));
     layout->addWidget(convert, 0, Qt::AlignRight);
     return group;
 }
 
 QGroupBox* GpsController::newDecimal() {
-    auto* group = new QGroupBox(text(TextKey("Calculators", "Decimal converter")), this);
+    auto* group = new QGroupBox(text(Title("Calculators", "Decimal converter")), this);
     decimal_ = group;
     auto* grid = new QGridLayout;
     geodesiePopUp = new QComboBox(group);
@@ -140,12 +140,12 @@ QGroupBox* GpsController::newDecimal() {
     geodesiePopUp->addItem(QStringLiteral("WGS84 → ED50"), static_cast<int>(DatumDirection::Wgs84ToEd50));
     longitude_inField = newNumberField("longitude_inField", group);
     latitude_inField = newNumberField("latitude_inField", group);
-    addFieldRow(grid, text(TextKey("Calculators", "Direction")), geodesiePopUp, {});
-    addFieldRow(grid, text(TextKey("Calculators", "Decimal longitude")), longitude_inField, QStringLiteral("°"),
+    addFieldRow(grid, text(Title("Calculators", "Direction")), geodesiePopUp, {});
+    addFieldRow(grid, text(Title("Calculators", "Decimal longitude")), longitude_inField, QStringLiteral("°"),
                 Qt::AlignRight);
-    addFieldRow(grid, text(TextKey("Calculators", "Decimal latitude")), latitude_inField, QStringLiteral("°"),
+    addFieldRow(grid, text(Title("Calculators", "Decimal latitude")), latitude_inField, QStringLiteral("°"),
                 Qt::AlignRight);
-    auto* convert = newConvertButton(text(TextKey("Calculators", "Convert decimal")), group);
+    auto* convert = newConvertButton(text(Title("Calculators", "Convert decimal")), group);
     connect(convert, &QPushButton::clicked, this, &GpsController::convertGPS2);
     auto* layout = new QVBoxLayout(group);
     layout->addLayout(grid);
@@ -155,15 +155,15 @@ QGroupBox* GpsController::newDecimal() {
 }
 
 QGroupBox* GpsController::newOutput() {
-    resultatField = new QGroupBox(text(TextKey("Calculators", "Result")), this);
+    resultatField = new QGroupBox(text(Title("Calculators", "Result")), this);
     resultatField->setObjectName(QStringLiteral("resultatField"));
     auto* grid = new QGridLayout;
     longitude_outField = newOutputField("longitude_outField", resultatField);
     latitude_outField = newOutputField("latitude_outField", resultatField);
     altitude_outField = newOutputField("altitude_outField", resultatField);
-    addFieldRow(grid, text(TextKey("Calculators", "Longitude")), longitude_outField, {});
-    addFieldRow(grid, text(TextKey("Calculators", "Latitude")), latitude_outField, {});
-    addFieldRow(grid, text(TextKey("Calculators", "Resulting altitude")), altitude_outField, {});
+    addFieldRow(grid, text(Title("Calculators", "Longitude")), longitude_outField, {});
+    addFieldRow(grid, text(Title("Calculators", "Latitude")), latitude_outField, {});
+    addFieldRow(grid, text(Title("Calculators", "Resulting altitude")), altitude_outField, {});
     grid->setColumnStretch(0, 0);
     grid->setColumnStretch(1, 1);
     auto* layout = new QVBoxLayout(resultatField);
@@ -171,15 +171,15 @@ QGroupBox* GpsController::newOutput() {
     const auto lines = [this] {
         return longitude_outField->text() + u'\n' + latitude_outField->text() + u'\n' + altitude_outField->text();
     };
-    layout->addWidget(newCopyButton(TextKey("Calculators", "Copy"), lines, resultatField), 0, Qt::AlignRight);
+    layout->addWidget(newCopyButton(Title("Calculators", "Copy"), lines, resultatField), 0, Qt::AlignRight);
     return resultatField;
 }
 
 QGroupBox* GpsController::newReport() {
-    auto* group = new QGroupBox(text(TextKey("Calculators", "Report")), this);
+    auto* group = new QGroupBox(text(Title("Calculators", "Report")), this);
     gpsDataField = new QTextEdit(group);
     gpsDataField->setObjectName(QStringLiteral("gpsDataField"));
-    gpsDataField->setAccessibleName(text(TextKey("Calculators", "Report")));
+    gpsDataField->setAccessibleName(text(Title("Calculators", "Report")));
     gpsDataField->setReadOnly(true);
     gpsDataField->setTabChangesFocus(true);
     gpsDataField->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
@@ -195,7 +195,7 @@ QGroupBox* GpsController::newReport() {
     auto* layout = new QVBoxLayout(group);
     layout->addWidget(gpsDataField);
     layout->addWidget(newCopyButton(
-                          TextKey("Calculators", "Copy report"), [this] { return gpsDataField->toPlainText(); }, group),
+                          Title("Calculators", "Copy report"), [this] { return gpsDataField->toPlainText(); }, group),
                       0, Qt::AlignRight);
     return group;
 }

@@ -1,8 +1,8 @@
 #include "calculators/ui/physiquecontroller.h"
 
+#include "base/numbers.h"
 #include "calculators/calculators.h"
 #include "calculators/ui/calculatorwidgets.h"
-#include "platform/numbers.h"
 
 #include <QButtonGroup>
 #include <QGroupBox>
@@ -48,13 +48,13 @@ PhysiqueController::PhysiqueController(QWidget* parent) : QDialog(parent), conve
         conversionsTabView->addTab(newTab(tab), text(tab.title));
     }
 
-    auto* convert = new QPushButton(text(TextKey("Calculators", "Convert")), this);
+    auto* convert = new QPushButton(text(Title("Calculators", "Convert")), this);
     convert->setDefault(true);
     connect(convert, &QPushButton::clicked, this, &PhysiqueController::convertir);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     buttons->addWidget(newCopyButton(
-        TextKey("Calculators", "Copy"), [this] { return resultText(); }, this));
+        Title("Calculators", "Copy"), [this] { return resultText(); }, this));
     buttons->addWidget(convert);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(conversionsTabView);
@@ -65,7 +65,7 @@ PhysiqueController::PhysiqueController(QWidget* parent) : QDialog(parent), conve
 QWidget* PhysiqueController::newTab(const ConversionTab& tab) {
     auto* page = new QWidget;
     page->setObjectName(QLatin1StringView(tab.identifier));
-    auto* group = new QGroupBox(text(TextKey("Calculators", "Convert from")), page);
+    auto* group = new QGroupBox(text(Title("Calculators", "Convert from")), page);
     auto* grid = new QGridLayout(group);
     grid->setColumnStretch(0, 1);
     auto* choice = new QButtonGroup(page);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "calculators/ui/calculatorwindow.h"
-#include "platform/ui/bringtofront.h"
+#include "desktop/ui/bringtofront.h"
 
 namespace tavrel {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/date.h"
+#include "records/date.h"
 
 #include <QDateTimeEdit>
 

@@ -1,7 +1,7 @@
 #include "forms/ui/formpages.h"
 
+#include "desktop/picklists.h"
 #include "forms/ui/grouplayout.h"
-#include "platform/picklists.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "desktop/desktop.h"
 #include "forms/ui/formcontrol.h"
-#include "platform/desktop.h"
 
 #include <QObject>
 #include <QPointer>

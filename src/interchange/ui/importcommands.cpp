@@ -1,8 +1,8 @@
 #include "interchange/ui/importcommands.h"
 
-#include "platform/alerts.h"
-#include "platform/texts.h"
-#include "platform/ui/progresswindow.h"
+#include "base/texts.h"
+#include "desktop/alerts.h"
+#include "desktop/ui/progresswindow.h"
 
 namespace tavrel {
 
@@ -10,8 +10,8 @@ namespace {
 
 /// How a format is asked for and read.
 struct FormatCommand {
-    TextKey title;
-    TextKey files;
+    Title title;
+    Title files;
     QStringList extensions;
     Expected<ImportResult> (*read)(Carnet&, const QString&, const Progress&);
 };
@@ -21,11 +21,11 @@ const FormatCommand& commandOf(ImportFormat format) {
         QStringList all{QStringLiteral("txt"), QStringLiteral("xml")};
         return own ? all << QString::fromLatin1(own) : all;
     };
-    static const FormatCommand udcf{TextKey("Carnet", "Import UDCF"), TextKey("Carnet", "UDCF files"),
-                                    extensions("udcf"), readUDCF};
-    static const FormatCommand uddf{TextKey("Carnet", "Import UDDF"), TextKey("Carnet", "UDDF files"),
-                                    extensions("uddf"), readUDDF};
-    static const FormatCommand handheld{TextKey("Carnet", "Import handheld"), TextKey("Carnet", "Handheld files"),
+    static const FormatCommand udcf{Title("Carnet", "Import UDCF"), Title("Carnet", "UDCF files"), extensions("udcf"),
+                                    readUDCF};
+    static const FormatCommand uddf{Title("Carnet", "Import UDDF"), Title("Carnet", "UDDF files"), extensions("uddf"),
+                                    readUDDF};
+    static const FormatCommand handheld{Title("Carnet", "Import handheld"), Title("Carnet", "Handheld files"),
                                         extensions(nullptr), readFromiPhoneFile};
     switch (format) {
         case ImportFormat::uddf:

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "desktop/ui/filedialogs.h"
 #include "interchange/imports.h"
 #include "logbook/ui/logbookwindow.h"
-#include "platform/ui/filedialogs.h"
 
 #include <QObject>
 

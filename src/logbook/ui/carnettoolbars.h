@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ui/customtoolbar.h"
+#include "desktop/ui/customtoolbar.h"
 
 #include <QString>
 

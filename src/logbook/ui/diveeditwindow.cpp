@@ -1,8 +1,8 @@
 #include "logbook/ui/diveeditwindow.h"
 
+#include "base/texts.h"
+#include "desktop/ui/icons.h"
 #include "logbook/ui/carnettoolbars.h"
-#include "platform/texts.h"
-#include "platform/ui/icons.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -265,9 +265,9 @@ void DiveEditWindow::updateState() {
     previous_->setEnabled(carnet_.canGoBack());
     next_->setEnabled(carnet_.canGoForward());
     toolBar_->validate();
-    status_->setText(carnet_.formShowsSelectedDive() ? textWith("Carnet", "Form of dive", QStringLiteral("error !"),
-                                                                carnet_.selectedRow() + 1, carnet_.count())
-                                                     : text("Carnet", "Form of new dive"));
+    status_->setText(carnet_.formShowsSelectedDive()
+                         ? textWith("Carnet", "Form of dive", carnet_.selectedRow() + 1, carnet_.count())
+                         : text("Carnet", "Form of new dive"));
 }
 
 void DiveEditWindow::closeEvent(QCloseEvent* event) {

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "desktop/ui/customtoolbar.h"
 #include "forms/ui/formpages.h"
 #include "logbook/carnet.h"
-#include "platform/ui/customtoolbar.h"
 
 #include <QMainWindow>
 #include <QString>

@@ -1,8 +1,8 @@
 #include "logbook/ui/divesearchfield.h"
 
-#include "platform/preferences.h"
-#include "platform/title.h"
-#include "platform/ui/icons.h"
+#include "base/texts.h"
+#include "desktop/preferences.h"
+#include "desktop/ui/icons.h"
 
 #include <QActionGroup>
 #include <QMenu>
@@ -71,7 +71,7 @@ void DiveSearchField::choose(int item) {
     chosen_ = item;
     menu_->actions().at(item)->setChecked(true);
     const QString title = searched[static_cast<std::size_t>(item)].title.text();
-    setPlaceholderText(textWith("Carnet", "Find in", QStringLiteral("error !"), title));
+    setPlaceholderText(textWith("Carnet", "Find in", title));
     setAccessibleName(placeholderText());
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "desktop/desktop.h"
 #include "logbook/carnet.h"
-#include "platform/desktop.h"
 
 #include <QLineEdit>
 

@@ -1,7 +1,7 @@
 #include "logbook/ui/divetable.h"
 
+#include "desktop/preferences.h"
 #include "logbook/divecolumns.h"
-#include "platform/preferences.h"
 
 #include <QHeaderView>
 #include <QHideEvent>

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "desktop/desktop.h"
+#include "documents/ui/recordtable.h"
 #include "logbook/carnet.h"
 #include "logbook/ui/logbooktablemodel.h"
-#include "platform/desktop.h"
-#include "platform/ui/recordtable.h"
 
 class QMenu;
 

@@ -1,7 +1,7 @@
 #include "logbook/ui/logbooktablemodel.h"
 
+#include "desktop/ui/icons.h"
 #include "logbook/divecolumns.h"
-#include "platform/ui/icons.h"
 
 namespace tavrel {
 

@@ -1,15 +1,15 @@
 #include "logbook/ui/logbookwindow.h"
 
+#include "desktop/alerts.h"
+#include "desktop/preferences.h"
+#include "desktop/ui/icons.h"
+#include "desktop/ui/progresswindow.h"
+#include "documents/ui/printing.h"
 #include "logbook/ui/carnettoolbars.h"
 #include "logbook/ui/diveeditwindow.h"
 #include "logbook/ui/divesearchfield.h"
 #include "logbook/ui/divetable.h"
 #include "logbook/ui/renumberwindow.h"
-#include "platform/alerts.h"
-#include "platform/preferences.h"
-#include "platform/ui/icons.h"
-#include "platform/ui/printing.h"
-#include "platform/ui/progresswindow.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -125,7 +125,7 @@ void LogbookWindow::buildToolBar() {
     customise_ = toolBar_->action(QLatin1StringView(toolCustomise));
 
     const QString keys = newDive_->shortcut().toString(QKeySequence::NativeText);
-    table_->setPlaceholder(textWith("Carnet", "No dives yet", QStringLiteral("error !"), keys));
+    table_->setPlaceholder(textWith("Carnet", "No dives yet", keys));
 }
 
 void LogbookWindow::provideCommand(const QString& identifier, std::function<void()> command) {

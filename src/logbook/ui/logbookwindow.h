@@ -1,7 +1,7 @@
 #pragma once
 
+#include "documents/ui/documentwindow.h"
 #include "logbook/carnet.h"
-#include "platform/ui/documentwindow.h"
 
 #include <functional>
 #include <map>

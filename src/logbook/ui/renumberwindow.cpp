@@ -1,7 +1,7 @@
 #include "logbook/ui/renumberwindow.h"
 
-#include "platform/texts.h"
-#include "platform/ui/progresswindow.h"
+#include "base/texts.h"
+#include "desktop/ui/progresswindow.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>

@@ -1,6 +1,6 @@
 #include "interchange/ui/importcommands.h"
 
-#include "platform/ui/progresswindow.h"
+#include "desktop/ui/progresswindow.h"
 #include "support/testdesktop.h"
 
 #include <QAbstractButton>

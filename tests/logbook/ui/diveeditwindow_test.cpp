@@ -293,14 +293,14 @@ TEST_F(DiveEditWindowTest, storesTheFormAndGoesFromDiveToDive) {
     carnet.newDive();
     EXPECT_TRUE(window.isVisible());
     show();
-    EXPECT_EQ(window.windowTitle(), textWith("Carnet", "Dive number title", QString(), 4));
+    EXPECT_EQ(window.windowTitle(), textWith("Carnet", "Dive number title", 4));
     EXPECT_EQ(window.focusWidget(), widget(controls.noPlongeeField.index));
     auto* previous = window.findChild<QPushButton*>(QStringLiteral("previousButton"));
     auto* next = window.findChild<QPushButton*>(QStringLiteral("nextButton"));
     EXPECT_FALSE(previous->isEnabled() || next->isEnabled());
 
     carnet.selectRows({0});
-    EXPECT_EQ(window.windowTitle(), textWith("Carnet", "Dive number title", QString(), 1));
+    EXPECT_EQ(window.windowTitle(), textWith("Carnet", "Dive number title", 1));
     EXPECT_TRUE(!previous->isEnabled() && next->isEnabled());
     QTest::keyClicks(find<QLineEdit>(controls.bateauField), QStringLiteral("Alcyon"));
     next->click();

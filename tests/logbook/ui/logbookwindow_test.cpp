@@ -1,11 +1,11 @@
 #include "logbook/ui/logbookwindow.h"
 
+#include "desktop/ui/customtoolbar.h"
 #include "logbook/divecolumns.h"
 #include "logbook/ui/diveeditwindow.h"
 #include "logbook/ui/divesearchfield.h"
 #include "logbook/ui/divetable.h"
 #include "logbook/ui/renumberwindow.h"
-#include "platform/ui/customtoolbar.h"
 #include "support/testdesktop.h"
 
 #include <QClipboard>
@@ -242,7 +242,8 @@ TEST_F(LogbookWindowTest, searchesTheFieldThatWasChosenLast) {
     QTest::keyClick(&field, Qt::Key_Return);
     EXPECT_EQ(carnet.selectedRows(), QList<int>({30}));
     EXPECT_EQ(statusText(), u"40 dives|One dive found");
-    EXPECT_TRUE(table().viewport()->rect().contains(table().visualRect(table().model()->index(30, diveColumnOf("site")))));
+    EXPECT_TRUE(
+        table().viewport()->rect().contains(table().visualRect(table().model()->index(30, diveColumnOf("site")))));
 
     field.menu()->findChild<QAction*>(QStringLiteral("findInOrdinateurs"))->trigger();
     EXPECT_EQ(desktop.alerts.failures.size(), 1U);

@@ -1,0 +1,134 @@
+#pragma once
+
+#include "archive/sharednumbers.h"
+#include "records/date.h"
+#include "records/image.h"
+#include "records/series.h"
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+
+#include <array>
+#include <cstdint>
+#include <map>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace tavrel {
+
+/// Writes a typed stream: little-endian, every value in its shortest form, each item in a group of its own.
+///
+/// Objects that never change are written once and then referred to: numbers equal in type and bits, equal texts, equal
+/// dates. Arrays and images, which their readers may change, are written out each time.
+class TypedStreamWriter {
+public:
+    enum class Numbers {
+        shared,
+        literal,  ///< every number as an object of its own, as other writers may do
+    };
+
+    struct Class {
+        std::string_view name;
+        int version;
+        const Class* superclass;
+    };
+    // Classes of the platform that the parts of the writer share.
+    static const Class rootClass;  ///< NSObject
+    static const Class mutableArrayClass;
+    static const Class numberClass;
+
+    /// Sets memory aside for so many numbers in series beside the first bytes; what is not needed takes none.
+    explicit TypedStreamWriter(Numbers numbers = Numbers::shared, std::size_t expectedNumbers = 0);
+
+    /// The root array; its elements follow, then endObject().
+    void beginRoot(std::size_t count);
+    /// An element of the root array; its items follow, then endObject(). False when the record of that address was
+    /// written before: the element is then complete.
+    bool beginRecord(const Class& recordClass, const void* record);
+    void endObject();
+
+    void writeInteger(qint32 value);
+    void writeFloat(float value);
+    /// The 32 bits of the float as an integer.
+    void writeFloatBits(float value);
+    void writeText(const QString& text);
+    void writeDate(const Date& date);
+    void writeSeries(const Series& series);
+    void writeImage(const Image& image);
+    /// A colour as the root object: red, green, blue and alpha, or white and alpha; each 0 to 1, calibrated.
+    void writeRootColor(std::span<const float> components);
+
+    /// The whole stream.
+    QByteArray take();
+
+private:
+    struct Reference {
+        std::array<char, 8> bytes;
+        int size;
+    };
+
+    // Room for so many bytes at position_.
+    char* room(std::size_t count) {
+        if (static_cast<std::size_t>(end_ - position_) < count) {
+            grow(count);
+        }
+        return position_;
+    }
+    void put(unsigned char byte) {
+        *room(1) = static_cast<char>(byte);
+        ++position_;
+    }
+    void grow(std::size_t count);
+    void put(std::string_view bytes);
+    void putSigned(std::int64_t value);
+    void putUnsigned(std::uint64_t value);
+    void putWord(unsigned char tag, std::uint64_t word, int bytes);
+    void putFloat(float value);
+    void putDouble(double value);
+    void putReference(std::size_t number);
+    void putSharedString(std::string_view text);
+    void putCString(std::string_view text);
+    void putClass(const Class& description);
+    void putData(const QByteArray& bytes);
+    void putByteGroup(unsigned char value);
+    void beginGroup(std::string_view types) { putSharedString(types); }
+    void beginLiteral(const Class& description);
+
+    template <class Value>
+    void putBlock(std::span<const Value> values, char code);
+    template <class Value>
+    void putShared(std::span<const Value> values, char code);
+    void putSmall(std::span<const std::int8_t> values, char code);
+    template <class Value>
+    void putLiterals(std::span<const Value> values, char code);
+    template <class Value>
+    std::size_t putLiteral(Value value, char code);
+    void putNumber(const Number& number);
+    void putNumberPrefix(char code);
+    SharedNumbers::Element elementFor(std::size_t object) const;
+
+    Numbers numbers_;
+    QByteArray buffer_;
+    char* position_;
+    char* end_;
+    std::size_t nextObject_ = 0;
+    std::map<std::string, std::size_t, std::less<>> strings_;
+    std::array<Reference, 128> codeReferences_{};  // of the strings of a single code, size 0 while not written
+    std::map<std::string, std::size_t, std::less<>> cStrings_;
+    std::map<std::string, std::size_t, std::less<>> classes_;
+    QHash<QString, std::size_t> texts_;
+    QHash<quint64, std::size_t> dates_;
+    QHash<const void*, std::size_t> records_;
+    SharedNumbers reals_;   // of type 'd', by their bits
+    SharedNumbers narrow_;  // of other types, by their 32 bits and the type above them
+    std::map<std::pair<char, std::int64_t>, SharedNumbers::Element> wide_;  // integers beyond 32 bits
+    std::array<SharedNumbers::Element, 256> small_{};  // those of narrow_ that fit a byte, by that byte, of one type
+    char smallCode_ = 'i';
+    std::array<std::string, 128> numberPrefixes_;  // what precedes the value of a number literal, by type code
+};
+
+}  // namespace tavrel

@@ -1,0 +1,239 @@
+#include "desktop/preferences.h"
+
+#include "base/numbers.h"
+#include "base/texts.h"
+#include "desktop/alerts.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <optional>
+
+namespace tavrel {
+
+namespace {
+
+/// A value as it will come back from the file, so that reading does not depend on whether the file was read since:
+/// texts, lists of two entries and more, bytes, and an invalid value for an empty list.
+QVariant encoded(const QVariant& value) {
+    switch (value.typeId()) {
+        case QMetaType::Bool:
+            return value.toBool() ? QStringLiteral("1") : QStringLiteral("0");
+        case QMetaType::Double:
+            return shortestText(value.toDouble());
+        case QMetaType::Float:
+            return shortestText(value.toFloat());
+        case QMetaType::QByteArray:
+            return value;
+        case QMetaType::QStringList: {
+            const QStringList entries = value.toStringList();
+            if (entries.isEmpty()) {
+                return {};
+            }
+            return entries.size() == 1 ? QVariant(entries.first()) : value;
+        }
+        default:
+            return value.toString();
+    }
+}
+
+std::optional<QString> readText(const QVariant& value) {
+    if (value.typeId() != QMetaType::QString) {
+        return std::nullopt;
+    }
+    return value.toString();
+}
+
+std::optional<QString> readNumberText(const QVariant& value) {
+    auto text = readText(value);
+    return text && startsWithNumber(*text) ? text : std::nullopt;
+}
+
+std::optional<bool> readBoolean(const QVariant& value) {
+    const auto text = readText(value);
+    if (!text) {
+        return std::nullopt;
+    }
+    const QString word = text->trimmed().toLower();
+    if (word == u"yes" || word == u"true") {
+        return true;
+    }
+    if (word == u"no" || word == u"false") {
+        return false;
+    }
+    return startsWithNumber(word) ? std::optional(std::fpclassify(doubleValue(word)) != FP_ZERO) : std::nullopt;
+}
+
+std::optional<qint32> readInteger(const QVariant& value) {
+    const auto text = readNumberText(value);
+    if (!text) {
+        return std::nullopt;
+    }
+    // Through the decimal number, so that a stored 1e+06 is a million and not 1.
+    const double number = std::trunc(doubleValue(*text));
+    constexpr double lowest = std::numeric_limits<qint32>::min();
+    constexpr double highest = std::numeric_limits<qint32>::max();
+    return static_cast<qint32>(std::clamp(number, lowest, highest));
+}
+
+std::optional<double> readReal(const QVariant& value) {
+    const auto text = readNumberText(value);
+    return text ? std::optional(doubleValue(*text)) : std::nullopt;
+}
+
+std::optional<QStringList> readStrings(const QVariant& value) {
+    if (value.typeId() == QMetaType::QStringList) {
+        return value.toStringList();
+    }
+    if (value.typeId() == QMetaType::QString) {
+        return QStringList{value.toString()};
+    }
+    return value.isValid() ? std::nullopt : std::optional(QStringList());
+}
+
+std::optional<QColor> readColor(const QVariant& value) {
+    if (value.typeId() != QMetaType::QByteArray) {
+        return std::nullopt;
+    }
+    const QColor color = unarchivedColor(value.toByteArray());
+    return color.isValid() ? std::optional(color) : std::nullopt;
+}
+
+QString windowKey(const QString& name) {
+    return QStringLiteral("windows/") + name;
+}
+
+QSettings openStore(const QString& file) {
+    if (file.isEmpty()) {
+        return {QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Tavrel"), QStringLiteral("tavrel")};
+    }
+    return {file, QSettings::IniFormat};
+}
+
+}  // namespace
+
+Preferences::Preferences(const QString& file, Keeping keeping) : store_(openStore(file)) {
+    store_.setFallbacksEnabled(false);
+    if (keeping == Keeping::thisRun) {
+        thisRun_.emplace();
+        for (const QString& key : store_.allKeys()) {
+            thisRun_->insert(key, store_.value(key));
+        }
+    }
+}
+
+void Preferences::registerDefaults(const QVariantMap& defaults) {
+    for (auto entry = defaults.begin(); entry != defaults.end(); ++entry) {
+        defaults_.insert(entry.key(), encoded(entry.value()));
+    }
+}
+
+bool Preferences::isStored(const QString& key) const {
+    return thisRun_ ? thisRun_->contains(key) : store_.contains(key);
+}
+
+QVariant Preferences::stored(const QString& key) const {
+    return thisRun_ ? thisRun_->value(key) : store_.value(key);
+}
+
+/// What the stored value reads as, else what the default reads as, else the zero of the kind.
+template <class Reader>
+auto Preferences::read(const QString& key, Reader reader) const {
+    using Value = typename decltype(reader(QVariant()))::value_type;
+    std::optional<Value> value;
+    if (isStored(key)) {
+        value = reader(stored(key));
+    }
+    if (!value && defaults_.contains(key)) {
+        value = reader(defaults_.value(key));
+    }
+    return value.value_or(Value());
+}
+
+bool Preferences::boolean(const QString& key) const {
+    return read(key, readBoolean);
+}
+qint32 Preferences::integer(const QString& key) const {
+    return read(key, readInteger);
+}
+double Preferences::real(const QString& key) const {
+    return read(key, readReal);
+}
+QString Preferences::string(const QString& key) const {
+    return read(key, readText);
+}
+QStringList Preferences::strings(const QString& key) const {
+    return read(key, readStrings);
+}
+QColor Preferences::color(const QString& key) const {
+    return read(key, readColor);
+}
+
+void Preferences::set(const QString& key, const QVariant& value) {
+    write(key, encoded(value));
+}
+
+void Preferences::setColor(const QString& key, const QColor& color) {
+    const QVariant held = isStored(key) ? stored(key) : defaults_.value(key);
+    write(key, readColor(held) == color ? held : QVariant(archivedColor(color)));
+}
+
+void Preferences::remove(const QString& key) {
+    if (thisRun_) {
+        thisRun_->remove(key);
+        return;
+    }
+    store_.remove(key);
+    if (together_ == 0) {
+        store_.sync();
+    }
+}
+
+void Preferences::write(const QString& key, const QVariant& value) {
+    if (thisRun_) {
+        thisRun_->insert(key, value);
+        return;
+    }
+    store_.setValue(key, value);
+    if (together_ == 0) {
+        store_.sync();
+    }
+}
+
+Preferences::Together::~Together() {
+    if (--preferences_.together_ == 0) {
+        preferences_.store_.sync();
+    }
+}
+
+Expected<void> Preferences::synchronize() {
+    // The status of a QSettings stays bad after one failure; a new one on the same file shares its pending values.
+    QSettings writer(store_.fileName(), QSettings::IniFormat);
+    writer.sync();
+    if (writer.status() == QSettings::AccessError) {
+        return failure(textWith("Main", "Preferences not saved", Fallback{QStringLiteral("Preferences not saved: %@")},
+                                store_.fileName()));
+    }
+    return {};
+}
+
+void Preferences::synchronize(Alerts& alerts) {
+    if (thisRun_ || troubleTold_) {
+        return;
+    }
+    if (const auto written = synchronize(); !written) {
+        troubleTold_ = true;
+        alerts.fail(written.error());
+    }
+}
+
+QByteArray Preferences::windowState(const QString& name) const {
+    const QVariant state = stored(windowKey(name));
+    return state.typeId() == QMetaType::QByteArray ? state.toByteArray() : QByteArray();
+}
+
+void Preferences::setWindowState(const QString& name, const QByteArray& state) {
+    write(windowKey(name), state);
+}
+
+}  // namespace tavrel

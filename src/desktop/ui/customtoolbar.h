@@ -1,0 +1,99 @@
+#pragma once
+
+#include "base/texts.h"
+
+#include <QAction>
+#include <QString>
+#include <QStringList>
+#include <QToolBar>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <span>
+#include <vector>
+
+class QWidgetAction;
+
+namespace tavrel {
+
+class Preferences;
+
+/// An item that a toolbar can hold.
+struct ToolItem {
+    const char* identifier;
+    Title label;
+    const char* image;  ///< name of the icon, ":/icons/<image>.svg"
+    Title tip;
+};
+
+/// The places of a toolbar that are no items of their own.
+inline constexpr const char* toolSeparator = "separator";
+inline constexpr const char* toolSpace = "space";
+inline constexpr const char* toolFlexibleSpace = "flexibleSpace";
+inline constexpr const char* toolCustomise = "customise";
+
+/// A toolbar as its document declares it: what it can hold, what its palette offers, what it holds at first.
+struct ToolBarDescription {
+    const char* identifier;
+    std::span<const ToolItem> items;
+    std::span<const char* const> allowed;
+    std::span<const char* const> initial;
+};
+
+/// A toolbar that its user arranges: items are added, removed and moved in a dialog, and the arrangement is remembered
+/// under the toolbar's identifier. An item shows only when the program at hand can do it (it has a command or a
+/// widget); one that it cannot do keeps its place all the same.
+class CustomToolBar : public QToolBar {
+    Q_OBJECT
+
+public:
+    CustomToolBar(const ToolBarDescription& description, Preferences& preferences, QWidget* parent);
+    ~CustomToolBar() override;
+
+    /// What an item does, or the widget it consists of. Call rebuild() after the last one.
+    void setCommand(const QString& identifier, std::function<void()> command);
+    void setWidget(const QString& identifier, QWidget* widget);
+    /// Which items can be used now; asked at every validate().
+    void setValidation(std::function<bool(const QString& identifier)> isEnabled);
+    void validate();
+
+    /// The items in their present order, those that do not show included.
+    const QStringList& arrangement() const { return arrangement_; }
+    /// Items that the toolbar does not know, and second copies of one, are left out; the rest is remembered.
+    void setArrangement(const QStringList& identifiers);
+    /// Icons, words or both; remembered with the arrangement.
+    void setStyle(Qt::ToolButtonStyle style);
+    void restoreInitial();
+    void rebuild();
+
+    const ToolBarDescription& description() const { return description_; }
+    /// The action of an item, for menus; null when the program cannot do it.
+    QAction* action(const QString& identifier) const;
+    /// What an item or place is called.
+    QString titleOf(const QString& identifier) const;
+    /// Separators and spaces, of which a toolbar may hold several.
+    static bool isPlace(const QString& identifier);
+    /// Opens the dialog in which the toolbar is arranged.
+    void runCustomisation();
+
+protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+private:
+    const ToolItem* item(const QString& identifier) const;
+    QStringList initial() const;
+    QStringList known(const QStringList& identifiers) const;
+    void restore();
+    void remember();
+    void addSpace(bool flexible);
+
+    const ToolBarDescription description_;
+    Preferences& preferences_;
+    QStringList arrangement_;
+    std::map<QString, QAction*> actions_;
+    std::vector<std::unique_ptr<QAction>> places_;
+    std::function<bool(const QString&)> isEnabled_;
+};
+
+}  // namespace tavrel

@@ -1,0 +1,55 @@
+#include "desktop/ui/dialogalerts.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace tavrel {
+
+namespace {
+
+/// Names of files and fields are shown as they are, so nothing in an alert is taken for markup.
+class AlertBox : public QMessageBox {
+public:
+    AlertBox(Icon icon, const QString& message)
+        : QMessageBox(icon, QApplication::applicationDisplayName(), message, NoButton, QApplication::activeWindow()) {
+        setTextFormat(Qt::PlainText);
+        setWindowModality(parentWidget() ? Qt::WindowModal : Qt::ApplicationModal);
+    }
+};
+
+}  // namespace
+
+void DialogAlerts::beep() {
+    QApplication::beep();
+}
+
+int DialogAlerts::ask(const QString& message, const QStringList& buttons) {
+    AlertBox box(QMessageBox::Question, message);
+    QList<QAbstractButton*> added;
+    for (const QString& title : buttons) {
+        const bool isFirst = added.isEmpty();
+        const bool isLast = added.size() == buttons.size() - 1;
+        added.append(box.addButton(title, isFirst  ? QMessageBox::AcceptRole
+                                          : isLast ? QMessageBox::RejectRole
+                                                   : QMessageBox::DestructiveRole));
+    }
+    box.setDefaultButton(qobject_cast<QPushButton*>(added.constFirst()));
+    box.setEscapeButton(added.constLast());
+    box.exec();
+    const auto chosen = added.indexOf(box.clickedButton());
+    return static_cast<int>(chosen < 0 ? added.size() - 1 : chosen);
+}
+
+void DialogAlerts::tell(const QString& message) {
+    AlertBox box(QMessageBox::Information, message);
+    box.exec();
+}
+
+void DialogAlerts::fail(const Failure& failure) {
+    AlertBox box(QMessageBox::Warning, failure.sentence);
+    box.setInformativeText(failure.detail);
+    box.exec();
+}
+
+}  // namespace tavrel

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "desktop/desktop.h"
+#include "documents/document.h"
+
+#include <QAction>
+#include <QList>
+#include <QMainWindow>
+#include <QMimeData>
+#include <QString>
+#include <QStringList>
+
+namespace tavrel {
+
+/// The main window of a document: title with the change mark, the save prompt on closing, files dropped on it, and the
+/// places where the application hangs the menus it builds for every document.
+class DocumentWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    DocumentWindow(Document& document, Desktop& desktop);
+
+    Document& document() { return document_; }
+
+    /// The menu of the document's own commands, as "Dive" in a logbook; null actions are separators.
+    virtual QString ownMenuTitle() const { return {}; }
+    virtual QList<QAction*> ownMenuActions() { return {}; }
+    /// Commands of the View menu (columns, toolbar).
+    virtual QList<QAction*> viewActions() { return {}; }
+    /// Commands of the Edit menu beyond undo and redo (copy, find, select all).
+    virtual QList<QAction*> editActions() { return {}; }
+    /// Imports of the File menu.
+    virtual QList<QAction*> importActions() { return {}; }
+    virtual void printDocument() = 0;
+    /// The document's further windows (edit form …), closed with it.
+    virtual QList<QWidget*> furtherWindows() { return {}; }
+    /// Stores what is being edited before the document is saved or closed.
+    virtual void commitEditing() {}
+
+    /// Closes the window and the document's further ones without asking anyone.
+    void closeWithDocument();
+
+Q_SIGNALS:
+    /// Asked by the title bar's close button; the application answers with the save prompt and closes the document.
+    void closeRequested();
+    /// Asked by a Save of the window's own (a toolbar's); the application saves as its File menu does.
+    void saveRequested();
+    void filesDropped(const QStringList& files);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+    Desktop& desktop_;
+
+private:
+    void updateTitle();
+
+    Document& document_;
+    bool mayClose_ = false;
+};
+
+/// The local files that dragged data names; other addresses are left out.
+QStringList localFiles(const QMimeData& data);
+
+}  // namespace tavrel

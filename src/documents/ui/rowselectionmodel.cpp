@@ -1,0 +1,134 @@
+#include "documents/ui/rowselectionmodel.h"
+
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <iterator>
+
+namespace tavrel {
+
+namespace {
+
+/// Beyond so many ranges of rows, painting and changing a selection would slow down.
+constexpr int mostRanges = 500;
+
+QList<int> rowsOf(const QItemSelection& selection) {
+    QList<int> rows;
+    for (const auto& range : selection) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            rows.append(row);
+        }
+    }
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    return rows;
+}
+
+QList<int> combine(const QList<int>& rows, const QList<int>& gesture, QItemSelectionModel::SelectionFlags operation) {
+    QList<int> result;
+    const auto add = std::back_inserter(result);
+    if (operation & QItemSelectionModel::Select) {
+        std::set_union(rows.begin(), rows.end(), gesture.begin(), gesture.end(), add);
+    } else if (operation & QItemSelectionModel::Deselect) {
+        std::set_difference(rows.begin(), rows.end(), gesture.begin(), gesture.end(), add);
+    } else if (operation & QItemSelectionModel::Toggle) {
+        std::set_symmetric_difference(rows.begin(), rows.end(), gesture.begin(), gesture.end(), add);
+    } else {
+        result = rows;
+    }
+    return result;
+}
+
+}  // namespace
+
+RowSelectionModel::RowSelectionModel(QAbstractItemModel* model, ListDocumentBase& document, QObject* parent)
+    : QItemSelectionModel(model, parent), document_(document) {
+    connect(&document, &ListDocumentBase::listChanged, this, &RowSelectionModel::mirror);
+    connect(&document, &ListDocumentBase::selectionChanged, this, &RowSelectionModel::mirror);
+    mirror();
+}
+
+bool RowSelectionModel::isRowSelected(int row) const {
+    const QList<int>& rows = document_.selectedRows();
+    return std::binary_search(rows.begin(), rows.end(), row);
+}
+
+void RowSelectionModel::markSelected(QStyleOptionViewItem& option, const QModelIndex& index) const {
+    option.state.setFlag(QStyle::State_Selected, isRowSelected(index.row()));
+}
+
+void RowSelectionModel::select(const QItemSelection& selection, SelectionFlags command) {
+    if (mirroring_) {
+        QItemSelectionModel::select(selection, command);
+        return;
+    }
+    if (command == NoUpdate) {
+        return;
+    }
+    if (document_.selectedRows() != combined_) {  // the document selected something itself since the last gesture
+        settled_ = document_.selectedRows();
+        gesture_.clear();
+    }
+    if (command & Clear) {
+        settled_.clear();
+        gesture_.clear();
+    }
+    if (!(command & Current)) {
+        settled_ = combine(settled_, gesture_, operation_);
+        gesture_.clear();
+    }
+    if (command & (Select | Deselect | Toggle)) {
+        operation_ = command & (Select | Deselect | Toggle);
+        gesture_ = rowsOf(selection);
+    }
+    combined_ = combine(settled_, gesture_, operation_);
+
+    const QScopedValueRollback answering(answering_, true);
+    document_.selectRows(combined_);
+}
+
+void RowSelectionModel::reset() {
+    // The model's rows are read again; the document keeps its selection, which mirror() brings back.
+    const QScopedValueRollback mirroring(mirroring_, true);
+    QItemSelectionModel::reset();
+}
+
+void RowSelectionModel::mirror() {
+    const int lastRow = model()->rowCount() - 1;
+    const int lastColumn = model()->columnCount() - 1;
+    QItemSelection ranges;
+    const QList<int>& rows = document_.selectedRows();
+    for (qsizetype first = 0; first < rows.size() && rows[first] <= lastRow;) {
+        qsizetype last = first;
+        while (last + 1 < rows.size() && rows[last + 1] == rows[last] + 1 && rows[last + 1] <= lastRow) {
+            ++last;
+        }
+        if (ranges.size() == mostRanges) {
+            ranges.clear();
+            ranges.append(
+                QItemSelectionRange(model()->index(rows.front(), 0), model()->index(rows.front(), lastColumn)));
+            break;
+        }
+        ranges.append(QItemSelectionRange(model()->index(rows[first], 0), model()->index(rows[last], lastColumn)));
+        first = last + 1;
+    }
+    {
+        const QScopedValueRollback mirroring(mirroring_, true);
+        QItemSelectionModel::select(ranges, ClearAndSelect);
+    }
+    if (!answering_) {
+        makeCurrent(document_.selectedRow());
+    }
+}
+
+void RowSelectionModel::makeCurrent(int row) {
+    // The arrow keys go on from the selection; where the user already stands in it nothing moves.
+    const bool outside =
+        row >= 0 && row < model()->rowCount() && !(currentIndex().isValid() && isRowSelected(currentIndex().row()));
+    if (outside) {
+        const QScopedValueRollback mirroring(mirroring_, true);
+        setCurrentIndex(model()->index(row, std::max(0, currentIndex().column())), NoUpdate);
+    }
+}
+
+}  // namespace tavrel

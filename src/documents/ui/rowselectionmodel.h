@@ -1,0 +1,49 @@
+#pragma once
+
+#include "documents/listdocument.h"
+
+#include <QItemSelectionModel>
+#include <QStyleOptionViewItem>
+
+namespace tavrel {
+
+/// The selection of a table whose rows are a document's records. The document holds the selection: what the user
+/// selects goes there, and what the document selects shows here.
+///
+/// Views search a selection range by range for every cell, and compare two selections range by range with each other.
+/// So this model holds the document's rows only while they make up few ranges; the cells ask isRowSelected(), which is
+/// fast for any selection.
+class RowSelectionModel : public QItemSelectionModel {
+    Q_OBJECT
+
+public:
+    /// The model's rows are the document's; construct after what resets the model when the list changes.
+    RowSelectionModel(QAbstractItemModel* model, ListDocumentBase& document, QObject* parent);
+
+    bool isRowSelected(int row) const;
+    /// Marks a cell's option as selected when its row is; for a delegate's initStyleOption().
+    void markSelected(QStyleOptionViewItem& option, const QModelIndex& index) const;
+
+    /// Whether what changes now comes from the document.
+    bool isMirroring() const { return mirroring_; }
+
+    using QItemSelectionModel::select;
+    void select(const QItemSelection& selection, QItemSelectionModel::SelectionFlags command) override;
+    void reset() override;
+
+private:
+    void mirror();
+    void makeCurrent(int row);
+
+    ListDocumentBase& document_;
+    /// What the user's present gesture (a drag, a growing Shift selection) started from, the rows it spans now, and
+    /// what it does with them.
+    QList<int> settled_;
+    QList<int> gesture_;
+    SelectionFlags operation_ = NoUpdate;
+    QList<int> combined_;
+    bool mirroring_ = false;
+    bool answering_ = false;
+};
+
+}  // namespace tavrel

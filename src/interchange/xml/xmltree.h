@@ -1,0 +1,126 @@
+#pragma once
+
+#include "base/failure.h"
+#include "base/progress.h"
+
+#include <QByteArrayView>
+#include <QString>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tavrel {
+
+/// The nodes of an XmlTree: elements, and texts between elements, in one block. An element that holds nothing but text
+/// holds it itself.
+struct XmlNodes {
+    static constexpr std::uint32_t none = 0xFFFFFFFF;
+
+    struct Node {
+        const char* name;  ///< null for a text
+        std::uint32_t parent;
+        std::uint32_t first;  ///< child
+        std::uint32_t next;   ///< sibling
+        std::uint32_t length;
+        std::size_t offset;  ///< of its text in the texts
+    };
+
+    std::string_view textOf(const Node& node) const { return std::string_view(texts).substr(node.offset, node.length); }
+
+    std::vector<Node> nodes;
+    std::string texts;
+};
+
+/// An element of an XmlTree, valid while the tree lives. The null element stands for one that is missing: it has no
+/// children and an empty text. Names are compared as they stand in the file, a prefix included.
+class XmlElement {
+public:
+    class Children;
+
+    XmlElement() = default;
+
+    bool isNull() const { return !tree_; }
+    std::string_view name() const { return isNull() ? std::string_view() : node().name; }
+    XmlElement parent() const { return isNull() ? XmlElement() : at(node().parent); }
+    /// The children of a name, in order.
+    Children children(const char* name) const;
+    XmlElement first(const char* name) const;
+    XmlElement last(const char* name) const;
+
+    /// The whole text content in UTF-8: the texts of the element and all its descendants joined with nothing between
+    /// them. Blanks that merely lay out child elements are no text; entity references stand for nothing. A view into
+    /// the tree where the text is in one piece, else into the buffer given.
+    std::string_view text(std::string& buffer) const;
+    /// The same text; bytes that are no UTF-8, in a file that declares no encoding, are taken for Latin-1.
+    QString text() const;
+
+private:
+    friend class XmlTree;
+    XmlElement(const XmlNodes* tree, std::uint32_t index) : tree_(tree), index_(index) {}
+
+    const XmlNodes::Node& node() const { return tree_->nodes[index_]; }
+    XmlElement at(std::uint32_t index) const {
+        return index == XmlNodes::none ? XmlElement() : XmlElement(tree_, index);
+    }
+    /// The element itself or the next sibling of that name.
+    XmlElement matching(const char* name) const;
+
+    const XmlNodes* tree_ = nullptr;
+    std::uint32_t index_ = 0;
+};
+
+class XmlElement::Children {
+public:
+    struct End {};
+
+    class Iterator {
+    public:
+        Iterator(XmlElement element, const char* name) : element_(element), name_(name) {}
+        XmlElement operator*() const { return element_; }
+        Iterator& operator++();
+        bool operator!=(End) const { return !element_.isNull(); }
+
+    private:
+        XmlElement element_;
+        const char* name_;
+    };
+
+    Iterator begin() const { return {first_, name_}; }
+    End end() const { return {}; }
+    std::size_t count() const;
+
+private:
+    friend class XmlElement;
+    Children(XmlElement first, const char* name) : first_(first), name_(name) {}
+
+    XmlElement first_;
+    const char* name_;
+};
+
+/// An XML file as a tree of elements and texts, without attributes. Malformed markup is repaired as far as libxml2's
+/// parser recovers it, and texts are converted from the encoding that the file declares. Nothing outside the bytes is
+/// ever read: entities, external references and inclusions stay unresolved, and the network is out of reach. Fails when
+/// the bytes hold no element, or when they nest or grow beyond the parser's limits (256 levels, names of 50 kB)
+/// or name entities whose texts add up to far more than the file.
+class XmlTree {
+public:
+    /// The progress counts bytes.
+    static Expected<XmlTree> parse(QByteArrayView bytes, const Progress& progress = {});
+
+    XmlElement root() const { return nodes_->nodes.empty() ? XmlElement() : XmlElement(nodes_.get(), 0); }
+
+private:
+    struct Free {
+        void operator()(void* names) const;
+    };
+
+    XmlTree() : nodes_(std::make_unique<XmlNodes>()) {}
+
+    std::unique_ptr<XmlNodes> nodes_;
+    std::unique_ptr<void, Free> names_;  // the parser's dictionary, which holds the names of the nodes
+};
+
+}  // namespace tavrel

@@ -1,0 +1,197 @@
+#include "base/texts.h"
+
+#include "support/printing.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QRegularExpression>
+#include <QXmlStreamReader>
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <map>
+
+namespace tavrel {
+
+namespace {
+
+using Arguments = std::vector<FormatArgument>;
+using Table = std::map<QString, QString>;
+
+class Texts : public testing::Test {
+public:
+    ~Texts() override { setTextLanguage(QStringLiteral("en")); }
+};
+
+TEST_F(Texts, comeInTheChosenLanguage) {
+    setTextLanguage(QStringLiteral("fr_CA.UTF-8"));
+    EXPECT_EQ(textLanguage(), u"fr");
+    EXPECT_EQ(text("Main", "Save"), u"Enregistrer");
+    EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), u"Annuler");
+    for (const auto* name : {"en", "de_DE", "C"}) {
+        setTextLanguage(QLatin1String(name));
+        EXPECT_EQ(text(Title("Carnet", "Very easy")), u"Very easy") << name;
+    }
+    EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), u"Cancel");
+    EXPECT_EQ(text("Carnet", "\r   - Shorty"), u"\r   - Shorty");
+}
+
+TEST_F(Texts, thatAreMissingShowTheFallback) {
+    setTextLanguage(QStringLiteral("fr"));
+    const auto missing = [](const char* table, const char* key) { return text(table, key, QStringLiteral("N/A")); };
+    EXPECT_EQ(missing("Main", "Savf"), u"N/A");
+    EXPECT_EQ(missing("Nowhere", "Save"), u"N/A");
+    EXPECT_EQ(text(Title()), QString());
+}
+
+TEST_F(Texts, fillFormatsWithoutRegardToTheLocale) {
+    struct Case {
+        const char* format;
+        Arguments arguments;
+        const char* result;
+    };
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const QString words = QStringLiteral("Épave");
+    const qint64 large = 5000000000;
+    const Case cases[] = {
+        {"no placeholder", {}, "no placeholder"},
+        {"%d %i|%ld|%lld", {qint64(1), qint64(-2), large, large}, "1 -2|5000000000|5000000000"},
+        {"%5d|%-5d|%05d|%+d|%.3d",
+         {qint64(42), qint64(42), qint64(-42), qint64(42), qint64(7)},
+         "   42|42   |-0042|+42|007"},
+        {"%u %x", {qint64(7), qint64(255)}, "7 ff"},
+        {"%f|%.1f|%6.2f|%lf", {1.5, 0.25, -3.14159, 2.0}, "1.500000|0.2| -3.14|2.000000"},
+        {"%e|%g|%g", {1234.5, 0.5, 1e10}, "1.234500e+03|0.5|1e+10"},
+        {"%.1f", {qint64(3)}, "3.0"},
+        {"%f %5.1f %.1f", {nan, -nan, -std::numeric_limits<double>::infinity()}, "nan   nan -inf"},
+        {"%@ m, %@ l, %s", {18.5, qint64(12), words}, "18.5 m, 12 l, Épave"},
+        {"[%7@][%-7s][%.2s]", {words, words, words}, "[  Épave][Épave  ][Ép]"},
+        {"100 %% O₂ (%d%%)", {qint64(1)}, "100 % O₂ (1%)"},
+        {"%@", {QStringLiteral("%d %@")}, "%d %@"},
+        // What does not fit.
+        {"%d", {1.5}, "?"},
+        {"%d", {words}, "?"},
+        {"%u", {qint64(-1)}, "?"},
+        {"%f", {words}, "?"},
+        {"%d", {}, "?"},
+        {"%d", {qint64(1), qint64(2)}, "?"},
+        {"%", {}, "?"},
+        {"50 % of", {}, "?"},
+        {"%5", {qint64(1)}, "?"},
+        {"%n", {qint64(1)}, "?"},
+        {"%*d", {qint64(5), qint64(1)}, "?"},
+        {"%1$d", {qint64(1)}, "?"},
+        {"%99999999999d", {qint64(1)}, "?"},
+    };
+    for (const Case& it : cases) {
+        EXPECT_EQ(fillFormat(QString::fromUtf8(it.format), it.arguments, QStringLiteral("?")),
+                  QString::fromUtf8(it.result))
+            << it.format;
+    }
+    setTextLanguage(QStringLiteral("fr"));
+    EXPECT_EQ(textWith("Carnet", "Found dives", 3), u"3 plongées trouvées");
+    EXPECT_EQ(textWith("Carnet", "Found dives", Fallback{QStringLiteral("N/A")}, QStringLiteral("three")), u"N/A");
+    EXPECT_EQ(fillFormat(QStringLiteral("%@"), {formatArgument(0.1F)}), u"0.1");
+}
+
+/// The messages of a .ts file, in order; fails the test on a malformed file, a key met twice or out of order.
+Table readTable(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    QXmlStreamReader xml(&file);
+    Table table;
+    QString key;
+    while (!xml.atEnd()) {
+        xml.readNext();
+        if (xml.isStartElement() && xml.name() == u"source") {
+            const QString previous = key;
+            key = xml.readElementText();
+            EXPECT_LT(previous, key) << path.toStdString() << ": keys are sorted, each there once";
+        } else if (xml.isStartElement() && xml.name() == u"translation") {
+            EXPECT_TRUE(xml.attributes().isEmpty());
+            table[key] = xml.readElementText();
+            EXPECT_FALSE(table[key].isEmpty()) << path.toStdString() << ": " << key.toStdString();
+        }
+    }
+    EXPECT_FALSE(xml.hasError()) << path.toStdString() << ": " << xml.errorString().toStdString();
+    return table;
+}
+
+/// All tables of a language by name.
+std::map<QString, Table> readLanguage(const QString& language) {
+    std::map<QString, Table> tables;
+    const QDir folder(QStringLiteral(TAVREL_SOURCE_FOLDER "/resources/texts/") + language);
+    for (const QFileInfo& file : folder.entryInfoList({QStringLiteral("*.ts")})) {
+        tables[file.completeBaseName()] = readTable(file.filePath());
+    }
+    return tables;
+}
+
+TEST(TextTables, haveTheSameKeysAndPlaceholdersInEveryLanguage) {
+    const auto english = readLanguage(QStringLiteral("en"));
+    ASSERT_FALSE(english.empty());
+    const QDir languages(QStringLiteral(TAVREL_SOURCE_FOLDER "/resources/texts"));
+    for (const QString& language : languages.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        const auto tables = readLanguage(language);
+        EXPECT_EQ(tables.size(), english.size()) << language.toStdString();
+        setTextLanguage(language);
+        for (const auto& [name, table] : english) {
+            const Table other = tables.contains(name) ? tables.at(name) : Table();
+            EXPECT_EQ(other.size(), table.size()) << language.toStdString() << ' ' << name.toStdString();
+            for (const auto& [key, words] : table) {
+                const auto where = QStringList{language, name, key}.join(u' ').toStdString();
+                ASSERT_TRUE(other.contains(key)) << where;
+                EXPECT_FALSE(formatPlaceholders(words).isNull()) << where;
+                EXPECT_EQ(formatPlaceholders(other.at(key)), formatPlaceholders(words)) << where;
+                EXPECT_EQ(text(name.toUtf8(), key.toUtf8()), other.at(key)) << where << " is not compiled in";
+            }
+        }
+    }
+    setTextLanguage(QStringLiteral("en"));
+}
+
+QString unescaped(QString literal) {
+    literal.replace(QStringLiteral("\\r"), QStringLiteral("\r"));
+    literal.replace(QStringLiteral("\\n"), QStringLiteral("\n"));
+    literal.replace(QStringLiteral("\\\""), QStringLiteral("\""));
+    return literal;
+}
+
+TEST(TextTables, holdEveryKeyThatTheCodeUses) {
+    const auto english = readLanguage(QStringLiteral("en"));
+    // text("Table", "Key", textWith("Table", "Key", Title("Table", "Key"), Title name{"Table", "Key"}, and titles,
+    // {"Table", "Key"}.
+    const QRegularExpression use(QStringLiteral(
+        R"re((?:\b(text|textWith|Title(?:\s+\w+)?)\s*[({]|\{)\s*"((?:[^"\\]|\\.)*)"\s*,\s*"((?:[^"\\]|\\.)*)")re"));
+    int uses = 0;
+    QDirIterator files(QStringLiteral(TAVREL_SOURCE_FOLDER "/src"), {QStringLiteral("*.h"), QStringLiteral("*.cpp")},
+                       QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        QFile file(files.next());
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        QString code = QString::fromUtf8(file.readAll());
+        code.remove(QRegularExpression(QStringLiteral(R"(^\s*//.*$)"), QRegularExpression::MultilineOption));
+        for (auto matches = use.globalMatch(code); matches.hasNext(); ++uses) {
+            const auto match = matches.next();
+            const QString table = unescaped(match.captured(2));
+            const QString key = unescaped(match.captured(3));
+            const auto where = QStringList{file.fileName(), table, key}.join(u' ').toStdString();
+            const auto found = english.find(table);
+            if (match.captured(1).isEmpty() && found == english.end()) {
+                continue;  // a pair of other texts
+            }
+            if (found == english.end() || !found->second.contains(key)) {
+                ADD_FAILURE() << where << " is in no table";
+            } else if (match.captured(1) == u"textWith") {
+                EXPECT_FALSE(formatPlaceholders(found->second.at(key)).isEmpty()) << where << " has nothing to fill";
+            }
+        }
+    }
+    EXPECT_GT(uses, 0);
+}
+
+}  // namespace
+
+}  // namespace tavrel

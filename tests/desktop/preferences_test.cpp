@@ -1,0 +1,261 @@
+#include "desktop/preferences.h"
+
+#include "desktop/defaults.h"
+#include "support/testdesktop.h"
+
+#include <QFile>
+#include <gtest/gtest.h>
+
+namespace tavrel {
+
+namespace {
+
+const QString key = QStringLiteral("low temperature value");
+
+/// The preferences as another run of the program finds them: a copy of the file, which no open store knows.
+class NextRun {
+public:
+    explicit NextRun(const TestDesktop& desktop, const char* name = "next.ini") : store(copied(desktop, name)) {}
+    Preferences store;
+
+private:
+    static QString copied(const TestDesktop& desktop, const char* name) {
+        QString copy = desktop.path(QLatin1String(name));
+        EXPECT_TRUE(QFile::copy(desktop.path(QStringLiteral("preferences.ini")), copy));
+        return copy;
+    }
+};
+
+TEST(Preferences, readEveryKindBackInTheNextRun) {
+    TestDesktop desktop;
+    Preferences& now = desktop.preferences;
+    const QStringList texts{
+        QString(),
+        QStringLiteral("yes, \"quoted\"; = [x] % \\ é ß 潜水"),
+        QStringLiteral(" blanks around "),
+        QStringLiteral("@Invalid()"),
+        QStringLiteral("two\r\nlines\ttab"),
+    };
+    const QList<QStringList> lists{
+        {},
+        {QString()},
+        {QString(), QString()},
+        {QStringLiteral("Port-Cros, la Gabinière")},
+        {QStringLiteral("@home"), QStringLiteral("Ärger, Öl"), QString(), QStringLiteral(" x ")},
+    };
+    {
+        const Preferences::Together together(now);
+        now.set(QStringLiteral("yes"), true);
+        now.set(QStringLiteral("no"), false);
+        now.set(QStringLiteral("whole"), -50);
+        now.set(QStringLiteral("fraction"), 0.1);
+        for (int i = 0; i < texts.size(); ++i) {
+            now.set(QStringLiteral("text %1").arg(i), texts[i]);
+        }
+        for (int i = 0; i < lists.size(); ++i) {
+            now.set(QStringLiteral("list %1").arg(i), lists[i]);
+        }
+        now.setColor(QStringLiteral("plot color"), QColor::fromRgbF(1.0F, 0.5F, 0.0F, 0.25F));
+        now.setWindowState(QStringLiteral("Nitrox Prof Max"), QByteArray("\0\xff,x", 4));
+    }
+    const NextRun next(desktop);
+    for (const Preferences* run : std::initializer_list<const Preferences*>{&now, &next.store}) {
+        EXPECT_TRUE(run->boolean(QStringLiteral("yes")));
+        EXPECT_EQ(run->string(QStringLiteral("yes")), u"1");
+        EXPECT_TRUE(run->isStored(QStringLiteral("no")));
+        EXPECT_FALSE(run->boolean(QStringLiteral("no")));
+        EXPECT_EQ(run->integer(QStringLiteral("whole")), -50);
+        EXPECT_EQ(run->real(QStringLiteral("fraction")), 0.1);
+        for (int i = 0; i < texts.size(); ++i) {
+            EXPECT_EQ(run->string(QStringLiteral("text %1").arg(i)), texts[i]);
+        }
+        for (int i = 0; i < lists.size(); ++i) {
+            EXPECT_TRUE(run->isStored(QStringLiteral("list %1").arg(i)));
+            EXPECT_EQ(run->strings(QStringLiteral("list %1").arg(i)), lists[i]) << i;
+        }
+        const QColor color = run->color(QStringLiteral("plot color"));
+        EXPECT_NEAR(color.greenF(), 0.5, 1e-4);
+        EXPECT_NEAR(color.alphaF(), 0.25, 1e-4);
+        EXPECT_EQ(run->windowState(QStringLiteral("Nitrox Prof Max")), QByteArray("\0\xff,x", 4));
+    }
+}
+
+TEST(Preferences, readAWrongKindAsTheDefault) {
+    TestDesktop desktop;
+    Preferences& preferences = desktop.preferences;
+    preferences.registerDefaults({{QStringLiteral("b"), true},
+                                  {QStringLiteral("n"), 7},
+                                  {QStringLiteral("s"), QStringLiteral("FRA")},
+                                  {QStringLiteral("l"), QStringList{QStringLiteral("x"), QStringLiteral("y")}}});
+    const QStringList list{QStringLiteral("1"), QStringLiteral("2")};
+    for (const auto* name : {"b", "n", "s"}) {
+        preferences.set(QLatin1String(name), list);
+    }
+    preferences.set(QStringLiteral("l"), QByteArray("bytes"));
+    preferences.set(QStringLiteral("low temperature color"), QStringLiteral("blue"));
+    EXPECT_TRUE(preferences.boolean(QStringLiteral("b")));
+    EXPECT_EQ(preferences.integer(QStringLiteral("n")), 7);
+    EXPECT_EQ(preferences.string(QStringLiteral("s")), u"FRA");
+    EXPECT_EQ(preferences.strings(QStringLiteral("l")).size(), 2);
+    EXPECT_EQ(preferences.color(QStringLiteral("low temperature color")), QColor(Qt::blue));
+    preferences.set(QStringLiteral("n"), QStringLiteral("deep"));
+    preferences.set(QStringLiteral("b"), QStringLiteral("perhaps"));
+    EXPECT_EQ(preferences.real(QStringLiteral("n")), 7.0);
+    EXPECT_TRUE(preferences.boolean(QStringLiteral("b")));
+    // Without a default either: the zero of the kind.
+    preferences.set(key, list);
+    EXPECT_EQ(preferences.integer(key), 0);
+    EXPECT_FALSE(preferences.boolean(key));
+    EXPECT_FALSE(preferences.color(QStringLiteral("no such color")).isValid());
+}
+
+TEST(Preferences, readTextsAsBooleansAndNumbers) {
+    TestDesktop desktop;
+    Preferences& preferences = desktop.preferences;
+    struct Case {
+        const char* text;
+        bool boolean;
+        qint32 integer;
+        double real;
+    };
+    const Case cases[] = {
+        {"YES", true, 0, 0},
+        {"yes", true, 0, 0},
+        {"true", true, 0, 0},
+        {"NO", false, 0, 0},
+        {"1", true, 1, 1},
+        {"0", false, 0, 0},
+        {"0.5", true, 0, 0.5},
+        {"-3,7 m", true, -3, -3.7},
+        {"", false, 0, 0},
+        {"0.0", false, 0, 0},
+        {"1e10", true, std::numeric_limits<qint32>::max(), 1e10},
+    };
+    for (const Case& it : cases) {
+        preferences.set(key, QLatin1String(it.text));
+        EXPECT_EQ(preferences.boolean(key), it.boolean) << it.text;
+        EXPECT_EQ(preferences.integer(key), it.integer) << it.text;
+        EXPECT_EQ(preferences.real(key), it.real) << it.text;
+    }
+}
+
+TEST(Preferences, thatCannotBeWrittenStayInMemory) {
+    const TestDesktop desktop;
+    QFile obstacle(desktop.path(QStringLiteral("obstacle")));
+    ASSERT_TRUE(obstacle.open(QIODevice::WriteOnly));
+    Preferences preferences(obstacle.fileName() + QStringLiteral("/folder/tavrel.ini"));
+    preferences.set(key, 12);
+    EXPECT_EQ(preferences.integer(key), 12);
+    RecordingAlerts alerts;
+    preferences.synchronize(alerts);
+    preferences.synchronize(alerts);
+    EXPECT_EQ(alerts.failures.size(), 1U) << "told once";
+    const auto result = preferences.synchronize();
+    ASSERT_FALSE(result);
+    EXPECT_TRUE(result.error().sentence.contains(u"obstacle/folder/tavrel.ini"));
+    // The obstacle gone, the next attempt succeeds and the value is there.
+    ASSERT_TRUE(obstacle.remove());
+    EXPECT_TRUE(preferences.synchronize());
+    QFile written(obstacle.fileName() + QStringLiteral("/folder/tavrel.ini"));
+    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(written.readAll().contains("=12"));
+}
+
+TEST(Preferences, haveTheirRegisteredDefaults) {
+    TestDesktop desktop;
+    Preferences& preferences = desktop.preferences;
+    for (const auto* name : {"depth time in color", "display units", "fill plot", "x minor ticks", "y minor ticks"}) {
+        EXPECT_TRUE(preferences.boolean(QLatin1String(name))) << name;
+        EXPECT_FALSE(preferences.isStored(QLatin1String(name))) << name;
+    }
+    EXPECT_EQ(preferences.integer(QStringLiteral("coloured theme")), 0);
+    EXPECT_EQ(preferences.string(QStringLiteral("stop_interval")), u"3");
+    EXPECT_EQ(preferences.integer(QStringLiteral("stop interval")), 0);
+    EXPECT_EQ(preferences.real(QStringLiteral("alpha fill color")), 0.5);
+    EXPECT_EQ(preferences.color(QStringLiteral("ASC color")), QColor(Qt::yellow));
+    EXPECT_EQ(preferences.color(QStringLiteral("plot color")), QColor(Qt::red));
+    EXPECT_NEAR(preferences.color(QStringLiteral("background color")).redF(), 0.5, 1e-4);
+}
+
+TEST(Preferences, keepTheSpaceOfAColor) {
+    TestDesktop desktop;
+    const QString background = QStringLiteral("background color");
+    const auto stored = [&] {
+        return QSettings(desktop.path(QStringLiteral("preferences.ini")), QSettings::IniFormat)
+            .value(background)
+            .toByteArray();
+    };
+    // The grey of the defaults is a white; the same grey as the user's own colour is RGB.
+    desktop.preferences.setColor(background, desktop.preferences.color(background));
+    EXPECT_EQ(stored(), archivedWhite(0.5F));
+    desktop.preferences.setColor(background, QColor::fromRgbF(0.702F, 0.702F, 0.702F));
+    EXPECT_TRUE(stored().contains("ffff"));
+    // A component travels as the decimal it was given as: 0.702, three times.
+    EXPECT_EQ(stored().count(QByteArray::fromHex("46b6333f")), 3);
+}
+
+TEST(Preferences, ofOneRunLeaveTheFileAsItIs) {
+    TestDesktop desktop;
+    desktop.preferences.set(QStringLiteral("country code"), QStringLiteral("FRA"));
+    desktop.preferences.set(QStringLiteral("tank volume"), 12);
+    {
+        Preferences run(desktop.path(QStringLiteral("preferences.ini")), Preferences::Keeping::thisRun);
+        EXPECT_EQ(run.string(QStringLiteral("country code")), u"FRA");
+        run.set(QStringLiteral("country code"), QStringLiteral("EGY"));
+        run.remove(QStringLiteral("tank volume"));
+        EXPECT_EQ(run.string(QStringLiteral("country code")), u"EGY");
+        EXPECT_FALSE(run.isStored(QStringLiteral("tank volume")));
+    }
+    const NextRun next(desktop);
+    EXPECT_EQ(next.store.string(QStringLiteral("country code")), u"FRA");
+    EXPECT_EQ(next.store.integer(QStringLiteral("tank volume")), 12);
+}
+
+TEST(PickLists, areFilledStoredAndSortedByCharacterCode) {
+    TestDesktop desktop;
+    PickLists& lists = desktop.pickLists;
+    int changes = 0;
+    QObject::connect(&lists, &PickLists::changed, &lists, [&] { ++changes; });
+    for (const auto* name : {"été", "abc", "Zoo", "", "abc"}) {
+        lists.append(PickList::tableauDesLieux, QString::fromUtf8(name));
+    }
+    lists.sort(PickList::tableauDesLieux);
+    lists.store(PickList::tableauDesLieux);
+    EXPECT_GT(changes, 0);
+    const QStringList sorted{QString(), QStringLiteral("Zoo"), QStringLiteral("abc"), QStringLiteral("abc"),
+                             QStringLiteral("été")};
+    EXPECT_EQ(lists[PickList::tableauDesLieux], sorted);
+
+    NextRun next(desktop);
+    PickLists filled(next.store);
+    startDesktop(next.store, filled);
+    EXPECT_EQ(filled[PickList::tableauDesLieux], sorted);
+    filled.remove(PickList::tableauDesLieux, {4, 0, 4, 2, 99, -1});
+    EXPECT_EQ(filled[PickList::tableauDesLieux], (QStringList{QStringLiteral("Zoo"), QStringLiteral("abc")}));
+    filled.reload(PickList::tableauDesLieux);
+    EXPECT_EQ(filled[PickList::tableauDesLieux], sorted);
+}
+
+TEST(PickLists, defaultToWhatIsStoredAndTheActivitiesToTheServices) {
+    TestDesktop desktop;
+    desktop.pickLists.append(PickList::tableauDesPrestations, QStringLiteral("Baptême"));
+    desktop.pickLists.store(PickList::tableauDesPrestations);
+    desktop.pickLists.store(PickList::tableauDesPrestations, QStringLiteral("type materiel"));
+    NextRun next(desktop);
+    PickLists lists(next.store);
+    startDesktop(next.store, lists);
+    const QStringList services{QStringLiteral("Baptême")};
+    EXPECT_EQ(lists[PickList::tableauDesTypesMatos], services);
+    EXPECT_TRUE(lists[PickList::tableauDesActivites].isEmpty());
+    lists.append(PickList::tableauDesPrestations, QStringLiteral("Stage"));
+    lists.store(PickList::tableauDesPrestations);
+    lists.reload(PickList::tableauDesActivites);
+    EXPECT_EQ(lists[PickList::tableauDesActivites], services);
+    next.store.set(QStringLiteral("activite"), QStringList());
+    lists.reload(PickList::tableauDesActivites);
+    EXPECT_TRUE(lists[PickList::tableauDesActivites].isEmpty());
+}
+
+}  // namespace
+
+}  // namespace tavrel

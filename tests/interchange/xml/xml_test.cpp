@@ -1,0 +1,145 @@
+#include "interchange/xml/xmltree.h"
+#include "interchange/xml/xmlwriter.h"
+#include "support/printing.h"
+
+#include <QElapsedTimer>
+#include <gtest/gtest.h>
+
+namespace tavrel {
+
+namespace {
+
+QString textAt(const QByteArray& file, const char* name) {
+    const auto tree = XmlTree::parse(file);
+    return tree ? tree->root().last(name).text() : QStringLiteral("unreadable: ") + tree.error().message();
+}
+
+TEST(XmlTree, readsWholeTexts) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"<p><a>x</a><a>y</a></p>", "y"},
+        {"<p><a>1<!-- c -->2<![CDATA[<3>]]>&#233;&lt;&amp;</a></p>", "12<3>é<&"},
+        {"<p><a>\n  <b>12.3</b>\n  <c>60</c>\n</a></p>", "12.360"},
+        {"<p><a>\n 5 <b>6</b></a></p>", "\n 5 6"},
+        {"<p><a> \n</a></p>", " \n"},
+        {"<p xmlns='urn:x'><a>in a default namespace</a><x:a xmlns:x='urn:y'>no</x:a></p>", "in a default namespace"},
+        {"<p><b><a>deeper</a></b></p>", ""},
+        // Repaired.
+        {"<p><a>truncated", "truncated"},
+        {"<p><a>one<b>two</a></p>", "onetwo"},
+        {"<p><a>M & N</a></p>", "M  N"},
+        {"<p><a>first</a></p><p><a>second</a></p>", "first"},
+    };
+    for (const auto& [file, text] : cases) {
+        EXPECT_EQ(textAt(file, "a"), QString::fromUtf8(text)) << file;
+    }
+    const auto tree = XmlTree::parse("<p><a/><b/><a/></p>");
+    ASSERT_TRUE(tree);
+    EXPECT_EQ(tree->root().children("a").count(), 2U);
+    EXPECT_EQ(tree->root().first("b").parent().name(), "p");
+    EXPECT_TRUE(tree->root().parent().isNull());
+    EXPECT_TRUE(XmlElement().last("a").parent().isNull());
+}
+
+TEST(XmlTree, readsTheDeclaredEncoding) {
+    QByteArray utf16("\xff\xfe", 2);
+    const QString file = QStringLiteral("<?xml version='1.0' encoding='UTF-16'?><p><a>Épave €</a></p>");
+    utf16.append(reinterpret_cast<const char*>(file.utf16()), file.size() * 2);
+    const std::pair<QByteArray, const char*> cases[] = {
+        {"<?xml version='1.0' encoding='ISO-8859-1'?><p><a>\xc9pave</a></p>", "Épave"},
+        {"<?xml version='1.0' encoding='windows-1252'?><p><a>\x80</a></p>", "€"},
+        {"\xef\xbb\xbf<p><a>Épave</a></p>", "Épave"},
+        {utf16, "Épave €"},
+        // No encoding and no UTF-8: taken as Latin-1.
+        {"<p><a>\xc9pave</a></p>", "Épave"},
+    };
+    for (const auto& [bytes, text] : cases) {
+        EXPECT_EQ(textAt(bytes, "a"), QString::fromUtf8(text)) << bytes.toStdString();
+    }
+}
+
+QByteArray nested(int levels) {
+    return QByteArray("<p>") + QByteArray("<a>").repeated(levels) + QByteArray("</a>").repeated(levels) + "</p>";
+}
+
+TEST(XmlTree, neverReachesBeyondTheBytes) {
+    const char* const files[] = {
+        R"(<!DOCTYPE p [<!ENTITY e "in">]><p><a>x&e;y</a></p>)",
+        R"(<!DOCTYPE p [<!ENTITY e SYSTEM "file:///etc/passwd">]><p><a>x&e;y</a></p>)",
+        R"(<!DOCTYPE p [<!ENTITY % e SYSTEM "file:///etc/passwd"> %e;]><p><a>xy</a></p>)",
+        R"(<!DOCTYPE p SYSTEM "file:///etc/passwd"><p><a>x&e;y</a></p>)",
+        R"(<p xmlns:xi="http://www.w3.org/2001/XInclude"><a>x<xi:include href="/etc/passwd" parse="text"/>y</a></p>)",
+    };
+    for (const char* file : files) {
+        EXPECT_EQ(textAt(file, "a"), u"xy") << file;
+    }
+}
+
+TEST(XmlTree, refusesWhatHasNoEndOrNoElement) {
+    QByteArray bomb = "<!DOCTYPE p [<!ENTITY a0 \"aaaaaaaaaa\">";
+    for (int level = 1; level < 10; ++level) {
+        const QByteArray below = "&a" + QByteArray::number(level - 1) + ";";
+        bomb += "<!ENTITY a" + QByteArray::number(level) + " \"" + below.repeated(10) + "\">";
+    }
+    // What the parser's own limits overlook: a long entity named often, and parameter entities.
+    const QByteArray longEntity =
+        "<!DOCTYPE p [<!ENTITY e '" + QByteArray(100'000, 'a') + "'>]><p><a>" + QByteArray("&e;").repeated(100'000);
+    QByteArray parameters = "<!DOCTYPE p [<!ENTITY % a0 '<!--c-->'>";
+    for (int level = 1; level < 12; ++level) {
+        const QByteArray below = "&#37;a" + QByteArray::number(level - 1) + ";";
+        parameters += "<!ENTITY % a" + QByteArray::number(level) + " \"" + below.repeated(10) + "\">";
+    }
+    QElapsedTimer timer;
+    timer.start();
+    for (const QByteArray& file : {bomb + "]><p><a>&a9;</a></p>", bomb + "]><p><a b='&a9;'>x</a></p>", longEntity,
+                                   parameters + "%a11;]><p><a/></p>", nested(100'000), QByteArray(),
+                                   QByteArray("no markup"), QByteArray("\x04\x0bstreamtyped", 13)}) {
+        EXPECT_FALSE(XmlTree::parse(file)) << file.left(60).toStdString();
+    }
+    EXPECT_LT(timer.elapsed(), 5000);
+    EXPECT_TRUE(XmlTree::parse(nested(200)));
+}
+
+TEST(XmlTree, canBeCancelled) {
+    const QByteArray file = "<p>" + QByteArray("<a>1</a>").repeated(100'000) + "</p>";
+    std::vector<std::size_t> told;
+    const auto tree = XmlTree::parse(file, [&](std::size_t done, std::size_t total) {
+        EXPECT_EQ(total, static_cast<std::size_t>(file.size()));
+        told.push_back(done);
+        return told.size() < 3;
+    });
+    EXPECT_FALSE(tree);
+    ASSERT_EQ(told.size(), 3U);
+    EXPECT_LT(told[0], told[1]);
+    EXPECT_LT(told[2], static_cast<std::size_t>(file.size()));
+}
+
+TEST(XmlWriter, writesElementsAndEscapes) {
+    XmlWriter xml;
+    xml.begin("p", "q", "\"1\"\n");
+    xml.comment(" c ");
+    xml.begin("empty");
+    xml.end();
+    xml.element("none", QString());
+    xml.element("a", QStringLiteral("<É & \"x\">\r\n\u0001\uFFFE\uFFE1"));
+    xml.begin("b");
+    xml.decimal("d", -0.25, 1);
+    xml.integer("i", -7);
+    const QByteArray written = xml.finish();
+    EXPECT_EQ(written.toStdString(),
+              "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+              "<p q=\"&quot;1&quot;&#10;\">\n"
+              "  <!-- c -->\n"
+              "  <empty/>\n"
+              "  <none/>\n"
+              "  <a>&lt;É &amp; \"x\"&gt;&#13;\n\uFFE1</a>\n"
+              "  <b>\n"
+              "    <d>-0.2</d>\n"
+              "    <i>-7</i>\n"
+              "  </b>\n"
+              "</p>\n");
+    EXPECT_EQ(textAt(written, "a"), u"<É & \"x\">\r\n\uFFE1");
+}
+
+}  // namespace
+
+}  // namespace tavrel
