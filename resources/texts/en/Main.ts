@@ -99,7 +99,10 @@
 <message><source>No such field</source><translation>There is no field “%@”.</translation></message>
 <message><source>No such value</source><translation>“%@” cannot be “%@”.</translation></message>
 <message><source>No valid datas</source><translation>The values are not valid.</translation></message>
+<message><source>Not a picture format</source><translation>“%@” does not end in .png, .svg or .pdf.</translation></message>
 <message><source>Open document</source><translation>Open</translation></message>
+<message><source>Picture cannot be made</source><translation>The picture could not be made.</translation></message>
+<message><source>Picture too large</source><translation>This is too long for one picture. A PDF file has room for it.</translation></message>
 <message><source>Places</source><translation>Places</translation></message>
 <message><source>Preferences not saved</source><translation>The preferences could not be saved to “%@”.</translation></message>
 <message><source>Print</source><translation>Print</translation></message>

@@ -99,7 +99,10 @@
 <message><source>No such field</source><translation>Il n’y a pas de champ « %@ ».</translation></message>
 <message><source>No such value</source><translation>« %@ » ne peut pas valoir « %@ ».</translation></message>
 <message><source>No valid datas</source><translation>Les valeurs ne sont pas valables.</translation></message>
+<message><source>Not a picture format</source><translation>« %@ » ne se termine pas par .png, .svg ou .pdf.</translation></message>
 <message><source>Open document</source><translation>Ouvrir</translation></message>
+<message><source>Picture cannot be made</source><translation>L’image n’a pas pu être produite.</translation></message>
+<message><source>Picture too large</source><translation>C’est trop long pour une seule image. Un fichier PDF peut le contenir.</translation></message>
 <message><source>Places</source><translation>Lieux</translation></message>
 <message><source>Preferences not saved</source><translation>Impossible d’enregistrer les préférences dans « %@ ».</translation></message>
 <message><source>Print</source><translation>Imprimer</translation></message>

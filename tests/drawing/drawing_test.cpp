@@ -1,0 +1,224 @@
+#include "drawing/drawing.h"
+
+#include "drawing/pages.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTextDocument>
+#include <gtest/gtest.h>
+
+namespace tavrel {
+
+namespace {
+
+QPainterPath rectangle(double x, double y, double width, double height) {
+    QPainterPath path;
+    path.addRect(x, y, width, height);
+    return path;
+}
+
+/// 40 x 20 points: a red square in the lower left corner, a thick dashed green line along the top, an icon at the
+/// right.
+Drawing sample() {
+    Drawing drawing(QSizeF(40, 20));
+    drawing.title = QStringLiteral("Squares & lines");
+    drawing.add(Drawing::Area{rectangle(0, 0, 10, 10), QColor(Qt::red)});
+    QPainterPath line(QPointF(0, 18));
+    line.lineTo(40, 18);
+    drawing.add(Drawing::Line{line, Qt::green, 4, 10, 5});
+    drawing.add(Drawing::Icon{{26, 2}, {14, 14}, QStringLiteral("alarmeCEIL")});
+    return drawing;
+}
+
+QImage painted(const Drawing& drawing, const QSize& size) {
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    drawing.paint(painter, QRectF(QPointF(), size));
+    return image;
+}
+
+TEST(Drawing, growsUpwardAndScalesWithItsTarget) {
+    for (const int scale : {1, 2, 5}) {
+        const QImage image = painted(sample(), QSize(40, 20) * scale);
+        const auto at = [&](double x, double y) {
+            return image.pixelColor(qRound(x * scale), qRound((20 - y) * scale));
+        };
+        EXPECT_EQ(at(5, 5), QColor(Qt::red)) << scale;
+        EXPECT_EQ(at(5, 12), QColor(Qt::white)) << scale;
+        EXPECT_EQ(at(12, 5), QColor(Qt::white)) << scale;
+        // Dashes of ten points and gaps of five, whatever the width of the line.
+        EXPECT_EQ(at(5, 18), QColor(Qt::green)) << scale;
+        EXPECT_EQ(at(12, 18), QColor(Qt::white)) << scale;
+        EXPECT_EQ(at(20, 18), QColor(Qt::green)) << scale;
+        EXPECT_EQ(at(27, 18), QColor(Qt::white)) << scale;
+        const QColor icon = at(28, 9);
+        EXPECT_GT(icon.red(), icon.blue() + 60) << scale;
+        EXPECT_EQ(at(22, 9), QColor(Qt::white)) << scale;
+    }
+}
+
+TEST(Drawing, keepsItsProportionsAndStaysInItsPlace) {
+    Drawing drawing = sample();
+    drawing.add(Drawing::Area{rectangle(15, -500, 5, 1000), QColor(Qt::blue)});
+    const QRectF target(0, 0, 80, 100);
+    EXPECT_EQ(drawing.placeIn(target), QRectF(0, 30, 80, 40));
+    const QImage image = painted(drawing, QSize(80, 100));
+    EXPECT_EQ(image.pixelColor(35, 50), QColor(Qt::blue));
+    EXPECT_EQ(image.pixelColor(35, 20), QColor(Qt::white));
+    EXPECT_EQ(image.pixelColor(35, 80), QColor(Qt::white));
+    EXPECT_EQ(drawing.pointAt({0, 70}, target), QPointF(0, 0));
+    EXPECT_EQ(drawing.pointAt({40, 30}, target), QPointF(20, 20));
+    EXPECT_EQ(drawing.pointAt({40, 30}, QRectF()), QPointF());
+    painted(Drawing(), QSize(5, 5));
+}
+
+/// The box around everything that is not white.
+QRect inked(const QImage& image) {
+    QRect box;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixelColor(x, y) != QColor(Qt::white)) {
+                box |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return box;
+}
+
+TEST(Drawing, putsTextsWhereTheirAlignmentSays) {
+    const auto boxOf = [](Qt::Alignment alignment) {
+        Drawing drawing(QSizeF(100, 100));
+        drawing.add(Drawing::Text{{50, 50}, QStringLiteral("HHHH"), Qt::black, 12, alignment});
+        return inked(painted(drawing, QSize(200, 200)));
+    };
+    const QRect lowerLeft = boxOf(Qt::AlignLeft | Qt::AlignBottom);
+    EXPECT_GE(lowerLeft.left(), 100);
+    EXPECT_LT(lowerLeft.bottom(), 100);
+    EXPECT_GT(lowerLeft.top(), 60);
+    const QRect upperRight = boxOf(Qt::AlignRight | Qt::AlignTop);
+    EXPECT_LE(upperRight.right(), 100);
+    EXPECT_GE(upperRight.top(), 100);
+    const QRect centred = boxOf(Qt::AlignCenter);
+    EXPECT_NEAR(centred.center().x(), 100, 2);
+    EXPECT_NEAR(centred.center().y(), 100, 3);
+    // Twice the 12 points: capitals are about 70 % of the font's size.
+    EXPECT_NEAR(centred.height(), 2 * 12 * 0.72, 3);
+}
+
+TEST(Drawing, shadesLabelsUntilTheyCanBeRead) {
+    EXPECT_EQ(legible(Qt::black, Qt::white), QColor(Qt::black));
+    const QColor grey = QColor::fromRgbF(0.702F, 0.702F, 0.702F);
+    EXPECT_EQ(legible(grey, Qt::black), grey);
+    EXPECT_LT(legible(grey, Qt::white).lightnessF(), 0.48F);
+    EXPECT_GT(legible(Qt::blue, Qt::black).lightnessF(), 0.6F);
+    EXPECT_EQ(blended(QColor(255, 0, 0, 51), Qt::white), QColor(255, 204, 204));
+}
+
+TEST(DataTable, readsAsLinesOfCells) {
+    const DataTable table{{QStringLiteral("a"), QStringLiteral("b")}, 2, [](int row, int column) {
+                              return QString::number(10 * row + column);
+                          }};
+    EXPECT_EQ(table.text(), u"a\tb\n0\t1\n10\t11\n");
+}
+
+QByteArray bytesOf(const Pages& pages, PictureFormat format) {
+    const auto bytes = pictureBytes(pages, format);
+    EXPECT_TRUE(bytes) << (bytes ? "" : bytes.error().message().toStdString());
+    return bytes.value_or(QByteArray());
+}
+
+int pdfPages(const QByteArray& pdf) {
+    return static_cast<int>(pdf.count("/Type /Page\n"));
+}
+
+TEST(Pictures, ofADrawingHaveItsSizeAndTitle) {
+    const Pages pages = pagesOf(sample());
+    const QImage png = QImage::fromData(bytesOf(pages, PictureFormat::png));
+    EXPECT_EQ(png.size(), QSize(80, 40));
+    EXPECT_EQ(png.text(QStringLiteral("Title")), sample().title);
+    EXPECT_EQ(png.pixelColor(10, 30), QColor(Qt::red));
+
+    const QByteArray svg = bytesOf(pages, PictureFormat::svg);
+    EXPECT_TRUE(svg.contains("viewBox=\"0 0 40 20\"")) << svg.toStdString();
+    EXPECT_TRUE(svg.contains("#ff0000"));
+    EXPECT_TRUE(svg.contains("stroke-dasharray"));
+    EXPECT_TRUE(svg.contains("<title>Squares &amp; lines</title>"));
+    EXPECT_FALSE(svg.contains("<image")) << "icons stay lines";
+
+    const QByteArray pdf = bytesOf(pages, PictureFormat::pdf);
+    EXPECT_TRUE(pdf.startsWith("%PDF-"));
+    EXPECT_EQ(pdfPages(pdf), 1);
+    EXPECT_TRUE(pdf.contains("/MediaBox [0 0 40.0"));
+}
+
+TEST(Pictures, areWrittenByTheEndingOfTheName) {
+    const QTemporaryDir folder;
+    const auto path = [&](const char* name) { return folder.filePath(QLatin1StringView(name)); };
+    EXPECT_TRUE(writePicture(path("a.PNG"), pagesOf(sample())));
+    EXPECT_TRUE(writePicture(path("a.svg"), pagesOf(sample())));
+    const auto refused = writePicture(path("a.gif"), pagesOf(sample()));
+    ASSERT_FALSE(refused);
+    EXPECT_TRUE(refused.error().sentence.contains(QStringLiteral("a.gif")));
+    EXPECT_FALSE(writePicture(path("missing/a.pdf"), pagesOf(sample())));
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files),
+              (QStringList{QStringLiteral("a.PNG"), QStringLiteral("a.svg")}));
+    EXPECT_EQ(QImage(path("a.PNG")).size(), QSize(80, 40));
+}
+
+StyledText lines(int count) {
+    StyledText text;
+    for (int line = 1; line <= count; ++line) {
+        text.append(QStringLiteral("Line %1%2").arg(line).arg(line % 2 ? QStringLiteral("\r") : QStringLiteral("\n")),
+                    line % 2 ? Qt::red : Qt::black);
+    }
+    return text;
+}
+
+TEST(StyledPages, breakLinesAtBothEndsAndKeepColours) {
+    const auto document = textDocumentOf(lines(3));
+    EXPECT_EQ(document->toPlainText(), u"Line 1\nLine 2\nLine 3\n");
+    const QByteArray svg = bytesOf(pagesOf(lines(3), QSizeF(300, 400), {}, {}), PictureFormat::svg);
+    const QString drawn = QString::fromUtf8(svg);
+    EXPECT_TRUE(drawn.contains(QRegularExpression(QStringLiteral("#ff0000[^>]*>\\s*<text[^>]*>Line 1<"))));
+    EXPECT_FALSE(drawn.contains(QStringLiteral("1 / 1")));
+}
+
+TEST(StyledPages, holdEveryLineOnceWithinTheMargins) {
+    const PrintSettings settings{20, 20, 30, 10, 0.5, false, false, false};
+    const QSizeF paper(200, 200);
+    const Pages pages = pagesOf(lines(60), paper, settings, QStringLiteral("Lines"));
+    EXPECT_GT(pages.count, 1);
+    const QString drawn = QString::fromUtf8(bytesOf(pages, PictureFormat::svg));
+    for (int line = 1; line <= 60; ++line) {
+        EXPECT_EQ(drawn.count(QStringLiteral(">Line %1<").arg(line)), 1) << line;
+    }
+    EXPECT_TRUE(drawn.contains(QStringLiteral("1 / %1<").arg(pages.count)));
+    EXPECT_EQ(pdfPages(bytesOf(pages, PictureFormat::pdf)), pages.count);
+
+    const QImage all = QImage::fromData(bytesOf(pages, PictureFormat::png));
+    EXPECT_EQ(all.size(), QSize(400, 400 * pages.count));
+    const QRect first = inked(all.copy(0, 0, 400, 400));
+    EXPECT_GE(first.left(), 60);
+    EXPECT_GE(first.top(), 40);
+    EXPECT_LE(first.bottom(), 360);
+    // Half the size: a line of 13 points takes some 15 pixels at two pixels to the point.
+    EXPECT_NEAR(inked(all.copy(0, 0, 400, 54)).height(), 10, 4);
+}
+
+TEST(StyledPages, tooManyForOnePictureAreRefused) {
+    const Pages pages = pagesOf(lines(4000), QSizeF(200, 200), {}, {});
+    const auto png = pictureBytes(pages, PictureFormat::png);
+    ASSERT_FALSE(png);
+    EXPECT_TRUE(png.error().sentence.contains(QStringLiteral("PDF")));
+    EXPECT_EQ(pdfPages(bytesOf(pages, PictureFormat::pdf)), pages.count);
+}
+
+}  // namespace
+
+}  // namespace tavrel
