@@ -23,7 +23,7 @@ QWidget* AppDelegate::showEditor(const PickListEditorDescription& editor) {
 }
 
 void AppDelegate::sendRenumDivesNotification() {
-    desktop_.notifications.post(QStringLiteral("renumDives"));
+    desktop_.notifications.post(Notification::renumDives);
 }
 
 void AppDelegate::showAbout(QWidget* parent) {

@@ -14,15 +14,13 @@ namespace tavrel {
 
 namespace {
 
-QString memoKey() {
-    return QStringLiteral("pense bete text");
-}
+constexpr Setting<QString> memo{"pense bete text"};
 
 }  // namespace
 
 MemoWindow::MemoWindow(Preferences& preferences) : preferences_(preferences), editor_(new QPlainTextEdit(this)) {
     setWindowTitle(text("Main", "Memo"));
-    editor_->setPlainText(preferences.string(memoKey()));
+    editor_->setPlainText(preferences.get(memo));
     editor_->setAccessibleName(windowTitle());
     editor_->setPlaceholderText(text("Main", "Memo hint"));
     editor_->setFrameShape(QFrame::NoFrame);
@@ -49,7 +47,7 @@ void MemoWindow::hideEvent(QHideEvent* event) {
 
 void MemoWindow::keep() {
     if (editor_->document()->isModified()) {
-        preferences_.set(memoKey(), editor_->toPlainText());
+        preferences_.set(memo, editor_->toPlainText());
         editor_->document()->setModified(false);
     }
 }

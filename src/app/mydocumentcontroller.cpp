@@ -21,6 +21,9 @@ namespace tavrel {
 
 namespace {
 
+/// Whether the memo comes to the front at launch; no window sets it.
+constexpr Setting<bool> memoAtLaunch{"pense bete"};
+
 /// The one name of an existing file, whatever links and dots lead to it.
 QString identity(const QString& file) {
     return QFileInfo(file).canonicalFilePath();
@@ -180,7 +183,7 @@ void MyDocumentController::openDocument(QWidget* parent) {
 }
 
 bool MyDocumentController::applicationOpenUntitledFile() {
-    if (desktop_.preferences.boolean(QStringLiteral("pense bete"))) {
+    if (desktop_.preferences.get(memoAtLaunch)) {
         showPenseBeteWindow();
     }
     const QStringList recent = recentDocuments_.files();

@@ -31,7 +31,7 @@ private:
 class FieldControl : public PreferenceControl {
 public:
     FieldControl(const PreferenceKey& key, QWidget* parent) : field_(new QLineEdit(parent)) {
-        if (key.kind == PreferenceKind::number) {
+        if (key.kind() == PreferenceKind::number) {
             const QRegularExpression number(QStringLiteral("-?[0-9]{0,9}([.,][0-9]{0,3})?"));
             field_->setValidator(new QRegularExpressionValidator(number, field_));
             field_->setAlignment(Qt::AlignRight);
@@ -121,7 +121,7 @@ private:
 };
 
 std::unique_ptr<PreferenceControl> newControl(const PreferenceKey& key, QWidget* parent) {
-    switch (key.kind) {
+    switch (key.kind()) {
         case PreferenceKind::onOff:
             return std::make_unique<SwitchControl>(key, parent);
         case PreferenceKind::number:

@@ -1,9 +1,11 @@
 #include "app/preferenceswindow.h"
 
 #include "desktop/alerts.h"
+#include "desktop/commonsettings.h"
 #include "desktop/preferences.h"
 #include "desktop/ui/customtoolbar.h"
 #include "desktop/ui/keptframe.h"
+#include "logbook/logbooksettings.h"
 
 #include <QActionGroup>
 #include <QEvent>
@@ -35,8 +37,8 @@ constexpr ToolBarDescription toolBarDescription{"prefsToolbar", pageItems, pageN
 
 constexpr int columnsPerRow = 3;  // of the group that holds nothing but switches of columns
 
-bool isNamed(const PreferenceKey& key, const char* name) {
-    return name && std::strcmp(key.key, name) == 0;
+bool isOf(const PreferenceKey& key, const AnySetting& setting) {
+    return key.setting == setting;
 }
 
 bool isSame(Title left, Title right) {
@@ -80,7 +82,7 @@ PreferencesWindow::PreferencesWindow(Desktop& desktop)
     connect(closeButton, &QPushButton::clicked, this, &QWidget::close);
     new QShortcut(QKeySequence::Close, this, [this] { close(); });
     // A logbook may change its columns too.
-    columnsChanged_ = desktop.notifications.subscribe(QStringLiteral("updateColumnsTableView"), [this] {
+    columnsChanged_ = desktop.notifications.subscribe(Notification::updateColumnsTableView, [this] {
         for (const Row& row : rows_) {
             if (!posting_ && row.key.notice == PreferenceNotice::columns) {
                 load(row);
@@ -120,7 +122,7 @@ QWidget* PreferencesWindow::newGroup(int page, Title group, QWidget* parent) {
         QWidget* control = row.control->widget();
         if (key.notice == PreferenceNotice::columns) {
             layout->addWidget(control, place / columnsPerRow, place % columnsPerRow);
-        } else if (key.kind == PreferenceKind::onOff) {
+        } else if (key.kind() == PreferenceKind::onOff) {
             layout->addWidget(control, place, 0, 1, columnsPerRow + 1);
         } else {
             auto* label = new QLabel(text(key.label), box);
@@ -134,7 +136,7 @@ QWidget* PreferencesWindow::newGroup(int page, Title group, QWidget* parent) {
             layout->addWidget(label, place, 0);
             layout->addLayout(line, place, 1, 1, columnsPerRow);
             row.companions = {label, unit};
-            if (isNamed(key, "low temperature value")) {
+            if (isOf(key, &settings::lowTemperatureValue)) {
                 temperatureUnit_ = unit;
                 unit->setObjectName(QStringLiteral("temperatureUnit"));
             }
@@ -186,10 +188,10 @@ void PreferencesWindow::goView(int page) {
     updateUI();
 }
 
-PreferenceControl& PreferencesWindow::control(const char* key) {
-    const auto row = std::find_if(rows_.begin(), rows_.end(), [&](const Row& each) { return isNamed(each.key, key); });
+PreferenceControl& PreferencesWindow::control(const AnySetting& setting) {
+    const auto row = std::find_if(rows_.begin(), rows_.end(), [&](const Row& each) { return isOf(each.key, setting); });
     if (row == rows_.end()) {
-        qFatal("There is no setting %s", key);
+        qFatal("There is no setting %s", keyOf(setting));
     }
     return *row->control;
 }
@@ -205,17 +207,17 @@ void PreferencesWindow::savePrefs() {
         const Preferences::Together together(desktop_.preferences);
         for (const PreferenceKey& key : preferenceKeys()) {
             if (key.kept) {
-                storeValue(desktop_.preferences, key, control(key.key).value());
+                storeValue(desktop_.preferences, key, control(key.setting).value());
             }
         }
     }
     desktop_.preferences.synchronize(desktop_.alerts);
 }
 
-void PreferencesWindow::storeFrom(std::initializer_list<const char*> keys) {
+void PreferencesWindow::storeFrom(std::initializer_list<AnySetting> settings) {
     const Preferences::Together together(desktop_.preferences);
     for (const Row& row : rows_) {
-        if (std::any_of(keys.begin(), keys.end(), [&](const char* key) { return isNamed(row.key, key); })) {
+        if (std::find(settings.begin(), settings.end(), row.key.setting) != settings.end()) {
             storeValue(desktop_.preferences, row.key, row.control->value());
         }
     }
@@ -253,7 +255,7 @@ void PreferencesWindow::updateUI() {
             load(row);
         }
     }
-    const bool usUnits = control("us units").value().toBool();
+    const bool usUnits = control(&settings::usUnits).value().toBool();
     temperatureUnit_->setText(usUnits ? text("Carnet", "Degree Farenheit") : text("Carnet", "Degree Celsius"));
 }
 
@@ -294,40 +296,40 @@ void PreferencesWindow::tell(PreferenceNotice notice) {
     }
 }
 
-void PreferencesWindow::post(const char* name) {
+void PreferencesWindow::post(Notification name) {
     posting_ = true;
-    desktop_.notifications.post(QString::fromLatin1(name));
+    desktop_.notifications.post(name);
     posting_ = false;
 }
 
 void PreferencesWindow::updateTableViewNotification() {
-    post("updateTableView");
+    post(Notification::updateTableView);
     updateUI();
 }
 
 void PreferencesWindow::updateColumnsTableViewNotification() {
-    post("updateColumnsTableView");
+    post(Notification::updateColumnsTableView);
 }
 
 void PreferencesWindow::updateEditDiveNotification() {
-    post("updateEditDive");
+    post(Notification::updateEditDive);
     updateUI();
 }
 
 void PreferencesWindow::updateProfileNotification() {
-    post("profile");
+    post(Notification::profile);
     updateUI();
 }
 
 void PreferencesWindow::updateDecoNotification() {
-    post("updateDeco");
-    storeFrom({"stop interval", "low GF", "high GF"});
+    post(Notification::updateDeco);
+    storeFrom({&settings::stopInterval, &settings::lowGF, &settings::highGF});
     updateUI();
 }
 
 void PreferencesWindow::updateRebreatherNotification() {
-    post("updateRebreather");
-    storeFrom({"cell life"});
+    post(Notification::updateRebreather);
+    storeFrom({&settings::cellLife});
     updateUI();
 }
 

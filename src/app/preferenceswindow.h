@@ -48,7 +48,7 @@ public:
     void updateInterface();
 
     /// The control of a setting.
-    PreferenceControl& control(const char* key);
+    PreferenceControl& control(const AnySetting& setting);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -64,10 +64,10 @@ private:
     QWidget* newGroup(int page, Title group, QWidget* parent);
     void setUpToolBar();
     void load(const Row& row);
-    void storeFrom(std::initializer_list<const char*> keys);
+    void storeFrom(std::initializer_list<AnySetting> settings);
     void edited(const PreferenceKey& key);
     void tell(PreferenceNotice notice);
-    void post(const char* name);
+    void post(Notification name);
     void resetByUser();
 
     Desktop& desktop_;

@@ -1,16 +1,15 @@
 #pragma once
 
 #include "base/texts.h"
-#include "desktop/preferences.h"
+#include "desktop/setting.h"
 
-#include <QColor>
 #include <QVariant>
 
-#include <array>
 #include <span>
-#include <variant>
 
 namespace tavrel {
+
+class Preferences;
 
 /// How a setting is shown and stored.
 enum class PreferenceKind {
@@ -25,29 +24,22 @@ enum class PreferenceKind {
 /// What a change of a setting tells the open documents; named after the notification actions.
 enum class PreferenceNotice { none, tableView, columns, editDive, profile, deco, rebreather, all };
 
-/// Calibrated RGB, each part from 0 to 1, opaque.
-struct Rgb {
-    float red, green, blue;
-    QColor color() const { return QColor::fromRgbF(red, green, blue); }
-};
-
-using ResetValue = std::variant<bool, int, double, const char*, Rgb>;
-
-/// A setting: its key, its control, the value that a reset gives it, the page and group it stands in, what a change of
-/// it tells, its words, and the switch that has to be on for it to be of use.
+/// A setting in the window: its control, the page and group it stands in, what a change of it tells, its words, and the
+/// switch that has to be on for it to be of use.
 struct PreferenceKey {
-    const char* key;
+    AnySetting setting;
     const char* control;
-    ResetValue reset;
-    PreferenceKind kind;
     int page;  ///< from 1
     PreferenceNotice notice;
     Title group;
     Title label;
     Title unit = {};
-    const char* enabledBy = nullptr;
+    const Setting<bool>* enabledBy = nullptr;
     std::span<const Title> choices = {};  ///< of a pop-up; the tag is the place
     bool kept = true;                     ///< false: its switch neither shows nor stores anything
+
+    const char* key() const;
+    PreferenceKind kind() const;
 };
 
 /// The settings in the order in which they are stored.

@@ -5,8 +5,8 @@ namespace tavrel {
 class PickLists;
 class Preferences;
 
-/// Registers the default of every setting that has one. The keys of the pick lists default to the lists stored at this
-/// moment, and the activities to the services.
+/// Registers the defaults that no Setting states: of keys that only other programs read, and of the pick lists, whose
+/// keys default to the lists stored at this moment, and the activities to the services.
 void registerDefaults(Preferences& preferences);
 
 /// What comes before any document or window, in this order: the shared lists are filled from what is stored, then the

@@ -21,7 +21,7 @@ NotificationCentre::Subscription::~Subscription() {
     }
 }
 
-NotificationCentre::Subscription NotificationCentre::subscribe(const QString& name, Handler handler) {
+NotificationCentre::Subscription NotificationCentre::subscribe(Notification name, Handler handler) {
     auto& observers = observers_[name];
     std::erase_if(observers, [](const auto& observer) { return observer.expired(); });
     auto entry = std::make_shared<Entry>(Entry{std::move(handler)});
@@ -29,10 +29,10 @@ NotificationCentre::Subscription NotificationCentre::subscribe(const QString& na
     return Subscription(std::move(entry));
 }
 
-void NotificationCentre::post(const QString& name) {
+void NotificationCentre::post(Notification name) {
     // A handler may change the observers; those of this moment are kept alive until all have run.
     std::vector<std::shared_ptr<Entry>> present;
-    for (const auto& observer : observers_.value(name)) {
+    for (const auto& observer : observers_[name]) {
         if (auto entry = observer.lock()) {
             present.push_back(std::move(entry));
         }

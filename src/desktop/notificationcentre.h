@@ -1,13 +1,22 @@
 #pragma once
 
-#include <QHash>
-#include <QString>
-
 #include <functional>
+#include <map>
 #include <memory>
 #include <vector>
 
 namespace tavrel {
+
+/// What is told to every open document.
+enum class Notification {
+    updateTableView,         ///< the colours or units of tables changed
+    updateColumnsTableView,  ///< the choice of visible columns changed
+    profile,                 ///< the settings of the profile changed
+    updateEditDive,          ///< the units of forms changed
+    updateDeco,              ///< the stop interval or a gradient factor changed
+    updateRebreather,        ///< the life of oxygen cells changed
+    renumDives,              ///< the user wants to renumber dives
+};
 
 /// Broadcasts by name: preferences tell every open document what changed. One thread; observers run in the order in
 /// which they subscribed, and may subscribe or leave while a notification is under way: who has left is no longer
@@ -32,11 +41,11 @@ public:
         std::shared_ptr<Entry> entry_;
     };
 
-    [[nodiscard]] Subscription subscribe(const QString& name, Handler handler);
-    void post(const QString& name);
+    [[nodiscard]] Subscription subscribe(Notification name, Handler handler);
+    void post(Notification name);
 
 private:
-    QHash<QString, std::vector<std::weak_ptr<Entry>>> observers_;
+    std::map<Notification, std::vector<std::weak_ptr<Entry>>> observers_;
 };
 
 }  // namespace tavrel

@@ -1,5 +1,6 @@
 #include "desktop/preferences.h"
 
+#include "archive/colorarchive.h"
 #include "base/numbers.h"
 #include "base/texts.h"
 #include "desktop/alerts.h"
@@ -8,6 +9,7 @@
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <type_traits>
 
 namespace tavrel {
 
@@ -99,6 +101,25 @@ std::optional<QColor> readColor(const QVariant& value) {
     return color.isValid() ? std::optional(color) : std::nullopt;
 }
 
+template <class Value>
+auto readerOf() {
+    if constexpr (std::is_same_v<Value, bool>) {
+        return readBoolean;
+    } else if constexpr (std::is_same_v<Value, qint32>) {
+        return readInteger;
+    } else if constexpr (std::is_same_v<Value, double>) {
+        return readReal;
+    } else if constexpr (std::is_same_v<Value, QColor>) {
+        return readColor;
+    } else {
+        return readText;
+    }
+}
+
+QByteArray archived(const Rgb& color) {
+    return color.isGrey ? archivedWhite(color.red) : archivedColor(color.color());
+}
+
 QString windowKey(const QString& name) {
     return QStringLiteral("windows/") + name;
 }
@@ -136,58 +157,74 @@ QVariant Preferences::stored(const QString& key) const {
     return thisRun_ ? thisRun_->value(key) : store_.value(key);
 }
 
-/// What the stored value reads as, else what the default reads as, else the zero of the kind.
+/// What the stored value reads as, else what the registered default reads as, if either does.
 template <class Reader>
-auto Preferences::read(const QString& key, Reader reader) const {
-    using Value = typename decltype(reader(QVariant()))::value_type;
-    std::optional<Value> value;
+auto Preferences::find(const QString& key, Reader reader) const {
+    decltype(reader(QVariant())) value;
     if (isStored(key)) {
         value = reader(stored(key));
     }
     if (!value && defaults_.contains(key)) {
         value = reader(defaults_.value(key));
     }
-    return value.value_or(Value());
+    return value;
 }
 
 bool Preferences::boolean(const QString& key) const {
-    return read(key, readBoolean);
+    return find(key, readBoolean).value_or(false);
 }
 qint32 Preferences::integer(const QString& key) const {
-    return read(key, readInteger);
+    return find(key, readInteger).value_or(0);
 }
 double Preferences::real(const QString& key) const {
-    return read(key, readReal);
+    return find(key, readReal).value_or(0);
 }
 QString Preferences::string(const QString& key) const {
-    return read(key, readText);
+    return find(key, readText).value_or(QString());
 }
 QStringList Preferences::strings(const QString& key) const {
-    return read(key, readStrings);
+    return find(key, readStrings).value_or(QStringList());
 }
 QColor Preferences::color(const QString& key) const {
-    return read(key, readColor);
+    return find(key, readColor).value_or(QColor());
 }
 
 void Preferences::set(const QString& key, const QVariant& value) {
     write(key, encoded(value));
 }
 
-void Preferences::setColor(const QString& key, const QColor& color) {
-    const QVariant held = isStored(key) ? stored(key) : defaults_.value(key);
-    write(key, readColor(held) == color ? held : QVariant(archivedColor(color)));
+template <class Value>
+Value Preferences::get(const Setting<Value>& setting) const {
+    if (const auto value = find(setting.name(), readerOf<Value>())) {
+        return *value;
+    }
+    return setting.fallback ? valueOf(*setting.fallback) : Value();
 }
 
-void Preferences::remove(const QString& key) {
-    if (thisRun_) {
-        thisRun_->remove(key);
-        return;
-    }
-    store_.remove(key);
-    if (together_ == 0) {
-        store_.sync();
-    }
+template <class Value>
+void Preferences::set(const Setting<Value>& setting, const Value& value) {
+    set(setting.name(), QVariant(value));
 }
+
+template <>
+void Preferences::set(const Setting<QColor>& setting, const QColor& value) {
+    const QString key = setting.name();
+    QVariant held = stored(key);
+    if (!isStored(key) && setting.fallback) {
+        held = archived(*setting.fallback);
+    }
+    write(key, readColor(held) == value ? held : QVariant(archivedColor(value)));
+}
+
+template bool Preferences::get(const Setting<bool>&) const;
+template qint32 Preferences::get(const Setting<qint32>&) const;
+template double Preferences::get(const Setting<double>&) const;
+template QString Preferences::get(const Setting<QString>&) const;
+template QColor Preferences::get(const Setting<QColor>&) const;
+template void Preferences::set(const Setting<bool>&, const bool&);
+template void Preferences::set(const Setting<qint32>&, const qint32&);
+template void Preferences::set(const Setting<double>&, const double&);
+template void Preferences::set(const Setting<QString>&, const QString&);
 
 void Preferences::write(const QString& key, const QVariant& value) {
     if (thisRun_) {

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "archive/colorarchive.h"
 #include "base/failure.h"
+#include "desktop/setting.h"
 
-#include <QColor>
 #include <QSettings>
 #include <QString>
 #include <QStringList>
@@ -35,6 +34,9 @@ public:
     void registerDefaults(const QVariantMap& defaults);
 
     bool isStored(const QString& key) const;
+    /// The value of a setting, or its fallback while the user has none.
+    template <class Value>
+    Value get(const Setting<Value>& setting) const;
     /// "YES", "yes", "true", "1" and any number but 0 are true; "NO", "false" and 0 are false.
     bool boolean(const QString& key) const;
     /// Numbers and the leading number of texts.
@@ -48,10 +50,10 @@ public:
     /// Stores a boolean (as 0 or 1), number, string, string list or bytes. Values reach the disk at once, the old file
     /// staying whole until the new one is complete.
     void set(const QString& key, const QVariant& value);
-    /// Stores the typed-stream archive of a calibrated colour. The colour that the key has already keeps its archive,
-    /// and with it the colour space.
-    void setColor(const QString& key, const QColor& color);
-    void remove(const QString& key);
+    /// Stores a setting. A colour is stored as its typed-stream archive; the colour that the setting has already keeps
+    /// its archive, and with it the colour space.
+    template <class Value>
+    void set(const Setting<Value>& setting, const Value& value);
 
     /// While it lives values are only collected; its end writes them in one go.
     class Together {
@@ -76,7 +78,7 @@ public:
 
 private:
     template <class Reader>
-    auto read(const QString& key, Reader reader) const;
+    auto find(const QString& key, Reader reader) const;
     void write(const QString& key, const QVariant& value);
     QVariant stored(const QString& key) const;
 

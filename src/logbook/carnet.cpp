@@ -20,15 +20,15 @@ constexpr std::size_t divesPerReport = 256;
 Carnet::Carnet(Desktop& desktop, const std::vector<ExportType>& exportTypes)
     : ListDocument(desktop), form_(desktop), exportTypes_(exportTypes) {
     setType(typeName());
-    listen("updateTableView", [this] { Q_EMIT tableReloadRequested(); });
-    listen("updateColumnsTableView", [this] { Q_EMIT columnsRebuildRequested(); });
-    listen("profile", [this] { Q_EMIT profileRedrawRequested(); });
-    listen("updateEditDive", [this] {
+    listen(Notification::updateTableView, [this] { Q_EMIT tableReloadRequested(); });
+    listen(Notification::updateColumnsTableView, [this] { Q_EMIT columnsRebuildRequested(); });
+    listen(Notification::profile, [this] { Q_EMIT profileRedrawRequested(); });
+    listen(Notification::updateEditDive, [this] {
         updateUI();
         Q_EMIT synthesisRefillRequested();
     });
-    listen("updateDeco", [this] { updateUI(); });
-    listen("renumDives", [this] { Q_EMIT renumberWindowRequested(); });
+    listen(Notification::updateDeco, [this] { updateUI(); });
+    listen(Notification::renumDives, [this] { Q_EMIT renumberWindowRequested(); });
     setUpFirstRunColumns();
 
     const Date now = Date::fromDateTime(desktop.clock.now());
@@ -43,18 +43,18 @@ Carnet::Carnet(Desktop& desktop, const std::vector<ExportType>& exportTypes)
 
 Carnet::~Carnet() = default;
 
-void Carnet::listen(const char* name, std::function<void()> handler) {
-    subscriptions_.push_back(desktop().notifications.subscribe(QString::fromLatin1(name), std::move(handler)));
+void Carnet::listen(Notification name, std::function<void()> handler) {
+    subscriptions_.push_back(desktop().notifications.subscribe(name, std::move(handler)));
 }
 
 void Carnet::setUpFirstRunColumns() {
     Preferences& preferences = desktop().preferences;
-    if (preferences.boolean(QStringLiteral("column numero"))) {
+    if (preferences.get(settings::columnNumero)) {
         return;
     }
     const Preferences::Together together(preferences);
     for (const auto& column : diveColumns) {
-        preferences.set(QString::fromLatin1(column.visibilityKey), column.shownAtFirst);
+        preferences.set(column.shown, column.shownAtFirst);
     }
 }
 

@@ -128,7 +128,7 @@ Q_SIGNALS:
 private:
     void step(int direction);
     void find(const QString& field, const QString& text);
-    void listen(const char* name, std::function<void()> handler);
+    void listen(Notification name, std::function<void()> handler);
     void setUpFirstRunColumns();
     Plongee builtDive() { return form_.addDiveToList(); }
     void proposeNextNumber();

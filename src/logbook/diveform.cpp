@@ -1,8 +1,10 @@
 #include "logbook/diveform.h"
 
 #include "desktop/clock.h"
+#include "desktop/commonsettings.h"
 #include "desktop/preferences.h"
 #include "forms/picklistentry.h"
+#include "logbook/logbooksettings.h"
 
 namespace tavrel {
 
@@ -46,22 +48,21 @@ void DiveForm::blankFields() {
     state_.clear();
     state_.setDate(controls_.dateField, Date::fromDateTime(desktop_.clock.now()));
     state_.setDate(controls_.heureField, Date::fromDateTime(QDate(2001, 1, 1).startOfDay()));
-    state_.setText(controls_.countryCodeField, preferences.string(QStringLiteral("country code")));
+    state_.setText(controls_.countryCodeField, preferences.get(settings::countryCode));
     state_.setText(controls_.gpsField, text("Carnet", "GPS template"));
-    // The spacing of stops is registered under another spelling, so it reads 0 until the preferences were saved once.
-    const qint64 interval = preferences.integer(QStringLiteral("stop interval"));
+    const qint64 interval = preferences.get(settings::stopInterval);
     for (std::size_t level = 0; level < 6; ++level) {
         state_.setInteger(controls_.depthDeco_Level_Field[level], interval * static_cast<qint64>(level + 1));
     }
-    state_.setInteger(controls_.lowGFField, preferences.integer(QStringLiteral("low GF")));
-    state_.setInteger(controls_.highGFField, preferences.integer(QStringLiteral("high GF")));
+    state_.setInteger(controls_.lowGFField, preferences.get(settings::lowGF));
+    state_.setInteger(controls_.highGFField, preferences.get(settings::highGF));
     for (std::size_t tank = 0; tank < 2; ++tank) {
-        state_.setInteger(controls_.volumeBlocField[tank], preferences.integer(QStringLiteral("tank volume")));
-        state_.setInteger(controls_.pressionBlocField[tank], preferences.integer(QStringLiteral("tank pressure")));
+        state_.setInteger(controls_.volumeBlocField[tank], preferences.get(settings::tankVolume));
+        state_.setInteger(controls_.pressionBlocField[tank], preferences.get(settings::tankPressure));
     }
-    state_.setText(controls_.fabricantField, preferences.string(QStringLiteral("fabricant")));
-    state_.setText(controls_.ordinateurField, preferences.string(QStringLiteral("ordinateur")));
-    state_.setText(controls_.serieField, preferences.string(QStringLiteral("serie")));
+    state_.setText(controls_.fabricantField, preferences.get(settings::fabricant));
+    state_.setText(controls_.ordinateurField, preferences.get(settings::ordinateur));
+    state_.setText(controls_.serieField, preferences.get(settings::serie));
     _plg.reset();
     updateSlider();
     state_.requestFocus(controls_.noPlongeeField);
@@ -166,7 +167,7 @@ void DiveForm::updateUI() {
     }
     state_.setEnabled(controls_.flowField, apparatus == semiClosed);
 
-    const bool usUnits = desktop_.preferences.boolean(QStringLiteral("us units"));
+    const bool usUnits = desktop_.preferences.get(settings::usUnits);
     const QString degree = usUnits ? text("Carnet", "Degree Farenheit") : text("Carnet", "Degree Celsius");
     const QString length = usUnits ? QStringLiteral("ft") : QStringLiteral("m");
     state_.setText(controls_.fahrEauField, degree);

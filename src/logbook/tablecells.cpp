@@ -2,8 +2,10 @@
 
 #include "base/numbers.h"
 #include "base/texts.h"
+#include "desktop/commonsettings.h"
 #include "desktop/preferences.h"
 #include "dives/divechoices.h"
+#include "logbook/logbooksettings.h"
 
 #include <algorithm>
 #include <span>
@@ -240,22 +242,22 @@ void colourDepthAndTime(CellStyle& cell, std::string_view field, const TableStyl
 
 TableStyle TableStyle::read(const Preferences& preferences, const QLocale& locale) {
     TableStyle style;
-    style.displayUnits = preferences.boolean(QStringLiteral("display units"));
-    style.usUnits = preferences.boolean(QStringLiteral("us units"));
-    style.foreignInColor = preferences.boolean(QStringLiteral("foreign in color"));
-    style.mixInColor = preferences.boolean(QStringLiteral("mix in color"));
-    style.nightInColor = preferences.boolean(QStringLiteral("nocturnes in color"));
-    style.textInColor = preferences.boolean(QStringLiteral("color item"));
-    style.lowTemperatureInColor = preferences.boolean(QStringLiteral("low temperature in color"));
-    style.depthTimeInColor = preferences.boolean(QStringLiteral("depth time in color"));
-    style.countryCode = preferences.string(QStringLiteral("country code"));
-    style.colouredText = preferences.string(QStringLiteral("coloured text"));
-    style.colouredTheme = preferences.integer(QStringLiteral("coloured theme"));
-    style.lowTemperature = preferences.integer(QStringLiteral("low temperature value"));
-    style.foreignColor = preferences.color(QStringLiteral("foreign color"));
-    style.lowTemperatureColor = preferences.color(QStringLiteral("low temperature color"));
-    style.depthColor = preferences.color(QStringLiteral("depth color"));
-    style.timeColor = preferences.color(QStringLiteral("time color"));
+    style.displayUnits = preferences.get(settings::displayUnits);
+    style.usUnits = preferences.get(settings::usUnits);
+    style.foreignInColor = preferences.get(settings::foreignInColor);
+    style.mixInColor = preferences.get(settings::mixInColor);
+    style.nightInColor = preferences.get(settings::nocturnesInColor);
+    style.textInColor = preferences.get(settings::colorItem);
+    style.lowTemperatureInColor = preferences.get(settings::lowTemperatureInColor);
+    style.depthTimeInColor = preferences.get(settings::depthTimeInColor);
+    style.countryCode = preferences.get(settings::countryCode);
+    style.colouredText = preferences.get(settings::colouredText);
+    style.colouredTheme = preferences.get(settings::colouredTheme);
+    style.lowTemperature = preferences.get(settings::lowTemperatureValue);
+    style.foreignColor = preferences.get(settings::foreignColor);
+    style.lowTemperatureColor = preferences.get(settings::lowTemperatureColor);
+    style.depthColor = preferences.get(settings::depthColor);
+    style.timeColor = preferences.get(settings::timeColor);
     style.locale = locale;
     style.dateFormat = locale.dateFormat(QLocale::ShortFormat);
     if (!style.dateFormat.contains(QLatin1StringView("yyyy"))) {

@@ -1,8 +1,12 @@
 #include "app/preferenceswindow.h"
 
 #include "app/colorwell.h"
+#include "archive/colorarchive.h"
+#include "desktop/commonsettings.h"
 #include "desktop/defaults.h"
 #include "desktop/ui/customtoolbar.h"
+#include "logbook/logbooksettings.h"
+#include "profile/profilesettings.h"
 #include "support/testdesktop.h"
 
 #include <QCheckBox>
@@ -19,9 +23,16 @@ namespace {
 class PreferencesTest : public testing::Test {
 protected:
     PreferencesTest() {
-        for (const char* name : {"updateTableView", "updateColumnsTableView", "updateEditDive", "profile", "updateDeco",
-                                 "updateRebreather"}) {
-            subscriptions_.push_back(desktop.notifications.subscribe(QString::fromLatin1(name), [this, name] {
+        constexpr std::pair<Notification, const char*> names[] = {
+            {Notification::updateTableView, "updateTableView"},
+            {Notification::updateColumnsTableView, "updateColumnsTableView"},
+            {Notification::updateEditDive, "updateEditDive"},
+            {Notification::profile, "profile"},
+            {Notification::updateDeco, "updateDeco"},
+            {Notification::updateRebreather, "updateRebreather"},
+        };
+        for (const auto& [notification, name] : names) {
+            subscriptions_.push_back(desktop.notifications.subscribe(notification, [this, name = name] {
                 posted.append(QString::fromLatin1(name));
                 intervalWhenPosted = desktop.preferences.string(QStringLiteral("stop interval"));
             }));
@@ -121,6 +132,35 @@ TEST_F(PreferencesTest, resetGivesEverySettingItsValueAndStoresIt) {
     EXPECT_FALSE(store->isStored(QStringLiteral("pense bete")));
 }
 
+TEST_F(PreferencesTest, settingsFallBackUntilTheyAreStored) {
+    const Preferences& stored = desktop.preferences;
+    using namespace settings;
+    for (const auto* setting : {&depthTimeInColor, &displayUnits, &fillPlot, &xMinorTicks, &yMinorTicks}) {
+        EXPECT_TRUE(stored.get(*setting)) << setting->key;
+    }
+    for (const auto* setting : {&colorItem, &lowTemperatureInColor, &mixInColor, &foreignInColor, &gradientYes,
+                                &dashedLines, &columnNumero, &columnEpave, &settings::usUnits}) {
+        EXPECT_FALSE(stored.get(*setting)) << setting->key;
+    }
+    for (const auto* setting : {&lowTemperatureColor, &depthColor, &timeColor, &fillColor}) {
+        EXPECT_EQ(stored.get(*setting).name(), u"#0000ff") << setting->key;
+    }
+    EXPECT_EQ(stored.get(plotColor).name(), u"#ff0000");
+    EXPECT_EQ(stored.get(backgroundColor).name(), u"#808080");
+    EXPECT_FALSE(stored.get(foreignColor).isValid());
+    EXPECT_EQ(stored.get(alphaFillColor), 0.5);
+    EXPECT_EQ(stored.get(alphaBackgroundColor), 0.5);
+    EXPECT_EQ(stored.get(stopInterval), 0);
+    EXPECT_EQ(stored.get(tankVolume), 0);
+    EXPECT_EQ(stored.get(settings::countryCode), QString());
+    // The grey keeps its archive as long as nobody chose another one.
+    window().savePrefs();
+    EXPECT_EQ(QSettings(desktop.path(QStringLiteral("preferences.ini")), QSettings::IniFormat)
+                  .value(QStringLiteral("background color"))
+                  .toByteArray(),
+              archivedWhite(0.5F));
+}
+
 TEST_F(PreferencesTest, everyChangeIsStoredAndTellsItsFollowers) {
     desktop.preferences.set(QStringLiteral("column site"), true);
     desktop.preferences.set(QStringLiteral("column_epave"), true);
@@ -174,23 +214,23 @@ TEST_F(PreferencesTest, everyChangeIsStoredAndTellsItsFollowers) {
     // A second window shows what was stored.
     PreferencesWindow second(desktop.desktop());
     for (const PreferenceKey& key : preferenceKeys()) {
-        const QString typed = window().control(key.key).value().toString().replace(u',', u'.');
-        EXPECT_EQ(second.control(key.key).value().toString(), typed) << key.key;
+        const QString typed = window().control(key.setting).value().toString().replace(u',', u'.');
+        EXPECT_EQ(second.control(key.setting).value().toString(), typed) << key.key();
     }
 }
 
 TEST_F(PreferencesTest, decoAndRebreatherStoreAfterTheyTold) {
     window().savePrefs();
-    window().control("stop interval").setValue(QStringLiteral("4"));
-    window().control("low GF").setValue(QStringLiteral("30"));
-    window().control("cell life").setValue(QStringLiteral("20"));
+    window().control(&settings::stopInterval).setValue(QStringLiteral("4"));
+    window().control(&settings::lowGF).setValue(QStringLiteral("30"));
+    window().control(&settings::cellLife).setValue(QStringLiteral("20"));
     window().updateDecoNotification();
     EXPECT_EQ(intervalWhenPosted, QString());
     EXPECT_EQ(desktop.preferences.integer(QStringLiteral("stop interval")), 4);
     EXPECT_EQ(desktop.preferences.integer(QStringLiteral("low GF")), 30);
     // The window showed the stored values again, which took the unsaved lifetime with it.
-    EXPECT_EQ(window().control("cell life").value().toString(), QString());
-    window().control("cell life").setValue(QStringLiteral("20"));
+    EXPECT_EQ(window().control(&settings::cellLife).value().toString(), QString());
+    window().control(&settings::cellLife).setValue(QStringLiteral("20"));
     window().updateRebreatherNotification();
     EXPECT_EQ(desktop.preferences.integer(QStringLiteral("cell life")), 20);
 }
@@ -224,14 +264,15 @@ TEST_F(PreferencesTest, unreadableValuesShowTheDefaults) {
     for (const char* key : {"alpha fill color", "fill plot", "plot color", "tank volume", "coloured theme"}) {
         desktop.preferences.set(QString::fromLatin1(key), QStringList{QStringLiteral("a"), QStringLiteral("b")});
     }
-    EXPECT_EQ(window().control("alpha fill color").value().toDouble(), 0.5);
-    EXPECT_TRUE(window().control("fill plot").value().toBool());
-    EXPECT_EQ(window().control("plot color").value().value<QColor>().name(), u"#ff0000");
-    EXPECT_EQ(window().control("tank volume").value().toString(), QString());
-    EXPECT_EQ(window().control("coloured theme").value().toInt(), 0);
+    EXPECT_EQ(window().control(&settings::alphaFillColor).value().toDouble(), 0.5);
+    EXPECT_TRUE(window().control(&settings::fillPlot).value().toBool());
+    EXPECT_EQ(window().control(&settings::plotColor).value().value<QColor>().name(), u"#ff0000");
+    EXPECT_EQ(window().control(&settings::tankVolume).value().toString(), QString());
+    EXPECT_EQ(window().control(&settings::colouredTheme).value().toInt(), 0);
     // What stands in a number's place without being one is not shown as a number, nor stored as one.
     desktop.preferences.set(QStringLiteral("low temperature value"), QStringLiteral("cold"));
-    EXPECT_EQ(PreferencesWindow(desktop.desktop()).control("low temperature value").value().toString(), QString());
+    EXPECT_EQ(PreferencesWindow(desktop.desktop()).control(&settings::lowTemperatureValue).value().toString(),
+              QString());
 }
 
 TEST_F(PreferencesTest, fieldsCountWhenTheUserGoesToAnotherWindow) {
@@ -264,7 +305,7 @@ TEST_F(PreferencesTest, pagesAndResetButton) {
     }
     // A logbook changed its columns.
     desktop.preferences.set(QStringLiteral("column gaz"), true);
-    desktop.notifications.post(QStringLiteral("updateColumnsTableView"));
+    desktop.notifications.post(Notification::updateColumnsTableView);
     EXPECT_TRUE(find<QCheckBox>("gazColumnSwitch").isChecked());
     takePosted();
     desktop.alerts.answerNext(1);

@@ -3,6 +3,8 @@
 #include "app/tavreldocuments.h"
 #include "app/testapplication.h"
 #include "app/windowmenus.h"
+#include "desktop/commonsettings.h"
+#include "logbook/logbooksettings.h"
 
 #include <QAbstractButton>
 #include <QFile>
@@ -94,9 +96,9 @@ TEST_F(Program, importsExportsAndFollowsThePreferences) {
     };
     EXPECT_TRUE(shownDepth().endsWith(u" m"));
     PreferencesWindow preferences(desktop.desktop());
-    static_cast<QAbstractButton*>(preferences.control("us units").widget())->click();
+    static_cast<QAbstractButton*>(preferences.control(&settings::usUnits).widget())->click();
     EXPECT_TRUE(shownDepth().endsWith(u" ft"));
-    static_cast<QAbstractButton*>(preferences.control("display units").widget())->click();
+    static_cast<QAbstractButton*>(preferences.control(&settings::displayUnits).widget())->click();
     EXPECT_FALSE(shownDepth().endsWith(u"t"));
 }
 

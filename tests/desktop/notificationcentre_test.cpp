@@ -10,20 +10,20 @@ namespace tavrel {
 
 namespace {
 
-const QString profile = QStringLiteral("profile");
+constexpr Notification profile = Notification::profile;
 
 TEST(NotificationCentre, callsTheObserversOfTheNameInOrder) {
     NotificationCentre centre;
     std::string calls;
     const auto first = centre.subscribe(profile, [&] { calls += 'a'; });
-    const auto other = centre.subscribe(QStringLiteral("updateDeco"), [&] { calls += 'x'; });
+    const auto other = centre.subscribe(Notification::updateDeco, [&] { calls += 'x'; });
     {
         auto second = centre.subscribe(profile, [&] { calls += 'b'; });
         const auto moved = std::move(second);
         centre.post(profile);
     }
     centre.post(profile);
-    centre.post(QStringLiteral("unheard"));
+    centre.post(Notification::renumDives);
     EXPECT_EQ(calls, "aba");
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/preferences.h"
 
+#include "archive/colorarchive.h"
 #include "desktop/defaults.h"
 #include "support/testdesktop.h"
 
@@ -10,6 +11,7 @@ namespace tavrel {
 
 namespace {
 
+constexpr Setting<QColor> plotColor{"plot color", Rgb{1, 0, 0}};
 const QString key = QStringLiteral("low temperature value");
 
 /// The preferences as another run of the program finds them: a copy of the file, which no open store knows.
@@ -55,7 +57,7 @@ TEST(Preferences, readEveryKindBackInTheNextRun) {
         for (int i = 0; i < lists.size(); ++i) {
             now.set(QStringLiteral("list %1").arg(i), lists[i]);
         }
-        now.setColor(QStringLiteral("plot color"), QColor::fromRgbF(1.0F, 0.5F, 0.0F, 0.25F));
+        now.set(plotColor, QColor::fromRgbF(1.0F, 0.5F, 0.0F, 0.25F));
         now.setWindowState(QStringLiteral("Nitrox Prof Max"), QByteArray("\0\xff,x", 4));
     }
     const NextRun next(desktop);
@@ -92,12 +94,16 @@ TEST(Preferences, readAWrongKindAsTheDefault) {
         preferences.set(QLatin1String(name), list);
     }
     preferences.set(QStringLiteral("l"), QByteArray("bytes"));
-    preferences.set(QStringLiteral("low temperature color"), QStringLiteral("blue"));
+    preferences.set(plotColor.name(), QStringLiteral("blue"));
     EXPECT_TRUE(preferences.boolean(QStringLiteral("b")));
     EXPECT_EQ(preferences.integer(QStringLiteral("n")), 7);
     EXPECT_EQ(preferences.string(QStringLiteral("s")), u"FRA");
     EXPECT_EQ(preferences.strings(QStringLiteral("l")).size(), 2);
-    EXPECT_EQ(preferences.color(QStringLiteral("low temperature color")), QColor(Qt::blue));
+    EXPECT_EQ(preferences.get(plotColor), QColor(Qt::red));
+    EXPECT_FALSE(preferences.get(Setting<QColor>{plotColor.key}).isValid());
+    EXPECT_EQ(preferences.get(Setting<qint32>{"n", 8}), 7);
+    EXPECT_EQ(preferences.get(Setting<double>{"l", 0.25}), 0.25);
+    EXPECT_EQ(preferences.get(Setting<QString>{"l", "é"}), QStringLiteral("é"));
     preferences.set(QStringLiteral("n"), QStringLiteral("deep"));
     preferences.set(QStringLiteral("b"), QStringLiteral("perhaps"));
     EXPECT_EQ(preferences.real(QStringLiteral("n")), 7.0);
@@ -161,37 +167,31 @@ TEST(Preferences, thatCannotBeWrittenStayInMemory) {
     EXPECT_TRUE(written.readAll().contains("=12"));
 }
 
-TEST(Preferences, haveTheirRegisteredDefaults) {
-    TestDesktop desktop;
-    Preferences& preferences = desktop.preferences;
-    for (const auto* name : {"depth time in color", "display units", "fill plot", "x minor ticks", "y minor ticks"}) {
-        EXPECT_TRUE(preferences.boolean(QLatin1String(name))) << name;
-        EXPECT_FALSE(preferences.isStored(QLatin1String(name))) << name;
-    }
-    EXPECT_EQ(preferences.integer(QStringLiteral("coloured theme")), 0);
-    EXPECT_EQ(preferences.string(QStringLiteral("stop_interval")), u"3");
-    EXPECT_EQ(preferences.integer(QStringLiteral("stop interval")), 0);
-    EXPECT_EQ(preferences.real(QStringLiteral("alpha fill color")), 0.5);
-    EXPECT_EQ(preferences.color(QStringLiteral("ASC color")), QColor(Qt::yellow));
-    EXPECT_EQ(preferences.color(QStringLiteral("plot color")), QColor(Qt::red));
-    EXPECT_NEAR(preferences.color(QStringLiteral("background color")).redF(), 0.5, 1e-4);
+TEST(Preferences, registerWhatNoSettingFallsBackTo) {
+    const TestDesktop desktop;
+    EXPECT_EQ(desktop.preferences.string(QStringLiteral("stop_interval")), u"3");
+    EXPECT_EQ(desktop.preferences.string(QStringLiteral("stop interval")), QString());
+    EXPECT_EQ(desktop.preferences.color(QStringLiteral("ASC color")), QColor(Qt::yellow));
 }
 
 TEST(Preferences, keepTheSpaceOfAColor) {
     TestDesktop desktop;
-    const QString background = QStringLiteral("background color");
+    constexpr Setting<QColor> background{"background color", grey(0.5F)};
     const auto stored = [&] {
         return QSettings(desktop.path(QStringLiteral("preferences.ini")), QSettings::IniFormat)
-            .value(background)
+            .value(background.name())
             .toByteArray();
     };
-    // The grey of the defaults is a white; the same grey as the user's own colour is RGB.
-    desktop.preferences.setColor(background, desktop.preferences.color(background));
+    // The grey of the fallback is a white; the same grey as the user's own colour is RGB.
+    desktop.preferences.set(background, desktop.preferences.get(background));
     EXPECT_EQ(stored(), archivedWhite(0.5F));
-    desktop.preferences.setColor(background, QColor::fromRgbF(0.702F, 0.702F, 0.702F));
+    desktop.preferences.set(background, QColor::fromRgbF(0.702F, 0.702F, 0.702F));
     EXPECT_TRUE(stored().contains("ffff"));
     // A component travels as the decimal it was given as: 0.702, three times.
     EXPECT_EQ(stored().count(QByteArray::fromHex("46b6333f")), 3);
+    desktop.preferences.set(background.name(), archivedWhite(0.25F));
+    desktop.preferences.set(background, desktop.preferences.get(background));
+    EXPECT_EQ(stored(), archivedWhite(0.25F));
 }
 
 TEST(Preferences, ofOneRunLeaveTheFileAsItIs) {
@@ -202,9 +202,7 @@ TEST(Preferences, ofOneRunLeaveTheFileAsItIs) {
         Preferences run(desktop.path(QStringLiteral("preferences.ini")), Preferences::Keeping::thisRun);
         EXPECT_EQ(run.string(QStringLiteral("country code")), u"FRA");
         run.set(QStringLiteral("country code"), QStringLiteral("EGY"));
-        run.remove(QStringLiteral("tank volume"));
         EXPECT_EQ(run.string(QStringLiteral("country code")), u"EGY");
-        EXPECT_FALSE(run.isStored(QStringLiteral("tank volume")));
     }
     const NextRun next(desktop);
     EXPECT_EQ(next.store.string(QStringLiteral("country code")), u"FRA");

@@ -297,7 +297,7 @@ TEST(CarnetColumns, areSetUpWhereTheNumberIsHidden) {
     preferences.set(QStringLiteral("column gaz"), false);
     const Carnet first(desktop.desktop());
     for (const auto& column : diveColumns) {
-        EXPECT_EQ(shown(column.visibilityKey), QLatin1StringView(column.field) != u"rebreather") << column.field;
+        EXPECT_EQ(preferences.get(column.shown), QLatin1StringView(column.field) != u"rebreather") << column.field;
     }
     preferences.set(QStringLiteral("column site"), false);
     const Carnet second(desktop.desktop());
@@ -315,12 +315,13 @@ TEST_F(CarnetTest, answersTheNotifications) {
     QObject::connect(&carnet, &Carnet::profileRedrawRequested, count);
     QObject::connect(&carnet, &Carnet::synthesisRefillRequested, count);
     QObject::connect(&carnet, &Carnet::renumberWindowRequested, count);
-    for (const char* name : {"updateTableView", "updateColumnsTableView", "profile", "updateEditDive", "renumDives"}) {
-        desktop.notifications.post(QString::fromUtf8(name));
+    for (const Notification name : {Notification::updateTableView, Notification::updateColumnsTableView,
+                                    Notification::profile, Notification::updateEditDive, Notification::renumDives}) {
+        desktop.notifications.post(name);
     }
     EXPECT_EQ(answers, 5);
     desktop.preferences.set(QStringLiteral("us units"), true);
-    desktop.notifications.post(QStringLiteral("updateDeco"));
+    desktop.notifications.post(Notification::updateDeco);
     EXPECT_EQ(shown(controls.ftDepthField), u"ft");
 }
 

@@ -15,10 +15,6 @@ namespace {
 
 const QString columnsState = QStringLiteral("logbook columns");
 
-QString visibilityKey(const DiveColumn& column) {
-    return QString::fromLatin1(column.visibilityKey);
-}
-
 }  // namespace
 
 DiveTable::DiveTable(Carnet& carnet, Desktop& desktop, QWidget* parent)
@@ -68,15 +64,15 @@ void DiveTable::buildColumnsMenu() {
         action->setObjectName(QString::fromLatin1(column.field));
         action->setCheckable(true);
         connect(action, &QAction::triggered, this, [this, &column](bool shown) {
-            desktop_.preferences.set(visibilityKey(column), shown);
-            desktop_.notifications.post(QStringLiteral("updateColumnsTableView"));
+            desktop_.preferences.set(column.shown, shown);
+            desktop_.notifications.post(Notification::updateColumnsTableView);
         });
     }
 }
 
 void DiveTable::displayColumnsInTableView() {
     for (const auto& column : diveColumns) {
-        setColumn(QString::fromLatin1(column.field), desktop_.preferences.boolean(visibilityKey(column)));
+        setColumn(QString::fromLatin1(column.field), desktop_.preferences.get(column.shown));
     }
     // Whoever hid the last column would have no header left to bring one back with.
     const auto actions = columnsMenu_->actions();

@@ -166,7 +166,7 @@ TEST_F(LogbookWindowTest, hidesColumnsAndPutsThemBackInTheirPlace) {
     EXPECT_EQ(visibleColumns().indexOf(QStringLiteral("coeff")), all.indexOf(QStringLiteral("deco")));
     desktop.preferences.set(QStringLiteral("column deco"), true);
     desktop.preferences.set(QStringLiteral("column coeff"), true);
-    desktop.notifications.post(QStringLiteral("updateColumnsTableView"));
+    desktop.notifications.post(Notification::updateColumnsTableView);
     EXPECT_EQ(visibleColumns(), all);
 
     // Order and widths outlive the window.
@@ -178,9 +178,9 @@ TEST_F(LogbookWindowTest, hidesColumnsAndPutsThemBackInTheirPlace) {
     EXPECT_EQ(table().columnWidth(diveColumnOf("lieu")), 321);
 
     for (const auto& column : diveColumns) {
-        desktop.preferences.set(QString::fromUtf8(column.visibilityKey), column.field == std::string_view("site"));
+        desktop.preferences.set(column.shown, column.field == std::string_view("site"));
     }
-    desktop.notifications.post(QStringLiteral("updateColumnsTableView"));
+    desktop.notifications.post(Notification::updateColumnsTableView);
     EXPECT_FALSE(table().columnsMenu()->findChild<QAction*>(QStringLiteral("site"))->isEnabled());
 }
 
@@ -189,7 +189,7 @@ TEST_F(LogbookWindowTest, readsAgainOncePerChange) {
     const QSignalSpy resets(table().model(), &QAbstractItemModel::modelReset);
     desktop.preferences.set(QStringLiteral("display units"), false);
     EXPECT_EQ(shown(0, "temps"), u"0 '");
-    desktop.notifications.post(QStringLiteral("updateTableView"));
+    desktop.notifications.post(Notification::updateTableView);
     EXPECT_EQ(shown(0, "temps"), u"0");
     QTest::qWait(0);
     window->grab();
@@ -278,7 +278,7 @@ TEST_F(LogbookWindowTest, opensTheEditWindowAndStoresItsEntries) {
 
 TEST_F(LogbookWindowTest, renumbersFromTheNumberGiven) {
     hold(3);
-    desktop.notifications.post(QStringLiteral("renumDives"));
+    desktop.notifications.post(Notification::renumDives);
     auto& dialog = window->renumberWindow();
     EXPECT_TRUE(dialog.isVisible());
     dialog.findChild<QSpinBox*>(QStringLiteral("firstNumber"))->setValue(10);
