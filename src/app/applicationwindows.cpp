@@ -6,7 +6,6 @@
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <QLabel>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -50,28 +49,6 @@ void MemoWindow::keep() {
         preferences_.set(memo, editor_->toPlainText());
         editor_->document()->setModified(false);
     }
-}
-
-LoadingWindow::LoadingWindow() : loadingIndicator_(new QProgressBar(this)) {
-    setWindowTitle(text("Main", "Loading"));
-    setWindowFlag(Qt::WindowCloseButtonHint, false);
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(new QLabel(windowTitle(), this));
-    layout->addWidget(loadingIndicator_);
-    loadingIndicator_->setTextVisible(false);
-    loadingIndicator_->setMinimumWidth(240);
-}
-
-void LoadingWindow::start() {
-    // Without an end to count to, the bar moves to and fro.
-    loadingIndicator_->setRange(0, 0);
-    show();
-    raise();
-}
-
-void LoadingWindow::stop() {
-    loadingIndicator_->setRange(0, 1);
-    close();
 }
 
 }  // namespace tavrel

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QPlainTextEdit>
-#include <QProgressBar>
 #include <QWidget>
 
 namespace tavrel {
@@ -26,20 +25,6 @@ private:
 
     Preferences& preferences_;
     QPlainTextEdit* editor_;
-};
-
-/// Says that something is being loaded.
-class LoadingWindow : public QWidget {
-    Q_OBJECT
-
-public:
-    LoadingWindow();
-
-    void start();
-    void stop();
-
-private:
-    QProgressBar* loadingIndicator_;
 };
 
 }  // namespace tavrel

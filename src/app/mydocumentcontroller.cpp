@@ -378,17 +378,4 @@ void MyDocumentController::showPenseBeteWindow() {
     bringToFront(penseBeteWindow_.get());
 }
 
-void MyDocumentController::showLoadingWindow() {
-    if (!loadingWindow_) {
-        loadingWindow_ = std::make_unique<LoadingWindow>();
-    }
-    loadingWindow_->start();
-}
-
-void MyDocumentController::disposeLoadingWindow() {
-    if (loadingWindow_) {
-        loadingWindow_->stop();
-    }
-}
-
 }  // namespace tavrel

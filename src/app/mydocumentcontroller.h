@@ -12,7 +12,6 @@
 
 namespace tavrel {
 
-class LoadingWindow;
 class MemoWindow;
 class PreferencesWindow;
 
@@ -66,8 +65,6 @@ public:
 
     void showPreferencePanel();
     void showPenseBeteWindow();
-    void showLoadingWindow();
-    void disposeLoadingWindow();
 
 Q_SIGNALS:
     /// A document's window is about to be shown for the first time.
@@ -102,7 +99,6 @@ private:
     DocumentWindow* untouched_ = nullptr;  ///< the untitled document of a start, until something else is opened
     QSet<DocumentWindow*> asked_;          ///< whose save prompt is on the screen
     std::unique_ptr<PreferencesWindow> preferences_;
-    std::unique_ptr<LoadingWindow> loadingWindow_;
     std::unique_ptr<MemoWindow> penseBeteWindow_;
 };
 

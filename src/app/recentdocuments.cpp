@@ -41,7 +41,6 @@ void RecentDocuments::clear() {
 
 void RecentDocuments::keep(const QStringList& files) {
     preferences_.set(key(), files);
-    Q_EMIT changed();
 }
 
 }  // namespace tavrel

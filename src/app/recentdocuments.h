@@ -2,15 +2,12 @@
 
 #include "desktop/preferences.h"
 
-#include <QObject>
 #include <QStringList>
 
 namespace tavrel {
 
 /// The documents that were opened or saved last, the latest first, kept in the preferences.
-class RecentDocuments : public QObject {
-    Q_OBJECT
-
+class RecentDocuments {
 public:
     explicit RecentDocuments(Preferences& preferences) : preferences_(preferences) {}
 
@@ -19,9 +16,6 @@ public:
     void note(const QString& file);
     void drop(const QString& file);
     void clear();
-
-Q_SIGNALS:
-    void changed();
 
 private:
     void keep(const QStringList& files);

@@ -1,51 +1,53 @@
 #include "archive/typedstreamfault.h"
 
+#include "base/texts.h"
+
 namespace tavrel {
 
 namespace {
 
-QString sentenceOf(StreamFault fault) {
+Title sentenceOf(StreamFault fault) {
     switch (fault) {
         case StreamFault::notTypedStream:
-            return QStringLiteral("The file is not a document of this program.");
+            return Title("Archive", "Not typed stream");
         case StreamFault::unknownVersion:
-            return QStringLiteral("The file is written in an unknown version of the archive format.");
+            return Title("Archive", "Unknown version");
         case StreamFault::truncated:
-            return QStringLiteral("The file is damaged: it ends too early.");
+            return Title("Archive", "Truncated");
         case StreamFault::countTooLarge:
-            return QStringLiteral("The file is damaged: it announces more data than it holds.");
+            return Title("Archive", "Count too large");
         case StreamFault::undefinedReference:
-            return QStringLiteral("The file is damaged: it refers to something that it has not defined.");
+            return Title("Archive", "Undefined reference");
         case StreamFault::wrongReference:
-            return QStringLiteral("The file is damaged: it refers to something of another kind.");
+            return Title("Archive", "Wrong reference");
         case StreamFault::unexpectedTag:
-            return QStringLiteral("The file is damaged: an unexpected mark stands in it.");
+            return Title("Archive", "Unexpected tag");
         case StreamFault::unknownType:
-            return QStringLiteral("The file is damaged: it holds a value of an unknown type.");
+            return Title("Archive", "Unknown type");
         case StreamFault::nilName:
-            return QStringLiteral("The file is damaged: a type or class has no name.");
+            return Title("Archive", "Nil name");
         case StreamFault::classLoop:
-            return QStringLiteral("The file is damaged: a class descends from itself.");
+            return Title("Archive", "Class loop");
         case StreamFault::tooDeep:
-            return QStringLiteral("The file is nested too deeply.");
+            return Title("Archive", "Too deep");
         case StreamFault::rootNotArray:
-            return QStringLiteral("The file holds no list of records.");
+            return Title("Archive", "Root not array");
         case StreamFault::wrongClass:
-            return QStringLiteral("The file holds records of another kind.");
+            return Title("Archive", "Wrong class");
         case StreamFault::missingItem:
-            return QStringLiteral("The file is damaged: a record ends before its last field.");
+            return Title("Archive", "Missing item");
         case StreamFault::wrongItemType:
-            return QStringLiteral("The file is damaged: a field has another type than it must have.");
+            return Title("Archive", "Wrong item type");
         case StreamFault::valueOutOfRange:
-            return QStringLiteral("The file is damaged: a number does not fit its field.");
+            return Title("Archive", "Value out of range");
         case StreamFault::wrongItemObject:
-            return QStringLiteral("The file is damaged: a field holds something of another kind.");
+            return Title("Archive", "Wrong item object");
         case StreamFault::notNumber:
-            return QStringLiteral("The file is damaged: a series holds something else than numbers.");
+            return Title("Archive", "Not number");
         case StreamFault::noColor:
-            return QStringLiteral("The archive holds no colour.");
+            return Title("Archive", "No color");
         case StreamFault::cancelled:
-            return QStringLiteral("Cancelled.");
+            return Title("Archive", "Cancelled");
     }
     return {};
 }
@@ -53,8 +55,8 @@ QString sentenceOf(StreamFault fault) {
 }  // namespace
 
 Failure streamFailure(StreamFault fault, std::size_t offset, const QString& what) {
-    const QString place = QStringLiteral("at byte %1").arg(offset);
-    return {sentenceOf(fault), what.isEmpty() ? place : what + QStringLiteral(", ") + place};
+    const QString place = textWith("Archive", "At byte", static_cast<qint64>(offset));
+    return {text(sentenceOf(fault)), what.isEmpty() ? place : what + QStringLiteral(", ") + place};
 }
 
 }  // namespace tavrel

@@ -1,6 +1,7 @@
 #include "archive/typedstreamscanner.h"
 
 #include "archive/typedstreamtags.h"
+#include "base/texts.h"
 
 #include <QtEndian>
 
@@ -52,7 +53,7 @@ void TypedStreamScanner::readHeader() {
         return;
     }
     if (version != streamtags::streamerVersion) {
-        fail(StreamFault::unknownVersion, 0, QStringLiteral("version %1").arg(version));
+        fail(StreamFault::unknownVersion, 0, textWith("Archive", "Version", static_cast<qint64>(version)));
         return;
     }
     littleEndian_ = signature == streamtags::littleEndianSignature;

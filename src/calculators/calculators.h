@@ -32,10 +32,9 @@ struct Calculator {
     CalculatorId id;
     CalculatorGroup group;
     Title title;
-    const char* action;           ///< AppDelegate's function that shows the window
-    const char* controllerField;  ///< AppDelegate's name for the window's controller
-    const char* windowLayout;     ///< the window's own name
-    const char* command;          ///< behind "calc" on the command line
+    const char* action;        ///< AppDelegate's function that shows the window
+    const char* windowLayout;  ///< the window's own name
+    const char* command;       ///< behind "calc" on the command line
 };
 
 /// All calculators in menu order; a calculator's place is its id.

@@ -11,7 +11,8 @@ namespace tavrel {
 namespace {
 
 constexpr qint64 epoch2001 = 978307200;  // 1 January 2001 00:00:00 UTC, seconds since 1970
-constexpr double calendarBound = 1e15;   // seconds; some 30 million years
+constexpr qint64 secondsPerDay = 86400;
+constexpr double calendarBound = 1e15;  // seconds; some 30 million years
 
 struct DecimalSeconds {
     qint64 whole;      // rounded down
@@ -41,32 +42,15 @@ DecimalSeconds decimalSeconds(double seconds) {
     return {whole, QString::fromLatin1(fraction.data(), static_cast<qsizetype>(fraction.size()))};
 }
 
-QString yearText(qint64 year) {
-    if (year >= 0 && year <= 9999) {
-        return QStringLiteral("%1").arg(year, 4, 10, QLatin1Char('0'));
-    }
-    return (year < 0 ? QLatin1Char('-') : QLatin1Char('+')) +
-           QStringLiteral("%1").arg(std::abs(year), 6, 10, QLatin1Char('0'));
-}
-
-// Proleptic Gregorian year of a day counted from 1 March 0000, after the usual reckoning by eras of 400 years;
-// std::chrono stops at the year 32767.
-struct CivilDay {
-    qint64 year;
-    int month;
-    int day;
-};
-
-CivilDay civilDay(qint64 daysSince1970) {
-    const qint64 shifted = daysSince1970 + 719468;
-    const qint64 era = (shifted >= 0 ? shifted : shifted - 146096) / 146097;
-    const qint64 dayOfEra = shifted - era * 146097;
-    const qint64 yearOfEra = (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / 146096) / 365;
-    const qint64 dayOfYear = dayOfEra - (365 * yearOfEra + yearOfEra / 4 - yearOfEra / 100);
-    const int monthFromMarch = static_cast<int>((5 * dayOfYear + 2) / 153);
-    const int day = static_cast<int>(dayOfYear - (153 * monthFromMarch + 2) / 5 + 1);
-    const int month = monthFromMarch < 10 ? monthFromMarch + 3 : monthFromMarch - 9;
-    return {yearOfEra + era * 400 + (month <= 2 ? 1 : 0), month, day};
+/// With the year that ISO 8601 counts: 1 BC, QDate's -1, is year 0.
+QString dayText(QDate day) {
+    const int year = day.year() < 0 ? day.year() + 1 : day.year();
+    const bool isPlain = year >= 0 && year <= 9999;
+    const QString sign = isPlain ? QString() : QString(year < 0 ? u'-' : u'+');
+    return sign + QStringLiteral("%1-%2-%3")
+                      .arg(std::abs(year), isPlain ? 4 : 6, 10, QLatin1Char('0'))
+                      .arg(day.month(), 2, 10, QLatin1Char('0'))
+                      .arg(day.day(), 2, 10, QLatin1Char('0'));
 }
 
 }  // namespace
@@ -95,13 +79,9 @@ QString Date::toIso() const {
         return QString::fromLatin1(digits.data(), end.ptr - digits.data());
     }
     const DecimalSeconds parts = decimalSeconds(*seconds_);
-    const qint64 since1970 = parts.whole + epoch2001;
-    const qint64 days = since1970 / 86400 - (since1970 % 86400 < 0 ? 1 : 0);
-    const qint64 second = since1970 - days * 86400;
-    const CivilDay civil = civilDay(days);
-    const auto two = [](qint64 value) { return QStringLiteral("%1").arg(value, 2, 10, QLatin1Char('0')); };
-    QString text = yearText(civil.year) + u'-' + two(civil.month) + u'-' + two(civil.day) + u'T' + two(second / 3600) +
-                   u':' + two(second / 60 % 60) + u':' + two(second % 60);
+    const qint64 days = parts.whole / secondsPerDay - (parts.whole % secondsPerDay < 0 ? 1 : 0);
+    const auto second = static_cast<int>(parts.whole - days * secondsPerDay);
+    QString text = dayText(QDate(2001, 1, 1).addDays(days)) + u'T' + QTime(0, 0).addSecs(second).toString(Qt::ISODate);
     if (!parts.fraction.isEmpty()) {
         text += u'.' + parts.fraction;
     }

@@ -173,6 +173,11 @@ TEST(TextTables, holdEveryKeyThatTheCodeUses) {
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
         QString code = QString::fromUtf8(file.readAll());
         code.remove(QRegularExpression(QStringLiteral(R"(^\s*//.*$)"), QRegularExpression::MultilineOption));
+        // A sentence for the user comes from a table, whatever is made of it.
+        const QRegularExpression sentence(
+            QStringLiteral(R"re((?:QStringLiteral|failure)\(u?"[A-ZÀ-Ý][^"]* [^"]*[.!?]")re"));
+        EXPECT_FALSE(sentence.match(code).hasMatch())
+            << file.fileName().toStdString() << ": " << sentence.match(code).captured().toStdString();
         for (auto matches = use.globalMatch(code); matches.hasNext(); ++uses) {
             const auto match = matches.next();
             const QString table = unescaped(match.captured(2));

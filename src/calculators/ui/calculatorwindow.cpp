@@ -53,7 +53,7 @@ CalculatorWindow::CalculatorWindow(CalculatorId id, QWidget* parent) : QDialog(p
     left->addWidget(newInputs());
     auto* button = new QPushButton(text(Title("Calculators", "Calculate")), this);
     button->setDefault(true);
-    connect(button, &QPushButton::clicked, this, [this] { calculate(page_.id); });
+    connect(button, &QPushButton::clicked, this, &CalculatorWindow::calculate);
     left->addWidget(button, 0, Qt::AlignRight);
     left->addWidget(newResult());
     left->addWidget(newFormulaLabel(formulaLine(page_), this));
@@ -143,34 +143,26 @@ QString CalculatorWindow::resultText() const {
     return lines.join(u'\n');
 }
 
-void CalculatorWindow::calculate(CalculatorId id) {
-    const CalculatorPage& page = *calculatorPage(id);
+void CalculatorWindow::calculate() {
     std::vector<double> values;
-    for (const CalculatorInput& input : page.inputs) {
+    for (const CalculatorInput& input : page_.inputs) {
         values.push_back(inputValue(input));
     }
-    const CalculatorResult result = page.evaluate(values);
-    if (auto* label = findChild<QLabel*>(QLatin1StringView(page.resultField))) {
-        label->setText(result.text);
-    }
-    showRows(page, result.rows);
+    const CalculatorResult result = page_.evaluate(values);
+    findChild<QLabel*>(QLatin1StringView(page_.resultField))->setText(result.text);
+    showRows(result.rows);
 }
 
 double CalculatorWindow::inputValue(const CalculatorInput& input) const {
     if (input.kind == CalculatorInputKind::PpO2Menu) {
-        const auto* menu = findChild<QComboBox*>(QLatin1StringView(input.field));
-        return ppO2OfMenuIndex(menu ? menu->currentIndex() : 0);
+        return ppO2OfMenuIndex(findChild<QComboBox*>(QLatin1StringView(input.field))->currentIndex());
     }
-    const auto* field = findChild<QLineEdit*>(QLatin1StringView(input.field));
-    return field ? doubleValue(field->text()) : 0;
+    return doubleValue(findChild<QLineEdit*>(QLatin1StringView(input.field))->text());
 }
 
-void CalculatorWindow::showRows(const CalculatorPage& page, const std::vector<CalculatorRow>& rows) {
-    if (&page != &page_) {
-        return;
-    }
+void CalculatorWindow::showRows(const std::vector<CalculatorRow>& rows) {
     for (std::size_t row = 0; row < rows.size(); ++row) {
-        findChild<QLabel*>(rowField(page, row))->setText(rows[row].text);
+        findChild<QLabel*>(rowField(page_, row))->setText(rows[row].text);
         if (rows[row].colour != RowColour::Unchanged) {
             rowColours_[row] = rows[row].colour;
         }

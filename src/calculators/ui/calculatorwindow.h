@@ -19,12 +19,13 @@ class CalculatorWindow : public QDialog {
 public:
     explicit CalculatorWindow(CalculatorId id, QWidget* parent = nullptr);
 
+    /// Calculates from the fields and shows the result.
+    void calculate();
+
     /// The result as shown, and the table's rows below it.
     QString resultText() const;
 
 protected:
-    /// Calculates a page from the fields that this window has; one that it lacks reads as empty.
-    void calculate(CalculatorId id);
     void changeEvent(QEvent* event) override;
 
 private:
@@ -34,7 +35,7 @@ private:
     /// A result to reserve room for, so that the window does not grow under the user's hand.
     CalculatorResult ordinaryResult() const;
     double inputValue(const CalculatorInput& input) const;
-    void showRows(const CalculatorPage& page, const std::vector<CalculatorRow>& rows);
+    void showRows(const std::vector<CalculatorRow>& rows);
     void colourRows();
 
     const CalculatorPage& page_;

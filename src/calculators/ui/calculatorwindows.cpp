@@ -1,10 +1,8 @@
 #include "calculators/ui/calculatorwindows.h"
 
+#include "calculators/ui/calculatorwindow.h"
 #include "calculators/ui/gpscontroller.h"
-#include "calculators/ui/nitroxcontroller.h"
 #include "calculators/ui/physiquecontroller.h"
-#include "calculators/ui/scrccrcontroller.h"
-#include "calculators/ui/trimixcontroller.h"
 #include "desktop/ui/bringtofront.h"
 
 #include <QAction>
@@ -15,20 +13,14 @@ namespace tavrel {
 namespace {
 
 std::unique_ptr<QWidget> newWindow(CalculatorId id) {
-    switch (calculator(id).group) {
-        case CalculatorGroup::Nitrox:
-            return std::make_unique<NitroxController>(id);
-        case CalculatorGroup::Trimix:
-            return std::make_unique<TrimixController>(id);
-        case CalculatorGroup::Rebreather:
-            return std::make_unique<SCRCCRController>(id);
-        case CalculatorGroup::Conversions:
-            break;
+    switch (id) {
+        case CalculatorId::Conversions:
+            return std::make_unique<PhysiqueController>();
+        case CalculatorId::Gps:
+            return std::make_unique<GpsController>();
+        default:
+            return std::make_unique<CalculatorWindow>(id);
     }
-    if (id == CalculatorId::Gps) {
-        return std::make_unique<GpsController>();
-    }
-    return std::make_unique<PhysiqueController>();
 }
 
 }  // namespace
