@@ -5,6 +5,9 @@
 #include "base/texts.h"
 #include "desktop/alerts.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -34,6 +37,9 @@ QVariant encoded(const QVariant& value) {
             }
             return entries.size() == 1 ? QVariant(entries.first()) : value;
         }
+        case QMetaType::QVariantMap:
+            return QString::fromUtf8(
+                QJsonDocument(QJsonObject::fromVariantMap(value.toMap())).toJson(QJsonDocument::Compact));
         default:
             return value.toString();
     }
@@ -91,6 +97,11 @@ std::optional<QStringList> readStrings(const QVariant& value) {
         return QStringList{value.toString()};
     }
     return value.isValid() ? std::nullopt : std::optional(QStringList());
+}
+
+std::optional<QVariantMap> readDictionary(const QVariant& value) {
+    const QJsonDocument document = QJsonDocument::fromJson(value.toString().toUtf8());
+    return document.isObject() ? std::optional(document.object().toVariantMap()) : std::nullopt;
 }
 
 std::optional<QColor> readColor(const QVariant& value) {
@@ -184,6 +195,9 @@ QString Preferences::string(const QString& key) const {
 }
 QStringList Preferences::strings(const QString& key) const {
     return find(key, readStrings).value_or(QStringList());
+}
+QVariantMap Preferences::dictionary(const QString& key) const {
+    return find(key, readDictionary).value_or(QVariantMap());
 }
 QColor Preferences::color(const QString& key) const {
     return find(key, readColor).value_or(QColor());

@@ -44,11 +44,13 @@ public:
     double real(const QString& key) const;
     QString string(const QString& key) const;
     QStringList strings(const QString& key) const;
+    /// Numbers and texts by name; the file holds it as the text of a JSON object.
+    QVariantMap dictionary(const QString& key) const;
     /// Reads the archived colour; invalid when neither the store nor the defaults hold one.
     QColor color(const QString& key) const;
 
-    /// Stores a boolean (as 0 or 1), number, string, string list or bytes. Values reach the disk at once, the old file
-    /// staying whole until the new one is complete.
+    /// Stores a boolean (as 0 or 1), number, string, string list, dictionary or bytes. Values reach the disk at once,
+    /// the old file staying whole until the new one is complete.
     void set(const QString& key, const QVariant& value);
     /// Stores a setting. A colour is stored as its typed-stream archive; the colour that the setting has already keeps
     /// its archive, and with it the colour space.

@@ -1,27 +1,33 @@
 #pragma once
 
+#include "dives/divecodes.h"
 #include "forms/control.h"
 
 // The menus of the dive form. Items stand in the order of their tags with the open choice last; records store the tag.
 namespace tavrel::choices {
 
 inline constexpr Choice tide[] = {
-    {1, {"Carnet", "High tide"}},
-    {2, {"Carnet", "Low tide"}},
-    {0, literal("-")},
+    {Tide::high, {"Carnet", "High tide"}},
+    {Tide::low, {"Carnet", "Low tide"}},
+    {Tide::none, literal("-")},
 };
 
-/// Tags of a dive's datum: 0 ED50, 1 WGS84, any other unknown.
-inline constexpr Choice datum[] = {{0, literal("ED50")}, {1, literal("WGS84")}, {2, literal("...")}};
+inline constexpr Choice datum[] = {
+    {Datum::ed50, literal("ED50")}, {Datum::wgs84, literal("WGS84")}, {Datum::unknown, literal("...")}};
 
 inline constexpr Choice weather[] = {
-    {0, {"Carnet", "Clear"}}, {1, {"Carnet", "Cloudy"}}, {2, {"Carnet", "Foggy"}},    {3, {"Carnet", "Rainy"}},
-    {4, {"Carnet", "Hail"}},  {5, {"Carnet", "Snowy"}},  {6, {"Carnet", "Thundery"}}, {7, literal("-")},
+    {Weather::clear, {"Carnet", "Clear"}},       {Weather::cloudy, {"Carnet", "Cloudy"}},
+    {Weather::foggy, {"Carnet", "Foggy"}},       {Weather::rainy, {"Carnet", "Rainy"}},
+    {Weather::hail, {"Carnet", "Hail"}},         {Weather::snowy, {"Carnet", "Snowy"}},
+    {Weather::thundery, {"Carnet", "Thundery"}}, {Weather::notGiven, literal("-")},
 };
 
 inline constexpr Choice windSector[] = {
-    {1, literal("N")},   {2, literal("N-E")}, {3, literal("E")},   {4, literal("S-E")}, {5, literal("S")},
-    {6, literal("S-W")}, {7, literal("W")},   {8, literal("N-W")}, {0, literal("-")},
+    {WindSector::north, literal("N")},    {WindSector::northEast, literal("N-E")},
+    {WindSector::east, literal("E")},     {WindSector::southEast, literal("S-E")},
+    {WindSector::south, literal("S")},    {WindSector::southWest, literal("S-W")},
+    {WindSector::west, literal("W")},     {WindSector::northWest, literal("N-W")},
+    {WindSector::notGiven, literal("-")},
 };
 
 /// Beaufort 0 to 12.
@@ -32,53 +38,69 @@ inline constexpr Choice windForce[] = {
 };
 
 inline constexpr Choice current[] = {
-    {0, {"Carnet", "None"}},        {1, {"Carnet", "Weak"}},    {2, {"Carnet", "Moderate"}}, {3, {"Carnet", "Strong"}},
-    {4, {"Carnet", "Very strong"}}, {5, {"Carnet", "Violent"}}, {6, literal("-")},
+    {Current::none, {"Carnet", "None"}},
+    {Current::weak, {"Carnet", "Weak"}},
+    {Current::moderate, {"Carnet", "Moderate"}},
+    {Current::strong, {"Carnet", "Strong"}},
+    {Current::veryStrong, {"Carnet", "Very strong"}},
+    {Current::violent, {"Carnet", "Violent"}},
+    {Current::notGiven, literal("-")},
 };
 
 /// The best comes first although its tag is the highest.
 inline constexpr Choice visibility[] = {
-    {8, {"Carnet", "TableView exceptional"}},
-    {0, {"Carnet", "TableView excellent"}},
-    {1, {"Carnet", "TableView very good"}},
-    {2, {"Carnet", "TableView good"}},
-    {3, {"Carnet", "TableView medium"}},
-    {4, {"Carnet", "TableView bad"}},
-    {5, {"Carnet", "TableView very bad"}},
-    {6, {"Carnet", "TableView execrable"}},
-    {7, literal("-")},
+    {Visibility::exceptional, {"Carnet", "TableView exceptional"}},
+    {Visibility::excellent, {"Carnet", "TableView excellent"}},
+    {Visibility::veryGood, {"Carnet", "TableView very good"}},
+    {Visibility::good, {"Carnet", "TableView good"}},
+    {Visibility::medium, {"Carnet", "TableView medium"}},
+    {Visibility::bad, {"Carnet", "TableView bad"}},
+    {Visibility::veryBad, {"Carnet", "TableView very bad"}},
+    {Visibility::execrable, {"Carnet", "TableView execrable"}},
+    {Visibility::notGiven, literal("-")},
 };
 
 inline constexpr Choice diveKind[] = {
-    {0, {"Carnet", "Wreck"}},         {1, {"Carnet", "Recreational"}}, {3, {"Carnet", "Photo dive"}},
-    {4, {"Carnet", "Tek"}},           {5, {"Carnet", "Cave"}},         {6, {"Carnet", "Movies"}},
-    {7, {"Carnet", "Work"}},          {9, {"Carnet", "Drift"}},        {10, {"Carnet", "Under ice"}},
-    {11, {"Carnet", "Training"}},     {12, {"Carnet", "Biology"}},     {13, {"Carnet", "Quarry"}},
-    {14, {"Carnet", "Recuperation"}}, {8, {"Carnet", "Other"}},
+    {DiveKind::wreck, {"Carnet", "Wreck"}},
+    {DiveKind::recreational, {"Carnet", "Recreational"}},
+    {DiveKind::photo, {"Carnet", "Photo dive"}},
+    {DiveKind::tek, {"Carnet", "Tek"}},
+    {DiveKind::cave, {"Carnet", "Cave"}},
+    {DiveKind::movies, {"Carnet", "Movies"}},
+    {DiveKind::work, {"Carnet", "Work"}},
+    {DiveKind::drift, {"Carnet", "Drift"}},
+    {DiveKind::underIce, {"Carnet", "Under ice"}},
+    {DiveKind::training, {"Carnet", "Training"}},
+    {DiveKind::biology, {"Carnet", "Biology"}},
+    {DiveKind::quarry, {"Carnet", "Quarry"}},
+    {DiveKind::recuperation, {"Carnet", "Recuperation"}},
+    {DiveKind::other, {"Carnet", "Other"}},
 };
 
 inline constexpr Choice rating[] = {
-    {1, {"Carnet", "Rating unforgettable"}},
-    {2, {"Carnet", "Rating good"}},
-    {3, {"Carnet", "Rating poor"}},
-    {4, {"Carnet", "Rating never again"}},
-    {0, literal("-")},
+    {Rating::unforgettable, {"Carnet", "Rating unforgettable"}},
+    {Rating::good, {"Carnet", "Rating good"}},
+    {Rating::poor, {"Carnet", "Rating poor"}},
+    {Rating::neverAgain, {"Carnet", "Rating never again"}},
+    {Rating::none, literal("-")},
 };
 
 inline constexpr Choice decoMethod[] = {
-    {0, {"Carnet", "TableView computer"}},
-    {1, {"Carnet", "TableView air tables"}},
-    {2, {"Carnet", "TableView nitrox tables"}},
-    {3, literal("Run time")},
+    {DecoMethod::computer, {"Carnet", "TableView computer"}},
+    {DecoMethod::airTables, {"Carnet", "TableView air tables"}},
+    {DecoMethod::nitroxTables, {"Carnet", "TableView nitrox tables"}},
+    {DecoMethod::runTime, literal("Run time")},
 };
 
 inline constexpr Choice apparatus[] = {
-    {0, literal("OC")}, {1, literal("SCR")}, {2, literal("mCCR")}, {3, literal("eCCR")}, {4, literal("hCCR")},
+    {Apparatus::openCircuit, literal("OC")},    {Apparatus::semiClosed, literal("SCR")},
+    {Apparatus::manualClosed, literal("mCCR")}, {Apparatus::electronicClosed, literal("eCCR")},
+    {Apparatus::hybridClosed, literal("hCCR")},
 };
 
 inline constexpr Choice gas[] = {
-    {0, {"Carnet", "Air"}}, {1, literal("Nitrox")}, {2, literal("Trimix")},
-    {3, literal("Heliox")}, {4, literal("Triox")},  {5, literal("Heliair")},
+    {Gas::air, {"Carnet", "Air"}},    {Gas::nitrox, literal("Nitrox")}, {Gas::trimix, literal("Trimix")},
+    {Gas::heliox, literal("Heliox")}, {Gas::triox, literal("Triox")},   {Gas::heliair, literal("Heliair")},
 };
 
 /// Oxygen set points. Tags 1 to 5 rise from 1.2 to 1.6 bar, 6 to 10 fall from 1.1 to 0.7 bar.
@@ -89,18 +111,20 @@ inline constexpr Choice setPoint[] = {
 };
 
 inline constexpr Choice tankMaterial[] = {
-    {0, {"Carnet", "Aluminum"}},
-    {1, {"Carnet", "Carbon"}},
-    {2, {"Carnet", "Steel"}},
+    {TankMaterial::aluminium, {"Carnet", "Aluminum"}},
+    {TankMaterial::carbon, {"Carnet", "Carbon"}},
+    {TankMaterial::steel, {"Carnet", "Steel"}},
 };
 
 inline constexpr Choice suit[] = {
-    {0, {"Carnet", "Wet suit"}},      {1, {"Carnet", "Dry suit"}},      {2, {"Carnet", "Shorty"}},
-    {3, {"Carnet", "No suit"}},       {4, {"Carnet", "Semi-dry suit"}}, {5, {"Carnet", "T-shirt"}},
-    {6, {"Carnet", "Tropical suit"}},
+    {Suit::wet, {"Carnet", "Wet suit"}},           {Suit::dry, {"Carnet", "Dry suit"}},
+    {Suit::shorty, {"Carnet", "Shorty"}},          {Suit::none, {"Carnet", "No suit"}},
+    {Suit::semiDry, {"Carnet", "Semi-dry suit"}},  {Suit::tShirt, {"Carnet", "T-shirt"}},
+    {Suit::tropical, {"Carnet", "Tropical suit"}},
 };
 
-inline constexpr Choice configuration[] = {{1, {"Carnet", "Tek"}}, {0, {"Carnet", "No Tek"}}};
+inline constexpr Choice configuration[] = {{Configuration::tek, {"Carnet", "Tek"}},
+                                           {Configuration::noTek, {"Carnet", "No Tek"}}};
 
 /// Codes of the sampling interval, as profile/profileseries.h times them.
 inline constexpr Choice samplingRate[] = {

@@ -1,6 +1,7 @@
 #include "interchange/diveelement.h"
 
 #include "base/numbers.h"
+#include "dives/divecodes.h"
 #include "interchange/exportprogress.h"
 
 #include <array>
@@ -31,11 +32,11 @@ QString padded(int number, int width) {
 
 QString mixName(const Plongee& dive) {
     switch (dive.gaz) {
-        case 0:
+        case Gas::air:
             return text("Carnet", "Air");
-        case 1:
+        case Gas::nitrox:
             return fillFormat(QStringLiteral("Nitrox %d"), {formatArgument(dive.o2Mix)});
-        case 2:
+        case Gas::trimix:
             return fillFormat(QStringLiteral("Trimix %d/%d"), {formatArgument(dive.o2Mix), formatArgument(dive.heMix)});
         default:
             return fillFormat(QStringLiteral("Heliox %d"), {formatArgument(dive.o2Mix)});

@@ -1,6 +1,7 @@
 #include "interchange/diveimport.h"
 
 #include "base/numbers.h"
+#include "dives/divecodes.h"
 
 #include <array>
 #include <span>
@@ -10,8 +11,6 @@ namespace tavrel {
 namespace {
 
 constexpr CalendarNames lowerCaseCalendar{"year", "month", "day", "time", "hour", "minute"};
-
-enum GasKind { air, nitrox, trimix, heliox, triox };
 
 constexpr qint64 minutesOfDay = 1440;
 
@@ -67,18 +66,18 @@ void typeMix(DiveForm& form, double oxygenFraction, double heliumFraction) {
     const double helium = heliumFraction * 100;
     const double nitrogen = 100 - oxygen - helium;
     const DiveControls& controls = form.controls();
-    const auto choose = [&](GasKind kind) { form.state().setTag(controls.gazPopUp[0], kind); };
+    const auto choose = [&](Gas::Code gas) { form.state().setTag(controls.gazPopUp[0], gas); };
     // The first test that holds decides; the last one never does, as trimix takes all of its mixes before.
     if (oxygen == 21 && nitrogen == 79) {
-        choose(air);
+        choose(Gas::air);
     } else if (oxygen > 21 && helium == 0) {
-        choose(nitrox);
+        choose(Gas::nitrox);
     } else if (helium > 0 && nitrogen > 0) {
-        choose(trimix);
+        choose(Gas::trimix);
     } else if (helium > 0 && nitrogen == 0) {
-        choose(heliox);
+        choose(Gas::heliox);
     } else if (helium > 21 && nitrogen > 0) {
-        choose(triox);
+        choose(Gas::triox);
     }
     form.state().setInteger(controls.o2MixField[0], truncated(oxygen));
     form.state().setInteger(controls.heMixField[0], truncated(helium));
@@ -108,10 +107,10 @@ void typeSurfaceInterval(DiveForm& form, XmlElement interval) {
 
 void resetConditions(DiveForm& form) {
     const DiveControls& controls = form.controls();
-    form.state().selectPosition(controls.meteoPopUp, 7);
-    form.state().selectPosition(controls.courantPopUp, 6);
-    form.state().selectPosition(controls.visibilitePopUp, 8);
-    form.state().selectPosition(controls.typePlongeePopUp, 13);
+    form.state().setTag(controls.meteoPopUp, Weather::notGiven);
+    form.state().setTag(controls.courantPopUp, Current::notGiven);
+    form.state().setTag(controls.visibilitePopUp, Visibility::notGiven);
+    form.state().setTag(controls.typePlongeePopUp, DiveKind::other);
 }
 
 void typeProfile(DiveForm& form, const std::vector<float>& depths) {

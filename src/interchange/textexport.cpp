@@ -1,4 +1,5 @@
 #include "base/numbers.h"
+#include "dives/divewords.h"
 #include "interchange/exportprogress.h"
 #include "interchange/exports.h"
 #include "interchange/macroman.h"
@@ -18,24 +19,6 @@ constexpr std::array<std::string_view, 20> diveHeaders{
 
 constexpr std::array<std::string_view, 9> profileHeaders{"Dive #", "Point", "Depth", "ASC",  "SLOW",
                                                          "CEIL",   "SURF",  "GAS",   "PRESS"};
-
-// Words by code; a null key stands for "N/A", written in every language.
-constexpr Title notGiven;
-constexpr std::array<Title, 8> weatherWords{
-    Title("Carnet", "Clear"), Title("Carnet", "Cloudy"), Title("Carnet", "Foggy"),    Title("Carnet", "Rainy"),
-    Title("Carnet", "Hail"),  Title("Carnet", "Snowy"),  Title("Carnet", "Thundery"), notGiven};
-constexpr std::array<Title, 7> currentWords{Title("Carnet", "None"),
-                                            Title("Carnet", "Weak"),
-                                            Title("Carnet", "Moderate"),
-                                            Title("Carnet", "Strong"),
-                                            Title("Carnet", "Very strong"),
-                                            Title("Carnet", "Violent"),
-                                            notGiven};
-constexpr std::array<Title, 9> visibilityWords{Title("Carnet", "Excellent"),  Title("Carnet", "Very good"),
-                                               Title("Carnet", "Good"),       Title("Carnet", "Medium"),
-                                               Title("Carnet", "Bad"),        Title("Carnet", "Very bad"),
-                                               Title("Carnet", "Execrable"),  notGiven,
-                                               Title("Carnet", "Exceptional")};
 
 void appendJoined(std::string& out, std::span<const std::string_view> cells, std::string_view separator) {
     for (std::size_t cell = 0; cell < cells.size(); ++cell) {
@@ -63,7 +46,8 @@ public:
         }
     }
     void cell(qint32 number) { cell(QString::number(number)); }
-    /// Codes count as unsigned: what lies outside the words, a negative code too, is an empty cell.
+    /// Codes count as unsigned: what lies outside the words, a negative code too, is an empty cell. What was not given
+    /// is "N/A", in every language.
     void cell(qint32 code, std::span<const Title> words) {
         const auto index = static_cast<std::size_t>(static_cast<quint32>(code));
         if (index >= words.size()) {
@@ -99,9 +83,9 @@ char32_t appendDive(std::string& out, const MacRoman& macRoman, std::string_view
     line.cell(dive.pressionFin);
     line.cell(dive.o2Mix);
     line.cell(dive.heMix);
-    line.cell(dive.meteo, weatherWords);
-    line.cell(dive.courant, currentWords);
-    line.cell(dive.visibilite, visibilityWords);
+    line.cell(dive.meteo, words::weather);
+    line.cell(dive.courant, words::current);
+    line.cell(dive.visibilite, words::visibility);
     line.cell(dive.tempEau);
     line.cell(dive.tempAir);
     line.cell(dive.partenaires);

@@ -77,7 +77,7 @@ struct DiveControls : ControlTable<DiveControls> {
                                    .kind = ControlKind::popUp,
                                    .field = "gpsSystem",
                                    .label = {"Carnet", "Label datum"},
-                                   .clearedTag = 1,
+                                   .clearedTag = Datum::wgs84,
                                    .choices = choices::datum});
 
     const int teamGroup = group({1, {"Carnet", "Group team"}, GroupLayout::pairs, 2});
@@ -114,13 +114,13 @@ struct DiveControls : ControlTable<DiveControls> {
                                  .kind = ControlKind::popUp,
                                  .field = "courant",
                                  .label = {"Carnet", "Label current"},
-                                 .clearedTag = 6,
+                                 .clearedTag = Current::notGiven,
                                  .choices = choices::current});
     const Id visibilitePopUp = add({.name = "visibilitePopUp",
                                     .kind = ControlKind::popUp,
                                     .field = "visibilite",
                                     .label = {"Carnet", "Label visibility"},
-                                    .clearedTag = 7,
+                                    .clearedTag = Visibility::notGiven,
                                     .choices = choices::visibility});
     const Id tempEauField = add({.name = "tempEauField",
                                  .kind = ControlKind::wholeNumber,
@@ -134,7 +134,7 @@ struct DiveControls : ControlTable<DiveControls> {
                                .kind = ControlKind::popUp,
                                .field = "meteo",
                                .label = {"Carnet", "Label weather"},
-                               .clearedTag = 7,
+                               .clearedTag = Weather::notGiven,
                                .choices = choices::weather});
     const Id tempAirField = add({.name = "tempAirField",
                                  .kind = ControlKind::wholeNumber,
@@ -159,7 +159,7 @@ struct DiveControls : ControlTable<DiveControls> {
                                      .kind = ControlKind::popUp,
                                      .field = "typePlongee",
                                      .label = {"Carnet", "Label dive type"},
-                                     .clearedTag = 8,
+                                     .clearedTag = DiveKind::other,
                                      .choices = choices::diveKind});
     const Id nocturneSwitch = add({.name = "nocturneSwitch",
                                    .kind = ControlKind::onOff,
@@ -429,7 +429,7 @@ struct DiveControls : ControlTable<DiveControls> {
                                        .kind = ControlKind::popUp,
                                        .field = "configuration",
                                        .label = {"Carnet", "Label configuration"},
-                                       .clearedTag = 1,
+                                       .clearedTag = Configuration::tek,
                                        .choices = choices::configuration});
 
     const int itemsGroup = group({6, {"Carnet", "Group items"}, GroupLayout::pairs, 3});

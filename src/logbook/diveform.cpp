@@ -3,17 +3,13 @@
 #include "desktop/clock.h"
 #include "desktop/commonsettings.h"
 #include "desktop/preferences.h"
+#include "dives/divecodes.h"
 #include "forms/picklistentry.h"
 #include "logbook/logbooksettings.h"
 
 namespace tavrel {
 
 namespace {
-
-constexpr qint32 temperatureNotGiven = -50;
-
-/// Breathing apparatus, as tags of the form.
-enum Apparatus { openCircuit, semiClosed, manualClosed, electronicClosed, hybridClosed };
 
 const QString dash = QStringLiteral("-");
 
@@ -130,7 +126,7 @@ Plongee DiveForm::addDiveToList() {
     state_.build(dive);
     // Both ranges are inclusive; the lowest air temperature is at once the value for none.
     dive.tempEau = temperature(state_.text(controls_.tempEauField), dive.tempEau, -5, 100);
-    dive.tempAir = temperature(state_.text(controls_.tempAirField), dive.tempAir, -50, 140);
+    dive.tempAir = temperature(state_.text(controls_.tempAirField), dive.tempAir, temperatureNotGiven, 140);
     _plg.profilArraysDefaultContent();
     static_cast<ProfileSeries&>(dive) = _plg;
     updateSlider();
@@ -155,17 +151,17 @@ void DiveForm::updateUI() {
     const FormStateBase::Batch batch(state_);
     const int apparatus = state_.tag(controls_.rebreatherMatrix);
     // The captions are French in every language; a hybrid rebreather leaves them as they were.
-    if (apparatus == manualClosed || apparatus == electronicClosed) {
+    if (apparatus == Apparatus::manualClosed || apparatus == Apparatus::electronicClosed) {
         state_.setText(controls_.blocField[0], QStringLiteral("OXYGÈNE :"));
         state_.setText(controls_.blocField[1], QStringLiteral("DILUANT :"));
         state_.setText(controls_.setPointField, text("Carnet", "high setpoint"));
         state_.setInteger(controls_.o2MixField[0], 100);
-    } else if (apparatus == openCircuit || apparatus == semiClosed) {
+    } else if (apparatus == Apparatus::openCircuit || apparatus == Apparatus::semiClosed) {
         state_.setText(controls_.blocField[0], QStringLiteral("Bloc principal :"));
         state_.setText(controls_.blocField[1], QStringLiteral("Bloc secondaire :"));
         state_.setText(controls_.setPointField, text("Carnet", "PpO2"));
     }
-    state_.setEnabled(controls_.flowField, apparatus == semiClosed);
+    state_.setEnabled(controls_.flowField, apparatus == Apparatus::semiClosed);
 
     const bool usUnits = desktop_.preferences.get(settings::usUnits);
     const QString degree = usUnits ? text("Carnet", "Degree Farenheit") : text("Carnet", "Degree Celsius");
@@ -182,6 +178,38 @@ void DiveForm::updateUI() {
             qint64(100) - state_.integer(controls_.o2MixField[tank]) - state_.integer(controls_.heMixField[tank]);
         state_.setText(controls_.n2MixField[tank], QString::number(nitrogen));
     }
+}
+
+GasReadings DiveForm::gasReadings() const {
+    GasReadings readings;
+    const auto read = [this](auto volume, auto start, auto end) {
+        return BottleReading{state_.integer(volume), state_.integer(start), state_.integer(end)};
+    };
+    for (std::size_t tank = 0; tank < readings.tanks.size(); ++tank) {
+        readings.tanks[tank] =
+            read(controls_.volumeBlocField[tank], controls_.departField[tank], controls_.finField[tank]);
+    }
+    constexpr std::size_t ponies = 3;
+    for (std::size_t pony = 0; pony < ponies; ++pony) {
+        readings.auxiliaries[pony] =
+            read(controls_.pony_VolumeField[pony], controls_.pony_DepartField[pony], controls_.pony_FinField[pony]);
+    }
+    for (std::size_t bailout = 0; ponies + bailout < readings.auxiliaries.size(); ++bailout) {
+        readings.auxiliaries[ponies + bailout] =
+            read(controls_.bailout_VolumeField[bailout], controls_.bailout_DepartField[bailout],
+                 controls_.bailout_FinField[bailout]);
+    }
+    for (std::size_t level = 0; level < readings.levels.size(); ++level) {
+        readings.levels[level] = {state_.tag(controls_.deco_Level_Switch[level]) == 1,
+                                  state_.real(controls_.decoO2_Level_Field[level]),
+                                  state_.integer(controls_.depthDeco_Level_Field[level])};
+    }
+    readings.time = state_.integer(controls_.tempsField);
+    readings.minutes = state_.real(controls_.tempsField);
+    readings.depth = state_.real(controls_.profondeurField);
+    readings.oxygen = state_.real(controls_.o2MixField[0]);
+    readings.readProfile(_plg);
+    return readings;
 }
 
 void DiveForm::presetGas(qint64 oxygen, qint64 nitrogen, qint64 helium) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/desktop.h"
+#include "dives/gasreadings.h"
 #include "dives/plongee.h"
 #include "forms/recordform.h"
 #include "logbook/divecontrols.h"
@@ -44,6 +45,8 @@ public:
     void updateUI();
     /// Sets the difficulty's word from the slider, then refreshes.
     void updateSlider();
+    /// What the gas figures are worked out from, as it stands in the form.
+    GasReadings gasReadings() const;
     /// Gas presets of the main tank.
     void razAir();
     void razNitrox();

@@ -5,6 +5,7 @@
 #include "desktop/commonsettings.h"
 #include "desktop/preferences.h"
 #include "dives/divechoices.h"
+#include "dives/divecodes.h"
 #include "logbook/logbooksettings.h"
 
 #include <algorithm>
@@ -14,10 +15,7 @@ namespace tavrel {
 
 namespace {
 
-constexpr qint32 temperatureNotGiven = -50;
-
-/// Percent of oxygen from which a gas counts as nitrox, and as pure oxygen.
-constexpr qint32 leastNitrox = 22;
+/// Percent of oxygen from which a gas counts as pure oxygen.
 constexpr qint32 leastOxygen = 98;
 
 QString numberText(qint32 value) {
@@ -56,11 +54,11 @@ QString plainText(const Plongee& dive, std::string_view field, const TableStyle&
 }
 
 QString tideText(const Plongee& dive) {
-    if (dive.pmBm == 1) {
+    if (dive.pmBm == Tide::high) {
         return dive.coeff != 0 ? textWith("Carnet", "TableView high tide", Fallback{QStringLiteral("N/A")}, dive.coeff)
                                : text("Carnet", "TableView high tide only", QStringLiteral("N/A"));
     }
-    if (dive.pmBm == 2) {
+    if (dive.pmBm == Tide::low) {
         return dive.coeff != 0 ? textWith("Carnet", "TableView low tide", Fallback{QStringLiteral("N/A")}, dive.coeff)
                                : text("Carnet", "TableView low tide only", QStringLiteral("N/A"));
     }
@@ -76,7 +74,8 @@ QString waterText(const Plongee& dive, const TableStyle& style) {
 
 QString visibilityText(const Plongee& dive) {
     // The menu's last item, not given, has no word here.
-    return dive.visibilite == 7 ? QString() : titleOf(choices::visibility, dive.visibilite).value_or(QString());
+    return dive.visibilite == Visibility::notGiven ? QString()
+                                                   : titleOf(choices::visibility, dive.visibilite).value_or(QString());
 }
 
 /// Air, and what the diver breathed at the first two stops. A gas entered for a stop counts whether or not the stop is
@@ -96,19 +95,19 @@ QString gasText(const Plongee& dive) {
         return QStringLiteral("%1 %2/%3").arg(name, numberText(dive.o2Mix), numberText(dive.heMix));
     };
     switch (dive.gaz) {
-        case 0:
+        case Gas::air:
             return airText(dive);
-        case 1:
+        case Gas::nitrox:
             return dive.deco_Level_1_sw == 1 && dive.decoO2_Level_1 >= leastOxygen
                        ? QStringLiteral("O2")
                        : QStringLiteral("Nx ") + numberText(dive.o2Mix);
-        case 2:
+        case Gas::trimix:
             return mix(QLatin1StringView("Tx"));
-        case 3:
+        case Gas::heliox:
             return QStringLiteral("Heliox ") + numberText(dive.o2Mix);
-        case 4:
+        case Gas::triox:
             return mix(QLatin1StringView("Triox"));
-        case 5:
+        case Gas::heliair:
             return mix(QLatin1StringView("Heliair"));
         default:
             return numberText(dive.gaz);
@@ -126,11 +125,7 @@ const QColor yellow = QColor::fromRgbF(1.0F, 1.0F, 0.0F);
 const QColor red = QColor::fromRgbF(1.0F, 0.0F, 0.0F);
 
 bool isMixWithHelium(const Plongee& dive) {
-    return dive.gaz >= 2 && dive.gaz <= 5;
-}
-
-bool isClosedCircuit(const Plongee& dive) {
-    return dive.rebreather >= 2 && dive.rebreather <= 4;
+    return dive.gaz >= Gas::trimix && dive.gaz <= Gas::heliair;
 }
 
 void colourForeign(CellStyle& cell, const Plongee& dive, std::string_view field, const TableStyle& style) {
@@ -145,32 +140,32 @@ void colourForeign(CellStyle& cell, const Plongee& dive, std::string_view field,
 }
 
 CellStyle mixStyleOfNumber(const Plongee& dive) {
-    if (dive.gaz == 1 && dive.rebreather == 0) {
+    if (dive.gaz == Gas::nitrox && dive.rebreather == Apparatus::openCircuit) {
         return {true, yellow, deviceGreen};
     }
-    if (isMixWithHelium(dive) && dive.rebreather == 0) {
+    if (isMixWithHelium(dive) && dive.rebreather == Apparatus::openCircuit) {
         return {true, white, brown};
     }
     if (dive.decoO2_Level_1 >= leastOxygen) {
         return {true, white, black};
     }
-    if (dive.rebreather == 1) {
+    if (dive.rebreather == Apparatus::semiClosed) {
         return {true, yellow, grey};
     }
-    if (isClosedCircuit(dive)) {
+    if (Apparatus::isClosed(dive.rebreather)) {
         return {true, yellow, black};
     }
     return {true, deviceBrown, {}};
 }
 
 CellStyle mixStyleOfGas(const Plongee& dive, bool boldBefore) {
-    if (dive.gaz == 1) {
+    if (dive.gaz == Gas::nitrox) {
         return {true, yellow, deviceGreen};
     }
     if (isMixWithHelium(dive)) {
         return {true, white, brown};
     }
-    if (isClosedCircuit(dive)) {
+    if (Apparatus::isClosed(dive.rebreather)) {
         return {boldBefore, yellow, black};
     }
     if (dive.decoO2_Level_1 < leastOxygen) {
@@ -306,13 +301,13 @@ QString cellImage(const Plongee& dive, std::string_view field) {
     }
     if (field == "inoubliable") {
         switch (dive.inoubliable) {
-            case 1:
+            case Rating::unforgettable:
                 return QStringLiteral("coeur");
-            case 2:
+            case Rating::good:
                 return QStringLiteral("point");
-            case 3:
+            case Rating::poor:
                 return QStringLiteral("croix");
-            case 4:
+            case Rating::neverAgain:
                 return QStringLiteral("death");
             default:
                 break;

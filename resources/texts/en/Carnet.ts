@@ -3,13 +3,27 @@
 <TS version="2.1" language="en">
 <context>
 <name>Carnet</name>
+<message><source>&#13;&#13;Bail-out</source><translation>&#13;&#13;Bail-out: </translation></message>
 <message><source>&#13;   - Shorty</source><translation>&#13;   - Shorty</translation></message>
 <message><source>&#13;   - T-shirt</source><translation>&#13;   - T-shirt</translation></message>
+<message><source> Run Time</source><translation>&#13;Run time, computer: </translation></message>
 <message><source>Air</source><translation>Air</translation></message>
+<message><source>Air tables</source><translation>&#13;Air tables, computer: </translation></message>
+<message><source>Air temperature</source><translation>&#13;Air temperature: </translation></message>
+<message><source>Altitude</source><translation>&#13;Altitude: </translation></message>
 <message><source>Aluminum</source><translation>Aluminium</translation></message>
+<message><source>At</source><translation> L at </translation></message>
+<message><source>Auxiliary gas</source><translation>Gas available: %d L&#13;Gas used: %d L</translation></message>
+<message><source>Available gas</source><translation>&#13;Gas available: </translation></message>
 <message><source>Bad</source><translation>Bad</translation></message>
+<message><source>Bar per minute</source><translation>%.2f bar/min</translation></message>
 <message><source>Beaufort</source><translation>Beaufort</translation></message>
 <message><source>Biology</source><translation>Marine biology</translation></message>
+<message><source>Boat</source><translation>&#13;Boat: </translation></message>
+<message><source>Breathed gas</source><translation>&#13;Gas breathed: </translation></message>
+<message><source>Buddies</source><translation>&#13;Buddies: </translation></message>
+<message><source>CCR rebreather</source><translation>&#13;mCCR rebreather</translation></message>
+<message><source>CNS</source><translation>ppO₂ %.2f bar, CNS clock %.1f %%</translation></message>
 <message><source>Carbon</source><translation>Carbon</translation></message>
 <message><source>Cave</source><translation>Cave</translation></message>
 <message><source>Celsius</source><translation>%d °C</translation></message>
@@ -31,19 +45,53 @@
 <message><source>Column visibility</source><translation>Visibility</translation></message>
 <message><source>Column water</source><translation>Water</translation></message>
 <message><source>Column wreck</source><translation>Wreck</translation></message>
+<message><source>Computer</source><translation>&#13;Dive computer: </translation></message>
+<message><source>Conditions</source><translation>&#13;&#13;Conditions</translation></message>
+<message><source>Configuration</source><translation>&#13;Configuration: </translation></message>
 <message><source>Copying</source><translation>Copying the dives…</translation></message>
+<message><source>Current</source><translation>&#13;Current: </translation></message>
+<message><source>Date</source><translation>&#13;Date: </translation></message>
+<message><source>Deco algorythm type</source><translation>&#13;Algorithm: </translation></message>
+<message><source>Deco conservatism</source><translation>&#13;Conservatism: </translation></message>
+<message><source>Deco soft name</source><translation>&#13;Planning software: </translation></message>
+<message><source>Decompression</source><translation>&#13;&#13;Decompression</translation></message>
+<message><source>Deepest band</source><translation>60 m and more</translation></message>
 <message><source>Degree Celsius</source><translation>°C</translation></message>
 <message><source>Degree Farenheit</source><translation>°F</translation></message>
+<message><source>Delta pressure</source><translation>%d bar used</translation></message>
+<message><source>Depth</source><translation>&#13;Depth: </translation></message>
+<message><source>Detail runtime</source><translation>&#13;Run-time table: </translation></message>
+<message><source>Difficulty level</source><translation>&#13;Difficulty: </translation></message>
+<message><source>Diluent</source><translation>&#13;Diluent tank: </translation></message>
+<message><source>Dive number</source><translation>Dive number </translation></message>
 <message><source>Dive number title</source><translation>Dive no. %d</translation></message>
+<message><source>Dive type</source><translation>&#13;Dive type: </translation></message>
 <message><source>Drift</source><translation>Drift</translation></message>
 <message><source>Dry suit</source><translation>Drysuit</translation></message>
 <message><source>Easy</source><translation>Easy</translation></message>
+<message><source>End pressure</source><translation>&#13;End pressure: </translation></message>
+<message><source>End time</source><translation>&#13;End: </translation></message>
 <message><source>Entries</source><translation>Entries: %d</translation></message>
+<message><source>Equipment</source><translation>&#13;&#13;Equipment</translation></message>
 <message><source>Excellent</source><translation>Excellent</translation></message>
 <message><source>Exceptional</source><translation>Exceptional</translation></message>
 <message><source>Execrable</source><translation>Execrable</translation></message>
+<message><source>Explain CNS</source><translation>CNS clock = %.0f min × %.2f %%/min = %.1f %%</translation></message>
+<message><source>Explain SAC</source><translation>SAC = %d L / %d min / %.1f bar = %.1f L/min</translation></message>
+<message><source>Explain SAC bar</source><translation>SAC = %d bar / %d min / %.1f bar = %.2f bar/min</translation></message>
+<message><source>Explain available</source><translation>Gas available = %d L × %d bar = %d L</translation></message>
+<message><source>Explain average depth</source><translation>Average depth = mean of %d samples = %@</translation></message>
+<message><source>Explain mean depth</source><translation>Average depth = %d m / %d dives = %d m</translation></message>
+<message><source>Explain mean temperature</source><translation>Mean = %d° / %d temperatures = %d°</translation></message>
+<message><source>Explain mean time</source><translation>Average time = %d min / %d dives = %d min</translation></message>
+<message><source>Explain per minute</source><translation>Pressure per minute = %d bar / %d min = %.2f bar/min</translation></message>
+<message><source>Explain ppO2 of stop</source><translation>ppO₂ = stop %d: %.0f %% O₂ × %d bar = %.2f bar</translation></message>
+<message><source>Explain ppO2 of tank</source><translation>ppO₂ = %.0f %% O₂ × %.2f bar at the deepest point = %.2f bar</translation></message>
+<message><source>Explain share</source><translation>Share = %d / %d × 100 = %.1f %%</translation></message>
+<message><source>Explain used</source><translation>Gas used = %d L × (%d bar − %d bar) = %d L</translation></message>
 <message><source>Extreme</source><translation>Extreme</translation></message>
 <message><source>Farenheit</source><translation>%d °F</translation></message>
+<message><source>Feet</source><translation>%.1f ft</translation></message>
 <message><source>Find</source><translation>Find</translation></message>
 <message><source>Find boats</source><translation>Boats</translation></message>
 <message><source>Find buddies</source><translation>Buddies</translation></message>
@@ -52,11 +100,17 @@
 <message><source>Find notes</source><translation>Notes</translation></message>
 <message><source>Find where</source><translation>Choose what to search</translation></message>
 <message><source>Find wrecks</source><translation>Wrecks</translation></message>
+<message><source>Flow</source><translation>&#13;Flow: </translation></message>
 <message><source>Foggy</source><translation>Foggy</translation></message>
 <message><source>Form of dive</source><translation>Dive %d of %d – stored when you close the window or go to another dive</translation></message>
 <message><source>Form of new dive</source><translation>New dive – “Add” puts it at the end of the logbook</translation></message>
 <message><source>Found dives</source><translation>%d dives found</translation></message>
 <message><source>GPS template</source><translation>N 00° 00.000'  E 000° 00.000'</translation></message>
+<message><source>Gas</source><translation>&#13;&#13;Gas</translation></message>
+<message><source>Gas status</source><translation>Gas available: %d L&#13;Gas used: %d L&#13;Pressure used: %.2f bar/min&#13;Surface consumption: %.1f L/min, %.2f bar/min&#13;Average depth: %.1f m</translation></message>
+<message><source>Gas status US</source><translation>Gas available: %d L&#13;Gas used: %d L&#13;Pressure used: %.2f bar/min&#13;Surface consumption: %.1f L/min, %.2f bar/min&#13;Average depth: %.1f ft</translation></message>
+<message><source>Gas status error</source><translation>Enter a start pressure and a dive time.</translation></message>
+<message><source>General</source><translation>&#13;&#13;General</translation></message>
 <message><source>Good</source><translation>Good</translation></message>
 <message><source>Group apparatus</source><translation>Breathing apparatus</translation></message>
 <message><source>Group bail-outs</source><translation>Bail-out cylinders</translation></message>
@@ -149,6 +203,9 @@
 <message><source>Label wind force</source><translation>Wind force</translation></message>
 <message><source>Label working pressure</source><translation>Working pressure</translation></message>
 <message><source>Label wrecks</source><translation>Wreck</translation></message>
+<message><source>Litres</source><translation>%d L</translation></message>
+<message><source>Litres per minute</source><translation>%.1f L/min</translation></message>
+<message><source>Location</source><translation>&#13;Place: </translation></message>
 <message><source>Low tide</source><translation>Low tide</translation></message>
 <message><source>Medium</source><translation>Medium</translation></message>
 <message><source>Menu delete dives</source><translation>Delete Dives…</translation></message>
@@ -156,22 +213,29 @@
 <message><source>Menu edit dive</source><translation>Edit Dive</translation></message>
 <message><source>Menu insert dive</source><translation>Insert Before Selected Dive</translation></message>
 <message><source>Menu new dive</source><translation>New Dive</translation></message>
+<message><source>Metres</source><translation>%.1f m</translation></message>
 <message><source>Moderate</source><translation>Moderate</translation></message>
 <message><source>Movies</source><translation>Filming</translation></message>
 <message><source>New dive not added</source><translation>The form holds a new dive that is not in the logbook yet.</translation></message>
 <message><source>Next</source><translation>Next</translation></message>
 <message><source>Next dive</source><translation>Next dive</translation></message>
+<message><source>Night</source><translation>&#13;Night dive</translation></message>
+<message><source>Nitrox tables</source><translation>&#13;Nitrox tables, computer: </translation></message>
 <message><source>No Tek</source><translation>Recreational</translation></message>
 <message><source>No dive to export</source><translation>The logbook holds no dive, and UDDF cannot be written without one.</translation></message>
 <message><source>No dives yet</source><translation>No dives yet. Press %@ to enter the first one.</translation></message>
 <message><source>No such field</source><translation>Dives have no field "%@" that can be used this way.</translation></message>
 <message><source>No suit</source><translation>No suit</translation></message>
+<message><source>No wind</source><translation>no wind</translation></message>
 <message><source>None</source><translation>None</translation></message>
 <message><source>Normal</source><translation>Normal</translation></message>
+<message><source>Notes</source><translation>&#13;&#13;Notes</translation></message>
 <message><source>One dive</source><translation>One dive</translation></message>
 <message><source>One dive found</source><translation>One dive found</translation></message>
 <message><source>One dive imported</source><translation>One dive was imported.</translation></message>
+<message><source>Open circuit</source><translation>&#13;Open circuit</translation></message>
 <message><source>Other</source><translation>Other</translation></message>
+<message><source>Oxygen</source><translation>&#13;eCCR rebreather</translation></message>
 <message><source>Page bottles</source><translation>Bottles and computer</translation></message>
 <message><source>Page conditions</source><translation>Conditions</translation></message>
 <message><source>Page decompression</source><translation>Decompression</translation></message>
@@ -179,7 +243,13 @@
 <message><source>Page equipment</source><translation>Equipment and notes</translation></message>
 <message><source>Page gas</source><translation>Tanks and gas</translation></message>
 <message><source>Pages</source><translation>Pages of the dive form</translation></message>
+<message><source>Parameters</source><translation>&#13;&#13;Parameters</translation></message>
+<message><source>Pays</source><translation>&#13;Country: </translation></message>
 <message><source>Photo dive</source><translation>Photography</translation></message>
+<message><source>Ponies</source><translation>&#13;Stage bottles: </translation></message>
+<message><source>Pony 1 title</source><translation>Pony 1 : %d m - %d %% O₂</translation></message>
+<message><source>Pony 2 title</source><translation>Pony 2 : %d m - %d %% O₂</translation></message>
+<message><source>Pony 3 title</source><translation>Pony 3 : %d m - %d %% O₂</translation></message>
 <message><source>PpO2</source><translation>PpO₂ (bar)</translation></message>
 <message><source>Pressure in out</source><translation>The end pressure must not exceed the start pressure, and neither may be negative.</translation></message>
 <message><source>Previous</source><translation>Previous</translation></message>
@@ -199,13 +269,35 @@
 <message><source>Renumber title</source><translation>Renumber Dives</translation></message>
 <message><source>Renumbering</source><translation>Renumbering the dives…</translation></message>
 <message><source>Replace dive</source><translation>Replace Dive %d</translation></message>
+<message><source>SCR rebreather</source><translation>&#13;SCR rebreather</translation></message>
+<message><source>Scaphander</source><translation>&#13;hCCR rebreather</translation></message>
 <message><source>Semi-dry suit</source><translation>Semi-dry suit</translation></message>
 <message><source>Shorty</source><translation>Shorty</translation></message>
+<message><source>Site</source><translation>&#13;Site: </translation></message>
 <message><source>Snowy</source><translation>Snowy</translation></message>
+<message><source>Start pressure</source><translation>&#13;Start pressure: </translation></message>
+<message><source>Start time</source><translation>&#13;Start: </translation></message>
+<message><source>Stat average depth</source><translation>Average depth</translation></message>
+<message><source>Stat average time</source><translation>Average time</translation></message>
+<message><source>Stat closed</source><translation>Closed-circuit rebreather</translation></message>
+<message><source>Stat coldest</source><translation>Coldest water</translation></message>
+<message><source>Stat deepest</source><translation>Deepest dive</translation></message>
+<message><source>Stat dives</source><translation>Dives</translation></message>
+<message><source>Stat longest</source><translation>Longest dive</translation></message>
+<message><source>Stat mean water</source><translation>Mean water temperature</translation></message>
+<message><source>Stat night</source><translation>Night dive</translation></message>
+<message><source>Stat open circuit</source><translation>Open circuit</translation></message>
+<message><source>Stat semi-closed</source><translation>Semi-closed rebreather</translation></message>
+<message><source>Stat total depth</source><translation>Total depth</translation></message>
+<message><source>Stat total time</source><translation>Total time</translation></message>
+<message><source>Stat warmest</source><translation>Warmest water</translation></message>
 <message><source>Statistics</source><translation>Statistics</translation></message>
 <message><source>Steel</source><translation>Steel</translation></message>
 <message><source>Strong</source><translation>Strong</translation></message>
+<message><source>Structure</source><translation>&#13;Club or dive centre: </translation></message>
+<message><source>Surface</source><translation>&#13;Surface interval: </translation></message>
 <message><source>T-shirt</source><translation>T-shirt</translation></message>
+<message><source>TTS</source><translation>&#13;Time to surface: </translation></message>
 <message><source>Table of dives</source><translation>Dives</translation></message>
 <message><source>TableView air Nx</source><translation>Air / Nx</translation></message>
 <message><source>TableView air Nx O2</source><translation>Air / Nx / O2</translation></message>
@@ -225,8 +317,13 @@
 <message><source>TableView nitrox tables</source><translation>Nitrox tables</translation></message>
 <message><source>TableView very bad</source><translation>Very poor</translation></message>
 <message><source>TableView very good</source><translation>Very good</translation></message>
+<message><source>Tank pressure</source><translation> bar</translation></message>
+<message><source>Tank_1</source><translation>&#13;Main tank: </translation></message>
+<message><source>Tank_2</source><translation>&#13;Second tank: </translation></message>
 <message><source>Tek</source><translation>Technical</translation></message>
 <message><source>Thundery</source><translation>Thundery</translation></message>
+<message><source>Tide coefficient</source><translation>&#13;Tide coefficient: </translation></message>
+<message><source>Time</source><translation>&#13;Dive time: </translation></message>
 <message><source>Tip add</source><translation>Add a dive to the logbook</translation></message>
 <message><source>Tip delete</source><translation>Delete the selected dives</translation></message>
 <message><source>Tip import UDCF</source><translation>Import dives from a UDCF file</translation></message>
@@ -253,16 +350,31 @@
 <message><source>Undo insert</source><translation>Insert Dive</translation></message>
 <message><source>Undo renumber</source><translation>Renumber Dives</translation></message>
 <message><source>Undo update</source><translation>Edit Dive</translation></message>
+<message><source>Unknown with bad samples</source><translation>Not known: the profile holds depths that are no numbers.</translation></message>
+<message><source>Unknown without samples</source><translation>Not known: the dive has no profile, so no average depth.</translation></message>
+<message><source>Unknown without start pressure</source><translation>Not known: the dive has no start pressure.</translation></message>
+<message><source>Unknown without tank volume</source><translation>Not known: the main tank has no volume.</translation></message>
+<message><source>Unknown without time</source><translation>Not known: the dive has no time.</translation></message>
+<message><source>Used gas</source><translation>&#13;Gas: </translation></message>
+<message><source>Used pressure</source><translation>&#13;Pressure used: </translation></message>
 <message><source>Very bad</source><translation>Very bad</translation></message>
 <message><source>Very easy</source><translation>Very easy</translation></message>
 <message><source>Very good</source><translation>Very good</translation></message>
 <message><source>Very hard</source><translation>Very hard</translation></message>
 <message><source>Very strong</source><translation>Very strong</translation></message>
 <message><source>Violent</source><translation>Violent</translation></message>
+<message><source>Visibility</source><translation>&#13;Visibility: </translation></message>
+<message><source>Water temperature</source><translation>&#13;Water temperature: </translation></message>
 <message><source>Weak</source><translation>Weak</translation></message>
+<message><source>Weather</source><translation>&#13;Weather: </translation></message>
+<message><source>Weight</source><translation>&#13;Weight: </translation></message>
 <message><source>Wet suit</source><translation>Wetsuit</translation></message>
+<message><source>Wind</source><translation>&#13;Wind: </translation></message>
+<message><source>Wind force</source><translation>&#13;Wind force: </translation></message>
+<message><source>Wind sector</source><translation>&#13;Wind sector: </translation></message>
 <message><source>Work</source><translation>Work</translation></message>
 <message><source>Wreck</source><translation>Wreck</translation></message>
+<message><source>Wrecks</source><translation>&#13;Wrecks: </translation></message>
 <message><source>high setpoint</source><translation>High setpoint (bar)</translation></message>
 </context>
 </TS>

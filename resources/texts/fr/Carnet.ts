@@ -3,13 +3,27 @@
 <TS version="2.1" language="fr">
 <context>
 <name>Carnet</name>
+<message><source>&#13;&#13;Bail-out</source><translation>&#13;&#13;Bail-out : </translation></message>
 <message><source>&#13;   - Shorty</source><translation>&#13;   - Shorty</translation></message>
 <message><source>&#13;   - T-shirt</source><translation>&#13;   - T-shirt</translation></message>
+<message><source> Run Time</source><translation>&#13;Run time, ordinateur : </translation></message>
 <message><source>Air</source><translation>Air</translation></message>
+<message><source>Air tables</source><translation>&#13;Tables à l’air, ordinateur : </translation></message>
+<message><source>Air temperature</source><translation>&#13;Température de l’air : </translation></message>
+<message><source>Altitude</source><translation>&#13;Altitude : </translation></message>
 <message><source>Aluminum</source><translation>Aluminium</translation></message>
+<message><source>At</source><translation> L à </translation></message>
+<message><source>Auxiliary gas</source><translation>Volume disponible : %d L&#13;Volume consommé : %d L</translation></message>
+<message><source>Available gas</source><translation>&#13;Gaz disponible : </translation></message>
 <message><source>Bad</source><translation>Mauvaise</translation></message>
+<message><source>Bar per minute</source><translation>%.2f bar/min</translation></message>
 <message><source>Beaufort</source><translation>Beaufort</translation></message>
 <message><source>Biology</source><translation>Biologie</translation></message>
+<message><source>Boat</source><translation>&#13;Bateau : </translation></message>
+<message><source>Breathed gas</source><translation>&#13;Gaz consommé : </translation></message>
+<message><source>Buddies</source><translation>&#13;Palanquée : </translation></message>
+<message><source>CCR rebreather</source><translation>&#13;Recycleur mCCR</translation></message>
+<message><source>CNS</source><translation>PpO₂ %.2f bar, horloge SNC %.1f %%</translation></message>
 <message><source>Carbon</source><translation>Carbone</translation></message>
 <message><source>Cave</source><translation>Souterraine</translation></message>
 <message><source>Celsius</source><translation>%d °C</translation></message>
@@ -31,19 +45,53 @@
 <message><source>Column visibility</source><translation>Visibilité</translation></message>
 <message><source>Column water</source><translation>Eau</translation></message>
 <message><source>Column wreck</source><translation>Épave</translation></message>
+<message><source>Computer</source><translation>&#13;Ordinateur : </translation></message>
+<message><source>Conditions</source><translation>&#13;&#13;Conditions</translation></message>
+<message><source>Configuration</source><translation>&#13;Configuration : </translation></message>
 <message><source>Copying</source><translation>Copie des plongées…</translation></message>
+<message><source>Current</source><translation>&#13;Courant : </translation></message>
+<message><source>Date</source><translation>&#13;Date : </translation></message>
+<message><source>Deco algorythm type</source><translation>&#13;Algorithme : </translation></message>
+<message><source>Deco conservatism</source><translation>&#13;Conservatisme : </translation></message>
+<message><source>Deco soft name</source><translation>&#13;Logiciel : </translation></message>
+<message><source>Decompression</source><translation>&#13;&#13;Décompression</translation></message>
+<message><source>Deepest band</source><translation>60 m et +</translation></message>
 <message><source>Degree Celsius</source><translation>°C</translation></message>
 <message><source>Degree Farenheit</source><translation>°F</translation></message>
+<message><source>Delta pressure</source><translation>%d bars consommés</translation></message>
+<message><source>Depth</source><translation>&#13;Profondeur : </translation></message>
+<message><source>Detail runtime</source><translation>&#13;Détail du run time : </translation></message>
+<message><source>Difficulty level</source><translation>&#13;Difficulté : </translation></message>
+<message><source>Diluent</source><translation>&#13;Bloc de diluant : </translation></message>
+<message><source>Dive number</source><translation>Plongée numéro </translation></message>
 <message><source>Dive number title</source><translation>Plongée n° %d</translation></message>
+<message><source>Dive type</source><translation>&#13;Type de plongée : </translation></message>
 <message><source>Drift</source><translation>Dérivante</translation></message>
 <message><source>Dry suit</source><translation>Combinaison étanche</translation></message>
 <message><source>Easy</source><translation>Facile</translation></message>
+<message><source>End pressure</source><translation>&#13;Pression de fin : </translation></message>
+<message><source>End time</source><translation>&#13;Heure de fin : </translation></message>
 <message><source>Entries</source><translation>Entrées : %d</translation></message>
+<message><source>Equipment</source><translation>&#13;&#13;Équipement</translation></message>
 <message><source>Excellent</source><translation>Excellente</translation></message>
 <message><source>Exceptional</source><translation>Exceptionnelle</translation></message>
 <message><source>Execrable</source><translation>Exécrable</translation></message>
+<message><source>Explain CNS</source><translation>Horloge SNC = %.0f min × %.2f %%/min = %.1f %%</translation></message>
+<message><source>Explain SAC</source><translation>SAC = %d L / %d min / %.1f bar = %.1f L/min</translation></message>
+<message><source>Explain SAC bar</source><translation>SAC = %d bar / %d min / %.1f bar = %.2f bar/min</translation></message>
+<message><source>Explain available</source><translation>Gaz disponible = %d L × %d bar = %d L</translation></message>
+<message><source>Explain average depth</source><translation>Profondeur moyenne = moyenne de %d points = %@</translation></message>
+<message><source>Explain mean depth</source><translation>Profondeur moyenne = %d m / %d plongées = %d m</translation></message>
+<message><source>Explain mean temperature</source><translation>Moyenne = %d° / %d températures = %d°</translation></message>
+<message><source>Explain mean time</source><translation>Durée moyenne = %d min / %d plongées = %d min</translation></message>
+<message><source>Explain per minute</source><translation>Pression par minute = %d bar / %d min = %.2f bar/min</translation></message>
+<message><source>Explain ppO2 of stop</source><translation>PpO₂ = palier %d : %.0f %% O₂ × %d bar = %.2f bar</translation></message>
+<message><source>Explain ppO2 of tank</source><translation>PpO₂ = %.0f %% O₂ × %.2f bar au point le plus profond = %.2f bar</translation></message>
+<message><source>Explain share</source><translation>Part = %d / %d × 100 = %.1f %%</translation></message>
+<message><source>Explain used</source><translation>Gaz consommé = %d L × (%d bar − %d bar) = %d L</translation></message>
 <message><source>Extreme</source><translation>Extrême</translation></message>
 <message><source>Farenheit</source><translation>%d °F</translation></message>
+<message><source>Feet</source><translation>%.1f ft</translation></message>
 <message><source>Find</source><translation>Rechercher</translation></message>
 <message><source>Find boats</source><translation>Bateaux</translation></message>
 <message><source>Find buddies</source><translation>Équipiers</translation></message>
@@ -52,11 +100,17 @@
 <message><source>Find notes</source><translation>Notes</translation></message>
 <message><source>Find where</source><translation>Choisir où chercher</translation></message>
 <message><source>Find wrecks</source><translation>Épaves</translation></message>
+<message><source>Flow</source><translation>&#13;Débit : </translation></message>
 <message><source>Foggy</source><translation>Brumeux</translation></message>
 <message><source>Form of dive</source><translation>Plongée %d sur %d – enregistrée quand vous fermez la fenêtre ou changez de plongée</translation></message>
 <message><source>Form of new dive</source><translation>Nouvelle plongée – « Ajouter » l’inscrit à la fin du carnet</translation></message>
 <message><source>Found dives</source><translation>%d plongées trouvées</translation></message>
 <message><source>GPS template</source><translation>N 00° 00.000'  E 000° 00.000'</translation></message>
+<message><source>Gas</source><translation>&#13;&#13;Gaz</translation></message>
+<message><source>Gas status</source><translation>Gaz disponible : %d L&#13;Gaz consommé : %d L&#13;Pression consommée : %.2f bar/min&#13;Consommation en surface : %.1f L/min, %.2f bar/min&#13;Profondeur moyenne : %.1f m</translation></message>
+<message><source>Gas status US</source><translation>Gaz disponible : %d L&#13;Gaz consommé : %d L&#13;Pression consommée : %.2f bar/min&#13;Consommation en surface : %.1f L/min, %.2f bar/min&#13;Profondeur moyenne : %.1f ft</translation></message>
+<message><source>Gas status error</source><translation>Indiquez une pression de départ et une durée de plongée.</translation></message>
+<message><source>General</source><translation>&#13;&#13;Généralités</translation></message>
 <message><source>Good</source><translation>Bonne</translation></message>
 <message><source>Group apparatus</source><translation>Appareil respiratoire</translation></message>
 <message><source>Group bail-outs</source><translation>Blocs de secours (bail-out)</translation></message>
@@ -149,6 +203,9 @@
 <message><source>Label wind force</source><translation>Force du vent</translation></message>
 <message><source>Label working pressure</source><translation>Pression de service</translation></message>
 <message><source>Label wrecks</source><translation>Épave</translation></message>
+<message><source>Litres</source><translation>%d L</translation></message>
+<message><source>Litres per minute</source><translation>%.1f L/min</translation></message>
+<message><source>Location</source><translation>&#13;Lieu : </translation></message>
 <message><source>Low tide</source><translation>Basse mer</translation></message>
 <message><source>Medium</source><translation>Moyenne</translation></message>
 <message><source>Menu delete dives</source><translation>Supprimer les plongées…</translation></message>
@@ -156,22 +213,29 @@
 <message><source>Menu edit dive</source><translation>Modifier la plongée</translation></message>
 <message><source>Menu insert dive</source><translation>Insérer avant la plongée choisie</translation></message>
 <message><source>Menu new dive</source><translation>Nouvelle plongée</translation></message>
+<message><source>Metres</source><translation>%.1f m</translation></message>
 <message><source>Moderate</source><translation>Modéré</translation></message>
 <message><source>Movies</source><translation>Vidéo</translation></message>
 <message><source>New dive not added</source><translation>Le formulaire contient une nouvelle plongée qui n’est pas encore dans le carnet.</translation></message>
 <message><source>Next</source><translation>Suivante</translation></message>
 <message><source>Next dive</source><translation>Plongée suivante</translation></message>
+<message><source>Night</source><translation>&#13;Plongée de nuit</translation></message>
+<message><source>Nitrox tables</source><translation>&#13;Tables nitrox, ordinateur : </translation></message>
 <message><source>No Tek</source><translation>Loisir</translation></message>
 <message><source>No dive to export</source><translation>Le carnet ne contient aucune plongée, et l’UDDF ne peut s’écrire sans.</translation></message>
 <message><source>No dives yet</source><translation>Aucune plongée. Appuyez sur %@ pour saisir la première.</translation></message>
 <message><source>No such field</source><translation>Les plongées n’ont pas de champ « %@ » utilisable ainsi.</translation></message>
 <message><source>No suit</source><translation>Sans combinaison</translation></message>
+<message><source>No wind</source><translation>pas de vent</translation></message>
 <message><source>None</source><translation>Nul</translation></message>
 <message><source>Normal</source><translation>Normale</translation></message>
+<message><source>Notes</source><translation>&#13;&#13;Notes</translation></message>
 <message><source>One dive</source><translation>Une plongée</translation></message>
 <message><source>One dive found</source><translation>Une plongée trouvée</translation></message>
 <message><source>One dive imported</source><translation>Une plongée a été importée.</translation></message>
+<message><source>Open circuit</source><translation>&#13;Circuit ouvert</translation></message>
 <message><source>Other</source><translation>Autre</translation></message>
+<message><source>Oxygen</source><translation>&#13;Recycleur eCCR</translation></message>
 <message><source>Page bottles</source><translation>Relais et ordinateur</translation></message>
 <message><source>Page conditions</source><translation>Conditions</translation></message>
 <message><source>Page decompression</source><translation>Décompression</translation></message>
@@ -179,7 +243,13 @@
 <message><source>Page equipment</source><translation>Matériel et notes</translation></message>
 <message><source>Page gas</source><translation>Blocs et gaz</translation></message>
 <message><source>Pages</source><translation>Pages de la fiche de plongée</translation></message>
+<message><source>Parameters</source><translation>&#13;&#13;Paramètres</translation></message>
+<message><source>Pays</source><translation>&#13;Pays : </translation></message>
 <message><source>Photo dive</source><translation>Photo</translation></message>
+<message><source>Ponies</source><translation>&#13;Blocs de déco : </translation></message>
+<message><source>Pony 1 title</source><translation>Pony 1 : %d m - %d %% O₂</translation></message>
+<message><source>Pony 2 title</source><translation>Pony 2 : %d m - %d %% O₂</translation></message>
+<message><source>Pony 3 title</source><translation>Pony 3 : %d m - %d %% O₂</translation></message>
 <message><source>PpO2</source><translation>PpO₂ (bar)</translation></message>
 <message><source>Pressure in out</source><translation>La pression de fin ne doit pas dépasser la pression de départ et aucune des deux ne peut être négative.</translation></message>
 <message><source>Previous</source><translation>Précédente</translation></message>
@@ -199,13 +269,35 @@
 <message><source>Renumber title</source><translation>Renuméroter les plongées</translation></message>
 <message><source>Renumbering</source><translation>Renumérotation des plongées…</translation></message>
 <message><source>Replace dive</source><translation>Remplacer la plongée %d</translation></message>
+<message><source>SCR rebreather</source><translation>&#13;Recycleur SCR</translation></message>
+<message><source>Scaphander</source><translation>&#13;Recycleur hCCR</translation></message>
 <message><source>Semi-dry suit</source><translation>Combinaison semi-étanche</translation></message>
 <message><source>Shorty</source><translation>Shorty</translation></message>
+<message><source>Site</source><translation>&#13;Site : </translation></message>
 <message><source>Snowy</source><translation>Neigeux</translation></message>
+<message><source>Start pressure</source><translation>&#13;Pression de départ : </translation></message>
+<message><source>Start time</source><translation>&#13;Heure de départ : </translation></message>
+<message><source>Stat average depth</source><translation>Profondeur moyenne</translation></message>
+<message><source>Stat average time</source><translation>Durée moyenne</translation></message>
+<message><source>Stat closed</source><translation>Recycleur fermé</translation></message>
+<message><source>Stat coldest</source><translation>Eau la plus froide</translation></message>
+<message><source>Stat deepest</source><translation>Plongée la plus profonde</translation></message>
+<message><source>Stat dives</source><translation>Plongées</translation></message>
+<message><source>Stat longest</source><translation>Plongée la plus longue</translation></message>
+<message><source>Stat mean water</source><translation>Température moyenne de l’eau</translation></message>
+<message><source>Stat night</source><translation>Plongée de nuit</translation></message>
+<message><source>Stat open circuit</source><translation>Circuit ouvert</translation></message>
+<message><source>Stat semi-closed</source><translation>Recycleur semi-fermé</translation></message>
+<message><source>Stat total depth</source><translation>Profondeur cumulée</translation></message>
+<message><source>Stat total time</source><translation>Durée cumulée</translation></message>
+<message><source>Stat warmest</source><translation>Eau la plus chaude</translation></message>
 <message><source>Statistics</source><translation>Statistiques</translation></message>
 <message><source>Steel</source><translation>Acier</translation></message>
 <message><source>Strong</source><translation>Fort</translation></message>
+<message><source>Structure</source><translation>&#13;Structure : </translation></message>
+<message><source>Surface</source><translation>&#13;Intervalle de surface : </translation></message>
 <message><source>T-shirt</source><translation>T-shirt</translation></message>
+<message><source>TTS</source><translation>&#13;Durée totale de remontée : </translation></message>
 <message><source>Table of dives</source><translation>Plongées</translation></message>
 <message><source>TableView air Nx</source><translation>Air / Nx</translation></message>
 <message><source>TableView air Nx O2</source><translation>Air / Nx / O2</translation></message>
@@ -225,8 +317,13 @@
 <message><source>TableView nitrox tables</source><translation>Tables nitrox</translation></message>
 <message><source>TableView very bad</source><translation>Très mauvaise</translation></message>
 <message><source>TableView very good</source><translation>Très bonne</translation></message>
+<message><source>Tank pressure</source><translation> bars</translation></message>
+<message><source>Tank_1</source><translation>&#13;Bloc principal : </translation></message>
+<message><source>Tank_2</source><translation>&#13;Bloc secondaire : </translation></message>
 <message><source>Tek</source><translation>Tek</translation></message>
 <message><source>Thundery</source><translation>Orageux</translation></message>
+<message><source>Tide coefficient</source><translation>&#13;Coefficient de marée : </translation></message>
+<message><source>Time</source><translation>&#13;Durée : </translation></message>
 <message><source>Tip add</source><translation>Ajouter une plongée au carnet</translation></message>
 <message><source>Tip delete</source><translation>Supprimer les plongées sélectionnées</translation></message>
 <message><source>Tip import UDCF</source><translation>Importer des plongées d’un fichier UDCF</translation></message>
@@ -253,16 +350,31 @@
 <message><source>Undo insert</source><translation>Insérer la plongée</translation></message>
 <message><source>Undo renumber</source><translation>Renuméroter les plongées</translation></message>
 <message><source>Undo update</source><translation>Modifier la plongée</translation></message>
+<message><source>Unknown with bad samples</source><translation>Inconnu : le profil contient des profondeurs qui ne sont pas des nombres.</translation></message>
+<message><source>Unknown without samples</source><translation>Inconnu : la plongée n’a pas de profil, donc pas de profondeur moyenne.</translation></message>
+<message><source>Unknown without start pressure</source><translation>Inconnu : la plongée n’a pas de pression de départ.</translation></message>
+<message><source>Unknown without tank volume</source><translation>Inconnu : le bloc principal n’a pas de volume.</translation></message>
+<message><source>Unknown without time</source><translation>Inconnu : la plongée n’a pas de durée.</translation></message>
+<message><source>Used gas</source><translation>&#13;Gaz utilisé : </translation></message>
+<message><source>Used pressure</source><translation>&#13;Pression consommée : </translation></message>
 <message><source>Very bad</source><translation>Très mauvaise</translation></message>
 <message><source>Very easy</source><translation>Très facile</translation></message>
 <message><source>Very good</source><translation>Très bonne</translation></message>
 <message><source>Very hard</source><translation>Très difficile</translation></message>
 <message><source>Very strong</source><translation>Très fort</translation></message>
 <message><source>Violent</source><translation>Violent</translation></message>
+<message><source>Visibility</source><translation>&#13;Visibilité : </translation></message>
+<message><source>Water temperature</source><translation>&#13;Température de l’eau : </translation></message>
 <message><source>Weak</source><translation>Faible</translation></message>
+<message><source>Weather</source><translation>&#13;Météo : </translation></message>
+<message><source>Weight</source><translation>&#13;Lestage : </translation></message>
 <message><source>Wet suit</source><translation>Combinaison humide</translation></message>
+<message><source>Wind</source><translation>&#13;Vent : </translation></message>
+<message><source>Wind force</source><translation>&#13;Force du vent : </translation></message>
+<message><source>Wind sector</source><translation>&#13;Secteur du vent : </translation></message>
 <message><source>Work</source><translation>Travail</translation></message>
 <message><source>Wreck</source><translation>Épave</translation></message>
+<message><source>Wrecks</source><translation>&#13;Épaves : </translation></message>
 <message><source>high setpoint</source><translation>Point de consigne haut (bar)</translation></message>
 </context>
 </TS>

@@ -1,0 +1,193 @@
+#include "dives/consumption.h"
+
+#include "dives/oxygenclock.h"
+#include "profile/profileseries.h"
+#include "support/printing.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+namespace tavrel {
+namespace {
+
+GasReadings readings(qint32 volume, qint32 start, qint32 end, qint32 time, std::vector<double> depths) {
+    GasReadings read;
+    read.tanks[0] = {volume, start, end};
+    read.time = time;
+    read.minutes = time;
+    ProfileSeries profile;
+    profile.profilProfondeur = Series::ofReals(depths);
+    read.readProfile(profile);
+    return read;
+}
+
+TEST(Consumption, UsesPressureVolumeTimeAndAverageDepth) {
+    const GasReadings dive = readings(12, 200, 50, 40, {10, 30, 20});
+    const Consumption gas = calculVolumeAirConsomme(dive);
+    EXPECT_FLOAT_EQ(dive.averageDepth, 20);
+    EXPECT_EQ(gas._volumeDisponible, 2400);
+    EXPECT_EQ(gas._volumeConsomme, 1800);
+    EXPECT_FLOAT_EQ(gas._pressionParMinute, 3.75F);
+    EXPECT_FLOAT_EQ(gas._sac, 15);
+    EXPECT_FLOAT_EQ(gas._sacBar, 1.25F);
+    EXPECT_EQ(consumptionReport(dive, gas, false),
+              u"Gas available: 2400 L\rGas used: 1800 L\rPressure used: 3.75 bar/min\r"
+              "Surface consumption: 15.0 L/min, 1.25 bar/min\rAverage depth: 20.0 m");
+    EXPECT_TRUE(consumptionReport(dive, gas, true).endsWith(u"Average depth: 20.0 ft"));
+
+    const Consumption other = calculVolumeAirConsomme(readings(15, 230, 70, 50, {10, 10}));
+    EXPECT_EQ(other._volumeDisponible, 3450);
+    EXPECT_EQ(other._volumeConsomme, 2400);
+    EXPECT_FLOAT_EQ(other._sac, 24);
+    EXPECT_FLOAT_EQ(other._sacBar, 1.6F);
+}
+
+TEST(Consumption, RatesDivideInSinglePrecision) {
+    // Whole division would give 14 and 3.
+    const Consumption gas = calculVolumeAirConsomme(readings(10, 200, 53, 40, {0, 0}));
+    EXPECT_FLOAT_EQ(gas._sac, 36.75F);
+    EXPECT_FLOAT_EQ(gas._pressionParMinute, 3.675F);
+}
+
+TEST(Consumption, KeepsWhatIsNotANumber) {
+    const GasReadings without = readings(15, 230, 70, 50, {});
+    const Consumption gas = calculVolumeAirConsomme(without);
+    EXPECT_EQ(gas._volumeConsomme, 2400);
+    EXPECT_FLOAT_EQ(gas._pressionParMinute, 3.2F);
+    EXPECT_TRUE(std::isnan(gas._sac));
+    EXPECT_TRUE(std::isnan(gas._sacBar));
+    EXPECT_TRUE(consumptionReport(without, gas, false).contains(u"nan L/min, nan bar/min"));
+
+    const Consumption timeless = calculVolumeAirConsomme(readings(15, 230, 70, 0, {10, 10}));
+    EXPECT_EQ(timeless._volumeDisponible, 3450);
+    EXPECT_EQ(timeless._pressionParMinute, std::numeric_limits<float>::infinity());
+    EXPECT_TRUE(std::isnan(calculVolumeAirConsomme(readings(15, 70, 70, 0, {10, 10}))._sac));
+}
+
+TEST(Consumption, NegativeDropsStayAndWideNumbersWrap) {
+    const Consumption gas = calculVolumeAirConsomme(readings(10, 100, 120, 20, {0, 0}));
+    EXPECT_EQ(gas._volumeConsomme, -200);
+    EXPECT_FLOAT_EQ(gas._sac, -10);
+    EXPECT_EQ(calculVolumeAirConsomme(readings(65536, 65537, 0, 1, {0}))._volumeDisponible, 65536);
+}
+
+TEST(Consumption, ReportNeedsAStartPressureAndATime) {
+    for (const auto& dive : {readings(12, 200, 50, 0, {10, 10}), readings(12, 0, 0, 40, {10, 10}),
+                             readings(0, 0, 0, 40, {}), readings(12, 1, 0, 0, {})}) {
+        EXPECT_EQ(consumptionReport(dive, calculVolumeAirConsomme(dive), false),
+                  u"Enter a start pressure and a dive time.");
+    }
+    const GasReadings least = readings(12, 1, 0, 1, {10, 10});
+    EXPECT_TRUE(consumptionReport(least, calculVolumeAirConsomme(least), false).startsWith(u"Gas available: 12 L"));
+}
+
+TEST(Consumption, PressureDropsAreAlwaysTold) {
+    GasReadings dive = readings(12, 200, 50, 40, {});
+    dive.tanks[1] = {7, 50, 120};
+    EXPECT_EQ(pressureDropText(pressureDrop(dive, 0)), u"150 bar used");
+    EXPECT_EQ(pressureDrop(dive, 1), -70);
+    EXPECT_EQ(pressureDropText(pressureDrop({}, 0)), u"0 bar used");
+}
+
+TEST(Consumption, AuxiliaryGasesShowWithALevelFromTheThirdOn) {
+    GasReadings dive;
+    dive.auxiliaries[1] = {7, 200, 120};
+    dive.auxiliaries[4] = {-2, 205, 210};
+    dive.levels[0].on = dive.levels[1].on = true;
+    EXPECT_FALSE(auxiliaryGases(dive)[1]);
+
+    for (std::size_t level = 2; level < 6; ++level) {
+        dive.levels = {};
+        dive.levels[level].on = true;
+        const auto gases = auxiliaryGases(dive);
+        ASSERT_TRUE(gases[1]) << level;
+        EXPECT_EQ(gases[1]->available, 1400);
+        EXPECT_EQ(gases[1]->used, 560);
+        EXPECT_EQ(gases[1]->text, u"Gas available: 1400 L\rGas used: 560 L");
+        EXPECT_EQ(gases[1]->maximum, 200);
+        EXPECT_EQ(gases[1]->value, 120);
+        EXPECT_EQ(gases[1]->ticks, 20);
+        EXPECT_FALSE(gases[0]);
+        EXPECT_EQ(gases[4].value().used, 10);
+        EXPECT_EQ(gases[4]->ticks, 20);
+    }
+}
+
+TEST(Consumption, PoniesAreNamedByTheLevelTheyFeed) {
+    GasReadings dive;
+    dive.levels[1] = {false, 50.0, 21};
+    EXPECT_EQ(ponyTitle(dive, 1), u"Pony 2 : 21 m - 50 % O₂");
+    EXPECT_EQ(ponyTitle(dive, 2), u"Pony 3 : 0 m - 0 % O₂");
+}
+
+TEST(Consumption, FiguresExplainThemselvesOrSayWhyNot) {
+    const GasReadings dive = readings(12, 200, 50, 40, {20, 20});
+    EXPECT_EQ(explainedSac(dive).text, u"15.0 L/min");
+    EXPECT_EQ(explainedSac(dive).explanation, u"SAC = 1800 L / 40 min / 3.0 bar = 15.0 L/min");
+    EXPECT_EQ(explainedSacBar(dive).explanation, u"SAC = 150 bar / 40 min / 3.0 bar = 1.25 bar/min");
+    EXPECT_EQ(explainedUsed(dive).explanation, u"Gas used = 12 L × (200 bar − 50 bar) = 1800 L");
+    EXPECT_EQ(explainedPerMinute(dive).text, u"3.75 bar/min");
+    EXPECT_EQ(explainedAverageDepth(dive, false).explanation, u"Average depth = mean of 2 samples = 20.0 m");
+
+    const auto unknown = [](const ExplainedFigure& figure, QStringView why) {
+        return figure.text.isNull() && figure.explanation.contains(why);
+    };
+    EXPECT_TRUE(unknown(explainedSac(readings(12, 200, 50, 40, {0})), u"profile"));
+    EXPECT_TRUE(unknown(explainedSac(readings(12, 200, 50, 0, {20, 20})), u"time"));
+    EXPECT_TRUE(unknown(explainedSac(readings(12, 0, 0, 40, {20, 20})), u"start pressure"));
+    EXPECT_TRUE(unknown(explainedUsed(readings(0, 200, 50, 40, {20, 20})), u"volume"));
+    EXPECT_TRUE(unknown(explainedSac(readings(12, 200, 50, 40, {20, std::nan("")})), u"no numbers"));
+    EXPECT_TRUE(unknown(explainedAverageDepth(readings(12, 200, 50, 40, {0}), false), u"profile"));
+}
+
+TEST(OxygenClock, RatesFollowTheBands) {
+    EXPECT_DOUBLE_EQ(calculSncClock(1.6, 30), 66.6);
+    struct Case {
+        double ppO2;
+        double rate;
+    };
+    // Each band's two ends, the two wide bands and what lies outside.
+    for (const auto& [ppO2, rate] :
+         {Case{0, 0.14},      Case{-1, 0.14},   Case{0.62, 0.14}, Case{0.6201, 0.15}, Case{0.70, 0.18},
+          Case{0.72, 0.18},   Case{0.73, 0.19}, Case{0.88, 0.26}, Case{0.89, 0.28},   Case{1.0, 0.33},
+          Case{1.12, 0.43},   Case{1.14, 0.43}, Case{1.15, 0.44}, Case{1.22, 0.48},   Case{1.23, 0.51},
+          Case{1.4, 0.65},    Case{1.41, 0.68}, Case{1.5, 0.83},  Case{1.51, 0.93},   Case{1.58, 1.47},
+          Case{1.5801, 2.22}, Case{3, 2.22},    Case{1.33, 0.60}, Case{1.55, 1.19}}) {
+        EXPECT_EQ(sncRate(ppO2), rate) << ppO2;
+    }
+    EXPECT_EQ(oxygenBands().size(), 48U);
+    EXPECT_TRUE(std::isnan(calculSncClock(std::nan(""), std::nan(""))));
+}
+
+TEST(OxygenClock, ReadsTheTankAtTheDeepestPointAndTheLevelsThatAreOn) {
+    GasReadings dive;
+    dive.oxygen = 32;
+    dive.depth = 25;
+    dive.minutes = 40;
+    EXPECT_FLOAT_EQ(oxygenExposure(dive).ppO2, 1.12F);
+    EXPECT_DOUBLE_EQ(oxygenExposure(dive).percent, 40 * 0.43);
+    EXPECT_EQ(oxygenExposure(dive).text, u"ppO₂ 1.12 bar, CNS clock 17.2 %");
+
+    ProfileSeries profile;
+    profile.profilProfondeur = Series::ofReals({18});
+    dive.readProfile(profile);
+    EXPECT_FLOAT_EQ(oxygenExposure(dive).ppO2, 1.12F);  // one sample is no profile
+    profile.profilProfondeur = Series::ofReals({5, 30, 12});
+    dive.readProfile(profile);
+    EXPECT_FLOAT_EQ(oxygenExposure(dive).ppO2, 1.28F);
+
+    // Stops at 3, 6 and 9 m count as 1 bar, 12 to 19 m as 2 bar.
+    dive.levels[2] = {true, 100, 9};
+    EXPECT_FLOAT_EQ(oxygenExposure(dive).ppO2, 1.28F);
+    dive.levels[5] = {false, 80, 19};
+    EXPECT_FLOAT_EQ(oxygenExposure(dive).ppO2, 1.28F);
+    dive.levels[5].on = true;
+    EXPECT_FLOAT_EQ(oxygenExposure(dive).ppO2, 1.6F);
+    EXPECT_EQ(oxygenExposure(dive).explanation,
+              u"ppO₂ = stop 6: 80 % O₂ × 2 bar = 1.60 bar\nCNS clock = 40 min × 2.22 %/min = 88.8 %");
+}
+
+}  // namespace
+}  // namespace tavrel

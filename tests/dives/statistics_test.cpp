@@ -1,0 +1,204 @@
+#include "dives/statistics.h"
+
+#include "support/printing.h"
+#include "support/testdesktop.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <map>
+
+namespace tavrel {
+namespace {
+
+using Dives = std::vector<DivePointer>;
+
+template <class Change>
+DivePointer dive(Change change) {
+    Plongee made;
+    made.tempEau = -50;
+    made.typePlongee = 4;
+    change(made);
+    return std::make_shared<const Plongee>(std::move(made));
+}
+
+DivePointer deep(float depth) {
+    return dive([=](Plongee& made) { made.profondeur = depth; });
+}
+
+std::map<QString, QString> textsOf(const Statistics& statistics) {
+    std::map<QString, QString> texts;
+    for (const auto& each : statistics.texts()) {
+        EXPECT_TRUE(texts.emplace(each.field, each.text).second) << each.field.toStdString();
+    }
+    return texts;
+}
+
+TEST(Statistics, CountsDepthsInBands) {
+    const Dives dives{deep(9), deep(9.9F), deep(10), deep(19), deep(20), deep(59), deep(60), deep(75), deep(-3)};
+    const Statistics statistics(dives, nullptr);
+    const std::array<qint64, 7> wanted{3, 2, 1, 0, 0, 1, 2};
+    for (std::size_t band = 0; band < wanted.size(); ++band) {
+        EXPECT_EQ(statistics.count(static_cast<StatCount>(static_cast<std::size_t>(StatCount::prof_1) + band)),
+                  wanted[band])
+            << band;
+    }
+    EXPECT_EQ(statistics.deepest(), 75);
+    EXPECT_EQ(statistics.totalDepth(), 9 + 9 + 10 + 19 + 20 + 59 + 60 + 75 - 3);
+    EXPECT_EQ(statistics.averageDepth(), 28);  // 258 / 9, its fraction dropped
+}
+
+TEST(Statistics, CountsKindsByTheirCode) {
+    const std::map<int, StatCount> kinds{
+        {0, StatCount::epaves},       {1, StatCount::explo},      {3, StatCount::photo}, {5, StatCount::speleo},
+        {6, StatCount::video},        {7, StatCount::travail},    {8, StatCount::autre}, {9, StatCount::derivante},
+        {10, StatCount::glace},       {11, StatCount::formation}, {12, StatCount::bio},  {13, StatCount::carriere},
+        {14, StatCount::recuperation}};
+    for (int code = -1; code <= 15; ++code) {
+        const Statistics statistics(Dives{dive([=](Plongee& made) { made.typePlongee = code; })}, nullptr);
+        for (const auto& name : statCountNames()) {
+            if (name.group == StatGroup::kinds) {
+                const bool counts = kinds.contains(code) && kinds.at(code) == name.count;
+                EXPECT_EQ(statistics.count(name.count), counts ? 1 : 0) << code << name.key;
+            }
+        }
+    }
+    // Technical and night dives follow fields of their own.
+    const Statistics both(Dives{dive([](Plongee& made) { made.configuration = made.nocturne = 1; }),
+                                dive([](Plongee& made) { made.configuration = made.nocturne = 2; })},
+                          nullptr);
+    EXPECT_EQ(both.count(StatCount::tek), 1);
+    EXPECT_EQ(both.count(StatCount::nocturne), 1);
+}
+
+TEST(Statistics, GasFollowsTheBreathingSystem) {
+    struct Case {
+        qint32 apparatus;
+        qint32 gas;
+        StatCount system;
+        StatCount counted;
+    };
+    using enum StatCount;
+    for (const auto& [apparatus, gas, system, counted] :
+         {Case{0, 0, co, air}, Case{0, 1, co, nitrox}, Case{1, 2, scr, trimix}, Case{0, 3, co, heliox},
+          Case{0, 4, co, trimix}, Case{0, 5, co, trimix}, Case{1, 6, scr, heliox}, Case{2, 2, ccr, nitrox},
+          Case{3, 0, ccr, nitrox}, Case{4, 3, ccr, nitrox}}) {
+        const Statistics statistics(Dives{dive([apparatus = apparatus, gas = gas](Plongee& made) {
+                                        made.rebreather = apparatus;
+                                        made.gaz = gas;
+                                    })},
+                                    nullptr);
+        for (const auto& name : statCountNames()) {
+            if (name.group == StatGroup::systems || name.group == StatGroup::gases) {
+                EXPECT_EQ(statistics.count(name.count), name.count == system || name.count == counted ? 1 : 0)
+                    << apparatus << gas << name.key;
+            }
+        }
+    }
+    const Statistics unknown(Dives{dive([](Plongee& made) { made.rebreather = 5; })}, nullptr);
+    EXPECT_EQ(unknown.count(co) + unknown.count(scr) + unknown.count(ccr), 0);
+    EXPECT_EQ(unknown.count(air), 1);
+}
+
+TEST(Statistics, WaterTemperaturesLeaveOutWhatWasNotGiven) {
+    const auto water = [](qint32 degrees) { return dive([=](Plongee& made) { made.tempEau = degrees; }); };
+    const Statistics statistics(Dives{water(14), water(-50), water(21), water(20)}, nullptr);
+    EXPECT_EQ(statistics.coldest(), 14);
+    EXPECT_EQ(statistics.warmest(), 21);
+    EXPECT_EQ(statistics.meanTemperature(), 18);  // 55 / 3
+
+    const Statistics none(Dives{water(-50)}, nullptr);
+    EXPECT_EQ(none.coldest(), 10000);
+    EXPECT_EQ(none.warmest(), 0);
+    EXPECT_EQ(none.meanTemperature(), 0);
+    const PreviousTotals nothing;
+    EXPECT_EQ(Statistics(Dives{water(14)}, &nothing).coldest(), 0);
+}
+
+TEST(Statistics, PreviousTotalsEnterEveryFigureButTheMeanTemperature) {
+    TestDesktop desktop;
+    Preferences& preferences = desktop.desktop().preferences;
+    preferences.set(PreviousTotals::preferencesKey(), QVariantMap{{QStringLiteral("total plongees"), 9},
+                                                                  {QStringLiteral("trimix"), 4},
+                                                                  {QStringLiteral("prof max"), 70},
+                                                                  {QStringLiteral("temps max"), 20},
+                                                                  {QStringLiteral("total profondeur"), 100},
+                                                                  {QStringLiteral("total temps"), -30},
+                                                                  {QStringLiteral("temperature min"), 8},
+                                                                  {QStringLiteral("temperature max"), 31}});
+    const PreviousTotals previous = PreviousTotals::read(preferences);
+    const Dives dives{dive([](Plongee& made) {
+        made.gaz = 2;
+        made.profondeur = 45;
+        made.temps = 100;
+        made.tempEau = 15;
+    })};
+    const Statistics with(dives, &previous);
+    EXPECT_EQ(with.total(), 10);
+    EXPECT_EQ(with.count(StatCount::trimix), 5);
+    EXPECT_FLOAT_EQ(with.share(StatCount::trimix), 50);
+    EXPECT_EQ(with.deepest(), 70);
+    EXPECT_EQ(with.longest(), 100);
+    EXPECT_EQ(with.totalDepth(), 145);
+    EXPECT_EQ(with.averageDepth(), 14);
+    EXPECT_EQ(with.totalTime(), 70);
+    EXPECT_EQ(with.coldest(), 8);
+    EXPECT_EQ(with.warmest(), 31);
+    EXPECT_EQ(with.meanTemperature(), 15);
+
+    const Statistics without(dives, nullptr);
+    EXPECT_EQ(without.total(), 1);
+    EXPECT_EQ(without.count(StatCount::trimix), 1);
+    EXPECT_EQ(without.coldest(), 15);
+
+    EXPECT_EQ(PreviousTotals::of(previous.values()).counts, previous.counts);
+    EXPECT_EQ(PreviousTotals::of(previous.values()).measures, previous.measures);
+    EXPECT_EQ(previous.values().size(), 36);
+}
+
+TEST(Statistics, TextsHaveTheirFormats) {
+    Dives dives(3, dive([](Plongee& made) {
+                    made.typePlongee = 6;
+                    made.profondeur = 31.5F;
+                    made.temps = 65;
+                    made.tempEau = 17;
+                }));
+    dives.push_back(deep(10));
+    const auto texts = textsOf(Statistics(dives, nullptr));
+    EXPECT_EQ(texts.at(QStringLiteral("statDivesField")), u"4 dives");
+    EXPECT_EQ(texts.at(QStringLiteral("statVideoField")), u"3");
+    EXPECT_EQ(texts.at(QStringLiteral("statP_VideoField")), u" 75.0 %");
+    EXPECT_EQ(texts.at(QStringLiteral("statP_Prof_4Field")), u"75.0 %");
+    EXPECT_EQ(texts.at(QStringLiteral("statP_RecupField")), u"0.0 %");
+    EXPECT_EQ(texts.at(QStringLiteral("statProfMaxField")), u"31 m");
+    EXPECT_EQ(texts.at(QStringLiteral("statProfMoyField")), u"25 m");
+    EXPECT_EQ(texts.at(QStringLiteral("statTempsField")), u"3 h 15 min.\r(195 min.)");
+    EXPECT_EQ(texts.at(QStringLiteral("statTempsMoyField")), u"48 min.");
+    EXPECT_EQ(texts.at(QStringLiteral("statTempMoyField")), u"17 °C");
+    EXPECT_EQ(textsOf(Statistics(Dives{dive([](Plongee& made) { made.temps = 65; })}, nullptr))
+                  .at(QStringLiteral("statTempsField")),
+              u"1 h 05 min.\r(65 min.)");
+    EXPECT_EQ(texts.size(), 1U + 2 * 29 + 9);
+
+    for (const auto& each : Statistics(dives, nullptr).texts()) {
+        if (each.field == u"statP_VideoField") {
+            EXPECT_EQ(each.explanation, u"Share = 3 / 4 × 100 = 75.0 %");
+        }
+    }
+}
+
+TEST(Statistics, AnEmptyLogbookSharesNothing) {
+    const Statistics empty({}, nullptr);
+    EXPECT_FLOAT_EQ(empty.share(StatCount::air), 0);
+    EXPECT_EQ(empty.averageDepth(), 0);
+    EXPECT_EQ(textsOf(empty).at(QStringLiteral("statTempMinField")), u"10000 °C");
+    EXPECT_TRUE(std::isnan(empty.graphShare(StatCount::air)));
+
+    PreviousTotals previous;
+    previous.counts[static_cast<std::size_t>(StatCount::air)] = 2;
+    EXPECT_TRUE(std::isinf(Statistics({}, &previous).graphShare(StatCount::air)));
+    EXPECT_FLOAT_EQ(Statistics({}, &previous).share(StatCount::air), 200);
+}
+
+}  // namespace
+}  // namespace tavrel
