@@ -2,6 +2,7 @@
 
 #include "app/applicationwindows.h"
 #include "app/preferenceswindow.h"
+#include "base/paths.h"
 #include "base/safefile.h"
 #include "base/texts.h"
 #include "desktop/alerts.h"
@@ -23,11 +24,6 @@ namespace {
 
 /// Whether the memo comes to the front at launch; no window sets it.
 constexpr Setting<bool> memoAtLaunch{"pense bete"};
-
-/// The one name of an existing file, whatever links and dots lead to it.
-QString identity(const QString& file) {
-    return QFileInfo(file).canonicalFilePath();
-}
 
 FileFilter filterOf(const DocumentType& type) {
     return {text(type.title), {QString::fromLatin1(type.extension)}};
@@ -108,9 +104,9 @@ DocumentWindow* MyDocumentController::addWindow(const DocumentType& type, std::u
 }
 
 DocumentWindow* MyDocumentController::windowOf(const QString& file) const {
-    const QString wanted = identity(file);
+    const QString wanted = canonicalPath(file);
     for (const auto& each : open_) {
-        if (!wanted.isEmpty() && identity(each.document->file()) == wanted) {
+        if (!wanted.isEmpty() && canonicalPath(each.document->file()) == wanted) {
             return each.window.get();
         }
     }
@@ -132,8 +128,8 @@ Expected<DocumentWindow*> MyDocumentController::open(const QString& file) {
     }
     const auto type = typeOfFile(file);
     if (!type) {
-        if (!QFileInfo::exists(file)) {
-            recentDocuments_.drop(QFileInfo(file).absoluteFilePath());
+        if (!pathExists(file)) {
+            recentDocuments_.drop(absolutePath(file));
         }
         return tl::unexpected(type.error());
     }

@@ -32,7 +32,8 @@ inline std::size_t encodingEnd(std::string_view types, std::size_t at) {
 ///     void beginList(); void endList();               // other arrays, structures
 ///
 /// Refuses encodings that are unknown, malformed, nested too deeply or longer than any that a program writes; the
-/// length matters because a group by reference costs a byte and makes the whole encoding be walked.
+/// length matters because a group by reference costs a byte and makes the whole encoding be walked. The steps count as
+/// the scanner's effort.
 template <class Handler>
 class EncodingWalk {
 public:
@@ -61,6 +62,7 @@ private:
             refuse(StreamFault::tooDeep);
             return types.size();
         }
+        scanner_.spend(1);
         const char code = types[at];
         switch (code) {
             case 'c':
@@ -116,6 +118,7 @@ private:
                 std::min<std::size_t>(count * 10 + static_cast<std::size_t>(types[at] - '0'), scanner_.bytesLeft() + 1);
         }
         const std::size_t end = encodingEnd(types, at);
+        scanner_.spend(end - digits);
         if (at == digits || end >= types.size() || types[end] != ']') {
             refuse(StreamFault::unknownType);
             return types.size();
@@ -142,7 +145,9 @@ private:
     }
 
     std::size_t structure(std::string_view types, std::size_t at, int nesting) {
+        const std::size_t name = at;
         at = types.find('=', at);
+        scanner_.spend(std::min(at, types.size()) - name);
         if (at == std::string_view::npos) {
             refuse(StreamFault::unknownType);
             return types.size();

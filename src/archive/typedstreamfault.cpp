@@ -30,6 +30,8 @@ Title sentenceOf(StreamFault fault) {
             return Title("Archive", "Class loop");
         case StreamFault::tooDeep:
             return Title("Archive", "Too deep");
+        case StreamFault::tooMuch:
+            return Title("Archive", "Too much");
         case StreamFault::rootNotArray:
             return Title("Archive", "Root not array");
         case StreamFault::wrongClass:

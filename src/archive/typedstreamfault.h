@@ -19,6 +19,7 @@ enum class StreamFault {
     nilName,             ///< nil where a type encoding or class name must stand
     classLoop,           ///< a class that is its own ancestor
     tooDeep,             ///< nesting beyond the bound
+    tooMuch,             ///< far more work or contents than its bytes can mean
     rootNotArray,        ///< the root is no array
     wrongClass,          ///< an element of the root array is no record of the class
     missingItem,         ///< the record ends before its last item

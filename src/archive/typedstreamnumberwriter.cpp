@@ -98,6 +98,13 @@ void TypedStreamWriter::writeSeries(const Series& series) {
         put(streamtags::nil);
         return;
     }
+    if (const void* numbers = series.sharedNumbers()) {
+        if (const auto known = series_.constFind(numbers); known != series_.constEnd()) {
+            putReference(*known);
+            return;
+        }
+        series_.insert(numbers, nextObject_);
+    }
     beginLiteral(mutableArrayClass);
     beginGroup("i");
     putSigned(static_cast<std::int64_t>(series.size()));

@@ -185,7 +185,9 @@ float TypedStreamReader::readFloatBits() {
 QString TypedStreamReader::readAnyText() {
     const ObjectEntry entry = readItemObject();
     if (entry.kind() == Holds::text) {
-        return texts_[entry.payload()];
+        const QString& text = texts_[entry.payload()];
+        scanner_.spend(static_cast<std::size_t>(text.size()));
+        return text;
     }
     requireOpaque(entry);
     return {};
@@ -203,7 +205,10 @@ Date TypedStreamReader::readDate() {
 Series TypedStreamReader::readSeries() {
     const ObjectEntry entry = readItemObject();
     if (entry.kind() == Holds::series) {
-        return series_[entry.payload()];
+        // A number written out takes some characters.
+        const Series& series = series_[entry.payload()];
+        scanner_.spend(4 * series.size());
+        return series;
     }
     if (entry.kind() == Holds::otherArray) {
         scanner_.fail(StreamFault::notNumber, entry.payload());
@@ -216,7 +221,9 @@ Series TypedStreamReader::readSeries() {
 Image TypedStreamReader::readImage() {
     const ObjectEntry entry = readItemObject();
     if (entry.kind() == Holds::image) {
-        return images_[entry.payload()];
+        const Image& image = images_[entry.payload()];
+        scanner_.spend(static_cast<std::size_t>(image.tiff.size()));
+        return image;
     }
     requireOpaque(entry);
     return {};

@@ -13,6 +13,10 @@ namespace tavrel {
 
 namespace {
 
+// A text that every record names by a reference of three bytes may be some hundred characters long.
+constexpr std::size_t effortPerByte = 64;
+constexpr std::size_t leastEffort = 1 << 24;
+
 ValueClass valueClassOf(std::string_view name) {
     static constexpr std::pair<std::string_view, ValueClass> known[] = {
         {"NSArray", ValueClass::array},           {"NSString", ValueClass::text}, {"NSDate", ValueClass::date},
@@ -38,7 +42,8 @@ TypedStreamScanner::TypedStreamScanner(QByteArrayView bytes, std::string_view re
     : begin_(reinterpret_cast<const unsigned char*>(bytes.data())),
       position_(begin_),
       end_(begin_ + bytes.size()),
-      recordClass_(recordClass) {
+      recordClass_(recordClass),
+      effortAllowed_(leastEffort + effortPerByte * static_cast<std::size_t>(bytes.size())) {
     // The smallest number objects that are met in mass take eight bytes or so.
     objects_.reserve(static_cast<std::size_t>(bytes.size()) / 8);
 }

@@ -56,6 +56,15 @@ public:
     void fail(StreamFault fault, std::size_t offset, const QString& what = {});
     void fail(StreamFault fault) { fail(fault, offset()); }
 
+    /// Counts work that the bytes cause beside being read: steps through a type encoding, characters and numbers of
+    /// what is met again by a reference. Fails beyond a bound that no file of a program comes near.
+    void spend(std::size_t effort) {
+        effort_ += effort;
+        if (effort_ > effortAllowed_) {
+            fail(StreamFault::tooMuch);
+        }
+    }
+
     std::size_t offset() const { return static_cast<std::size_t>(position_ - begin_); }
     std::size_t bytesLeft() const { return static_cast<std::size_t>(end_ - position_); }
     bool atEnd() const { return position_ == end_; }
@@ -139,6 +148,8 @@ private:
     std::optional<StreamFault> fault_;
     std::size_t faultOffset_ = 0;
     QString faultDetail_;
+    std::size_t effort_ = 0;
+    std::size_t effortAllowed_;
 };
 
 inline std::int64_t TypedStreamScanner::readSigned() {

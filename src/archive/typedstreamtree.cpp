@@ -88,7 +88,10 @@ public:
             summary.classes.push_back({shown(klass.name), klass.version, index < counts_.size() ? counts_[index] : 0});
         }
     }
-    void beginGroup(std::string_view) { summary.groups += depth_ == 0 ? 1U : 0U; }
+    void beginGroup(std::string_view types) {
+        summary.groups += depth_ == 0 ? 1U : 0U;
+        scanner_.spend(types.size());
+    }
     void endGroup() {}
     void known(const ObjectHead& head) { summary.references += head.form == ObjectHead::reference ? 1U : 0U; }
     void beginObject(const ObjectHead& head) {
@@ -98,12 +101,18 @@ public:
         }
         ++counts_[index];
         ++summary.objects;
+        classValue(head.classIndex);
     }
     void endObject() {}
     void integer(char, std::int64_t) {}
     void real(char, double) {}
-    void text(std::string_view) {}
-    void classValue(std::int32_t) {}
+    // What the other walk will write of them, each time they are named.
+    void text(std::string_view text) { scanner_.spend(text.size()); }
+    void classValue(std::int32_t index) {
+        for (; index >= 0; index = scanner_.classAt(index).superclass) {
+            scanner_.spend(1 + scanner_.classAt(index).name.size());
+        }
+    }
     void bytes(std::string_view) {}
     void beginList() {}
     void endList() {}

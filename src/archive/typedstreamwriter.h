@@ -123,8 +123,9 @@ private:
     QHash<QString, std::size_t> texts_;
     QHash<quint64, std::size_t> dates_;
     QHash<const void*, std::size_t> records_;
-    SharedNumbers reals_;   // of type 'd', by their bits
-    SharedNumbers narrow_;  // of other types, by their 32 bits and the type above them
+    QHash<const void*, std::size_t> series_;  // those whose numbers others may share
+    SharedNumbers reals_;                     // of type 'd', by their bits
+    SharedNumbers narrow_;                    // of other types, by their 32 bits and the type above them
     std::map<std::pair<char, std::int64_t>, SharedNumbers::Element> wide_;  // integers beyond 32 bits
     std::array<SharedNumbers::Element, 256> small_{};  // those of narrow_ that fit a byte, by that byte, of one type
     char smallCode_ = 'i';

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <tl/expected.hpp>
-
 #include <QString>
+#include <tl/expected.hpp>
 
 namespace tavrel {
 

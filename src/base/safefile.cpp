@@ -1,12 +1,14 @@
 #include "base/safefile.h"
 
+#include "base/filebeside.h"
+#include "base/inplace.h"
+#include "base/paths.h"
 #include "base/texts.h"
 
-#include <QFileInfo>
-#include <QRandomGenerator>
+#include <QFile>
 
+#include <algorithm>
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -41,7 +43,7 @@ Failure systemFailure(int error, const QString& path, Title missing, Title gener
         default:
             break;
     }
-    return {text(key), path + QStringLiteral(": ") + QString::fromLocal8Bit(std::strerror(error))};
+    return {text(key), shownPath(path) + QStringLiteral(": ") + QString::fromLocal8Bit(std::strerror(error))};
 }
 
 Failure readFailure(int error, const QString& path) {
@@ -55,96 +57,34 @@ Failure writeFailure(int error, const QString& path) {
 }
 
 Failure named(const QString& format, const QString& path, const Failure& reason) {
-    return {fillFormat(format, {QFileInfo(path).fileName(), reason.sentence}, reason.sentence), reason.detail};
+    return {fillFormat(format, {shownName(path), reason.sentence}, reason.sentence), reason.detail};
 }
 
-/// The file that a path means: symbolic links followed, also where the last one leads to nothing yet.
-QString followed(const QString& path) {
-    QFileInfo file(path);
-    for (int links = 0; file.isSymLink() && links < 40; ++links) {
-        file.setFile(file.symLinkTarget());
-    }
-    return file.absoluteFilePath();
+/// Whether a file that cannot be replaced may be written in place; one on a full or failing disk may not.
+bool mayWriteInPlace(int error) {
+    return error != ENOSPC && error != EDQUOT && error != EIO && error != EFBIG;
 }
 
-/// A new file beside another, removed again unless it took the other's place.
-class FileBeside {
-public:
-    explicit FileBeside(const QString& target) : target_(QFile::encodeName(target)) {
-        const QByteArray folder = QFile::encodeName(QFileInfo(target).absolutePath());
-        do {
-            name_ = folder + "/.tavrel-" + QByteArray::number(QRandomGenerator::global()->generate64(), 36);
-            descriptor_ = ::open(name_.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        } while (descriptor_ < 0 && errno == EEXIST);
-    }
-    FileBeside(const FileBeside&) = delete;
-    FileBeside& operator=(const FileBeside&) = delete;
-    ~FileBeside() {
-        if (descriptor_ >= 0) {
-            ::close(descriptor_);
-        }
-        if (pending_) {
-            ::unlink(name_.constData());
-        }
-    }
+enum class Attempt { done, failed, unlinkable };
 
-    /// Each step answers false with errno set when it fails.
-    bool create() {
-        pending_ = descriptor_ >= 0;
-        return pending_;
+/// Fills a file and puts it in the target's place. `unlinkable`: it was filled without a name and cannot get one.
+Attempt writeBeside(const QByteArray& target, QByteArrayView bytes, const struct stat* old, bool named,
+                    struct stat& written) {
+    FileBeside beside(target);
+    if (!beside.create(named)) {
+        return named ? Attempt::failed : Attempt::unlinkable;
     }
-
-    bool write(QByteArrayView bytes) {
-        while (!bytes.isEmpty()) {
-            const ssize_t written = ::write(descriptor_, bytes.data(), static_cast<std::size_t>(bytes.size()));
-            if (written < 0 && errno != EINTR) {
-                return false;
-            }
-            bytes = bytes.sliced(written < 0 ? 0 : written);
-        }
-        return true;
+    if (!beside.write(bytes) || !(old ? beside.takeAttributesOf(*old) : beside.takeUsualMode()) || !beside.flush()) {
+        return Attempt::failed;
     }
-
-    bool takeModeOf(const struct stat& old) {
-        // Another's file stays another's where the system allows; where it does not, the contents matter more.
-        if (::fchown(descriptor_, old.st_uid, old.st_gid) != 0) {
-            errno = 0;
-        }
-        return ::fchmod(descriptor_, old.st_mode & 07777U) == 0;
+    if (!beside.replaceTarget()) {
+        return named || beside.isNamed() ? Attempt::failed : Attempt::unlinkable;
     }
-
-    bool flush() {
-        const bool flushed = ::fsync(descriptor_) == 0;
-        const int error = errno;
-        const bool closed = ::close(descriptor_) == 0;
-        descriptor_ = -1;
-        if (!flushed) {
-            errno = error;
-        }
-        return flushed && closed;
+    if (!beside.status(written)) {
+        written = {};
     }
-
-    bool replaceTarget() {
-        if (std::rename(name_.constData(), target_.constData()) != 0) {
-            return false;
-        }
-        pending_ = false;
-        // The rename itself reaches the disk with the folder; file systems that cannot flush one do without.
-        const QByteArray folder = target_.left(target_.lastIndexOf('/') + 1);
-        const int descriptor = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-        if (descriptor >= 0) {
-            ::fsync(descriptor);
-            ::close(descriptor);
-        }
-        return true;
-    }
-
-private:
-    QByteArray target_;
-    QByteArray name_;
-    int descriptor_ = -1;
-    bool pending_ = false;
-};
+    return Attempt::done;
+}
 
 }  // namespace
 
@@ -157,61 +97,98 @@ Failure savingFailure(const QString& path, const Failure& reason) {
 }
 
 Expected<FileBytes> FileBytes::open(const QString& path) {
-    const QByteArray name = QFile::encodeName(path);
-    struct stat status {};
-    if (::stat(name.constData(), &status) != 0) {
+    struct Descriptor {
+        explicit Descriptor(int opened) : number(opened) {}
+        Descriptor(const Descriptor&) = delete;
+        Descriptor& operator=(const Descriptor&) = delete;
+        ~Descriptor() { number >= 0 ? ::close(number) : 0; }
+        int number;
+    };
+    // Without waiting for who might write into a pipe.
+    const Descriptor file(::open(pathBytes(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    FileBytes result;
+    struct stat& status = result.status_;
+    if (file.number < 0 || ::fstat(file.number, &status) != 0) {
         return tl::unexpected(readFailure(errno, path));
     }
     if (S_ISDIR(status.st_mode)) {
         return tl::unexpected(readFailure(EISDIR, path));
     }
     if (!S_ISREG(status.st_mode)) {
-        return tl::unexpected(openingFailure(path, {text("Main", "File is not regular"), path}));
+        return tl::unexpected(openingFailure(path, {text("Main", "File is not regular"), shownPath(path)}));
     }
-    if (::access(name.constData(), R_OK) != 0) {
-        return tl::unexpected(readFailure(errno, path));
+    // Read and not mapped: another program may cut the file short at any time. One byte more shows its end.
+    QByteArray& bytes = result.bytes_;
+    bytes.resize(status.st_size + 1);
+    qsizetype filled = 0;
+    for (;;) {
+        const ssize_t count =
+            ::read(file.number, bytes.data() + filled, static_cast<std::size_t>(bytes.size() - filled));
+        if (count < 0 && errno != EINTR) {
+            return tl::unexpected(readFailure(errno, path));
+        }
+        if (count == 0) {
+            break;
+        }
+        filled += std::max<ssize_t>(count, 0);
+        if (filled == bytes.size()) {
+            bytes.resize(bytes.size() * 2);
+        }
     }
-    FileBytes result;
-    result.file_ = std::make_unique<QFile>(path);
-    QFile& file = *result.file_;
-    if (!file.open(QIODevice::ReadOnly)) {
-        return tl::unexpected(openingFailure(path, {text("Main", "File not readable"), file.errorString()}));
-    }
-    const qint64 size = file.size();
-    if (const uchar* mapped = size > 0 ? file.map(0, size) : nullptr) {
-        result.bytes_ = QByteArrayView(mapped, static_cast<qsizetype>(size));
-        return result;
-    }
-    result.copy_ = file.readAll();
-    if (file.error() != QFile::NoError) {
-        return tl::unexpected(openingFailure(path, {text("Main", "File not readable"), file.errorString()}));
-    }
-    result.bytes_ = result.copy_;
+    bytes.truncate(filled);
     return result;
 }
 
-Expected<void> writeFile(const QString& path, QByteArrayView bytes) {
-    const QString target = followed(path);
-    const QByteArray name = QFile::encodeName(target);
+Expected<FileIdentity> writeFile(const QString& path, QByteArrayView bytes) {
+    const QByteArray target = resolvedPath(pathBytes(path));
     struct stat old {};
-    const bool exists = ::stat(name.constData(), &old) == 0;
-    if (!exists && errno != ENOENT) {
+    const bool exists = !target.isEmpty() && ::stat(target.constData(), &old) == 0;
+    if (target.isEmpty() || (!exists && errno != ENOENT)) {
         return tl::unexpected(writeFailure(errno, path));
     }
     if (exists && S_ISDIR(old.st_mode)) {
         return tl::unexpected(writeFailure(EISDIR, path));
     }
     if (exists && !S_ISREG(old.st_mode)) {
-        return tl::unexpected(savingFailure(path, {text("Main", "File is not regular"), path}));
+        return tl::unexpected(savingFailure(path, {text("Main", "File is not regular"), shownPath(path)}));
     }
     // Renaming would replace a file that its owner has protected.
-    if (exists && ::access(name.constData(), W_OK) != 0) {
+    if (exists && ::access(target.constData(), W_OK) != 0) {
         return tl::unexpected(writeFailure(errno, path));
     }
-    FileBeside beside(target);
-    if (!beside.create() || !beside.write(bytes) || (exists && !beside.takeModeOf(old)) || !beside.flush() ||
-        !beside.replaceTarget()) {
+    auto hash = contentHashAside(bytes);
+    struct stat written {};
+    Attempt attempt = writeBeside(target, bytes, exists ? &old : nullptr, false, written);
+    if (attempt == Attempt::unlinkable) {
+        attempt = writeBeside(target, bytes, exists ? &old : nullptr, true, written);
+    }
+    if (attempt != Attempt::done) {
+        QByteArray copyLeft;
+        if (!exists || !mayWriteInPlace(errno) || !writeInPlace(target, bytes, written, copyLeft)) {
+            Failure reason = writeFailure(errno, path);
+            if (!copyLeft.isEmpty()) {
+                reason.detail += u'\n' + textWith("Main", "Copy kept", shownPath(pathFromBytes(copyLeft)));
+            }
+            return tl::unexpected(std::move(reason));
+        }
+    }
+    return FileIdentity(written, bytes.size(), hash.get());
+}
+
+bool isOutlet(const QString& path) {
+    struct stat status {};
+    return ::stat(pathBytes(path).constData(), &status) == 0 &&
+           (S_ISCHR(status.st_mode) || S_ISFIFO(status.st_mode) || S_ISSOCK(status.st_mode));
+}
+
+Expected<void> writeToOutlet(const QString& path, QByteArrayView bytes) {
+    QFile outlet;
+    const int descriptor = ::open(pathBytes(path).constData(), O_WRONLY | O_CLOEXEC | O_NOCTTY);
+    if (descriptor < 0 || !outlet.open(descriptor, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle)) {
         return tl::unexpected(writeFailure(errno, path));
+    }
+    if (outlet.write(bytes.data(), bytes.size()) != bytes.size() || !outlet.flush()) {
+        return tl::unexpected(savingFailure(path, {text("Main", "File not writable"), outlet.errorString()}));
     }
     return {};
 }

@@ -1,32 +1,38 @@
 #pragma once
 
 #include "base/failure.h"
+#include "base/fileidentity.h"
 
 #include <QByteArray>
 #include <QByteArrayView>
-#include <QFile>
 #include <QString>
 
-#include <memory>
+#include <sys/stat.h>
 
 namespace tavrel {
 
-/// The bytes of a file, mapped into memory where the system can, for as long as the object lives. Folders, pipes and
-/// devices are refused.
+/// The bytes of a file as they were when it was opened. Folders, pipes and devices are refused.
 class FileBytes {
 public:
     static Expected<FileBytes> open(const QString& path);
     QByteArrayView bytes() const { return bytes_; }
+    /// What the file is, its contents having that hash.
+    FileIdentity identity(QByteArray hash) const { return {status_, bytes_.size(), std::move(hash)}; }
 
 private:
-    std::unique_ptr<QFile> file_;
-    QByteArray copy_;
-    QByteArrayView bytes_;
+    QByteArray bytes_;
+    struct stat status_ {};
 };
 
-/// Writes beside the file, flushes to the disk and renames: on any failure the old file is as it was. Keeps the owner
-/// and permissions of an existing file and follows a symbolic link to it.
-Expected<void> writeFile(const QString& path, QByteArrayView bytes);
+/// Writes beside the file, flushes to the disk and renames: on any failure the old file is as it was. Keeps the owner,
+/// permissions, access list and user attributes of an existing file and follows a symbolic link to it. A file that
+/// cannot be replaced so is written in place, after a copy of it was made. The identity is that of the file written.
+Expected<FileIdentity> writeFile(const QString& path, QByteArrayView bytes);
+
+/// Whether the path means something that bytes only pass through: a pipe, a terminal, an open file's number.
+bool isOutlet(const QString& path);
+/// Writes to such a thing.
+Expected<void> writeToOutlet(const QString& path, QByteArrayView bytes);
 
 // The sentences of both name the file and say why; the detail holds its whole path and the system's word.
 

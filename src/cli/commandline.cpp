@@ -50,7 +50,11 @@ int runCommandLine(CLI::App& app, int argc, const char* const* argv, Console& co
         return app.exit(stopped, console.out, console.error) == 0 ? 0 : exitWrongUsage;
     }
     if (!console.out.flush()) {
+        const int exitCode = console.exitCode;
         fail(console, {text("Cli", "Output not written"), {}});
+        if (console.fileSaved) {
+            console.exitCode = exitCode;
+        }
     }
     return console.exitCode;
 }

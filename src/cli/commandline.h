@@ -20,6 +20,7 @@ struct Console {
     std::ostream& out;
     std::ostream& error;
     int exitCode = 0;
+    bool fileSaved = false;  ///< the command did what it was for, whatever becomes of its words
 };
 
 inline constexpr int exitFailed = 1;

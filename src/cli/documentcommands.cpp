@@ -1,12 +1,12 @@
 #include "cli/documentcommands.h"
 
+#include "base/paths.h"
 #include "base/safefile.h"
 #include "base/texts.h"
 #include "cli/listing.h"
 #include "cli/session.h"
 
 #include <CLI/CLI.hpp>
-#include <QFileInfo>
 
 #include <memory>
 #include <numeric>
@@ -44,6 +44,7 @@ void changeFile(const Arguments& arguments, Console& console, Work work) {
     }
     if (done) {
         done = session.driver->document().save();
+        console.fileSaved = done.has_value();
     }
     if (!done) {
         fail(console, done.error());
@@ -75,8 +76,8 @@ void runNew(const Arguments& arguments, Console& console) {
         wrongUsage(textWith("Cli", "No such type", fromArgument(arguments.type), names.join(QStringLiteral(", "))));
     }
     const QString path = fileArgument(arguments);
-    if (QFileInfo::exists(path) || QFileInfo(path).isSymLink()) {
-        fail(console, {textWith("Cli", "File exists", path), {}});
+    if (pathExists(path)) {
+        fail(console, {textWith("Cli", "File exists", shownPath(path)), {}});
         return;
     }
     CliDesktop desktop(console);

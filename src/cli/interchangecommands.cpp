@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <map>
 #include <memory>
+#include <ostream>
 #include <vector>
 
 namespace tavrel {
@@ -41,6 +42,7 @@ Expected<void> importInto(Carnet& carnet, const Arguments& arguments, Console& c
         if (auto saved = carnet.save(); !saved) {
             return saved;
         }
+        console.fileSaved = true;
     }
     if (!result->isWhole()) {
         return failure(result->message());
@@ -49,11 +51,17 @@ Expected<void> importInto(Carnet& carnet, const Arguments& arguments, Console& c
     return {};
 }
 
-Expected<void> exportFrom(Carnet& carnet, const Arguments& arguments) {
+Expected<void> exportFrom(Carnet& carnet, const Arguments& arguments, Console& console) {
     const auto& exports = logbookExports();
     const auto chosen = std::find_if(exports.begin(), exports.end(),
                                      [&](const LogbookExport& it) { return it.name == arguments.format; });
-    return carnet.exportAs(pathArgument(arguments.other), QString::fromLatin1(chosen->typeName));
+    const QString type = QString::fromLatin1(chosen->typeName);
+    const QString target = pathArgument(arguments.other);
+    if (target == u"-" || target == u"/dev/stdout") {
+        return carnet.dataRepresentationOfType(type).map(
+            [&](const QByteArray& bytes) { console.out.write(bytes.data(), bytes.size()); });
+    }
+    return carnet.exportAs(target, type);
 }
 
 template <class Work>
@@ -94,10 +102,10 @@ void addInterchangeCommands(CLI::App& app, Console& console) {
     CLI::App* exporting = app.add_subcommand(
         "export", "Writes a logbook in another format; TARGET is written as a whole or, on a failure, not at all.");
     addFile(exporting);
-    exporting->add_option("TARGET", arguments->other, "The file to write")->required();
+    exporting->add_option("TARGET", arguments->other, "The file to write; - is the standard output")->required();
     exporting->add_option("--format", arguments->format, "The format")->required()->check(CLI::IsMember(formats));
     exporting->callback([arguments, &console] {
-        withLogbook(*arguments, console, [&](Carnet& carnet) { return exportFrom(carnet, *arguments); });
+        withLogbook(*arguments, console, [&](Carnet& carnet) { return exportFrom(carnet, *arguments, console); });
     });
 }
 

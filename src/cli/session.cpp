@@ -1,14 +1,13 @@
 #include "cli/session.h"
 
+#include "base/paths.h"
 #include "base/safefile.h"
 #include "base/texts.h"
-
-#include <QFile>
 
 namespace tavrel {
 
 QString pathArgument(const std::string& argument) {
-    return QFile::decodeName(QByteArray::fromStdString(argument));
+    return pathFromBytes(QByteArray::fromStdString(argument));
 }
 
 Expected<void> Session::open(const QString& path) {

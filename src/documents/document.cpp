@@ -1,9 +1,8 @@
 #include "documents/document.h"
 
+#include "base/paths.h"
 #include "base/safefile.h"
 #include "base/texts.h"
-
-#include <QFileInfo>
 
 #include <utility>
 
@@ -19,7 +18,7 @@ Document::~Document() {
 }
 
 QString Document::displayName() const {
-    return file_.isEmpty() ? text("Main", "Untitled") : QFileInfo(file_).fileName();
+    return file_.isEmpty() ? text("Main", "Untitled") : shownName(file_);
 }
 
 bool Document::isChanged() const {
@@ -58,14 +57,17 @@ Expected<void> Document::saveAs(const QString& file) {
 }
 
 Expected<void> Document::exportAs(const QString& file, const QString& type) {
-    if (type != type_ && !file_.isEmpty() && QFileInfo(file) == QFileInfo(file_)) {
+    if (type != type_ && !file_.isEmpty() && canonicalPath(file) == canonicalPath(file_)) {
         return tl::unexpected(savingFailure(file, {text("Main", "Export onto document"), {}}));
     }
     const auto bytes = dataRepresentationOfType(type);
     if (!bytes) {
         return tl::unexpected(savingFailure(file, bytes.error()));
     }
-    return writeFile(file, *bytes);
+    if (type != type_ && isOutlet(file)) {
+        return writeToOutlet(file, *bytes);
+    }
+    return writeFile(file, *bytes).map([](const FileIdentity&) {});
 }
 
 Expected<void> Document::revert() {
@@ -82,7 +84,7 @@ void Document::markChanged() {
 
 void Document::becomeFile(const QString& file) {
     changedBesideStack_ = false;
-    const QString path = QFileInfo(file).absoluteFilePath();
+    const QString path = absolutePath(file);
     if (std::exchange(file_, path) != path) {
         Q_EMIT fileChanged();
     }

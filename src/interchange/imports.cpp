@@ -35,6 +35,9 @@ std::optional<ImportFormat> formatOf(XmlElement root) {
     return root.first("repgroup").isNull() ? std::nullopt : std::optional(ImportFormat::handheld);
 }
 
+/// Several times what a diver of a lifetime has; a file of empty elements would fill the memory with dives.
+constexpr std::size_t mostDives = 500'000;
+
 /// One import under way.
 class Import {
 public:
@@ -57,7 +60,12 @@ public:
             return failure(text("Carnet", "Import format unknown"),
                            QString::fromStdString(std::string(tree->root().name())));
         }
-        takeDives(sourceOf(*format), tree->root());
+        const DiveSource& source = sourceOf(*format);
+        const auto dives = source.group(tree->root()).children(source.diveName);
+        if (dives.count() > mostDives) {
+            return failure(text("Main", "XML file beyond limits"));
+        }
+        takeDives(source, dives);
         return result_;
     }
 
@@ -69,8 +77,7 @@ private:
         return !result_.cancelled;
     }
 
-    void takeDives(const DiveSource& source, XmlElement root) {
-        const auto dives = source.group(root).children(source.diveName);
+    void takeDives(const DiveSource& source, const XmlElement::Children& dives) {
         const std::size_t total = dives.count();
         if (total == 0) {
             return;

@@ -71,6 +71,9 @@ public:
     /// Whether no block can hold them, because they differ in type or are too large.
     bool isMixed() const { return data_ && std::holds_alternative<Mixed>(data_->numbers); }
 
+    /// Names the numbers where several series share them: the same for all of these. Null where none does.
+    const void* sharedNumbers() const { return data_ && data_->ref.loadRelaxed() > 1 ? data_.constData() : nullptr; }
+
     /// Same numbers, type codes and bits (not-a-number included).
     friend bool operator==(const Series& left, const Series& right);
 

@@ -1,5 +1,6 @@
 #include "archive/typedstreamtree.h"
 
+#include "archive/colorarchive.h"
 #include "support/streambytes.h"
 
 #include <gtest/gtest.h>
@@ -57,6 +58,38 @@ TEST(TypedStreamTree, CountsAndWritesNothingOfWhatIsDamaged) {
         JsonWriter json([&](std::string_view piece) { taken += piece; });
         EXPECT_FALSE(writeStreamJson(json, QByteArrayView(whole).first(length))) << length;
         EXPECT_EQ(taken + json.text(), "") << length;
+    }
+}
+
+TEST(TypedStreamTree, RefusesWhatUnfoldsBeyondItsBytes) {
+    const QByteArray header = streamBytes(R"(04 "typedstream" 8103e8)");
+    const auto text = [](const QByteArray& characters) {
+        const auto size = static_cast<std::uint32_t>(characters.size());
+        QByteArray bytes = streamBytes("8482");
+        for (int shift = 24; shift >= 0; shift -= 8) {
+            bytes += static_cast<char>(size >> shift & 0xff);
+        }
+        return bytes + characters;
+    };
+    const QByteArray nested =
+        QByteArray("[1").repeated(30) + '{' + QByteArray(800, 'a') + "=c}" + QByteArray("]").repeated(30);
+    const QByteArray cases[] = {
+        // A type of many steps for one byte, named by one byte each time.
+        header + text(nested) + 'x' + streamBytes("92 41").repeated(50'000),
+        // Structures of nothing.
+        header + text(QByteArray("{=}").repeated(341)) + streamBytes("92").repeated(300'000),
+        // A long text, and a class of a long name, that are named again and again.
+        header + streamBytes(R"(84"*" 84)") + text(QByteArray(100'000, 'a')) + streamBytes("92 92").repeated(10'000),
+        header + streamBytes(R"(84"@" 84 84)") + text(QByteArray(100'000, 'C')) + streamBytes("00 85 86") +
+            streamBytes("92 84 93 86").repeated(10'000),
+    };
+    for (const QByteArray& bytes : cases) {
+        JsonWriter json;
+        const auto written = writeStreamJson(json, bytes);
+        ASSERT_FALSE(written);
+        EXPECT_EQ(written.error().sentence, u"The file unfolds to far more than it could mean.");
+        EXPECT_EQ(json.text(), "");
+        EXPECT_FALSE(unarchivedColor(bytes).isValid());
     }
 }
 

@@ -45,6 +45,7 @@ protected:
         QProcess process;
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("XDG_CONFIG_HOME"), path(QStringLiteral("config")));
+        environment.insert(QStringLiteral("XDG_STATE_HOME"), path(QStringLiteral("state")));
         environment.insert(QStringLiteral("LC_ALL"), language);
         environment.insert(QStringLiteral("LANGUAGE"), QString());
         environment.insert(QStringLiteral("TZ"), QStringLiteral("UTC"));

@@ -3,14 +3,9 @@
 #include "base/safefile.h"
 #include "support/testdesktop.h"
 
-#include <QDir>
 #include <QSignalSpy>
 #include <QUndoCommand>
 #include <gtest/gtest.h>
-
-#include <csignal>
-#include <sys/resource.h>
-#include <sys/stat.h>
 
 namespace tavrel {
 
@@ -20,92 +15,6 @@ QByteArray contents(const QString& path) {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
     return file.readAll();
-}
-
-mode_t mode(const QString& path) {
-    struct stat status {};
-    EXPECT_EQ(::stat(QFile::encodeName(path).constData(), &status), 0);
-    return status.st_mode & 07777U;
-}
-
-class SafeFile : public testing::Test {
-protected:
-    QString path(const char* name) const { return folder_.filePath(QString::fromUtf8(name)); }
-    QStringList names() const {
-        return QDir(folder_.path()).entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot);
-    }
-
-private:
-    QTemporaryDir folder_;
-};
-
-TEST_F(SafeFile, replacesAFileAndKeepsItsModeAndLinks) {
-    const auto old = ::umask(027);
-    EXPECT_TRUE(writeFile(path("été.carnet"), "one"));
-    ::umask(old);
-    EXPECT_EQ(mode(path("été.carnet")), 0640U);
-    ASSERT_EQ(::chmod(QFile::encodeName(path("été.carnet")).constData(), 0604), 0);
-    ASSERT_TRUE(QDir(path("")).mkdir(QStringLiteral("sub")));
-    ASSERT_TRUE(QFile::link(QStringLiteral("../été.carnet"), path("sub/link")));
-    ASSERT_TRUE(QFile::link(path("sub/link"), path("chain")));
-    ASSERT_TRUE(QFile::link(path("new"), path("dangling")));
-
-    const auto before = FileBytes::open(path("chain"));
-    ASSERT_TRUE(before);
-    EXPECT_TRUE(writeFile(path("chain"), QByteArray(100'000, 'x')));
-    EXPECT_EQ(contents(path("été.carnet")).size(), 100'000);
-    EXPECT_EQ(mode(path("été.carnet")), 0604U);
-    EXPECT_TRUE(writeFile(path("dangling"), ""));
-    EXPECT_EQ(contents(path("new")), "");
-    EXPECT_TRUE(QFileInfo(path("chain")).isSymLink() && QFileInfo(path("dangling")).isSymLink());
-    EXPECT_EQ(before->bytes().toByteArray(), "one") << "a file being read is not changed under its reader";
-    EXPECT_EQ(names().size(), 5) << names().join(u' ').toStdString();
-
-    const auto empty = FileBytes::open(path("new"));
-    ASSERT_TRUE(empty);
-    EXPECT_TRUE(empty->bytes().isEmpty());
-}
-
-TEST_F(SafeFile, leavesEverythingAsItWasWhenItFails) {
-    ASSERT_TRUE(writeFile(path("file"), "old"));
-    ASSERT_TRUE(QDir(path("")).mkdir(QStringLiteral("folder")));
-    ASSERT_EQ(::mkfifo(QFile::encodeName(path("pipe")).constData(), 0600), 0);
-    struct Case {
-        const char* name;
-        const char16_t* written;
-        const char16_t* read;
-    };
-    const Case cases[] = {
-        {"missing/file", u"The folder does not exist.", u"There is no such file."},
-        {"file/below", u"The folder does not exist.", u"There is no such file."},
-        {"folder", u"It is a folder, not a file.", u"It is a folder, not a file."},
-        {"pipe", u"It is not a regular file.", u"It is not a regular file."},
-    };
-    for (const Case& it : cases) {
-        const auto written = writeFile(path(it.name), "new");
-        const auto read = FileBytes::open(path(it.name));
-        ASSERT_FALSE(written) << it.name;
-        ASSERT_FALSE(read) << it.name;
-        const QString name = QFileInfo(path(it.name)).fileName();
-        EXPECT_EQ(written.error().sentence,
-                  QStringLiteral("“%1” could not be saved: ").arg(name) + QString::fromUtf16(it.written));
-        EXPECT_EQ(read.error().sentence,
-                  QStringLiteral("“%1” could not be opened: ").arg(name) + QString::fromUtf16(it.read));
-        EXPECT_TRUE(written.error().detail.contains(path(it.name)));
-    }
-
-    // A write that breaks off in the middle, as on a full disk.
-    rlimit limit{};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limit), 0);
-    const rlimit small{1000, limit.rlim_max};
-    const auto signal = std::signal(SIGXFSZ, SIG_IGN);
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
-    const auto result = writeFile(path("file"), QByteArray(5000, 'x'));
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-    std::signal(SIGXFSZ, signal);
-    EXPECT_FALSE(result);
-    EXPECT_EQ(contents(path("file")), "old");
-    EXPECT_EQ(names(), (QStringList{QStringLiteral("file"), QStringLiteral("folder"), QStringLiteral("pipe")}));
 }
 
 /// A document of one text, which refuses bytes that begin with '!'.

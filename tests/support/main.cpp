@@ -8,6 +8,7 @@ int main(int argc, char** argv) {
     QTemporaryDir home;
     qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
     qputenv("XDG_DATA_HOME", home.path().toUtf8());
+    qputenv("XDG_STATE_HOME", home.path().toUtf8());
     qputenv("LC_ALL", "C.UTF-8");
     qunsetenv("LANGUAGE");
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {

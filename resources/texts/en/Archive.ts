@@ -14,6 +14,7 @@
 <message><source>Not typed stream</source><translation>The file is not a document of this program.</translation></message>
 <message><source>Root not array</source><translation>The file holds no list of records.</translation></message>
 <message><source>Too deep</source><translation>The file is nested too deeply.</translation></message>
+<message><source>Too much</source><translation>The file unfolds to far more than it could mean.</translation></message>
 <message><source>Truncated</source><translation>The file is damaged: it ends too early.</translation></message>
 <message><source>Undefined reference</source><translation>The file is damaged: it refers to something that it has not defined.</translation></message>
 <message><source>Unexpected tag</source><translation>The file is damaged: an unexpected mark stands in it.</translation></message>

@@ -23,6 +23,7 @@
 <message><source>Command line files</source><translation>Documents to open.</translation></message>
 <message><source>Command line help</source><translation>Show this help.</translation></message>
 <message><source>Command line version</source><translation>Show the version.</translation></message>
+<message><source>Copy kept</source><translation>The previous contents are kept in “%@”.</translation></message>
 <message><source>Cotation 1</source><translation>★</translation></message>
 <message><source>Countries</source><translation>Countries</translation></message>
 <message><source>Country codes</source><translation>Country Codes</translation></message>

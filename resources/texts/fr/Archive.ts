@@ -14,6 +14,7 @@
 <message><source>Not typed stream</source><translation>Le fichier n’est pas un document de ce programme.</translation></message>
 <message><source>Root not array</source><translation>Le fichier ne contient pas de liste de fiches.</translation></message>
 <message><source>Too deep</source><translation>Les éléments du fichier sont imbriqués trop profondément.</translation></message>
+<message><source>Too much</source><translation>Le fichier se déploie bien au-delà de ce qu’il peut vouloir dire.</translation></message>
 <message><source>Truncated</source><translation>Le fichier est endommagé : il se termine trop tôt.</translation></message>
 <message><source>Undefined reference</source><translation>Le fichier est endommagé : il renvoie à un élément qu’il n’a pas défini.</translation></message>
 <message><source>Unexpected tag</source><translation>Le fichier est endommagé : il contient une marque inattendue.</translation></message>

@@ -23,6 +23,7 @@
 <message><source>Command line files</source><translation>Documents à ouvrir.</translation></message>
 <message><source>Command line help</source><translation>Afficher cette aide.</translation></message>
 <message><source>Command line version</source><translation>Afficher la version.</translation></message>
+<message><source>Copy kept</source><translation>Le contenu précédent est conservé dans « %@ ».</translation></message>
 <message><source>Cotation 1</source><translation>★</translation></message>
 <message><source>Countries</source><translation>Pays</translation></message>
 <message><source>Country codes</source><translation>Codes des pays</translation></message>

@@ -3,6 +3,7 @@
 #include "app/mydocumentcontroller.h"
 #include "app/tavreldocuments.h"
 #include "app/windowmenus.h"
+#include "base/paths.h"
 #include "desktop/clock.h"
 #include "desktop/defaults.h"
 #include "desktop/notificationcentre.h"
@@ -15,7 +16,6 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QFileInfo>
 #include <QSessionManager>
 
 #include <cstdio>
@@ -72,7 +72,7 @@ void nameApplication() {
 QStringList absolutePaths(const QStringList& files) {
     QStringList paths;
     for (const QString& file : files) {
-        paths.append(QFileInfo(file).absoluteFilePath());
+        paths.append(absolutePath(file));
     }
     return paths;
 }
@@ -99,7 +99,11 @@ int main(int argc, char** argv) {
     nameApplication();
     QCommandLineParser parser;
     describe(parser);
-    if (!parser.parse(QApplication::arguments())) {
+    QStringList arguments;
+    for (int place = 0; place < argc; ++place) {
+        arguments.append(pathFromBytes(QByteArrayView(argv[place])));
+    }
+    if (!parser.parse(arguments)) {
         print(stderr, parser.errorText() + u'\n');
         return wrongUsage;
     }

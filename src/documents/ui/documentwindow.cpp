@@ -1,5 +1,7 @@
 #include "documents/ui/documentwindow.h"
 
+#include "base/paths.h"
+
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -56,7 +58,8 @@ QStringList localFiles(const QMimeData& data) {
     QStringList files;
     for (const QUrl& address : data.urls()) {
         if (address.isLocalFile()) {
-            files.append(address.toLocalFile());
+            // By its bytes, which need not be text.
+            files.append(pathFromBytes(QByteArray::fromPercentEncoding(address.path(QUrl::FullyEncoded).toLatin1())));
         }
     }
     return files;

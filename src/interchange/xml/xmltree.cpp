@@ -102,20 +102,28 @@ private:
     bool inRun_ = false;
 };
 
+// What no dive file comes near, though the parser can take it, at a cost that grows with the square.
+constexpr int mostAttributes = 1000;  ///< of an element
+constexpr int mostNamespaces = 250;   ///< in force at one place
+constexpr std::size_t mostElements = 32'000'000;
+constexpr std::size_t mostDeclarations = 1000;
+constexpr std::size_t mostDeclaredAttributes = 32;
+
 /// What the parser's events need while it runs.
 struct Reading {
     const Progress& progress;
     std::size_t size;
+    QByteArrayView rest;
     xmlParserCtxtPtr parser;
     Builder builder;
     std::size_t elements = 0;
+    std::size_t declarations = 0;
+    std::size_t declaredAttributes = 0;
     std::size_t entityBytes = 0;
     bool cancelled = false;
     bool limit = false;
     QString firstError = {};
 };
-
-constexpr std::size_t elementsPerProgress = 16384;
 
 /// How many bytes of entities a file may have gone through: more than any that means well, few enough to be quick.
 std::size_t entityAllowance(std::size_t fileSize) {
@@ -129,19 +137,43 @@ Reading* reading(void* context) {
     return state->parser == parser ? state : nullptr;
 }
 
-void startElement(void* context, const xmlChar* name, const xmlChar* prefix, const xmlChar*, int, const xmlChar**, int,
-                  int, const xmlChar**) {
+void stopBeyondLimits(Reading& state) {
+    state.limit = true;
+    xmlStopParser(state.parser);
+}
+
+/// Hands the parser its next bytes. It comes here from within an element's start, too, whose attributes it compares
+/// with each other only when it has them all.
+int readBytes(void* context, char* buffer, int length) {
+    auto& state = *static_cast<Reading*>(context);
+    // Five entries for an attribute, two for a namespace; the lists grow by doubling.
+    if (state.parser->maxatts > 2 * 5 * mostAttributes || state.parser->nsMax > 2 * 2 * mostNamespaces) {
+        state.limit = true;
+    }
+    constexpr qsizetype piece = 1 << 16;
+    const qsizetype done = static_cast<qsizetype>(state.size) - state.rest.size();
+    if (state.progress && done / piece != (done + length) / piece &&
+        !state.progress(static_cast<std::size_t>(done), state.size)) {
+        state.cancelled = true;
+    }
+    if (state.limit || state.cancelled) {
+        return 0;
+    }
+    const qsizetype count = std::min<qsizetype>(length, state.rest.size());
+    std::memcpy(buffer, state.rest.data(), static_cast<std::size_t>(count));
+    state.rest = state.rest.sliced(count);
+    return static_cast<int>(count);
+}
+
+void startElement(void* context, const xmlChar* name, const xmlChar* prefix, const xmlChar*, int, const xmlChar**,
+                  int attributes, int, const xmlChar**) {
     Reading* state = reading(context);
     if (!state) {
         return;
     }
-    if (++state->elements % elementsPerProgress == 0 && state->progress) {
-        const auto done = static_cast<std::size_t>(std::max(0L, xmlByteConsumed(state->parser)));
-        if (!state->progress(std::min(done, state->size), state->size)) {
-            state->cancelled = true;
-            xmlStopParser(state->parser);
-            return;
-        }
+    if (++state->elements > mostElements || attributes > mostAttributes || state->parser->nsNr > 2 * mostNamespaces) {
+        stopBeyondLimits(*state);
+        return;
     }
     const xmlChar* whole = prefix ? xmlDictQLookup(state->parser->dict, prefix, name) : name;
     state->builder.begin(reinterpret_cast<const char*>(whole));
@@ -168,8 +200,7 @@ xmlEntityPtr counted(void* context, xmlEntityPtr entity, bool endless) {
     if (!endless && state.entityBytes <= entityAllowance(state.size)) {
         return entity;
     }
-    state.limit = true;
-    xmlStopParser(parser);
+    stopBeyondLimits(state);
     return nullptr;
 }
 
@@ -188,6 +219,45 @@ xmlEntityPtr parameterEntityNamed(void* context, const xmlChar* name) {
     return nullptr;
 }
 
+/// Whether one more declaration may be heard.
+bool mayDeclare(void* context) {
+    auto& state = *static_cast<Reading*>(static_cast<xmlParserCtxtPtr>(context)->_private);
+    if (++state.declarations <= mostDeclarations) {
+        return true;
+    }
+    stopBeyondLimits(state);
+    return false;
+}
+
+void declareEntity(void* context, const xmlChar* name, int type, const xmlChar* publicId, const xmlChar* systemId,
+                   xmlChar* content) {
+    if (mayDeclare(context)) {
+        xmlSAX2EntityDecl(context, name, type, publicId, systemId, content);
+    }
+}
+
+/// Attributes mean nothing here; declared ones would only be added to every element.
+void declareAttribute(void* context, const xmlChar*, const xmlChar*, int, int, const xmlChar*,
+                      xmlEnumerationPtr values) {
+    xmlFreeEnumeration(values);
+    auto& state = *static_cast<Reading*>(static_cast<xmlParserCtxtPtr>(context)->_private);
+    if (++state.declaredAttributes > mostDeclaredAttributes) {
+        stopBeyondLimits(state);
+    }
+}
+
+void declareElement(void* context, const xmlChar*, int, xmlElementContentPtr) {
+    mayDeclare(context);
+}
+
+void declareNotation(void* context, const xmlChar*, const xmlChar*, const xmlChar*) {
+    mayDeclare(context);
+}
+
+void declareUnparsedEntity(void* context, const xmlChar*, const xmlChar*, const xmlChar*, const xmlChar*) {
+    mayDeclare(context);
+}
+
 void noteError(void* context, xmlErrorPtr error) {
     auto& state = *static_cast<Reading*>(static_cast<xmlParserCtxtPtr>(context)->_private);
     state.limit = state.limit || error->code == XML_ERR_ENTITY_LOOP || error->code == XML_ERR_NO_MEMORY;
@@ -199,8 +269,8 @@ void noteError(void* context, xmlErrorPtr error) {
     }
 }
 
-/// The parser's events come to the builder. Those of declarations stay with libxml2, which needs them to watch
-/// entities.
+/// The parser's events come to the builder. Entities stay with libxml2 as well, which needs them to watch their use;
+/// other declarations are counted and forgotten.
 void listen(xmlSAXHandler& events) {
     events.startElementNs = startElement;
     events.endElementNs = endElement;
@@ -209,6 +279,11 @@ void listen(xmlSAXHandler& events) {
     events.cdataBlock = characters;
     events.getEntity = entityNamed;
     events.getParameterEntity = parameterEntityNamed;
+    events.entityDecl = declareEntity;
+    events.attributeDecl = declareAttribute;
+    events.elementDecl = declareElement;
+    events.notationDecl = declareNotation;
+    events.unparsedEntityDecl = declareUnparsedEntity;
     events.reference = nullptr;
     events.comment = nullptr;
     events.processingInstruction = nullptr;
@@ -325,13 +400,12 @@ Expected<XmlTree> XmlTree::parse(QByteArrayView bytes, const Progress& progress)
     tree.names_.reset(parser->dict);
 
     const Silence silence;
-    Reading state{progress, static_cast<std::size_t>(bytes.size()), parser.get(), Builder(*tree.nodes_)};
+    Reading state{progress, static_cast<std::size_t>(bytes.size()), bytes, parser.get(), Builder(*tree.nodes_)};
     parser->_private = &state;
     listen(*parser->sax);
     // Without XML_PARSE_NOENT, XML_PARSE_DTDLOAD and XML_PARSE_HUGE: nothing is resolved and the limits hold.
     constexpr int options = XML_PARSE_RECOVER | XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
-    parser->myDoc =
-        xmlCtxtReadMemory(parser.get(), bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr, options);
+    parser->myDoc = xmlCtxtReadIO(parser.get(), readBytes, nullptr, &state, nullptr, nullptr, options);
     state.builder.endAll();
     if (state.cancelled) {
         return failure(text("Main", "Cancelled"));

@@ -99,6 +99,44 @@ TEST(XmlTree, refusesWhatHasNoEndOrNoElement) {
     EXPECT_TRUE(XmlTree::parse(nested(200)));
 }
 
+QByteArray numbered(const char* before, const char* after, int count) {
+    QByteArray all;
+    for (int number = 0; number < count; ++number) {
+        all += before + QByteArray::number(number) + after;
+    }
+    return all;
+}
+
+TEST(XmlTree, refusesWhatCostsTheSquareOfItsSize) {
+    const QByteArray defaults = "<!ATTLIST a " + numbered("b", " CDATA 'c' ", 2000) + ">";
+    for (const QByteArray& file : {
+             "<p><a " + numbered("b", "='' ", 300'000) + "/></p>",
+             "<p><a " + numbered("xmlns:b", "='c' ", 100'000) + "/></p>",
+             "<!DOCTYPE p [" + numbered("<!ATTLIST a b", " CDATA #IMPLIED>", 20'000) + "]><p/>",
+             "<!DOCTYPE p [" + defaults + "]><p>" + QByteArray("<a/>").repeated(2000) + "</p>",
+             "<!DOCTYPE p [" + numbered("<!ENTITY b", " 'c'>", 500'000) + "]><p/>",
+             "<!DOCTYPE p [" + numbered("<!ELEMENT b", " EMPTY>", 20'000) + "]><p/>",
+             "<!DOCTYPE p [" + numbered("<!NOTATION b", " SYSTEM 'c'>", 20'000) + "]><p/>",
+         }) {
+        const auto tree = XmlTree::parse(file);
+        ASSERT_FALSE(tree) << file.left(60).toStdString();
+        EXPECT_EQ(tree.error().sentence, u"The XML file nests or grows beyond all reason and was not read.");
+    }
+    // What a well-meant file may hold.
+    EXPECT_EQ(
+        textAt("<!DOCTYPE p [<!ELEMENT p (a*)><!ELEMENT a (#PCDATA)><!ATTLIST a " + numbered("b", " CDATA 'c' ", 20) +
+                   "><!ENTITY e 'x'>]><p><a " + numbered("d", "='e' ", 500) + ">1</a></p>",
+               "a"),
+        u"1");
+}
+
+TEST(XmlTree, canBeCancelledWithinAnElementsStart) {
+    const QByteArray file = "<p><a b='" + QByteArray(1'000'000, 'x') + "'/></p>";
+    int told = 0;
+    EXPECT_FALSE(XmlTree::parse(file, [&](std::size_t, std::size_t) { return ++told < 3; }));
+    EXPECT_EQ(told, 3);
+}
+
 TEST(XmlTree, canBeCancelled) {
     const QByteArray file = "<p>" + QByteArray("<a>1</a>").repeated(100'000) + "</p>";
     std::vector<std::size_t> told;
