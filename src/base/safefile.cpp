@@ -139,7 +139,11 @@ Expected<FileBytes> FileBytes::open(const QString& path) {
     return result;
 }
 
-Expected<FileIdentity> writeFile(const QString& path, QByteArrayView bytes) {
+Expected<void> writeFile(const QString& path, QByteArrayView bytes) {
+    return replaceFile(path, bytes).map([](const FileIdentity&) {});
+}
+
+Expected<FileIdentity> replaceFile(const QString& path, QByteArrayView bytes) {
     const QByteArray target = resolvedPath(pathBytes(path));
     struct stat old {};
     const bool exists = !target.isEmpty() && ::stat(target.constData(), &old) == 0;

@@ -26,8 +26,10 @@ private:
 
 /// Writes beside the file, flushes to the disk and renames: on any failure the old file is as it was. Keeps the owner,
 /// permissions, access list and user attributes of an existing file and follows a symbolic link to it. A file that
-/// cannot be replaced so is written in place, after a copy of it was made. The identity is that of the file written.
-Expected<FileIdentity> writeFile(const QString& path, QByteArrayView bytes);
+/// cannot be replaced so is written in place, after a copy of it was made.
+Expected<void> writeFile(const QString& path, QByteArrayView bytes);
+/// The same, for those who will want to know what becomes of the file.
+Expected<FileIdentity> replaceFile(const QString& path, QByteArrayView bytes);
 
 /// Whether the path means something that bytes only pass through: a pipe, a terminal, an open file's number.
 bool isOutlet(const QString& path);

@@ -67,7 +67,7 @@ Expected<void> Document::exportAs(const QString& file, const QString& type) {
     if (type != type_ && isOutlet(file)) {
         return writeToOutlet(file, *bytes);
     }
-    return writeFile(file, *bytes).map([](const FileIdentity&) {});
+    return writeFile(file, *bytes);
 }
 
 Expected<void> Document::revert() {

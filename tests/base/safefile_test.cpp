@@ -280,7 +280,7 @@ TEST_F(SafeFile, tellsWhatBecameOfAFile) {
     using State = FileIdentity::State;
     const QString file = path("file");
     const QByteArray name = pathBytes(file);
-    const auto written = writeFile(file, "one");
+    const auto written = replaceFile(file, "one");
     ASSERT_TRUE(written);
     const auto read = FileBytes::open(file);
     ASSERT_TRUE(read);
