@@ -1,7 +1,7 @@
+#include "base/safefile.h"
 #include "benchmarks/ratio.h"
 #include "interchange/exports.h"
 #include "interchange/imports.h"
-#include "base/safefile.h"
 #include "support/testdesktop.h"
 
 #include <benchmark/benchmark.h>

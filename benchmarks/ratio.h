@@ -8,8 +8,8 @@
 namespace tavrel {
 
 /// Times the work, and in turn with it the reference that bounds it. The counter "ratio" is work by reference, each at
-/// its fastest, which other programs on the machine disturb least. Between turns comes what is not timed, such as dropping
-/// what the work made.
+/// its fastest, which other programs on the machine disturb least. Between turns comes what is not timed, such as
+/// dropping what the work made.
 template <class Work, class Reference, class Between>
 void againstReference(benchmark::State& state, Work work, Reference reference, Between between) {
     using Clock = std::chrono::steady_clock;

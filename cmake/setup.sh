@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# What ./run and ./test need on a Debian 12 machine: installs the packages that are missing.
+# What ./run and ./test need on a Debian 12 machine, and the packages given: installs those that are missing.
 set -euo pipefail
 
 packages=(
@@ -9,6 +9,7 @@ packages=(
   libfmt-dev libexpected-dev libcli11-dev libxml2-dev zlib1g-dev
   libgtest-dev libgmock-dev libbenchmark-dev locales
   fonts-dejavu-core
+  "$@"
 )
 installed=$(dpkg-query -W -f='${db:Status-Status} ${Package}\n' "${packages[@]}" 2>/dev/null || true)
 missing=()

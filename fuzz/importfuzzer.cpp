@@ -1,8 +1,8 @@
-#include "interchange/imports.h"
 #include "desktop/alerts.h"
 #include "desktop/clock.h"
 #include "desktop/picklists.h"
 #include "desktop/preferences.h"
+#include "interchange/imports.h"
 
 #include <QTemporaryDir>
 

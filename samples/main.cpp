@@ -1,8 +1,8 @@
+#include "base/safefile.h"
+#include "base/texts.h"
 #include "cli/clidesktop.h"
 #include "cli/logbookdriver.h"
 #include "divelist.h"
-#include "base/safefile.h"
-#include "base/texts.h"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>

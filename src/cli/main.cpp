@@ -4,6 +4,7 @@
 #include "cli/documentcommands.h"
 #include "cli/inspectcommand.h"
 #include "cli/interchangecommands.h"
+#include "cli/shellfilecommand.h"
 
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
@@ -22,11 +23,13 @@ int main(int argc, char** argv) try {
     tavrel::setTextLanguage();
     CLI::App app("Tavrel on the command line: the documents and calculators of the divers' application", "tavrel-cli");
     app.set_version_flag("--version", "tavrel-cli " TAVREL_VERSION);
+    app.footer("Exit codes: 0 done, 1 failed (the reason on standard error, the file as it was), 2 wrong usage.");
     tavrel::Console console{std::cout, std::cerr};
     tavrel::addDocumentCommands(app, console);
     tavrel::addInspectCommand(app, console);
     tavrel::addInterchangeCommands(app, console);
     tavrel::addCalcCommand(app, console);
+    tavrel::addShellFileCommand(app, console);
     return tavrel::runCommandLine(app, argc, argv, console);
 } catch (const std::exception& error) {
     std::fprintf(stderr, "tavrel-cli: %s\n", error.what());

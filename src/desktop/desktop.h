@@ -8,7 +8,8 @@ class NotificationCentre;
 class PickLists;
 class Preferences;
 
-/// What a document needs of the desktop it lives on. The application, the command line and the tests each build their own.
+/// What a document needs of the desktop it lives on. The application, the command line and the tests each build their
+/// own.
 struct Desktop {
     Preferences& preferences;
     NotificationCentre& notifications;
