@@ -101,6 +101,7 @@ const PreferenceKey keys[] = {
     {&settings::yMinorTicks, "yMinorTicksSwitch", 4, Tell::profile, grid, Title("Preferences", "Minor ticks of depth")},
     {&settings::dashedLines, "dashedLinesSwitch", 4, Tell::profile, grid, Title("Preferences", "Dashed lines")},
     {&settings::ppO2Line, "ppO2Switch", 4, Tell::profile, curve, Title("Preferences", "ppO2 line")},
+    {&settings::profileShadow, "profileShadowSwitch", 4, Tell::profile, curve, Title("Preferences", "Curve shadow")},
     {&settings::stopInterval, "stopIntervalField", 5, Tell::deco, decompressionStops,
      Title("Preferences", "Stop interval"), Title("Preferences", "Meters")},
     {&settings::lowGF, "lowGFField", 5, Tell::deco, gradientFactors, Title("Preferences", "Low gradient factor"),

@@ -4,6 +4,7 @@
 #include "cli/documentcommands.h"
 #include "cli/inspectcommand.h"
 #include "cli/interchangecommands.h"
+#include "cli/profilecommand.h"
 #include "cli/shellfilecommand.h"
 
 #include <CLI/CLI.hpp>
@@ -29,6 +30,7 @@ int main(int argc, char** argv) try {
     tavrel::addInspectCommand(app, console);
     tavrel::addInterchangeCommands(app, console);
     tavrel::addCalcCommand(app, console);
+    tavrel::addProfileCommand(app, console);
     tavrel::addShellFileCommand(app, console);
     return tavrel::runCommandLine(app, argc, argv, console);
 } catch (const std::exception& error) {

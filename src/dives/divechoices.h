@@ -126,7 +126,7 @@ inline constexpr Choice suit[] = {
 inline constexpr Choice configuration[] = {{Configuration::tek, {"Carnet", "Tek"}},
                                            {Configuration::noTek, {"Carnet", "No Tek"}}};
 
-/// Codes of the sampling interval, as profile/profileseries.h times them.
+/// Codes of the sampling interval, as profile/sampling.h times them.
 inline constexpr Choice samplingRate[] = {
     {0, literal("10 s")},  {1, literal("20 s")}, {2, literal("30 s")}, {3, literal("1 min")},
     {4, literal("2 min")}, {5, literal("4 s")},  {6, literal("1 s")},  {7, literal("5 s")},

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "profile/sampling.h"
 #include "records/series.h"
 
 #include <array>
@@ -40,8 +41,5 @@ inline constexpr std::array<ProfileSeriesKind, 7> profileSeriesKinds{{
     {&ProfileSeries::GAZ_Flag, false},
     {&ProfileSeries::PRESS_Data, true},
 }};
-
-/// Sampling interval of each code 0 to 7, seconds. The order is the stored one, not sorted by interval.
-inline constexpr std::array<int, 8> samplingIntervals{10, 20, 30, 60, 120, 4, 1, 5};
 
 }  // namespace tavrel

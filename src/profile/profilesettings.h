@@ -19,5 +19,7 @@ inline constexpr Setting<bool> yMinorTicks{"y minor ticks", true, true};
 inline constexpr Setting<bool> dashedLines{"dashed lines", {}, true};
 /// The line of the oxygen's partial pressure.
 inline constexpr Setting<bool> ppO2Line{"ppO2 line", {}, false};
+/// A shadow below the curves.
+inline constexpr Setting<bool> profileShadow{"profile shadow", {}, false};
 
 }  // namespace tavrel::settings

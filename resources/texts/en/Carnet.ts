@@ -50,6 +50,7 @@
 <message><source>Configuration</source><translation>&#13;Configuration: </translation></message>
 <message><source>Copying</source><translation>Copying the dives…</translation></message>
 <message><source>Current</source><translation>&#13;Current: </translation></message>
+<message><source>Datas</source><translation>%d values</translation></message>
 <message><source>Date</source><translation>&#13;Date: </translation></message>
 <message><source>Deco algorythm type</source><translation>&#13;Algorithm: </translation></message>
 <message><source>Deco conservatism</source><translation>&#13;Conservatism: </translation></message>
@@ -64,6 +65,7 @@
 <message><source>Difficulty level</source><translation>&#13;Difficulty: </translation></message>
 <message><source>Diluent</source><translation>&#13;Diluent tank: </translation></message>
 <message><source>Dive number</source><translation>Dive number </translation></message>
+<message><source>Dive number profile datas title</source><translation>Profile data of dive %d</translation></message>
 <message><source>Dive number title</source><translation>Dive no. %d</translation></message>
 <message><source>Dive type</source><translation>&#13;Dive type: </translation></message>
 <message><source>Drift</source><translation>Drift</translation></message>
@@ -207,6 +209,7 @@
 <message><source>Litres per minute</source><translation>%.1f L/min</translation></message>
 <message><source>Location</source><translation>&#13;Place: </translation></message>
 <message><source>Low tide</source><translation>Low tide</translation></message>
+<message><source>Max and average depth</source><translation>Maximum depth %.1f m, average %.1f m</translation></message>
 <message><source>Medium</source><translation>Medium</translation></message>
 <message><source>Menu delete dives</source><translation>Delete Dives…</translation></message>
 <message><source>Menu dive</source><translation>Dive</translation></message>
@@ -222,6 +225,7 @@
 <message><source>Night</source><translation>&#13;Night dive</translation></message>
 <message><source>Nitrox tables</source><translation>&#13;Nitrox tables, computer: </translation></message>
 <message><source>No Tek</source><translation>Recreational</translation></message>
+<message><source>No datas</source><translation>No data</translation></message>
 <message><source>No dive to export</source><translation>The logbook holds no dive, and UDDF cannot be written without one.</translation></message>
 <message><source>No dives yet</source><translation>No dives yet. Press %@ to enter the first one.</translation></message>
 <message><source>No such field</source><translation>Dives have no field "%@" that can be used this way.</translation></message>
@@ -256,12 +260,14 @@
 <message><source>Previous dive</source><translation>Previous dive</translation></message>
 <message><source>Profile</source><translation>Profile</translation></message>
 <message><source>Profile datas</source><translation>Profile data</translation></message>
+<message><source>Profile of dive</source><translation>Profile of dive %d</translation></message>
 <message><source>Quarry</source><translation>Quarry</translation></message>
 <message><source>Rainy</source><translation>Rainy</translation></message>
 <message><source>Rating good</source><translation>Good</translation></message>
 <message><source>Rating never again</source><translation>Never again</translation></message>
 <message><source>Rating poor</source><translation>Poor</translation></message>
 <message><source>Rating unforgettable</source><translation>Unforgettable</translation></message>
+<message><source>Recorded points</source><translation>Recorded points: %d</translation></message>
 <message><source>Recreational</source><translation>Recreational</translation></message>
 <message><source>Recuperation</source><translation>Recovery</translation></message>
 <message><source>Renumber explanation</source><translation>All dives are numbered anew, in the order in which the table shows them.</translation></message>
@@ -270,6 +276,7 @@
 <message><source>Renumbering</source><translation>Renumbering the dives…</translation></message>
 <message><source>Replace dive</source><translation>Replace Dive %d</translation></message>
 <message><source>SCR rebreather</source><translation>&#13;SCR rebreather</translation></message>
+<message><source>Sampling rate</source><translation>Sampling interval: %@</translation></message>
 <message><source>Scaphander</source><translation>&#13;hCCR rebreather</translation></message>
 <message><source>Semi-dry suit</source><translation>Semi-dry suit</translation></message>
 <message><source>Shorty</source><translation>Shorty</translation></message>

@@ -19,6 +19,7 @@
 <message><source>Column to highlight</source><translation>Column</translation></message>
 <message><source>Columns</source><translation>Columns of the logbook</translation></message>
 <message><source>Curve</source><translation>Profile</translation></message>
+<message><source>Curve shadow</source><translation>Shadow below the curve</translation></message>
 <message><source>Dashed lines</source><translation>Dashed grid lines</translation></message>
 <message><source>Decompression stops</source><translation>Decompression stops</translation></message>
 <message><source>Depth and time</source><translation>Depth and time</translation></message>

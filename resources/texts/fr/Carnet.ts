@@ -50,6 +50,7 @@
 <message><source>Configuration</source><translation>&#13;Configuration : </translation></message>
 <message><source>Copying</source><translation>Copie des plongées…</translation></message>
 <message><source>Current</source><translation>&#13;Courant : </translation></message>
+<message><source>Datas</source><translation>%d valeurs</translation></message>
 <message><source>Date</source><translation>&#13;Date : </translation></message>
 <message><source>Deco algorythm type</source><translation>&#13;Algorithme : </translation></message>
 <message><source>Deco conservatism</source><translation>&#13;Conservatisme : </translation></message>
@@ -64,6 +65,7 @@
 <message><source>Difficulty level</source><translation>&#13;Difficulté : </translation></message>
 <message><source>Diluent</source><translation>&#13;Bloc de diluant : </translation></message>
 <message><source>Dive number</source><translation>Plongée numéro </translation></message>
+<message><source>Dive number profile datas title</source><translation>Données du profil de la plongée %d</translation></message>
 <message><source>Dive number title</source><translation>Plongée n° %d</translation></message>
 <message><source>Dive type</source><translation>&#13;Type de plongée : </translation></message>
 <message><source>Drift</source><translation>Dérivante</translation></message>
@@ -207,6 +209,7 @@
 <message><source>Litres per minute</source><translation>%.1f L/min</translation></message>
 <message><source>Location</source><translation>&#13;Lieu : </translation></message>
 <message><source>Low tide</source><translation>Basse mer</translation></message>
+<message><source>Max and average depth</source><translation>Profondeur maximale %.1f m, moyenne %.1f m</translation></message>
 <message><source>Medium</source><translation>Moyenne</translation></message>
 <message><source>Menu delete dives</source><translation>Supprimer les plongées…</translation></message>
 <message><source>Menu dive</source><translation>Plongée</translation></message>
@@ -222,6 +225,7 @@
 <message><source>Night</source><translation>&#13;Plongée de nuit</translation></message>
 <message><source>Nitrox tables</source><translation>&#13;Tables nitrox, ordinateur : </translation></message>
 <message><source>No Tek</source><translation>Loisir</translation></message>
+<message><source>No datas</source><translation>Pas de données</translation></message>
 <message><source>No dive to export</source><translation>Le carnet ne contient aucune plongée, et l’UDDF ne peut s’écrire sans.</translation></message>
 <message><source>No dives yet</source><translation>Aucune plongée. Appuyez sur %@ pour saisir la première.</translation></message>
 <message><source>No such field</source><translation>Les plongées n’ont pas de champ « %@ » utilisable ainsi.</translation></message>
@@ -256,12 +260,14 @@
 <message><source>Previous dive</source><translation>Plongée précédente</translation></message>
 <message><source>Profile</source><translation>Profil</translation></message>
 <message><source>Profile datas</source><translation>Données du profil</translation></message>
+<message><source>Profile of dive</source><translation>Profil de la plongée %d</translation></message>
 <message><source>Quarry</source><translation>Carrière</translation></message>
 <message><source>Rainy</source><translation>Pluvieux</translation></message>
 <message><source>Rating good</source><translation>Bonne</translation></message>
 <message><source>Rating never again</source><translation>Plus jamais</translation></message>
 <message><source>Rating poor</source><translation>Décevante</translation></message>
 <message><source>Rating unforgettable</source><translation>Inoubliable</translation></message>
+<message><source>Recorded points</source><translation>Points enregistrés : %d</translation></message>
 <message><source>Recreational</source><translation>Loisir</translation></message>
 <message><source>Recuperation</source><translation>Récupération</translation></message>
 <message><source>Renumber explanation</source><translation>Toutes les plongées sont renumérotées, dans l’ordre où le tableau les montre.</translation></message>
@@ -270,6 +276,7 @@
 <message><source>Renumbering</source><translation>Renumérotation des plongées…</translation></message>
 <message><source>Replace dive</source><translation>Remplacer la plongée %d</translation></message>
 <message><source>SCR rebreather</source><translation>&#13;Recycleur SCR</translation></message>
+<message><source>Sampling rate</source><translation>Intervalle d’échantillonnage : %@</translation></message>
 <message><source>Scaphander</source><translation>&#13;Recycleur hCCR</translation></message>
 <message><source>Semi-dry suit</source><translation>Combinaison semi-étanche</translation></message>
 <message><source>Shorty</source><translation>Shorty</translation></message>

@@ -12,6 +12,7 @@
 <message><source>No such row</source><translation>Il n’y a pas de ligne %d : le document compte %d fiches, numérotées à partir de 0.</translation></message>
 <message><source>No such type</source><translation>« %@ » n’est pas un type de document. Types : %@.</translation></message>
 <message><source>Not a logbook</source><translation>« %@ » n’est pas un carnet de plongée.</translation></message>
+<message><source>Not a replacement</source><translation>« %@ » n’est pas un remplacement. Les remplacements s’écrivent SÉRIE=FICHIER ; les séries sont depth, ascent, slow, ceiling, surface, gas et pressure.</translation></message>
 <message><source>Not an entry</source><translation>« %@ » n’est pas de la forme champ=valeur.</translation></message>
 <message><source>Not decimal degrees</source><translation>« %@ » n’est pas en degrés décimaux. Faut-il --sexagesimal ?</translation></message>
 <message><source>Not sexagesimal</source><translation>« %@ » n’est pas en degrés, minutes et secondes.</translation></message>
@@ -19,6 +20,7 @@
 <message><source>Output not written</source><translation>La sortie n’a pas pu être écrite.</translation></message>
 <message><source>References</source><translation>Références : %d</translation></message>
 <message><source>Row</source><translation>Ligne</translation></message>
+<message><source>Seconds</source><translation>%d s</translation></message>
 <message><source>System version</source><translation>Version du système : %d</translation></message>
 </context>
 </TS>

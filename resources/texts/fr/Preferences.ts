@@ -19,6 +19,7 @@
 <message><source>Column to highlight</source><translation>Colonne</translation></message>
 <message><source>Columns</source><translation>Colonnes du carnet</translation></message>
 <message><source>Curve</source><translation>Profil</translation></message>
+<message><source>Curve shadow</source><translation>Ombre sous la courbe</translation></message>
 <message><source>Dashed lines</source><translation>Grille en pointillés</translation></message>
 <message><source>Decompression stops</source><translation>Paliers de décompression</translation></message>
 <message><source>Depth and time</source><translation>Profondeur et durée</translation></message>

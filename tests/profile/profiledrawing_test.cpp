@@ -1,0 +1,147 @@
+#include "profile/profiledrawing.h"
+
+#include "drawing/thinning.h"
+#include "profile/profiles.h"
+
+#include <QImage>
+#include <QPainter>
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace tavrel {
+
+namespace {
+
+template <class Primitive>
+std::vector<Primitive> all(const Drawing& drawing) {
+    std::vector<Primitive> found;
+    for (const auto& primitive : drawing.primitives()) {
+        if (const auto* it = std::get_if<Primitive>(&primitive)) {
+            found.push_back(*it);
+        }
+    }
+    return found;
+}
+
+/// Ten thousand samples of a second with every flag set: what a picture must make legible.
+ProfileDive crowded() {
+    std::vector<double> depths(10000);
+    for (std::size_t sample = 0; sample < depths.size(); ++sample) {
+        depths[sample] = 25 + 20 * std::sin(static_cast<double>(sample) * 0.01);
+    }
+    depths[5001] = 180;
+    ProfileDive dive = diveOf(depths, 0);
+    const std::vector<qint32> ones(depths.size(), 1);
+    dive.series.ASC_Flag = dive.series.SLOW_Flag = dive.series.CEIL_Flag = dive.series.SURF_Flag =
+        dive.series.GAZ_Flag = Series::ofIntegers(ones);
+    return dive;
+}
+
+TEST(ThinnedPath, keepsWhatShows) {
+    EXPECT_EQ(thinnedPath({}, 1).elementCount(), 0);
+    const std::vector<QPointF> line{{0, 0}, {0.1, 5}, {0.2, 1}, {0.3, -3}, {0.4, 2}, {0.5, 1}, {2, 2}, {3.5, 1}};
+    const QPainterPath path = thinnedPath(line, 1);
+    std::vector<QPointF> kept;
+    for (int index = 0; index < path.elementCount(); ++index) {
+        kept.push_back(path.elementAt(index));
+    }
+    EXPECT_EQ(kept, (std::vector<QPointF>{{0, 0}, {0.1, 5}, {0.3, -3}, {0.5, 1}, {2, 2}, {3.5, 1}}));
+    const double nan = std::nan("");
+    EXPECT_EQ(thinnedPath({{0, 0}, {1, nan}, {2, 1e300}, {3, 0}}, 1).boundingRect(), QRectF(0, 0, 3, 1e5));
+}
+
+TEST(ProfileDrawing, staysLegibleWhereFlagsAndLabelsCrowd) {
+    ProfileStyle style;
+    style.dashedLines = true;
+    style.plotColor = QColor(1, 2, 3);
+    const ProfileDive dive = crowded();
+    const ProfileGeometry geometry = profileGeometry(dive, style);
+    EXPECT_EQ(geometry.icons.size(), 40000U) << "the figures are all there";
+    const Drawing drawing = profileDrawing(geometry, dive, style);
+
+    int points = 0;
+    double deepest = 1000;
+    for (const auto& line : all<Drawing::Line>(drawing)) {
+        points += line.path.elementCount();
+        if (line.colour == style.plotColor) {
+            deepest = line.path.boundingRect().top();
+        }
+    }
+    EXPECT_LT(points, 12000);
+    EXPECT_NEAR(deepest, 583 - 180 * 430.0 / 181, 1e-9) << "the deepest sample is among the points kept";
+
+    const auto icons = all<Drawing::Icon>(drawing);
+    EXPECT_LT(icons.size(), 600U);
+    EXPECT_GT(icons.size(), 100U);
+    std::vector<QRectF> flags;
+    for (const auto& icon : icons) {
+        if (icon.name == u"alarmeGAZ") {
+            const QRectF place(icon.at, icon.size);
+            EXPECT_TRUE(QRectF(QPointF(), drawing.size()).contains(place));
+            for (const QRectF& other : flags) {
+                EXPECT_FALSE(place.intersects(other));
+            }
+            flags.push_back(place);
+        }
+    }
+    EXPECT_FALSE(flags.empty());
+
+    std::vector<double> times;
+    for (const auto& text : all<Drawing::Text>(drawing)) {
+        if (text.at.y() == 123) {
+            times.push_back(text.at.x());
+        }
+    }
+    ASSERT_GT(times.size(), 3U);
+    for (std::size_t label = 1; label < times.size(); ++label) {
+        EXPECT_GT(times[label] - times[label - 1], 28);
+    }
+}
+
+TEST(ProfileDrawing, paintsInTheChosenColours) {
+    ProfileStyle style;
+    style.plotColor = QColor(255, 128, 0);
+    style.backgroundColor = Qt::green;
+    style.alphaBackground = 0.5;
+    style.fillColor = Qt::black;
+    style.alphaFill = 1;
+    // From 40 m to the surface and back in one line each way; ten points to the metre.
+    const ProfileDive dive = diveOf({0, 42, 42, 42});
+    const auto painted = [&](int scale) {
+        const Drawing drawing = profileDrawing(dive, style);
+        QImage image(drawing.size().toSize() * scale, QImage::Format_RGB32);
+        image.fill(Qt::magenta);
+        QPainter painter(&image);
+        drawing.paint(painter, image.rect());
+        return image;
+    };
+    for (const int scale : {1, 2}) {
+        const QImage image = painted(scale);
+        const auto at = [&](double x, double y) {
+            return image.pixelColor(qRound(x * scale), qRound((625 - y) * scale));
+        };
+        EXPECT_EQ(at(300, 400), QColor(Qt::black)) << "filled";
+        EXPECT_EQ(at(660, 200), QColor(127, 255, 127)) << "the background at half its strength on white";
+        const QColor curve = at(300, 163);
+        EXPECT_GT(curve.red(), 100);
+        EXPECT_LT(curve.blue(), 80);
+    }
+    style.fillPlot = false;
+    style.gradientYes = true;
+    const QImage gradient = painted(1);
+    EXPECT_EQ(gradient.pixelColor(600, 625 - 145).blue(), 1);
+    EXPECT_NEAR(gradient.pixelColor(600, 625 - 363).blue(), 128, 2);
+    EXPECT_NEAR(gradient.pixelColor(600, 625 - 580).blue(), 253, 2);
+}
+
+TEST(ProfileDrawing, describesItself) {
+    const Drawing drawing = profileDrawing(diveOf({0, 30, 20, 0}, 3), plainStyle());
+    EXPECT_EQ(drawing.description, u"4 samples over 3 minutes, maximum depth 30.0 m, average depth 12.5 m.");
+    EXPECT_EQ(drawing.table.rows, 4);
+    EXPECT_EQ(profileDrawing(diveOf({0}), plainStyle()).description, u"This dive has no recorded profile.");
+}
+
+}  // namespace
+
+}  // namespace tavrel
