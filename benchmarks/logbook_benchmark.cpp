@@ -23,7 +23,7 @@ namespace {
 constexpr int diveCount = 10000;
 constexpr int sampleCount = 600;
 
-using Numbers = TypedStreamWriter::Numbers;
+using Numbers = SeriesNumbers;
 using Dives = std::vector<DivePointer>;
 
 // A computer that notes metres and bar in tenths. The diver goes down in a tenth of the dive, wanders about the bottom

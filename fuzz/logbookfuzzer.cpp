@@ -36,7 +36,7 @@ void require(QByteArrayView bytes, const RecordLayout<Record>& layout) {
     if (!file) {
         return;
     }
-    for (const auto numbers : {TypedStreamWriter::Numbers::shared, TypedStreamWriter::Numbers::literal}) {
+    for (const auto numbers : {SeriesNumbers::shared, SeriesNumbers::literal}) {
         const QByteArray written = writeRecords(file->records, layout, numbers);
         const auto again = readRecords(written, layout);
         if (!again || again->records.size() != file->records.size() ||

@@ -1,6 +1,25 @@
 #include "archive/recordjson.h"
 
-namespace tavrel::recordjson {
+#include "base/jsonwriter.h"
+
+#include <QCryptographicHash>
+
+namespace tavrel {
+
+namespace {
+
+void write(JsonWriter& json, qint32 value) {
+    json.value(value);
+}
+void write(JsonWriter& json, float value) {
+    json.value(value);
+}
+void write(JsonWriter& json, const QString& value) {
+    value.isNull() ? json.null() : json.value(value);
+}
+void write(JsonWriter& json, const Date& value) {
+    value.isNull() ? json.null() : json.value(value.toIso());
+}
 
 void write(JsonWriter& json, const Series& value) {
     if (value.isNull()) {
@@ -35,4 +54,32 @@ void write(JsonWriter& json, const Image& value) {
     json.endObject();
 }
 
-}  // namespace tavrel::recordjson
+QString latin(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+}  // namespace
+
+void writeRecordsJson(JsonWriter& json, const QString& type, const RecordFile& file, const RecordLayout& layout) {
+    json.beginObject();
+    json.member(u"type", type);
+    json.member(u"class", latin(layout.className));
+    json.member(u"version", file.version);
+    json.key(u"records");
+    json.beginArray();
+    for (const auto& record : file.records) {
+        json.beginObject();
+        for (const auto& item : layout.items) {
+            if (item.travels(layout.version)) {
+                json.key(latin(item.key()));
+                item.field().visit(*record, [&json](const auto& value) { write(json, value); });
+            }
+        }
+        json.endObject();
+    }
+    json.endArray();
+    json.endObject();
+    json.flush();
+}
+
+}  // namespace tavrel

@@ -125,7 +125,7 @@ void TypedStreamWriter::putBlock(std::span<const Value> values, char code) {
     if (values.empty()) {
         return;
     }
-    if (numbers_ == Numbers::literal) {
+    if (numbers_ == SeriesNumbers::literal) {
         putLiterals(values, code);
     } else if constexpr (std::is_same_v<Value, std::int8_t>) {
         putSmall(values, code);
@@ -155,7 +155,7 @@ void TypedStreamWriter::putNumber(const Number& number) {
             putSigned(number.integer);
         }
         endObject();
-        element = numbers_ == Numbers::shared ? known : 0;
+        element = numbers_ == SeriesNumbers::shared ? known : 0;
     }
 }
 

@@ -38,10 +38,10 @@ constexpr Class TypedStreamWriter::rootClass{"NSObject", 0, nullptr};
 constexpr Class TypedStreamWriter::mutableArrayClass{"NSMutableArray", 0, &arrayClass};
 constexpr Class TypedStreamWriter::numberClass{"NSNumber", 0, &valueClass};
 
-TypedStreamWriter::TypedStreamWriter(Numbers numbers, std::size_t expectedNumbers)
+TypedStreamWriter::TypedStreamWriter(SeriesNumbers numbers, std::size_t expectedNumbers)
     : numbers_(numbers), position_(nullptr), end_(nullptr) {
     // An element takes 4 bytes to refer to a number in most files, and 16 to hold one.
-    const std::size_t expectedBytes = 4096 + expectedNumbers * (numbers == Numbers::shared ? 4 : 16);
+    const std::size_t expectedBytes = 4096 + expectedNumbers * (numbers == SeriesNumbers::shared ? 4 : 16);
     buffer_ = QByteArray(static_cast<qsizetype>(expectedBytes + expectedBytes / 16), Qt::Uninitialized);
     position_ = buffer_.data();
     end_ = position_ + buffer_.size();

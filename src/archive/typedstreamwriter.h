@@ -1,5 +1,6 @@
 #pragma once
 
+#include "archive/recordarchive.h"
 #include "archive/sharednumbers.h"
 #include "records/date.h"
 #include "records/image.h"
@@ -26,11 +27,6 @@ namespace tavrel {
 /// dates. Arrays and images, which their readers may change, are written out each time.
 class TypedStreamWriter {
 public:
-    enum class Numbers {
-        shared,
-        literal,  ///< every number as an object of its own, as other writers may do
-    };
-
     struct Class {
         std::string_view name;
         int version;
@@ -42,7 +38,7 @@ public:
     static const Class numberClass;
 
     /// Sets memory aside for so many numbers in series beside the first bytes; what is not needed takes none.
-    explicit TypedStreamWriter(Numbers numbers = Numbers::shared, std::size_t expectedNumbers = 0);
+    explicit TypedStreamWriter(SeriesNumbers numbers = SeriesNumbers::shared, std::size_t expectedNumbers = 0);
 
     /// The root array; its elements follow, then endObject().
     void beginRoot(std::size_t count);
@@ -111,7 +107,7 @@ private:
     void putNumberPrefix(char code);
     SharedNumbers::Element elementFor(std::size_t object) const;
 
-    Numbers numbers_;
+    SeriesNumbers numbers_;
     QByteArray buffer_;
     char* position_;
     char* end_;

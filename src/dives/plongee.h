@@ -90,7 +90,7 @@ struct Plongee : ProfileSeries {
     qint32 etranger = 0;    ///< in memory only, read by nothing
 
     /// The archived items in their order, class name "Plongee", class version 25.
-    static const RecordLayout<Plongee>& layout();
+    static const RecordLayout& layout();
 };
 
 /// Dives are shared and never edited in place: a change replaces the record.

@@ -23,13 +23,19 @@ enum class ControlKind {
     radio,     ///< the same, all choices in sight
     onOff,     ///< a switch: tag 0 or 1
     slider,    ///< a tag between two bounds
+    rating,    ///< a tag between two bounds, shown as so many stars with its word
     date,      ///< the day of a Date
     time,      ///< the time of day of a Date
     longText,  ///< text of many lines
     readOnly,  ///< text that the program writes
     gauge,     ///< a level from 0 to a maximum, hidden when it has none
+    progress,  ///< a percentage that the program works out, as a bar
+    picture,   ///< an image, chosen from a file, dropped or pasted
     button,    ///< an action of the form; edited() is sent when it is pressed
 };
+
+/// What the text of a control leads to outside the program.
+enum class Opens { nothing, mail, web, phone };
 
 /// One control of a form, declared once. Its state, its loading and building, and its widget all come from here.
 struct Control {
@@ -42,11 +48,14 @@ struct Control {
     const char* clearedText = "";  ///< the text of a cleared form
     int clearedTag = 0;            ///< the tag of a cleared form
     std::span<const Choice> choices = {};
-    int minimum = 0, maximum = 0;           ///< bounds of a slider
+    int minimum = 0, maximum = 0;           ///< bounds of a slider or rating
     std::optional<PickList> pickList = {};  ///< the shared list of a combo
     int ownList = -1;                       ///< the list of a combo that its document owns, by the document's number
     int width = 0;                          ///< in characters; 0: by kind
     bool beside = false;                    ///< stands behind the control before it instead of under a label
+    bool emptyAt1900 = false;               ///< of a date: 1 January 1900 stands for none and shows as empty
+    Opens opens = Opens::nothing;           ///< what a text opens on a click with the control key
+    bool alignRight = false;                ///< of a text: numbers kept as typed, prices and quantities
 };
 
 enum class GroupLayout {

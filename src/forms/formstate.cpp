@@ -52,6 +52,18 @@ void FormStateBase::setGauge(int index, int level, int maximum) {
     change(index, &ControlState::maximum, maximum);
 }
 
+void FormStateBase::setLevel(int index, double level) {
+    change(index, &ControlState::level, level);
+}
+
+void FormStateBase::setColour(int index, const QColor& colour) {
+    change(index, &ControlState::colour, colour);
+}
+
+void FormStateBase::setImage(int index, const Image& image) {
+    change(index, &ControlState::image, image);
+}
+
 void FormStateBase::selectPosition(int index, int position) {
     const auto& choices = table_.controls()[static_cast<std::size_t>(index)].control.choices;
     const bool inside = position >= 0 && static_cast<std::size_t>(position) < choices.size();
@@ -73,6 +85,11 @@ void FormStateBase::pick(int index, const Date& date) {
     Q_EMIT edited(index);
 }
 
+void FormStateBase::place(int index, const Image& image) {
+    setImage(index, image);
+    Q_EMIT edited(index);
+}
+
 void FormStateBase::clear() {
     const Batch batch(*this);
     const auto& controls = table_.controls();
@@ -81,6 +98,9 @@ void FormStateBase::clear() {
         setText(index, QString::fromUtf8(control.clearedText));
         setTag(index, control.clearedTag);
         setDate(index, {});
+        setImage(index, {});
+        setColour(index, {});
+        setLevel(index, 0);
     }
 }
 

@@ -2,7 +2,9 @@
 
 #include "forms/controltable.h"
 #include "records/date.h"
+#include "records/image.h"
 
+#include <QColor>
 #include <QObject>
 #include <QString>
 
@@ -19,6 +21,9 @@ struct ControlState {
     bool enabled = true;
     bool visible = true;
     int maximum = 0;  ///< of a gauge, whose level is its tag
+    double level = 0;  ///< of a progress bar, percent, as worked out: it may lie outside 0 to 100
+    QColor colour;    ///< of a text that the program writes; invalid: the usual one
+    Image image;      ///< of a picture
 
     bool operator==(const ControlState&) const = default;
 };
@@ -40,6 +45,9 @@ public:
     void setEnabled(int index, bool enabled);
     void setVisible(int index, bool visible);
     void setGauge(int index, int level, int maximum);
+    void setLevel(int index, double percent);
+    void setColour(int index, const QColor& colour);
+    void setImage(int index, const Image& image);
     /// The tag of the menu's item at a position from 0; a position outside the menu leaves nothing chosen, which reads
     /// as 0.
     void selectPosition(int index, int position);
@@ -48,6 +56,7 @@ public:
     void type(int index, const QString& text);
     void choose(int index, int tag);
     void pick(int index, const Date& date);
+    void place(int index, const Image& image);
 
     /// Puts every control to its cleared value.
     void clear();
@@ -91,6 +100,17 @@ public:
 
     explicit FormState(const Table& table) : FormStateBase(table) {}
 
+    using FormStateBase::selectPosition;
+    using FormStateBase::setColour;
+    using FormStateBase::setDate;
+    using FormStateBase::setEnabled;
+    using FormStateBase::setGauge;
+    using FormStateBase::setImage;
+    using FormStateBase::setLevel;
+    using FormStateBase::setTag;
+    using FormStateBase::setText;
+    using FormStateBase::setVisible;
+
     const QString& text(Id id) const { return at(id.index).text; }
     int tag(Id id) const { return at(id.index).tag; }
     bool isOn(Id id) const { return at(id.index).tag != 0; }
@@ -106,6 +126,10 @@ public:
     void setDate(Id id, const Date& date) { FormStateBase::setDate(id.index, date); }
     void setEnabled(Id id, bool enabled) { FormStateBase::setEnabled(id.index, enabled); }
     void setVisible(Id id, bool visible) { FormStateBase::setVisible(id.index, visible); }
+    const Image& image(Id id) const { return at(id.index).image; }
+    void setLevel(Id id, double percent) { FormStateBase::setLevel(id.index, percent); }
+    void setColour(Id id, const QColor& colour) { FormStateBase::setColour(id.index, colour); }
+    void setImage(Id id, const Image& image) { FormStateBase::setImage(id.index, image); }
     void setGauge(Id id, int level, int maximum) { FormStateBase::setGauge(id.index, level, maximum); }
     void selectPosition(Id id, int position) { FormStateBase::selectPosition(id.index, position); }
     void requestFocus(Id id) { FormStateBase::requestFocus(id.index); }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "profile/sampling.h"
+#include "records/record.h"
 #include "records/series.h"
 
 #include <array>
@@ -9,7 +10,7 @@ namespace tavrel {
 
 /// The seven parallel series of a dive's profile; element i of each is the same moment, i sampling intervals from the
 /// start.
-struct ProfileSeries {
+struct ProfileSeries : Record {
     Series profilProfondeur;  ///< depth, metres
     Series ASC_Flag;          ///< 1: ascent alarm
     Series SLOW_Flag;         ///< 1: slow down

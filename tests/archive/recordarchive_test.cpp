@@ -136,7 +136,7 @@ TEST(RecordArchive, RestoresEveryNumberBitForBit) {
         sample.when = Date(-static_cast<double>(bits) / 7);
         samples.push_back(std::make_shared<Sample>(sample));
     }
-    for (const auto how : {TypedStreamWriter::Numbers::shared, TypedStreamWriter::Numbers::literal}) {
+    for (const auto how : {SeriesNumbers::shared, SeriesNumbers::literal}) {
         const auto file = readRecords(writeRecords(samples, sampleLayout, how), sampleLayout);
         ASSERT_TRUE(file) << file.error().message().toStdString();
         for (std::size_t index = 0; index < samples.size(); ++index) {
@@ -187,7 +187,7 @@ TEST(RecordArchive, ReadsLongSeriesWhateverTheMixOfReferencesAndLiterals) {
         samples.push_back(std::make_shared<Sample>(sample));
     }
     samples.push_back(samples.front());
-    for (const auto how : {TypedStreamWriter::Numbers::shared, TypedStreamWriter::Numbers::literal}) {
+    for (const auto how : {SeriesNumbers::shared, SeriesNumbers::literal}) {
         const QByteArray bytes = writeRecords(samples, sampleLayout, how);
         const auto file = readRecords(bytes, sampleLayout);
         ASSERT_TRUE(file) << file.error().message().toStdString();

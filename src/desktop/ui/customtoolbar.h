@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/texts.h"
+#include "desktop/toolbar.h"
 
 #include <QAction>
 #include <QString>
@@ -10,7 +10,6 @@
 #include <functional>
 #include <map>
 #include <memory>
-#include <span>
 #include <vector>
 
 class QWidgetAction;
@@ -18,28 +17,6 @@ class QWidgetAction;
 namespace tavrel {
 
 class Preferences;
-
-/// An item that a toolbar can hold.
-struct ToolItem {
-    const char* identifier;
-    Title label;
-    const char* image;  ///< name of the icon, ":/icons/<image>.svg"
-    Title tip;
-};
-
-/// The places of a toolbar that are no items of their own.
-inline constexpr const char* toolSeparator = "separator";
-inline constexpr const char* toolSpace = "space";
-inline constexpr const char* toolFlexibleSpace = "flexibleSpace";
-inline constexpr const char* toolCustomise = "customise";
-
-/// A toolbar as its document declares it: what it can hold, what its palette offers, what it holds at first.
-struct ToolBarDescription {
-    const char* identifier;
-    std::span<const ToolItem> items;
-    std::span<const char* const> allowed;
-    std::span<const char* const> initial;
-};
 
 /// A toolbar that its user arranges: items are added, removed and moved in a dialog, and the arrangement is remembered
 /// under the toolbar's identifier. An item shows only when the program at hand can do it (it has a command or a
