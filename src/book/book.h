@@ -118,16 +118,18 @@ Q_SIGNALS:
 protected:
     /// Calls the handler for every notification of that name, as long as the document lives.
     void listen(const QString& name, std::function<void()> handler);
-    /// What a new record's form gets besides its cleared values.
+    /// What the form of a new record gets besides its cleared values.
     virtual void proposeNumber() {}
-    /// The number that the title of the edit window names: the new record's, or that of the record in the form.
-    virtual QString titleNumber(const Record* shown) const;
+    /// The title of the edit window, from what the form shows.
+    virtual QString formTitle() const;
 
 private:
     void step(int direction);
-    void formIsStored(int row);
+    void putAt(int row, bool replacing);
+    void beginBlank();
     void titleEditWindow();
-    void putIntoList(const QString& undoStep, bool replacing);
+    void listIsRestored();
+    bool askAboutEntries(const Title& question, const Title& keep);
 
     const BookDescription& description_;
     std::unique_ptr<BookForm> form_;
@@ -135,6 +137,7 @@ private:
     int currentIndex_ = -1;
     bool keepsForm_ = false;
     bool showsSelectedRecord_ = false;  ///< rather than a cleared form
+    bool asksAboutEntries_ = false;
     QString idColonne_;
     std::map<QString, bool> ascendingDirection_;
     QString foundText_;

@@ -5,6 +5,7 @@
 #include "desktop/printsettings.h"
 #include "desktop/toolbar.h"
 #include "documents/documentkind.h"
+#include "base/failure.h"
 #include "drawing/styledtext.h"
 
 #include <QString>
@@ -69,7 +70,9 @@ struct BookDescription {
     std::span<const Column> columns;
     std::unique_ptr<TableStyle> (*tableStyle)(const Desktop& desktop);  ///< see plainTableStyle
     std::span<const Title> pages;                                       ///< titles of the edit window's pages
-    const char* numberField;                                            ///< the control that a new record starts in
+    const char* numberField;         ///< the control that names a record, and that a new one starts in
+    bool blankingDeselects = true;   ///< erasing the form deselects all rows
+    bool opensOnFirstRecord = true;  ///< a file that was read shows its first record, rather than scrolling to its last
     ToolBarDescription tableToolBar, editToolBar;
     BookCommands commands;
     BookWords words;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/failure.h"
 #include "desktop/desktop.h"
 #include "forms/formstate.h"
 #include "forms/recordbinding.h"

@@ -18,7 +18,6 @@
 namespace tavrel {
 
 class Clock;
-class Preferences;
 
 /// How a cell is drawn beyond its text. Without a background the cell shows the table's own; without a text colour it
 /// is written in black where it has a background, and in the table's own colour of text where it has none.
@@ -44,7 +43,7 @@ struct Cell {
 /// locale, and in a derived struct the settings of one type of document.
 struct TableStyle {
     TableStyle() = default;
-    TableStyle(const Preferences& preferences, const Clock& clock, const QLocale& locale = QLocale());
+    explicit TableStyle(const Clock& clock, const QLocale& locale = QLocale());
     virtual ~TableStyle() = default;
     TableStyle(const TableStyle&) = default;
     TableStyle& operator=(const TableStyle&) = default;

@@ -1,4 +1,4 @@
-#include "logbook/divesort.h"
+#include "book/booktable.h"
 
 #include <algorithm>
 #include <bit>
@@ -39,7 +39,7 @@ QStringView sortKey(const QString& text) {
     return text;
 }
 
-/// Key and row in one number: comparing these keeps equal dives in their order.
+/// Key and row in one number: comparing these keeps equal records in their order.
 std::vector<int> order(const std::vector<std::uint32_t>& keys, bool ascending) {
     std::vector<std::uint64_t> packed(keys.size());
     for (std::size_t row = 0; row < keys.size(); ++row) {
@@ -75,25 +75,22 @@ std::vector<int> order(const std::vector<Key>& keys, bool ascending) {
 
 }  // namespace
 
-std::vector<int> sortedOrder(const std::vector<DivePointer>& dives, const QString& field, bool ascending) {
-    std::vector<int> rows(dives.size());
+std::vector<int> sortedOrder(const RecordList& records, const Field& field, bool ascending) {
+    std::vector<int> rows(records.size());
     std::iota(rows.begin(), rows.end(), 0);
-    const auto* item = Plongee::layout().find(field.toStdString());
-    if (!item) {
+    if (field.isNull() || records.empty()) {
         return rows;
     }
-    const auto sortByMember = [&](auto member) {
-        if constexpr (requires(const Plongee& dive) { sortKey(dive.*member); }) {
-            using Key = decltype(sortKey((*dives.front()).*member));
-            std::vector<Key> keys;
-            keys.reserve(dives.size());
-            for (const auto& dive : dives) {
-                keys.push_back(sortKey((*dive).*member));
+    field.visit(*records.front(), [&](const auto& first) {
+        if constexpr (requires { sortKey(first); }) {
+            std::vector<decltype(sortKey(first))> keys;
+            keys.reserve(records.size());
+            for (const auto& record : records) {
+                keys.push_back(sortKey(*field.get<std::decay_t<decltype(first)>>(*record)));
             }
             rows = order(keys, ascending);
         }
-    };
-    std::visit(sortByMember, item->member);
+    });
     return rows;
 }
 

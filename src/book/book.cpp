@@ -1,0 +1,391 @@
+#include "book/book.h"
+
+#include "base/texts.h"
+#include "book/booktable.h"
+#include "desktop/alerts.h"
+
+#include <algorithm>
+
+namespace tavrel {
+
+BookBase::BookBase(Desktop& desktop, const BookDescription& description)
+    : ListDocument(desktop, description.layout()), description_(description), form_(description.makeForm(desktop)) {
+    setType(description.kind.name.text());
+    connect(form_.get(), &BookForm::userEdited, this, [this] {
+        titleEditWindow();
+        Q_EMIT stateChanged();
+    });
+    connect(this, &ListDocument::selectionChanged, this, &BookBase::followSelection);
+    connect(this, &ListDocument::listChanged, this, &BookBase::stateChanged);
+    connect(this, &ListDocument::listRestored, this, &BookBase::listIsRestored);
+}
+
+BookBase::~BookBase() = default;
+
+void BookBase::listen(const QString& name, std::function<void()> handler) {
+    subscriptions_.push_back(desktop().notifications.subscribe(name, std::move(handler)));
+}
+
+Expected<QByteArray> BookBase::dataRepresentationOfType(const QString& type) {
+    if (description_.typeCheck == TypeCheck::exact && type != this->type()) {
+        return failure(textWith("Main", "Unknown document type", type));
+    }
+    return archive();
+}
+
+Expected<void> BookBase::loadDataRepresentation(QByteArrayView data, const QString& type) {
+    const bool isOwnType = description_.typeCheck == TypeCheck::none || type == this->type();
+    auto read = unarchive(data);
+    if (!read && description_.olderFormat && isOwnType) {
+        read = description_.olderFormat(data);
+    }
+    if (!read) {
+        return tl::unexpected(read.error());
+    }
+    deselectAll();
+    replaceList(std::move(*read));
+    if (!isOwnType) {
+        return failure(textWith("Main", "Unknown document type", type));
+    }
+    updateUI();
+    selectLast(description_.opensOnFirstRecord ? 0 : count() - 1, description_.opensOnFirstRecord);
+    return {};
+}
+
+void BookBase::beginBlank() {
+    blankFields();
+    proposeNumber();
+    form_->updateUI();
+    form_->remember();
+    titleEditWindow();
+}
+
+void BookBase::newRecord() {
+    if (!leaveForm(Leaving::elsewhere)) {
+        return;
+    }
+    beginBlank();
+    Q_EMIT editWindowRequested();
+}
+
+void BookBase::addRecord() {
+    RecordList list = records();
+    list.push_back(form_->buildRecord());
+    changeList(description_.words.undoAdd.text(), std::move(list));
+    form_->remember();
+    selectLast(count() - 1, false);
+    beginBlank();
+    updateUI();
+}
+
+void BookBase::putAt(int row, bool replacing) {
+    if (row < 0) {
+        desktop().alerts.beep();
+        return;
+    }
+    const RecordPointer built = form_->buildRecord();
+    RecordList list = records();
+    const auto place = list.begin() + row;
+    if (replacing) {
+        *place = built;
+    } else {
+        list.insert(place, built);
+    }
+    changeList((replacing ? description_.words.undoUpdate : description_.words.undoInsert).text(), std::move(list));
+    showsSelectedRecord_ = true;
+    form_->remember();
+    titleEditWindow();
+    updateUI();
+}
+
+void BookBase::insertRecord() {
+    putAt(selectedRow(), false);
+}
+
+void BookBase::updateRecord() {
+    putAt(selectedRow(), true);
+}
+
+void BookBase::deleteRecords() {
+    if (selectedRow() < 0) {
+        return;
+    }
+    desktop().alerts.beep();
+    if (desktop().alerts.ask(description_.words.eraseQuestion.text(),
+                             {QStringLiteral("OK"), text("Main", "Cancel")}) != 0) {
+        return;
+    }
+    RecordList list;
+    const QList<int>& rows = selectedRows();
+    for (int row = 0; row < count(); ++row) {
+        if (!std::binary_search(rows.begin(), rows.end(), row)) {
+            list.push_back(recordAt(row));
+        }
+    }
+    const bool typesNewRecord = !formShowsSelectedRecord() && hasEntries();
+    deselectAll();
+    changeList(description_.words.undoDelete.text(), std::move(list));
+    if (!typesNewRecord) {
+        beginBlank();
+    }
+    updateUI();
+}
+
+void BookBase::step(int direction) {
+    const int row = selectedRow();
+    if (row < 0) {
+        updateRecord();
+        return;
+    }
+    if (!leaveForm(Leaving::stepping)) {
+        return;
+    }
+    selectLast(row + direction, true);
+    followSelection();
+}
+
+void BookBase::selectLast(int index, bool selected) {
+    selectRows({index});
+    if (index >= 0 && index < count()) {
+        Q_EMIT rowRevealed(index);
+    }
+    if (!selected) {
+        deselectAll();
+    }
+}
+
+void BookBase::editWindow() {
+    if (!formShowsSelectedRecord()) {
+        if (!leaveForm(Leaving::elsewhere)) {
+            return;
+        }
+        if (selectedRow() >= 0) {
+            followSelection();
+        } else {
+            beginBlank();
+        }
+    }
+    Q_EMIT editWindowRequested();
+}
+
+void BookBase::followSelection() {
+    currentIndex_ = selectedRow();
+    if (currentIndex_ >= 0 && !keepsForm_) {
+        editFields();
+    }
+    Q_EMIT stateChanged();
+}
+
+void BookBase::listIsRestored() {
+    // What is being typed outlasts an undo; so does a form for a new record.
+    const bool keeps = hasEntries() || !showsSelectedRecord_;
+    currentIndex_ = selectedRow();
+    if (!keeps) {
+        followSelection();
+        return;
+    }
+    Q_EMIT stateChanged();
+}
+
+void BookBase::appendRecords(const QString& step, const RecordList& taken) {
+    RecordList list = records();
+    list.insert(list.end(), taken.begin(), taken.end());
+    changeList(step, std::move(list));
+}
+
+void BookBase::duplicateLast() {
+    if (count() == 0) {
+        return;
+    }
+    RecordList list = records();
+    const RecordPointer last = list.back();
+    list.insert(list.end() - 1, last);
+    replaceList(std::move(list));
+}
+
+bool BookBase::askAboutEntries(const Title& question, const Title& keep) {
+    if (asksAboutEntries_) {
+        return false;
+    }
+    asksAboutEntries_ = true;
+    const int answer = desktop().alerts.ask(question.text(), {keep.text(), text("Main", "Discard"), text("Main", "Cancel")});
+    asksAboutEntries_ = false;
+    if (answer == 0) {
+        formShowsSelectedRecord() ? updateRecord() : addRecord();
+    } else if (answer == 1) {
+        if (formShowsSelectedRecord()) {
+            editFields();
+        } else {
+            beginBlank();
+        }
+    }
+    return answer == 0 || answer == 1;
+}
+
+bool BookBase::leaveForm(Leaving way) {
+    if (!hasEntries()) {
+        return true;
+    }
+    if (!formShowsSelectedRecord()) {
+        return askAboutEntries({"Main", "Add new card question"}, {"Main", "Add"});
+    }
+    if (way == Leaving::escaping || way == Leaving::elsewhere) {
+        return askAboutEntries({"Main", "Store card question"}, {"Main", "Store"});
+    }
+    updateRecord();
+    return true;
+}
+
+bool BookBase::closeEditWindow(Leaving way) {
+    if (!leaveForm(way)) {
+        return false;
+    }
+    Q_EMIT editWindowClosed();
+    return true;
+}
+
+bool BookBase::userSelects(const QList<int>& rows) {
+    const auto last = std::max_element(rows.begin(), rows.end());
+    const bool staysInForm = formShowsSelectedRecord() && last != rows.end() && *last == selectedRow();
+    if (!staysInForm && !leaveForm(Leaving::elsewhere)) {
+        return false;
+    }
+    keepsForm_ = staysInForm;
+    selectRows(rows);
+    keepsForm_ = false;
+    return true;
+}
+
+void BookBase::blankFields() {
+    if (description_.blankingDeselects) {
+        deselectAll();
+    }
+    form_->blankFields(count());
+    showsSelectedRecord_ = false;
+    Q_EMIT stateChanged();
+}
+
+void BookBase::editFields() {
+    const RecordPointer shown = recordAt(currentIndex_);
+    if (!shown) {
+        return;
+    }
+    form_->editFields(*shown);
+    showsSelectedRecord_ = true;
+    titleEditWindow();
+}
+
+void BookBase::updateUI() {
+    form_->updateUI();
+    Q_EMIT stateChanged();
+}
+
+QString BookBase::formTitle() const {
+    const int control = form_->state().table().find(description_.numberField);
+    return textWith(description_.words.windowTitle, form_->state().at(control).text);
+}
+
+void BookBase::titleEditWindow() {
+    const QString title = formTitle();
+    if (title != editWindowTitle_) {
+        editWindowTitle_ = title;
+        Q_EMIT editWindowTitleChanged();
+    }
+}
+
+Expected<void> BookBase::setValue(int row, const QString& field, const FieldValue& value) {
+    const Field found = layout().field(field);
+    const RecordPointer held = recordAt(row);
+    if (found.isNull() || !held) {
+        return failure(textWith("Carnet", "No such field", field));
+    }
+    const std::shared_ptr<Record> changed = layout().copy(*held);
+    if (!found.setValue(*changed, value)) {
+        return failure(textWith("Carnet", "No such field", field));
+    }
+    RecordList list = records();
+    list[static_cast<std::size_t>(row)] = changed;
+    changeList(description_.words.undoUpdate.text(), std::move(list));
+    if (row == currentIndex_) {
+        followSelection();
+    }
+    return {};
+}
+
+void BookBase::sortBy(const QString& field) {
+    bool& ascending = ascendingDirection_[field];
+    if (idColonne_ == field) {
+        ascending = !ascending;
+    }
+    idColonne_ = field;
+
+    const std::vector<int> order = sortedOrder(records(), layout().field(field), ascending);
+    RecordList list;
+    list.reserve(order.size());
+    QList<int> selection;
+    for (std::size_t row = 0; row < order.size(); ++row) {
+        list.push_back(recordAt(order[row]));
+        if (std::binary_search(selectedRows().begin(), selectedRows().end(), order[row])) {
+            selection.append(static_cast<int>(row));
+        }
+    }
+    // The record in the form stays, with what was typed into it, unless another of several selected ones is now the
+    // last.
+    const RecordPointer inForm = recordAt(selectedRow());
+    keepsForm_ = true;
+    replaceList(std::move(list));
+    selectRows(selection);
+    keepsForm_ = false;
+    if (recordAt(selectedRow()) != inForm) {
+        followSelection();
+    }
+}
+
+bool BookBase::sortedAscending() const {
+    const auto found = ascendingDirection_.find(idColonne_);
+    return found != ascendingDirection_.end() && found->second;
+}
+
+Expected<int> BookBase::findTextWithField(const QString& field, const QString& searched) {
+    deselectAll();
+    const Field found = layout().field(field);
+    if (found.isNull() || found.kind() != FieldKind::text) {
+        return failure(textWith("Carnet", "No such field", field));
+    }
+    QList<int> rows;
+    for (int row = 0; row < count(); ++row) {
+        const QString& value = *found.get<QString>(*records()[static_cast<std::size_t>(row)]);
+        if (value.isNull() || (!searched.isEmpty() && value.contains(searched, Qt::CaseInsensitive))) {
+            rows.append(row);
+        }
+    }
+    const int matches = static_cast<int>(rows.size());
+    selectRows(rows);
+    if (!rows.isEmpty()) {
+        Q_EMIT rowRevealed(rows.front());
+    }
+    foundText_ =
+        matches == 1 ? description_.words.oneFound.text() : textWith(description_.words.manyFound, matches);
+    Q_EMIT stateChanged();
+    return matches;
+}
+
+void BookBase::find(const QString& field, const QString& searched) {
+    if (const auto found = findTextWithField(field, searched); !found) {
+        desktop().alerts.fail(found.error());
+    }
+}
+
+QString BookBase::countText() const {
+    return count() == 1 ? description_.words.oneRecord.text() : textWith(description_.words.manyRecords, count());
+}
+
+bool BookBase::canGoBack() const {
+    return selectedRow() > 0;
+}
+
+bool BookBase::canGoForward() const {
+    return count() > 0 && static_cast<quint32>(selectedRow()) < static_cast<quint32>(count() - 1);
+}
+
+}  // namespace tavrel

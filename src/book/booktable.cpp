@@ -1,0 +1,51 @@
+#include "book/booktable.h"
+
+#include "desktop/preferences.h"
+
+namespace tavrel {
+
+BookTable::BookTable(const BookBase& book) : book_(book) {
+    for (const auto& column : book.description().columns) {
+        columns_.push_back({&column, book.layout().field(std::string_view(column.field))});
+    }
+    reload();
+}
+
+int BookTable::columnOf(std::string_view field) const {
+    for (std::size_t column = 0; column < columns_.size(); ++column) {
+        if (columns_[column].column->field == field) {
+            return static_cast<int>(column);
+        }
+    }
+    return -1;
+}
+
+bool BookTable::isShown(int column) const {
+    const char* key = columns_[static_cast<std::size_t>(column)].column->visibilityKey;
+    return !key || book_.desktop().preferences.boolean(QString::fromLatin1(key));
+}
+
+Cell BookTable::cell(int row, int column) const {
+    const Placed& placed = columns_[static_cast<std::size_t>(column)];
+    const Record& record = *book_.records()[static_cast<std::size_t>(row)];
+    Cell cell;
+    if (!placed.field.isNull()) {
+        cell.text = plainText(record, placed.field, *style_);
+    }
+    if (placed.column->cell) {
+        placed.column->cell(record, *style_, cell);
+    }
+    return cell;
+}
+
+Cell BookTable::cellOfField(int row, const Field& field) const {
+    Cell cell;
+    cell.text = plainText(*book_.records()[static_cast<std::size_t>(row)], field, *style_);
+    return cell;
+}
+
+void BookTable::reload() {
+    style_ = book_.description().tableStyle(book_.desktop());
+}
+
+}  // namespace tavrel
