@@ -22,7 +22,7 @@ BookBase::BookBase(Desktop& desktop, const BookDescription& description)
 
 BookBase::~BookBase() = default;
 
-void BookBase::listen(const QString& name, std::function<void()> handler) {
+void BookBase::listen(Notification name, std::function<void()> handler) {
     subscriptions_.push_back(desktop().notifications.subscribe(name, std::move(handler)));
 }
 
@@ -111,8 +111,8 @@ void BookBase::deleteRecords() {
         return;
     }
     desktop().alerts.beep();
-    if (desktop().alerts.ask(description_.words.eraseQuestion.text(),
-                             {QStringLiteral("OK"), text("Main", "Cancel")}) != 0) {
+    if (desktop().alerts.ask(description_.words.eraseQuestion.text(), {QStringLiteral("OK"), text("Main", "Cancel")}) !=
+        0) {
         return;
     }
     RecordList list;
@@ -208,7 +208,8 @@ bool BookBase::askAboutEntries(const Title& question, const Title& keep) {
         return false;
     }
     asksAboutEntries_ = true;
-    const int answer = desktop().alerts.ask(question.text(), {keep.text(), text("Main", "Discard"), text("Main", "Cancel")});
+    const int answer =
+        desktop().alerts.ask(question.text(), {keep.text(), text("Main", "Discard"), text("Main", "Cancel")});
     asksAboutEntries_ = false;
     if (answer == 0) {
         formShowsSelectedRecord() ? updateRecord() : addRecord();
@@ -227,10 +228,10 @@ bool BookBase::leaveForm(Leaving way) {
         return true;
     }
     if (!formShowsSelectedRecord()) {
-        return askAboutEntries({"Main", "Add new card question"}, {"Main", "Add"});
+        return askAboutEntries(description_.words.addQuestion, {"Main", "Add"});
     }
     if (way == Leaving::escaping || way == Leaving::elsewhere) {
-        return askAboutEntries({"Main", "Store card question"}, {"Main", "Store"});
+        return askAboutEntries(description_.words.storeQuestion, {"Main", "Store"});
     }
     updateRecord();
     return true;
@@ -364,8 +365,7 @@ Expected<int> BookBase::findTextWithField(const QString& field, const QString& s
     if (!rows.isEmpty()) {
         Q_EMIT rowRevealed(rows.front());
     }
-    foundText_ =
-        matches == 1 ? description_.words.oneFound.text() : textWith(description_.words.manyFound, matches);
+    foundText_ = matches == 1 ? description_.words.oneFound.text() : textWith(description_.words.manyFound, matches);
     Q_EMIT stateChanged();
     return matches;
 }

@@ -117,7 +117,7 @@ Q_SIGNALS:
 
 protected:
     /// Calls the handler for every notification of that name, as long as the document lives.
-    void listen(const QString& name, std::function<void()> handler);
+    void listen(Notification name, std::function<void()> handler);
     /// What the form of a new record gets besides its cleared values.
     virtual void proposeNumber() {}
     /// The title of the edit window, from what the form shows.

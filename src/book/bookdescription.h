@@ -1,11 +1,11 @@
 #pragma once
 
+#include "base/failure.h"
 #include "base/texts.h"
 #include "book/column.h"
 #include "desktop/printsettings.h"
 #include "desktop/toolbar.h"
 #include "documents/documentkind.h"
-#include "base/failure.h"
 #include "drawing/styledtext.h"
 
 #include <QString>
@@ -34,7 +34,7 @@ struct BookWords {
     Title newRecord, editRecord, insertRecord, deleteRecords, previousRecord, nextRecord;  ///< menu commands
     Title menu;                                                                            ///< the type's own menu
     Title tableName;                                                                       ///< for screen readers
-    Title emptyTable;    ///< a format that takes the keys of the command for a new record
+    Title emptyTable;              ///< a format that takes the keys of the command for a new record
     Title oneRecord, manyRecords;  ///< the count line; the second is a format
     Title oneFound = {"Main", "One card found"}, manyFound = {"Main", "Found cards"};
     Title eraseQuestion = {"Main", "Erase card"};
@@ -43,6 +43,8 @@ struct BookWords {
     Title undoAdd = {"Main", "Undo add card"}, undoInsert = {"Main", "Undo insert card"};
     Title undoUpdate = {"Main", "Undo update card"}, undoDelete = {"Main", "Undo delete card"};
     Title undoImport = {"Main", "Undo import cards"};
+    Title addQuestion = {"Main", "Add new card question"};  ///< a new record is typed and not added
+    Title storeQuestion = {"Main", "Store card question"};  ///< a stored one was changed and is not stored
 };
 
 /// The identifiers by which the toolbars of a type name its commands.

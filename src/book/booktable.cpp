@@ -21,8 +21,8 @@ int BookTable::columnOf(std::string_view field) const {
 }
 
 bool BookTable::isShown(int column) const {
-    const char* key = columns_[static_cast<std::size_t>(column)].column->visibilityKey;
-    return !key || book_.desktop().preferences.boolean(QString::fromLatin1(key));
+    const Setting<bool>* shown = columns_[static_cast<std::size_t>(column)].column->shown;
+    return !shown || book_.desktop().preferences.get(*shown);
 }
 
 Cell BookTable::cell(int row, int column) const {

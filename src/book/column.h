@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/texts.h"
+#include "desktop/setting.h"
 #include "records/date.h"
 #include "records/record.h"
 #include "records/recordlayout.h"
@@ -63,7 +64,7 @@ struct Column {
     int width = 10;  ///< in digits at first
     Qt::AlignmentFlag alignment = Qt::AlignLeft;
     CellHook cell = nullptr;              ///< made by cellHook<>
-    const char* visibilityKey = nullptr;  ///< the setting that shows it; null: it always shows
+    const Setting<bool>* shown = nullptr;  ///< the setting that shows it; null: it always shows
     bool shownAtFirst = true;
 };
 

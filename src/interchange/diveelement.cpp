@@ -148,14 +148,6 @@ Expected<void> writeDives(XmlWriter& xml, Carnet& carnet, const DiveDateNames& n
         return written;
     }
     xml.end();
-    if (carnet.count() > 0) {
-        const ProfileSeries& last = *carnet.records().back();
-        ProfileSeries& working = carnet.form().profile();
-        working.profilProfondeur = last.profilProfondeur;
-        for (const Alarm& alarm : alarms) {
-            working.*alarm.flags = last.*alarm.flags;
-        }
-    }
     return {};
 }
 

@@ -13,7 +13,7 @@ Expected<void> forEachDive(const Carnet& carnet, Write write) {
         if (index % divesPerProgress == 0 && carnet.progress() && !carnet.progress()(index, dives.size())) {
             return failure(text("Main", "Cancelled"));
         }
-        if (Expected<void> written = write(*dives[index]); !written) {
+        if (Expected<void> written = write(static_cast<const Plongee&>(*dives[index])); !written) {
             return written;
         }
     }

@@ -7,8 +7,8 @@
 namespace tavrel {
 
 // What a logbook can be exported to. Each builds the bytes of the whole file, dives in logbook order. The exports that
-// write profiles first clear the selection of the table, and leave the profile of the last dive in the form's working
-// copies. Numbers and dates never depend on the locale. The logbook's progress is told of the dives, and cancels.
+// write profiles first clear the selection of the table. The dive in the form stays as it is. Numbers and dates never
+// depend on the locale. The logbook's progress is told of the dives, and cancels.
 
 /// UDCF: the whole logbook as one group of dives, metric. A sampling code outside 0 to 7 repeats the interval of the
 /// dive before, 10 s at first.

@@ -41,7 +41,7 @@ constexpr std::size_t mostDives = 500'000;
 /// One import under way.
 class Import {
 public:
-    Import(Carnet& carnet, const Progress& progress) : carnet_(carnet), progress_(progress) {}
+    Import(Carnet& carnet, const Progress& progress) : carnet_(carnet), form_(carnet.desktop()), progress_(progress) {}
 
     Expected<ImportResult> run(QByteArrayView bytes, std::optional<ImportFormat> format) {
         const auto tree = XmlTree::parse(bytes, [this](std::size_t done, std::size_t total) {
@@ -87,7 +87,7 @@ private:
         std::vector<Plongee> taken;
         taken.reserve(total);
         {
-            const FormStateBase::Batch batch(carnet_.form().state());
+            const FormStateBase::Batch batch(form_.state());
             for (const XmlElement dive : dives) {
                 const std::size_t done = taken.size();
                 if (done % divesPerProgress == 0 &&
@@ -107,21 +107,21 @@ private:
     }
 
     bool takeDive(const DiveSource& source, XmlElement dive, std::vector<Plongee>& taken) {
-        DiveForm& form = carnet_.form();
-        form.blankFields();
-        form.state().setInteger(form.controls().noPlongeeField,
-                                taken.empty() ? carnet_.nextDiveNumber() : Carnet::numberAfter(taken.back()));
-        if (const auto filled = source.fill(dive, form); !filled) {
+        form_.blankFields();
+        form_.state().setInteger(form_.controls().noPlongeeField,
+                                 taken.empty() ? carnet_.nextDiveNumber() : Carnet::numberAfter(taken.back()));
+        if (const auto filled = source.fill(dive, form_); !filled) {
             result_.stoppedAt = static_cast<int>(taken.size()) + 1;
             result_.why = filled.error().message();
             return false;
         }
-        form.updateUI();
-        taken.push_back(form.addDiveToList());
+        form_.updateUI();
+        taken.push_back(form_.addDiveToList());
         return true;
     }
 
     Carnet& carnet_;
+    DiveForm form_;  ///< its own: what is being typed into the logbook's stays
     const Progress& progress_;
     ImportResult result_;
 };

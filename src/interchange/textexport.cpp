@@ -160,9 +160,6 @@ Expected<QByteArray> exportProfileCSVFormat(Carnet& carnet, std::string_view sep
     if (!written) {
         return tl::unexpected(written.error());
     }
-    if (!carnet.records().empty()) {
-        carnet.form().profile() = *carnet.records().back();
-    }
     return bytesOf(out);
 }
 

@@ -1,10 +1,10 @@
 #include "logbook/diveform.h"
 
+#include "base/texts.h"
 #include "desktop/clock.h"
 #include "desktop/commonsettings.h"
 #include "desktop/preferences.h"
 #include "dives/divecodes.h"
-#include "forms/picklistentry.h"
 #include "logbook/logbooksettings.h"
 
 namespace tavrel {
@@ -24,166 +24,232 @@ const DiveControls& DiveControls::table() {
     return controls;
 }
 
-DiveForm::DiveForm(Desktop& desktop)
-    : desktop_(desktop),
-      controls_(DiveControls::table()),
-      state_(controls_),
-      ownLists_{
-          QString::fromUtf8("2 4 5 6 9 10 11 12 15 18 20 22 24 30 33 36").split(u' '),
-          QString::fromUtf8("176 200 207 232 300").split(u' '),
-          QString::fromUtf8("...,Abyss,Decoplanner,GAP-Diveplanner,V Planner,Z Planner").split(u','),
-          QString::fromUtf8("...,BühlmannB-GF,BühlmannC-GF,MF11F6,RGBM,VPM-A,VPM-B,VPM-B/E,ZH-L 16 B,ZH-L 16 C")
-              .split(u','),
-      } {
-    connect(&state_, &FormStateBase::edited, this, &DiveForm::userEntered);
+DiveForm::DiveForm(Desktop& desktop) : RecordForm(desktop), controls_(controls()) {
+    rememberBeside();
 }
 
-void DiveForm::blankFields() {
-    const FormStateBase::Batch batch(state_);
-    const Preferences& preferences = desktop_.preferences;
-    state_.clear();
-    state_.setDate(controls_.dateField, Date::fromDateTime(desktop_.clock.now()));
-    state_.setDate(controls_.heureField, Date::fromDateTime(QDate(2001, 1, 1).startOfDay()));
-    state_.setText(controls_.countryCodeField, preferences.get(settings::countryCode));
-    state_.setText(controls_.gpsField, text("Carnet", "GPS template"));
+QStringList DiveForm::ownList(int list) const {
+    static const std::array<QStringList, 4> lists{
+        QString::fromUtf8("2 4 5 6 9 10 11 12 15 18 20 22 24 30 33 36").split(u' '),
+        QString::fromUtf8("176 200 207 232 300").split(u' '),
+        QString::fromUtf8("...,Abyss,Decoplanner,GAP-Diveplanner,V Planner,Z Planner").split(u','),
+        QString::fromUtf8("...,BühlmannB-GF,BühlmannC-GF,MF11F6,RGBM,VPM-A,VPM-B,VPM-B/E,ZH-L 16 B,ZH-L 16 C")
+            .split(u','),
+    };
+    return lists[static_cast<std::size_t>(list)];
+}
+
+namespace {
+
+/// The series that the record's field holds; null when it is none.
+const ProfileSeriesKind* seriesNamed(const QString& field) {
+    const Field found = Plongee::layout().field(field);
+    for (const auto& kind : profileSeriesKinds) {
+        if (!found.isNull() && found == kind.field) {
+            return &kind;
+        }
+    }
+    return nullptr;
+}
+
+std::optional<Series> seriesOf(const QString& value, bool reals) {
+    Series series = Series::empty();
+    if (value.trimmed().isEmpty()) {
+        return series;
+    }
+    for (const QString& part : value.split(u',')) {
+        bool isNumber = false;
+        if (reals) {
+            series.appendReal(part.trimmed().toDouble(&isNumber));
+        } else {
+            series.appendInteger(part.trimmed().toInt(&isNumber));
+        }
+        if (!isNumber) {
+            return std::nullopt;
+        }
+    }
+    return series;
+}
+
+}  // namespace
+
+bool DiveForm::holdsBeside(const QString& field) const {
+    return seriesNamed(field) != nullptr;
+}
+
+Expected<void> DiveForm::enterBeside(const QString& field, const QString& value) {
+    const ProfileSeriesKind* kind = seriesNamed(field);
+    if (!kind) {
+        return BookForm::enterBeside(field, value);
+    }
+    auto series = seriesOf(value, kind->real);
+    if (!series) {
+        return failure(textWith("Main", "No such value", field, value));
+    }
+    _plg.*(kind->series) = std::move(*series);
+    return {};
+}
+
+bool DiveForm::differsBeside() const {
+    return std::any_of(profileSeriesKinds.begin(), profileSeriesKinds.end(), [this](const ProfileSeriesKind& kind) {
+        return !(_plg.*(kind.series) == remembered_.*(kind.series));
+    });
+}
+
+void DiveForm::rememberBeside() {
+    remembered_ = _plg;
+}
+
+void DiveForm::clear(int) {
+    FormState<DiveControls>& fields = state();
+    const Preferences& preferences = desktop().preferences;
+    fields.setDate(controls_.dateField, Date::fromDateTime(desktop().clock.now()));
+    fields.setDate(controls_.heureField, Date::fromDateTime(QDate(2001, 1, 1).startOfDay()));
+    fields.setText(controls_.countryCodeField, preferences.get(settings::countryCode));
+    fields.setText(controls_.gpsField, text("Carnet", "GPS template"));
     const qint64 interval = preferences.get(settings::stopInterval);
     for (std::size_t level = 0; level < 6; ++level) {
-        state_.setInteger(controls_.depthDeco_Level_Field[level], interval * static_cast<qint64>(level + 1));
+        fields.setInteger(controls_.depthDeco_Level_Field[level], interval * static_cast<qint64>(level + 1));
     }
-    state_.setInteger(controls_.lowGFField, preferences.get(settings::lowGF));
-    state_.setInteger(controls_.highGFField, preferences.get(settings::highGF));
+    fields.setInteger(controls_.lowGFField, preferences.get(settings::lowGF));
+    fields.setInteger(controls_.highGFField, preferences.get(settings::highGF));
     for (std::size_t tank = 0; tank < 2; ++tank) {
-        state_.setInteger(controls_.volumeBlocField[tank], preferences.get(settings::tankVolume));
-        state_.setInteger(controls_.pressionBlocField[tank], preferences.get(settings::tankPressure));
+        fields.setInteger(controls_.volumeBlocField[tank], preferences.get(settings::tankVolume));
+        fields.setInteger(controls_.pressionBlocField[tank], preferences.get(settings::tankPressure));
     }
-    state_.setText(controls_.fabricantField, preferences.get(settings::fabricant));
-    state_.setText(controls_.ordinateurField, preferences.get(settings::ordinateur));
-    state_.setText(controls_.serieField, preferences.get(settings::serie));
+    fields.setText(controls_.fabricantField, preferences.get(settings::fabricant));
+    fields.setText(controls_.ordinateurField, preferences.get(settings::ordinateur));
+    fields.setText(controls_.serieField, preferences.get(settings::serie));
     _plg.reset();
-    updateSlider();
-    state_.requestFocus(controls_.noPlongeeField);
+    nameDifficulty();
+    fields.requestFocus(controls_.noPlongeeField);
 }
 
-void DiveForm::editFields(const Plongee& dive) {
-    const FormStateBase::Batch batch(state_);
-    state_.load(dive);
+void DiveForm::show(const Plongee& dive) {
+    FormState<DiveControls>& fields = state();
     if (dive.coeff == 0) {
-        state_.setText(controls_.coeffField, dash);
+        fields.setText(controls_.coeffField, dash);
     }
     if (dive.tempEau == temperatureNotGiven) {
-        state_.setText(controls_.tempEauField, dash);
+        fields.setText(controls_.tempEauField, dash);
     }
     if (dive.tempAir == temperatureNotGiven) {
-        state_.setText(controls_.tempAirField, dash);
+        fields.setText(controls_.tempAirField, dash);
     }
     for (std::size_t level = 0; level < 6; ++level) {
-        if (!(state_.single(controls_.depthDeco_Level_Field[level]) > 0)) {
-            state_.setInteger(controls_.depthDeco_Level_Field[level], 3 * (static_cast<qint64>(level) + 1));
+        if (!(fields.single(controls_.depthDeco_Level_Field[level]) > 0)) {
+            fields.setInteger(controls_.depthDeco_Level_Field[level], 3 * (static_cast<qint64>(level) + 1));
         }
         for (const auto& control : {controls_.decoO2_Level_Field[level], controls_.timeDeco_Level_Field[level]}) {
-            if (state_.integer(control) == 0) {
-                state_.setText(control, dash);
+            if (fields.integer(control) == 0) {
+                fields.setText(control, dash);
             }
         }
     }
     _plg = dive;
-    updateSlider();
+    nameDifficulty();
 }
 
-Plongee DiveForm::addDiveToList() {
-    const FormStateBase::Batch batch(state_);
-    if (const qint32 coefficient = state_.integer(controls_.coeffField); coefficient < 20 || coefficient > 120) {
-        state_.setText(controls_.coeffField, dash);
+void DiveForm::correct() {
+    FormState<DiveControls>& fields = state();
+    if (const qint32 coefficient = fields.integer(controls_.coeffField); coefficient < 20 || coefficient > 120) {
+        fields.setText(controls_.coeffField, dash);
     }
-    if (state_.integer(controls_.profondeurField) < 0) {
-        state_.setInteger(controls_.profondeurField, 0);
+    if (fields.integer(controls_.profondeurField) < 0) {
+        fields.setInteger(controls_.profondeurField, 0);
     }
-    if (state_.integer(controls_.tempsField) < 0) {
-        state_.setInteger(controls_.tempsField, 0);
+    if (fields.integer(controls_.tempsField) < 0) {
+        fields.setInteger(controls_.tempsField, 0);
     }
-    if (const qint32 altitude = state_.integer(controls_.altitudeField); altitude < 0 || altitude > 4000) {
-        state_.setInteger(controls_.altitudeField, 0);
+    if (const qint32 altitude = fields.integer(controls_.altitudeField); altitude < 0 || altitude > 4000) {
+        fields.setInteger(controls_.altitudeField, 0);
     }
     for (const auto& time : controls_.timeDeco_Level_Field) {
-        if (state_.integer(time) < 0) {
-            state_.setInteger(time, 0);
+        if (fields.integer(time) < 0) {
+            fields.setInteger(time, 0);
         }
     }
     // Tank pressures are taken as typed, an end above the start included: nothing is asked or replaced.
     for (std::size_t tank = 0; tank < 2; ++tank) {
-        if (state_.integer(controls_.o2MixField[tank]) < 1) {
-            state_.setInteger(controls_.o2MixField[tank], 21);
+        if (fields.integer(controls_.o2MixField[tank]) < 1) {
+            fields.setInteger(controls_.o2MixField[tank], 21);
         }
-        if (const qint32 helium = state_.integer(controls_.heMixField[tank]); helium < 0 || helium > 86) {
-            state_.setInteger(controls_.heMixField[tank], 0);
+        if (const qint32 helium = fields.integer(controls_.heMixField[tank]); helium < 0 || helium > 86) {
+            fields.setInteger(controls_.heMixField[tank], 0);
         }
     }
-    if (state_.real(controls_.lestageField) < 0) {
-        state_.setText(controls_.lestageField, QStringLiteral("0.0"));
+    if (fields.real(controls_.lestageField) < 0) {
+        fields.setText(controls_.lestageField, QStringLiteral("0.0"));
     }
+}
 
-    Plongee dive;
-    state_.build(dive);
+void DiveForm::complete(Plongee& dive) {
+    FormState<DiveControls>& fields = state();
     // Both ranges are inclusive; the lowest air temperature is at once the value for none.
-    dive.tempEau = temperature(state_.text(controls_.tempEauField), dive.tempEau, -5, 100);
-    dive.tempAir = temperature(state_.text(controls_.tempAirField), dive.tempAir, temperatureNotGiven, 140);
+    dive.tempEau = temperature(fields.text(controls_.tempEauField), dive.tempEau, -5, 100);
+    dive.tempAir = temperature(fields.text(controls_.tempAirField), dive.tempAir, temperatureNotGiven, 140);
     _plg.profilArraysDefaultContent();
     static_cast<ProfileSeries&>(dive) = _plg;
-    updateSlider();
-    return dive;
+    nameDifficulty();
 }
 
 void DiveForm::updateSlider() {
+    nameDifficulty();
+    updateUI();
+}
+
+void DiveForm::nameDifficulty() {
+    FormState<DiveControls>& fields = state();
     static constexpr std::array<Title, 6> words{{{"Carnet", "Very easy"},
                                                  {"Carnet", "Easy"},
                                                  {"Carnet", "Normal"},
                                                  {"Carnet", "Hard"},
                                                  {"Carnet", "Very hard"},
                                                  {"Carnet", "Extreme"}}};
-    const int difficulty = state_.tag(controls_.difficulteSlider);
+    const int difficulty = fields.tag(controls_.difficulteSlider);
     const bool named = difficulty >= 0 && difficulty < static_cast<int>(words.size());
-    state_.setText(controls_.difficulteField,
+    fields.setText(controls_.difficulteField,
                    (named ? words[static_cast<std::size_t>(difficulty)] : words.back()).text());
-    updateUI();
 }
 
-void DiveForm::updateUI() {
-    const FormStateBase::Batch batch(state_);
-    const int apparatus = state_.tag(controls_.rebreatherMatrix);
+void DiveForm::refresh() {
+    FormState<DiveControls>& fields = state();
+    const int apparatus = fields.tag(controls_.rebreatherMatrix);
     // The captions are French in every language; a hybrid rebreather leaves them as they were.
     if (apparatus == Apparatus::manualClosed || apparatus == Apparatus::electronicClosed) {
-        state_.setText(controls_.blocField[0], QStringLiteral("OXYGÈNE :"));
-        state_.setText(controls_.blocField[1], QStringLiteral("DILUANT :"));
-        state_.setText(controls_.setPointField, text("Carnet", "high setpoint"));
-        state_.setInteger(controls_.o2MixField[0], 100);
+        fields.setText(controls_.blocField[0], QStringLiteral("OXYGÈNE :"));
+        fields.setText(controls_.blocField[1], QStringLiteral("DILUANT :"));
+        fields.setText(controls_.setPointField, text("Carnet", "high setpoint"));
+        fields.setInteger(controls_.o2MixField[0], 100);
     } else if (apparatus == Apparatus::openCircuit || apparatus == Apparatus::semiClosed) {
-        state_.setText(controls_.blocField[0], QStringLiteral("Bloc principal :"));
-        state_.setText(controls_.blocField[1], QStringLiteral("Bloc secondaire :"));
-        state_.setText(controls_.setPointField, text("Carnet", "PpO2"));
+        fields.setText(controls_.blocField[0], QStringLiteral("Bloc principal :"));
+        fields.setText(controls_.blocField[1], QStringLiteral("Bloc secondaire :"));
+        fields.setText(controls_.setPointField, text("Carnet", "PpO2"));
     }
-    state_.setEnabled(controls_.flowField, apparatus == Apparatus::semiClosed);
+    fields.setEnabled(controls_.flowField, apparatus == Apparatus::semiClosed);
 
-    const bool usUnits = desktop_.preferences.get(settings::usUnits);
+    const bool usUnits = desktop().preferences.get(settings::usUnits);
     const QString degree = usUnits ? text("Carnet", "Degree Farenheit") : text("Carnet", "Degree Celsius");
     const QString length = usUnits ? QStringLiteral("ft") : QStringLiteral("m");
-    state_.setText(controls_.fahrEauField, degree);
-    state_.setText(controls_.fahrAirField, degree);
-    state_.setText(controls_.ftDepthField, length);
-    state_.setText(controls_.ftAltitudeField, length);
+    fields.setText(controls_.fahrEauField, degree);
+    fields.setText(controls_.fahrAirField, degree);
+    fields.setText(controls_.ftDepthField, length);
+    fields.setText(controls_.ftAltitudeField, length);
     for (const auto& caption : controls_.ft_m_Field) {
-        state_.setText(caption, length);
+        fields.setText(caption, length);
     }
     for (std::size_t tank = 0; tank < 2; ++tank) {
         const qint64 nitrogen =
-            qint64(100) - state_.integer(controls_.o2MixField[tank]) - state_.integer(controls_.heMixField[tank]);
-        state_.setText(controls_.n2MixField[tank], QString::number(nitrogen));
+            qint64(100) - fields.integer(controls_.o2MixField[tank]) - fields.integer(controls_.heMixField[tank]);
+        fields.setText(controls_.n2MixField[tank], QString::number(nitrogen));
     }
 }
 
 GasReadings DiveForm::gasReadings() const {
+    const FormState<DiveControls>& fields = state();
     GasReadings readings;
-    const auto read = [this](auto volume, auto start, auto end) {
-        return BottleReading{state_.integer(volume), state_.integer(start), state_.integer(end)};
+    const auto read = [&fields](auto volume, auto start, auto end) {
+        return BottleReading{fields.integer(volume), fields.integer(start), fields.integer(end)};
     };
     for (std::size_t tank = 0; tank < readings.tanks.size(); ++tank) {
         readings.tanks[tank] =
@@ -200,23 +266,24 @@ GasReadings DiveForm::gasReadings() const {
                  controls_.bailout_FinField[bailout]);
     }
     for (std::size_t level = 0; level < readings.levels.size(); ++level) {
-        readings.levels[level] = {state_.tag(controls_.deco_Level_Switch[level]) == 1,
-                                  state_.real(controls_.decoO2_Level_Field[level]),
-                                  state_.integer(controls_.depthDeco_Level_Field[level])};
+        readings.levels[level] = {fields.tag(controls_.deco_Level_Switch[level]) == 1,
+                                  fields.real(controls_.decoO2_Level_Field[level]),
+                                  fields.integer(controls_.depthDeco_Level_Field[level])};
     }
-    readings.time = state_.integer(controls_.tempsField);
-    readings.minutes = state_.real(controls_.tempsField);
-    readings.depth = state_.real(controls_.profondeurField);
-    readings.oxygen = state_.real(controls_.o2MixField[0]);
+    readings.time = fields.integer(controls_.tempsField);
+    readings.minutes = fields.real(controls_.tempsField);
+    readings.depth = fields.real(controls_.profondeurField);
+    readings.oxygen = fields.real(controls_.o2MixField[0]);
     readings.readProfile(_plg);
     return readings;
 }
 
 void DiveForm::presetGas(qint64 oxygen, qint64 nitrogen, qint64 helium) {
-    state_.requestFocus(controls_.surfaceField);
-    state_.setInteger(controls_.o2MixField[0], oxygen);
-    state_.setInteger(controls_.n2MixField[0], nitrogen);
-    state_.setInteger(controls_.heMixField[0], helium);
+    FormState<DiveControls>& fields = state();
+    fields.requestFocus(controls_.surfaceField);
+    fields.setInteger(controls_.o2MixField[0], oxygen);
+    fields.setInteger(controls_.n2MixField[0], nitrogen);
+    fields.setInteger(controls_.heMixField[0], helium);
     updateUI();
 }
 
@@ -225,22 +292,18 @@ void DiveForm::razAir() {
 }
 
 void DiveForm::razNitrox() {
-    const qint64 oxygen = state_.integer(controls_.o2MixField[0]);
+    FormState<DiveControls>& fields = state();
+    const qint64 oxygen = fields.integer(controls_.o2MixField[0]);
     presetGas(oxygen, 100 - oxygen, 0);
 }
 
 void DiveForm::razHeliox() {
-    const qint64 oxygen = state_.integer(controls_.o2MixField[0]);
+    FormState<DiveControls>& fields = state();
+    const qint64 oxygen = fields.integer(controls_.o2MixField[0]);
     presetGas(oxygen, 0, 100 - oxygen);
 }
 
-void DiveForm::endEditing(int control, const QString& typed) {
-    if (const auto& list = controls_.controls()[static_cast<std::size_t>(control)].control.pickList) {
-        offerToPickList(desktop_, *list, typed);
-    }
-}
-
-void DiveForm::userEntered(int control) {
+void DiveForm::entered(int control) {
     if (control == controls_.razAirButton.index) {
         razAir();
     } else if (control == controls_.razNitroxButton.index) {
@@ -252,7 +315,6 @@ void DiveForm::userEntered(int control) {
     } else {
         updateUI();
     }
-    Q_EMIT userEdited();
 }
 
 }  // namespace tavrel

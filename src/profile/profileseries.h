@@ -1,6 +1,7 @@
 #pragma once
 
 #include "profile/sampling.h"
+#include "records/field.h"
 #include "records/record.h"
 #include "records/series.h"
 
@@ -29,18 +30,19 @@ struct ProfileSeries : Record {
 /// A series by its member, and whether it holds reals (depth, pressure) or integers (flags).
 struct ProfileSeriesKind {
     Series ProfileSeries::*series;
+    Field field;
     bool real;
 };
 
 /// The seven series in archive order.
 inline constexpr std::array<ProfileSeriesKind, 7> profileSeriesKinds{{
-    {&ProfileSeries::profilProfondeur, true},
-    {&ProfileSeries::ASC_Flag, false},
-    {&ProfileSeries::SLOW_Flag, false},
-    {&ProfileSeries::SURF_Flag, false},
-    {&ProfileSeries::CEIL_Flag, false},
-    {&ProfileSeries::GAZ_Flag, false},
-    {&ProfileSeries::PRESS_Data, true},
+    {&ProfileSeries::profilProfondeur, member<&ProfileSeries::profilProfondeur>, true},
+    {&ProfileSeries::ASC_Flag, member<&ProfileSeries::ASC_Flag>, false},
+    {&ProfileSeries::SLOW_Flag, member<&ProfileSeries::SLOW_Flag>, false},
+    {&ProfileSeries::SURF_Flag, member<&ProfileSeries::SURF_Flag>, false},
+    {&ProfileSeries::CEIL_Flag, member<&ProfileSeries::CEIL_Flag>, false},
+    {&ProfileSeries::GAZ_Flag, member<&ProfileSeries::GAZ_Flag>, false},
+    {&ProfileSeries::PRESS_Data, member<&ProfileSeries::PRESS_Data>, true},
 }};
 
 }  // namespace tavrel

@@ -7,6 +7,7 @@
 <message><source>&#13;   - Shorty</source><translation>&#13;   - Shorty</translation></message>
 <message><source>&#13;   - T-shirt</source><translation>&#13;   - T-shirt</translation></message>
 <message><source> Run Time</source><translation>&#13;Run time, computer: </translation></message>
+<message><source>Add new dive question</source><translation>The form holds a new dive that is not in the logbook yet.</translation></message>
 <message><source>Air</source><translation>Air</translation></message>
 <message><source>Air tables</source><translation>&#13;Air tables, computer: </translation></message>
 <message><source>Air temperature</source><translation>&#13;Air temperature: </translation></message>
@@ -300,6 +301,7 @@
 <message><source>Stat warmest</source><translation>Warmest water</translation></message>
 <message><source>Statistics</source><translation>Statistics</translation></message>
 <message><source>Steel</source><translation>Steel</translation></message>
+<message><source>Store dive question</source><translation>The dive in the form was changed and is not stored yet.</translation></message>
 <message><source>Strong</source><translation>Strong</translation></message>
 <message><source>Structure</source><translation>&#13;Club or dive centre: </translation></message>
 <message><source>Surface</source><translation>&#13;Surface interval: </translation></message>

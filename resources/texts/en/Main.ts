@@ -9,6 +9,7 @@
 <message><source>Add</source><translation>Add</translation></message>
 <message><source>Add entry</source><translation>Add</translation></message>
 <message><source>Add item to ComboBox</source><translation>Add “%@” to the list?</translation></message>
+<message><source>Add new card question</source><translation>The form holds a new card that is not in the list yet.</translation></message>
 <message><source>Add to toolbar</source><translation>Add to the toolbar</translation></message>
 <message><source>All documents</source><translation>All documents</translation></message>
 <message><source>All files</source><translation>All files</translation></message>
@@ -32,6 +33,7 @@
 <message><source>Deco</source><translation>Decompression</translation></message>
 <message><source>Delete</source><translation>Delete</translation></message>
 <message><source>Delete entries</source><translation>Delete</translation></message>
+<message><source>Discard</source><translation>Discard</translation></message>
 <message><source>Display</source><translation>Display</translation></message>
 <message><source>Dive computers</source><translation>Dive Computers</translation></message>
 <message><source>Divers documents</source><translation>Miscellaneous documents</translation></message>
@@ -57,6 +59,9 @@
 <message><source>File system read-only</source><translation>The disk is write-protected.</translation></message>
 <message><source>Flexible space</source><translation>Flexible space</translation></message>
 <message><source>Folder missing</source><translation>The folder does not exist.</translation></message>
+<message><source>Form of card</source><translation>Card %d of %d – stored when you close the window or go to another card</translation></message>
+<message><source>Form of new card</source><translation>New card – “Add” puts it at the end of the list</translation></message>
+<message><source>Found cards</source><translation>%d cards found</translation></message>
 <message><source>General</source><translation>General</translation></message>
 <message><source>Insert</source><translation>Insert</translation></message>
 <message><source>Loading</source><translation>Loading…</translation></message>
@@ -101,6 +106,7 @@
 <message><source>No such value</source><translation>“%@” cannot be “%@”.</translation></message>
 <message><source>No valid datas</source><translation>The values are not valid.</translation></message>
 <message><source>Not a picture format</source><translation>“%@” does not end in .png, .svg or .pdf.</translation></message>
+<message><source>One card found</source><translation>1 card found</translation></message>
 <message><source>Open document</source><translation>Open</translation></message>
 <message><source>Picture cannot be made</source><translation>The picture could not be made.</translation></message>
 <message><source>Picture too large</source><translation>This is too long for one picture. A PDF file has room for it.</translation></message>
@@ -124,6 +130,8 @@
 <message><source>Shops</source><translation>Shops</translation></message>
 <message><source>Sites</source><translation>Sites</translation></message>
 <message><source>Space</source><translation>Space</translation></message>
+<message><source>Store</source><translation>Store</translation></message>
+<message><source>Store card question</source><translation>The card in the form was changed and is not stored yet.</translation></message>
 <message><source>Synthesis card</source><translation>Summary card</translation></message>
 <message><source>Tip customise</source><translation>Choose what this toolbar holds</translation></message>
 <message><source>Tip erase</source><translation>Clear all fields</translation></message>
@@ -136,7 +144,12 @@
 <message><source>Toolbar words</source><translation>Words</translation></message>
 <message><source>Toolbar words beside icons</source><translation>Words beside icons</translation></message>
 <message><source>Undo</source><translation>Undo</translation></message>
+<message><source>Undo add card</source><translation>Add Card</translation></message>
+<message><source>Undo delete card</source><translation>Delete Cards</translation></message>
+<message><source>Undo import cards</source><translation>Import Cards</translation></message>
+<message><source>Undo insert card</source><translation>Insert Card</translation></message>
 <message><source>Undo step</source><translation>Undo %@</translation></message>
+<message><source>Undo update card</source><translation>Change Card</translation></message>
 <message><source>Unknown document type</source><translation>Tavrel knows no document type "%@".</translation></message>
 <message><source>Unknown kind of document</source><translation>It is a kind of document that Tavrel does not know.</translation></message>
 <message><source>Untitled</source><translation>Untitled</translation></message>

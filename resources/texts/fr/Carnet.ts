@@ -7,6 +7,7 @@
 <message><source>&#13;   - Shorty</source><translation>&#13;   - Shorty</translation></message>
 <message><source>&#13;   - T-shirt</source><translation>&#13;   - T-shirt</translation></message>
 <message><source> Run Time</source><translation>&#13;Run time, ordinateur : </translation></message>
+<message><source>Add new dive question</source><translation>Le formulaire contient une nouvelle plongée qui n’est pas encore dans le carnet.</translation></message>
 <message><source>Air</source><translation>Air</translation></message>
 <message><source>Air tables</source><translation>&#13;Tables à l’air, ordinateur : </translation></message>
 <message><source>Air temperature</source><translation>&#13;Température de l’air : </translation></message>
@@ -300,6 +301,7 @@
 <message><source>Stat warmest</source><translation>Eau la plus chaude</translation></message>
 <message><source>Statistics</source><translation>Statistiques</translation></message>
 <message><source>Steel</source><translation>Acier</translation></message>
+<message><source>Store dive question</source><translation>La plongée du formulaire a été modifiée et n’est pas encore enregistrée.</translation></message>
 <message><source>Strong</source><translation>Fort</translation></message>
 <message><source>Structure</source><translation>&#13;Structure : </translation></message>
 <message><source>Surface</source><translation>&#13;Intervalle de surface : </translation></message>

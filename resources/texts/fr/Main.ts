@@ -9,6 +9,7 @@
 <message><source>Add</source><translation>Ajouter</translation></message>
 <message><source>Add entry</source><translation>Ajouter</translation></message>
 <message><source>Add item to ComboBox</source><translation>Ajouter « %@ » à la liste ?</translation></message>
+<message><source>Add new card question</source><translation>Le formulaire contient une nouvelle fiche qui n’est pas encore dans la liste.</translation></message>
 <message><source>Add to toolbar</source><translation>Ajouter à la barre d’outils</translation></message>
 <message><source>All documents</source><translation>Tous les documents</translation></message>
 <message><source>All files</source><translation>Tous les fichiers</translation></message>
@@ -32,6 +33,7 @@
 <message><source>Deco</source><translation>Décompression</translation></message>
 <message><source>Delete</source><translation>Supprimer</translation></message>
 <message><source>Delete entries</source><translation>Supprimer</translation></message>
+<message><source>Discard</source><translation>Abandonner</translation></message>
 <message><source>Display</source><translation>Affichage</translation></message>
 <message><source>Dive computers</source><translation>Ordinateurs de plongée</translation></message>
 <message><source>Divers documents</source><translation>Documents divers</translation></message>
@@ -57,6 +59,9 @@
 <message><source>File system read-only</source><translation>Le disque est protégé en écriture.</translation></message>
 <message><source>Flexible space</source><translation>Espace variable</translation></message>
 <message><source>Folder missing</source><translation>Le dossier n’existe pas.</translation></message>
+<message><source>Form of card</source><translation>Fiche %d sur %d – enregistrée quand vous fermez la fenêtre ou changez de fiche</translation></message>
+<message><source>Form of new card</source><translation>Nouvelle fiche – « Ajouter » la place à la fin de la liste</translation></message>
+<message><source>Found cards</source><translation>%d fiches trouvées</translation></message>
 <message><source>General</source><translation>Général</translation></message>
 <message><source>Insert</source><translation>Insérer</translation></message>
 <message><source>Loading</source><translation>Chargement…</translation></message>
@@ -101,6 +106,7 @@
 <message><source>No such value</source><translation>« %@ » ne peut pas valoir « %@ ».</translation></message>
 <message><source>No valid datas</source><translation>Les valeurs ne sont pas valables.</translation></message>
 <message><source>Not a picture format</source><translation>« %@ » ne se termine pas par .png, .svg ou .pdf.</translation></message>
+<message><source>One card found</source><translation>1 fiche trouvée</translation></message>
 <message><source>Open document</source><translation>Ouvrir</translation></message>
 <message><source>Picture cannot be made</source><translation>L’image n’a pas pu être produite.</translation></message>
 <message><source>Picture too large</source><translation>C’est trop long pour une seule image. Un fichier PDF peut le contenir.</translation></message>
@@ -124,6 +130,8 @@
 <message><source>Shops</source><translation>Magasins</translation></message>
 <message><source>Sites</source><translation>Sites</translation></message>
 <message><source>Space</source><translation>Espace</translation></message>
+<message><source>Store</source><translation>Enregistrer</translation></message>
+<message><source>Store card question</source><translation>La fiche du formulaire a été modifiée et n’est pas encore enregistrée.</translation></message>
 <message><source>Synthesis card</source><translation>Fiche de synthèse</translation></message>
 <message><source>Tip customise</source><translation>Choisir le contenu de cette barre d’outils</translation></message>
 <message><source>Tip erase</source><translation>Effacer tous les champs</translation></message>
@@ -136,7 +144,12 @@
 <message><source>Toolbar words</source><translation>Texte</translation></message>
 <message><source>Toolbar words beside icons</source><translation>Texte à côté des icônes</translation></message>
 <message><source>Undo</source><translation>Annuler</translation></message>
+<message><source>Undo add card</source><translation>Ajouter la fiche</translation></message>
+<message><source>Undo delete card</source><translation>Supprimer les fiches</translation></message>
+<message><source>Undo import cards</source><translation>Importer les fiches</translation></message>
+<message><source>Undo insert card</source><translation>Insérer la fiche</translation></message>
 <message><source>Undo step</source><translation>Annuler : %@</translation></message>
+<message><source>Undo update card</source><translation>Modifier la fiche</translation></message>
 <message><source>Unknown document type</source><translation>Tavrel ne connaît pas de type de document « %@ ».</translation></message>
 <message><source>Unknown kind of document</source><translation>Tavrel ne connaît pas ce genre de document.</translation></message>
 <message><source>Untitled</source><translation>Sans titre</translation></message>

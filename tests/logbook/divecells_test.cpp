@@ -1,8 +1,6 @@
-#include "logbook/tablecells.h"
-
 #include "base/texts.h"
 #include "logbook/divecolumns.h"
-#include "logbook/logbooksettings.h"
+#include "logbook/tablecells.h"
 #include "support/testdesktop.h"
 
 #include <gtest/gtest.h>
@@ -244,7 +242,6 @@ TEST(TableCells, readTheirStyleFromThePreferences) {
     const auto plain = TableStyle::read(preferences);
     EXPECT_TRUE(plain.depthTimeInColor);
     EXPECT_EQ(plain.depthColor, QColor(Qt::blue));
-    EXPECT_FALSE(plain.foreignColor.isValid());
     EXPECT_FALSE(plain.mixInColor || plain.foreignInColor || plain.nightInColor || plain.usUnits);
 
     for (const char* key :
@@ -253,7 +250,7 @@ TEST(TableCells, readTheirStyleFromThePreferences) {
     }
     preferences.set(QStringLiteral("low temperature value"), QStringLiteral("12 degrees"));
     preferences.set(QStringLiteral("coloured theme"), 2);
-    preferences.set(settings::foreignColor, foreign);
+    preferences.setColor(QStringLiteral("foreign color"), foreign);
     const auto style = TableStyle::read(preferences);
     EXPECT_TRUE(style.mixInColor && style.foreignInColor && style.nightInColor && style.textInColor);
     EXPECT_TRUE(style.lowTemperatureInColor);

@@ -1,4 +1,4 @@
-#include "logbook/tablecells.h"
+#include "logbook/divecells.h"
 
 #include "base/numbers.h"
 #include "base/texts.h"
@@ -31,28 +31,6 @@ std::optional<QString> titleOf(std::span<const Choice> choices, qint32 tag) {
     return found == choices.data() + choices.size() ? std::nullopt : std::optional(found->title.text());
 }
 
-QString plainText(const Plongee& dive, std::string_view field, const TableStyle& style) {
-    const auto* item = Plongee::layout().find(field);
-    if (!item) {
-        return {};
-    }
-    const auto show = [&](const auto& value) -> QString {
-        using Value = std::decay_t<decltype(value)>;
-        if constexpr (std::is_same_v<Value, QString>) {
-            return value;
-        } else if constexpr (std::is_same_v<Value, Date>) {
-            const QDateTime moment = value.toDateTime();
-            return field == "heure" ? style.locale.toString(moment.time(), QLocale::ShortFormat)
-                                    : style.locale.toString(moment.date(), style.dateFormat);
-        } else if constexpr (std::is_same_v<Value, qint32> || std::is_same_v<Value, float>) {
-            return numberText(value);
-        } else {
-            return {};
-        }
-    };
-    return std::visit([&](auto member) { return show(dive.*member); }, item->member);
-}
-
 QString tideText(const Plongee& dive) {
     if (dive.pmBm == Tide::high) {
         return dive.coeff != 0 ? textWith("Carnet", "TableView high tide", Fallback{QStringLiteral("N/A")}, dive.coeff)
@@ -65,7 +43,7 @@ QString tideText(const Plongee& dive) {
     return dive.coeff != 0 ? numberText(dive.coeff) : QStringLiteral("-");
 }
 
-QString waterText(const Plongee& dive, const TableStyle& style) {
+QString waterText(const Plongee& dive, const DiveTableStyle& style) {
     if (dive.tempEau == temperatureNotGiven) {
         return QStringLiteral("-");
     }
@@ -128,7 +106,7 @@ bool isMixWithHelium(const Plongee& dive) {
     return dive.gaz >= Gas::trimix && dive.gaz <= Gas::heliair;
 }
 
-void colourForeign(CellStyle& cell, const Plongee& dive, std::string_view field, const TableStyle& style) {
+void colourForeign(CellStyle& cell, const Plongee& dive, std::string_view field, const DiveTableStyle& style) {
     if (!style.foreignInColor || field == "epaves" || field == "inoubliable") {
         return;
     }
@@ -174,7 +152,7 @@ CellStyle mixStyleOfGas(const Plongee& dive, bool boldBefore) {
     return {true, white, black};
 }
 
-void colourMix(CellStyle& cell, const Plongee& dive, std::string_view field, const TableStyle& style) {
+void colourMix(CellStyle& cell, const Plongee& dive, std::string_view field, const DiveTableStyle& style) {
     if (!style.mixInColor) {
         return;
     }
@@ -185,7 +163,7 @@ void colourMix(CellStyle& cell, const Plongee& dive, std::string_view field, con
     }
 }
 
-void colourNight(CellStyle& cell, const Plongee& dive, std::string_view field, const TableStyle& style) {
+void colourNight(CellStyle& cell, const Plongee& dive, std::string_view field, const DiveTableStyle& style) {
     if (style.nightInColor) {
         if (field == "visibilite" && dive.nocturne == 1) {
             cell.text = white;
@@ -198,14 +176,15 @@ void colourNight(CellStyle& cell, const Plongee& dive, std::string_view field, c
     }
 }
 
-void colourText(CellStyle& cell, const Plongee& dive, std::string_view field, const TableStyle& style) {
+void colourText(Cell& shown, std::string_view field, const DiveTableStyle& style) {
     const std::string_view column = style.colouredTheme == 0   ? "lieu"
                                     : style.colouredTheme == 1 ? "site"
                                                                : "visibilite";
     if (field != column) {
         return;
     }
-    const bool chosen = cellText(dive, field, style) == style.colouredText;
+    const bool chosen = shown.text == style.colouredText;
+    CellStyle& cell = shown.style;
     if (style.textInColor || chosen) {
         const bool marked = style.textInColor && chosen;
         cell.bold = marked;
@@ -217,7 +196,7 @@ std::optional<QColor> given(const QColor& color) {
     return color.isValid() ? std::optional(color) : std::nullopt;
 }
 
-void colourLowTemperature(CellStyle& cell, const Plongee& dive, std::string_view field, const TableStyle& style) {
+void colourLowTemperature(CellStyle& cell, const Plongee& dive, std::string_view field, const DiveTableStyle& style) {
     if (field == "tempEau") {
         // A temperature that was not given, -50, lies below most thresholds and is coloured too.
         const bool low = style.lowTemperatureInColor && dive.tempEau < style.lowTemperature;
@@ -225,7 +204,7 @@ void colourLowTemperature(CellStyle& cell, const Plongee& dive, std::string_view
     }
 }
 
-void colourDepthAndTime(CellStyle& cell, std::string_view field, const TableStyle& style) {
+void colourDepthAndTime(CellStyle& cell, std::string_view field, const DiveTableStyle& style) {
     if (field == "profondeur") {
         cell.text = style.depthTimeInColor ? given(style.depthColor) : std::nullopt;
     } else if (field == "temps") {
@@ -233,35 +212,8 @@ void colourDepthAndTime(CellStyle& cell, std::string_view field, const TableStyl
     }
 }
 
-}  // namespace
-
-TableStyle TableStyle::read(const Preferences& preferences, const QLocale& locale) {
-    TableStyle style;
-    style.displayUnits = preferences.get(settings::displayUnits);
-    style.usUnits = preferences.get(settings::usUnits);
-    style.foreignInColor = preferences.get(settings::foreignInColor);
-    style.mixInColor = preferences.get(settings::mixInColor);
-    style.nightInColor = preferences.get(settings::nocturnesInColor);
-    style.textInColor = preferences.get(settings::colorItem);
-    style.lowTemperatureInColor = preferences.get(settings::lowTemperatureInColor);
-    style.depthTimeInColor = preferences.get(settings::depthTimeInColor);
-    style.countryCode = preferences.get(settings::countryCode);
-    style.colouredText = preferences.get(settings::colouredText);
-    style.colouredTheme = preferences.get(settings::colouredTheme);
-    style.lowTemperature = preferences.get(settings::lowTemperatureValue);
-    style.foreignColor = preferences.get(settings::foreignColor);
-    style.lowTemperatureColor = preferences.get(settings::lowTemperatureColor);
-    style.depthColor = preferences.get(settings::depthColor);
-    style.timeColor = preferences.get(settings::timeColor);
-    style.locale = locale;
-    style.dateFormat = locale.dateFormat(QLocale::ShortFormat);
-    if (!style.dateFormat.contains(QLatin1StringView("yyyy"))) {
-        style.dateFormat.replace(QLatin1StringView("yy"), QLatin1StringView("yyyy"));
-    }
-    return style;
-}
-
-QString cellText(const Plongee& dive, std::string_view field, const TableStyle& style) {
+/// The words of a cell that says something else than its field's plain text.
+std::optional<QString> ownText(const Plongee& dive, std::string_view field, const DiveTableStyle& style) {
     if (field == "coeff") {
         return tideText(dive);
     }
@@ -281,7 +233,7 @@ QString cellText(const Plongee& dive, std::string_view field, const TableStyle& 
         return visibilityText(dive);
     }
     if (field == "inoubliable" || field == "epaves") {
-        return {};
+        return QString();
     }
     if (field == "gaz") {
         return gasText(dive);
@@ -292,10 +244,13 @@ QString cellText(const Plongee& dive, std::string_view field, const TableStyle& 
     if (field == "rebreather") {
         return titleOf(choices::apparatus, dive.rebreather).value_or(numberText(dive.rebreather));
     }
-    return plainText(dive, field, style);
+    if (field == "heure") {
+        return style.locale.toString(dive.heure.toDateTime().time(), QLocale::ShortFormat);
+    }
+    return std::nullopt;
 }
 
-QString cellImage(const Plongee& dive, std::string_view field) {
+QString imageOf(const Plongee& dive, std::string_view field) {
     if (field == "epaves" && !dive.epaves.isEmpty()) {
         return QStringLiteral("epave");
     }
@@ -316,28 +271,46 @@ QString cellImage(const Plongee& dive, std::string_view field) {
     return {};
 }
 
-QString cellWords(const Plongee& dive, std::string_view field, const TableStyle& style) {
-    if (field == "epaves") {
-        return dive.epaves;
-    }
-    if (field == "inoubliable") {
-        return cellImage(dive, field).isEmpty() ? QString()
-                                                : titleOf(choices::rating, dive.inoubliable).value_or(QString());
-    }
-    return cellText(dive, field, style);
+}  // namespace
+
+DiveTableStyle::DiveTableStyle(const Preferences& preferences, const Clock& clock, const QLocale& itsLocale)
+    : TableStyle(clock, itsLocale) {
+    displayUnits = preferences.get(settings::displayUnits);
+    usUnits = preferences.get(settings::usUnits);
+    foreignInColor = preferences.get(settings::foreignInColor);
+    mixInColor = preferences.get(settings::mixInColor);
+    nightInColor = preferences.get(settings::nocturnesInColor);
+    textInColor = preferences.get(settings::colorItem);
+    lowTemperatureInColor = preferences.get(settings::lowTemperatureInColor);
+    depthTimeInColor = preferences.get(settings::depthTimeInColor);
+    countryCode = preferences.get(settings::countryCode);
+    colouredText = preferences.get(settings::colouredText);
+    colouredTheme = preferences.get(settings::colouredTheme);
+    lowTemperature = preferences.get(settings::lowTemperatureValue);
+    foreignColor = preferences.get(settings::foreignColor);
+    lowTemperatureColor = preferences.get(settings::lowTemperatureColor);
+    depthColor = preferences.get(settings::depthColor);
+    timeColor = preferences.get(settings::timeColor);
 }
 
-CellStyle cellStyle(const Plongee& dive, std::string_view field, const TableStyle& style) {
+void describeDiveCell(const Plongee& dive, std::string_view field, const DiveTableStyle& style, Cell& cell) {
+    if (const auto own = ownText(dive, field, style)) {
+        cell.text = *own;
+    }
+    cell.image = imageOf(dive, field);
+    if (field == "epaves") {
+        cell.words = dive.epaves;
+    } else if (!cell.image.isEmpty()) {
+        cell.words = titleOf(choices::rating, dive.inoubliable).value_or(QString());
+    }
     // Each rule may override what the ones before it set. Drawing a cell asks for nothing more: the table is read again
     // once per change of the preferences or the list, never from here.
-    CellStyle cell;
-    colourForeign(cell, dive, field, style);
-    colourMix(cell, dive, field, style);
-    colourNight(cell, dive, field, style);
-    colourText(cell, dive, field, style);
-    colourLowTemperature(cell, dive, field, style);
-    colourDepthAndTime(cell, field, style);
-    return cell;
+    colourForeign(cell.style, dive, field, style);
+    colourMix(cell.style, dive, field, style);
+    colourNight(cell.style, dive, field, style);
+    colourText(cell, field, style);
+    colourLowTemperature(cell.style, dive, field, style);
+    colourDepthAndTime(cell.style, field, style);
 }
 
 }  // namespace tavrel

@@ -1,31 +1,28 @@
-#include "logbook/ui/carnettoolbars.h"
+#include "logbook/carnettoolbars.h"
 
-#include "logbook/carnet.h"
-
-#include <algorithm>
 #include <array>
 
 namespace tavrel {
 
 namespace {
 
-constexpr ToolItem profile{"profil", {"Carnet", "Profile"}, "ProfilPl", {"Carnet", "Tip profile"}};
+constexpr ToolItem profile{"profil", {"Carnet", "Profile"}, "ProfilPl", {"Carnet", "Tip profile"}, true};
 constexpr ToolItem profileData{
-    "profilData", {"Carnet", "Profile datas"}, "profilData", {"Carnet", "Tip profile datas"}};
+    "profilData", {"Carnet", "Profile datas"}, "profilData", {"Carnet", "Tip profile datas"}, true};
 constexpr ToolItem importUdcf{"importUDCF", {"Carnet", "Import UDCF"}, "importUDCF", {"Carnet", "Tip import UDCF"}};
 constexpr ToolItem importUddf{"importUDDF", {"Carnet", "Import UDDF"}, "importUDDF", {"Carnet", "Tip import UDDF"}};
 
 constexpr std::array tableItems{
     ToolItem{"saveDocument", {"Main", "Save"}, "enregistrer", {"Carnet", "Tip save"}},
-    ToolItem{"imprimer", {"Main", "Print"}, "imprimante", {"Carnet", "Tip print"}},
+    ToolItem{"imprimer", {"Main", "Print"}, "imprimante", {"Carnet", "Tip print"}, true},
     ToolItem{"newDive", {"Main", "Add"}, "ajouterPl", {"Carnet", "Tip add"}},
-    ToolItem{"deleteDive", {"Main", "Delete"}, "supprimerPl", {"Carnet", "Tip delete"}},
+    ToolItem{"deleteDive", {"Main", "Delete"}, "supprimerPl", {"Carnet", "Tip delete"}, true},
     profile,
     profileData,
     importUdcf,
     importUddf,
-    ToolItem{"synthese", {"Main", "Synthesis card"}, "texte", {"Carnet", "Tip synthesis card"}},
-    ToolItem{"statistics", {"Carnet", "Statistics"}, "statistics", {"Carnet", "Tip statistics"}},
+    ToolItem{"synthese", {"Main", "Synthesis card"}, "texte", {"Carnet", "Tip synthesis card"}, true},
+    ToolItem{"statistics", {"Carnet", "Statistics"}, "statistics", {"Carnet", "Tip statistics"}, true},
     ToolItem{"rechercher", {"Carnet", "Find"}, "", {}},
 };
 constexpr std::array tableAllowed{
@@ -40,7 +37,7 @@ constexpr std::array tableInitial{
 
 constexpr std::array editItems{
     ToolItem{"addDiveToList", {"Main", "Add"}, "ajouterPl", {"Carnet", "Tip add"}},
-    ToolItem{"insertDive", {"Main", "Insert"}, "insererPl", {"Carnet", "Tip insert"}},
+    ToolItem{"insertDive", {"Main", "Insert"}, "insererPl", {"Carnet", "Tip insert"}, true},
     ToolItem{"blankFields", {"Main", "Erase"}, "raz", {"Main", "Tip erase"}},
     profile,
     profileData,
@@ -67,14 +64,6 @@ const ToolBarDescription& setupToolbarCarnet() {
 
 const ToolBarDescription& setupToolbarEdit() {
     return editToolBar;
-}
-
-bool validateToolbarItem(const Carnet& carnet, const QString& identifier) {
-    static constexpr std::array needDives{"imprimer",   "insertDive", "deleteDive", "profil",
-                                          "profilData", "synthese",   "statistics"};
-    const bool needs = std::any_of(needDives.begin(), needDives.end(),
-                                   [&](const char* each) { return identifier == QLatin1StringView(each); });
-    return !needs || carnet.count() > 0;
 }
 
 }  // namespace tavrel
