@@ -24,7 +24,7 @@ constexpr int diveCount = 10000;
 constexpr int sampleCount = 600;
 
 using Numbers = SeriesNumbers;
-using Dives = std::vector<DivePointer>;
+using Dives = RecordList;
 
 // A computer that notes metres and bar in tenths. The diver goes down in a tenth of the dive, wanders about the bottom
 // and comes up slowly; a flag is set at one sample in fifty or so.
@@ -105,7 +105,7 @@ void forgetPeak() {
 
 void open(benchmark::State& state, Numbers numbers) {
     const QByteArray bytes = writeRecords(benchmarkDives(), Plongee::layout(), numbers);
-    std::optional<Expected<RecordFile<Plongee>>> file;
+    std::optional<Expected<RecordFile>> file;
     const double before = memory("VmRSS:");
     forgetPeak();
     file = readRecords(bytes, Plongee::layout());
@@ -122,7 +122,7 @@ void open(benchmark::State& state, Numbers numbers) {
 }
 
 void save(benchmark::State& state, Numbers numbers) {
-    std::optional<Expected<RecordFile<Plongee>>> file;
+    std::optional<Expected<RecordFile>> file;
     const QByteArray bytes = writeRecords(benchmarkDives(), Plongee::layout(), numbers);
     QByteArray written;
     againstReference(

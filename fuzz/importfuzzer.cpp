@@ -48,7 +48,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const QByteArrayView bytes(data, static_cast<qsizetype>(size));
     const auto result = importDives(carnet, bytes, ImportFormat::FUZZED_FORMAT);
     require(carnet.count() == (result ? result->taken : 0));
-    for (const auto& dive : carnet.records()) {
+    for (int row = 0; row < carnet.count(); ++row) {
+        const Plongee* dive = &carnet.record(row);
         require(dive->profilProfondeur.size() > 0 && dive->profilProfondeur.size() == dive->GAZ_Flag.size());
         require(dive->o2Mix >= 1 && dive->heMix >= 0 && dive->heMix <= 86);
     }

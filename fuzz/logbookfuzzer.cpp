@@ -15,7 +15,7 @@ namespace {
 using namespace tavrel;
 
 // A record of every kind of field in few items, so that more of the inputs get through it.
-struct Card {
+struct Card : Record {
     Series numbers;
     Image picture;
     QString text;
@@ -24,14 +24,13 @@ struct Card {
     float depth = 0;
 };
 
-constexpr Item<Card> cardItems[] = {
-    {"numbers", &Card::numbers}, {"picture", &Card::picture}, {"text", &Card::text},
-    {"date", &Card::date},       {"number", &Card::number},   {"depth", &Card::depth, Travel::bitsAsInt},
+constexpr Item cardItems[] = {
+    {"numbers", member<&Card::numbers>}, {"picture", member<&Card::picture>}, {"text", member<&Card::text>},
+    {"date", member<&Card::date>},       {"number", member<&Card::number>},   {"depth", member<&Card::depth>, Travel::bitsAsInt},
 };
-constexpr RecordLayout<Card> cardLayout{"Card", 1, cardItems};
+constexpr RecordLayout cardLayout = recordLayout<Card>("Card", 1, cardItems);
 
-template <class Record>
-void require(QByteArrayView bytes, const RecordLayout<Record>& layout) {
+void require(QByteArrayView bytes, const RecordLayout& layout) {
     const auto file = readRecords(bytes, layout);
     if (!file) {
         return;

@@ -97,15 +97,15 @@ TEST_F(Documents, thatCannotBeReadLeaveTheOpenOneAlone) {
     DocumentWindow* open = app.documents.openFile(app.savedLogbook(QStringLiteral("dives.carnet"), 2));
     const QByteArray good = contents(open->document().file());
     struct Jewel : Coin {
-        static RecordLayout<Jewel> layout() { return {"Jewel", 1, {}}; }
+        static RecordLayout layout() { return recordLayout<Jewel>("Jewel", 1, {}); }
     };
-    const std::vector jewels{std::make_shared<const Jewel>()};
+    const RecordList jewels{std::make_shared<const Jewel>()};
     const std::pair<const char*, QByteArray> cases[] = {
         {"empty", {}},
         {"foreign", "%PDF-1.4\n"},
         {"truncated", good.left(good.size() / 2)},
         {"zeros", QByteArray(1 << 20, '\0')},
-        {"unknown", writeRecords<Jewel>(jewels, Jewel::layout())},
+        {"unknown", writeRecords(jewels, Jewel::layout())},
     };
     for (const auto& [name, bytes] : cases) {
         const QString file = app.path(QString::fromLatin1(name));

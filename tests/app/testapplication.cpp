@@ -4,9 +4,9 @@
 
 namespace tavrel {
 
-const RecordLayout<Coin>& Coin::layout() {
-    static const Item<Coin> items[] = {{"name", &Coin::name}};
-    static const RecordLayout<Coin> layout{"Coin", 1, items};
+const RecordLayout& Coin::layout() {
+    static constexpr Item items[] = {{"name", member<&Coin::name>}};
+    static constexpr RecordLayout layout = recordLayout<Coin>("Coin", 1, items);
     return layout;
 }
 
@@ -19,7 +19,7 @@ DocumentTypes testDocumentTypes() {
     const auto exports = [](Document&) {
         return QList<ExportFormat>{{QStringLiteral("Counted"), QStringLiteral("txt")}};
     };
-    return {{Carnet::kind, Title("Main", "Carnet de plongee"), "newCarnetDocumentMenuAction",
+    return {{carnetDescription().kind, Title("Main", "Carnet de plongee"), "newCarnetDocumentMenuAction",
              [=](Desktop& desktop) { return std::make_unique<Carnet>(desktop, std::vector{counted}); }, makeWindow,
              exports},
             {{literal("Budget"), "Coin", "budget"},

@@ -52,17 +52,17 @@ public:
 };
 
 /// A second kind of document, with records of its own.
-struct Coin {
+struct Coin : Record {
     QString name = QStringLiteral("");
-    static const RecordLayout<Coin>& layout();
+    static const RecordLayout& layout();
 };
 
-class Purse : public ListDocument<Coin> {
+class Purse : public ListDocument {
 public:
-    explicit Purse(Desktop& desktop) : ListDocument(desktop) { setType(QStringLiteral("Budget")); }
+    explicit Purse(Desktop& desktop) : ListDocument(desktop, Coin::layout()) { setType(QStringLiteral("Budget")); }
     Expected<QByteArray> dataRepresentationOfType(const QString&) override { return archive(); }
     Expected<void> loadDataRepresentation(QByteArrayView data, const QString&) override {
-        return unarchive(data).map([this](List list) { replaceList(std::move(list)); });
+        return unarchive(data).map([this](RecordList list) { replaceList(std::move(list)); });
     }
 };
 

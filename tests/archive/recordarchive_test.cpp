@@ -2,6 +2,7 @@
 
 #include "archive/colorarchive.h"
 #include "archive/typedstreamtree.h"
+#include "support/records.h"
 #include "support/streambytes.h"
 
 #include <QDir>
@@ -16,7 +17,7 @@
 namespace tavrel {
 namespace {
 
-struct Sample {
+struct Sample : Record {
     Series numbers;
     qint32 first = 0, second = 0, third = 0;
     float depth = 0, warm = 0, cold = 0;
@@ -26,25 +27,25 @@ struct Sample {
     bool operator==(const Sample&) const = default;
 };
 
-constexpr Item<Sample> sampleItems[] = {
-    {"numbers", &Sample::numbers},
-    {"first", &Sample::first},
-    {"second", &Sample::second},
-    {"third", &Sample::third},
-    {"depth", &Sample::depth, Travel::bitsAsInt},
-    {"warm", &Sample::warm},
-    {"cold", &Sample::cold},
-    {"place", &Sample::place},
-    {"note", &Sample::note},
-    {"when", &Sample::when},
+constexpr Item sampleItems[] = {
+    {"numbers", member<&Sample::numbers>},
+    {"first", member<&Sample::first>},
+    {"second", member<&Sample::second>},
+    {"third", member<&Sample::third>},
+    {"depth", member<&Sample::depth>, Travel::bitsAsInt},
+    {"warm", member<&Sample::warm>},
+    {"cold", member<&Sample::cold>},
+    {"place", member<&Sample::place>},
+    {"note", member<&Sample::note>},
+    {"when", member<&Sample::when>},
 };
-constexpr RecordLayout<Sample> sampleLayout{"Sample", 3, sampleItems};
-using Samples = std::vector<std::shared_ptr<const Sample>>;
+constexpr RecordLayout sampleLayout = recordLayout<Sample>("Sample", 3, sampleItems);
+using Samples = RecordList;
 
 Samples exampleSamples() {
-    Sample one{Series::ofReals({0.0, 5.5, 0.0}), 12, -50,      300, 3.0F, 18.0F, 18.5F,
+    Sample one{{}, Series::ofReals({0.0, 5.5, 0.0}), 12, -50,      300, 3.0F, 18.0F, 18.5F,
                QStringLiteral("Étang"),          {}, Date(0.5)};
-    Sample two{Series::ofIntegers({7}), 0,         127, -128, 0, 0.1F, -2.0F, QStringLiteral("Étang"),
+    Sample two{{}, Series::ofIntegers({7}), 0,         127, -128, 0, 0.1F, -2.0F, QStringLiteral("Étang"),
                QStringLiteral(""),      Date(3600)};
     two.depth = std::bit_cast<float>(qint32{-111});
     return {std::make_shared<Sample>(one), std::make_shared<Sample>(two)};
@@ -87,7 +88,7 @@ TEST(RecordArchive, ReadsTheExampleInBothByteOrders) {
         ASSERT_TRUE(file) << file.error().message().toStdString();
         EXPECT_EQ(file->version, 3);
         ASSERT_EQ(file->records.size(), 2U);
-        EXPECT_EQ(*file->records[0], *exampleSamples()[0]);
+        EXPECT_EQ(as<Sample>(file->records[0]), as<Sample>(exampleSamples()[0]));
         EXPECT_EQ(writeRecords(file->records, sampleLayout).toHex(' '), streamBytes(exampleBytes).toHex(' '));
     }
     EXPECT_EQ(recordClassOf(streamBytes(exampleBytes)), QStringLiteral("Sample"));
@@ -141,7 +142,7 @@ TEST(RecordArchive, RestoresEveryNumberBitForBit) {
         ASSERT_TRUE(file) << file.error().message().toStdString();
         for (std::size_t index = 0; index < samples.size(); ++index) {
             const Sample& written = *samples[index];
-            const Sample& read = *file->records[index];
+            const Sample& read = as<Sample>(file->records[index]);
             EXPECT_EQ(read.numbers, written.numbers);
             EXPECT_EQ(std::bit_cast<quint32>(read.depth), std::bit_cast<quint32>(written.depth));
             EXPECT_EQ(std::bit_cast<quint32>(read.warm), std::bit_cast<quint32>(written.warm));
@@ -193,7 +194,7 @@ TEST(RecordArchive, ReadsLongSeriesWhateverTheMixOfReferencesAndLiterals) {
         ASSERT_TRUE(file) << file.error().message().toStdString();
         ASSERT_EQ(file->records.size(), samples.size());
         for (std::size_t index = 0; index < samples.size(); ++index) {
-            EXPECT_EQ(*file->records[index], *samples[index]) << index;
+            EXPECT_EQ(as<Sample>(file->records[index]), as<Sample>(samples[index])) << index;
         }
         EXPECT_EQ(file->records.front(), file->records.back());
         EXPECT_EQ(writeRecords(file->records, sampleLayout, how), bytes);
@@ -201,7 +202,7 @@ TEST(RecordArchive, ReadsLongSeriesWhateverTheMixOfReferencesAndLiterals) {
 }
 
 // A record class through three versions of its layout, with slots of every exception.
-struct Card {
+struct Card : Record {
     qint32 number = 0, later = 0, kept = 7;
     float length = 0;
     QString code, mark, thirdMark;
@@ -209,20 +210,22 @@ struct Card {
     Image picture;
 };
 
-constexpr Item<Card> cardItems[] = {
-    {"number", &Card::number},
-    {"kept", &Card::kept, Travel::memoryOnly},
-    {"later", &Card::later, Travel::plain, 2},
-    {"length", &Card::length, Travel::plain, 3},
-    {"length", &Card::length, Travel::integer, 0, std::nullopt, 2},
-    {"code", &Card::code, Travel::integer, 0, std::nullopt, 1},
-    {"code", &Card::code, Travel::plain, 2},
-    {"thirdMark", &Card::mark, Travel::plain, 0, &Card::thirdMark},
-    {"numbers", &Card::numbers},
-    {"picture", &Card::picture, Travel::plain, 3},
+constexpr Item cardItems[] = {
+    {"number", member<&Card::number>},
+    {"kept", member<&Card::kept>, Travel::memoryOnly},
+    {"later", member<&Card::later>, Travel::plain, 2},
+    {"length", member<&Card::length>, Travel::plain, 3},
+    {"length", member<&Card::length>, Travel::integer, 0, 2},
+    {"code", member<&Card::code>, Travel::integer, 0, 1},
+    {"code", member<&Card::code>, Travel::plain, 2},
+    Item("thirdMark", member<&Card::thirdMark>).writtenFrom(member<&Card::mark>),
+    {"numbers", member<&Card::numbers>},
+    {"picture", member<&Card::picture>, Travel::plain, 3},
 };
-constexpr RecordLayout<Card> cardLayout{"Card", 3, cardItems,
-                                        [](Card& card, int version) { card.kept = version < 2 ? 100 : card.kept; }};
+void keepOld(Card& card, int version) {
+    card.kept = version < 2 ? 100 : card.kept;
+}
+constexpr RecordLayout cardLayout = recordLayout<Card, keepOld>("Card", 3, cardItems);
 
 // Root array (objects 0 to 2, strings @ 92, NSArray 93, NSObject 94, i 95) of so many elements, up to the class of the
 // first one, which follows the array's class as object 3 of class 4.
@@ -235,7 +238,7 @@ TEST(RecordArchive, ReadsTheLayoutOfEveryVersion) {
     const auto read = [](const std::string& notation) {
         const auto file = readRecords(streamBytes(notation), cardLayout);
         EXPECT_TRUE(file) << file.error().message().toStdString();
-        return file ? *file->records.at(0) : Card();
+        return file ? as<Card>(file->records.at(0)) : Card();
     };
     const Card oldest = read(cardFile("01", "9505 9512 9581db01 9285 9285 86 86"));
     EXPECT_EQ(oldest.number, 5);
@@ -251,7 +254,7 @@ TEST(RecordArchive, ReadsTheLayoutOfEveryVersion) {
     EXPECT_EQ(middle.kept, 7);
     EXPECT_EQ(middle.mark, QString());
     EXPECT_EQ(middle.thirdMark, QStringLiteral("x"));
-    EXPECT_EQ(std::get<QString>(fieldValue(middle, *cardLayout.find("thirdMark"))), QStringLiteral("x"));
+    EXPECT_EQ(std::get<QString>(cardLayout.field("thirdMark").value(middle)), QStringLiteral("x"));
 
     // A later version adds groups that this one does not know; integers come in other widths; objects of unknown
     // classes stand for nothing, yet count: the text within the first one is object 7.
@@ -273,11 +276,11 @@ TEST(RecordArchive, KeepsPicturesAndVersionsThroughTheFile) {
     card.length = 2.5F;
     card.mark = QStringLiteral("m");
     card.picture = {QByteArray("II*\0some picture", 16), 12.5F, 8.0F};
-    const QByteArray bytes = writeRecords<Card>({std::make_shared<Card>(card)}, cardLayout);
+    const QByteArray bytes = writeRecords({std::make_shared<Card>(card)}, cardLayout);
     const auto file = readRecords(bytes, cardLayout);
     ASSERT_TRUE(file) << file.error().message().toStdString();
     EXPECT_EQ(file->version, 3);
-    const Card& read = *file->records[0];
+    const Card& read = as<Card>(file->records[0]);
     EXPECT_EQ(read.picture, card.picture);
     EXPECT_EQ(read.length, 2.5F);
     EXPECT_EQ(read.thirdMark, card.mark);
@@ -371,8 +374,8 @@ TEST(RecordArchive, BoundsNestingAndMemory) {
                                                        "02")),
                                   cardLayout);
     ASSERT_TRUE(file) << file.error().message().toStdString();
-    EXPECT_EQ(file->records[1]->numbers, Series::ofReals({0.5}));
-    EXPECT_EQ(file->records[0]->numbers.block<double>().data(), file->records[1]->numbers.block<double>().data());
+    EXPECT_EQ(as<Card>(file->records[1]).numbers, Series::ofReals({0.5}));
+    EXPECT_EQ(as<Card>(file->records[0]).numbers.block<double>().data(), as<Card>(file->records[1]).numbers.block<double>().data());
 }
 
 // Each once made a reader fall.

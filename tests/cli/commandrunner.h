@@ -69,15 +69,15 @@ protected:
 
     /// The dives of a logbook, read without the command line.
     std::vector<DivePointer> dives(const QString& file) const {
-        const auto read = readRecords<Plongee>(contentsOf(path(file)), Plongee::layout());
+        const auto read = readRecords(contentsOf(path(file)), Plongee::layout());
         EXPECT_TRUE(read.has_value()) << file.toStdString();
-        return read ? read->records : std::vector<DivePointer>();
+        return read ? allAs<Plongee>(read->records) : std::vector<DivePointer>();
     }
     /// A field of a dive, as the command line would take it.
     QString value(const QString& file, std::size_t row, std::string_view field) const {
         const auto held = dives(file);
-        const auto* item = Plongee::layout().find(field);
-        return row < held.size() && item ? fieldText(fieldValue(*held[row], *item)) : QStringLiteral("?");
+        const Field found = Plongee::layout().field(field);
+        return row < held.size() && !found.isNull() ? fieldText(found.value(*held[row])) : QStringLiteral("?");
     }
 
     QString language = QStringLiteral("C.UTF-8");

@@ -10,13 +10,15 @@ namespace tavrel {
 
 namespace {
 
-struct Entry {
+struct Entry : Record {
     int number = 0;
 };
 
-class Entries : public ListDocument<Entry> {
+constexpr RecordLayout entryLayout = recordLayout<Entry>("Entry", 1, {});
+
+class Entries : public ListDocument {
 public:
-    using ListDocument::ListDocument;
+    explicit Entries(Desktop& desktop) : ListDocument(desktop, entryLayout) {}
 
     Expected<QByteArray> dataRepresentationOfType(const QString&) override { return QByteArray(); }
     Expected<void> loadDataRepresentation(QByteArrayView, const QString&) override { return {}; }
@@ -29,10 +31,10 @@ TEST(ListDocument, restoresEveryListOfItsSteps) {
         std::mt19937 random(seed);
         const auto below = [&random](std::size_t bound) { return bound == 0 ? 0 : random() % bound; };
         Entries entries(desktop.desktop());
-        std::vector<Entries::List> before;  // of each step
-        std::vector<Entries::List> after;
+        std::vector<RecordList> before;  // of each step
+        std::vector<RecordList> after;
         for (int turn = 0; turn < 200; ++turn) {
-            Entries::List list = entries.records();
+            RecordList list = entries.records();
             auto& stack = entries.undoStack();
             const auto step = static_cast<std::size_t>(stack.index());
             const auto row = static_cast<std::ptrdiff_t>(below(list.size()));
@@ -59,7 +61,7 @@ TEST(ListDocument, restoresEveryListOfItsSteps) {
                     }
                     break;
                 default:
-                    list.insert(list.begin() + row, std::make_shared<const Entry>(Entry{turn}));
+                    list.insert(list.begin() + row, std::make_shared<const Entry>(Entry{{}, turn}));
                     break;
             }
             before.resize(step);

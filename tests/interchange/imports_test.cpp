@@ -3,6 +3,7 @@
 #include "interchange/exports.h"
 #include "interchange/frenchlocale.h"
 #include "support/printing.h"
+#include "support/records.h"
 #include "support/testdesktop.h"
 
 #include <QDir>
@@ -269,7 +270,7 @@ TEST_F(Imports, surviveHostileFilesAndReadNoOther) {
         }
     }
     EXPECT_LT(timer.elapsed(), 10'000);
-    for (const auto& taken : carnet.records()) {
+    for (const auto& taken : allAs<Plongee>(carnet.records())) {
         EXPECT_FALSE(taken->lieu.contains(u"root:") || taken->lieu.contains(u"deep")) << taken->lieu.toStdString();
         const double deepest = static_cast<double>(taken->profondeur);
         EXPECT_TRUE(deepest >= 0 && deepest <= 2147483648.0) << deepest;

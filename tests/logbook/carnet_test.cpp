@@ -30,8 +30,8 @@ protected:
     }
     QList<int> numbers() const {
         QList<int> result;
-        for (const auto& dive : carnet.records()) {
-            result.append(dive->noPlongee);
+        for (int row = 0; row < carnet.count(); ++row) {
+            result.append(carnet.record(row).noPlongee);
         }
         return result;
     }

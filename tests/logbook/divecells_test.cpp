@@ -1,6 +1,6 @@
 #include "base/texts.h"
 #include "logbook/divecolumns.h"
-#include "logbook/tablecells.h"
+#include "logbook/divecells.h"
 #include "support/testdesktop.h"
 
 #include <gtest/gtest.h>
@@ -17,9 +17,18 @@ struct TextCase {
     const char* text;
 };
 
-void expectTexts(const std::vector<TextCase>& cases, const TableStyle& style) {
+Cell cellOf(const Plongee& dive, const char* field, const DiveTableStyle& style = {}) {
+    Cell cell;
+    if (const Field found = Plongee::layout().field(std::string_view(field)); !found.isNull()) {
+        cell.text = plainText(dive, found, style);
+    }
+    describeDiveCell(dive, field, style, cell);
+    return cell;
+}
+
+void expectTexts(const std::vector<TextCase>& cases, const DiveTableStyle& style) {
     for (const auto& [field, dive, expected] : cases) {
-        EXPECT_EQ(cellText(dive, field, style), QString::fromUtf8(expected)) << field;
+        EXPECT_EQ(cellOf(dive, field, style).text, QString::fromUtf8(expected)) << field;
     }
 }
 
@@ -90,7 +99,7 @@ TEST(TableCells, followUnitsAndLocale) {
 
     TestDesktop desktop;
     desktop.preferences.set(QStringLiteral("display units"), true);
-    const auto french = TableStyle::read(desktop.preferences, QLocale(QLocale::French, QLocale::France));
+    const auto french = DiveTableStyle(desktop.preferences, desktop.clock, QLocale(QLocale::French, QLocale::France));
     expectTexts({{"date", dive, "07/03/1998"},
                  {"heure", dive, "09:05"},
                  {"profondeur", dive, "18.5 m"},
@@ -99,13 +108,13 @@ TEST(TableCells, followUnitsAndLocale) {
                 french);
 
     desktop.preferences.set(QStringLiteral("us units"), true);
-    const auto american = TableStyle::read(desktop.preferences, QLocale(QLocale::English, QLocale::UnitedStates));
+    const auto american = DiveTableStyle(desktop.preferences, desktop.clock, QLocale(QLocale::English, QLocale::UnitedStates));
     expectTexts({{"date", dive, "3/7/1998"}, {"profondeur", dive, "18.5 ft"}, {"tempEau", dive, "14\u00a0°F"}},
                 american);
 
     desktop.preferences.set(QStringLiteral("display units"), false);
     expectTexts({{"profondeur", dive, "18.5"}, {"temps", dive, "45"}, {"tempEau", dive, "14\u00a0°F"}},
-                TableStyle::read(desktop.preferences));
+                DiveTableStyle(desktop.preferences, desktop.clock));
 }
 
 TEST(TableCells, showImagesWithWordsBehindThem) {
@@ -113,13 +122,13 @@ TEST(TableCells, showImagesWithWordsBehindThem) {
     const char* ratings[] = {"", "coeur", "point", "croix", "death", ""};
     for (int rating = 0; rating < 6; ++rating) {
         const Plongee dive{.inoubliable = rating};
-        EXPECT_EQ(cellImage(dive, "inoubliable"), QString::fromUtf8(ratings[rating]));
-        EXPECT_EQ(cellWords(dive, "inoubliable", {}).isEmpty(), *ratings[rating] == 0) << rating;
+        EXPECT_EQ(cellOf(dive, "inoubliable").image, QString::fromUtf8(ratings[rating]));
+        EXPECT_EQ(cellOf(dive, "inoubliable").words.isEmpty(), *ratings[rating] == 0) << rating;
     }
-    EXPECT_EQ(cellImage({.epaves = QStringLiteral("Donator")}, "epaves"), u"epave");
-    EXPECT_EQ(cellWords({.epaves = QStringLiteral("Donator")}, "epaves", {}), u"Donator");
-    EXPECT_EQ(cellImage({.epaves = QStringLiteral("")}, "epaves"), QString());
-    EXPECT_EQ(cellImage({.epaves = QStringLiteral("Donator")}, "lieu"), QString());
+    EXPECT_EQ(cellOf({.epaves = QStringLiteral("Donator")}, "epaves").image, u"epave");
+    EXPECT_EQ(cellOf({.epaves = QStringLiteral("Donator")}, "epaves").words, u"Donator");
+    EXPECT_EQ(cellOf({.epaves = QStringLiteral("")}, "epaves").image, QString());
+    EXPECT_EQ(cellOf({.epaves = QStringLiteral("Donator")}, "lieu").image, QString());
 }
 
 // Colours as name of the text's, then of the background's; "-" for the table's own.
@@ -151,10 +160,10 @@ std::optional<QColor> named(const char* name) {
     return *name == '-' ? std::nullopt : std::optional(colors.at(name));
 }
 
-void expectStyles(const char* what, const std::vector<StyleCase>& cases, const TableStyle& style) {
+void expectStyles(const char* what, const std::vector<StyleCase>& cases, const DiveTableStyle& style) {
     int number = 0;
     for (const auto& expected : cases) {
-        const CellStyle cell = cellStyle(expected.dive, expected.field, style);
+        const CellStyle cell = cellOf(expected.dive, expected.field, style).style;
         EXPECT_EQ(cell.text, named(expected.text)) << what << ' ' << number;
         EXPECT_EQ(cell.background, named(expected.background)) << what << ' ' << number;
         EXPECT_EQ(cell.bold, expected.bold) << what << ' ' << number;
@@ -165,7 +174,7 @@ void expectStyles(const char* what, const std::vector<StyleCase>& cases, const T
 TEST(TableCells, takeTheColoursOfTheRulesInTheirOrder) {
     const Plongee home{.countryCode = QStringLiteral("FRA")};
     const Plongee abroad{.countryCode = QStringLiteral("EGY"), .epaves = QStringLiteral("Thistlegorm")};
-    TableStyle style;
+    DiveTableStyle style;
     expectStyles("plain", {{"noPlongee", abroad, "-", "-"}, {"tempEau", {.tempEau = -50}, "-", "-"}}, style);
 
     style.foreignInColor = true;
@@ -239,7 +248,7 @@ TEST(TableCells, takeTheColoursOfTheRulesInTheirOrder) {
 TEST(TableCells, readTheirStyleFromThePreferences) {
     TestDesktop desktop;
     auto& preferences = desktop.preferences;
-    const auto plain = TableStyle::read(preferences);
+    const auto plain = DiveTableStyle(preferences, desktop.clock);
     EXPECT_TRUE(plain.depthTimeInColor);
     EXPECT_EQ(plain.depthColor, QColor(Qt::blue));
     EXPECT_FALSE(plain.mixInColor || plain.foreignInColor || plain.nightInColor || plain.usUnits);
@@ -251,7 +260,7 @@ TEST(TableCells, readTheirStyleFromThePreferences) {
     preferences.set(QStringLiteral("low temperature value"), QStringLiteral("12 degrees"));
     preferences.set(QStringLiteral("coloured theme"), 2);
     preferences.setColor(QStringLiteral("foreign color"), foreign);
-    const auto style = TableStyle::read(preferences);
+    const auto style = DiveTableStyle(preferences, desktop.clock);
     EXPECT_TRUE(style.mixInColor && style.foreignInColor && style.nightInColor && style.textInColor);
     EXPECT_TRUE(style.lowTemperatureInColor);
     EXPECT_EQ(style.lowTemperature, 12);
@@ -262,7 +271,7 @@ TEST(TableCells, readTheirStyleFromThePreferences) {
 TEST(DiveColumns, haveTitlesAndFields) {
     for (const char* language : {"fr", "en"}) {
         setTextLanguage(QString::fromUtf8(language));
-        for (const auto& column : diveColumns) {
+        for (const auto& column : diveColumns()) {
             EXPECT_NE(column.title.text(), u"error !") << column.field;
             EXPECT_TRUE(Plongee::layout().find(column.field)) << column.field;
         }
