@@ -17,4 +17,9 @@ Field RecordLayout::field(std::string_view key) const {
     return item ? item->field() : Field();
 }
 
+Field RecordLayout::field(QStringView key) const {
+    const QByteArray name = key.toUtf8();
+    return field(std::string_view(name.constData(), static_cast<std::size_t>(name.size())));
+}
+
 }  // namespace tavrel

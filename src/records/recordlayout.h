@@ -3,7 +3,7 @@
 #include "records/field.h"
 #include "records/record.h"
 
-#include <QString>
+#include <QStringView>
 
 #include <limits>
 #include <memory>
@@ -73,7 +73,7 @@ struct RecordLayout {
     const Item* find(std::string_view key) const;
     /// The field of that key; a null field when the class has none. Look it up once, not for every record.
     Field field(std::string_view key) const;
-    Field field(const QString& key) const { return field(std::string_view(key.toUtf8())); }
+    Field field(QStringView key) const;
 };
 
 /// The layout of the record class Class. What afterReading names is called with each record that was read and the class

@@ -1,6 +1,7 @@
 #include "archive/recordarchive.h"
 
 #include "archive/colorarchive.h"
+#include "archive/typedstreamfault.h"
 #include "archive/typedstreamtree.h"
 #include "support/records.h"
 #include "support/streambytes.h"
@@ -141,7 +142,7 @@ TEST(RecordArchive, RestoresEveryNumberBitForBit) {
         const auto file = readRecords(writeRecords(samples, sampleLayout, how), sampleLayout);
         ASSERT_TRUE(file) << file.error().message().toStdString();
         for (std::size_t index = 0; index < samples.size(); ++index) {
-            const Sample& written = *samples[index];
+            const Sample& written = as<Sample>(samples[index]);
             const Sample& read = as<Sample>(file->records[index]);
             EXPECT_EQ(read.numbers, written.numbers);
             EXPECT_EQ(std::bit_cast<quint32>(read.depth), std::bit_cast<quint32>(written.depth));

@@ -1,7 +1,7 @@
 #include "logbook/carnet.h"
 
 #include "logbook/divecolumns.h"
-#include "logbook/divesort.h"
+#include "book/booktable.h"
 #include "support/testdesktop.h"
 
 #include <QSignalSpy>
@@ -244,17 +244,17 @@ TEST_F(CarnetTest, sortsDescendingFirstAndKeepsTheSelectedDives) {
 }
 
 TEST(DiveSort, ordersEveryKindOfValueAndKeepsEqualDivesInTheirOrder) {
-    std::vector<DivePointer> dives;
+    RecordList dives;
     for (const float depth : {12.5F, std::numeric_limits<float>::quiet_NaN(), -1.0F, 12.5F}) {
         const Plongee dive{.date = depth < 0 ? Date() : Date(static_cast<double>(dives.size())), .profondeur = depth};
         dives.push_back(std::make_shared<const Plongee>(dive));
     }
-    EXPECT_EQ(sortedOrder(dives, QStringLiteral("profondeur"), true), std::vector<int>({1, 2, 0, 3}));
-    EXPECT_EQ(sortedOrder(dives, QStringLiteral("profondeur"), false), std::vector<int>({0, 3, 2, 1}));
-    EXPECT_EQ(sortedOrder(dives, QStringLiteral("date"), true), std::vector<int>({2, 0, 1, 3}));
-    EXPECT_EQ(sortedOrder(dives, QStringLiteral("lieu"), false), std::vector<int>({0, 1, 2, 3}));
-    EXPECT_EQ(sortedOrder(dives, QStringLiteral("nothing"), false), std::vector<int>({0, 1, 2, 3}));
-    EXPECT_EQ(sortedOrder({}, QStringLiteral("date"), false), std::vector<int>());
+    EXPECT_EQ(sortedOrder(dives, Plongee::layout().field(u"profondeur"), true), std::vector<int>({1, 2, 0, 3}));
+    EXPECT_EQ(sortedOrder(dives, Plongee::layout().field(u"profondeur"), false), std::vector<int>({0, 3, 2, 1}));
+    EXPECT_EQ(sortedOrder(dives, Plongee::layout().field(u"date"), true), std::vector<int>({2, 0, 1, 3}));
+    EXPECT_EQ(sortedOrder(dives, Plongee::layout().field(u"lieu"), false), std::vector<int>({0, 1, 2, 3}));
+    EXPECT_EQ(sortedOrder(dives, Plongee::layout().field(u"nothing"), false), std::vector<int>({0, 1, 2, 3}));
+    EXPECT_EQ(sortedOrder({}, Plongee::layout().field(u"date"), false), std::vector<int>());
 }
 
 TEST_F(CarnetTest, savesByTypeAndReplacesTheListBeforeItChecksTheType) {
