@@ -7,6 +7,7 @@
 #include <QSignalSpy>
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <limits>
 
 namespace tavrel {
@@ -159,43 +160,92 @@ TEST_F(CarnetTest, goesFromDiveToDiveStoringTheForm) {
     EXPECT_EQ(carnet.recordAt(2)->site, u"Cave");
 }
 
-TEST_F(CarnetTest, storesEntriesOnlyIntoTheDiveTheyWereMadeFor) {
+TEST_F(CarnetTest, storesNothingThatNobodyEntered) {
     holdNumbers({1, 2});
     carnet.selectRows({0});
-    carnet.storeEntries();
-    EXPECT_FALSE(carnet.isChanged());
-    carnet.newDive();
-    type(controls.siteField, "Elsewhere");
-    carnet.storeEntries();
-    EXPECT_FALSE(carnet.isChanged());
-    carnet.selectRows({1});
+    EXPECT_TRUE(carnet.closeEditWindow());
     type(controls.siteField, "Here");
-    carnet.storeEntries();
+    type(controls.siteField, "");
+    EXPECT_TRUE(carnet.leaveForm(Leaving::saving));
+    carnet.nextDive();
+    EXPECT_FALSE(carnet.isChanged());  // stop depths that the form proposes are no entries either
+    EXPECT_EQ(carnet.recordAt(0)->decoDepth_Level_1, 0);
+    type(controls.siteField, "Here");
+    EXPECT_TRUE(carnet.leaveForm(Leaving::saving));
     EXPECT_EQ(carnet.recordAt(1)->site, u"Here");
 }
 
-TEST_F(CarnetTest, asksBeforeANewDiveTakesThePlaceOfAStoredOne) {
+TEST_F(CarnetTest, asksWhatBecomesOfANewDiveOnEveryWayOut) {
     holdNumbers({1, 2});
     carnet.selectRows({1});
     carnet.newDive();
-    EXPECT_TRUE(carnet.closeEditWindow());  // untouched: nothing to store
+    EXPECT_TRUE(carnet.closeEditWindow());  // untouched: nothing to add
     EXPECT_FALSE(carnet.isChanged());
 
-    const auto answer = [&](int button) {
-        desktop.alerts.answerNext(button);
-        type(controls.siteField, "New");
-        return carnet.closeEditWindow();
+    enum Answer { add, discard, cancel };
+    const std::function<bool()> ways[] = {
+        [&] { return carnet.closeEditWindow(); },
+        [&] { return carnet.closeEditWindow(Leaving::escaping); },
+        [&] { return carnet.leaveForm(Leaving::saving); },
+        [&] { return carnet.userSelects({0}); },
     };
-    EXPECT_FALSE(answer(2));
-    EXPECT_FALSE(carnet.isChanged());
-    EXPECT_TRUE(answer(0));
-    ASSERT_EQ(carnet.count(), 3);
-    EXPECT_EQ(carnet.recordAt(2)->site, u"New");
-    EXPECT_EQ(carnet.selectedRows(), QList<int>({1}));
+    for (const auto& way : ways) {
+        const int before = carnet.count();
+        carnet.newDive();
+        const auto answer = [&](Answer button) {
+            desktop.alerts.answerNext(button);
+            type(controls.siteField, "New");
+            return way();
+        };
+        const QList<int> selected = carnet.selectedRows();
+        EXPECT_FALSE(answer(cancel));
+        EXPECT_EQ(carnet.selectedRows(), selected);
+        EXPECT_EQ(shown(controls.siteField), u"New");
+        EXPECT_EQ(carnet.count(), before);
+        EXPECT_TRUE(answer(discard));
+        EXPECT_EQ(carnet.count(), before);
+        carnet.newDive();
+        EXPECT_TRUE(answer(add));
+        ASSERT_EQ(carnet.count(), before + 1);
+        EXPECT_EQ(carnet.recordAt(before)->site, u"New");
+        EXPECT_EQ(carnet.recordAt(1)->site, QString());
+        carnet.selectRows({1});
+    }
+}
+
+TEST_F(CarnetTest, asksAboutAStoredDiveWhereStoringIsNoMatterOfCourse) {
+    holdNumbers({1, 2});
+    const auto site = [this](int row) { return carnet.recordAt(row)->site; };
+    carnet.selectRows({0});
+    type(controls.siteField, "Reef");
+    desktop.alerts.answerNext(2);
+    EXPECT_FALSE(carnet.userSelects({1}));
+    EXPECT_EQ(carnet.selectedRow(), 0);
+    desktop.alerts.answerNext(1);
+    EXPECT_TRUE(carnet.closeEditWindow(Leaving::escaping));
+    EXPECT_EQ(site(0), QString());
+    EXPECT_EQ(shown(controls.siteField), u"");
+    type(controls.siteField, "Wreck");
+    desktop.alerts.answerNext(0);
+    EXPECT_TRUE(carnet.userSelects({1}));
+    EXPECT_EQ(site(0), u"Wreck");
+    EXPECT_EQ(carnet.selectedRow(), 1);
+    EXPECT_EQ(desktop.alerts.questions.size(), 3U);
+}
+
+TEST_F(CarnetTest, keepsWhatIsTypedWhenAStepIsUndone) {
+    holdNumbers({1, 2});
     carnet.newDive();
-    EXPECT_TRUE(answer(1));
-    EXPECT_EQ(carnet.count(), 3);
-    EXPECT_EQ(carnet.recordAt(1)->site, u"New");
+    type(controls.siteField, "New");
+    carnet.undoStack().undo();
+    EXPECT_EQ(shown(controls.siteField), u"New");
+    carnet.undoStack().redo();
+    EXPECT_EQ(shown(controls.siteField), u"New");
+    // With no row selected the form shows no dive of the list.
+    desktop.alerts.answerNext(1);
+    carnet.editWindow();
+    EXPECT_EQ(shown(controls.siteField), u"");
+    EXPECT_FALSE(carnet.formShowsSelectedRecord());
 }
 
 TEST_F(CarnetTest, findsWhatFieldsHold) {
@@ -296,8 +346,8 @@ TEST(CarnetColumns, areSetUpWhereTheNumberIsHidden) {
     const auto shown = [&](const char* key) { return preferences.boolean(QString::fromUtf8(key)); };
     preferences.set(QStringLiteral("column gaz"), false);
     const Carnet first(desktop.desktop());
-    for (const auto& column : diveColumns) {
-        EXPECT_EQ(preferences.get(column.shown), QLatin1StringView(column.field) != u"rebreather") << column.field;
+    for (const auto& column : diveColumns()) {
+        EXPECT_EQ(preferences.get(*column.shown), QLatin1StringView(column.field) != u"rebreather") << column.field;
     }
     preferences.set(QStringLiteral("column site"), false);
     const Carnet second(desktop.desktop());

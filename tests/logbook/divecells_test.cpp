@@ -1,6 +1,7 @@
 #include "base/texts.h"
 #include "logbook/divecolumns.h"
 #include "logbook/divecells.h"
+#include "logbook/logbooksettings.h"
 #include "support/testdesktop.h"
 
 #include <gtest/gtest.h>
@@ -251,6 +252,7 @@ TEST(TableCells, readTheirStyleFromThePreferences) {
     const auto plain = DiveTableStyle(preferences, desktop.clock);
     EXPECT_TRUE(plain.depthTimeInColor);
     EXPECT_EQ(plain.depthColor, QColor(Qt::blue));
+    EXPECT_FALSE(plain.foreignColor.isValid());
     EXPECT_FALSE(plain.mixInColor || plain.foreignInColor || plain.nightInColor || plain.usUnits);
 
     for (const char* key :
@@ -259,7 +261,7 @@ TEST(TableCells, readTheirStyleFromThePreferences) {
     }
     preferences.set(QStringLiteral("low temperature value"), QStringLiteral("12 degrees"));
     preferences.set(QStringLiteral("coloured theme"), 2);
-    preferences.setColor(QStringLiteral("foreign color"), foreign);
+    preferences.set(settings::foreignColor, foreign);
     const auto style = DiveTableStyle(preferences, desktop.clock);
     EXPECT_TRUE(style.mixInColor && style.foreignInColor && style.nightInColor && style.textInColor);
     EXPECT_TRUE(style.lowTemperatureInColor);
