@@ -236,12 +236,13 @@ bool MyDocumentController::saveDocument(DocumentWindow& window) {
     if (window.document().file().isEmpty()) {
         return saveDocumentAs(window);
     }
-    window.commitEditing();
-    return succeeded(window.document().save());
+    return window.leaveEditing(Settling::saving) && succeeded(window.document().save());
 }
 
 bool MyDocumentController::saveDocumentAs(DocumentWindow& window) {
-    window.commitEditing();
+    if (!window.leaveEditing(Settling::saving)) {
+        return false;
+    }
     Document& document = window.document();
     const DocumentType& type = typeOf(window);
     const QString proposal =
@@ -258,6 +259,9 @@ bool MyDocumentController::saveDocumentAs(DocumentWindow& window) {
 }
 
 bool MyDocumentController::revertDocument(DocumentWindow& window) {
+    if (!window.leaveEditing(Settling::leaving)) {
+        return false;
+    }
     Document& document = window.document();
     const QString question = textWith("Main", "Revert question", document.displayName());
     desktop_.alerts.beep();
@@ -274,7 +278,9 @@ QList<ExportFormat> MyDocumentController::exportFormats(DocumentWindow& window) 
 }
 
 bool MyDocumentController::exportDocument(DocumentWindow& window) {
-    window.commitEditing();
+    if (!window.leaveEditing(Settling::saving)) {
+        return false;
+    }
     const QList<ExportFormat> formats = exportFormats(window);
     QList<FileFilter> filters;
     for (const ExportFormat& format : formats) {
@@ -300,20 +306,23 @@ bool MyDocumentController::mayClose(DocumentWindow& window) {
         bringToFront(&window);
         return false;
     }
-    window.commitEditing();
+    asked_.insert(&window);
+    const bool goesOn = window.leaveEditing(Settling::leaving) && mayLoseChanges(window);
+    asked_.remove(&window);
+    return goesOn;
+}
+
+bool MyDocumentController::mayLoseChanges(DocumentWindow& window) {
     Document& document = window.document();
     if (!document.isChanged()) {
         return true;
     }
     bringToFront(&window);
-    asked_.insert(&window);
     desktop_.alerts.beep();
     const QString question = textWith("Main", "Save changes", document.displayName());
     const int answer =
         desktop_.alerts.ask(question, {text("Main", "Save"), text("Main", "Don't save"), text("Main", "Cancel")});
-    const bool goesOn = answer == 0 ? saveDocument(window) : answer == 1;
-    asked_.remove(&window);
-    return goesOn;
+    return answer == 0 ? saveDocument(window) : answer == 1;
 }
 
 bool MyDocumentController::closeDocument(DocumentWindow& window) {

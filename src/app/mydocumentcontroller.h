@@ -88,6 +88,7 @@ private:
     void removeWindow(DocumentWindow& window);
     void discardUntouched();
     bool mayClose(DocumentWindow& window);
+    bool mayLoseChanges(DocumentWindow& window);
     bool succeeded(const Expected<void>& result);
 
     Desktop& desktop_;
@@ -97,7 +98,7 @@ private:
     QString defaultType_;
     std::vector<OpenDocument> open_;
     DocumentWindow* untouched_ = nullptr;  ///< the untitled document of a start, until something else is opened
-    QSet<DocumentWindow*> asked_;          ///< whose save prompt is on the screen
+    QSet<DocumentWindow*> asked_;          ///< about which the user is being asked
     std::unique_ptr<PreferencesWindow> preferences_;
     std::unique_ptr<MemoWindow> penseBeteWindow_;
 };

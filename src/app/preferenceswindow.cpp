@@ -155,10 +155,10 @@ void PreferencesWindow::setUpToolBar() {
     auto* pages = new QActionGroup(this);
     int page = 0;
     for (const ToolItem& item : pageItems) {
-        const auto identifier = QString::fromLatin1(item.identifier);
-        toolBar_->setCommand(identifier, [this, shown = ++page] { goView(shown); });
-        QAction* action = toolBar_->action(identifier);
+        QAction* action = newToolAction(item, this);
         action->setCheckable(true);
+        connect(action, &QAction::triggered, this, [this, shown = ++page] { goView(shown); });
+        toolBar_->setAction(action->objectName(), action);
         pages->addAction(action);
     }
     toolBar_->rebuild();

@@ -119,6 +119,10 @@ void WindowMenus::add(QMenu& menu, const MenuEntry& entry) {
             if (!entry.run) {
                 return;
             }
+            if (QAction* own = context_.window.commandAction(QLatin1StringView(entry.name))) {
+                menu.addAction(own);
+                return setUp(own, entry);
+            }
             connect(addCommand(menu, entry), &QAction::triggered, this, [this, run = entry.run] { run(context_); });
             return;
         case MenuPart::separator:
@@ -160,6 +164,11 @@ void WindowMenus::add(QMenu& menu, const MenuEntry& entry) {
 QAction* WindowMenus::addCommand(QMenu& menu, const MenuEntry& entry) {
     QAction* action = menu.addAction(iconNamed(QLatin1StringView(entry.icon)), text(entry.title));
     action->setObjectName(QLatin1StringView(entry.name));
+    setUp(action, entry);
+    return action;
+}
+
+void WindowMenus::setUp(QAction* action, const MenuEntry& entry) {
     if (*entry.shortcut) {
         action->setShortcuts(QKeySequence::listFromString(QLatin1StringView(entry.shortcut)));
     }
@@ -167,7 +176,6 @@ QAction* WindowMenus::addCommand(QMenu& menu, const MenuEntry& entry) {
         shared_.append(action);
     }
     commands_.emplace_back(action, &entry);
-    return action;
 }
 
 void WindowMenus::addStep(QMenu& menu, const MenuEntry& entry) {

@@ -20,6 +20,7 @@ private:
     void fill(QMenu& menu, MenuName name);
     void add(QMenu& menu, const MenuEntry& entry);
     QAction* addCommand(QMenu& menu, const MenuEntry& entry);
+    void setUp(QAction* action, const MenuEntry& entry);
     void addStep(QMenu& menu, const MenuEntry& entry);
     void addNewDocuments(QMenu& menu);
     void addEditors(QMenu& menu);

@@ -360,14 +360,32 @@ Expected<int> BookBase::findTextWithField(const QString& field, const QString& s
             rows.append(row);
         }
     }
-    const int matches = static_cast<int>(rows.size());
+    showFound(rows);
+    return static_cast<int>(rows.size());
+}
+
+void BookBase::showFound(const QList<int>& rows) {
     selectRows(rows);
     if (!rows.isEmpty()) {
         Q_EMIT rowRevealed(rows.front());
     }
+    const int matches = static_cast<int>(rows.size());
     foundText_ = matches == 1 ? description_.words.oneFound.text() : textWith(description_.words.manyFound, matches);
     Q_EMIT stateChanged();
-    return matches;
+}
+
+void BookBase::findInColumns(const QString& searched) {
+    const BookTable table(*this);
+    QList<int> rows;
+    for (int row = 0; row < count() && !searched.isEmpty(); ++row) {
+        for (int column = 0; column < static_cast<int>(table.columns().size()); ++column) {
+            if (table.cell(row, column).inWords().contains(searched, Qt::CaseInsensitive)) {
+                rows.append(row);
+                break;
+            }
+        }
+    }
+    showFound(rows);
 }
 
 void BookBase::find(const QString& field, const QString& searched) {

@@ -97,6 +97,8 @@ public:
     Expected<int> findTextWithField(const QString& field, const QString& text);
     /// The same, telling the user of a failure.
     void find(const QString& field, const QString& text);
+    /// Selects the records of which any column shows the text, case aside; none for an empty text.
+    void findInColumns(const QString& text);
     /// What the last search found, as text.
     const QString& foundText() const { return foundText_; }
 
@@ -129,6 +131,7 @@ private:
     void beginBlank();
     void titleEditWindow();
     void listIsRestored();
+    void showFound(const QList<int>& rows);
     bool askAboutEntries(const Title& question, const Title& keep);
 
     const BookDescription& description_;

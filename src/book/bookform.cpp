@@ -1,6 +1,7 @@
 #include "book/bookform.h"
 
 #include "base/texts.h"
+#include "forms/entryhint.h"
 #include "forms/formentry.h"
 #include "forms/picklistentry.h"
 
@@ -84,6 +85,11 @@ void BookForm::endEditing(int control, const QString& typed) {
     if (const auto& list = state_->table().controls()[static_cast<std::size_t>(control)].control.pickList) {
         offerToPickList(desktop_, *list, typed);
     }
+}
+
+QString BookForm::hint(int control) const {
+    return entryHint(state_->table().controls()[static_cast<std::size_t>(control)].control, state_->at(control),
+                     binding_.fieldKind(control));
 }
 
 QStringList BookForm::ownList(int) const {

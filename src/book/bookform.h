@@ -46,6 +46,8 @@ public:
     /// At the end of editing a combo box: offers what was typed, or what it holds, to the control's shared list.
     virtual void endEditing(int control, const QString& typed);
     void endEditing(int control) { endEditing(control, state_->at(control).text); }
+    /// What is told beside a control whose entry is not read as it was typed or is unlikely; empty for nothing.
+    virtual QString hint(int control) const;
     /// The choices of a combo whose list the document owns, by its number in the table.
     virtual QStringList ownList(int list) const;
     /// Values that the form holds beside its controls, by the record's field: whether it does, and entering one.

@@ -49,6 +49,8 @@ struct Control {
     int clearedTag = 0;            ///< the tag of a cleared form
     std::span<const Choice> choices = {};
     int minimum = 0, maximum = 0;           ///< bounds of a slider or rating
+    /// Numbers beyond these are stored all the same, with a hint beside them.
+    std::optional<double> usualMinimum = {}, usualMaximum = {};
     std::optional<PickList> pickList = {};  ///< the shared list of a combo
     int ownList = -1;                       ///< the list of a combo that its document owns, by the document's number
     int width = 0;                          ///< in characters; 0: by kind

@@ -1,5 +1,6 @@
 #include "forms/recordbinding.h"
 
+#include <algorithm>
 #include <type_traits>
 
 namespace tavrel {
@@ -64,6 +65,12 @@ RecordBinding::RecordBinding(const ControlTableBase& table, const RecordLayout& 
         }
         bound_.push_back({static_cast<int>(index), field, holdsText(placed.control.kind)});
     }
+}
+
+std::optional<FieldKind> RecordBinding::fieldKind(int control) const {
+    const auto found = std::lower_bound(bound_.begin(), bound_.end(), control,
+                                        [](const Bound& bound, int wanted) { return bound.control < wanted; });
+    return found == bound_.end() || found->control != control ? std::nullopt : std::optional(found->field.kind());
 }
 
 void RecordBinding::load(FormStateBase& state, const Record& record) const {

@@ -3,6 +3,7 @@
 #include "forms/formstate.h"
 #include "records/recordlayout.h"
 
+#include <optional>
 #include <vector>
 
 namespace tavrel {
@@ -18,6 +19,9 @@ public:
     void load(FormStateBase& state, const Record& record) const;
     /// Takes every field of the record that has a control from it, without any correction.
     void build(const FormStateBase& state, Record& record) const;
+
+    /// The kind of field that a control bears; nothing for one without a field.
+    std::optional<FieldKind> fieldKind(int control) const;
 
 private:
     struct Bound {

@@ -35,6 +35,14 @@ QStringList list(std::span<const char* const> identifiers) {
 
 }  // namespace
 
+QAction* newToolAction(const ToolItem& item, QObject* parent) {
+    auto* action = new QAction(iconNamed(QLatin1StringView(item.image)), item.label.text(), parent);
+    action->setObjectName(QLatin1StringView(item.identifier));
+    action->setIconText(item.label.text());
+    action->setToolTip(item.tip.text());
+    return action;
+}
+
 CustomToolBar::CustomToolBar(const ToolBarDescription& description, Preferences& preferences, QWidget* parent)
     : QToolBar(parent), description_(description), preferences_(preferences) {
     setObjectName(QLatin1StringView(description.identifier));
@@ -60,16 +68,11 @@ const ToolItem* CustomToolBar::item(const QString& identifier) const {
     return found == description_.items.end() ? nullptr : &*found;
 }
 
-void CustomToolBar::setCommand(const QString& identifier, std::function<void()> command) {
-    const ToolItem* described = item(identifier);
-    if (!described) {
+void CustomToolBar::setAction(const QString& identifier, QAction* action) {
+    if (!item(identifier)) {
         qFatal("The toolbar %s has no item %s", description_.identifier, qPrintable(identifier));
     }
-    auto* action = new QAction(iconNamed(QLatin1StringView(described->image)), described->label.text(), this);
-    action->setObjectName(identifier);
-    action->setToolTip(described->tip.text());
-    connect(action, &QAction::triggered, this, [run = std::move(command)] { run(); });
-    delete std::exchange(actions_[identifier], action);
+    actions_[identifier] = action;
 }
 
 void CustomToolBar::setWidget(const QString& identifier, QWidget* widget) {
@@ -77,18 +80,7 @@ void CustomToolBar::setWidget(const QString& identifier, QWidget* widget) {
     action->setObjectName(identifier);
     action->setText(titleOf(identifier));
     action->setDefaultWidget(widget);
-    delete std::exchange(actions_[identifier], action);
-}
-
-void CustomToolBar::setValidation(std::function<bool(const QString&)> isEnabled) {
-    isEnabled_ = std::move(isEnabled);
-    validate();
-}
-
-void CustomToolBar::validate() {
-    for (const auto& [identifier, action] : actions_) {
-        action->setEnabled(!isEnabled_ || identifier == QLatin1StringView(toolCustomise) || isEnabled_(identifier));
-    }
+    actions_[identifier] = action;
 }
 
 bool CustomToolBar::isPlace(const QString& identifier) {
@@ -197,7 +189,6 @@ void CustomToolBar::rebuild() {
             separated = false;
         }
     }
-    validate();
 }
 
 void CustomToolBar::runCustomisation() {

@@ -7,7 +7,6 @@
 #include <QStringList>
 #include <QToolBar>
 
-#include <functional>
 #include <map>
 #include <memory>
 #include <vector>
@@ -18,8 +17,11 @@ namespace tavrel {
 
 class Preferences;
 
+/// An action that a toolbar shows as the item says. Its text, for menus, is the item's label until it gets another.
+QAction* newToolAction(const ToolItem& item, QObject* parent);
+
 /// A toolbar that its user arranges: items are added, removed and moved in a dialog, and the arrangement is remembered
-/// under the toolbar's identifier. An item shows only when the program at hand can do it (it has a command or a
+/// under the toolbar's identifier. An item shows only when the program at hand can do it (it has an action or a
 /// widget); one that it cannot do keeps its place all the same.
 class CustomToolBar : public QToolBar {
     Q_OBJECT
@@ -28,12 +30,10 @@ public:
     CustomToolBar(const ToolBarDescription& description, Preferences& preferences, QWidget* parent);
     ~CustomToolBar() override;
 
-    /// What an item does, or the widget it consists of. Call rebuild() after the last one.
-    void setCommand(const QString& identifier, std::function<void()> command);
+    /// The command of an item, which menus may show too, or the widget it consists of. Call rebuild() after the last
+    /// one. Whoever made the action says when it can be used, and keeps it as long as the toolbar.
+    void setAction(const QString& identifier, QAction* action);
     void setWidget(const QString& identifier, QWidget* widget);
-    /// Which items can be used now; asked at every validate().
-    void setValidation(std::function<bool(const QString& identifier)> isEnabled);
-    void validate();
 
     /// The items in their present order, those that do not show included.
     const QStringList& arrangement() const { return arrangement_; }
@@ -70,7 +70,6 @@ private:
     QStringList arrangement_;
     std::map<QString, QAction*> actions_;
     std::vector<std::unique_ptr<QAction>> places_;
-    std::function<bool(const QString&)> isEnabled_;
 };
 
 }  // namespace tavrel

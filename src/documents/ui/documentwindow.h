@@ -12,6 +12,12 @@
 
 namespace tavrel {
 
+/// What comes next where entries under way are settled first.
+enum class Settling {
+    saving,   ///< the document's bytes are taken
+    leaving,  ///< the document closes, is read again or takes records in, or the program ends
+};
+
 /// The main window of a document: title with the change mark, the save prompt on closing, files dropped on it, and the
 /// places where the application hangs the menus it builds for every document.
 class DocumentWindow : public QMainWindow {
@@ -34,8 +40,15 @@ public:
     virtual void printDocument() = 0;
     /// The document's further windows (edit form …), closed with it.
     virtual QList<QWidget*> furtherWindows() { return {}; }
-    /// Stores what is being edited before the document is saved or closed.
-    virtual void commitEditing() {}
+    /// Settles what the user entered and the document does not hold yet; false when the user wants to go on entering,
+    /// and everything is to stay as it is.
+    virtual bool leaveEditing(Settling) { return true; }
+    /// The window's own action for a command of the application's menus ("saveDocument", "printDocument"), which then
+    /// show it; null where it has none.
+    virtual QAction* commandAction(const QString& name) {
+        static_cast<void>(name);
+        return nullptr;
+    }
 
     /// Closes the window and the document's further ones without asking anyone.
     void closeWithDocument();

@@ -1,5 +1,6 @@
 #include "documents/ui/recordtable.h"
 
+#include "desktop/ui/readablecolour.h"
 #include "documents/ui/rowselectionmodel.h"
 
 #include <QHeaderView>
@@ -10,20 +11,13 @@
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
-#include <cmath>
+#include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace tavrel {
 
 namespace {
-
-double luminance(const QColor& color) {
-    const auto linear = [](float channel) {
-        const auto value = static_cast<double>(channel);
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
 
 /// The style of the program with some air between the columns, in cells and headers alike.
 class AiryStyle : public QProxyStyle {
@@ -64,7 +58,7 @@ private:
 
 }  // namespace
 
-RecordTable::RecordTable(QAbstractItemModel* tableModel, ListDocumentBase& document, QWidget* parent)
+RecordTable::RecordTable(QAbstractItemModel* tableModel, ListDocument& document, QWidget* parent)
     : QTableView(parent), document_(document), placeholder_(new QLabel(viewport())) {
     setModel(tableModel);
     const std::unique_ptr<QItemSelectionModel> unused(selectionModel());
@@ -102,11 +96,19 @@ RecordTable::RecordTable(QAbstractItemModel* tableModel, ListDocumentBase& docum
     auto* middle = new QVBoxLayout(viewport());
     middle->addWidget(placeholder_);
 
-    connect(this, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex& index) { opened(index.row()); });
+    connect(this, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex& index) {
+        if (selection_->isRowSelected(index.row())) {
+            Q_EMIT opened(index.row());
+        }
+    });
     connect(tableModel, &QAbstractItemModel::modelReset, this, &RecordTable::updatePlaceholder);
-    connect(&document, &ListDocumentBase::selectionChanged, viewport(), qOverload<>(&QWidget::update));
-    connect(&document, &ListDocumentBase::rowRevealed, this, &RecordTable::reveal);
+    connect(&document, &ListDocument::selectionChanged, viewport(), qOverload<>(&QWidget::update));
+    connect(&document, &ListDocument::rowRevealed, this, &RecordTable::reveal);
     updatePlaceholder();
+}
+
+void RecordTable::setChooser(RowChooser choose) {
+    selection_->setChooser(std::move(choose));
 }
 
 void RecordTable::setPlaceholder(const QString& text) {
@@ -177,8 +179,11 @@ void RecordTable::currentChanged(const QModelIndex& current, const QModelIndex& 
 
 void RecordTable::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && event->modifiers().testFlag(Qt::NoModifier) && currentIndex().isValid()) {
-        Q_EMIT opened(currentIndex().row());
+    if (enter && event->modifiers().testFlag(Qt::NoModifier)) {
+        // The row that was current last is another's when none is selected.
+        if (document_.selectedRow() >= 0) {
+            Q_EMIT opened(document_.selectedRow());
+        }
         return;
     }
     QTableView::keyPressEvent(event);
@@ -193,22 +198,6 @@ void RecordTable::changeEvent(QEvent* event) {
 
 void RecordTable::fitRows() {
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + fontMetrics().height() / 2);
-}
-
-QColor readableOn(const QColor& background, const QColor& color) {
-    constexpr double middle = 0.18;  // the luminance on which black and white contrast alike
-    constexpr double wanted = 4.5;
-    const double ground = luminance(background);
-    if (ground > middle) {
-        return color;
-    }
-    QColor lighter = color;
-    for (int step = 1; step <= 20 && luminance(lighter) + 0.05 < wanted * (ground + 0.05); ++step) {
-        const float share = static_cast<float>(step) / 20.0F;
-        const auto lift = [share](float channel) { return channel + (1.0F - channel) * share; };
-        lighter = QColor::fromRgbF(lift(color.redF()), lift(color.greenF()), lift(color.blueF()));
-    }
-    return lighter;
 }
 
 }  // namespace tavrel

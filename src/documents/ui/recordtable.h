@@ -5,11 +5,16 @@
 
 #include <QTableView>
 
+#include <functional>
+
 class QLabel;
 
 namespace tavrel {
 
 class RowSelectionModel;
+
+/// Selects rows on behalf of the user; answers whether that came about.
+using RowChooser = std::function<bool(const QList<int>& rows)>;
 
 /// The table of a list document: whole rows of one height, the selection that of the document, columns that the user
 /// moves, and cells that can be read on light and dark palettes. Painting costs what the visible rows cost.
@@ -17,9 +22,11 @@ class RecordTable : public QTableView {
     Q_OBJECT
 
 public:
-    /// The model's rows are the document's records, and it resets itself when their list changes.
-    RecordTable(QAbstractItemModel* model, ListDocumentBase& document, QWidget* parent);
+    /// The model's rows are the document's records, and it follows their list.
+    RecordTable(QAbstractItemModel* model, ListDocument& document, QWidget* parent);
 
+    /// Asked whenever the user selects, in place of the document, which selects anything.
+    void setChooser(RowChooser choose);
     /// What stands in the table while it has no rows.
     void setPlaceholder(const QString& text);
     /// Scrolls to the row, whatever columns are hidden.
@@ -29,7 +36,7 @@ public:
     QString selectionAsText(const Progress& progress = {}) const;
 
 Q_SIGNALS:
-    /// A row was double-clicked, or Return was pressed on it.
+    /// A selected row was double-clicked, or Return was pressed: the last of the selected rows.
     void opened(int row);
 
 protected:
@@ -42,13 +49,9 @@ private:
     void fitRows();
     void updatePlaceholder();
 
-    ListDocumentBase& document_;
+    ListDocument& document_;
     RowSelectionModel* selection_ = nullptr;
     QLabel* placeholder_;
 };
-
-/// The colour made lighter until it can be read on a dark background (a contrast of 4.5 to 1, by the definitions of
-/// contrast and relative luminance of WCAG 2.1); on a light background the colour as it is.
-QColor readableOn(const QColor& background, const QColor& color);
 
 }  // namespace tavrel

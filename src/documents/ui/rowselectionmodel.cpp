@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace tavrel {
 
@@ -41,10 +42,10 @@ QList<int> combine(const QList<int>& rows, const QList<int>& gesture, QItemSelec
 
 }  // namespace
 
-RowSelectionModel::RowSelectionModel(QAbstractItemModel* model, ListDocumentBase& document, QObject* parent)
+RowSelectionModel::RowSelectionModel(QAbstractItemModel* model, ListDocument& document, QObject* parent)
     : QItemSelectionModel(model, parent), document_(document) {
-    connect(&document, &ListDocumentBase::listChanged, this, &RowSelectionModel::mirror);
-    connect(&document, &ListDocumentBase::selectionChanged, this, &RowSelectionModel::mirror);
+    connect(&document, &ListDocument::listChanged, this, &RowSelectionModel::mirror);
+    connect(&document, &ListDocument::selectionChanged, this, &RowSelectionModel::mirror);
     mirror();
 }
 
@@ -84,7 +85,25 @@ void RowSelectionModel::select(const QItemSelection& selection, SelectionFlags c
     combined_ = combine(settled_, gesture_, operation_);
 
     const QScopedValueRollback answering(answering_, true);
-    document_.selectRows(combined_);
+    refused_ = false;
+    if (!choose_) {
+        document_.selectRows(combined_);
+    } else if (!choose_(combined_)) {
+        refused_ = true;
+        settled_ = document_.selectedRows();
+        combined_ = settled_;
+        gesture_.clear();
+        mirror();
+    }
+}
+
+void RowSelectionModel::setCurrentIndex(const QModelIndex& index, SelectionFlags command) {
+    const QPersistentModelIndex before = currentIndex();
+    refused_ = false;
+    QItemSelectionModel::setCurrentIndex(index, command);
+    if (std::exchange(refused_, false)) {
+        QItemSelectionModel::setCurrentIndex(before, NoUpdate);
+    }
 }
 
 void RowSelectionModel::reset() {
@@ -116,7 +135,7 @@ void RowSelectionModel::mirror() {
         const QScopedValueRollback mirroring(mirroring_, true);
         QItemSelectionModel::select(ranges, ClearAndSelect);
     }
-    if (!answering_) {
+    if (!answering_ || refused_) {
         makeCurrent(document_.selectedRow());
     }
 }
@@ -127,7 +146,7 @@ void RowSelectionModel::makeCurrent(int row) {
         row >= 0 && row < model()->rowCount() && !(currentIndex().isValid() && isRowSelected(currentIndex().row()));
     if (outside) {
         const QScopedValueRollback mirroring(mirroring_, true);
-        setCurrentIndex(model()->index(row, std::max(0, currentIndex().column())), NoUpdate);
+        QItemSelectionModel::setCurrentIndex(model()->index(row, std::max(0, currentIndex().column())), NoUpdate);
     }
 }
 

@@ -5,6 +5,9 @@
 #include <QItemSelectionModel>
 #include <QStyleOptionViewItem>
 
+#include <functional>
+#include <utility>
+
 namespace tavrel {
 
 /// The selection of a table whose rows are a document's records. The document holds the selection: what the user
@@ -18,24 +21,29 @@ class RowSelectionModel : public QItemSelectionModel {
 
 public:
     /// The model's rows are the document's; construct after what resets the model when the list changes.
-    RowSelectionModel(QAbstractItemModel* model, ListDocumentBase& document, QObject* parent);
+    RowSelectionModel(QAbstractItemModel* model, ListDocument& document, QObject* parent);
 
     bool isRowSelected(int row) const;
     /// Marks a cell's option as selected when its row is; for a delegate's initStyleOption().
     void markSelected(QStyleOptionViewItem& option, const QModelIndex& index) const;
+
+    /// Selects on behalf of the user; where it answers no, everything stays selected as it was.
+    void setChooser(std::function<bool(const QList<int>& rows)> choose) { choose_ = std::move(choose); }
 
     /// Whether what changes now comes from the document.
     bool isMirroring() const { return mirroring_; }
 
     using QItemSelectionModel::select;
     void select(const QItemSelection& selection, QItemSelectionModel::SelectionFlags command) override;
+    void setCurrentIndex(const QModelIndex& index, SelectionFlags command) override;
     void reset() override;
 
 private:
     void mirror();
     void makeCurrent(int row);
 
-    ListDocumentBase& document_;
+    ListDocument& document_;
+    std::function<bool(const QList<int>& rows)> choose_;
     /// What the user's present gesture (a drag, a growing Shift selection) started from, the rows it spans now, and
     /// what it does with them.
     QList<int> settled_;
@@ -44,6 +52,7 @@ private:
     QList<int> combined_;
     bool mirroring_ = false;
     bool answering_ = false;
+    bool refused_ = false;
 };
 
 }  // namespace tavrel

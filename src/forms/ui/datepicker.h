@@ -16,6 +16,9 @@ public:
 
     explicit DatePicker(Part part, QWidget* parent = nullptr);
 
+    /// Whether 1 January 1900, 00:00:00, stands for no date: it shows as blank, and the user can go back to it.
+    void setEmptyAt1900(bool isEmpty) { emptyAt1900_ = isEmpty; }
+
     void showDate(const Date& date);
     /// As wide as a date, a blank picker too.
     QSize sizeHint() const override;
@@ -40,6 +43,7 @@ private:
 
     Part part_;
     Date date_;
+    bool emptyAt1900_ = false;
     mutable bool blank_ = false;
     mutable QSize size_;
     bool showing_ = false;

@@ -1,23 +1,29 @@
 #include "forms/ui/formcontrol.h"
 
+#include "base/texts.h"
+#include "desktop/ui/readablecolour.h"
 #include "forms/ui/datepicker.h"
 #include "forms/ui/listcombo.h"
+#include "forms/ui/showncontrol.h"
 #include "forms/ui/wheelguard.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDesktopServices>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
 #include <QTextDocument>
+#include <QUrl>
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -33,11 +39,27 @@ public:
     LineControl(FormStateBase& state, int index) : FormControl(state, index, new QLineEdit) {
         auto* edit = line();
         edit->setMaxLength(lineBound);
-        if (control().kind != ControlKind::text) {
+        if (control().kind != ControlKind::text || control().alignRight) {
             edit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         }
         connect(edit, &QLineEdit::textEdited, this,
                 [this](const QString& typed) { FormControl::state().type(FormControl::index(), typed); });
+        if (control().opens != Opens::nothing) {
+            edit->installEventFilter(this);
+            const QString tip = text("Main", "Tip opens");
+            edit->setToolTip(edit->toolTip().isEmpty() ? tip : edit->toolTip() + u'\n' + tip);
+        }
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == widget() && event->type() == QEvent::MouseButtonRelease) {
+            const auto& click = static_cast<const QMouseEvent&>(*event);
+            const QUrl address = addressOf(control().opens, held().text);
+            if (click.button() == Qt::LeftButton && click.modifiers() == Qt::ControlModifier && address.isValid()) {
+                QDesktopServices::openUrl(address);
+            }
+        }
+        return FormControl::eventFilter(watched, event);
     }
 
 protected:
@@ -193,6 +215,7 @@ class DateControl : public FormControl {
 public:
     DateControl(FormStateBase& state, int index, DatePicker::Part part)
         : FormControl(state, index, new DatePicker(part)) {
+        picker()->setEmptyAt1900(control().emptyAt1900);
         connect(picker(), &DatePicker::picked, this,
                 [this](const Date& date) { FormControl::state().pick(FormControl::index(), date); });
     }
@@ -239,43 +262,6 @@ private:
     }
 
     QString shown_ = QStringLiteral("");
-};
-
-class ReadOnlyControl : public FormControl {
-public:
-    ReadOnlyControl(FormStateBase& state, int index) : FormControl(state, index, new QLabel) {
-        label()->setTextFormat(Qt::PlainText);
-        if (!control().label.isEmpty()) {
-            label()->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        }
-    }
-
-    QList<QWidget*> focusWidgets() const override { return {}; }
-
-protected:
-    void showState(const ControlState& held) override { label()->setText(held.text); }
-
-private:
-    QLabel* label() const { return static_cast<QLabel*>(widget()); }
-};
-
-class GaugeControl : public FormControl {
-public:
-    GaugeControl(FormStateBase& state, int index) : FormControl(state, index, new QProgressBar) {
-        bar()->setTextVisible(false);
-    }
-
-    QList<QWidget*> focusWidgets() const override { return {}; }
-
-protected:
-    void showState(const ControlState& held) override {
-        bar()->setVisible(bar()->parentWidget() && held.visible && held.maximum > 0);
-        bar()->setRange(0, std::max(held.maximum, 1));
-        bar()->setValue(std::clamp(held.tag, 0, bar()->maximum()));
-    }
-
-private:
-    QProgressBar* bar() const { return static_cast<QProgressBar*>(widget()); }
 };
 
 class ButtonControl : public FormControl {
@@ -331,6 +317,28 @@ void FormControl::show() {
     showing_ = nested;
 }
 
+void FormControl::showHint(const QString& hint) {
+    if (!hint_ || hint_->text() == hint) {
+        return;
+    }
+    hint_->setText(hint);
+    hint_->setVisible(!hint.isEmpty());
+    QPalette colours = hint_->palette();
+    colours.setColor(QPalette::WindowText, readableOn(colours.color(QPalette::Window), QColor(0xff, 0x80, 0x00)));
+    hint_->setPalette(colours);
+    if (widget_) {
+        widget_->setAccessibleDescription(hint.isEmpty() ? control().unit.text() : hint);
+    }
+}
+
+QLabel* FormControl::makeHint() {
+    hint_ = new QLabel;
+    hint_->setObjectName(widget_->objectName() + QStringLiteral("Hint"));
+    hint_->setTextFormat(Qt::PlainText);
+    hint_->hide();
+    return hint_;
+}
+
 bool FormControl::takeFocus() {
     if (!widget_ || !widget_->isVisible()) {
         return false;
@@ -368,14 +376,42 @@ std::unique_ptr<FormControl> makeFormControl(FormStateBase& state, int index, QS
             return std::make_unique<DateControl>(state, index, DatePicker::timeOfDay);
         case ControlKind::longText:
             return std::make_unique<LongTextControl>(state, index);
-        case ControlKind::readOnly:
-            return std::make_unique<ReadOnlyControl>(state, index);
-        case ControlKind::gauge:
-            return std::make_unique<GaugeControl>(state, index);
         case ControlKind::button:
             return std::make_unique<ButtonControl>(state, index);
+        case ControlKind::rating:
+        case ControlKind::readOnly:
+        case ControlKind::gauge:
+        case ControlKind::progress:
+            return makeShownControl(state, index);
+        case ControlKind::picture:
+            break;
     }
     return nullptr;
+}
+
+QUrl addressOf(Opens opens, const QString& text) {
+    const QString words = text.trimmed();
+    if (words.isEmpty()) {
+        return {};
+    }
+    switch (opens) {
+        case Opens::mail:
+            return words.contains(u'@') ? QUrl(QStringLiteral("mailto:") + words, QUrl::StrictMode) : QUrl();
+        case Opens::phone: {
+            QString number;
+            std::copy_if(words.begin(), words.end(), std::back_inserter(number),
+                         [](QChar letter) { return letter.isDigit() || letter == u'+'; });
+            return number.isEmpty() ? QUrl() : QUrl(QStringLiteral("tel:") + number);
+        }
+        case Opens::web: {
+            // Only what a browser shows: no files, no other programs.
+            const QUrl address = QUrl::fromUserInput(words);
+            return address.scheme() == u"http" || address.scheme() == u"https" ? address : QUrl();
+        }
+        case Opens::nothing:
+            break;
+    }
+    return {};
 }
 
 int widthOfCharacters(const QWidget* widget, int characters) {

@@ -2,9 +2,11 @@
 
 #include "forms/formstate.h"
 
+#include <QLabel>
 #include <QList>
 #include <QObject>
 #include <QPointer>
+#include <QUrl>
 #include <QWidget>
 
 #include <memory>
@@ -28,6 +30,9 @@ public:
     /// A label or unit that is shown and usable along with the widget.
     void addCompanion(QWidget* companion) { companions_.append(companion); }
     void show();
+    /// A label beside the widget, out of sight while there is no hint.
+    QLabel* makeHint();
+    void showHint(const QString& hint);
     /// Gives the keyboard focus, with all text selected; false where the widget is not in sight.
     bool takeFocus();
     /// Ends an entry that is under way as leaving the widget would.
@@ -50,11 +55,15 @@ private:
     int index_;
     QPointer<QWidget> widget_;
     QList<QPointer<QWidget>> companions_;
+    QPointer<QLabel> hint_;
     bool showing_ = false;
 };
 
 /// The widget of a control, bound to the state. A combo takes its choices from the list, which other combos may share.
 std::unique_ptr<FormControl> makeFormControl(FormStateBase& state, int index, QStringListModel* list);
+
+/// What a click on a text leads to; invalid where there is nothing to open.
+QUrl addressOf(Opens opens, const QString& text);
 
 /// The width of so many digits in the widget's font.
 int widthOfCharacters(const QWidget* widget, int characters);

@@ -50,8 +50,8 @@ void alignPairs(const std::vector<LaidOutGroup>& groups) {
 
 }  // namespace
 
-FormPages::FormPages(FormStateBase& state, Desktop& desktop, OwnList ownList)
-    : state_(state), desktop_(desktop), ownList_(std::move(ownList)) {
+FormPages::FormPages(FormStateBase& state, Desktop& desktop, OwnList ownList, Hint hint)
+    : state_(state), desktop_(desktop), ownList_(std::move(ownList)), hint_(std::move(hint)) {
     const auto& controls = state.table().controls();
     for (int index = 0; index < static_cast<int>(controls.size()); ++index) {
         const Control& control = controls[static_cast<std::size_t>(index)].control;
@@ -65,6 +65,7 @@ FormPages::FormPages(FormStateBase& state, Desktop& desktop, OwnList ownList)
     showAll();
     connect(&state, &FormStateBase::controlChanged, this,
             [this](int index) { controls_[static_cast<std::size_t>(index)]->show(); });
+    connect(&state, &FormStateBase::edited, this, &FormPages::showHints);
     connect(&state, &FormStateBase::refreshed, this, &FormPages::showAll);
     connect(&state, &FormStateBase::focusRequested, this, &FormPages::takeFocus);
     connect(&desktop.pickLists, &PickLists::changed, this, [this](PickList list) {
@@ -179,6 +180,13 @@ void FormPages::takeFirstFocus(int page) {
 void FormPages::showAll() {
     for (const auto& control : controls_) {
         control->show();
+    }
+    showHints();
+}
+
+void FormPages::showHints() {
+    for (int index = 0; hint_ && index < static_cast<int>(controls_.size()); ++index) {
+        controls_[static_cast<std::size_t>(index)]->showHint(hint_(index));
     }
 }
 

@@ -22,10 +22,12 @@ class FormPages : public QObject {
     Q_OBJECT
 
 public:
+    /// What is told beside a control; empty for nothing.
+    using Hint = std::function<QString(int control)>;
     /// The entries of a list that the document owns, by its number in the table.
     using OwnList = std::function<QStringList(int list)>;
 
-    FormPages(FormStateBase& state, Desktop& desktop, OwnList ownList = {});
+    FormPages(FormStateBase& state, Desktop& desktop, OwnList ownList = {}, Hint hint = {});
     ~FormPages() override;
 
     int pageCount() const { return static_cast<int>(pages_.size()); }
@@ -54,10 +56,12 @@ private:
     QStringListModel* listOf(const Control& control);
     QWidget* buildPage(int number);
     void showAll();
+    void showHints();
 
     FormStateBase& state_;
     Desktop& desktop_;
     OwnList ownList_;
+    Hint hint_;
     std::map<PickList, std::unique_ptr<QStringListModel>> pickLists_;
     std::map<int, std::unique_ptr<QStringListModel>> ownLists_;
     std::vector<std::unique_ptr<FormControl>> controls_;

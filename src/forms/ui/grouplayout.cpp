@@ -1,5 +1,7 @@
 #include "forms/ui/grouplayout.h"
 
+#include "forms/formentry.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
@@ -72,6 +74,8 @@ private:
                 return control.width == 0;
             case ControlKind::longText:
             case ControlKind::gauge:
+            case ControlKind::progress:
+            case ControlKind::picture:
             case ControlKind::radio:
                 return true;
             default:
@@ -154,6 +158,9 @@ private:
                 auto* unit = new QLabel(control(index).unit.text());
                 form(index).addCompanion(unit);
                 layout->addWidget(unit);
+            }
+            if (takesEntries(control(index).kind)) {
+                layout->addWidget(form(index).makeHint());
             }
         }
         if (!filled) {

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "book/booktable.h"
+
+#include <QAbstractTableModel>
+#include <QFont>
+
+namespace tavrel {
+
+/// The records of a book as rows, every column of its description as a column. A cell is worked out once while a view
+/// asks for its text, colours and font one after the other; nothing is kept per row.
+class BookTableModel : public QAbstractTableModel {
+    Q_OBJECT
+
+public:
+    explicit BookTableModel(BookBase& book, QObject* parent = nullptr);
+
+    const BookTable& table() const { return table_; }
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    /// Text, image, font and colours; a text that does not fit is in the tool tip. Colours are those of the data: where a
+    /// cell has none, or is written in black on the table's own ground, there is no value.
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+    /// Reads the settings and the day again and shows everything anew.
+    void reload();
+
+private:
+    void follow(const ListChange& change);
+    const Cell& cellAt(const QModelIndex& index) const;
+
+    BookBase& book_;
+    BookTable table_;
+    QFont bold_;
+    mutable Cell cell_;
+    mutable int row_ = -1;  ///< of cell_; -1 when there is none
+    mutable int column_ = -1;
+};
+
+}  // namespace tavrel

@@ -1,0 +1,145 @@
+#include "book/ui/booktableview.h"
+
+#include "desktop/preferences.h"
+
+#include <QDragEnterEvent>
+#include <QDragMoveEvent>
+#include <QDropEvent>
+#include <QHeaderView>
+#include <QHideEvent>
+#include <QMenu>
+#include <QMimeData>
+
+#include <algorithm>
+
+namespace tavrel {
+
+BookTableView::BookTableView(BookBase& book, QWidget* parent)
+    : BookTableView(book, new BookTableModel(book), parent) {}
+
+BookTableView::BookTableView(BookBase& book, BookTableModel* tableModel, QWidget* parent)
+    : RecordTable(tableModel, book, parent), book_(book), model_(tableModel) {
+    model_->setParent(this);
+    setAccessibleName(book.description().words.tableName.text());
+    fitColumns();
+    if (const QByteArray state = book.desktop().preferences.windowState(columnsState()); !state.isEmpty()) {
+        horizontalHeader()->restoreState(state);
+    }
+    horizontalHeader()->setSortIndicatorShown(false);
+    buildColumnsMenu();
+    displayColumnsInTableView();
+
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &BookTableView::sortBy);
+    connect(&book, &BookBase::columnsRebuildRequested, this, [this] {
+        displayColumnsInTableView();
+        model_->reload();
+    });
+}
+
+BookTableView::~BookTableView() {
+    rememberColumns();
+}
+
+QString BookTableView::columnsState() const {
+    return QLatin1StringView(book_.description().layoutName) + QStringLiteral(" columns");
+}
+
+void BookTableView::fitColumns() {
+    const auto* header = horizontalHeader();
+    const int character = fontMetrics().horizontalAdvance(u'0');
+    for (int place = 0; place < model_->columnCount(); ++place) {
+        setColumnWidth(place, std::max(character * column(place).width, header->sectionSizeHint(place)));
+    }
+}
+
+void BookTableView::buildColumnsMenu() {
+    const auto columns = book_.description().columns;
+    if (std::none_of(columns.begin(), columns.end(), [](const Column& each) { return each.shown; })) {
+        return;
+    }
+    columnsMenu_ = new QMenu(text("Main", "Menu columns"), this);
+    for (const Column& each : columns) {
+        QAction* action = columnsMenu_->addAction(each.title.text());
+        action->setObjectName(QLatin1StringView(each.field));
+        action->setCheckable(true);
+        action->setVisible(each.shown);
+        connect(action, &QAction::triggered, this, [this, setting = each.shown](bool shown) {
+            book_.desktop().preferences.set(*setting, shown);
+            book_.desktop().notifications.post(Notification::updateColumnsTableView);
+        });
+    }
+    horizontalHeader()->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(horizontalHeader(), &QWidget::customContextMenuRequested, this,
+            [this](const QPoint& place) { columnsMenu_->popup(horizontalHeader()->mapToGlobal(place)); });
+}
+
+void BookTableView::displayColumnsInTableView() {
+    if (!columnsMenu_) {
+        return;
+    }
+    for (int place = 0; place < model_->columnCount(); ++place) {
+        setColumn(QLatin1StringView(column(place).field), model_->table().isShown(place));
+    }
+    // Whoever hid the last column would have no header left to bring one back with.
+    const auto actions = columnsMenu_->actions();
+    const bool single =
+        std::count_if(actions.begin(), actions.end(), [](auto* each) { return each->isChecked(); }) == 1;
+    for (QAction* action : actions) {
+        action->setEnabled(!single || !action->isChecked());
+    }
+}
+
+void BookTableView::setColumn(const QString& field, bool visible) {
+    const int place = columnOf(field.toStdString());
+    if (place < 0) {
+        return;
+    }
+    // A hidden section keeps its place in the header.
+    setColumnHidden(place, !visible);
+    if (columnsMenu_) {
+        columnsMenu_->actions().at(place)->setChecked(visible);
+    }
+}
+
+void BookTableView::sortBy(int place) {
+    book_.sortBy(QLatin1StringView(column(place).field));
+    horizontalHeader()->setSortIndicatorShown(true);
+    horizontalHeader()->setSortIndicator(place, book_.sortedAscending() ? Qt::AscendingOrder : Qt::DescendingOrder);
+    reveal(std::max(0, book_.selectedRow()));
+}
+
+void BookTableView::rememberColumns() {
+    book_.desktop().preferences.setWindowState(columnsState(), horizontalHeader()->saveState());
+}
+
+void BookTableView::hideEvent(QHideEvent* event) {
+    RecordTable::hideEvent(event);
+    if (!event->spontaneous()) {
+        rememberColumns();
+    }
+}
+
+void BookTableView::acceptRows(const QString& dataType) {
+    rowType_ = dataType;
+    setAcceptDrops(true);
+}
+
+void BookTableView::dragEnterEvent(QDragEnterEvent* event) {
+    // Files go on to the window, which opens them.
+    event->setAccepted(event->mimeData()->hasFormat(rowType_));
+}
+
+void BookTableView::dragMoveEvent(QDragMoveEvent* event) {
+    // Above whatever row it is.
+    event->setAccepted(event->mimeData()->hasFormat(rowType_));
+}
+
+void BookTableView::dropEvent(QDropEvent* event) {
+    event->setAccepted(event->mimeData()->hasFormat(rowType_));
+    if (event->isAccepted()) {
+        event->setDropAction(Qt::CopyAction);
+        book_.duplicateLast();
+    }
+}
+
+}  // namespace tavrel

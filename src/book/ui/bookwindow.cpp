@@ -1,0 +1,266 @@
+#include "book/ui/bookwindow.h"
+
+#include "base/texts.h"
+#include "book/ui/bookeditwindow.h"
+#include "book/ui/booksearchfield.h"
+#include "book/ui/booktableview.h"
+#include "book/ui/cardwindow.h"
+#include "desktop/alerts.h"
+#include "desktop/preferences.h"
+#include "desktop/ui/customtoolbar.h"
+#include "desktop/ui/progresswindow.h"
+#include "documents/ui/printing.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QPrinter>
+#include <QStatusBar>
+
+#include <algorithm>
+
+namespace tavrel {
+
+namespace {
+
+constexpr const char* searchTool = "rechercher";
+
+}  // namespace
+
+BookWindow::BookWindow(BookBase& book, Desktop& desktop)
+    : DocumentWindow(book, desktop),
+      book_(book),
+      actions_(new BookActions(book, this)),
+      table_(new BookTableView(book)),
+      search_(new BookSearchField(book)),
+      toolBar_(new CustomToolBar(book.description().tableToolBar, desktop.preferences, this)),
+      count_(new QLabel),
+      found_(new QLabel) {
+    setObjectName(QStringLiteral("bookWindow"));
+    setCentralWidget(table_);
+    table_->setFrameShape(QFrame::NoFrame);
+    statusBar()->addWidget(count_);
+    statusBar()->addPermanentWidget(found_);
+    addCommands();
+    buildToolBar();
+
+    table_->setChooser([this](const QList<int>& rows) {
+        finishEntry();
+        return book_.userSelects(rows);
+    });
+    table_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(table_, &QWidget::customContextMenuRequested, this, &BookWindow::showRowMenu);
+    connect(table_, &RecordTable::opened, this, &BookWindow::open);
+    connect(search_, &BookSearchField::aboutToSearch, this, &BookWindow::finishEntry);
+    connect(&book, &BookBase::stateChanged, this, &BookWindow::updateState);
+    connect(&book, &BookBase::editWindowRequested, this, &BookWindow::showEditWindow);
+    updateState();
+
+    resize(1200, 680);
+    restoreGeometry(desktop.preferences.windowState(layoutName()));
+    table_->setFocus();
+    table_->reveal(book.selectedRow() >= 0 ? book.selectedRow() : book.count() - 1);
+}
+
+BookWindow::~BookWindow() {
+    desktop_.preferences.setWindowState(layoutName(), saveGeometry());
+}
+
+void BookWindow::addCommands() {
+    const BookDescription& description = book_.description();
+    for (QAction* each : actions_->all()) {
+        addAction(each);
+    }
+    connect(actions_, &BookActions::added, this, [this](QAction* added) {
+        addAction(added);
+        actions_->fill(*toolBar_);
+    });
+    actions_->addTool(QStringLiteral("saveDocument"), [this] { Q_EMIT saveRequested(); });
+    actions_->addTool(QLatin1StringView(description.commands.print), [this] { printDocument(); },
+                      {"Main", "Menu print"});
+    if (description.card) {
+        actions_->addTool(QLatin1StringView(description.commands.card), [this] { showCard(); });
+    }
+    actions_->add(QStringLiteral("copy"), text("Main", "Menu copy"), "", QKeySequence::Copy, BookActions::withSelection,
+                  [this] { copySelection(); });
+    actions_->add(QStringLiteral("selectAll"), text("Main", "Menu select all"), "", QKeySequence::SelectAll,
+                  BookActions::withRecords, [this] { table_->selectAll(); });
+    actions_->add(QStringLiteral("find"), text("Main", "Menu find"), "chercher", QKeySequence::Find,
+                  BookActions::always, [this] {
+                      search_->setFocus(Qt::ShortcutFocusReason);
+                      search_->selectAll();
+                  });
+}
+
+void BookWindow::buildToolBar() {
+    addToolBar(toolBar_);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    const auto items = book_.description().tableToolBar.items;
+    const bool offersSearch = std::any_of(items.begin(), items.end(), [](const ToolItem& each) {
+        return QLatin1StringView(each.identifier) == QLatin1StringView(searchTool);
+    });
+    if (offersSearch) {
+        toolBar_->setWidget(QLatin1StringView(searchTool), search_);
+    } else {
+        auto* searchBar = addToolBar(search_->placeholderText());
+        searchBar->setObjectName(QStringLiteral("searchBar"));
+        searchBar->setMovable(false);
+        searchBar->addWidget(search_);
+    }
+    actions_->fill(*toolBar_);
+    const QString keys =
+        command(book_.description().commands.newRecord)->shortcut().toString(QKeySequence::NativeText);
+    table_->setPlaceholder(textWith(book_.description().words.emptyTable, keys));
+}
+
+void BookWindow::provideCommand(const QString& identifier, std::function<void()> run) {
+    actions_->addTool(identifier, std::move(run));
+}
+
+BookEditWindow& BookWindow::editWindow() {
+    if (!editWindow_) {
+        editWindow_ = std::make_unique<BookEditWindow>(book_, *actions_);
+    }
+    return *editWindow_;
+}
+
+void BookWindow::showEditWindow() {
+    if (!editWindow_) {  // afterwards it listens itself
+        editWindow().bringToFront();
+    }
+}
+
+CardWindow& BookWindow::cardWindow() {
+    if (!cardWindow_) {
+        cardWindow_ =
+            std::make_unique<CardWindow>(desktop_, book_.description().print, layoutName() + QStringLiteral(" card"));
+    }
+    return *cardWindow_;
+}
+
+void BookWindow::showCard() {
+    if (book_.count() > 0) {
+        cardWindow().setCard(QStringLiteral("%1 – %2").arg(book_.displayName(), text("Main", "Synthesis card")),
+                             book_.description().card(book_.records(), desktop_, book_.file()));
+    }
+    cardWindow().bringToFront();
+}
+
+void BookWindow::finishEntry() {
+    if (editWindow_) {
+        editWindow_->finishEditing();
+    }
+}
+
+bool BookWindow::leaveEditing(Settling next) {
+    finishEntry();
+    return book_.leaveForm(next == Settling::saving ? Leaving::saving : Leaving::elsewhere);
+}
+
+void BookWindow::open() {
+    finishEntry();
+    // A new record that is added first would take the selection with it.
+    const QList<int> rows = book_.selectedRows();
+    if (book_.userSelects(rows)) {
+        book_.editWindow();
+    }
+}
+
+void BookWindow::printDocument() {
+    finishEntry();
+    if (!book_.userSelects({})) {
+        return;
+    }
+    PrintSettings settings = book_.description().print;
+    settings.landscape = true;
+    QPrinter printer;
+    if (runPrintDialog(this, settings, printer) && !printTable(printer, *table_, settings, book_.displayName()) &&
+        printer.printerState() == QPrinter::Error) {
+        desktop_.alerts.fail({text("Main", "Printing failed"), printer.outputFileName()});
+    }
+}
+
+void BookWindow::copySelection() {
+    ProgressWindow progress(this, text("Main", "Copying"));
+    const QString rows = table_->selectionAsText(progress.progress());
+    if (!rows.isNull()) {
+        QGuiApplication::clipboard()->setText(rows);
+    }
+}
+
+void BookWindow::showRowMenu(const QPoint& place) {
+    const BookCommands& commands = book_.description().commands;
+    QMenu menu(this);
+    menu.addActions({command("editWindow"), command(commands.newRecord), command(commands.insertRecord),
+                     command(commands.deleteRecord)});
+    menu.addSeparator();
+    menu.addActions({command("copy"), command("selectAll")});
+    menu.exec(table_->viewport()->mapToGlobal(place));
+}
+
+void BookWindow::updateState() {
+    count_->setText(book_.countText());
+    found_->setText(book_.foundText());
+}
+
+QString BookWindow::ownMenuTitle() const {
+    return book_.description().words.menu.text();
+}
+
+QList<QAction*> BookWindow::ownMenuActions() {
+    const BookCommands& commands = book_.description().commands;
+    QList<QAction*> actions{command(commands.newRecord),
+                            command("editWindow"),
+                            command(commands.insertRecord),
+                            command(commands.deleteRecord),
+                            nullptr,
+                            command("previousRecord"),
+                            command("nextRecord"),
+                            nullptr};
+    // What else the toolbar has, but for what stands in other menus.
+    const QList<QAction*> imports = importActions();
+    for (const ToolItem& item : toolBar_->description().items) {
+        QAction* action = command(item.identifier);
+        const bool isElsewhere = imports.contains(action) || action == commandAction(QStringLiteral("saveDocument")) ||
+                                 action == commandAction(QStringLiteral("printDocument"));
+        if (action && !isElsewhere && !actions.contains(action)) {
+            actions.append(action);
+        }
+    }
+    if (!actions.back()) {
+        actions.removeLast();
+    }
+    return actions;
+}
+
+QList<QAction*> BookWindow::viewActions() {
+    QList<QAction*> actions{toolBar_->action(QLatin1StringView(toolCustomise))};
+    if (table_->columnsMenu()) {
+        actions.prepend(table_->columnsMenu()->menuAction());
+    }
+    return actions;
+}
+
+QList<QAction*> BookWindow::editActions() {
+    return {command("copy"), command("selectAll"), nullptr, command("find")};
+}
+
+QAction* BookWindow::commandAction(const QString& name) {
+    return name == u"printDocument" ? command(book_.description().commands.print)
+           : name == u"saveDocument" ? command("saveDocument")
+                                     : nullptr;
+}
+
+QList<QWidget*> BookWindow::furtherWindows() {
+    QList<QWidget*> windows;
+    if (editWindow_) {
+        windows.append(editWindow_.get());
+    }
+    if (cardWindow_) {
+        windows.append(cardWindow_.get());
+    }
+    return windows;
+}
+
+}  // namespace tavrel

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "book/ui/bookactions.h"
+#include "documents/ui/documentwindow.h"
+
+#include <functional>
+#include <memory>
+
+class QLabel;
+
+namespace tavrel {
+
+class BookEditWindow;
+class BookSearchField;
+class BookTableView;
+class CardWindow;
+class CustomToolBar;
+
+/// The window of a book: the table of its records, the search, and every command on them, all as its description says.
+/// The edit window and the card are made when they are asked for first.
+class BookWindow : public DocumentWindow {
+    Q_OBJECT
+
+public:
+    BookWindow(BookBase& book, Desktop& desktop);
+    ~BookWindow() override;
+
+    /// Gives the toolbars' item of that identifier, of which the book alone knows nothing, what it does. Until then it
+    /// does not show.
+    void provideCommand(const QString& identifier, std::function<void()> command);
+
+    BookActions& actions() { return *actions_; }
+    BookTableView& table() { return *table_; }
+    BookSearchField& searchField() { return *search_; }
+    CustomToolBar& toolBar() { return *toolBar_; }
+    BookEditWindow& editWindow();
+    /// Shows the card of all records.
+    void showCard();
+    CardWindow& cardWindow();
+
+    QString ownMenuTitle() const override;
+    QList<QAction*> ownMenuActions() override;
+    QList<QAction*> viewActions() override;
+    QList<QAction*> editActions() override;
+    QAction* commandAction(const QString& name) override;
+    /// Deselects all records and prints the table, landscape.
+    void printDocument() override;
+    QList<QWidget*> furtherWindows() override;
+    bool leaveEditing(Settling next) override;
+
+private:
+    void addCommands();
+    void buildToolBar();
+    void finishEntry();
+    void showEditWindow();
+    void showRowMenu(const QPoint& place);
+    void open();
+    void copySelection();
+    void updateState();
+    QAction* command(const char* name) const { return actions_->action(QLatin1StringView(name)); }
+    QString layoutName() const { return QLatin1StringView(book_.description().layoutName); }
+
+    BookBase& book_;
+    BookActions* actions_;
+    BookTableView* table_;
+    BookSearchField* search_;
+    CustomToolBar* toolBar_;
+    QLabel* count_;
+    QLabel* found_;
+    std::unique_ptr<BookEditWindow> editWindow_;
+    std::unique_ptr<CardWindow> cardWindow_;
+};
+
+}  // namespace tavrel

@@ -1,0 +1,96 @@
+#include "book/ui/cardwindow.h"
+
+#include "base/texts.h"
+#include "desktop/alerts.h"
+#include "desktop/ui/bringtofront.h"
+#include "desktop/ui/icons.h"
+#include "desktop/ui/keptframe.h"
+#include "desktop/ui/readablecolour.h"
+#include "documents/ui/printing.h"
+#include "drawing/pages.h"
+
+#include <QEvent>
+#include <QPrinter>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QTextDocument>
+#include <QTextEdit>
+#include <QToolBar>
+
+namespace tavrel {
+
+CardWindow::CardWindow(Desktop& desktop, const PrintSettings& print, const QString& name, QWidget* parent)
+    : QMainWindow(parent), desktop_(desktop), print_(print), shown_(new QTextEdit) {
+    setObjectName(QStringLiteral("cardWindow"));
+    print_.landscape = false;
+    shown_->setReadOnly(true);
+    shown_->setFrameShape(QFrame::NoFrame);
+    shown_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    shown_->document()->setDocumentMargin(12);
+    setCentralWidget(shown_);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    buildCommands();
+    resize(560, 680);
+    new KeptFrame(*this, desktop.preferences, name);
+}
+
+void CardWindow::buildCommands() {
+    auto* bar = addToolBar(text("Main", "Synthesis card"));
+    bar->setMovable(false);
+    bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    auto* print = bar->addAction(iconNamed(QStringLiteral("imprimante")), text("Main", "Print"), this,
+                                 &CardWindow::print);
+    print->setObjectName(QStringLiteral("printCard"));
+    print->setShortcut(QKeySequence::Print);
+    for (const auto& keys : {QKeySequence(QKeySequence::Close), QKeySequence(Qt::Key_Escape)}) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, &QWidget::close);
+    }
+}
+
+void CardWindow::setCard(const QString& title, const StyledText& card) {
+    setWindowTitle(title);
+    shown_->setAccessibleName(title);
+    card_ = card;
+    showText();
+}
+
+void CardWindow::showText() {
+    const QColor ground = palette().color(QPalette::Base);
+    StyledText readable;
+    for (const StyledRun& run : card_.runs()) {
+        const bool isPlain = run.colour == QColor(Qt::black);
+        readable.append(run.text, isPlain ? palette().color(QPalette::Text) : readableOn(ground, run.colour));
+    }
+    const int place = shown_->verticalScrollBar()->value();
+    auto document = textDocumentOf(readable);
+    document->setDefaultFont(shown_->font());
+    document->setDocumentMargin(12);
+    document->setParent(shown_);
+    shown_->setDocument(document.release());
+    shown_->verticalScrollBar()->setValue(place);
+}
+
+void CardWindow::bringToFront() {
+    tavrel::bringToFront(this);
+    shown_->setFocus();
+}
+
+void CardWindow::print() {
+    QPrinter printer;
+    if (!runPrintDialog(this, print_, printer)) {
+        return;
+    }
+    printer.setDocName(windowTitle());
+    if (!printText(printer, *textDocumentOf(card_), print_) && printer.printerState() == QPrinter::Error) {
+        desktop_.alerts.fail({text("Main", "Printing failed"), printer.outputFileName()});
+    }
+}
+
+void CardWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && shown_) {
+        showText();
+    }
+}
+
+}  // namespace tavrel
