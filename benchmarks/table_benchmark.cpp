@@ -1,6 +1,7 @@
 #include "benchmarks/ratio.h"
-#include "logbook/divesort.h"
-#include "logbook/ui/divetable.h"
+#include "book/booktable.h"
+#include "book/ui/booktableview.h"
+#include "logbook/carnet.h"
 #include "support/testdesktop.h"
 
 #include <QApplication>
@@ -40,15 +41,16 @@ std::vector<Plongee> benchmarkDives(int count) {
 
 template <class Key>
 void sortBy(benchmark::State& state, Key Plongee::*member, const char* field) {
-    std::vector<DivePointer> dives;
+    RecordList dives;
     std::vector<Key> keys;
     for (const Plongee& dive : benchmarkDives(manyDives)) {
         dives.push_back(std::make_shared<const Plongee>(dive));
         keys.push_back(dive.*member);
     }
+    const Field sortField = Plongee::layout().field(std::string_view(field));
     std::vector<Key> sorted;
     againstReference(
-        state, [&] { benchmark::DoNotOptimize(sortedOrder(dives, QString::fromUtf8(field), false)); },
+        state, [&] { benchmark::DoNotOptimize(sortedOrder(dives, sortField, false)); },
         [&] {
             sorted = keys;
             std::sort(sorted.begin(), sorted.end());
@@ -83,7 +85,7 @@ struct ShownTable {
 
     TestDesktop desktop;
     Carnet carnet{desktop.desktop()};
-    DiveTable table{carnet, desktop.desktop()};
+    BookTableView table{carnet};
     QImage image;
 };
 
@@ -113,7 +115,7 @@ void sortTheShownTable(benchmark::State& state) {
     const auto unsorted = shown.carnet.records();
     std::vector<qint32> keys;
     for (const auto& dive : shown.carnet.records()) {
-        keys.push_back(dive->noPlongee);
+        keys.push_back(static_cast<const Plongee&>(*dive).noPlongee);
     }
     std::vector<qint32> sorted;
     againstReference(

@@ -75,6 +75,7 @@ struct BookDescription {
     const char* numberField;         ///< the control that names a record, and that a new one starts in
     bool blankingDeselects = true;   ///< erasing the form deselects all rows
     bool opensOnFirstRecord = true;  ///< a file that was read shows its first record, rather than scrolling to its last
+    bool dropDuplicatesLast = true;  ///< a row dropped on the table puts the last record into the list once more
     ToolBarDescription tableToolBar, editToolBar;
     BookCommands commands;
     BookWords words;

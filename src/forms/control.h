@@ -48,7 +48,7 @@ struct Control {
     const char* clearedText = "";  ///< the text of a cleared form
     int clearedTag = 0;            ///< the tag of a cleared form
     std::span<const Choice> choices = {};
-    int minimum = 0, maximum = 0;           ///< bounds of a slider or rating
+    int minimum = 0, maximum = 0;  ///< bounds of a slider or rating
     /// Numbers beyond these are stored all the same, with a hint beside them.
     std::optional<double> usualMinimum = {}, usualMaximum = {};
     std::optional<PickList> pickList = {};  ///< the shared list of a combo

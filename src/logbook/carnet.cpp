@@ -72,6 +72,7 @@ const BookDescription& carnetDescription() {
         .numberField = "noPlongeeField",
         .blankingDeselects = false,
         .opensOnFirstRecord = false,
+        .dropDuplicatesLast = false,
         .tableToolBar = setupToolbarCarnet(),
         .editToolBar = setupToolbarEdit(),
         .commands = {.newRecord = "newDive",

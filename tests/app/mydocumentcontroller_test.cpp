@@ -205,7 +205,7 @@ TEST_F(Documents, askBeforeTheyCloseWithChanges) {
     EXPECT_EQ(question.buttons,
               (QStringList{text("Main", "Save"), text("Main", "Don't save"), text("Main", "Cancel")}));
     EXPECT_TRUE(question.message.contains(u"dives.carnet"));
-    EXPECT_GT(app.frontWindow()->commits, 0);
+    EXPECT_EQ(app.frontWindow()->settled, QList{Settling::leaving});
 
     app.alerts.answerNext(dontSave);
     app.frontWindow()->close();

@@ -44,11 +44,15 @@ public:
     void printDocument() override { ++prints; }
     QString ownMenuTitle() const override { return QStringLiteral("Dive"); }
     QList<QWidget*> furtherWindows() override { return {&further}; }
-    void commitEditing() override { ++commits; }
+    bool leaveEditing(Settling next) override {
+        settled.append(next);
+        return leaves;
+    }
 
     QWidget further;
     int prints = 0;
-    int commits = 0;
+    QList<Settling> settled;
+    bool leaves = true;  ///< what is being entered, when asked
 };
 
 /// A second kind of document, with records of its own.

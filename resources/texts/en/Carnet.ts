@@ -99,9 +99,7 @@
 <message><source>Find boats</source><translation>Boats</translation></message>
 <message><source>Find buddies</source><translation>Buddies</translation></message>
 <message><source>Find computers</source><translation>Computers</translation></message>
-<message><source>Find in</source><translation>Find in: %@</translation></message>
 <message><source>Find notes</source><translation>Notes</translation></message>
-<message><source>Find where</source><translation>Choose what to search</translation></message>
 <message><source>Find wrecks</source><translation>Wrecks</translation></message>
 <message><source>Flow</source><translation>&#13;Flow: </translation></message>
 <message><source>Foggy</source><translation>Foggy</translation></message>
@@ -221,7 +219,6 @@
 <message><source>Moderate</source><translation>Moderate</translation></message>
 <message><source>Movies</source><translation>Filming</translation></message>
 <message><source>New dive not added</source><translation>The form holds a new dive that is not in the logbook yet.</translation></message>
-<message><source>Next</source><translation>Next</translation></message>
 <message><source>Next dive</source><translation>Next dive</translation></message>
 <message><source>Night</source><translation>&#13;Night dive</translation></message>
 <message><source>Nitrox tables</source><translation>&#13;Nitrox tables, computer: </translation></message>
@@ -257,7 +254,6 @@
 <message><source>Pony 3 title</source><translation>Pony 3 : %d m - %d %% O₂</translation></message>
 <message><source>PpO2</source><translation>PpO₂ (bar)</translation></message>
 <message><source>Pressure in out</source><translation>The end pressure must not exceed the start pressure, and neither may be negative.</translation></message>
-<message><source>Previous</source><translation>Previous</translation></message>
 <message><source>Previous dive</source><translation>Previous dive</translation></message>
 <message><source>Profile</source><translation>Profile</translation></message>
 <message><source>Profile datas</source><translation>Profile data</translation></message>

@@ -10,6 +10,7 @@
 <message><source>Add entry</source><translation>Add</translation></message>
 <message><source>Add item to ComboBox</source><translation>Add “%@” to the list?</translation></message>
 <message><source>Add new card question</source><translation>The form holds a new card that is not in the list yet.</translation></message>
+<message><source>Add second</source><translation>Add Second</translation></message>
 <message><source>Add to toolbar</source><translation>Add to the toolbar</translation></message>
 <message><source>All documents</source><translation>All documents</translation></message>
 <message><source>All files</source><translation>All files</translation></message>
@@ -25,7 +26,9 @@
 <message><source>Command line help</source><translation>Show this help.</translation></message>
 <message><source>Command line version</source><translation>Show the version.</translation></message>
 <message><source>Copy kept</source><translation>The previous contents are kept in “%@”.</translation></message>
+<message><source>Copying</source><translation>Copying the rows…</translation></message>
 <message><source>Cotation 1</source><translation>★</translation></message>
+<message><source>Cotation in words</source><translation>%d of %d stars</translation></message>
 <message><source>Countries</source><translation>Countries</translation></message>
 <message><source>Country codes</source><translation>Country Codes</translation></message>
 <message><source>Customise</source><translation>Customise…</translation></message>
@@ -57,12 +60,19 @@
 <message><source>File not writable</source><translation>The file cannot be written.</translation></message>
 <message><source>File permission denied</source><translation>You do not have permission to do so.</translation></message>
 <message><source>File system read-only</source><translation>The disk is write-protected.</translation></message>
+<message><source>Find in</source><translation>Find in: %@</translation></message>
+<message><source>Find in all columns</source><translation>Find in all columns</translation></message>
+<message><source>Find where</source><translation>Choose what to search</translation></message>
 <message><source>Flexible space</source><translation>Flexible space</translation></message>
 <message><source>Folder missing</source><translation>The folder does not exist.</translation></message>
 <message><source>Form of card</source><translation>Card %d of %d – stored when you close the window or go to another card</translation></message>
 <message><source>Form of new card</source><translation>New card – “Add” puts it at the end of the list</translation></message>
 <message><source>Found cards</source><translation>%d cards found</translation></message>
 <message><source>General</source><translation>General</translation></message>
+<message><source>Hint read as</source><translation>read as %@</translation></message>
+<message><source>Hint usual maximum</source><translation>usually at most %@</translation></message>
+<message><source>Hint usual minimum</source><translation>usually at least %@</translation></message>
+<message><source>Hint usual range</source><translation>usually %@ to %@</translation></message>
 <message><source>Insert</source><translation>Insert</translation></message>
 <message><source>Loading</source><translation>Loading…</translation></message>
 <message><source>Logbook</source><translation>Logbook</translation></message>
@@ -99,6 +109,7 @@
 <message><source>Move down</source><translation>Move towards the end</translation></message>
 <message><source>Move up</source><translation>Move towards the front</translation></message>
 <message><source>New entry</source><translation>New entry</translation></message>
+<message><source>Next</source><translation>Next</translation></message>
 <message><source>No</source><translation>No</translation></message>
 <message><source>No Mac OS Roman</source><translation>This system cannot convert text to Mac OS Roman.</translation></message>
 <message><source>No space left</source><translation>There is not enough space on the disk.</translation></message>
@@ -108,10 +119,13 @@
 <message><source>Not a picture format</source><translation>“%@” does not end in .png, .svg or .pdf.</translation></message>
 <message><source>One card found</source><translation>1 card found</translation></message>
 <message><source>Open document</source><translation>Open</translation></message>
+<message><source>Page number</source><translation>%d / %d</translation></message>
+<message><source>Pages</source><translation>Pages of the form</translation></message>
 <message><source>Picture cannot be made</source><translation>The picture could not be made.</translation></message>
 <message><source>Picture too large</source><translation>This is too long for one picture. A PDF file has room for it.</translation></message>
 <message><source>Places</source><translation>Places</translation></message>
 <message><source>Preferences not saved</source><translation>The preferences could not be saved to “%@”.</translation></message>
+<message><source>Previous</source><translation>Previous</translation></message>
 <message><source>Print</source><translation>Print</translation></message>
 <message><source>Printing</source><translation>Printing…</translation></message>
 <message><source>Printing failed</source><translation>The document could not be printed.</translation></message>
@@ -133,8 +147,10 @@
 <message><source>Store</source><translation>Store</translation></message>
 <message><source>Store card question</source><translation>The card in the form was changed and is not stored yet.</translation></message>
 <message><source>Synthesis card</source><translation>Summary card</translation></message>
+<message><source>Tip add second</source><translation>Add the entries as a second record, at the end of the list</translation></message>
 <message><source>Tip customise</source><translation>Choose what this toolbar holds</translation></message>
 <message><source>Tip erase</source><translation>Clear all fields</translation></message>
+<message><source>Tip opens</source><translation>Ctrl+click opens it</translation></message>
 <message><source>Toolbar available</source><translation>Available</translation></message>
 <message><source>Toolbar icons</source><translation>Icons</translation></message>
 <message><source>Toolbar icons and words</source><translation>Words under icons</translation></message>

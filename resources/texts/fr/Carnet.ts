@@ -99,9 +99,7 @@
 <message><source>Find boats</source><translation>Bateaux</translation></message>
 <message><source>Find buddies</source><translation>Équipiers</translation></message>
 <message><source>Find computers</source><translation>Ordinateurs</translation></message>
-<message><source>Find in</source><translation>Chercher dans : %@</translation></message>
 <message><source>Find notes</source><translation>Notes</translation></message>
-<message><source>Find where</source><translation>Choisir où chercher</translation></message>
 <message><source>Find wrecks</source><translation>Épaves</translation></message>
 <message><source>Flow</source><translation>&#13;Débit : </translation></message>
 <message><source>Foggy</source><translation>Brumeux</translation></message>
@@ -221,7 +219,6 @@
 <message><source>Moderate</source><translation>Modéré</translation></message>
 <message><source>Movies</source><translation>Vidéo</translation></message>
 <message><source>New dive not added</source><translation>Le formulaire contient une nouvelle plongée qui n’est pas encore dans le carnet.</translation></message>
-<message><source>Next</source><translation>Suivante</translation></message>
 <message><source>Next dive</source><translation>Plongée suivante</translation></message>
 <message><source>Night</source><translation>&#13;Plongée de nuit</translation></message>
 <message><source>Nitrox tables</source><translation>&#13;Tables nitrox, ordinateur : </translation></message>
@@ -257,7 +254,6 @@
 <message><source>Pony 3 title</source><translation>Pony 3 : %d m - %d %% O₂</translation></message>
 <message><source>PpO2</source><translation>PpO₂ (bar)</translation></message>
 <message><source>Pressure in out</source><translation>La pression de fin ne doit pas dépasser la pression de départ et aucune des deux ne peut être négative.</translation></message>
-<message><source>Previous</source><translation>Précédente</translation></message>
 <message><source>Previous dive</source><translation>Plongée précédente</translation></message>
 <message><source>Profile</source><translation>Profil</translation></message>
 <message><source>Profile datas</source><translation>Données du profil</translation></message>

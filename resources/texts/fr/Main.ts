@@ -10,6 +10,7 @@
 <message><source>Add entry</source><translation>Ajouter</translation></message>
 <message><source>Add item to ComboBox</source><translation>Ajouter « %@ » à la liste ?</translation></message>
 <message><source>Add new card question</source><translation>Le formulaire contient une nouvelle fiche qui n’est pas encore dans la liste.</translation></message>
+<message><source>Add second</source><translation>Ajouter en double</translation></message>
 <message><source>Add to toolbar</source><translation>Ajouter à la barre d’outils</translation></message>
 <message><source>All documents</source><translation>Tous les documents</translation></message>
 <message><source>All files</source><translation>Tous les fichiers</translation></message>
@@ -25,7 +26,9 @@
 <message><source>Command line help</source><translation>Afficher cette aide.</translation></message>
 <message><source>Command line version</source><translation>Afficher la version.</translation></message>
 <message><source>Copy kept</source><translation>Le contenu précédent est conservé dans « %@ ».</translation></message>
+<message><source>Copying</source><translation>Copie des lignes…</translation></message>
 <message><source>Cotation 1</source><translation>★</translation></message>
+<message><source>Cotation in words</source><translation>%d étoiles sur %d</translation></message>
 <message><source>Countries</source><translation>Pays</translation></message>
 <message><source>Country codes</source><translation>Codes des pays</translation></message>
 <message><source>Customise</source><translation>Personnaliser…</translation></message>
@@ -57,12 +60,19 @@
 <message><source>File not writable</source><translation>Le fichier ne peut pas être écrit.</translation></message>
 <message><source>File permission denied</source><translation>Vous n’en avez pas l’autorisation.</translation></message>
 <message><source>File system read-only</source><translation>Le disque est protégé en écriture.</translation></message>
+<message><source>Find in</source><translation>Chercher dans : %@</translation></message>
+<message><source>Find in all columns</source><translation>Chercher dans toutes les colonnes</translation></message>
+<message><source>Find where</source><translation>Choisir où chercher</translation></message>
 <message><source>Flexible space</source><translation>Espace variable</translation></message>
 <message><source>Folder missing</source><translation>Le dossier n’existe pas.</translation></message>
 <message><source>Form of card</source><translation>Fiche %d sur %d – enregistrée quand vous fermez la fenêtre ou changez de fiche</translation></message>
 <message><source>Form of new card</source><translation>Nouvelle fiche – « Ajouter » la place à la fin de la liste</translation></message>
 <message><source>Found cards</source><translation>%d fiches trouvées</translation></message>
 <message><source>General</source><translation>Général</translation></message>
+<message><source>Hint read as</source><translation>lu comme %@</translation></message>
+<message><source>Hint usual maximum</source><translation>d’ordinaire %@ au plus</translation></message>
+<message><source>Hint usual minimum</source><translation>d’ordinaire %@ au moins</translation></message>
+<message><source>Hint usual range</source><translation>d’ordinaire de %@ à %@</translation></message>
 <message><source>Insert</source><translation>Insérer</translation></message>
 <message><source>Loading</source><translation>Chargement…</translation></message>
 <message><source>Logbook</source><translation>Carnet</translation></message>
@@ -99,6 +109,7 @@
 <message><source>Move down</source><translation>Déplacer vers la fin</translation></message>
 <message><source>Move up</source><translation>Déplacer vers le début</translation></message>
 <message><source>New entry</source><translation>Nouvelle entrée</translation></message>
+<message><source>Next</source><translation>Suivante</translation></message>
 <message><source>No</source><translation>Non</translation></message>
 <message><source>No Mac OS Roman</source><translation>Ce système ne sait pas convertir du texte en Mac OS Roman.</translation></message>
 <message><source>No space left</source><translation>Il n’y a plus assez de place sur le disque.</translation></message>
@@ -108,10 +119,13 @@
 <message><source>Not a picture format</source><translation>« %@ » ne se termine pas par .png, .svg ou .pdf.</translation></message>
 <message><source>One card found</source><translation>1 fiche trouvée</translation></message>
 <message><source>Open document</source><translation>Ouvrir</translation></message>
+<message><source>Page number</source><translation>%d / %d</translation></message>
+<message><source>Pages</source><translation>Pages du formulaire</translation></message>
 <message><source>Picture cannot be made</source><translation>L’image n’a pas pu être produite.</translation></message>
 <message><source>Picture too large</source><translation>C’est trop long pour une seule image. Un fichier PDF peut le contenir.</translation></message>
 <message><source>Places</source><translation>Lieux</translation></message>
 <message><source>Preferences not saved</source><translation>Impossible d’enregistrer les préférences dans « %@ ».</translation></message>
+<message><source>Previous</source><translation>Précédente</translation></message>
 <message><source>Print</source><translation>Imprimer</translation></message>
 <message><source>Printing</source><translation>Impression…</translation></message>
 <message><source>Printing failed</source><translation>Le document n’a pas pu être imprimé.</translation></message>
@@ -133,8 +147,10 @@
 <message><source>Store</source><translation>Enregistrer</translation></message>
 <message><source>Store card question</source><translation>La fiche du formulaire a été modifiée et n’est pas encore enregistrée.</translation></message>
 <message><source>Synthesis card</source><translation>Fiche de synthèse</translation></message>
+<message><source>Tip add second</source><translation>Ajouter les valeurs comme second enregistrement, à la fin de la liste</translation></message>
 <message><source>Tip customise</source><translation>Choisir le contenu de cette barre d’outils</translation></message>
 <message><source>Tip erase</source><translation>Effacer tous les champs</translation></message>
+<message><source>Tip opens</source><translation>Ctrl+clic pour l’ouvrir</translation></message>
 <message><source>Toolbar available</source><translation>Disponibles</translation></message>
 <message><source>Toolbar icons</source><translation>Icônes</translation></message>
 <message><source>Toolbar icons and words</source><translation>Texte sous les icônes</translation></message>

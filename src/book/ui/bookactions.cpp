@@ -28,14 +28,17 @@ BookActions::BookActions(BookBase& book, QObject* parent) : QObject(parent), boo
 void BookActions::addBookCommands() {
     const BookWords& words = book_.description().words;
     const BookCommands& commands = book_.description().commands;
-    addTool(QLatin1StringView(commands.newRecord), [this] { book_.newRecord(); }, words.newRecord,
-            Qt::CTRL | Qt::SHIFT | Qt::Key_N);
+    addTool(
+        QLatin1StringView(commands.newRecord), [this] { book_.newRecord(); }, words.newRecord,
+        Qt::CTRL | Qt::SHIFT | Qt::Key_N);
     addTool(QLatin1StringView(commands.addRecord), [this] { book_.addRecord(); });
-    addTool(QLatin1StringView(commands.insertRecord), [this] { book_.insertRecord(); }, words.insertRecord,
-            Qt::CTRL | Qt::SHIFT | Qt::Key_I);
+    addTool(
+        QLatin1StringView(commands.insertRecord), [this] { book_.insertRecord(); }, words.insertRecord,
+        Qt::CTRL | Qt::SHIFT | Qt::Key_I);
     addTool(QLatin1StringView(commands.updateRecord), [this] { book_.updateRecord(); });
-    addTool(QLatin1StringView(commands.deleteRecord), [this] { book_.deleteRecords(); }, words.deleteRecords,
-            QKeySequence::Delete);
+    addTool(
+        QLatin1StringView(commands.deleteRecord), [this] { book_.deleteRecords(); }, words.deleteRecords,
+        QKeySequence::Delete);
     addTool(QLatin1StringView(commands.blank), [this] { book_.blankFields(); });
     add(QStringLiteral("editWindow"), words.editRecord.text(), "texte", Qt::CTRL | Qt::Key_E, withSelection,
         [this] { book_.editWindow(); });

@@ -9,9 +9,9 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollArea>
-#include <QScopedValueRollback>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QTabBar>
@@ -40,8 +40,9 @@ BookEditWindow::BookEditWindow(BookBase& book, BookActions& actions, QWidget* pa
     : QMainWindow(parent),
       book_(book),
       actions_(actions),
-      pages_(book.form().state(), book.desktop(), [&book](int list) { return book.form().ownList(list); },
-             [&book](int control) { return book.form().hint(control); }),
+      pages_(
+          book.form().state(), book.desktop(), [&book](int list) { return book.form().ownList(list); },
+          [&book](int control) { return book.form().hint(control); }),
       toolBar_(new CustomToolBar(book.description().editToolBar, book.desktop().preferences, this)) {
     setObjectName(QStringLiteral("editWindow"));
     buildToolBar();

@@ -16,8 +16,9 @@ namespace tavrel {
 class BookActions;
 class CustomToolBar;
 
-/// The edit window of a book: the pages of its form, one at a time, in a window that keeps the size of the largest. Opens
-/// and closes as the book asks. Whatever ends the editing goes through the book, which stores entries or asks about them.
+/// The edit window of a book: the pages of its form, one at a time, in a window that keeps the size of the largest.
+/// Opens and closes as the book asks. Whatever ends the editing goes through the book, which stores entries or asks
+/// about them.
 class BookEditWindow : public QMainWindow {
     Q_OBJECT
 

@@ -19,8 +19,8 @@ public:
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
-    /// Text, image, font and colours; a text that does not fit is in the tool tip. Colours are those of the data: where a
-    /// cell has none, or is written in black on the table's own ground, there is no value.
+    /// Text, image, font and colours; a text that does not fit is in the tool tip. Colours are those of the data: where
+    /// a cell has none, or is written in black on the table's own ground, there is no value.
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 

@@ -14,8 +14,7 @@
 
 namespace tavrel {
 
-BookTableView::BookTableView(BookBase& book, QWidget* parent)
-    : BookTableView(book, new BookTableModel(book), parent) {}
+BookTableView::BookTableView(BookBase& book, QWidget* parent) : BookTableView(book, new BookTableModel(book), parent) {}
 
 BookTableView::BookTableView(BookBase& book, BookTableModel* tableModel, QWidget* parent)
     : RecordTable(tableModel, book, parent), book_(book), model_(tableModel) {

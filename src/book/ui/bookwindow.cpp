@@ -49,6 +49,9 @@ BookWindow::BookWindow(BookBase& book, Desktop& desktop)
         finishEntry();
         return book_.userSelects(rows);
     });
+    if (book.description().dropDuplicatesLast) {
+        table_->acceptRows(QLatin1StringView(book.description().kind.extension));
+    }
     table_->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(table_, &QWidget::customContextMenuRequested, this, &BookWindow::showRowMenu);
     connect(table_, &RecordTable::opened, this, &BookWindow::open);
@@ -109,8 +112,7 @@ void BookWindow::buildToolBar() {
         searchBar->addWidget(search_);
     }
     actions_->fill(*toolBar_);
-    const QString keys =
-        command(book_.description().commands.newRecord)->shortcut().toString(QKeySequence::NativeText);
+    const QString keys = command(book_.description().commands.newRecord)->shortcut().toString(QKeySequence::NativeText);
     table_->setPlaceholder(textWith(book_.description().words.emptyTable, keys));
 }
 
@@ -247,7 +249,7 @@ QList<QAction*> BookWindow::editActions() {
 }
 
 QAction* BookWindow::commandAction(const QString& name) {
-    return name == u"printDocument" ? command(book_.description().commands.print)
+    return name == u"printDocument"  ? command(book_.description().commands.print)
            : name == u"saveDocument" ? command("saveDocument")
                                      : nullptr;
 }

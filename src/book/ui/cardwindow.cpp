@@ -38,8 +38,8 @@ void CardWindow::buildCommands() {
     auto* bar = addToolBar(text("Main", "Synthesis card"));
     bar->setMovable(false);
     bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    auto* print = bar->addAction(iconNamed(QStringLiteral("imprimante")), text("Main", "Print"), this,
-                                 &CardWindow::print);
+    auto* print =
+        bar->addAction(iconNamed(QStringLiteral("imprimante")), text("Main", "Print"), this, &CardWindow::print);
     print->setObjectName(QStringLiteral("printCard"));
     print->setShortcut(QKeySequence::Print);
     for (const auto& keys : {QKeySequence(QKeySequence::Close), QKeySequence(Qt::Key_Escape)}) {

@@ -56,7 +56,8 @@ DatePicker::DatePicker(Part part, QWidget* parent) : QDateTimeEdit(parent), part
 void DatePicker::showDate(const Date& date) {
     date_ = date;
     const QDateTime moment = asShown(date.toDateTime());
-    const bool blank = (emptyAt1900_ && date == date1900()) || !moment.isValid() || moment <= earliest || moment > latest;
+    const bool blank =
+        (emptyAt1900_ && date == date1900()) || !moment.isValid() || moment <= earliest || moment > latest;
     if (blank != blank_ || (!blank && moment != dateTime())) {
         blank_ = blank;
         put(blank ? earliest : moment);

@@ -57,8 +57,9 @@ void ImportCommands::chooseAndImport(ImportFormat format) {
 }
 
 void ImportCommands::importFile(const QString& file, ImportFormat format) {
-    // The form is about to hold other dives; what is being edited in it goes to its own first.
-    window_.commitEditing();
+    if (!window_.leaveEditing(Settling::leaving)) {
+        return;
+    }
     const auto result = [&] {
         ProgressWindow progress(&window_, text("Carnet", "Importing"));
         return commandOf(format).read(carnet_, file, progress.progress());

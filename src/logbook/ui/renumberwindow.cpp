@@ -14,8 +14,8 @@
 
 namespace tavrel {
 
-RenumberWindow::RenumberWindow(Carnet& carnet, QWidget* parent)
-    : QDialog(parent), carnet_(carnet), first_(new QSpinBox) {
+RenumberWindow::RenumberWindow(Carnet& carnet, DocumentWindow* parent)
+    : QDialog(parent), carnet_(carnet), window_(*parent), first_(new QSpinBox) {
     setObjectName(QStringLiteral("renumberWindow"));
     setWindowTitle(text("Carnet", "Renumber title"));
     first_->setObjectName(QStringLiteral("firstNumber"));
@@ -51,8 +51,10 @@ void RenumberWindow::bringToFront() {
 }
 
 void RenumberWindow::accept() {
-    // The form is about to hold another dive; what is being edited in it goes to its own first.
-    carnet_.storeEntries();
+    // The form is about to hold another dive.
+    if (!window_.leaveEditing(Settling::leaving)) {
+        return;
+    }
     ProgressWindow progress(this, text("Carnet", "Renumbering"));
     carnet_.renumDives(first_->value(), progress.progress());
 }

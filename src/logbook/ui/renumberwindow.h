@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documents/ui/documentwindow.h"
 #include "logbook/carnet.h"
 
 #include <QDialog>
@@ -13,13 +14,14 @@ class RenumberWindow : public QDialog {
     Q_OBJECT
 
 public:
-    RenumberWindow(Carnet& carnet, QWidget* parent);
+    RenumberWindow(Carnet& carnet, DocumentWindow* parent);
 
     void bringToFront();
     void accept() override;
 
 private:
     Carnet& carnet_;
+    DocumentWindow& window_;
     QSpinBox* first_;
 };
 

@@ -1,7 +1,10 @@
-#include "logbook/ui/diveeditwindow.h"
+#include "book/ui/bookeditwindow.h"
 
+#include "book/ui/bookactions.h"
+#include "desktop/ui/customtoolbar.h"
 #include "forms/ui/datepicker.h"
 #include "forms/ui/listcombo.h"
+#include "logbook/carnet.h"
 #include "support/testdesktop.h"
 
 #include <QAbstractButton>
@@ -12,6 +15,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTest>
@@ -24,9 +28,9 @@ namespace tavrel {
 
 namespace {
 
-class DiveEditWindowTest : public testing::Test {
+class BookEditWindowTest : public testing::Test {
 protected:
-    DiveEditWindowTest() { show(); }
+    BookEditWindowTest() { show(); }
 
     void show() {
         window.show();
@@ -59,10 +63,11 @@ protected:
     TestDesktop desktop;
     Carnet carnet{desktop.desktop()};
     const DiveControls& controls = carnet.form().controls();
-    DiveEditWindow window{carnet, desktop.desktop()};
+    BookActions actions{carnet};
+    BookEditWindow window{carnet, actions};
 };
 
-ControlState DiveEditWindowTest::use(int index) {
+ControlState BookEditWindowTest::use(int index) {
     const Control& control = placed()[static_cast<std::size_t>(index)].control;
     ControlState expected = state().at(index);
     QWidget* used = widget(index);
@@ -100,7 +105,7 @@ ControlState DiveEditWindowTest::use(int index) {
     return expected;
 }
 
-ControlState DiveEditWindowTest::shown(int index) {
+ControlState BookEditWindowTest::shown(int index) {
     ControlState seen = state().at(index);
     QWidget* used = widget(index);
     seen.enabled = used->isEnabled();
@@ -128,7 +133,7 @@ ControlState DiveEditWindowTest::shown(int index) {
     return seen;
 }
 
-TEST_F(DiveEditWindowTest, bindsEveryControlOfTheTableOnceAndBothWays) {
+TEST_F(BookEditWindowTest, bindsEveryControlOfTheTableOnceAndBothWays) {
     carnet.newDive();
     std::set<QWidget*> met;
     for (int index = 0; index < static_cast<int>(placed().size()); ++index) {
@@ -160,11 +165,11 @@ TEST_F(DiveEditWindowTest, bindsEveryControlOfTheTableOnceAndBothWays) {
         EXPECT_EQ(shown(index), state().at(index));
         EXPECT_EQ(edited.size(), 0);
     }
-    EXPECT_EQ(window.pages().pageCount(), DiveEditWindow::pageCount);
+    EXPECT_EQ(window.pages().pageCount(), 6);
 }
 
-TEST_F(DiveEditWindowTest, visitsTheControlsInReadingOrder) {
-    for (int page = 1; page <= DiveEditWindow::pageCount; ++page) {
+TEST_F(BookEditWindowTest, visitsTheControlsInReadingOrder) {
+    for (int page = 1; page <= window.pageCount(); ++page) {
         std::vector<std::array<int, 3>> order;
         std::vector<QString> names;
         QWidget* first = nullptr;
@@ -190,7 +195,7 @@ TEST_F(DiveEditWindowTest, visitsTheControlsInReadingOrder) {
     }
 }
 
-TEST_F(DiveEditWindowTest, combosFollowTheSharedListsAndKeepWhatIsTyped) {
+TEST_F(BookEditWindowTest, combosFollowTheSharedListsAndKeepWhatIsTyped) {
     auto* combo = find<ListCombo>(controls.lieuField);
     state().setText(controls.lieuField.index, QStringLiteral("nice"));
     desktop.pickLists.append(PickList::tableauDesLieux, QStringLiteral("Nice"));
@@ -222,7 +227,7 @@ TEST_F(DiveEditWindowTest, combosFollowTheSharedListsAndKeepWhatIsTyped) {
     EXPECT_EQ(state().at(controls.lieuField.index).text, u"CALVI");
 }
 
-TEST_F(DiveEditWindowTest, leavesValuesAloneThatNobodyChanged) {
+TEST_F(BookEditWindowTest, leavesValuesAloneThatNobodyChanged) {
     // A tag without an item, a text that a widget would alter, a moment beyond any calendar, no date at all.
     const QString notes = QStringLiteral("a\r\nb\u00a0c");
     state().setTag(controls.typePlongeePopUp.index, 2);
@@ -253,7 +258,7 @@ TEST_F(DiveEditWindowTest, leavesValuesAloneThatNobodyChanged) {
     EXPECT_EQ(state().at(controls.notesField.index).text, QStringLiteral("a\nb\u00a0cd"));
 }
 
-TEST_F(DiveEditWindowTest, picksTheDayAndTheTimeApart) {
+TEST_F(BookEditWindowTest, picksTheDayAndTheTimeApart) {
     const QDateTime moment(QDate(2023, 7, 9), QTime(10, 20, 30, 250));
     auto* day = find<DatePicker>(controls.dateField);
     auto* time = find<DatePicker>(controls.heureField);
@@ -273,34 +278,34 @@ TEST_F(DiveEditWindowTest, picksTheDayAndTheTimeApart) {
     EXPECT_EQ(state().at(controls.dateField.index).date.toDateTime(), QDate(2020, 1, 2).startOfDay());
 }
 
-TEST_F(DiveEditWindowTest, showsOnePageAtItsNaturalSizeWithTheTopEdgeInPlace) {
+TEST_F(BookEditWindowTest, keepsOneSizeOverItsPages) {
     window.move(40, 30);
-    const QPoint top = window.pos();
+    const QRect frame = window.geometry();
     for (const int page : {3, 2, 6, 1, 4, 5}) {
         QTest::keyClick(&window, static_cast<Qt::Key>(Qt::Key_0 + page), Qt::ControlModifier);
         EXPECT_EQ(window.currentPage(), page);
         EXPECT_TRUE(window.pages().page(page)->isVisible());
         EXPECT_FALSE(window.pages().page(page % 6 + 1)->isVisible());
         EXPECT_GE(window.pages().page(page)->height(), window.pages().page(page)->sizeHint().height());
-        EXPECT_EQ(window.pos(), top);
-        EXPECT_LE(window.height(), 720);
+        EXPECT_EQ(window.geometry(), frame);
     }
+    EXPECT_LE(window.height(), window.screen()->availableSize().height());
 }
 
-TEST_F(DiveEditWindowTest, storesTheFormAndGoesFromDiveToDive) {
+TEST_F(BookEditWindowTest, storesTheFormAndGoesFromRecordToRecord) {
     window.close();
     addDives(3);
     carnet.newDive();
     EXPECT_TRUE(window.isVisible());
     show();
-    EXPECT_EQ(window.windowTitle(), textWith("Carnet", "Dive number title", 4));
+    EXPECT_EQ(window.windowTitle(), textWith("Carnet", "Dive number title", QStringLiteral("4")));
     EXPECT_EQ(window.focusWidget(), widget(controls.noPlongeeField.index));
-    auto* previous = window.findChild<QPushButton*>(QStringLiteral("previousButton"));
-    auto* next = window.findChild<QPushButton*>(QStringLiteral("nextButton"));
+    auto* previous = window.findChild<QPushButton*>(QStringLiteral("previousRecord"));
+    auto* next = window.findChild<QPushButton*>(QStringLiteral("nextRecord"));
     EXPECT_FALSE(previous->isEnabled() || next->isEnabled());
 
     carnet.selectRows({0});
-    EXPECT_EQ(window.windowTitle(), textWith("Carnet", "Dive number title", 1));
+    EXPECT_EQ(window.windowTitle(), textWith("Carnet", "Dive number title", QStringLiteral("1")));
     EXPECT_TRUE(!previous->isEnabled() && next->isEnabled());
     QTest::keyClicks(find<QLineEdit>(controls.bateauField), QStringLiteral("Alcyon"));
     next->click();
@@ -313,17 +318,102 @@ TEST_F(DiveEditWindowTest, storesTheFormAndGoesFromDiveToDive) {
     QTest::keyClick(&window, Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(carnet.recordAt(1)->bateau, u"Elie");
     QTest::keyClicks(find<QLineEdit>(controls.bateauField), QStringLiteral(" Monnier"));
-    QTest::keyClick(&window, Qt::Key_Escape);
+    window.close();
     EXPECT_FALSE(window.isVisible());
     EXPECT_EQ(carnet.recordAt(1)->bateau, u"Elie Monnier");
     EXPECT_EQ(carnet.count(), 3);
 
-    // A new dive is added, also while another one is selected.
+    // The title follows the number that is typed.
+    auto* number = find<QLineEdit>(controls.noPlongeeField);
+    number->selectAll();
+    QTest::keyClicks(number, QStringLiteral("77"));
+    EXPECT_EQ(window.windowTitle(), textWith("Carnet", "Dive number title", QStringLiteral("77")));
+}
+
+TEST_F(BookEditWindowTest, storesNothingThatNobodyTyped) {
+    addDives(2);
+    carnet.undoStack().setClean();
+    carnet.selectRows({0});
+    QTest::keyClick(&window, Qt::Key_Return, Qt::ControlModifier);
+    window.findChild<QPushButton*>(QStringLiteral("nextRecord"))->click();
+    auto* boat = find<QLineEdit>(controls.bateauField);
+    QTest::keyClicks(boat, QStringLiteral("x"));
+    QTest::keyClick(boat, Qt::Key_Backspace);
+    QTest::keyClick(&window, Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_FALSE(carnet.isChanged());
+
+    // Nor is a new dive added that nobody touched, though the button adds what it is told to.
     carnet.newDive();
     show();
     QTest::keyClick(&window, Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(carnet.count(), 2);
+    QTest::keyClicks(find<QLineEdit>(controls.bateauField), QStringLiteral("Alcyon"));
+    QTest::keyClick(&window, Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(carnet.count(), 3);
+    window.toolBar().action(QStringLiteral("addDiveToList"))->trigger();
     EXPECT_EQ(carnet.count(), 4);
-    EXPECT_EQ(state().at(controls.noPlongeeField.index).text, u"5");
+}
+
+TEST_F(BookEditWindowTest, asksBeforeEscapeLosesWhatWasTyped) {
+    enum { keep, discard, cancel };
+    addDives(2);
+    carnet.selectRows({1});
+    const auto typeAndEscape = [&](int answer) {
+        show();
+        QTest::keyClicks(find<QLineEdit>(controls.bateauField), QStringLiteral("A"));
+        desktop.alerts.answerNext(answer);
+        QTest::keyClick(&window, Qt::Key_Escape);
+    };
+    typeAndEscape(cancel);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(find<QLineEdit>(controls.bateauField)->text(), u"A");
+    EXPECT_EQ(carnet.selectedRows(), QList<int>({1}));
+    typeAndEscape(discard);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_TRUE(carnet.recordAt(1)->bateau.isEmpty());
+    typeAndEscape(keep);
+    EXPECT_EQ(carnet.recordAt(1)->bateau, u"A");
+    EXPECT_EQ(desktop.alerts.questions.size(), 3U);
+
+    // A new dive is asked about by the close button too.
+    carnet.newDive();
+    show();
+    QTest::keyClicks(find<QLineEdit>(controls.bateauField), QStringLiteral("B"));
+    desktop.alerts.answerNext(keep);
+    window.close();
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(carnet.recordAt(2)->bateau, u"B");
+}
+
+TEST_F(BookEditWindowTest, saysThatAddingAStoredRecordMakesASecondOne) {
+    QAction* add = window.toolBar().action(QStringLiteral("addDiveToList"));
+    EXPECT_EQ(add->iconText(), text("Main", "Add"));
+    addDives(1);
+    carnet.selectRows({0});
+    EXPECT_EQ(add->iconText(), text("Main", "Add second"));
+    add->trigger();
+    EXPECT_EQ(carnet.count(), 2);
+    EXPECT_EQ(add->iconText(), text("Main", "Add"));
+}
+
+TEST_F(BookEditWindowTest, saysBesideAFieldHowItIsRead) {
+    const auto hint = [&](auto id) {
+        const auto* label = window.findChild<QLabel*>(
+            QString::fromStdString(placed()[static_cast<std::size_t>(id.index)].name + "Hint"));
+        EXPECT_TRUE(label);
+        EXPECT_EQ(label->isHidden(), label->text().isEmpty());
+        return label->text();
+    };
+    auto* depth = find<QLineEdit>(controls.profondeurField);
+    EXPECT_TRUE(hint(controls.profondeurField).isEmpty());
+    QTest::keyClicks(depth, QStringLiteral("abc33.5x"));
+    EXPECT_EQ(hint(controls.profondeurField), u"read as 0");
+    EXPECT_EQ(depth->accessibleDescription(), u"read as 0");
+    depth->clear();
+    QTest::keyClicks(depth, QStringLiteral("33,5"));
+    EXPECT_TRUE(hint(controls.profondeurField).isEmpty()) << "a decimal comma is read";
+    EXPECT_TRUE(hint(controls.siteField).isEmpty());
 }
 
 }  // namespace

@@ -1,0 +1,352 @@
+// What the windows give to every record book, driven with a small one.
+
+#include "base/texts.h"
+#include "book/card.h"
+#include "book/ui/bookeditwindow.h"
+#include "book/ui/booksearchfield.h"
+#include "book/ui/booktableview.h"
+#include "book/ui/bookwindow.h"
+#include "book/ui/cardwindow.h"
+#include "book/ui/shelf.h"
+#include "desktop/ui/customtoolbar.h"
+#include "forms/ui/datepicker.h"
+#include "forms/ui/starrating.h"
+#include "support/testdesktop.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDragEnterEvent>
+#include <QDragMoveEvent>
+#include <QDropEvent>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QProgressBar>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTest>
+#include <QTextEdit>
+#include <QUrl>
+#include <gtest/gtest.h>
+
+namespace tavrel {
+
+namespace {
+
+enum Answer { keep, discard, cancel };
+
+class RecordBookTest : public testing::Test {
+protected:
+    RecordBookTest() {
+        window.show();
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+
+    void hold(const QStringList& names) {
+        RecordList things;
+        for (const QString& name : names) {
+            auto thing = std::make_shared<Thing>();
+            thing->name = name;
+            things.push_back(thing);
+        }
+        book.appendRecords(QStringLiteral("Add"), things);
+    }
+    QStringList names() {
+        QStringList result;
+        for (int row = 0; row < book.count(); ++row) {
+            result.append(book.record(row).name);
+        }
+        return result;
+    }
+    void type(auto id, const QString& text) { book.form().state().type(id.index, text); }
+    void click(int row) {
+        QTest::mouseClick(window.table().viewport(), Qt::LeftButton, {},
+                          window.table().visualRect(window.table().model()->index(row, 0)).center());
+    }
+    QAction* command(const char* name) { return window.actions().action(QString::fromUtf8(name)); }
+    template <class Widget>
+    Widget* control(auto id) {
+        return qobject_cast<Widget*>(window.editWindow().pages().widget(id.index));
+    }
+    const QString& typedName() { return book.form().state().at(controls.nameField.index).text; }
+
+    TestDesktop desktop;
+    Book<Thing> book{desktop.desktop(), shelf()};
+    const ThingControls& controls = ThingControls::table();
+    BookWindow window{book, desktop.desktop()};
+};
+
+TEST_F(RecordBookTest, asksOnceWhateverTheWayOutOfANewRecord) {
+    hold({QStringLiteral("a"), QStringLiteral("b")});
+    const struct {
+        const char* what;
+        std::function<void()> leave;
+    } ways[] = {
+        {"another row", [&] { click(1); }},
+        {"the arrow key", [&] { QTest::keyClick(&window.table(), Qt::Key_Down); }},
+        {"all rows", [&] { command("selectAll")->trigger(); }},
+        {"a new record", [&] { command("newThing")->trigger(); }},
+        {"closing the form", [&] { window.editWindow().close(); }},
+        {"Escape", [&] { QTest::keyClick(&window.editWindow(), Qt::Key_Escape); }},
+        {"saving", [&] { EXPECT_FALSE(window.leaveEditing(Settling::saving)); }},
+        {"leaving", [&] { EXPECT_FALSE(window.leaveEditing(Settling::leaving)); }},
+        {"printing", [&] { command("imprimer")->trigger(); }},
+        {"a search",
+         [&] {
+             window.searchField().setText(QStringLiteral("b"));
+             QTest::keyClick(&window.searchField(), Qt::Key_Return);
+         }},
+    };
+    for (const auto& way : ways) {
+        SCOPED_TRACE(way.what);
+        desktop.alerts.clear();
+        command("newThing")->trigger();
+        type(controls.nameField, QStringLiteral("typed"));
+        desktop.alerts.answerNext(cancel);
+        way.leave();
+        EXPECT_EQ(desktop.alerts.questions.size(), 1U);
+        EXPECT_TRUE(window.editWindow().isVisible());
+        EXPECT_EQ(typedName(), u"typed");
+        EXPECT_EQ(book.selectedRow(), -1);
+        EXPECT_TRUE(window.table().selectionModel()->selectedRows().isEmpty());
+        EXPECT_EQ(book.count(), 2);
+        desktop.alerts.answerNext(discard);
+        EXPECT_TRUE(window.leaveEditing(Settling::leaving));
+    }
+
+    command("newThing")->trigger();
+    type(controls.nameField, QStringLiteral("c"));
+    desktop.alerts.answerNext(keep);
+    click(1);
+    EXPECT_EQ(names(), (QStringList{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}));
+    EXPECT_EQ(book.selectedRows(), QList<int>({1}));
+    EXPECT_EQ(typedName(), u"b");
+}
+
+TEST_F(RecordBookTest, keepsTheSelectionWhereAnEditedRecordIsNotLeft) {
+    hold({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+    click(0);
+    command("editWindow")->trigger();
+    type(controls.nameField, QStringLiteral("changed"));
+    desktop.alerts.answerNext(cancel);
+    click(2);
+    EXPECT_EQ(book.selectedRows(), QList<int>({0}));
+    EXPECT_EQ(window.table().currentIndex().row(), 0);
+    desktop.alerts.answerNext(cancel);
+    QTest::keyClick(&window.table(), Qt::Key_Down);
+    EXPECT_EQ(window.table().currentIndex().row(), 0);
+    EXPECT_EQ(typedName(), u"changed");
+    desktop.alerts.answerNext(keep);
+    click(2);
+    EXPECT_EQ(book.selectedRows(), QList<int>({2}));
+    EXPECT_EQ(names().front(), u"changed");
+    EXPECT_EQ(typedName(), u"c");
+}
+
+TEST_F(RecordBookTest, opensNothingWhereNoRowIsSelected) {
+    hold({QStringLiteral("a"), QStringLiteral("b")});
+    click(1);
+    book.deselectAll();
+    QTest::keyClick(&window.table(), Qt::Key_Return);
+    EXPECT_TRUE(window.furtherWindows().isEmpty());
+    click(1);
+    QTest::keyClick(&window.table(), Qt::Key_Return);
+    ASSERT_EQ(window.furtherWindows().size(), 1);
+    EXPECT_EQ(window.editWindow().windowTitle(), u"Thing b");
+
+    // What is opened is the selected record, also after another one was added on the way.
+    command("newThing")->trigger();
+    book.selectRows({});
+    type(controls.nameField, QStringLiteral("c"));
+    desktop.alerts.answerNext(keep);
+    click(0);
+    QTest::keyClick(&window.table(), Qt::Key_Return);
+    EXPECT_EQ(window.editWindow().windowTitle(), u"Thing a");
+}
+
+TEST_F(RecordBookTest, tellsTheViewWhichRowsChanged) {
+    hold({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+    const QSignalSpy resets(window.table().model(), &QAbstractItemModel::modelReset);
+    const QSignalSpy changes(window.table().model(), &QAbstractItemModel::dataChanged);
+    ASSERT_TRUE(book.setValue(1, QStringLiteral("name"), QStringLiteral("B")));
+    ASSERT_EQ(changes.count(), 1);
+    EXPECT_EQ(changes[0][0].toModelIndex().row(), 1);
+    EXPECT_EQ(changes[0][1].toModelIndex().row(), 1);
+    EXPECT_EQ(window.table().model()->index(1, 0).data().toString(), u"B");
+    EXPECT_EQ(resets.count(), 0);
+    book.undoStack().undo();
+    EXPECT_EQ(window.table().model()->index(1, 0).data().toString(), u"b");
+    hold({QStringLiteral("d")});
+    EXPECT_EQ(resets.count(), 1);
+    EXPECT_EQ(window.table().model()->rowCount(), 4);
+}
+
+TEST_F(RecordBookTest, showsColoursOnlyWhereTheyAreNotThatOfText) {
+    hold({QStringLiteral("cheap"), QStringLiteral("dear")});
+    ASSERT_TRUE(book.setValue(1, QStringLiteral("price"), 20.0F));
+    const auto* model = window.table().model();
+    EXPECT_FALSE(model->index(0, 1).data(Qt::ForegroundRole).isValid());
+    EXPECT_EQ(model->index(1, 1).data(Qt::ForegroundRole).value<QColor>(), QColor(255, 0, 0));
+}
+
+TEST_F(RecordBookTest, searchesAllColumns) {
+    hold({QStringLiteral("Regulator"), QStringLiteral("Lamp 7"), QStringLiteral("Knife")});
+    ASSERT_TRUE(book.setValue(2, QStringLiteral("price"), 17.5F));
+    auto& field = window.searchField();
+    EXPECT_EQ(field.menu(), nullptr);
+    EXPECT_TRUE(window.isAncestorOf(&field));
+    const auto search = [&](const char* words) {
+        field.setText(QString::fromUtf8(words));
+        QTest::keyClick(&field, Qt::Key_Return);
+        return book.selectedRows();
+    };
+    EXPECT_EQ(search("7"), QList<int>({1, 2}));
+    EXPECT_EQ(book.foundText(), textWith("Main", "Found cards", 2));
+    EXPECT_EQ(search("LAMP"), QList<int>({1}));
+    EXPECT_EQ(book.foundText(), text("Main", "One card found"));
+    EXPECT_TRUE(search("").isEmpty());
+}
+
+TEST_F(RecordBookTest, takesADroppedRowAsACopyOfTheLast) {
+    hold({QStringLiteral("a"), QStringLiteral("b")});
+    QMimeData row;
+    row.setData(QStringLiteral("things"), "any");
+    QMimeData words;
+    words.setText(QStringLiteral("b"));
+    QWidget* target = window.table().viewport();
+    EXPECT_TRUE(target->acceptDrops());
+    for (QMimeData* data : {&words, &row}) {
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(target, &enter);
+        EXPECT_EQ(enter.isAccepted(), data == &row);
+        QDropEvent drop(QPointF(5, 5), Qt::CopyAction | Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(target, &drop);
+    }
+    EXPECT_EQ(names(), (QStringList{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("b")}));
+}
+
+TEST_F(RecordBookTest, showsOneActionForACommandEverywhere) {
+    EXPECT_FALSE(command("deleteThing")->isEnabled());
+    EXPECT_FALSE(command("synthese")->isEnabled());
+    EXPECT_TRUE(command("newThing")->isEnabled());
+    hold({QStringLiteral("a")});
+    EXPECT_TRUE(command("deleteThing")->isEnabled());
+    EXPECT_FALSE(command("editWindow")->isEnabled());
+    for (const char* name : {"newThing", "deleteThing", "synthese"}) {
+        QAction* action = command(name);
+        EXPECT_TRUE(window.toolBar().actions().contains(action)) << name;
+        EXPECT_TRUE(window.ownMenuActions().contains(action)) << name;
+    }
+    EXPECT_TRUE(window.editWindow().toolBar().actions().contains(command("synthese")));
+    EXPECT_EQ(window.commandAction(QStringLiteral("saveDocument")), command("saveDocument"));
+    EXPECT_EQ(window.commandAction(QStringLiteral("printDocument")), command("imprimer"));
+    EXPECT_FALSE(window.ownMenuActions().contains(command("imprimer")));
+    EXPECT_EQ(window.viewActions().size(), 1) << "no columns to choose";
+
+    command("deleteThing")->trigger();  // nothing selected
+    EXPECT_EQ(desktop.alerts.questions.size(), 0U);
+    book.selectRows({0});
+    desktop.alerts.answerNext(0);
+    command("deleteThing")->trigger();
+    EXPECT_EQ(book.count(), 0);
+}
+
+TEST_F(RecordBookTest, showsTheCardOfAllRecords) {
+    hold({QStringLiteral("Lamp")});
+    command("synthese")->trigger();
+    auto& card = window.cardWindow();
+    EXPECT_TRUE(card.isVisible());
+    EXPECT_TRUE(card.card().text().contains(u"\rName: Lamp"));
+    auto* shown = card.findChild<QTextEdit*>();
+    EXPECT_TRUE(shown->toPlainText().contains(u"\nName: Lamp"));
+    EXPECT_TRUE(window.furtherWindows().contains(&card));
+
+    // Dark: what is black is written as text is, and blue is lightened; the card keeps the plain colours.
+    QPalette dark;
+    dark.setColor(QPalette::Base, QColor(30, 30, 30));
+    dark.setColor(QPalette::Text, QColor(220, 220, 220));
+    card.setPalette(dark);
+    const auto colourOf = [&](const char* words) {
+        const QTextCursor found = shown->document()->find(QString::fromUtf8(words));
+        return found.charFormat().foreground().color();
+    };
+    EXPECT_EQ(colourOf("Name:"), QColor(220, 220, 220));
+    EXPECT_GT(colourOf("Lamp").lightnessF(), QColor(Qt::blue).lightnessF());
+    EXPECT_EQ(card.card().runs()[2].colour, plaincolour::blue);
+}
+
+TEST_F(RecordBookTest, showsDaysStarsBarsAndColours) {
+    hold({QStringLiteral("Lamp")});
+    click(0);
+    command("editWindow")->trigger();
+    auto& state = book.form().state();
+    auto* bought = control<DatePicker>(controls.boughtField);
+    const Date none = Date::fromDateTime(QDate(1900, 1, 1).startOfDay());
+    state.setDate(controls.boughtField.index, none);
+    EXPECT_TRUE(bought->text().trimmed().isEmpty());
+    bought->setDate(QDate(2024, 5, 3));
+    EXPECT_EQ(state.at(controls.boughtField.index).date.toDateTime().date(), QDate(2024, 5, 3));
+    QTest::keyClick(bought, Qt::Key_Delete);
+    EXPECT_EQ(state.at(controls.boughtField.index).date, none);
+    EXPECT_TRUE(bought->text().trimmed().isEmpty());
+
+    auto* stars = window.editWindow().findChild<StarRating*>();
+    ASSERT_TRUE(stars);
+    QTest::keyClick(stars, Qt::Key_3);
+    QTest::keyClick(stars, Qt::Key_Right);
+    EXPECT_EQ(state.at(controls.starsSlider.index).tag, 4);
+    EXPECT_TRUE(stars->accessibleName().endsWith(textWith("Main", "Cotation in words", 4, 5)));
+    const int first = stars->height() / 2;
+    QTest::mouseClick(stars, Qt::LeftButton, {}, QPoint(first, first));
+    EXPECT_EQ(state.at(controls.starsSlider.index).tag, 1);
+    QTest::mouseClick(stars, Qt::LeftButton, {}, QPoint(first, first));
+    EXPECT_EQ(state.at(controls.starsSlider.index).tag, 0);
+    QSignalSpy edited(&state, &FormStateBase::edited);
+    state.setTag(controls.starsSlider.index, 5);
+    EXPECT_EQ(stars->value(), 5);
+    EXPECT_EQ(edited.count(), 0);
+
+    auto* wear = control<QProgressBar>(controls.wearProgress);
+    auto* condition = control<QLabel>(controls.stateField);
+    type(controls.priceField, QStringLiteral("4"));
+    EXPECT_EQ(wear->value(), 40);
+    EXPECT_EQ(condition->palette().color(QPalette::WindowText), QApplication::palette().color(QPalette::WindowText));
+    type(controls.priceField, QStringLiteral("13"));
+    EXPECT_EQ(wear->value(), 100);
+    EXPECT_EQ(wear->text(), QStringLiteral("130\u00a0%"));
+    EXPECT_EQ(condition->text(), u"worn");
+    EXPECT_GT(condition->palette().color(QPalette::WindowText).red(), 200);
+    const auto* hint = window.editWindow().findChild<QLabel*>(QStringLiteral("priceFieldHint"));
+    EXPECT_TRUE(hint->text().isEmpty());
+    type(controls.priceField, QStringLiteral("1001"));
+    EXPECT_EQ(hint->text(), u"usually 0 to 1000");
+}
+
+TEST(AddressOf, leadsOutOnlyWhereAnAddressDoes) {
+    const struct {
+        Opens opens;
+        const char* text;
+        const char* address;
+    } cases[] = {
+        {Opens::mail, " club@example.org ", "mailto:club@example.org"},
+        {Opens::mail, "none", ""},
+        {Opens::phone, "+33 (0)1 23.45", "tel:+3301 2345"},
+        {Opens::phone, "ask", ""},
+        {Opens::web, "example.org/a", "http://example.org/a"},
+        {Opens::web, "https://example.org", "https://example.org"},
+        {Opens::web, "file:///etc/passwd", ""},
+        {Opens::web, "/etc/passwd", ""},
+        {Opens::nothing, "https://example.org", ""},
+    };
+    for (const auto& it : cases) {
+        EXPECT_EQ(addressOf(it.opens, QString::fromUtf8(it.text)).toString(),
+                  QString::fromUtf8(it.address).remove(u' '))
+            << it.text;
+    }
+}
+
+}  // namespace
+
+}  // namespace tavrel
