@@ -1,6 +1,7 @@
 #include "base/texts.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -107,6 +108,19 @@ TextTables& tables() {
 QString text(const char* table, const char* key, const QString& fallback) {
     const QString found = tables().find(table, key);
     return found.isNull() ? fallback : found;
+}
+
+QString textIn(const QString& language, const char* table, const char* key) {
+    static_cast<void>(tables());
+    QTranslator texts;
+    return texts.load(QStringLiteral(":/texts/%1/%2.qm").arg(language, QString::fromUtf8(table)))
+               ? texts.translate(table, key)
+               : QString();
+}
+
+QStringList textLanguages() {
+    static_cast<void>(tables());
+    return QDir(QStringLiteral(":/texts")).entryList(QDir::Dirs, QDir::Name);
 }
 
 void setTextLanguage(const QString& localeName) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <variant>
 #include <vector>
@@ -20,6 +21,11 @@ inline QString missingText() {
 /// key, and the fallback when no language has it.
 QString text(const char* table, const char* key, const QString& fallback = missingText());
 
+/// The same in the language given, whatever the user's; null where that language lacks the key.
+QString textIn(const QString& language, const char* table, const char* key);
+/// The languages that there are texts in: "en", "fr".
+QStringList textLanguages();
+
 /// A word that a table of controls, columns or commands shows: a key with its text table, or the text itself where it
 /// is the same in every language. Spelled out as Title("Carnet", "Depth") or {"Carnet", "Depth"}, which is how the
 /// check of the text tables finds the keys that the code uses.
@@ -30,6 +36,10 @@ struct Title {
     constexpr bool isEmpty() const { return *key == 0; }
     QString text(const QString& fallback = missingText()) const {
         return table ? tavrel::text(table, key, fallback) : QString::fromUtf8(key);
+    }
+
+    QString textIn(const QString& language) const {
+        return table ? tavrel::textIn(language, table, key) : QString::fromUtf8(key);
     }
 
     const char* table = nullptr;  ///< null: key is the text itself

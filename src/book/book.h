@@ -16,11 +16,11 @@ namespace tavrel {
 
 /// A way out of the edit form, on which entries that are not stored are asked about or stored.
 enum class Leaving {
-    closing,   ///< the edit window closes: a stored record is stored without a question
-    stepping,  ///< to the record before or behind: likewise
-    saving,    ///< the document is saved: likewise
-    escaping,  ///< the edit window closes by Escape
-    elsewhere, ///< another record, a new one, an import, revert, closing the document, the end of the program
+    closing,    ///< the edit window closes: a stored record is stored without a question
+    stepping,   ///< to the record before or behind: likewise
+    saving,     ///< the document is saved: likewise
+    escaping,   ///< the edit window closes by Escape
+    elsewhere,  ///< another record, a new one, an import, revert, closing the document, the end of the program
 };
 
 /// A document of records of one class with its edit form: every operation of its windows, without them. Everything that

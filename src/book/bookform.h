@@ -14,8 +14,9 @@
 namespace tavrel {
 
 /// The edit form of one type of document without its window: how it is cleared, how a record is shown in it, how one is
-/// built from it with all corrections, and what follows from an entry. Whoever makes records (the window, the importers,
-/// the command line) types into it. What the table of controls cannot say is said by the hooks of a derived class.
+/// built from it with all corrections, and what follows from an entry. Whoever makes records (the window, the
+/// importers, the command line) types into it. What the table of controls cannot say is said by the hooks of a derived
+/// class.
 class BookForm : public QObject {
     Q_OBJECT
 

@@ -38,8 +38,8 @@ private:
     std::unique_ptr<TableStyle> style_;
 };
 
-/// The rows of the records in the order of a field, equal ones as they stand. Texts, numbers and days; other fields leave
-/// the order as it is.
+/// The rows of the records in the order of a field, equal ones as they stand. Texts, numbers and days; other fields
+/// leave the order as it is.
 std::vector<int> sortedOrder(const RecordList& records, const Field& field, bool ascending);
 
 }  // namespace tavrel

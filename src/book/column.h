@@ -63,7 +63,7 @@ struct Column {
     Title title;
     int width = 10;  ///< in digits at first
     Qt::AlignmentFlag alignment = Qt::AlignLeft;
-    CellHook cell = nullptr;              ///< made by cellHook<>
+    CellHook cell = nullptr;               ///< made by cellHook<>
     const Setting<bool>* shown = nullptr;  ///< the setting that shows it; null: it always shows
     bool shownAtFirst = true;
 };

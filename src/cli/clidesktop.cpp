@@ -2,6 +2,10 @@
 
 #include "desktop/defaults.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QVariant>
+
 #include <ostream>
 
 namespace tavrel {
@@ -22,7 +26,12 @@ CliDesktop::CliDesktop(Console& console)
     : preferences_({}, Preferences::Keeping::thisRun),
       pickLists_(preferences_),
       alerts_(console),
+      clock_(console.options.now),
       desktop_{preferences_, notifications_, pickLists_, alerts_, clock_} {
+    for (const auto& [key, value] : console.options.preferences) {
+        const QJsonDocument object = QJsonDocument::fromJson(value.toUtf8());
+        preferences_.set(key, object.isObject() ? QVariant(object.object().toVariantMap()) : QVariant(value));
+    }
     startDesktop(preferences_, pickLists_);
 }
 

@@ -8,6 +8,10 @@
 #include "desktop/picklists.h"
 #include "desktop/preferences.h"
 
+#include <optional>
+#include <utility>
+#include <vector>
+
 namespace tavrel {
 
 /// Speaks on standard error. Whoever typed a command meant it: every question is answered with its affirmative button.
@@ -24,7 +28,18 @@ private:
     Console& console_;
 };
 
-/// What documents live on in the command line: the user's preferences as they stand, which no command changes.
+/// The clock of a run.
+class RunClock : public Clock {
+public:
+    explicit RunClock(std::optional<QDateTime> set) : set_(std::move(set)) {}
+    QDateTime now() const override { return set_ ? *set_ : Clock::now(); }
+
+private:
+    std::optional<QDateTime> set_;
+};
+
+/// What documents live on in the command line: the user's preferences as they stand, and those of the run's options,
+/// none of which any command stores.
 class CliDesktop {
 public:
     explicit CliDesktop(Console& console);
@@ -36,7 +51,7 @@ private:
     NotificationCentre notifications_;
     PickLists pickLists_;
     ConsoleAlerts alerts_;
-    Clock clock_;
+    RunClock clock_;
     Desktop desktop_;
 };
 

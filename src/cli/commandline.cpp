@@ -42,6 +42,36 @@ void requireOneCommand(CLI::App& app, const char* what) {
     });
 }
 
+void addRunOptions(CLI::App& app, Console& console) {
+    app.fallthrough();
+    app.add_option_function<std::string>(
+           "--now",
+           [&console](const std::string& word) {
+               const QDateTime moment = QDateTime::fromString(fromArgument(word), Qt::ISODateWithMs);
+               if (!moment.isValid()) {
+                   wrongUsage(textWith("Cli", "Not a moment", fromArgument(word)));
+               }
+               console.options.now = moment.toLocalTime();
+           },
+           "The moment that counts as now, as 2024-05-03T10:30:00")
+        ->trigger_on_parse();
+    app.add_option_function<std::vector<std::string>>(
+           "--preference",
+           [&console](const std::vector<std::string>& settings) {
+               for (const std::string& word : settings) {
+                   const QString setting = fromArgument(word);
+                   const auto equals = setting.indexOf(u'=');
+                   if (equals < 1) {
+                       wrongUsage(textWith("Cli", "Not an entry", setting));
+                   }
+                   console.options.preferences.emplace_back(setting.left(equals), setting.mid(equals + 1));
+               }
+           },
+           "KEY=VALUE, a setting for this run only; a dictionary as a JSON object")
+        ->allow_extra_args(false)
+        ->trigger_on_parse();
+}
+
 int runCommandLine(CLI::App& app, int argc, const char* const* argv, Console& console) {
     requireOneCommand(app, "A command");
     try {

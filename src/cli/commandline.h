@@ -3,10 +3,14 @@
 #include "base/failure.h"
 #include "base/jsonwriter.h"
 
+#include <QDateTime>
 #include <QString>
 
 #include <iosfwd>
+#include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace CLI {
 class App;
@@ -14,12 +18,19 @@ class App;
 
 namespace tavrel {
 
+/// What the global options set for one run: the moment that counts as now, and settings over the user's own, by key.
+struct RunOptions {
+    std::optional<QDateTime> now;
+    std::vector<std::pair<QString, QString>> preferences;
+};
+
 /// Where commands write, and how the program will end. A command that fails writes the reason to `error` and sets
 /// `exitCode`.
 struct Console {
     std::ostream& out;
     std::ostream& error;
     int exitCode = 0;
+    RunOptions options = {};
     bool fileSaved = false;  ///< the command did what it was for, whatever becomes of its words
 };
 
@@ -41,6 +52,9 @@ void fail(Console& console, const Failure& failure);
 /// Requires one of the commands under this one, checked last, so that a misspelt command is named. `what` is for the
 /// message: "A command".
 void requireOneCommand(CLI::App& app, const char* what);
+
+/// Adds the options of all commands: --now and --preference.
+void addRunOptions(CLI::App& app, Console& console);
 
 /// Parses the arguments and runs the command among them. Returns the exit code: 0 done (help and version included), 1
 /// failed, 2 wrong usage.

@@ -1,8 +1,12 @@
 #include "cli/documentcommands.h"
 
+#include "archive/recordjson.h"
+#include "base/jsonwriter.h"
 #include "base/paths.h"
 #include "base/safefile.h"
 #include "base/texts.h"
+#include "book/bookentry.h"
+#include "book/booktable.h"
 #include "cli/listing.h"
 #include "cli/session.h"
 
@@ -43,7 +47,7 @@ void changeFile(const Arguments& arguments, Console& console, Work work) {
         done = work(session);
     }
     if (done) {
-        done = session.driver->document().save();
+        done = session.book->save();
         console.fileSaved = done.has_value();
     }
     if (!done) {
@@ -51,26 +55,28 @@ void changeFile(const Arguments& arguments, Console& console, Work work) {
     }
 }
 
-/// Enters every "field=value" into the form. What the form does not have is wrong usage.
-void enterAll(DocumentDriver& driver, const std::vector<std::string>& entries) {
+}  // namespace
+
+void enterAll(BookForm& form, const std::vector<std::string>& entries) {
     for (const std::string& argument : entries) {
         const QString entry = fromArgument(argument);
         const auto equals = entry.indexOf(u'=');
         if (equals < 1) {
             wrongUsage(textWith("Cli", "Not an entry", entry));
         }
-        if (const auto entered = driver.enter(entry.left(equals), entry.mid(equals + 1)); !entered) {
+        if (const auto entered = enterByName(form, entry.left(equals), entry.mid(equals + 1)); !entered) {
             wrongUsage(entered.error().message());
         }
     }
 }
 
+namespace {
+
 void runNew(const Arguments& arguments, Console& console) {
-    const auto kinds = documentKinds();
-    const DriverKind* kind = documentKindNamed(kinds, fromArgument(arguments.type));
-    if (!kind) {
+    const CatalogueType* type = documentTypeMeantBy(fromArgument(arguments.type));
+    if (!type) {
         QStringList names;
-        for (const DriverKind& known : kinds) {
+        for (const CatalogueType& known : documentTypes()) {
             names.append(known.name.text());
         }
         wrongUsage(textWith("Cli", "No such type", fromArgument(arguments.type), names.join(QStringLiteral(", "))));
@@ -81,16 +87,16 @@ void runNew(const Arguments& arguments, Console& console) {
         return;
     }
     CliDesktop desktop(console);
-    if (const auto saved = kind->make(desktop.desktop())->document().saveAs(path); !saved) {
+    if (const auto saved = type->make(desktop.desktop())->saveAs(path); !saved) {
         fail(console, saved.error());
     }
 }
 
 void runAdd(const Arguments& arguments, Console& console) {
     changeFile(arguments, console, [&](Session& session) -> Expected<void> {
-        session.driver->beginRecord();
-        enterAll(*session.driver, arguments.entries);
-        session.driver->addRecord();
+        session.book->newRecord();
+        enterAll(session.book->form(), arguments.entries);
+        session.book->addRecord();
         return {};
     });
 }
@@ -98,9 +104,9 @@ void runAdd(const Arguments& arguments, Console& console) {
 void runSet(const Arguments& arguments, Console& console) {
     changeFile(arguments, console, [&](Session& session) {
         return session.checkRow(arguments.row).map([&] {
-            session.driver->editRecord(arguments.row);
-            enterAll(*session.driver, arguments.entries);
-            session.driver->updateRecord();
+            session.book->selectRows({arguments.row});
+            enterAll(session.book->form(), arguments.entries);
+            session.book->updateRecord();
         });
     });
 }
@@ -112,14 +118,16 @@ void runDelete(const Arguments& arguments, Console& console) {
                 return checked;
             }
         }
-        session.driver->document().selectRows(QList<int>(arguments.rows.begin(), arguments.rows.end()));
-        session.driver->deleteRecords();
+        session.book->selectRows(QList<int>(arguments.rows.begin(), arguments.rows.end()));
+        session.book->deleteRecords();
         return {};
     });
 }
 
 void runRenumber(const Arguments& arguments, Console& console) {
-    changeFile(arguments, console, [&](Session& session) { return session.driver->renumber(arguments.number); });
+    changeFile(arguments, console, [&](Session& session) {
+        return session.logbook().map([&](Carnet* carnet) { carnet->renumDives(arguments.number); });
+    });
 }
 
 void runFind(const Arguments& arguments, Console& console) {
@@ -128,15 +136,29 @@ void runFind(const Arguments& arguments, Console& console) {
         fail(console, opened.error());
         return;
     }
-    const auto found = session.driver->find(fromArgument(arguments.field), fromArgument(arguments.searched));
+    const auto found = session.book->findTextWithField(fromArgument(arguments.field), fromArgument(arguments.searched));
     if (!found) {
         wrongUsage(found.error().message());
     }
-    const QList<int>& rows = session.driver->document().selectedRows();
+    const QList<int>& rows = session.book->selectedRows();
     if (!rows.isEmpty()) {
-        printRecords(*session.driver, session.driver->tableColumns(), rows, console.out);
+        const BookTable table(*session.book);
+        printRecords(*session.book, table, allColumns(table), rows, console.out);
     }
-    print(console, *found);
+    print(console, session.book->foundText());
+}
+
+void runSort(const Arguments& arguments, Console& console) {
+    changeFile(arguments, console, [&](Session& session) -> Expected<void> {
+        const BookTable table(*session.book);
+        for (const std::string& column : arguments.columns) {
+            if (table.columnOf(column) < 0) {
+                wrongUsage(textWith("Main", "No such field", fromArgument(column)));
+            }
+            session.book->sortBy(fromArgument(column));
+        }
+        return {};
+    });
 }
 
 Expected<void> showJson(const QString& path, Console& console) {
@@ -144,10 +166,13 @@ Expected<void> showJson(const QString& path, Console& console) {
     if (!bytes) {
         return tl::unexpected(bytes.error());
     }
-    const auto written = documentKindOf(documentKinds(), path, bytes->bytes()).and_then([&](const DriverKind* kind) {
-        CliDesktop desktop(console);
-        JsonWriter json = jsonOn(console);
-        return kind->make(desktop.desktop())->writeJson(bytes->bytes(), json).map([&] { console.out << '\n'; });
+    const auto written = documentKindOf(documentTypes(), path, bytes->bytes()).and_then([&](const CatalogueType* type) {
+        const RecordLayout& layout = type->book->layout();
+        return readRecords(bytes->bytes(), layout).map([&](const RecordFile& file) {
+            JsonWriter json = jsonOn(console);
+            writeRecordsJson(json, type->name.text(), file, layout);
+            console.out << '\n';
+        });
     });
     return written.map_error([&](const Failure& reason) { return openingFailure(path, reason); });
 }
@@ -157,18 +182,18 @@ Expected<void> showTable(const QString& path, const std::vector<std::string>& fi
     if (auto opened = session.open(path); !opened) {
         return opened;
     }
-    const DocumentDriver& driver = *session.driver;
+    const BookTable table(*session.book);
     std::vector<ListColumn> columns;
     for (const std::string& field : fields) {
-        const auto column = driver.column(fromArgument(field));
-        if (!column) {
+        const ListColumn column = columnOf(table, session.book->layout(), fromArgument(field));
+        if (column.field.isNull()) {
             wrongUsage(textWith("Main", "No such field", fromArgument(field)));
         }
-        columns.push_back(*column);
+        columns.push_back(column);
     }
-    QList<int> rows(session.driver->document().count());
+    QList<int> rows(session.book->count());
     std::iota(rows.begin(), rows.end(), 0);
-    printRecords(driver, columns.empty() ? driver.tableColumns() : columns, rows, console.out);
+    printRecords(*session.book, table, columns.empty() ? allColumns(table) : columns, rows, console.out);
     return {};
 }
 
@@ -205,7 +230,8 @@ void addDocumentCommands(CLI::App& app, Console& console) {
         ->excludes(json);
 
     CLI::App* create = add("new", "Makes an empty document", runNew);
-    create->add_option("TYPE", arguments->type, "The type's name, such as \"Carnet de plongee\"")->required();
+    create->add_option("TYPE", arguments->type, "The type's name, such as \"Carnet de plongee\", or its record class")
+        ->required();
     addFile(create);
 
     CLI::App* append = add("add", "Adds a record through the document's form", runAdd);
@@ -224,6 +250,10 @@ void addDocumentCommands(CLI::App& app, Console& console) {
     CLI::App* renumber = add("renumber", "Numbers all records in their order", runRenumber);
     addFile(renumber);
     renumber->add_option("FIRST", arguments->number, "The first number")->required();
+
+    CLI::App* sort = add("sort", "Sorts as clicks on the headers of these columns do, and saves the order", runSort);
+    addFile(sort);
+    sort->add_option("COLUMN", arguments->columns, "The columns' fields, in the order of the clicks")->required();
 
     CLI::App* find = add("find", "Lists the records whose field holds a text, case aside", runFind);
     addFile(find);

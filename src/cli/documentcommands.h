@@ -2,10 +2,18 @@
 
 #include "cli/commandline.h"
 
+#include <string>
+#include <vector>
+
 namespace tavrel {
 
-/// Adds the commands that work on documents: show, new, add, set, delete, renumber and find. A command changes the file
-/// as a whole or, when it fails, not at all.
+class BookForm;
+
+/// Enters every "field=value" into the form. What the form does not have is wrong usage.
+void enterAll(BookForm& form, const std::vector<std::string>& entries);
+
+/// Adds the commands that work on documents: show, new, add, set, delete, renumber, find and sort. A command changes
+/// the file as a whole or, when it fails, not at all.
 void addDocumentCommands(CLI::App& app, Console& console);
 
 }  // namespace tavrel

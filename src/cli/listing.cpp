@@ -2,6 +2,7 @@
 
 #include "base/numbers.h"
 #include "base/texts.h"
+#include "cli/fieldtext.h"
 
 #include <QStringList>
 
@@ -39,11 +40,13 @@ struct PrintedColumn {
     }
 };
 
-PrintedColumn printedColumn(const DocumentDriver& driver, const ListColumn& column, const QList<int>& rows) {
+PrintedColumn printedColumn(const BookBase& book, const BookTable& table, const ListColumn& column,
+                            const QList<int>& rows) {
     PrintedColumn printed;
     printed.add(onOneLine(column.heading));
     for (const int row : rows) {
-        const QString cell = onOneLine(driver.cell(row, column.field));
+        const QString cell = onOneLine(column.tableColumn >= 0 ? table.cell(row, column.tableColumn).inWords()
+                                                               : fieldText(column.field.value(*book.recordAt(row))));
         printed.numbers = printed.numbers && (cell.isEmpty() || startsWithNumber(cell));
         printed.add(cell);
     }
@@ -61,11 +64,24 @@ PrintedColumn rowNumbers(const QList<int>& rows) {
 
 }  // namespace
 
-void printRecords(const DocumentDriver& driver, const std::vector<ListColumn>& columns, const QList<int>& rows,
-                  std::ostream& out) {
+std::vector<ListColumn> allColumns(const BookTable& table) {
+    std::vector<ListColumn> columns;
+    for (const auto& placed : table.columns()) {
+        columns.push_back({placed.column->title.text(), placed.field, static_cast<int>(columns.size())});
+    }
+    return columns;
+}
+
+ListColumn columnOf(const BookTable& table, const RecordLayout& layout, const QString& field) {
+    const int column = table.columnOf(field.toStdString());
+    return column >= 0 ? allColumns(table)[static_cast<std::size_t>(column)] : ListColumn{field, layout.field(field)};
+}
+
+void printRecords(const BookBase& book, const BookTable& table, const std::vector<ListColumn>& columns,
+                  const QList<int>& rows, std::ostream& out) {
     std::vector<PrintedColumn> printed{rowNumbers(rows)};
     for (const ListColumn& column : columns) {
-        printed.push_back(printedColumn(driver, column, rows));
+        printed.push_back(printedColumn(book, table, column, rows));
     }
     for (qsizetype line = 0; line <= rows.size(); ++line) {
         QStringList cells;

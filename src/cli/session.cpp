@@ -15,16 +15,16 @@ Expected<void> Session::open(const QString& path) {
     if (!bytes) {
         return tl::unexpected(bytes.error());
     }
-    const auto kind = documentKindOf(documentKinds(), path, bytes->bytes());
+    const auto kind = documentKindOf(documentTypes(), path, bytes->bytes());
     if (!kind) {
         return tl::unexpected(openingFailure(path, kind.error()));
     }
-    driver = (*kind)->make(desktop.desktop());
-    return driver->document().open(path);
+    book = (*kind)->make(desktop.desktop());
+    return book->open(path);
 }
 
 Expected<void> Session::checkRow(int row) const {
-    const int count = driver->document().count();
+    const int count = book->count();
     if (row < 0 || row >= count) {
         return failure(textWith("Cli", "No such row", row, count));
     }
@@ -32,9 +32,9 @@ Expected<void> Session::checkRow(int row) const {
 }
 
 Expected<Carnet*> Session::logbook() const {
-    auto* carnet = dynamic_cast<Carnet*>(&driver->document());
+    auto* carnet = dynamic_cast<Carnet*>(book.get());
     if (!carnet) {
-        return failure(textWith("Cli", "Not a logbook", driver->document().displayName()));
+        return failure(textWith("Cli", "Not a logbook", book->displayName()));
     }
     return carnet;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "catalogue/documenttypes.h"
 #include "cli/clidesktop.h"
-#include "cli/documentdriver.h"
 #include "logbook/carnet.h"
 
 #include <memory>
@@ -23,7 +23,7 @@ struct Session {
     Expected<Carnet*> logbook() const;
 
     CliDesktop desktop;
-    std::unique_ptr<DocumentDriver> driver;
+    std::unique_ptr<BookBase> book;
 };
 
 }  // namespace tavrel

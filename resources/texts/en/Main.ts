@@ -120,6 +120,7 @@
 <message><source>One card found</source><translation>1 card found</translation></message>
 <message><source>Open document</source><translation>Open</translation></message>
 <message><source>Page number</source><translation>%d / %d</translation></message>
+<message><source>Page of pages</source><translation>Page %d of %d</translation></message>
 <message><source>Pages</source><translation>Pages of the form</translation></message>
 <message><source>Picture cannot be made</source><translation>The picture could not be made.</translation></message>
 <message><source>Picture too large</source><translation>This is too long for one picture. A PDF file has room for it.</translation></message>

@@ -120,6 +120,7 @@
 <message><source>One card found</source><translation>1 fiche trouvée</translation></message>
 <message><source>Open document</source><translation>Ouvrir</translation></message>
 <message><source>Page number</source><translation>%d / %d</translation></message>
+<message><source>Page of pages</source><translation>Page %d sur %d</translation></message>
 <message><source>Pages</source><translation>Pages du formulaire</translation></message>
 <message><source>Picture cannot be made</source><translation>L’image n’a pas pu être produite.</translation></message>
 <message><source>Picture too large</source><translation>C’est trop long pour une seule image. Un fichier PDF peut le contenir.</translation></message>

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "cli/session.h"
+#include "drawing/pages.h"
+
+#include <string>
+#include <vector>
+
+namespace tavrel {
+
+/// The card of the records at the rows, of all when there are none; a failure where the type has no card.
+Expected<StyledText> cardOf(Session& session, const std::vector<int>& rows);
+
+/// What render can draw: "table", "card", "profile" …
+std::vector<std::string> renderings();
+/// The pages of one of them; a failure when the document, or its record, has no such thing.
+Expected<Pages> pagesFor(Session& session, const std::string& what, const std::vector<int>& rows);
+
+/// Writes pages in the format of the file's ending. A PDF holds them all; of PNG and SVG the second page is written
+/// beside as NAME-2, and so on.
+Expected<void> writePages(const QString& path, const Pages& pages);
+
+}  // namespace tavrel
