@@ -298,14 +298,14 @@ TEST_F(BookEditWindowTest, storesTheFormAndGoesFromRecordToRecord) {
     carnet.newDive();
     EXPECT_TRUE(window.isVisible());
     show();
-    EXPECT_EQ(window.windowTitle(), textWith("Carnet", "Dive number title", QStringLiteral("4")));
+    EXPECT_EQ(window.windowTitle(), textWith("Carnet", "Dive number title", 4));
     EXPECT_EQ(window.focusWidget(), widget(controls.noPlongeeField.index));
     auto* previous = window.findChild<QPushButton*>(QStringLiteral("previousRecord"));
     auto* next = window.findChild<QPushButton*>(QStringLiteral("nextRecord"));
     EXPECT_FALSE(previous->isEnabled() || next->isEnabled());
 
     carnet.selectRows({0});
-    EXPECT_EQ(window.windowTitle(), textWith("Carnet", "Dive number title", QStringLiteral("1")));
+    EXPECT_EQ(window.windowTitle(), textWith("Carnet", "Dive number title", 1));
     EXPECT_TRUE(!previous->isEnabled() && next->isEnabled());
     QTest::keyClicks(find<QLineEdit>(controls.bateauField), QStringLiteral("Alcyon"));
     next->click();
@@ -327,7 +327,7 @@ TEST_F(BookEditWindowTest, storesTheFormAndGoesFromRecordToRecord) {
     auto* number = find<QLineEdit>(controls.noPlongeeField);
     number->selectAll();
     QTest::keyClicks(number, QStringLiteral("77"));
-    EXPECT_EQ(window.windowTitle(), textWith("Carnet", "Dive number title", QStringLiteral("77")));
+    EXPECT_EQ(window.windowTitle(), textWith("Carnet", "Dive number title", 77));
 }
 
 TEST_F(BookEditWindowTest, storesNothingThatNobodyTyped) {
