@@ -9,5 +9,7 @@ namespace tavrel {
 /// space character only) around the text decide whether it is empty, but the entry is the text as typed. Whatever the
 /// answer, the list is then sorted and stored.
 void offerToPickList(Desktop& desktop, PickList list, const QString& typed);
+/// The same with a question that names another text than the entry.
+void offerToPickList(Desktop& desktop, PickList list, const QString& typed, const QString& named);
 
 }  // namespace tavrel

@@ -18,8 +18,10 @@
 <message><source>Buddies</source><translation>Buddies</translation></message>
 <message><source>Cancel</source><translation>Cancel</translation></message>
 <message><source>Cancelled</source><translation>The work was cancelled.</translation></message>
+<message><source>Cards</source><translation>%d cards</translation></message>
 <message><source>Carnet de plongee</source><translation>Dive logbook</translation></message>
 <message><source>Causes of sinking</source><translation>Causes of Sinking</translation></message>
+<message><source>Check</source><translation>✓</translation></message>
 <message><source>Clubs</source><translation>Clubs</translation></message>
 <message><source>Command line description</source><translation>A logbook for divers.</translation></message>
 <message><source>Command line files</source><translation>Documents to open.</translation></message>
@@ -28,6 +30,12 @@
 <message><source>Copy kept</source><translation>The previous contents are kept in “%@”.</translation></message>
 <message><source>Copying</source><translation>Copying the rows…</translation></message>
 <message><source>Cotation 1</source><translation>★</translation></message>
+<message><source>Cotation 0</source><translation>☆</translation></message>
+<message><source>Cotation 1</source><translation>★</translation></message>
+<message><source>Cotation 2</source><translation>★★</translation></message>
+<message><source>Cotation 3</source><translation>★★★</translation></message>
+<message><source>Cotation 4</source><translation>★★★★</translation></message>
+<message><source>Cotation 5</source><translation>★★★★★</translation></message>
 <message><source>Cotation in words</source><translation>%d of %d stars</translation></message>
 <message><source>Countries</source><translation>Countries</translation></message>
 <message><source>Country codes</source><translation>Country Codes</translation></message>
@@ -45,8 +53,10 @@
 <message><source>Document not opened</source><translation>“%@” could not be opened: %@</translation></message>
 <message><source>Document not saved</source><translation>“%@” could not be saved: %@</translation></message>
 <message><source>Don't save</source><translation>Don’t Save</translation></message>
+<message><source>Empty record book</source><translation>There are no cards yet. %@ makes a new one.</translation></message>
 <message><source>Equipment types</source><translation>Equipment Types</translation></message>
 <message><source>Erase</source><translation>Clear</translation></message>
+<message><source>Erase card</source><translation>Delete the selected cards?</translation></message>
 <message><source>Erase dive</source><translation>Delete the selected dives?</translation></message>
 <message><source>Erase selection</source><translation>Delete the selected entries?</translation></message>
 <message><source>Export document</source><translation>Export</translation></message>
@@ -85,19 +95,25 @@
 <message><source>Menu close</source><translation>Close</translation></message>
 <message><source>Menu columns</source><translation>Columns</translation></message>
 <message><source>Menu copy</source><translation>Copy</translation></message>
+<message><source>Menu delete cards</source><translation>Delete Cards…</translation></message>
 <message><source>Menu edit</source><translation>Edit</translation></message>
+<message><source>Menu edit card</source><translation>Edit Card</translation></message>
 <message><source>Menu export</source><translation>Export…</translation></message>
 <message><source>Menu file</source><translation>File</translation></message>
 <message><source>Menu find</source><translation>Find</translation></message>
 <message><source>Menu help</source><translation>Help</translation></message>
 <message><source>Menu import</source><translation>Import</translation></message>
+<message><source>Menu insert card</source><translation>Insert Before Selected Card</translation></message>
 <message><source>Menu lists</source><translation>Lists</translation></message>
 <message><source>Menu minimise</source><translation>Minimise</translation></message>
 <message><source>Menu new</source><translation>New</translation></message>
+<message><source>Menu new card</source><translation>New Card</translation></message>
+<message><source>Menu next card</source><translation>Next Card</translation></message>
 <message><source>Menu open</source><translation>Open…</translation></message>
 <message><source>Menu open recent</source><translation>Open Recent</translation></message>
 <message><source>Menu page setup</source><translation>Page Set&amp;up…</translation></message>
 <message><source>Menu preferences</source><translation>Preferences…</translation></message>
+<message><source>Menu previous card</source><translation>Previous Card</translation></message>
 <message><source>Menu print</source><translation>&amp;Print…</translation></message>
 <message><source>Menu quit</source><translation>Quit</translation></message>
 <message><source>Menu renumber</source><translation>Renumber Dives…</translation></message>
@@ -118,6 +134,8 @@
 <message><source>No valid datas</source><translation>The values are not valid.</translation></message>
 <message><source>Not a picture format</source><translation>“%@” does not end in .png, .svg or .pdf.</translation></message>
 <message><source>One card found</source><translation>1 card found</translation></message>
+<message><source>One card</source><translation>One card</translation></message>
+<message><source>One card found</source><translation>One card found</translation></message>
 <message><source>Open document</source><translation>Open</translation></message>
 <message><source>Page number</source><translation>%d / %d</translation></message>
 <message><source>Page of pages</source><translation>Page %d of %d</translation></message>
@@ -149,9 +167,16 @@
 <message><source>Store card question</source><translation>The card in the form was changed and is not stored yet.</translation></message>
 <message><source>Synthesis card</source><translation>Summary card</translation></message>
 <message><source>Tip add second</source><translation>Add the entries as a second record, at the end of the list</translation></message>
+<message><source>Tip add</source><translation>Add a card at the end of the list</translation></message>
 <message><source>Tip customise</source><translation>Choose what this toolbar holds</translation></message>
+<message><source>Tip delete</source><translation>Delete the selected cards</translation></message>
 <message><source>Tip erase</source><translation>Clear all fields</translation></message>
 <message><source>Tip opens</source><translation>Ctrl+click opens it</translation></message>
+<message><source>Tip insert</source><translation>Insert the card before the selected one</translation></message>
+<message><source>Tip print</source><translation>Print the list</translation></message>
+<message><source>Tip save</source><translation>Save the document</translation></message>
+<message><source>Tip synthesis card</source><translation>Show the summary of all cards</translation></message>
+<message><source>Tip update</source><translation>Store the fields into the selected card</translation></message>
 <message><source>Toolbar available</source><translation>Available</translation></message>
 <message><source>Toolbar icons</source><translation>Icons</translation></message>
 <message><source>Toolbar icons and words</source><translation>Words under icons</translation></message>
@@ -167,9 +192,14 @@
 <message><source>Undo insert card</source><translation>Insert Card</translation></message>
 <message><source>Undo step</source><translation>Undo %@</translation></message>
 <message><source>Undo update card</source><translation>Change Card</translation></message>
+<message><source>Undo import cards</source><translation>Import</translation></message>
+<message><source>Undo insert card</source><translation>Insert Card</translation></message>
+<message><source>Undo step</source><translation>Undo %@</translation></message>
+<message><source>Undo update card</source><translation>Edit Card</translation></message>
 <message><source>Unknown document type</source><translation>Tavrel knows no document type "%@".</translation></message>
 <message><source>Unknown kind of document</source><translation>It is a kind of document that Tavrel does not know.</translation></message>
 <message><source>Untitled</source><translation>Untitled</translation></message>
+<message><source>Update</source><translation>Update</translation></message>
 <message><source>Wreck types</source><translation>Wreck Types</translation></message>
 <message><source>Wrecks</source><translation>Wrecks</translation></message>
 <message><source>XML file beyond limits</source><translation>The XML file nests or grows beyond all reason and was not read.</translation></message>

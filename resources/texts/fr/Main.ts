@@ -18,8 +18,10 @@
 <message><source>Buddies</source><translation>Palanquées</translation></message>
 <message><source>Cancel</source><translation>Annuler</translation></message>
 <message><source>Cancelled</source><translation>Le travail a été annulé.</translation></message>
+<message><source>Cards</source><translation>%d fiches</translation></message>
 <message><source>Carnet de plongee</source><translation>Carnet de plongée</translation></message>
 <message><source>Causes of sinking</source><translation>Causes de naufrage</translation></message>
+<message><source>Check</source><translation>✓</translation></message>
 <message><source>Clubs</source><translation>Clubs</translation></message>
 <message><source>Command line description</source><translation>Un carnet de plongée.</translation></message>
 <message><source>Command line files</source><translation>Documents à ouvrir.</translation></message>
@@ -28,6 +30,12 @@
 <message><source>Copy kept</source><translation>Le contenu précédent est conservé dans « %@ ».</translation></message>
 <message><source>Copying</source><translation>Copie des lignes…</translation></message>
 <message><source>Cotation 1</source><translation>★</translation></message>
+<message><source>Cotation 0</source><translation>☆</translation></message>
+<message><source>Cotation 1</source><translation>★</translation></message>
+<message><source>Cotation 2</source><translation>★★</translation></message>
+<message><source>Cotation 3</source><translation>★★★</translation></message>
+<message><source>Cotation 4</source><translation>★★★★</translation></message>
+<message><source>Cotation 5</source><translation>★★★★★</translation></message>
 <message><source>Cotation in words</source><translation>%d étoiles sur %d</translation></message>
 <message><source>Countries</source><translation>Pays</translation></message>
 <message><source>Country codes</source><translation>Codes des pays</translation></message>
@@ -45,8 +53,10 @@
 <message><source>Document not opened</source><translation>Impossible d’ouvrir « %@ » : %@</translation></message>
 <message><source>Document not saved</source><translation>Impossible d’enregistrer « %@ » : %@</translation></message>
 <message><source>Don't save</source><translation>Ne pas enregistrer</translation></message>
+<message><source>Empty record book</source><translation>Il n’y a pas encore de fiche. %@ en crée une.</translation></message>
 <message><source>Equipment types</source><translation>Types de matériel</translation></message>
 <message><source>Erase</source><translation>Effacer</translation></message>
+<message><source>Erase card</source><translation>Supprimer les fiches sélectionnées ?</translation></message>
 <message><source>Erase dive</source><translation>Supprimer les plongées sélectionnées ?</translation></message>
 <message><source>Erase selection</source><translation>Supprimer les éléments sélectionnés ?</translation></message>
 <message><source>Export document</source><translation>Exporter</translation></message>
@@ -67,6 +77,8 @@
 <message><source>Folder missing</source><translation>Le dossier n’existe pas.</translation></message>
 <message><source>Form of card</source><translation>Fiche %d sur %d – enregistrée quand vous fermez la fenêtre ou changez de fiche</translation></message>
 <message><source>Form of new card</source><translation>Nouvelle fiche – « Ajouter » la place à la fin de la liste</translation></message>
+<message><source>Form of card</source><translation>Fiche %d sur %d – enregistrée quand vous fermez la fenêtre ou passez à une autre fiche</translation></message>
+<message><source>Form of new card</source><translation>Nouvelle fiche – « Ajouter » la met à la fin de la liste</translation></message>
 <message><source>Found cards</source><translation>%d fiches trouvées</translation></message>
 <message><source>General</source><translation>Général</translation></message>
 <message><source>Hint read as</source><translation>lu comme %@</translation></message>
@@ -85,19 +97,25 @@
 <message><source>Menu close</source><translation>Fermer</translation></message>
 <message><source>Menu columns</source><translation>Colonnes</translation></message>
 <message><source>Menu copy</source><translation>Copier</translation></message>
+<message><source>Menu delete cards</source><translation>Supprimer les fiches…</translation></message>
 <message><source>Menu edit</source><translation>Édition</translation></message>
+<message><source>Menu edit card</source><translation>Modifier la fiche</translation></message>
 <message><source>Menu export</source><translation>Exporter…</translation></message>
 <message><source>Menu file</source><translation>Fichier</translation></message>
 <message><source>Menu find</source><translation>Rechercher</translation></message>
 <message><source>Menu help</source><translation>Aide</translation></message>
 <message><source>Menu import</source><translation>Importer</translation></message>
+<message><source>Menu insert card</source><translation>Insérer avant la fiche sélectionnée</translation></message>
 <message><source>Menu lists</source><translation>Listes</translation></message>
 <message><source>Menu minimise</source><translation>Réduire</translation></message>
 <message><source>Menu new</source><translation>Nouveau</translation></message>
+<message><source>Menu new card</source><translation>Nouvelle fiche</translation></message>
+<message><source>Menu next card</source><translation>Fiche suivante</translation></message>
 <message><source>Menu open</source><translation>Ouvrir…</translation></message>
 <message><source>Menu open recent</source><translation>Ouvrir récent</translation></message>
 <message><source>Menu page setup</source><translation>Mise en page…</translation></message>
 <message><source>Menu preferences</source><translation>Préférences…</translation></message>
+<message><source>Menu previous card</source><translation>Fiche précédente</translation></message>
 <message><source>Menu print</source><translation>&amp;Imprimer…</translation></message>
 <message><source>Menu quit</source><translation>Quitter</translation></message>
 <message><source>Menu renumber</source><translation>Renuméroter les plongées…</translation></message>
@@ -118,6 +136,8 @@
 <message><source>No valid datas</source><translation>Les valeurs ne sont pas valables.</translation></message>
 <message><source>Not a picture format</source><translation>« %@ » ne se termine pas par .png, .svg ou .pdf.</translation></message>
 <message><source>One card found</source><translation>1 fiche trouvée</translation></message>
+<message><source>One card</source><translation>Une fiche</translation></message>
+<message><source>One card found</source><translation>Une fiche trouvée</translation></message>
 <message><source>Open document</source><translation>Ouvrir</translation></message>
 <message><source>Page number</source><translation>%d / %d</translation></message>
 <message><source>Page of pages</source><translation>Page %d sur %d</translation></message>
@@ -149,9 +169,16 @@
 <message><source>Store card question</source><translation>La fiche du formulaire a été modifiée et n’est pas encore enregistrée.</translation></message>
 <message><source>Synthesis card</source><translation>Fiche de synthèse</translation></message>
 <message><source>Tip add second</source><translation>Ajouter les valeurs comme second enregistrement, à la fin de la liste</translation></message>
+<message><source>Tip add</source><translation>Ajouter une fiche à la fin de la liste</translation></message>
 <message><source>Tip customise</source><translation>Choisir le contenu de cette barre d’outils</translation></message>
+<message><source>Tip delete</source><translation>Supprimer les fiches sélectionnées</translation></message>
 <message><source>Tip erase</source><translation>Effacer tous les champs</translation></message>
 <message><source>Tip opens</source><translation>Ctrl+clic pour l’ouvrir</translation></message>
+<message><source>Tip insert</source><translation>Insérer la fiche avant celle qui est sélectionnée</translation></message>
+<message><source>Tip print</source><translation>Imprimer la liste</translation></message>
+<message><source>Tip save</source><translation>Enregistrer le document</translation></message>
+<message><source>Tip synthesis card</source><translation>Afficher la synthèse de toutes les fiches</translation></message>
+<message><source>Tip update</source><translation>Enregistrer les champs dans la fiche sélectionnée</translation></message>
 <message><source>Toolbar available</source><translation>Disponibles</translation></message>
 <message><source>Toolbar icons</source><translation>Icônes</translation></message>
 <message><source>Toolbar icons and words</source><translation>Texte sous les icônes</translation></message>
@@ -164,12 +191,14 @@
 <message><source>Undo add card</source><translation>Ajouter la fiche</translation></message>
 <message><source>Undo delete card</source><translation>Supprimer les fiches</translation></message>
 <message><source>Undo import cards</source><translation>Importer les fiches</translation></message>
+<message><source>Undo import cards</source><translation>Importation</translation></message>
 <message><source>Undo insert card</source><translation>Insérer la fiche</translation></message>
 <message><source>Undo step</source><translation>Annuler : %@</translation></message>
 <message><source>Undo update card</source><translation>Modifier la fiche</translation></message>
 <message><source>Unknown document type</source><translation>Tavrel ne connaît pas de type de document « %@ ».</translation></message>
 <message><source>Unknown kind of document</source><translation>Tavrel ne connaît pas ce genre de document.</translation></message>
 <message><source>Untitled</source><translation>Sans titre</translation></message>
+<message><source>Update</source><translation>Valider</translation></message>
 <message><source>Wreck types</source><translation>Types d’épaves</translation></message>
 <message><source>Wrecks</source><translation>Épaves</translation></message>
 <message><source>XML file beyond limits</source><translation>Le fichier XML s’imbrique ou s’étend au-delà de toute mesure et n’a pas été lu.</translation></message>

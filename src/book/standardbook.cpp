@@ -1,0 +1,46 @@
+#include "book/standardbook.h"
+
+#include "forms/picklistentry.h"
+
+#include <algorithm>
+
+namespace tavrel {
+
+QString choiceText(std::span<const Choice> choices, qint32 tag, const QString& fallback) {
+    const auto found =
+        std::find_if(choices.begin(), choices.end(), [tag](const Choice& choice) { return choice.tag == tag; });
+    return found == choices.end() ? fallback : found->title.text(fallback);
+}
+
+void cotationCell(qint32 rating, Cell& cell) {
+    cell.text = choiceText(cotations, rating, QString::number(rating));
+    cell.words = textWith("Main", "Cotation in words", rating, highestCotation);
+}
+
+void checkCell(bool isSet, Cell& cell) {
+    cell.text = isSet ? text("Main", "Check", QStringLiteral("N/A")) : QString();
+}
+
+void offerFromForm(BookForm& form, int control, const QString& typed) {
+    const auto& controls = form.state().table().controls();
+    const auto& list = controls[static_cast<std::size_t>(control)].control.pickList;
+    if (!list) {
+        return;
+    }
+    const auto first = std::find_if(controls.begin(), controls.end(), [](const PlacedControl& placed) {
+        return placed.control.kind == ControlKind::combo && placed.control.pickList;
+    });
+    const QString& named = form.state().at(static_cast<int>(first - controls.begin())).text;
+    // Spaces alone are trimmed, not every kind of blank.
+    qsizetype begin = 0;
+    qsizetype end = typed.size();
+    while (begin < end && typed[begin] == u' ') {
+        ++begin;
+    }
+    while (end > begin && typed[end - 1] == u' ') {
+        --end;
+    }
+    offerToPickList(form.desktop(), *list, typed.mid(begin, end - begin), named);
+}
+
+}  // namespace tavrel
