@@ -31,6 +31,8 @@ public:
     void entry(const Title& label, int value);
     /// "dd/MM/yyyy"; nothing for no date.
     void entry(const Title& label, const Date& value);
+    /// A label that stands alone.
+    void heading(const Title& label) { add(label.text(), plaincolour::black); }
     /// A text of one colour as it is.
     void add(const QString& text, const QColor& colour);
     /// Closes with the file's name and the moment of the edition.

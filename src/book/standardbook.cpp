@@ -6,10 +6,10 @@
 
 namespace tavrel {
 
-QString choiceText(std::span<const Choice> choices, qint32 tag, const QString& fallback) {
+QString choiceText(std::span<const Choice> choices, qint32 tag, const QString& unknown, const QString& missing) {
     const auto found =
         std::find_if(choices.begin(), choices.end(), [tag](const Choice& choice) { return choice.tag == tag; });
-    return found == choices.end() ? fallback : found->title.text(fallback);
+    return found == choices.end() ? unknown : found->title.text(missing);
 }
 
 void cotationCell(qint32 rating, Cell& cell) {
@@ -19,6 +19,10 @@ void cotationCell(qint32 rating, Cell& cell) {
 
 void checkCell(bool isSet, Cell& cell) {
     cell.text = isSet ? text("Main", "Check", QStringLiteral("N/A")) : QString();
+}
+
+QString hoursAndMinutes(const Date& time) {
+    return isNoDate(time) ? QString() : time.toDateTime().time().toString(u"HH:mm");
 }
 
 void offerFromForm(BookForm& form, int control, const QString& typed) {
@@ -41,6 +45,15 @@ void offerFromForm(BookForm& form, int control, const QString& typed) {
         --end;
     }
     offerToPickList(form.desktop(), *list, typed.mid(begin, end - begin), named);
+}
+
+QString titleByDay(const BookBase& book) {
+    const auto& form = book.form().state();
+    const Date& day = form.at(form.table().find(book.description().numberField)).date;
+    const TableStyle style(book.desktop().clock);
+    const QString shown =
+        isNoDate(day) ? QStringLiteral("…") : style.locale.toString(day.toDateTime().date(), style.dateFormat);
+    return textWith(book.description().words.windowTitle, shown);
 }
 
 }  // namespace tavrel

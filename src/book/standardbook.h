@@ -81,14 +81,19 @@ inline constexpr Choice cotations[] = {
 };
 inline constexpr int highestCotation = 5;
 
-/// The title of a choice, or the fallback when there is no such tag.
-QString choiceText(std::span<const Choice> choices, qint32 tag, const QString& fallback = missingText());
+/// The title of a choice; when there is no such tag, what stands for an unknown one. A title that has no text is shown
+/// as the one for missing texts.
+QString choiceText(std::span<const Choice> choices, qint32 tag, const QString& unknown,
+                   const QString& missing = missingText());
 
 /// A cell of a rating: its stars, and in words how many of how many. Another number shows as it is.
 void cotationCell(qint32 rating, Cell& cell);
 
 /// A cell of a field that is 0 or 1: the word for a tick, or nothing.
 void checkCell(bool isSet, Cell& cell);
+
+/// A duration that is held as a time of day, as "07:30"; nothing for no date.
+QString hoursAndMinutes(const Date& time);
 
 /// At the end of editing a combo box of a record book: what was typed, without the spaces around it, is offered to the
 /// control's shared list. The question names what the form's first combo with such a list holds, whichever was edited.
@@ -114,6 +119,23 @@ std::unique_ptr<BookForm> makeRecordBookForm(Desktop& desktop) {
 template <class Class, const BookDescription& (*description)()>
 std::unique_ptr<BookBase> makeRecordBook(Desktop& desktop) {
     return std::make_unique<Book<Class>>(desktop, description());
+}
+
+/// The edit window's title in a book whose records are known by their day, which is in the description's numberField.
+QString titleByDay(const BookBase& book);
+
+/// Such a book.
+template <class Class>
+class BookByDay : public Book<Class> {
+public:
+    using Book<Class>::Book;
+
+protected:
+    QString formTitle() const override { return titleByDay(*this); }
+};
+template <class Class, const BookDescription& (*description)()>
+std::unique_ptr<BookBase> makeBookByDay(Desktop& desktop) {
+    return std::make_unique<BookByDay<Class>>(desktop, description());
 }
 
 }  // namespace tavrel

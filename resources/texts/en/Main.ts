@@ -84,6 +84,7 @@
 <message><source>Hint usual minimum</source><translation>usually at least %@</translation></message>
 <message><source>Hint usual range</source><translation>usually %@ to %@</translation></message>
 <message><source>Insert</source><translation>Insert</translation></message>
+<message><source>Interventions</source><translation>%d interventions</translation></message>
 <message><source>Loading</source><translation>Loading…</translation></message>
 <message><source>Logbook</source><translation>Logbook</translation></message>
 <message><source>Materiel</source><translation>Equipment</translation></message>
@@ -135,7 +136,9 @@
 <message><source>Not a picture format</source><translation>“%@” does not end in .png, .svg or .pdf.</translation></message>
 <message><source>One card found</source><translation>1 card found</translation></message>
 <message><source>One card</source><translation>One card</translation></message>
-<message><source>One card found</source><translation>One card found</translation></message>
+<message><source>One card found</source><translation>1 card found</translation></message>
+<message><source>One intervention</source><translation>One intervention</translation></message>
+<message><source>One revision</source><translation>One service</translation></message>
 <message><source>Open document</source><translation>Open</translation></message>
 <message><source>Page number</source><translation>%d / %d</translation></message>
 <message><source>Page of pages</source><translation>Page %d of %d</translation></message>
@@ -155,6 +158,7 @@
 <message><source>Remove from toolbar</source><translation>Remove from the toolbar</translation></message>
 <message><source>Revert</source><translation>Revert</translation></message>
 <message><source>Revert question</source><translation>Revert “%@” to the saved version? Your changes will be lost.</translation></message>
+<message><source>Revisions</source><translation>%d services</translation></message>
 <message><source>Save</source><translation>Save</translation></message>
 <message><source>Save changes</source><translation>Save the changes made to “%@”?</translation></message>
 <message><source>Save document as</source><translation>Save as</translation></message>
@@ -192,10 +196,6 @@
 <message><source>Undo insert card</source><translation>Insert Card</translation></message>
 <message><source>Undo step</source><translation>Undo %@</translation></message>
 <message><source>Undo update card</source><translation>Change Card</translation></message>
-<message><source>Undo import cards</source><translation>Import</translation></message>
-<message><source>Undo insert card</source><translation>Insert Card</translation></message>
-<message><source>Undo step</source><translation>Undo %@</translation></message>
-<message><source>Undo update card</source><translation>Edit Card</translation></message>
 <message><source>Unknown document type</source><translation>Tavrel knows no document type "%@".</translation></message>
 <message><source>Unknown kind of document</source><translation>It is a kind of document that Tavrel does not know.</translation></message>
 <message><source>Untitled</source><translation>Untitled</translation></message>

@@ -77,8 +77,6 @@
 <message><source>Folder missing</source><translation>Le dossier n’existe pas.</translation></message>
 <message><source>Form of card</source><translation>Fiche %d sur %d – enregistrée quand vous fermez la fenêtre ou changez de fiche</translation></message>
 <message><source>Form of new card</source><translation>Nouvelle fiche – « Ajouter » la place à la fin de la liste</translation></message>
-<message><source>Form of card</source><translation>Fiche %d sur %d – enregistrée quand vous fermez la fenêtre ou passez à une autre fiche</translation></message>
-<message><source>Form of new card</source><translation>Nouvelle fiche – « Ajouter » la met à la fin de la liste</translation></message>
 <message><source>Found cards</source><translation>%d fiches trouvées</translation></message>
 <message><source>General</source><translation>Général</translation></message>
 <message><source>Hint read as</source><translation>lu comme %@</translation></message>
@@ -86,6 +84,7 @@
 <message><source>Hint usual minimum</source><translation>d’ordinaire %@ au moins</translation></message>
 <message><source>Hint usual range</source><translation>d’ordinaire de %@ à %@</translation></message>
 <message><source>Insert</source><translation>Insérer</translation></message>
+<message><source>Interventions</source><translation>%d interventions</translation></message>
 <message><source>Loading</source><translation>Chargement…</translation></message>
 <message><source>Logbook</source><translation>Carnet</translation></message>
 <message><source>Materiel</source><translation>Matériel</translation></message>
@@ -137,7 +136,9 @@
 <message><source>Not a picture format</source><translation>« %@ » ne se termine pas par .png, .svg ou .pdf.</translation></message>
 <message><source>One card found</source><translation>1 fiche trouvée</translation></message>
 <message><source>One card</source><translation>Une fiche</translation></message>
-<message><source>One card found</source><translation>Une fiche trouvée</translation></message>
+<message><source>One card found</source><translation>1 fiche trouvée</translation></message>
+<message><source>One intervention</source><translation>Une intervention</translation></message>
+<message><source>One revision</source><translation>Une révision</translation></message>
 <message><source>Open document</source><translation>Ouvrir</translation></message>
 <message><source>Page number</source><translation>%d / %d</translation></message>
 <message><source>Page of pages</source><translation>Page %d sur %d</translation></message>
@@ -157,6 +158,7 @@
 <message><source>Remove from toolbar</source><translation>Retirer de la barre d’outils</translation></message>
 <message><source>Revert</source><translation>Revenir</translation></message>
 <message><source>Revert question</source><translation>Revenir à la version enregistrée de « %@ » ? Les modifications seront perdues.</translation></message>
+<message><source>Revisions</source><translation>%d révisions</translation></message>
 <message><source>Save</source><translation>Enregistrer</translation></message>
 <message><source>Save changes</source><translation>Enregistrer les modifications de « %@ » ?</translation></message>
 <message><source>Save document as</source><translation>Enregistrer sous</translation></message>
@@ -191,7 +193,6 @@
 <message><source>Undo add card</source><translation>Ajouter la fiche</translation></message>
 <message><source>Undo delete card</source><translation>Supprimer les fiches</translation></message>
 <message><source>Undo import cards</source><translation>Importer les fiches</translation></message>
-<message><source>Undo import cards</source><translation>Importation</translation></message>
 <message><source>Undo insert card</source><translation>Insérer la fiche</translation></message>
 <message><source>Undo step</source><translation>Annuler : %@</translation></message>
 <message><source>Undo update card</source><translation>Modifier la fiche</translation></message>
