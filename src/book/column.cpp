@@ -4,14 +4,13 @@
 #include "book/bookdescription.h"
 #include "desktop/clock.h"
 #include "desktop/desktop.h"
+#include "records/nodate.h"
 
 #include <type_traits>
 
 namespace tavrel {
 
 namespace {
-
-const QDate noDay(1900, 1, 1);
 
 /// The locale's short format, years with all digits.
 QString fullYearFormat(const QLocale& locale) {
@@ -37,8 +36,7 @@ QString plainText(const Record& record, const Field& field, const TableStyle& st
         if constexpr (std::is_same_v<Value, QString>) {
             return value;
         } else if constexpr (std::is_same_v<Value, Date>) {
-            const QDateTime moment = value.toDateTime();
-            return moment == noDay.startOfDay() ? QString() : style.locale.toString(moment.date(), style.dateFormat);
+            return isNoDate(value) ? QString() : style.locale.toString(value.toDateTime().date(), style.dateFormat);
         } else if constexpr (std::is_same_v<Value, qint32>) {
             return QString::number(value);
         } else if constexpr (std::is_same_v<Value, float>) {

@@ -3,10 +3,10 @@
 #include "book/book.h"
 #include "book/bookdescription.h"
 #include "book/bookform.h"
-#include "book/nodate.h"
 #include "desktop/clock.h"
 #include "forms/control.h"
 #include "records/field.h"
+#include "records/nodate.h"
 
 #include <array>
 

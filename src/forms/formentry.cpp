@@ -73,7 +73,8 @@ std::optional<Date> timeOf(const Date& held, const QString& value) {
 }  // namespace
 
 bool takesEntries(ControlKind kind) {
-    return kind != ControlKind::readOnly && kind != ControlKind::gauge && kind != ControlKind::button;
+    return kind != ControlKind::readOnly && kind != ControlKind::gauge && kind != ControlKind::progress &&
+           kind != ControlKind::button;
 }
 
 Expected<void> enterValue(FormStateBase& form, int index, const QString& value) {
@@ -93,6 +94,7 @@ Expected<void> enterValue(FormStateBase& form, int index, const QString& value) 
         case ControlKind::onOff:
             return entered(switchTag(value), &FormStateBase::choose);
         case ControlKind::slider:
+        case ControlKind::rating:
             return entered(sliderTag(placed.control, value), &FormStateBase::choose);
         case ControlKind::date:
             return entered(dateOf(value), &FormStateBase::pick);

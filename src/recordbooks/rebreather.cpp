@@ -3,6 +3,7 @@
 #include "base/numbers.h"
 #include "book/card.h"
 #include "book/standardbook.h"
+#include "desktop/commonsettings.h"
 #include "desktop/preferences.h"
 #include "recordbooks/recordbooks.h"
 
@@ -174,7 +175,7 @@ protected:
             state().setEnabled(end, false);
         }
         if (stored_) {
-            const auto life = static_cast<qint32>(desktop().preferences.integer(QStringLiteral("cell life")));
+            const qint32 life = desktop().preferences.get(settings::cellLife);
             for (std::size_t cell = 0; cell < cellCount; ++cell) {
                 updateCellsLifeWithDefault(life, cell);
             }
@@ -270,7 +271,7 @@ void addHistory(CardBuilder& card, const Rebreather& intervention) {
     card.entry({"Rebreather", "Date"}, intervention.date);
     card.heading({"Rebreather", "Rebreather history"});
     card.entry({"Rebreather", "Rebreather time"}, intervention.rebreatherTime);
-    card.entry({"Rebreather", "Soda time"},
+    card.entry({"Rebreather", "Card soda time"},
                intervention.sofnoTime.toDateTime().time().toString(u"HH:mm") + QStringLiteral(" h"));
     const auto addWhenDone = [&card](qint32 done, const Title& label) {
         if (done != 0) {

@@ -2,6 +2,8 @@
 
 #include "book/bookdescription.h"
 
+#include <array>
+
 namespace tavrel {
 
 // The nine record books, each described in the file of its record class.
@@ -15,5 +17,8 @@ const BookDescription& previBudget();
 const BookDescription& adressesEts();
 const BookDescription& adressesStruct();
 const BookDescription& diversDocuments();
+
+/// All of them.
+inline constexpr std::array recordBooks{&invMateriel, &repEpaves, &maintComp, &rebreatherServ, &invConso};
 
 }  // namespace tavrel

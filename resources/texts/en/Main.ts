@@ -29,7 +29,6 @@
 <message><source>Command line version</source><translation>Show the version.</translation></message>
 <message><source>Copy kept</source><translation>The previous contents are kept in “%@”.</translation></message>
 <message><source>Copying</source><translation>Copying the rows…</translation></message>
-<message><source>Cotation 1</source><translation>★</translation></message>
 <message><source>Cotation 0</source><translation>☆</translation></message>
 <message><source>Cotation 1</source><translation>★</translation></message>
 <message><source>Cotation 2</source><translation>★★</translation></message>
@@ -134,7 +133,6 @@
 <message><source>No such value</source><translation>“%@” cannot be “%@”.</translation></message>
 <message><source>No valid datas</source><translation>The values are not valid.</translation></message>
 <message><source>Not a picture format</source><translation>“%@” does not end in .png, .svg or .pdf.</translation></message>
-<message><source>One card found</source><translation>1 card found</translation></message>
 <message><source>One card</source><translation>One card</translation></message>
 <message><source>One card found</source><translation>1 card found</translation></message>
 <message><source>One intervention</source><translation>One intervention</translation></message>
@@ -170,13 +168,13 @@
 <message><source>Store</source><translation>Store</translation></message>
 <message><source>Store card question</source><translation>The card in the form was changed and is not stored yet.</translation></message>
 <message><source>Synthesis card</source><translation>Summary card</translation></message>
-<message><source>Tip add second</source><translation>Add the entries as a second record, at the end of the list</translation></message>
 <message><source>Tip add</source><translation>Add a card at the end of the list</translation></message>
+<message><source>Tip add second</source><translation>Add the entries as a second record, at the end of the list</translation></message>
 <message><source>Tip customise</source><translation>Choose what this toolbar holds</translation></message>
 <message><source>Tip delete</source><translation>Delete the selected cards</translation></message>
 <message><source>Tip erase</source><translation>Clear all fields</translation></message>
-<message><source>Tip opens</source><translation>Ctrl+click opens it</translation></message>
 <message><source>Tip insert</source><translation>Insert the card before the selected one</translation></message>
+<message><source>Tip opens</source><translation>Ctrl+click opens it</translation></message>
 <message><source>Tip print</source><translation>Print the list</translation></message>
 <message><source>Tip save</source><translation>Save the document</translation></message>
 <message><source>Tip synthesis card</source><translation>Show the summary of all cards</translation></message>

@@ -12,6 +12,7 @@
 <message><source>Breathed fraction legend</source><extracomment>oxygen of air, percent</extracomment><translation>Red: below %@ %%,
 the oxygen of air</translation></message>
 <message><source>Carbon dioxide production</source><translation>CO₂ &amp;production (M)</translation></message>
+<message><source>Card soda time</source><translation>&#13;Absorbent time: </translation></message>
 <message><source>Cell 1</source><translation>&#13;Cell 1: </translation></message>
 <message><source>Cell 2</source><translation>&#13;Cell 2: </translation></message>
 <message><source>Cell 3</source><translation>&#13;Cell 3: </translation></message>

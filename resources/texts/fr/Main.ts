@@ -29,7 +29,6 @@
 <message><source>Command line version</source><translation>Afficher la version.</translation></message>
 <message><source>Copy kept</source><translation>Le contenu précédent est conservé dans « %@ ».</translation></message>
 <message><source>Copying</source><translation>Copie des lignes…</translation></message>
-<message><source>Cotation 1</source><translation>★</translation></message>
 <message><source>Cotation 0</source><translation>☆</translation></message>
 <message><source>Cotation 1</source><translation>★</translation></message>
 <message><source>Cotation 2</source><translation>★★</translation></message>
@@ -134,7 +133,6 @@
 <message><source>No such value</source><translation>« %@ » ne peut pas valoir « %@ ».</translation></message>
 <message><source>No valid datas</source><translation>Les valeurs ne sont pas valables.</translation></message>
 <message><source>Not a picture format</source><translation>« %@ » ne se termine pas par .png, .svg ou .pdf.</translation></message>
-<message><source>One card found</source><translation>1 fiche trouvée</translation></message>
 <message><source>One card</source><translation>Une fiche</translation></message>
 <message><source>One card found</source><translation>1 fiche trouvée</translation></message>
 <message><source>One intervention</source><translation>Une intervention</translation></message>
@@ -170,13 +168,13 @@
 <message><source>Store</source><translation>Enregistrer</translation></message>
 <message><source>Store card question</source><translation>La fiche du formulaire a été modifiée et n’est pas encore enregistrée.</translation></message>
 <message><source>Synthesis card</source><translation>Fiche de synthèse</translation></message>
-<message><source>Tip add second</source><translation>Ajouter les valeurs comme second enregistrement, à la fin de la liste</translation></message>
 <message><source>Tip add</source><translation>Ajouter une fiche à la fin de la liste</translation></message>
+<message><source>Tip add second</source><translation>Ajouter les valeurs comme second enregistrement, à la fin de la liste</translation></message>
 <message><source>Tip customise</source><translation>Choisir le contenu de cette barre d’outils</translation></message>
 <message><source>Tip delete</source><translation>Supprimer les fiches sélectionnées</translation></message>
 <message><source>Tip erase</source><translation>Effacer tous les champs</translation></message>
-<message><source>Tip opens</source><translation>Ctrl+clic pour l’ouvrir</translation></message>
 <message><source>Tip insert</source><translation>Insérer la fiche avant celle qui est sélectionnée</translation></message>
+<message><source>Tip opens</source><translation>Ctrl+clic pour l’ouvrir</translation></message>
 <message><source>Tip print</source><translation>Imprimer la liste</translation></message>
 <message><source>Tip save</source><translation>Enregistrer le document</translation></message>
 <message><source>Tip synthesis card</source><translation>Afficher la synthèse de toutes les fiches</translation></message>

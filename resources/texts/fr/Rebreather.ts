@@ -12,6 +12,7 @@
 <message><source>Breathed fraction legend</source><extracomment>oxygen of air, percent</extracomment><translation>Rouge : moins de %@ %%,
 l’oxygène de l’air</translation></message>
 <message><source>Carbon dioxide production</source><translation>&amp;Production de CO₂ (M)</translation></message>
+<message><source>Card soda time</source><translation>&#13;Durée de la chaux : </translation></message>
 <message><source>Cell 1</source><translation>&#13;Cellule 1 : </translation></message>
 <message><source>Cell 2</source><translation>&#13;Cellule 2 : </translation></message>
 <message><source>Cell 3</source><translation>&#13;Cellule 3 : </translation></message>

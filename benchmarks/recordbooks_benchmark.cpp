@@ -1,0 +1,133 @@
+#include "archive/recordarchive.h"
+#include "benchmarks/ratio.h"
+#include "recordbooks/materiel.h"
+#include "recordbooks/recordbooks.h"
+#include "support/testdesktop.h"
+
+#include <QGuiApplication>
+#include <benchmark/benchmark.h>
+#include <zlib.h>
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <random>
+#include <vector>
+
+// A record book of 100,000 items. Opening it from its bytes is held against zlib's crc32 over them, sorting it through
+// the document against std::stable_sort of pointers to the same records by the same key, finding against a plain loop
+// over the same texts.
+
+namespace tavrel {
+namespace {
+
+constexpr int itemCount = 100000;
+
+using Items = std::vector<std::shared_ptr<const Materiel>>;
+
+const Items& benchmarkItems() {
+    static const Items items = [] {
+        std::mt19937 random(1);
+        const auto chance = [&random](int low, int high) {
+            return std::uniform_int_distribution<int>(low, high)(random);
+        };
+        Items all;
+        for (int number = 1; number <= itemCount; ++number) {
+            auto item = std::make_shared<Materiel>();
+            item->matosNo = QString::number(number);
+            item->typeMatos = QStringLiteral("Regulator %1").arg(chance(1, 40));
+            item->marqueMatos = QStringLiteral("Maker %1").arg(chance(1, 25));
+            item->serieMatos = QStringLiteral("S-%1").arg(chance(1, 10000000));
+            item->dateAchat = Date(86400.0 * chance(0, 9000));
+            item->quantiteMatos = chance(1, 9);
+            item->prixMatos = QStringLiteral("%1.90").arg(chance(5, 900));
+            item->lastRevision = Date(86400.0 * chance(0, 9000));
+            item->nextRevision = Date(86400.0 * chance(0, 9000));
+            item->equipState = chance(0, 6);
+            item->notesMatos = QStringLiteral("Item %1 of the club, kept on shelf %2.").arg(number).arg(chance(1, 60));
+            all.push_back(std::move(item));
+        }
+        return all;
+    }();
+    return items;
+}
+
+RecordList asRecords(const Items& items) {
+    return {items.begin(), items.end()};
+}
+
+void open(benchmark::State& state) {
+    const QByteArray bytes = writeRecords(asRecords(benchmarkItems()), Materiel::layout());
+    std::optional<Expected<RecordFile>> file;
+    againstReference(
+        state, [&] { file = readRecords(bytes, Materiel::layout()); },
+        [&] {
+            benchmark::DoNotOptimize(
+                crc32_z(0, reinterpret_cast<const Bytef*>(bytes.constData()), static_cast<z_size_t>(bytes.size())));
+        },
+        [&] { file.reset(); });
+    state.counters["file_MB"] = static_cast<double>(bytes.size()) / 1e6;
+}
+
+template <class Less>
+void sort(benchmark::State& state, const char* field, Less less) {
+    TestDesktop desktop;
+    const auto book = invMateriel().make(desktop.desktop());
+    Items reference;
+    const QString name = QString::fromLatin1(field);
+    const auto reset = [&] {
+        book->replaceList(asRecords(benchmarkItems()));
+        reference = benchmarkItems();
+    };
+    reset();
+    againstReference(
+        state, [&] { book->sortBy(name); },
+        [&] {
+            std::stable_sort(reference.begin(), reference.end(),
+                             [&less](const auto& left, const auto& right) { return less(*left, *right); });
+        },
+        reset);
+}
+
+void sortByText(benchmark::State& state) {
+    sort(state, "serieMatos",
+         [](const Materiel& left, const Materiel& right) { return left.serieMatos < right.serieMatos; });
+}
+
+void sortByDay(benchmark::State& state) {
+    sort(state, "dateAchat", [](const Materiel& left, const Materiel& right) {
+        return left.dateAchat.secondsSince2001() < right.dateAchat.secondsSince2001();
+    });
+}
+
+void find(benchmark::State& state) {
+    TestDesktop desktop;
+    const auto book = invMateriel().make(desktop.desktop());
+    book->replaceList(asRecords(benchmarkItems()));
+    const QString searched = QStringLiteral("shelf 17.");
+    againstReference(
+        state, [&] { benchmark::DoNotOptimize(book->findTextWithField(QStringLiteral("notesMatos"), searched)); },
+        [&] {
+            int matches = 0;
+            for (const auto& item : benchmarkItems()) {
+                matches += item->notesMatos.contains(searched, Qt::CaseInsensitive) ? 1 : 0;
+            }
+            benchmark::DoNotOptimize(matches);
+        });
+}
+
+BENCHMARK(open)->Unit(benchmark::kMillisecond)->UseManualTime();
+BENCHMARK(sortByText)->Unit(benchmark::kMillisecond)->UseManualTime();
+BENCHMARK(sortByDay)->Unit(benchmark::kMillisecond)->UseManualTime();
+BENCHMARK(find)->Unit(benchmark::kMillisecond)->UseManualTime();
+
+}  // namespace
+}  // namespace tavrel
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "book/bookdescription.h"
+#include "records/recordlayout.h"
+
+#include <QString>
+
+#include <memory>
+#include <ostream>
+#include <string_view>
+#include <vector>
+
+namespace tavrel {
+
+/// A record book as the contract of all books holds it: its description, and what its files hold, written down by hand.
+struct BookCase {
+    const char* name;
+    const BookDescription& (*book)();
+    const char* typeName;   ///< in English
+    const char* commands;   ///< the toolbars' identifiers for new, add, insert, update, delete
+    const char* oneRecord;  ///< the count line in English
+    int pages;
+    /// The items of a record in archive order, "field:code"; "field<source:code" where another field is written.
+    const char* archive;
+};
+
+inline void PrintTo(const BookCase& book, std::ostream* out) {
+    *out << book.name;
+}
+
+struct ArchivedItem {
+    std::string field;
+    std::string source;
+    char code;
+};
+
+/// The items of a case's list.
+std::vector<ArchivedItem> archivedItems(const BookCase& book);
+
+/// A record in which the field at each place of the list has a value of its own; see valueAt.
+std::shared_ptr<Record> distinctRecord(const BookCase& book);
+
+/// The value of the field at a place from 0: the whole number place + 1, the decimal place + 1.5, the text "t" with
+/// place + 1, the day that lies place + 1 days after 1 January 2001.
+FieldValue valueAt(FieldKind kind, int place);
+
+/// What a file of one record holds, item by item: "i 3", "f 4.5", "@ t1", "@ 86400", "@ nil".
+QStringList itemsOf(const QByteArray& file);
+
+/// All nine books.
+extern const std::vector<BookCase> bookCases;
+
+}  // namespace tavrel

@@ -1,0 +1,98 @@
+#include "recordbooks/consommables.h"
+
+#include "recordbooks/bookfixture.h"
+#include "recordbooks/recordbooks.h"
+
+#include <limits>
+
+namespace tavrel {
+
+namespace {
+
+class ConsommablesTest : public BookFixture<Consommables> {
+protected:
+    ConsommablesTest() : BookFixture(invConso()) {}
+
+    static Consommables stocked(float stock, float reserve) {
+        Consommables part;
+        part.stock = stock;
+        part.reserve = reserve;
+        return part;
+    }
+};
+
+TEST_F(ConsommablesTest, readsVersion1WithWholeNumbers) {
+    open(R"(
+        04 "streamtyped" 81e803 84"@"
+        8484 84"NSMutableArray"00 8484"NSArray"00 8484"NSObject"00 85 84"i"01
+        92 8484 84"Consommables"01 95
+        92 8484 84"NSString"01 95 84"+" "R1" 86 92 84 99 99 "Aqua" 86 92 84 99 99 "hose" 86
+        9603 9681c800 92 84 99 99 "box" 86 9601 92 8484 84"NSDate"00 95 84"d"04 86 92 84 99 99 "note" 86
+        86 86)");
+    EXPECT_EQ(record().reference, u"R1");
+    EXPECT_EQ(record().marque, u"Aqua");
+    EXPECT_EQ(record().utilisation, u"hose");
+    EXPECT_EQ(record().stock, 3);
+    EXPECT_EQ(record().reserve, 200);
+    EXPECT_EQ(record().rangement, u"box");
+    EXPECT_EQ(record().noInventaire, 1);
+    EXPECT_TRUE(record().dateInventaire == Date(4));
+    EXPECT_EQ(record().notes, u"note");
+}
+
+TEST_F(ConsommablesTest, coloursWhatIsBelowItsReserve) {
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    const std::tuple<float, float, const char*, const char*> cases[] = {
+        {2, 5, "#ff0000", "#ff0000"},   {5, 5, "#ff8000", "#000000"},     {6, 5, "#000000", "#000000"},
+        {nan, 5, "#000000", "#000000"}, {nan, nan, "#000000", "#000000"}, {5, nan, "#000000", "#000000"},
+    };
+    for (const auto& [stock, reserve, reference, quantity] : cases) {
+        EXPECT_EQ(colour(stocked(stock, reserve), "reference"), reference) << stock << ' ' << reserve;
+        EXPECT_EQ(colour(stocked(stock, reserve), "stock"), quantity) << stock << ' ' << reserve;
+    }
+    EXPECT_EQ(colour(stocked(2, 5), "reserve"), "default");
+}
+
+TEST_F(ConsommablesTest, measuresTheStockInTenthsOfTheReserve) {
+    EXPECT_EQ(cell(stocked(2, 5), "progress").text, u"4.000000");
+    EXPECT_EQ(cell(stocked(5, 5), "progress").text, u"10.000000");
+    EXPECT_EQ(cell(stocked(2.5F, 0), "progress").text, u"25.000000");
+    EXPECT_EQ(cell(stocked(1, 3), "progress").text, u"3.333333");
+    // In single precision the product is 167772144, and a tenth of it 16777214.
+
+    EXPECT_EQ(cell(stocked(16777215, 10), "progress").text, u"16777214.000000");
+}
+
+TEST_F(ConsommablesTest, marksWhatItBuildsAndHidesTheDayOfWhatIsNotCounted) {
+    book->newRecord();
+    enter("stockField", "2,5");
+    enter("reserveField", "4");
+    const auto part = built();
+    EXPECT_EQ(part->stock, 2.5F);
+    EXPECT_EQ(part->reserve, 4);
+    EXPECT_EQ(part->progress, 7.4F);
+    EXPECT_TRUE(part->dateInventaire == noDate());
+
+    Consommables counted;
+    counted.dateInventaire = day(2024, 5, 3);
+    EXPECT_TRUE(cell(counted, "dateInventaire").text.contains(u"2024"));
+    counted.noInventaire = 1;
+    EXPECT_EQ(cell(counted, "dateInventaire").text, u"");
+}
+
+TEST_F(ConsommablesTest, writesACardOfEachPart) {
+    Consommables part = stocked(2.5F, 4);
+    part.reference = QStringLiteral("R1");
+    part.marque = QStringLiteral("Aqua");
+    part.utilisation = QStringLiteral("hose");
+    part.rangement = QStringLiteral("box");
+    part.notes = QStringLiteral("fine");
+    EXPECT_EQ(card({part, {}}),
+              QStringLiteral("Consumables inventory//--------------------/Reference: R1/Brand: Aqua/Use: hose"
+                             "/Quantity: 2.5/Storage place: box/Remarks: fine//--------------------/Reference: /Brand: "
+                             "/Use: /Quantity: 0/Storage place: /Remarks: "));
+}
+
+}  // namespace
+
+}  // namespace tavrel

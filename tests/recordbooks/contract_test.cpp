@@ -1,0 +1,311 @@
+// What every record book keeps, whatever its records.
+
+#include "archive/recordarchive.h"
+#include "base/texts.h"
+#include "book/booktable.h"
+#include "book/card.h"
+#include "forms/formentry.h"
+#include "recordbooks/bookcase.h"
+#include "records/nodate.h"
+#include "support/testdesktop.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace tavrel {
+
+namespace {
+
+class RecordBook : public testing::TestWithParam<BookCase> {
+protected:
+    RecordBook() { setTextLanguage(QStringLiteral("en")); }
+
+    const BookDescription& description = GetParam().book();
+    const RecordLayout& layout = description.layout();
+    TestDesktop desktop;
+    std::unique_ptr<BookBase> book = description.make(desktop.desktop());
+    const std::vector<PlacedControl>& controls = book->form().state().table().controls();
+
+    QString shown(int control) const { return book->form().state().at(control).text; }
+    QStringList identifiers(std::span<const char* const> places) const {
+        QStringList list;
+        for (const char* place : places) {
+            list << QString::fromUtf8(place);
+        }
+        return list;
+    }
+    void hold(int records) {
+        RecordList list;
+        for (int i = 0; i < records; ++i) {
+            list.push_back(layout.make());
+        }
+        book->appendRecords(QStringLiteral("Add"), list);
+    }
+};
+
+TEST_P(RecordBook, archivesItsFieldsInOrder) {
+    const auto record = distinctRecord(GetParam());
+    const auto items = archivedItems(GetParam());
+    QStringList expected;
+    for (const auto& item : items) {
+        int place = 0;
+        while (items[static_cast<std::size_t>(place)].field != item.source) {
+            ++place;
+        }
+        const std::string number = std::to_string(place + 1);
+        const bool isDay = layout.field(std::string_view(item.source)).kind() == FieldKind::date;
+        const std::string value = item.code == 'i'   ? number
+                                  : item.code == 'f' ? number + ".5"
+                                  : isDay            ? std::to_string((place + 1) * 86400)
+                                                     : "t" + number;
+        expected << QString::fromStdString(std::string(1, item.code) + ' ' + value);
+    }
+    EXPECT_EQ(itemsOf(writeRecords({record}, layout)), expected);
+}
+
+TEST_P(RecordBook, givesItsBytesBack) {
+    const QByteArray written = writeRecords({distinctRecord(GetParam()), layout.make()}, layout);
+    ASSERT_TRUE(book->loadDataRepresentation(written, book->type()));
+    ASSERT_EQ(book->count(), 2);
+    const auto items = archivedItems(GetParam());
+    for (std::size_t place = 0; place < items.size(); ++place) {
+        const Field field = layout.field(std::string_view(items[place].field));
+        const Field source = layout.field(std::string_view(items[place].source));
+        EXPECT_TRUE(field.value(*book->recordAt(0)) == source.value(*distinctRecord(GetParam()))) << items[place].field;
+    }
+    // A doubled slot settles with the first reading.
+    const auto again = book->dataRepresentationOfType(book->type());
+    ASSERT_TRUE(again);
+    EXPECT_EQ(*again, written);
+    EXPECT_EQ(*recordClassOf(*again), QString::fromUtf8(description.kind.recordClass));
+}
+
+TEST_P(RecordBook, replacesItsListBeforeItChecksTheType) {
+    EXPECT_EQ(book->type(), QString::fromUtf8(GetParam().typeName));
+    const QByteArray written = writeRecords({layout.make()}, layout);
+    const bool succeeds = book->loadDataRepresentation(written, QStringLiteral("Other")).has_value();
+    EXPECT_EQ(succeeds, description.typeCheck == TypeCheck::none);
+    EXPECT_EQ(book->count(), 1);
+    EXPECT_FALSE(book->loadDataRepresentation(QByteArray("no typed stream"), book->type()));
+    EXPECT_EQ(book->count(), 1);
+}
+
+TEST_P(RecordBook, startsWithABlankForm) {
+    hold(2);
+    book->newRecord();
+    EXPECT_FALSE(book->hasEntries());
+    EXPECT_EQ(book->selectedRow(), -1);
+    EXPECT_GE(book->form().state().table().find(description.numberField), 0);
+    const auto record = book->form().buildRecord();
+    for (const auto& item : archivedItems(GetParam())) {
+        const Field field = layout.field(std::string_view(item.field));
+        if (const auto* text = field.get<QString>(*record)) {
+            EXPECT_FALSE(text->isNull()) << item.field;
+        } else if (const auto* date = field.get<Date>(*record)) {
+            EXPECT_TRUE(isNoDate(*date) || *date == Date::fromDateTime(desktop.clock.moment)) << item.field;
+        }
+    }
+    EXPECT_TRUE(desktop.alerts.failures.empty());
+}
+
+/// Something to enter into a control of that kind.
+QString entryFor(const PlacedControl& placed, int place) {
+    switch (placed.control.kind) {
+        case ControlKind::wholeNumber:
+        case ControlKind::decimal:
+            return QString::number(place + 1);
+        case ControlKind::onOff:
+            return QStringLiteral("1");
+        case ControlKind::popUp:
+        case ControlKind::radio:
+            return QString::number(placed.control.choices.back().tag);
+        case ControlKind::slider:
+        case ControlKind::rating:
+            return QString::number(placed.control.maximum);
+        case ControlKind::date:
+            return QStringLiteral("2020-01-%1").arg(place % 28 + 1, 2, 10, QLatin1Char('0'));
+        case ControlKind::time:
+            return QStringLiteral("07:%1").arg(place % 60, 2, 10, QLatin1Char('0'));
+        default:
+            return QStringLiteral("entry %1").arg(place);
+    }
+}
+
+TEST_P(RecordBook, bringsARecordFromTheFormAndBack) {
+    book->newRecord();
+    FormStateBase& state = book->form().state();
+    const auto takes = [&](std::size_t index) {
+        return takesEntries(controls[index].control.kind) && controls[index].control.kind != ControlKind::picture &&
+               !controls[index].field.empty();
+    };
+    for (std::size_t index = 0; index < controls.size(); ++index) {
+        if (takes(index)) {
+            const QString entry = entryFor(controls[index], static_cast<int>(index));
+            EXPECT_TRUE(enterValue(state, static_cast<int>(index), entry)) << controls[index].name;
+        }
+    }
+    EXPECT_TRUE(book->hasEntries());
+    const auto record = book->form().buildRecord();
+    std::vector<ControlState> entered;
+    for (std::size_t index = 0; index < controls.size(); ++index) {
+        entered.push_back(state.at(static_cast<int>(index)));
+    }
+    book->form().blankFields(0);
+    book->form().editFields(*record);
+    EXPECT_FALSE(book->hasEntries());
+    for (std::size_t index = 0; index < controls.size(); ++index) {
+        if (takes(index)) {
+            const ControlState& shown = state.at(static_cast<int>(index));
+            EXPECT_EQ(shown.text, entered[index].text) << controls[index].name;
+            EXPECT_EQ(shown.tag, entered[index].tag) << controls[index].name;
+            EXPECT_TRUE(shown.date == entered[index].date) << controls[index].name;
+        }
+    }
+    const auto again = book->form().buildRecord();
+    EXPECT_EQ(writeRecords({again}, layout), writeRecords({record}, layout));
+}
+
+TEST_P(RecordBook, hasAControlForEveryStoredField) {
+    for (const auto& item : archivedItems(GetParam())) {
+        const QString name = QString::fromStdString(item.field);
+        EXPECT_TRUE(book->form().state().table().find(item.field) >= 0 || book->form().holdsBeside(name)) << item.field;
+    }
+    EXPECT_EQ(book->form().state().table().pageCount(), GetParam().pages);
+    EXPECT_EQ(static_cast<int>(description.pages.size()), GetParam().pages);
+}
+
+TEST_P(RecordBook, showsItsRecordsInColumnsWithTitles) {
+    book->appendRecords(QStringLiteral("Add"), {distinctRecord(GetParam()), layout.make()});
+    for (const auto& language : {QStringLiteral("fr"), QStringLiteral("en")}) {
+        setTextLanguage(language);
+        const BookTable table(*book);
+        std::set<std::string> fields;
+        int places = 0;
+        for (const auto& placed : table.columns()) {
+            const std::string where = placed.column->field;
+            EXPECT_TRUE(fields.insert(where).second) << where;
+            EXPECT_FALSE(placed.field.isNull()) << where;
+            EXPECT_FALSE(placed.column->title.text().isEmpty()) << where;
+            EXPECT_NE(placed.column->title.text(), missingText()) << where;
+            for (int row = 0; row < 2; ++row) {
+                EXPECT_FALSE(table.cell(row, places).text.contains(missingText())) << where;
+            }
+            EXPECT_EQ(table.columnOf(where), places++);
+        }
+    }
+}
+
+TEST_P(RecordBook, writesACardOfEveryRecord) {
+    ASSERT_NE(description.card, nullptr);
+    const RecordList records{distinctRecord(GetParam()), layout.make()};
+    for (const auto& language : {QStringLiteral("fr"), QStringLiteral("en")}) {
+        setTextLanguage(language);
+        const StyledText card = description.card(records, desktop.desktop(), QStringLiteral("/home/b.file"));
+        EXPECT_FALSE(card.text().contains(missingText())) << card.text().toStdString();
+        EXPECT_EQ(card.runs().front().colour, plaincolour::green);
+        EXPECT_EQ(card.runs().back().colour, plaincolour::green);
+        EXPECT_TRUE(card.runs().back().text.startsWith(u"\rFile dir : /home/b.file\r\rEdition date : 2024-06-15 "))
+            << card.runs().back().text.toStdString();
+        EXPECT_GE(card.text().count(QStringLiteral("\r--------------------")), 2);
+        EXPECT_FALSE(card.text().contains(u'\n'));
+        const bool labelled = std::any_of(card.runs().begin(), card.runs().end(),
+                                          [](const StyledRun& run) { return run.colour == plaincolour::black; });
+        const bool valued = std::any_of(card.runs().begin(), card.runs().end(),
+                                        [](const StyledRun& run) { return run.colour == plaincolour::blue; });
+        EXPECT_TRUE(labelled && valued);
+    }
+}
+
+TEST_P(RecordBook, offersItsCommandsInTwoToolbars) {
+    const QStringList words = QString::fromUtf8(GetParam().commands).split(u' ');
+    const QString divider = QString::fromUtf8(toolSeparator);
+    const QString last = QString::fromUtf8(toolFlexibleSpace);
+    const QString customise = QString::fromUtf8(toolCustomise);
+    const QString synthese = QStringLiteral("synthese");
+    const QStringList table{QStringLiteral("saveDocument"),
+                            QStringLiteral("imprimer"),
+                            divider,
+                            words[0],
+                            words[4],
+                            synthese,
+                            divider,
+                            customise,
+                            last};
+    const QStringList edit{words[1], words[2], words[3],  QStringLiteral("blankFields"),
+                           synthese, divider,  customise, last};
+    EXPECT_EQ(identifiers(description.tableToolBar.initial), table);
+    EXPECT_EQ(identifiers(description.tableToolBar.allowed), table);
+    EXPECT_EQ(identifiers(description.editToolBar.initial), edit);
+    EXPECT_EQ(identifiers(description.editToolBar.allowed), edit);
+    const QStringList needRecords{QStringLiteral("imprimer"), words[2], words[3], words[4], synthese};
+    for (const auto& bar : {description.tableToolBar, description.editToolBar}) {
+        for (const ToolItem& item : bar.items) {
+            EXPECT_EQ(item.needsRecords, needRecords.contains(QString::fromUtf8(item.identifier))) << item.identifier;
+            EXPECT_NE(item.label.text(), missingText());
+            EXPECT_NE(item.tip.text(), missingText());
+        }
+    }
+}
+
+TEST_P(RecordBook, addsChangesDeletesAndTakesItBack) {
+    book->newRecord();
+    book->addRecord();
+    EXPECT_EQ(book->count(), 1);
+    EXPECT_EQ(book->countText(), QString::fromUtf8(GetParam().oneRecord));
+    book->addRecord();
+    EXPECT_TRUE(book->countText().startsWith(u"2 "));
+    book->userSelects({0});
+    book->insertRecord();
+    EXPECT_EQ(book->count(), 3);
+    const RecordPointer before = book->recordAt(0);
+    book->updateRecord();
+    EXPECT_NE(book->recordAt(0), before);
+    desktop.alerts.answerNext(0);
+    book->deleteRecords();
+    EXPECT_EQ(book->count(), 2);
+    QStringList steps;
+    while (book->undoStack().canUndo()) {
+        steps << book->undoStack().undoText();
+        book->undoStack().undo();
+    }
+    EXPECT_EQ(book->count(), 0);
+    const BookWords& words = description.words;
+    EXPECT_EQ(steps, QStringList({words.undoDelete.text(), words.undoUpdate.text(), words.undoInsert.text(),
+                                  words.undoAdd.text(), words.undoAdd.text()}));
+    EXPECT_EQ(std::set<QString>(steps.begin(), steps.end()).size(), 4U);
+    EXPECT_FALSE(book->isChanged());
+}
+
+TEST_P(RecordBook, namesEverythingInBothLanguages) {
+    for (const auto& language : {QStringLiteral("fr"), QStringLiteral("en")}) {
+        setTextLanguage(language);
+        const BookWords& words = description.words;
+        for (const Title& title : {words.windowTitle, words.newRecord, words.editRecord, words.insertRecord,
+                                   words.deleteRecords, words.previousRecord, words.nextRecord, words.menu,
+                                   words.tableName, words.emptyTable, words.oneRecord, words.manyRecords}) {
+            EXPECT_FALSE(title.isEmpty());
+            EXPECT_NE(title.text(), missingText()) << title.key;
+        }
+        EXPECT_EQ(formatPlaceholders(words.windowTitle.text()), u"@");
+        for (const auto& placed : controls) {
+            const Control& control = placed.control;
+            for (const Title& title : {control.label, control.unit, control.tip}) {
+                EXPECT_NE(title.text(), missingText()) << placed.name;
+            }
+            for (const Choice& choice : control.choices) {
+                EXPECT_NE(choice.title.text(), missingText()) << placed.name << ' ' << choice.tag;
+            }
+        }
+        for (const Group& group : book->form().state().table().groups()) {
+            EXPECT_NE(group.title.text(), missingText()) << group.title.key;
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, RecordBook, testing::ValuesIn(bookCases),
+                         [](const auto& each) { return std::string(each.param.name); });
+
+}  // namespace
+
+}  // namespace tavrel

@@ -1,0 +1,155 @@
+#include "recordbooks/rebreather.h"
+
+#include "recordbooks/bookfixture.h"
+#include "recordbooks/recordbooks.h"
+
+namespace tavrel {
+
+namespace {
+
+class RebreatherTest : public BookFixture<Rebreather> {
+protected:
+    RebreatherTest() : BookFixture(rebreatherServ()) {}
+};
+
+TEST_F(RebreatherTest, readsVersion1WithoutOxygenCheckAndCells) {
+    open(R"(
+        04 "streamtyped" 81e803 84"@"
+        8484 84"NSMutableArray"00 8484"NSArray"00 8484"NSObject"00 85 84"i"01
+        92 8484 84"Rebreather"01 95
+        92 8484 84"NSDate"00 95 84"d"01 86 92 8484 84"NSString"01 95 84"+" "120 h" 86 92 84 99 99 02 86
+        9601 9602 9603 9604 9605 9606 9607 9608 9609 960a 92 84 9b 9b "note" 86
+        86 86)");
+    EXPECT_TRUE(record().date == Date(1));
+    EXPECT_EQ(record().rebreatherTime, u"120 h");
+    EXPECT_TRUE(record().sofnoTime == Date(2));
+    EXPECT_EQ(record().sofnolime, 1);
+    EXPECT_EQ(record().cells, 4);
+    EXPECT_EQ(record().nbCells, 5);
+    EXPECT_EQ(record().scrubber, 10);
+    EXPECT_EQ(record().mpO2, 0);
+    EXPECT_EQ(record().mpO2Value, 0);
+    EXPECT_EQ(record().cell1, 0);
+    EXPECT_TRUE(record().cell5_in.isNull());
+    EXPECT_EQ(record().notes, u"note");
+}
+
+TEST_F(RebreatherTest, readsVersion2WithTheOxygenCheck) {
+    open(R"(
+        04 "streamtyped" 81e803 84"@"
+        8484 84"NSMutableArray"00 8484"NSArray"00 8484"NSObject"00 85 84"i"01
+        92 8484 84"Rebreather"02 95
+        92 85 92 85 92 85
+        9601 9600 9600 9600 9600 9600 9600 9600 9600 9601 9601 84"f"83 0000a03f
+        92 8484 84"NSString"01 95 84"+" "note" 86
+        86 86)");
+    EXPECT_EQ(record().scrubber, 1);
+    EXPECT_EQ(record().mpO2, 1);
+    EXPECT_EQ(record().mpO2Value, 1.25F);
+    EXPECT_EQ(record().cell3, 0);
+    EXPECT_EQ(record().notes, u"note");
+}
+
+TEST_F(RebreatherTest, countsMonthsOfACellIn32Bits) {
+    const Date fitted = Date::fromDateTime(QDateTime(QDate(2024, 1, 1), QTime(0, 0), Qt::UTC));
+    EXPECT_EQ(endOfCellLife(fitted, 12).toIso(), u"2024-12-31T06:00:00Z");
+    EXPECT_EQ(endOfCellLife(fitted, 0).toIso(), fitted.toIso());
+    EXPECT_EQ(endOfCellLife(Date(0), 816).secondsSince2001(), 2145916800.0);
+    // 817 months are 2148546600 seconds, which a 32-bit number holds as -2146420696.
+    EXPECT_EQ(endOfCellLife(Date(0), 817).secondsSince2001(), -2146420696.0);
+    EXPECT_TRUE(endOfCellLife(Date(), 12).isNull());
+}
+
+TEST_F(RebreatherTest, showsTheLifeOfTheCellsThatAreFitted) {
+    desktop.preferences.set(QStringLiteral("cell life"), QStringLiteral("12"));
+    desktop.clock.moment = QDateTime(QDate(2024, 7, 1), QTime(15, 0));
+    book->newRecord();
+    EXPECT_EQ(at("cell1Progress").level, 0);
+    Rebreather first;
+    first.cell1 = 1;
+    first.cell1_in = day(2024, 1, 1);
+    first.cell2_in = day(2024, 1, 1);
+    Rebreather second = first;
+    second.cell2 = 1;
+    second.cell1 = 0;
+    hold({first, second});
+    book->userSelects({0});
+    EXPECT_EQ(at("cell1_outField").date.toDateTime(), QDateTime(QDate(2024, 12, 31), QTime(6, 0)));
+    EXPECT_FALSE(at("cell1_outField").enabled);
+    // 182 days and 15 hours of 365 days and 6 hours.
+    EXPECT_NEAR(at("cell1Progress").level, 50.0, 0.05);
+    EXPECT_TRUE(at("cell2_outField").date.isNull());
+
+    // The end stays with the stored day until the entry is stored; the share follows the entry.
+    enter("cell1_inField", "2024-07-01");
+    EXPECT_EQ(at("cell1_outField").date.toDateTime(), QDateTime(QDate(2024, 12, 31), QTime(6, 0)));
+    EXPECT_LT(at("cell1Progress").level, 1);
+    book->updateRecord();
+    EXPECT_EQ(at("cell1_outField").date.toDateTime(), QDateTime(QDate(2025, 7, 1), QTime(6, 0)));
+
+    // What the first record's cell showed stays for one that is not fitted.
+    book->userSelects({1});
+    EXPECT_EQ(at("cell1_outField").date.toDateTime(), QDateTime(QDate(2025, 7, 1), QTime(6, 0)));
+    EXPECT_EQ(at("cell2_outField").date.toDateTime(), QDateTime(QDate(2024, 12, 31), QTime(6, 0)));
+}
+
+TEST_F(RebreatherTest, offersTheNumberOfCellsOnlyWhenTheyAreReplaced) {
+    book->newRecord();
+    EXPECT_FALSE(at("nbCellsPopUp").enabled);
+    enter("cellsSwitch", "1");
+    EXPECT_TRUE(at("nbCellsPopUp").enabled);
+}
+
+TEST_F(RebreatherTest, ticksOperationsInGreenAndLeavesZerosOut) {
+    Rebreather none;
+    Rebreather all;
+    all.sofnolime = all.disinfection = all.battery = all.injector = all.valve = all.oRing = all.electronicHead =
+        all.scrubber = 1;
+    all.nbCells = 3;
+    all.mpO2Value = 1.25F;
+    for (const char* field :
+         {"sofnolime", "disinfection", "battery", "injector", "valve", "oRing", "electronicHead", "scrubber"}) {
+        EXPECT_EQ(cell(none, field).text, u"") << field;
+        EXPECT_EQ(cell(all, field).text, u"✓") << field;
+        EXPECT_EQ(colour(all, field), "#00ff00") << field;
+    }
+    EXPECT_EQ(cell(none, "nbCells").text, u"");
+    EXPECT_EQ(cell(none, "mpO2Value").text, u"");
+    EXPECT_EQ(cell(all, "nbCells").text, u"3");
+    EXPECT_EQ(cell(all, "mpO2Value").text, u"1.25");
+    all.sofnoTime = Date::fromDateTime(QDateTime(QDate(2001, 1, 1), QTime(3, 30)));
+    EXPECT_EQ(cell(all, "sofnoTime").text, u"03:30");
+    for (const char* field : {"date", "rebreatherTime", "sofnoTime", "nbCells", "mpO2Value"}) {
+        EXPECT_EQ(colour(all, field), "#000000") << field;
+    }
+}
+
+TEST_F(RebreatherTest, writesACardWithTheCellsOfTheLastIntervention) {
+    Rebreather first;
+    first.date = day(2024, 5, 3);
+    first.rebreatherTime = QStringLiteral("120");
+    first.sofnoTime = Date::fromDateTime(QDateTime(QDate(2001, 1, 1), QTime(3, 30)));
+    first.sofnolime = first.disinfection = first.battery = first.cells = first.injector = first.valve = first.oRing =
+        first.electronicHead = first.scrubber = first.mpO2 = first.cell2 = 1;
+    first.mpO2Value = 1.25F;
+    first.notes = QStringLiteral("fine");
+    Rebreather last;
+    last.date = day(2024, 6, 4);
+    last.cell1 = last.cell3 = 1;
+    last.cell1_in = day(2024, 1, 2);
+    last.cell2_in = day(2024, 1, 3);
+    last.cell3_in = day(2024, 1, 4);
+    last.sofnoTime = noDate();
+    EXPECT_EQ(card({first, last}),
+              QStringLiteral(
+                  "Rebreather interventions//Oxygen cells/Cell 1: 02/01/2024/Cell 2: -/Cell 3: 04/01/2024/Cell 4: -"
+                  "/Cell 5: -/----------------------------------------/Date: 03/05/2024//History/Running time: 120"
+                  "/Absorbent time: 03:30 h/- Absorbent replaced/- Disinfection/- Battery replaced/- Cells replaced"
+                  "/- Oxygen partial pressure : 1.25 bar/- Injector/- Valve/- O-rings/- Electronic head/- Scrubber"
+                  "//Remarks: fine/----------------------------------------/Date: 04/06/2024//History/Running time: "
+                  "/Absorbent time: 00:00 h//Remarks: /----------------------------------------/"));
+}
+
+}  // namespace
+
+}  // namespace tavrel
