@@ -262,6 +262,7 @@ void BookBase::blankFields() {
         deselectAll();
     }
     form_->blankFields(count());
+    form_->state().requestFocus(form_->state().table().find(description_.numberField));
     showsSelectedRecord_ = false;
     Q_EMIT stateChanged();
 }

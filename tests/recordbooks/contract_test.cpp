@@ -9,6 +9,7 @@
 #include "records/nodate.h"
 #include "support/testdesktop.h"
 
+#include <QSignalSpy>
 #include <gtest/gtest.h>
 
 #include <set>
@@ -93,8 +94,11 @@ TEST_P(RecordBook, replacesItsListBeforeItChecksTheType) {
 
 TEST_P(RecordBook, startsWithABlankForm) {
     hold(2);
+    QSignalSpy focus(&book->form().state(), &FormStateBase::focusRequested);
     book->newRecord();
     EXPECT_FALSE(book->hasEntries());
+    ASSERT_FALSE(focus.isEmpty());
+    EXPECT_EQ(focus.back()[0].toInt(), book->form().state().table().find(description.numberField));
     EXPECT_EQ(book->selectedRow(), -1);
     EXPECT_GE(book->form().state().table().find(description.numberField), 0);
     const auto record = book->form().buildRecord();
