@@ -1,5 +1,6 @@
 #include "book/standardbook.h"
 
+#include "book/card.h"
 #include "forms/picklistentry.h"
 
 #include <algorithm>
@@ -15,6 +16,11 @@ QString choiceText(std::span<const Choice> choices, qint32 tag, const QString& u
 void cotationCell(qint32 rating, Cell& cell) {
     cell.text = choiceText(cotations, rating, QString::number(rating));
     cell.words = textWith("Main", "Cotation in words", rating, highestCotation);
+}
+
+void ratedCell(qint32 rating, Cell& cell) {
+    cotationCell(rating >= 1 && rating <= highestCotation ? rating : 0, cell);
+    cell.style.text = rating != 0 ? plaincolour::brown : plaincolour::black;
 }
 
 void checkCell(bool isSet, Cell& cell) {

@@ -89,6 +89,9 @@ QString choiceText(std::span<const Choice> choices, qint32 tag, const QString& u
 /// A cell of a rating: its stars, and in words how many of how many. Another number shows as it is.
 void cotationCell(qint32 rating, Cell& cell);
 
+/// A cell of a rating that is brown unless it is 0, and shows another number as 0.
+void ratedCell(qint32 rating, Cell& cell);
+
 /// A cell of a field that is 0 or 1: the word for a tick, or nothing.
 void checkCell(bool isSet, Cell& cell);
 

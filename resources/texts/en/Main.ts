@@ -22,6 +22,7 @@
 <message><source>Carnet de plongee</source><translation>Dive logbook</translation></message>
 <message><source>Causes of sinking</source><translation>Causes of Sinking</translation></message>
 <message><source>Check</source><translation>✓</translation></message>
+<message><source>Closed</source><translation>Closed</translation></message>
 <message><source>Clubs</source><translation>Clubs</translation></message>
 <message><source>Command line description</source><translation>A logbook for divers.</translation></message>
 <message><source>Command line files</source><translation>Documents to open.</translation></message>
@@ -143,6 +144,21 @@
 <message><source>Pages</source><translation>Pages of the form</translation></message>
 <message><source>Picture cannot be made</source><translation>The picture could not be made.</translation></message>
 <message><source>Picture too large</source><translation>This is too long for one picture. A PDF file has room for it.</translation></message>
+<message><source>Picture choose</source><translation>Choose…</translation></message>
+<message><source>Picture copy</source><translation>Copy</translation></message>
+<message><source>Picture damaged</source><translation>The picture is damaged.</translation></message>
+<message><source>Picture enlarge</source><translation>Enlarge</translation></message>
+<message><source>Picture export</source><translation>Export…</translation></message>
+<message><source>Picture files</source><translation>Pictures</translation></message>
+<message><source>Picture none</source><translation>No picture. Choose a file, drop it here, or paste.</translation></message>
+<message><source>Picture not shown</source><translation>The picture is of a kind that cannot be shown. It is kept as it is.</translation></message>
+<message><source>Picture not written</source><translation>The picture could not be written.</translation></message>
+<message><source>Picture nowhere</source><translation>There is no picture.</translation></message>
+<message><source>Picture paste</source><translation>Paste</translation></message>
+<message><source>Picture remove</source><translation>Remove</translation></message>
+<message><source>Picture shown</source><translation>Picture, %d × %d pixels</translation></message>
+<message><source>Picture too large</source><translation>The picture is too large: %d × %d pixels, and %d million at most.</translation></message>
+<message><source>Picture unknown format</source><translation>The file is no picture that this program can read.</translation></message>
 <message><source>Places</source><translation>Places</translation></message>
 <message><source>Preferences not saved</source><translation>The preferences could not be saved to “%@”.</translation></message>
 <message><source>Previous</source><translation>Previous</translation></message>

@@ -1,0 +1,171 @@
+#include "recordbooks/entreprises.h"
+
+#include "book/standardbook.h"
+#include "recordbooks/recordbooks.h"
+
+#include <cmath>
+
+namespace tavrel {
+
+namespace {
+
+constexpr auto items =
+    itemsAroundHours(std::to_array<Item>({{"entreprise", member<&Entreprises::entreprise>},
+                                          {"adresse", member<&Entreprises::adresse>},
+                                          {"codePostal", member<&Entreprises::codePostal>, Travel::integer, 0, 1},
+                                          {"codePostal", member<&Entreprises::codePostal>, Travel::plain, 2},
+                                          {"ville", member<&Entreprises::ville>},
+                                          {"pays", member<&Entreprises::pays>},
+                                          {"telephone", member<&Entreprises::telephone>},
+                                          {"fax", member<&Entreprises::fax>},
+                                          {"email", member<&Entreprises::email>},
+                                          {"url", member<&Entreprises::url>},
+                                          {"activite", member<&Entreprises::activite>},
+                                          {"miseAJour", member<&Entreprises::miseAJour>}}),
+                     std::to_array<Item>({{"remarques", member<&Entreprises::remarques>},
+                                          {"cotation", member<&Entreprises::cotation>, Travel::plain, 3}}));
+constexpr RecordLayout entreprisesLayout = recordLayout<Entreprises>("Entreprises", 3, items);
+
+// The form.
+
+class EntreprisesForm : public RecordBookForm<EntreprisesControls, Entreprises> {
+public:
+    using RecordBookForm::RecordBookForm;
+
+    void resetDateToNow() { state().setDate(controls().miseAJourField, today()); }
+
+protected:
+    void clear(int) override {
+        // Companies are closed on Sundays until their card says otherwise.
+        for (const auto& hour : controls().hours.back()) {
+            state().setText(hour, text("Main", "Closed"));
+        }
+        resetDateToNow();
+        state().requestFocus(controls().nomField);
+    }
+
+    void entered(int control) override {
+        if (control == controls().resetDateToNowButton.index) {
+            resetDateToNow();
+        }
+        updateUI();
+    }
+};
+
+// The table.
+
+/// The whole seconds since a card was brought up to date, the fraction dropped; 0 for a card without that date.
+std::int64_t ageOf(const Date& update, const QDateTime& now) {
+    if (update.isNull()) {
+        return 0;
+    }
+    const double age = Date::fromDateTime(now).secondsSince2001() - update.secondsSince2001();
+    constexpr double beyondAnyAge = 1e15;
+    return std::isnan(age) ? 0 : static_cast<std::int64_t>(std::clamp(age, -beyondAnyAge, beyondAnyAge));
+}
+
+void updateCell(const Entreprises& company, const TableStyle& style, Cell& cell) {
+    constexpr std::int64_t year = 31557600;  // seconds in 365.25 days
+    const std::int64_t age = ageOf(company.miseAJour, style.now);
+    // At exactly one and two years the colour is left as it was.
+    if (age < year) {
+        cell.style.text = plaincolour::black;
+    } else if (age > year && age < 2 * year) {
+        cell.style.text = plaincolour::orange;
+    } else if (age > 2 * year) {
+        cell.style.text = plaincolour::red;
+    }
+}
+
+void ratingCell(const Entreprises& company, const TableStyle&, Cell& cell) {
+    ratedCell(company.cotation, cell);
+}
+
+constexpr Column columns[] = {
+    {"entreprise", {"Entreprises", "Column name"}, 24},
+    {"activite", {"Entreprises", "Column activity"}, 18},
+    {"codePostal", {"Entreprises", "Column postal code"}, 8},
+    {"ville", {"Entreprises", "Column town"}, 16},
+    {"pays", {"Entreprises", "Column country"}, 12},
+    {"telephone", {"Entreprises", "Column telephone"}, 16},
+    {"email", {"Entreprises", "Column e-mail"}, 22},
+    {"cotation", {"Entreprises", "Column rating"}, 12, Qt::AlignLeft, cellHook<ratingCell>},
+    {"miseAJour", {"Entreprises", "Column update"}, 12, Qt::AlignRight, cellHook<updateCell>},
+};
+
+// The card.
+
+constexpr Title days[daysInWeek] = {
+    {"Entreprises", "Monday"}, {"Entreprises", "Tuesday"},  {"Entreprises", "Wednesday"}, {"Entreprises", "Thursday"},
+    {"Entreprises", "Friday"}, {"Entreprises", "Saturday"}, {"Entreprises", "Sunday"}};
+
+StyledText cardOf(const RecordList& records, const Desktop& desktop, const QString& file) {
+    CardBuilder card({"Entreprises", "Inventory"});
+    for (std::size_t row = 0; row < records.size(); ++row) {
+        const auto& company = static_cast<const Entreprises&>(*records[row]);
+        if (row > 0) {
+            card.add(QLatin1StringView(addressSeparator), plaincolour::black);
+        }
+        card.entry({"Entreprises", "Name"}, company.entreprise);
+        card.entry({"Entreprises", "Address"},
+                   QStringList{company.adresse, company.codePostal, company.ville, company.pays}.join(u' '));
+        card.entry({"Entreprises", "Phone"}, company.telephone);
+        card.entry({"Entreprises", "Fax"}, company.fax);
+        card.entry({"Entreprises", "E-mail"}, company.email);
+        card.entry({"Entreprises", "URL"}, company.url);
+        card.entry({"Entreprises", "Activity"}, company.activite);
+        card.entry({"Entreprises", "Schedules"}, QString());
+        addWeek(card, company, days);
+        card.entry({"Entreprises", "Remarks"}, company.remarques);
+        card.entry({"Entreprises", "Update"}, company.miseAJour);
+    }
+    return card.finish(folderOf(file), desktop.clock.now());
+}
+
+constexpr BookCommands commands{"newFirm", "addFirm", "insertFirm", "updateEntreprise", "deleteFirm"};
+constexpr RecordBookTools tools(commands);
+
+constexpr Title pages[] = {
+    {"Entreprises", "Page company"}, {"Entreprises", "Page hours"}, {"Entreprises", "Page remarks"}};
+constexpr BookSearch searches[] = {{{"Entreprises", "Find name"}, "entreprise"},
+                                   {{"Entreprises", "Find town"}, "ville"},
+                                   {{"Entreprises", "Find activity"}, "activite"},
+                                   {{"Entreprises", "Find remarks"}, "remarques"}};
+
+}  // namespace
+
+const RecordLayout& Entreprises::layout() {
+    return entreprisesLayout;
+}
+
+const EntreprisesControls& EntreprisesControls::table() {
+    static const EntreprisesControls controls;
+    return controls;
+}
+
+const BookDescription& adressesEts() {
+    static const BookDescription description{
+        .kind = {literal("Entreprises"), "Entreprises", "entreprises"},
+        .layoutName = "Entreprises",
+        .newAction = "newEntrepriseDocumentMenuAction",
+        .layout = Entreprises::layout,
+        .typeCheck = TypeCheck::none,
+        .columns = columns,
+        .tableStyle = plainTableStyle,
+        .pages = pages,
+        .numberField = "nomField",
+        .tableToolBar = tools.tableToolBar("firmTableViewWindowToolbar"),
+        .editToolBar = tools.editToolBar("firmEditWindowToolbar"),
+        .commands = commands,
+        .words = recordBookWords({"Entreprises", "Edit window"}, {"Entreprises", "Menu companies"},
+                                 {"Entreprises", "Companies"}),
+        .searches = searches,
+        .print = recordBookPrint,
+        .card = cardOf,
+        .makeForm = makeRecordBookForm<EntreprisesForm>,
+        .make = makeRecordBook<Entreprises, adressesEts>,
+    };
+    return description;
+}
+
+}  // namespace tavrel
