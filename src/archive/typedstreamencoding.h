@@ -25,7 +25,7 @@ inline std::size_t encodingEnd(std::string_view types, std::size_t at) {
 ///
 ///     void integer(char code, std::int64_t value);    // c C s S i I l L q Q B
 ///     void real(char code, double value);             // f d
-///     void text(std::string_view text);               // * + : %, null data for nil
+///     void text(char code, std::string_view text);    // * + : %, null data for nil
 ///     void classValue(std::int32_t index);            // #, -1 for nil
 ///     void object();                                  // @: the handler reads it from the scanner
 ///     void bytes(std::string_view raw);               // [n c], [n C]
@@ -85,14 +85,14 @@ private:
                 handler_.real(code, scanner_.readDouble());
                 return at + 1;
             case '*':
-                handler_.text(scanner_.readCString());
+                handler_.text(code, scanner_.readCString());
                 return at + 1;
             case '+':
-                handler_.text(scanner_.readUnsharedString());
+                handler_.text(code, scanner_.readUnsharedString());
                 return at + 1;
             case ':':
             case '%':
-                handler_.text(scanner_.sharedString(scanner_.readSharedString()));
+                handler_.text(code, scanner_.sharedString(scanner_.readSharedString()));
                 return at + 1;
             case '#':
                 handler_.classValue(scanner_.readClass());

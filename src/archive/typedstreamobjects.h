@@ -70,6 +70,7 @@ public:
         return entries() + size_;
     }
     void extend(std::size_t count) { size_ += count; }
+    void truncate(std::size_t size) { size_ = size; }
 
 private:
     ObjectEntry* entries() const { return reinterpret_cast<ObjectEntry*>(memory_.get()); }

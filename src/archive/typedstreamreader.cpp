@@ -1,5 +1,6 @@
 #include "archive/typedstreamreader.h"
 
+#include "archive/imagearchive.h"
 #include "archive/typedstreamencoding.h"
 #include "records/floatbits.h"
 
@@ -64,7 +65,7 @@ struct TypedStreamReader::SkipHandler {
 
     void integer(char, std::int64_t) const {}
     void real(char, double) const {}
-    void text(std::string_view) const {}
+    void text(char, std::string_view) const {}
     void classValue(std::int32_t) const {}
     void object() const { reader.readObject(); }
     void bytes(std::string_view) const {}
@@ -73,7 +74,10 @@ struct TypedStreamReader::SkipHandler {
 };
 
 TypedStreamReader::TypedStreamReader(QByteArrayView bytes, std::string_view recordClass, RecordSink* sink)
-    : scanner_(bytes, recordClass), sink_(sink) {}
+    : scanner_(bytes, recordClass), sink_(sink), storedObjects_(scanner_, [this](std::size_t number) {
+          const ObjectEntry& entry = scanner_.objects()[number];
+          return entry.kind() == Holds::text ? std::optional(texts_[entry.payload()].toUtf8()) : std::nullopt;
+      }) {}
 
 std::size_t TypedStreamReader::openRoot() {
     scanner_.readHeader();
@@ -219,7 +223,45 @@ Series TypedStreamReader::readSeries() {
 }
 
 Image TypedStreamReader::readImage() {
-    const ObjectEntry entry = readItemObject();
+    if (!startItem()) {
+        return {};
+    }
+    itemStart_ = scanner_.offset();
+    requireObjectGroup(StreamFault::wrongItemType);
+    if (!scanner_.nextIsLiteral()) {
+        return readKnownImage();
+    }
+    // Walked twice: once whatever it is, so that it can be written again as it was, and once for the picture in it.
+    const auto start = scanner_.mark();
+    const StoredPointer object = storedObjects_.read();
+    scanner_.rewind(start);
+    const ObjectEntry entry = scanner_.ok() ? readObject() : ObjectEntry();
+    Image image;
+    if (entry.kind() == Holds::image) {
+        image = images_[entry.payload()];
+    } else if (entry.kind() == Holds::bitmap) {
+        image.tiff = bitmaps_[entry.payload()];
+    } else {
+        requireOpaque(entry);
+    }
+    if (!scanner_.ok()) {
+        return {};
+    }
+    image.stored = layoutToKeep(*object, image);
+    pictures_[start.objects] = image;
+    return image;
+}
+
+// Nil, or one that stood before.
+Image TypedStreamReader::readKnownImage() {
+    const ObjectHead head = scanner_.ok() ? scanner_.readObjectHead() : ObjectHead();
+    if (!scanner_.ok() || head.form == ObjectHead::nil) {
+        return {};
+    }
+    if (const auto known = pictures_.find(head.number); known != pictures_.end()) {
+        return known->second;
+    }
+    const ObjectEntry& entry = scanner_.objects()[head.number];
     if (entry.kind() == Holds::image) {
         const Image& image = images_[entry.payload()];
         scanner_.spend(static_cast<std::size_t>(image.tiff.size()));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "archive/numberrun.h"
+#include "archive/storedobject.h"
 #include "archive/typedstreamscanner.h"
 #include "records/date.h"
 #include "records/image.h"
@@ -10,6 +11,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <map>
 #include <string_view>
 #include <vector>
 
@@ -80,6 +82,7 @@ private:
     void skipGroups();
     void requireObjectGroup(StreamFault fault);
     bool startItem();
+    Image readKnownImage();
     void requireOpaque(const ObjectEntry& entry);
 
     ObjectEntry decodeText();
@@ -112,6 +115,8 @@ private:
     std::vector<QColor> colors_;
     std::vector<QByteArray> bitmaps_;
     std::vector<Image> images_;
+    StoredObjectReader storedObjects_;
+    std::map<std::size_t, Image> pictures_;  // what items of pictures held, by the object's number
 };
 
 }  // namespace tavrel

@@ -78,6 +78,15 @@ void TypedStreamScanner::fail(StreamFault fault, std::size_t offset, const QStri
     position_ = end_;
 }
 
+void TypedStreamScanner::rewind(const Mark& mark) {
+    if (ok()) {
+        strings_.erase(strings_.begin() + static_cast<std::ptrdiff_t>(mark.strings), strings_.end());
+        classes_.erase(classes_.begin() + static_cast<std::ptrdiff_t>(mark.classes), classes_.end());
+        objects_.truncate(mark.objects);
+        seek(mark.offset);
+    }
+}
+
 std::uint64_t TypedStreamScanner::readWord(int bytes) {
     if (bytesLeft() < static_cast<std::size_t>(bytes)) {
         fail(StreamFault::truncated, static_cast<std::size_t>(end_ - begin_));

@@ -95,6 +95,8 @@ public:
     std::optional<std::int32_t> takeSmallInteger();
     /// Takes nil in a group of type "@"; whether it stood there.
     bool takeNil();
+    /// Whether something new follows, rather than nil or a reference.
+    bool nextIsLiteral() const { return position_ != end_ && *position_ == streamtags::literal; }
 
     /// Index of a class, nil as -1.
     std::int32_t readClass();
@@ -113,6 +115,14 @@ public:
     const ObjectTable& objects() const { return objects_; }
     /// The bytes at an offset that an entry of the object table holds, for reading its number again.
     void seek(std::size_t offset) { position_ = begin_ + offset; }
+
+    /// Where the reading stands, with all that was defined so far.
+    struct Mark {
+        std::size_t offset, strings, classes, objects;
+    };
+    Mark mark() const { return {offset(), strings_.size(), classes_.size(), objects_.size()}; }
+    /// Goes back to a mark: what was defined since is so no more.
+    void rewind(const Mark& mark);
 
 private:
     friend class NumberRun;

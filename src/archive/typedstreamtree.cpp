@@ -107,7 +107,7 @@ public:
     void integer(char, std::int64_t) {}
     void real(char, double) {}
     // What the other walk will write of them, each time they are named.
-    void text(std::string_view text) { scanner_.spend(text.size()); }
+    void text(char, std::string_view text) { scanner_.spend(text.size()); }
     void classValue(std::int32_t index) {
         for (; index >= 0; index = scanner_.classAt(index).superclass) {
             scanner_.spend(1 + scanner_.classAt(index).name.size());
@@ -192,6 +192,7 @@ public:
             json_.value(value);
         }
     }
+    void text(char, std::string_view words) { text(words); }
     void text(std::string_view text) {
         if (!text.data()) {
             json_.null();

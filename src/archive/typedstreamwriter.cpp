@@ -24,9 +24,6 @@ constexpr Class valueClass{"NSValue", 0, &TypedStreamWriter::rootClass};
 constexpr Class stringClass{"NSString", 1, &TypedStreamWriter::rootClass};
 constexpr Class dateClass{"NSDate", 0, &TypedStreamWriter::rootClass};
 constexpr Class colorClass{"NSColor", 0, &TypedStreamWriter::rootClass};
-constexpr Class imageClass{"NSImage", 46, &TypedStreamWriter::rootClass};
-constexpr Class imageRepClass{"NSImageRep", 17, &TypedStreamWriter::rootClass};
-constexpr Class bitmapClass{"NSBitmapImageRep", 17, &imageRepClass};
 
 // Kinds of colour.
 constexpr unsigned char calibratedRgb = 1;
@@ -123,41 +120,6 @@ void TypedStreamWriter::writeDate(const Date& date) {
     beginLiteral(dateClass);
     beginGroup("d");
     putDouble(date.secondsSince2001());
-    endObject();
-}
-
-void TypedStreamWriter::writeImage(const Image& image) {
-    beginGroup("@");
-    if (image.isNull()) {
-        put(streamtags::nil);
-        return;
-    }
-    beginLiteral(imageClass);
-    beginGroup("@");  // no name
-    put(streamtags::nil);
-    constexpr unsigned char flags[] = {0, 0, 1, 0, 0, 0, 0, 0, 1, 1, 0, 0, 0, 0};
-    for (const unsigned char flag : flags) {
-        putByteGroup(flag);
-    }
-    beginGroup("ff");
-    putFloat(image.width);
-    putFloat(image.height);
-    beginGroup("s");  // one representation
-    putSigned(1);
-    putByteGroup(0);
-    beginGroup("@");
-    beginLiteral(bitmapClass);
-    putData(image.tiff);
-    endObject();
-    beginGroup("@");  // a clear background
-    beginLiteral(colorClass);
-    putByteGroup(calibratedWhite);
-    beginGroup("ff");
-    putFloat(0);
-    putFloat(0);
-    endObject();
-    beginGroup("@");
-    put(streamtags::nil);
     endObject();
 }
 
@@ -285,11 +247,14 @@ void TypedStreamWriter::putCString(std::string_view text) {
 }
 
 void TypedStreamWriter::putClass(const Class& description) {
-    if (const auto known = classes_.find(description.name); known != classes_.end()) {
-        putReference(known->second);
+    const auto known = std::find_if(classes_.begin(), classes_.end(), [&](const KnownClass& each) {
+        return each.name == description.name && each.version == description.version;
+    });
+    if (known != classes_.end()) {
+        putReference(known->number);
         return;
     }
-    classes_.emplace(description.name, nextObject_++);
+    classes_.push_back({std::string(description.name), description.version, nextObject_++});
     put(streamtags::literal);
     putSharedString(description.name);
     putSigned(description.version);
@@ -298,13 +263,6 @@ void TypedStreamWriter::putClass(const Class& description) {
     } else {
         put(streamtags::nil);
     }
-}
-
-void TypedStreamWriter::putData(const QByteArray& bytes) {
-    beginGroup("i");
-    putSigned(bytes.size());
-    beginGroup('[' + std::to_string(bytes.size()) + "c]");
-    put(std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
 }
 
 void TypedStreamWriter::putByteGroup(unsigned char value) {

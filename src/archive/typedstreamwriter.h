@@ -2,6 +2,7 @@
 
 #include "archive/recordarchive.h"
 #include "archive/sharednumbers.h"
+#include "archive/storedobject.h"
 #include "records/date.h"
 #include "records/image.h"
 #include "records/series.h"
@@ -29,7 +30,7 @@ class TypedStreamWriter {
 public:
     struct Class {
         std::string_view name;
-        int version;
+        std::int64_t version;
         const Class* superclass;
     };
     // Classes of the platform that the parts of the writer share.
@@ -55,6 +56,8 @@ public:
     void writeDate(const Date& date);
     void writeSeries(const Series& series);
     void writeImage(const Image& image);
+    /// An object as it was read.
+    void writeStored(const StoredObject& object);
     /// A colour as the root object: red, green, blue and alpha, or white and alpha; each 0 to 1, calibrated.
     void writeRootColor(std::span<const float> components);
 
@@ -62,6 +65,11 @@ public:
     QByteArray take();
 
 private:
+    struct KnownClass {
+        std::string name;
+        std::int64_t version;
+        std::size_t number;
+    };
     struct Reference {
         std::array<char, 8> bytes;
         int size;
@@ -89,7 +97,9 @@ private:
     void putSharedString(std::string_view text);
     void putCString(std::string_view text);
     void putClass(const Class& description);
-    void putData(const QByteArray& bytes);
+    void putNode(const StoredObject& object, std::int64_t place, std::vector<std::size_t>& numbers);
+    void putChain(const StoredObject::Chain& chain);
+    void putValue(const StoredObject::Value& value);
     void putByteGroup(unsigned char value);
     void beginGroup(std::string_view types) { putSharedString(types); }
     void beginLiteral(const Class& description);
@@ -115,7 +125,7 @@ private:
     std::map<std::string, std::size_t, std::less<>> strings_;
     std::array<Reference, 128> codeReferences_{};  // of the strings of a single code, size 0 while not written
     std::map<std::string, std::size_t, std::less<>> cStrings_;
-    std::map<std::string, std::size_t, std::less<>> classes_;
+    std::vector<KnownClass> classes_;  // a few
     QHash<QString, std::size_t> texts_;
     QHash<quint64, std::size_t> dates_;
     QHash<const void*, std::size_t> records_;
