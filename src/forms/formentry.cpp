@@ -1,6 +1,7 @@
 #include "forms/formentry.h"
 
 #include "base/texts.h"
+#include "forms/pictures.h"
 
 #include <QDateTime>
 
@@ -70,6 +71,14 @@ std::optional<Date> timeOf(const Date& held, const QString& value) {
     return Date::fromDateTime(QDateTime(day.isValid() ? day : QDate(2001, 1, 1), time));
 }
 
+Expected<void> enterPicture(FormStateBase& form, int index, const QString& path) {
+    if (path.isEmpty()) {
+        form.place(index, {});
+        return {};
+    }
+    return pictureOfFile(path).map([&](const Image& picture) { form.place(index, picture); });
+}
+
 }  // namespace
 
 bool takesEntries(ControlKind kind) {
@@ -100,6 +109,8 @@ Expected<void> enterValue(FormStateBase& form, int index, const QString& value) 
             return entered(dateOf(value), &FormStateBase::pick);
         case ControlKind::time:
             return entered(timeOf(form.at(index).date, value), &FormStateBase::pick);
+        case ControlKind::picture:
+            return enterPicture(form, index, value);
         default:
             form.type(index, value);
             return {};

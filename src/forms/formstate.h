@@ -20,10 +20,10 @@ struct ControlState {
     Date date;
     bool enabled = true;
     bool visible = true;
-    int maximum = 0;  ///< of a gauge, whose level is its tag
+    int maximum = 0;   ///< of a gauge, whose level is its tag
     double level = 0;  ///< of a progress bar, percent, as worked out: it may lie outside 0 to 100
-    QColor colour;    ///< of a text that the program writes; invalid: the usual one
-    Image image;      ///< of a picture
+    QColor colour;     ///< of a text that the program writes; invalid: the usual one
+    Image image;       ///< of a picture
 
     bool operator==(const ControlState&) const = default;
 };
