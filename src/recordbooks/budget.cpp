@@ -51,6 +51,117 @@ QString inWords(const std::array<Title, 6>& words, qint32 rating) {
 
 // The form.
 
+struct BudgetControls : ControlTable<BudgetControls> {
+    static constexpr std::array<const char*, 5> lines{"1", "2", "3", "4", "5"};
+    static constexpr std::array<const char*, 4> supplements{"1", "2", "3", "4"};
+    static constexpr std::array<const char*, 4> cards{"1", "2", "3", "4"};
+
+    // Page 1: the service and its lines.
+    const int serviceGroup = group({1, {"Budget", "Group service"}});
+    const Id prestationField = add({.name = "prestationField",
+                                    .kind = ControlKind::combo,
+                                    .field = "prestation",
+                                    .label = {"Budget", "Label service"},
+                                    .pickList = PickList::tableauDesPrestations});
+    const Id quantite_0Field = add({.name = "quantite_0Field",
+                                    .kind = ControlKind::wholeNumber,
+                                    .field = "quantite_0",
+                                    .label = {"Budget", "Label quantity"}});
+    const Id prixUnitaire_0Field = add({.name = "prixUnitaire_0Field",
+                                        .kind = ControlKind::decimal,
+                                        .field = "prixUnitaire_0",
+                                        .label = {"Budget", "Label unit price"},
+                                        .unit = literal("€")});
+    const Id prevDepenseSwitch = add({.name = "prevDepenseSwitch",
+                                      .kind = ControlKind::onOff,
+                                      .field = "prevDepense",
+                                      .label = {"Budget", "Label planned"}});
+
+    const int supplementsGroup = group({1, {"Budget", "Group supplements"}, GroupLayout::columns});
+    const std::array<Id, 4> supplement_Field = addEach<4>(
+        supplements,
+        {.name = "supplement_%Field", .field = "supplement_%", .label = {"Budget", "Label supplement"}, .width = 24});
+    /// Of line 5, in the form alone: no record holds it.
+    const Id supplement_5Field = addFifthSupplement();
+    const std::array<Id, 5> quantite_Field = addEach<5>(lines, {.name = "quantite_%Field",
+                                                                .kind = ControlKind::wholeNumber,
+                                                                .field = "quantite_%",
+                                                                .label = {"Budget", "Label quantity"}});
+    const std::array<Id, 5> prixUnitaire_Field = addEach<5>(lines, {.name = "prixUnitaire_%Field",
+                                                                    .kind = ControlKind::decimal,
+                                                                    .field = "prixUnitaire_%",
+                                                                    .label = {"Budget", "Label unit price"},
+                                                                    .unit = literal("€")});
+    const int totalGroup = group({1, {"Budget", "Group total"}});
+    const Id totalField = add({.name = "totalField",
+                               .kind = ControlKind::readOnly,
+                               .label = {"Budget", "Label total"},
+                               .unit = literal("€"),
+                               .width = 10});
+
+    // Page 2: prepaid cards.
+    const int discountGroup = group({2, {"Budget", "Group discount"}});
+    const Id prixDegressifSwitch = add({.name = "prixDegressifSwitch",
+                                        .kind = ControlKind::onOff,
+                                        .field = "prixDegressif",
+                                        .label = {"Budget", "Label discount"}});
+    const int cardsGroup = group({2, {"Budget", "Group cards"}, GroupLayout::columns});
+    const std::array<Id, 4> unitesCarte_Field = addEach<4>(cards, {.name = "unitesCarte_%Field",
+                                                                   .kind = ControlKind::wholeNumber,
+                                                                   .field = "unitesCarte_%",
+                                                                   .label = {"Budget", "Label card units"}});
+    const std::array<Id, 4> prixCarte_Field = addEach<4>(cards, {.name = "prixCarte_%Field",
+                                                                 .kind = ControlKind::decimal,
+                                                                 .field = "prixCarte_%",
+                                                                 .label = {"Budget", "Label card price"},
+                                                                 .unit = literal("€")});
+    const std::array<Id, 4> prixUnite_Field = addEach<4>(cards, {.name = "prixUnite_%Field",
+                                                                 .kind = ControlKind::readOnly,
+                                                                 .label = {"Budget", "Label price of unit"},
+                                                                 .width = 18});
+
+    // Page 3: the supplier.
+    const int supplierGroup = group({3, {"Budget", "Group supplier"}});
+    const Id entrepriseField =
+        add({.name = "entrepriseField", .field = "entreprise", .label = {"Budget", "Label supplier"}});
+    const Id qualitePrixSlider = add({.name = "qualitePrixSlider",
+                                      .kind = ControlKind::rating,
+                                      .field = "qualitePrix",
+                                      .label = {"Budget", "Label value"},
+                                      .minimum = 0,
+                                      .maximum = 5});
+    const Id qualitePrixField =
+        add({.name = "qualitePrixField", .kind = ControlKind::readOnly, .width = 18, .beside = true});
+    const Id delaiSlider = add({.name = "delaiSlider",
+                                .kind = ControlKind::rating,
+                                .field = "delai",
+                                .label = {"Budget", "Label delay"},
+                                .minimum = 0,
+                                .maximum = 5});
+    const Id delaiField = add({.name = "delaiField", .kind = ControlKind::readOnly, .width = 18, .beside = true});
+    const Id miseAJourField = add({.name = "miseAJourField",
+                                   .kind = ControlKind::date,
+                                   .field = "miseAJour",
+                                   .label = {"Budget", "Label update"},
+                                   .emptyAt1900 = true});
+    const int notesGroup = group({3, {"Budget", "Group notes"}});
+    const Id notesField = add({.name = "notesField", .kind = ControlKind::longText, .field = "notes"});
+
+    static const BudgetControls& table() {
+        static const BudgetControls controls;
+        return controls;
+    }
+
+private:
+    BudgetControls() = default;
+
+    Id addFifthSupplement() {
+        return {
+            ControlTableBase::add({.name = "supplement_5Field", .label = {"Budget", "Label supplement"}, .width = 24},
+                                  {}, controls().back().line, 4)};
+    }
+};
+
 class BudgetForm : public RecordBookForm<BudgetControls, Budget> {
 public:
     using RecordBookForm::RecordBookForm;
@@ -129,7 +240,7 @@ void addSupplement(CardBuilder& card, const QString& label, float price, qint32 
 void addCard(CardBuilder& card, qint32 units, float price) {
     card.entry({"Budget", "Card"}, units);
     card.entry({"Budget", "Units at"}, wholePrice(price));
-    card.entry({"Budget", "Money"}, QString());
+    card.heading({"Budget", "Money"});
 }
 
 StyledText cardOf(const RecordList& records, const Desktop& desktop, const QString& file) {
@@ -246,11 +357,6 @@ const RecordLayout& Budget::layout() {
     return budgetLayout;
 }
 
-const BudgetControls& BudgetControls::table() {
-    static const BudgetControls controls;
-    return controls;
-}
-
 Expected<RecordList> importFromVersion20(QByteArrayView data) {
     if (auto services = readPropertyList(data)) {
         return std::move(*services);
@@ -260,14 +366,14 @@ Expected<RecordList> importFromVersion20(QByteArrayView data) {
 }
 
 const BookDescription& previBudget() {
-    static const BookDescription description{
+    static constexpr BookDescription description{
         .kind = {literal("Budget"), "Budget", "budget"},
         .layoutName = "Budget",
         .newAction = "newBudgetDocumentMenuAction",
-        .layout = Budget::layout,
-        .olderFormat = importFromVersion20,
+        .layout = &Budget::layout,
+        .olderFormat = &importFromVersion20,
         .columns = columns,
-        .tableStyle = plainTableStyle,
+        .tableStyle = &plainTableStyle,
         .pages = pages,
         .numberField = "prestationField",
         .tableToolBar = tools.tableToolBar("prestationTableViewWindowToolbar"),
@@ -276,9 +382,9 @@ const BookDescription& previBudget() {
         .words = recordBookWords({"Budget", "Edit window"}, {"Budget", "Menu services"}, {"Budget", "Services"}),
         .searches = searches,
         .print = recordBookPrint,
-        .card = cardOf,
-        .makeForm = makeRecordBookForm<BudgetForm>,
-        .make = makeRecordBook<Budget, previBudget>,
+        .card = &cardOf,
+        .makeForm = &makeRecordBookForm<BudgetForm>,
+        .make = &makeRecordBook<Budget, previBudget>,
     };
     return description;
 }

@@ -19,6 +19,60 @@ constexpr Item items[] = {
 };
 constexpr RecordLayout documentsLayout = recordLayout<DiversDocs>("DiversDocs", 1, items);
 
+/// The kinds of paper.
+constexpr Choice documentTypes[] = {
+    {0, {"Documents", "TableView attestation"}}, {1, {"Documents", "TableView certification"}},
+    {2, {"Documents", "TableView certifMed"}},   {3, {"Documents", "TableView facture"}},
+    {4, {"Documents", "TableView licence"}},     {5, {"Documents", "TableView autre"}}};
+
+struct DiversDocsControls : ControlTable<DiversDocsControls> {
+    // Page 1: what it is.
+    const int documentGroup = group({1, {"Documents", "Group document"}});
+    const Id titreField =
+        add({.name = "titreField", .field = "titre", .label = {"Documents", "Label title"}, .width = 34});
+    const Id typeDocPopUp = add({.name = "typeDocPopUp",
+                                 .kind = ControlKind::popUp,
+                                 .field = "type",
+                                 .label = {"Documents", "Label type"},
+                                 .choices = documentTypes});
+    const Id emetteurField =
+        add({.name = "emetteurField", .field = "emetteur", .label = {"Documents", "Label issuer"}});
+    const Id dateField = add({.name = "dateField",
+                              .kind = ControlKind::date,
+                              .field = "date",
+                              .label = {"Documents", "Label date"},
+                              .emptyAt1900 = true});
+    const int renewalGroup = group({1, {"Documents", "Group renewal"}});
+    const Id renouvelerSwitch = add({.name = "renouvelerSwitch",
+                                     .kind = ControlKind::onOff,
+                                     .field = "renouveler",
+                                     .label = {"Documents", "Label renew"}});
+    const Id dateRenouvellementField = add({.name = "dateRenouvellementField",
+                                            .kind = ControlKind::date,
+                                            .field = "dateRenouvellement",
+                                            .label = {"Documents", "Label renewal date"},
+                                            .emptyAt1900 = true});
+
+    // Page 2: the copy.
+    const int copyGroup = group({2, {"Documents", "Group copy"}});
+    const Id photocopyView = add({.name = "photocopyView",
+                                  .kind = ControlKind::picture,
+                                  .field = "photocopy",
+                                  .label = {"Documents", "Label copy"}});
+
+    // Page 3: remarks.
+    const int notesGroup = group({3, {"Documents", "Group notes"}});
+    const Id notesField = add({.name = "notesField", .kind = ControlKind::longText, .field = "notes"});
+
+    static const DiversDocsControls& table() {
+        static const DiversDocsControls controls;
+        return controls;
+    }
+
+private:
+    DiversDocsControls() = default;
+};
+
 class DiversDocsForm : public RecordBookForm<DiversDocsControls, DiversDocs> {
 public:
     using RecordBookForm::RecordBookForm;
@@ -66,19 +120,14 @@ const RecordLayout& DiversDocs::layout() {
     return documentsLayout;
 }
 
-const DiversDocsControls& DiversDocsControls::table() {
-    static const DiversDocsControls controls;
-    return controls;
-}
-
 const BookDescription& diversDocuments() {
-    static const BookDescription description{
+    static constexpr BookDescription description{
         .kind = {{"Main", "Divers documents"}, "DiversDocs", "documents"},
         .layoutName = "Documents",
         .newAction = "newDocumentDocumentMenuAction",
-        .layout = DiversDocs::layout,
+        .layout = &DiversDocs::layout,
         .columns = columns,
-        .tableStyle = plainTableStyle,
+        .tableStyle = &plainTableStyle,
         .pages = pages,
         .numberField = "titreField",
         .tableToolBar = tools.tableToolBar("docTableViewWindowToolbar"),
@@ -88,8 +137,8 @@ const BookDescription& diversDocuments() {
             recordBookWords({"Documents", "Edit window"}, {"Documents", "Menu documents"}, {"Documents", "Documents"}),
         .searches = searches,
         .print = recordBookPrint,
-        .makeForm = makeRecordBookForm<DiversDocsForm>,
-        .make = makeRecordBook<DiversDocs, diversDocuments>,
+        .makeForm = &makeRecordBookForm<DiversDocsForm>,
+        .make = &makeRecordBook<DiversDocs, diversDocuments>,
     };
     return description;
 }

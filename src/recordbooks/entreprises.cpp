@@ -28,6 +28,66 @@ constexpr RecordLayout entreprisesLayout = recordLayout<Entreprises>("Entreprise
 
 // The form.
 
+struct EntreprisesControls : OpeningHoursControls<EntreprisesControls> {
+    // Page 1: the company and how to reach it.
+    const int companyGroup = group({1, {"Entreprises", "Group company"}});
+    const Id nomField =
+        add({.name = "nomField", .field = "entreprise", .label = {"Entreprises", "Label name"}, .width = 34});
+    const Id activiteField = add({.name = "activiteField",
+                                  .kind = ControlKind::combo,
+                                  .field = "activite",
+                                  .label = {"Entreprises", "Label activity"},
+                                  .pickList = PickList::tableauDesActivites});
+    const Id cotationSlider = add({.name = "cotationSlider",
+                                   .kind = ControlKind::rating,
+                                   .field = "cotation",
+                                   .label = {"Entreprises", "Label rating"},
+                                   .minimum = 0,
+                                   .maximum = 5});
+    const Id miseAJourField = add({.name = "miseAJourField",
+                                   .kind = ControlKind::date,
+                                   .field = "miseAJour",
+                                   .label = {"Entreprises", "Label update"},
+                                   .emptyAt1900 = true});
+    const Id resetDateToNowButton = add({.name = "resetDateToNowButton",
+                                         .kind = ControlKind::button,
+                                         .label = {"Entreprises", "Today"},
+                                         .tip = {"Entreprises", "Tip today"},
+                                         .beside = true});
+    const int addressGroup = group({1, {"Entreprises", "Group address"}, GroupLayout::pairs, 2});
+    const Id adresseField = add({.name = "adresseField", .field = "adresse", .label = {"Entreprises", "Label street"}});
+    const Id codePostalField = add(
+        {.name = "codePostalField", .field = "codePostal", .label = {"Entreprises", "Label postal code"}, .width = 8});
+    const Id villeField = add({.name = "villeField", .field = "ville", .label = {"Entreprises", "Label town"}});
+    const Id paysField = add({.name = "paysField", .field = "pays", .label = {"Entreprises", "Label country"}});
+    const int contactGroup = group({1, {"Entreprises", "Group contact"}, GroupLayout::pairs, 2});
+    const Id telephoneField = add({.name = "telephoneField",
+                                   .field = "telephone",
+                                   .label = {"Entreprises", "Label telephone"},
+                                   .opens = Opens::phone});
+    const Id faxField = add({.name = "faxField", .field = "fax", .label = {"Entreprises", "Label fax"}});
+    const Id emailField =
+        add({.name = "emailField", .field = "email", .label = {"Entreprises", "Label e-mail"}, .opens = Opens::mail});
+    const Id urlField =
+        add({.name = "urlField", .field = "url", .label = {"Entreprises", "Label web"}, .opens = Opens::web});
+
+    // Page 2: the week.
+    const int hoursGroup = group({2, {"Entreprises", "Group hours"}, GroupLayout::rows});
+    const Week hours = addWeek();
+
+    // Page 3: remarks.
+    const int remarksGroup = group({3, {"Entreprises", "Group remarks"}});
+    const Id remarquesField = add({.name = "remarquesField", .kind = ControlKind::longText, .field = "remarques"});
+
+    static const EntreprisesControls& table() {
+        static const EntreprisesControls controls;
+        return controls;
+    }
+
+private:
+    EntreprisesControls() = default;
+};
+
 class EntreprisesForm : public RecordBookForm<EntreprisesControls, Entreprises> {
 public:
     using RecordBookForm::RecordBookForm;
@@ -114,7 +174,7 @@ StyledText cardOf(const RecordList& records, const Desktop& desktop, const QStri
         card.entry({"Entreprises", "E-mail"}, company.email);
         card.entry({"Entreprises", "URL"}, company.url);
         card.entry({"Entreprises", "Activity"}, company.activite);
-        card.entry({"Entreprises", "Schedules"}, QString());
+        card.heading({"Entreprises", "Schedules"});
         addWeek(card, company, days);
         card.entry({"Entreprises", "Remarks"}, company.remarques);
         card.entry({"Entreprises", "Update"}, company.miseAJour);
@@ -138,20 +198,15 @@ const RecordLayout& Entreprises::layout() {
     return entreprisesLayout;
 }
 
-const EntreprisesControls& EntreprisesControls::table() {
-    static const EntreprisesControls controls;
-    return controls;
-}
-
 const BookDescription& adressesEts() {
-    static const BookDescription description{
+    static constexpr BookDescription description{
         .kind = {literal("Entreprises"), "Entreprises", "entreprises"},
         .layoutName = "Entreprises",
         .newAction = "newEntrepriseDocumentMenuAction",
-        .layout = Entreprises::layout,
+        .layout = &Entreprises::layout,
         .typeCheck = TypeCheck::none,
         .columns = columns,
-        .tableStyle = plainTableStyle,
+        .tableStyle = &plainTableStyle,
         .pages = pages,
         .numberField = "nomField",
         .tableToolBar = tools.tableToolBar("firmTableViewWindowToolbar"),
@@ -161,9 +216,9 @@ const BookDescription& adressesEts() {
                                  {"Entreprises", "Companies"}),
         .searches = searches,
         .print = recordBookPrint,
-        .card = cardOf,
-        .makeForm = makeRecordBookForm<EntreprisesForm>,
-        .make = makeRecordBook<Entreprises, adressesEts>,
+        .card = &cardOf,
+        .makeForm = &makeRecordBookForm<EntreprisesForm>,
+        .make = &makeRecordBook<Entreprises, adressesEts>,
     };
     return description;
 }

@@ -51,6 +51,102 @@ constexpr RecordLayout structuresLayout = recordLayout<Structures>("Structures",
 
 // The form.
 
+/// The kinds of club, in the order of the menu.
+constexpr Choice structureTypes[] = {
+    {0, {"Structures", "Associative"}}, {1, {"Structures", "Commerciale"}}, {2, {"Structures", "N/A"}}};
+
+struct StructuresControls : OpeningHoursControls<StructuresControls> {
+    static constexpr std::array<const char*, 5> offers{"1", "2", "3", "4", "5"};
+    static constexpr std::array<const char*, 6> courses{"1", "2", "3", "4", "5", "6"};
+
+    // Page 1: the club and how to reach it.
+    const int clubGroup = group({1, {"Structures", "Group club"}, GroupLayout::pairs, 2});
+    const Id nomField = add({.name = "nomField", .field = "nom", .label = {"Structures", "Label name"}});
+    const Id typePopUp = add({.name = "typePopUp",
+                              .kind = ControlKind::popUp,
+                              .field = "type",
+                              .label = {"Structures", "Label type"},
+                              .choices = structureTypes});
+    const Id affiliationField =
+        add({.name = "affiliationField", .field = "affiliation", .label = {"Structures", "Label affiliation"}});
+    const Id gerantField = add({.name = "gerantField", .field = "gerant", .label = {"Structures", "Label manager"}});
+    const Id cotationSlider = add({.name = "cotationSlider",
+                                   .kind = ControlKind::rating,
+                                   .field = "cotation",
+                                   .label = {"Structures", "Label rating"},
+                                   .minimum = 0,
+                                   .maximum = 5});
+    const Id miseAJourField = add({.name = "miseAJourField",
+                                   .kind = ControlKind::date,
+                                   .field = "miseAJour",
+                                   .label = {"Structures", "Label update"},
+                                   .emptyAt1900 = true});
+    const Id nbPlongeesField = add({.name = "nbPlongeesField",
+                                    .kind = ControlKind::wholeNumber,
+                                    .field = "nbPlongees",
+                                    .label = {"Structures", "Label dives made"}});
+    const int addressGroup = group({1, {"Structures", "Group address"}, GroupLayout::pairs, 2});
+    const Id adresseField = add({.name = "adresseField", .field = "adresse", .label = {"Structures", "Label street"}});
+    const Id codePostalField = add({.name = "codePostalField",
+                                    .kind = ControlKind::wholeNumber,
+                                    .field = "codePostal",
+                                    .label = {"Structures", "Label postal code"},
+                                    .width = 8});
+    const Id villeField = add({.name = "villeField", .field = "ville", .label = {"Structures", "Label town"}});
+    const Id paysField = add({.name = "paysField", .field = "pays", .label = {"Structures", "Label country"}});
+    const int contactGroup = group({1, {"Structures", "Group contact"}, GroupLayout::pairs, 2});
+    const Id telephoneField = add({.name = "telephoneField",
+                                   .field = "telephone",
+                                   .label = {"Structures", "Label telephone"},
+                                   .opens = Opens::phone});
+    const Id portableField = add(
+        {.name = "portableField", .field = "portable", .label = {"Structures", "Label mobile"}, .opens = Opens::phone});
+    const Id faxField = add({.name = "faxField", .field = "fax", .label = {"Structures", "Label fax"}});
+    const Id emailField =
+        add({.name = "emailField", .field = "email", .label = {"Structures", "Label e-mail"}, .opens = Opens::mail});
+    const Id urlField =
+        add({.name = "urlField", .field = "url", .label = {"Structures", "Label web"}, .opens = Opens::web});
+
+    // Page 2: prices.
+    const int tryDiveGroup = group({2, {"Structures", "Group try-dive"}});
+    const Id baptemeField = add({.name = "baptemeField",
+                                 .kind = ControlKind::decimal,
+                                 .field = "bapteme",
+                                 .label = {"Structures", "Label try-dive"},
+                                 .unit = literal("€")});
+    const int offersGroup = group({2, {"Structures", "Group dives"}, GroupLayout::columns});
+    const std::array<Id, 5> plongee_Field = addEach<5>(
+        offers, {.name = "plongee_%Field", .field = "plongee_%", .label = {"Structures", "Label dive"}, .width = 28});
+    const std::array<Id, 5> prix_Field = addEach<5>(offers, {.name = "prix_%Field",
+                                                             .kind = ControlKind::decimal,
+                                                             .field = "prix_%",
+                                                             .label = {"Structures", "Label price"},
+                                                             .unit = literal("€")});
+    const int coursesGroup = group({2, {"Structures", "Group courses"}, GroupLayout::columns});
+    const std::array<Id, 6> formation_Field = addEach<6>(
+        courses,
+        {.name = "formation_%Field", .field = "formation_%", .label = {"Structures", "Label course"}, .width = 28});
+    const std::array<Id, 6> prixForm_Field = addEach<6>(courses, {.name = "prixForm_%Field",
+                                                                  .kind = ControlKind::decimal,
+                                                                  .field = "prixForm_%",
+                                                                  .label = {"Structures", "Label price"},
+                                                                  .unit = literal("€")});
+
+    // Page 3: the week and remarks.
+    const int hoursGroup = group({3, {"Structures", "Group hours"}, GroupLayout::rows});
+    const Week hours = addWeek();
+    const int remarksGroup = group({3, {"Structures", "Group remarks"}});
+    const Id remarquesField = add({.name = "remarquesField", .kind = ControlKind::longText, .field = "remarques"});
+
+    static const StructuresControls& table() {
+        static const StructuresControls controls;
+        return controls;
+    }
+
+private:
+    StructuresControls() = default;
+};
+
 class StructuresForm : public RecordBookForm<StructuresControls, Structures> {
 public:
     using RecordBookForm::RecordBookForm;
@@ -131,7 +227,7 @@ StyledText cardOf(const RecordList& records, const Desktop& desktop, const QStri
         card.entry({"Structures", "Cotation"}, club.cotation);
         card.entry({"Structures", "Update"}, club.miseAJour);
         card.entry({"Structures", "Prices"}, priceList(club));
-        card.entry({"Structures", "Schedules"}, QString());
+        card.heading({"Structures", "Schedules"});
         addWeek(card, club, days);
         card.entry({"Structures", "NBDives"}, club.nbPlongees);
         card.entry({"Structures", "Remarks"}, club.remarques);
@@ -155,20 +251,15 @@ const RecordLayout& Structures::layout() {
     return structuresLayout;
 }
 
-const StructuresControls& StructuresControls::table() {
-    static const StructuresControls controls;
-    return controls;
-}
-
 const BookDescription& adressesStruct() {
-    static const BookDescription description{
+    static constexpr BookDescription description{
         .kind = {literal("Structures"), "Structures", "structures"},
         .layoutName = "Structures",
         .newAction = "newStructureDocumentMenuAction",
-        .layout = Structures::layout,
+        .layout = &Structures::layout,
         .typeCheck = TypeCheck::none,
         .columns = columns,
-        .tableStyle = plainTableStyle,
+        .tableStyle = &plainTableStyle,
         .pages = pages,
         .numberField = "nomField",
         .tableToolBar = tools.tableToolBar("structureTableViewWindowToolbar"),
@@ -177,9 +268,9 @@ const BookDescription& adressesStruct() {
         .words = recordBookWords({"Structures", "Edit window"}, {"Structures", "Menu clubs"}, {"Structures", "Clubs"}),
         .searches = searches,
         .print = recordBookPrint,
-        .card = cardOf,
-        .makeForm = makeRecordBookForm<StructuresForm>,
-        .make = makeRecordBook<Structures, adressesStruct>,
+        .card = &cardOf,
+        .makeForm = &makeRecordBookForm<StructuresForm>,
+        .make = &makeRecordBook<Structures, adressesStruct>,
     };
     return description;
 }
