@@ -62,6 +62,7 @@ struct BookCommands {
 /// One type of document, whole: everything that tells it from the other nine. What all share is Book and its windows.
 struct BookDescription {
     DocumentKind kind;
+    Title title;             ///< in the menu of new documents and in file dialogs
     const char* layoutName;  ///< under which its windows keep their places ("Materiel")
     const char* newAction;   ///< the new-document action ("newMaterielDocumentMenuAction")
     const RecordLayout& (*layout)();

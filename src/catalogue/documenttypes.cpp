@@ -18,9 +18,8 @@ std::vector<CatalogueType> makeTypes() {
                                           return std::make_unique<Carnet>(desktop, logbookExportTypes());
                                       },
                                       logbookExports()}};
-    for (const auto* book : {&invMateriel(), &repEpaves(), &maintComp(), &rebreatherServ(), &invConso(), &previBudget(),
-                             &adressesEts(), &adressesStruct(), &diversDocuments()}) {
-        types.push_back({book->kind, book, book->make});
+    for (const auto& book : recordBooks) {
+        types.push_back({book().kind, &book(), book().make});
     }
     return types;
 }

@@ -3,6 +3,7 @@
 #include "base/texts.h"
 #include "desktop/clock.h"
 #include "desktop/preferences.h"
+#include "dives/divecard.h"
 #include "logbook/carnettoolbars.h"
 #include "logbook/divecells.h"
 #include "logbook/divecolumns.h"
@@ -61,6 +62,7 @@ constexpr BookWords words{
 const BookDescription& carnetDescription() {
     static const BookDescription description{
         .kind = {{"Main", "Carnet de plongee"}, "Plongee", "carnet"},
+        .title = {"Main", "Type logbook"},
         .layoutName = "Carnet",
         .newAction = "newCarnetDocumentMenuAction",
         .layout = &Plongee::layout,
@@ -83,6 +85,14 @@ const BookDescription& carnetDescription() {
         .words = words,
         .searches = searches,
         .print = Carnet::defaultPrintingSettings(true),
+        .card =
+            [](const RecordList& records, const Desktop& desktop, const QString&) {
+                std::vector<DivePointer> dives;
+                for (const auto& record : records) {
+                    dives.push_back(std::static_pointer_cast<const Plongee>(record));
+                }
+                return diveCard(dives, desktop.preferences);
+            },
         .makeForm = [](Desktop& desktop) -> std::unique_ptr<BookForm> { return std::make_unique<DiveForm>(desktop); },
         .make = [](Desktop& desktop) -> std::unique_ptr<BookBase> { return std::make_unique<Carnet>(desktop); },
     };

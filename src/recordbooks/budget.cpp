@@ -368,6 +368,7 @@ Expected<RecordList> importFromVersion20(QByteArrayView data) {
 const BookDescription& previBudget() {
     static constexpr BookDescription description{
         .kind = {literal("Budget"), "Budget", "budget"},
+        .title = {"Main", "Type budget"},
         .layoutName = "Budget",
         .newAction = "newBudgetDocumentMenuAction",
         .layout = &Budget::layout,

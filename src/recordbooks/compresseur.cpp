@@ -364,6 +364,7 @@ const RecordLayout& Compresseur::layout() {
 const BookDescription& maintComp() {
     static constexpr BookDescription description{
         .kind = {literal("Compresseur"), "Compresseur", "compresseur"},
+        .title = {"Main", "Type compressor"},
         .layoutName = "Compresseur",
         .newAction = "newCompresseurDocumentMenuAction",
         .layout = &Compresseur::layout,

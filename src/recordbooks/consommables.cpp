@@ -141,6 +141,7 @@ const RecordLayout& Consommables::layout() {
 const BookDescription& invConso() {
     static constexpr BookDescription description{
         .kind = {literal("Consommables"), "Consommables", "consommables"},
+        .title = {"Main", "Type consumables"},
         .layoutName = "Consommables",
         .newAction = "newConsommablesDocumentMenuAction",
         .layout = &Consommables::layout,

@@ -123,6 +123,7 @@ const RecordLayout& DiversDocs::layout() {
 const BookDescription& diversDocuments() {
     static constexpr BookDescription description{
         .kind = {{"Main", "Divers documents"}, "DiversDocs", "documents"},
+        .title = {"Main", "Type documents"},
         .layoutName = "Documents",
         .newAction = "newDocumentDocumentMenuAction",
         .layout = &DiversDocs::layout,

@@ -201,6 +201,7 @@ const RecordLayout& Entreprises::layout() {
 const BookDescription& adressesEts() {
     static constexpr BookDescription description{
         .kind = {literal("Entreprises"), "Entreprises", "entreprises"},
+        .title = {"Main", "Type companies"},
         .layoutName = "Entreprises",
         .newAction = "newEntrepriseDocumentMenuAction",
         .layout = &Entreprises::layout,

@@ -445,6 +445,7 @@ const RecordLayout& Epaves::layout() {
 const BookDescription& repEpaves() {
     static constexpr BookDescription description{
         .kind = {literal("Epaves"), "Epaves", "epaves"},
+        .title = {"Main", "Type wrecks"},
         .layoutName = "Epaves",
         .newAction = "newEpavesDocumentMenuAction",
         .layout = &Epaves::layout,

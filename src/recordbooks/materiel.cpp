@@ -331,6 +331,7 @@ double Materiel::inspectionProgress(const Date& now) const {
 const BookDescription& invMateriel() {
     static constexpr BookDescription description{
         .kind = {{"Main", "Materiel"}, "Materiel", "materiel"},
+        .title = {"Main", "Type equipment"},
         .layoutName = "Materiel",
         .newAction = "newMaterielDocumentMenuAction",
         .layout = &Materiel::layout,

@@ -338,6 +338,7 @@ Date endOfCellLife(const Date& fitted, qint32 months) {
 const BookDescription& rebreatherServ() {
     static constexpr BookDescription description{
         .kind = {{"Main", "Rebreather"}, "Rebreather", "rebreather"},
+        .title = {"Main", "Type rebreather"},
         .layoutName = "Rebreather",
         .newAction = "newRebreatherDocumentMenuAction",
         .layout = &Rebreather::layout,

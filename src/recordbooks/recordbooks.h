@@ -18,7 +18,8 @@ const BookDescription& adressesEts();
 const BookDescription& adressesStruct();
 const BookDescription& diversDocuments();
 
-/// All of them.
-inline constexpr std::array recordBooks{&invMateriel, &repEpaves, &maintComp, &rebreatherServ, &invConso};
+/// All of them, in the order of the menu.
+inline constexpr std::array recordBooks{&invMateriel, &repEpaves,   &maintComp,      &rebreatherServ, &invConso,
+                                        &previBudget, &adressesEts, &adressesStruct, &diversDocuments};
 
 }  // namespace tavrel

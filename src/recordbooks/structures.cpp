@@ -254,6 +254,7 @@ const RecordLayout& Structures::layout() {
 const BookDescription& adressesStruct() {
     static constexpr BookDescription description{
         .kind = {literal("Structures"), "Structures", "structures"},
+        .title = {"Main", "Type clubs"},
         .layoutName = "Structures",
         .newAction = "newStructureDocumentMenuAction",
         .layout = &Structures::layout,

@@ -203,6 +203,16 @@
 <message><source>Toolbar shows</source><translation>Show</translation></message>
 <message><source>Toolbar words</source><translation>Words</translation></message>
 <message><source>Toolbar words beside icons</source><translation>Words beside icons</translation></message>
+<message><source>Type budget</source><translation>Budget Forecast</translation></message>
+<message><source>Type clubs</source><translation>Club Address Book</translation></message>
+<message><source>Type companies</source><translation>Company Address Book</translation></message>
+<message><source>Type compressor</source><translation>Compressor Maintenance</translation></message>
+<message><source>Type consumables</source><translation>Consumables Inventory</translation></message>
+<message><source>Type documents</source><translation>Miscellaneous Documents</translation></message>
+<message><source>Type equipment</source><translation>Equipment Inventory</translation></message>
+<message><source>Type logbook</source><translation>Dive Logbook</translation></message>
+<message><source>Type rebreather</source><translation>Rebreather Service Log</translation></message>
+<message><source>Type wrecks</source><translation>Wreck Repertory</translation></message>
 <message><source>Undo</source><translation>Undo</translation></message>
 <message><source>Undo add card</source><translation>Add Card</translation></message>
 <message><source>Undo delete card</source><translation>Delete Cards</translation></message>

@@ -203,6 +203,16 @@
 <message><source>Toolbar shows</source><translation>Afficher</translation></message>
 <message><source>Toolbar words</source><translation>Texte</translation></message>
 <message><source>Toolbar words beside icons</source><translation>Texte à côté des icônes</translation></message>
+<message><source>Type budget</source><translation>Budget prévisionnel</translation></message>
+<message><source>Type clubs</source><translation>Carnet d’adresses des clubs</translation></message>
+<message><source>Type companies</source><translation>Carnet d’adresses des entreprises</translation></message>
+<message><source>Type compressor</source><translation>Maintenance du compresseur</translation></message>
+<message><source>Type consumables</source><translation>Inventaire des consommables</translation></message>
+<message><source>Type documents</source><translation>Documents divers</translation></message>
+<message><source>Type equipment</source><translation>Inventaire du matériel</translation></message>
+<message><source>Type logbook</source><translation>Carnet de plongée</translation></message>
+<message><source>Type rebreather</source><translation>Entretien du recycleur</translation></message>
+<message><source>Type wrecks</source><translation>Répertoire des épaves</translation></message>
 <message><source>Undo</source><translation>Annuler</translation></message>
 <message><source>Undo add card</source><translation>Ajouter la fiche</translation></message>
 <message><source>Undo delete card</source><translation>Supprimer les fiches</translation></message>
