@@ -4,7 +4,9 @@
 #include "base/texts.h"
 #include "book/booktable.h"
 #include "book/tablepages.h"
+#include "logbook/diveprofile.h"
 
+#include <algorithm>
 #include <array>
 
 namespace tavrel {
@@ -29,6 +31,20 @@ Expected<Pages> cardPages(Session& session, const std::vector<int>& rows) {
     });
 }
 
+/// The dive at the first of the rows, or the last one.
+Expected<DivePointer> diveOf(Session& session, const std::vector<int>& rows) {
+    return session.logbook().and_then([&](Carnet* carnet) -> Expected<DivePointer> {
+        const auto dive = carnet->recordAt(rows.empty() ? carnet->count() - 1 : rows.front());
+        return dive ? Expected<DivePointer>(dive) : failure(textWith("Cli", "No such row", 0, 0));
+    });
+}
+
+Expected<Pages> profilePages(Session& session, const std::vector<int>& rows) {
+    return diveOf(session, rows).map([&](const DivePointer& dive) {
+        return pagesOf(profileDrawing(*dive, session.desktop.desktop().preferences));
+    });
+}
+
 struct Rendering {
     const char* name;
     Expected<Pages> (*pages)(Session& session, const std::vector<int>& rows);
@@ -37,6 +53,7 @@ struct Rendering {
 constexpr std::array all{
     Rendering{"table", tablePages},
     Rendering{"card", cardPages},
+    Rendering{"profile", profilePages},
 };
 
 /// NAME.png, NAME-2.png …
