@@ -186,7 +186,18 @@ void RecordTable::keyPressEvent(QKeyEvent* event) {
         }
         return;
     }
+    const RowSelectionModel::OneDoing key(*selection_);
     QTableView::keyPressEvent(event);
+}
+
+void RecordTable::mousePressEvent(QMouseEvent* event) {
+    const RowSelectionModel::OneDoing press(*selection_);
+    QTableView::mousePressEvent(event);
+}
+
+void RecordTable::selectAll() {
+    const RowSelectionModel::OneDoing all(*selection_);
+    QTableView::selectAll();
 }
 
 void RecordTable::changeEvent(QEvent* event) {

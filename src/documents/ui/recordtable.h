@@ -29,6 +29,7 @@ public:
     void setChooser(RowChooser choose);
     /// What stands in the table while it has no rows.
     void setPlaceholder(const QString& text);
+    void selectAll() override;
     /// Scrolls to the row, whatever columns are hidden.
     void reveal(int row);
     /// The words of the selected rows' cells: visible columns in the order shown, a tab between two, a line per row.
@@ -43,6 +44,7 @@ protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <utility>
 
 namespace tavrel {
 
@@ -63,7 +62,7 @@ void RowSelectionModel::select(const QItemSelection& selection, SelectionFlags c
         QItemSelectionModel::select(selection, command);
         return;
     }
-    if (command == NoUpdate) {
+    if (command == NoUpdate || refused_) {
         return;
     }
     if (document_.selectedRows() != combined_) {  // the document selected something itself since the last gesture
@@ -85,23 +84,21 @@ void RowSelectionModel::select(const QItemSelection& selection, SelectionFlags c
     combined_ = combine(settled_, gesture_, operation_);
 
     const QScopedValueRollback answering(answering_, true);
-    refused_ = false;
     if (!choose_) {
         document_.selectRows(combined_);
     } else if (!choose_(combined_)) {
-        refused_ = true;
         settled_ = document_.selectedRows();
         combined_ = settled_;
         gesture_.clear();
+        refused_ = true;
         mirror();
     }
 }
 
 void RowSelectionModel::setCurrentIndex(const QModelIndex& index, SelectionFlags command) {
     const QPersistentModelIndex before = currentIndex();
-    refused_ = false;
     QItemSelectionModel::setCurrentIndex(index, command);
-    if (std::exchange(refused_, false)) {
+    if (refused_) {
         QItemSelectionModel::setCurrentIndex(before, NoUpdate);
     }
 }

@@ -30,6 +30,19 @@ public:
     /// Selects on behalf of the user; where it answers no, everything stays selected as it was.
     void setChooser(std::function<bool(const QList<int>& rows)> choose) { choose_ = std::move(choose); }
 
+    /// While one lives the user does one thing. Views select more than once on one key; after a no they are not heard
+    /// again.
+    class OneDoing {
+    public:
+        explicit OneDoing(RowSelectionModel& model) : model_(model) { model_.refused_ = false; }
+        ~OneDoing() { model_.refused_ = false; }
+        OneDoing(const OneDoing&) = delete;
+        OneDoing& operator=(const OneDoing&) = delete;
+
+    private:
+        RowSelectionModel& model_;
+    };
+
     /// Whether what changes now comes from the document.
     bool isMirroring() const { return mirroring_; }
 

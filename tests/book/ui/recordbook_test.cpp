@@ -85,11 +85,16 @@ TEST_F(RecordBookTest, asksOnceWhateverTheWayOutOfANewRecord) {
         std::function<void()> leave;
     } ways[] = {
         {"another row", [&] { click(1); }},
-        {"the arrow key", [&] { QTest::keyClick(&window.table(), Qt::Key_Down); }},
+        {"the arrow key", [&] { QTest::keyClick(&window.table(), Qt::Key_Up); }},
         {"all rows", [&] { command("selectAll")->trigger(); }},
         {"a new record", [&] { command("newThing")->trigger(); }},
         {"closing the form", [&] { window.editWindow().close(); }},
-        {"Escape", [&] { QTest::keyClick(&window.editWindow(), Qt::Key_Escape); }},
+        {"Escape",
+         [&] {
+             window.editWindow().activateWindow();
+             EXPECT_TRUE(QTest::qWaitForWindowActive(&window.editWindow()));
+             QTest::keyClick(&window.editWindow(), Qt::Key_Escape);
+         }},
         {"saving", [&] { EXPECT_FALSE(window.leaveEditing(Settling::saving)); }},
         {"leaving", [&] { EXPECT_FALSE(window.leaveEditing(Settling::leaving)); }},
         {"printing", [&] { command("imprimer")->trigger(); }},
