@@ -46,7 +46,7 @@ Expected<QByteArray> pngBytes(const Pages& pages) {
     const QSizeF size = stackedSize(pages);
     const double scale = std::min(pixelsPerPoint, longestSide / std::max(size.width(), size.height()));
     if (scale < leastPixelsPerPoint) {
-        return failure(text("Main", "Picture too large"));
+        return failure(text("Main", "Drawing too long"));
     }
     QImage image((size * scale).toSize(), QImage::Format_RGB32);
     if (image.isNull()) {

@@ -36,18 +36,24 @@ struct DiveControls : ControlTable<DiveControls> {
     const Id profondeurField = add({.name = "profondeurField",
                                     .kind = ControlKind::decimal,
                                     .field = "profondeur",
-                                    .label = {"Carnet", "Label maximum depth"}});
+                                    .label = {"Carnet", "Label maximum depth"},
+                                    .usualMinimum = 0,
+                                    .usualMaximum = 1000});
     const Id ftDepthField = add({.name = "ftDepthField", .kind = ControlKind::readOnly, .beside = true});
     const Id tempsField = add({.name = "tempsField",
                                .kind = ControlKind::wholeNumber,
                                .field = "temps",
                                .label = {"Carnet", "Label dive time"},
-                               .unit = literal("min")});
+                               .unit = literal("min"),
+                               .usualMinimum = 0,
+                               .usualMaximum = 1440});
     const Id altitudeField = add({.name = "altitudeField",
                                   .kind = ControlKind::wholeNumber,
                                   .field = "altitude",
                                   .label = {"Carnet", "Label altitude"},
-                                  .clearedText = "0"});
+                                  .clearedText = "0",
+                                  .usualMinimum = 0,
+                                  .usualMaximum = 4000});
     const Id ftAltitudeField = add({.name = "ftAltitudeField", .kind = ControlKind::readOnly, .beside = true});
 
     const int placeGroup = group({1, {"Carnet", "Group place"}, GroupLayout::pairs, 2});
@@ -227,7 +233,9 @@ struct DiveControls : ControlTable<DiveControls> {
     const std::array<Id, 6> depthDeco_Level_Field = addEach<6>(levels, {.name = "depthDeco_Level_%_Field",
                                                                         .kind = ControlKind::decimal,
                                                                         .field = "decoDepth_Level_%",
-                                                                        .label = {"Carnet", "Label stop depth"}});
+                                                                        .label = {"Carnet", "Label stop depth"},
+                                                                        .usualMinimum = 0,
+                                                                        .usualMaximum = 1000});
     const std::array<Id, 6> ft_m_Field =
         addEach<6>(stopCaptions, {.name = "ft_%m_Field", .kind = ControlKind::readOnly, .beside = true});
     const std::array<Id, 6> timeDeco_Level_Field = addEach<6>(levels, {.name = "timeDeco_Level_%_Field",
@@ -235,19 +243,25 @@ struct DiveControls : ControlTable<DiveControls> {
                                                                        .field = "decoTime_Level_%",
                                                                        .label = {"Carnet", "Label stop time"},
                                                                        .unit = literal("min"),
-                                                                       .clearedText = "-"});
+                                                                       .clearedText = "-",
+                                                                       .usualMinimum = 0,
+                                                                       .usualMaximum = 1440});
     const std::array<Id, 6> decoO2_Level_Field = addEach<6>(levels, {.name = "decoO2_Level_%_Field",
                                                                      .kind = ControlKind::wholeNumber,
                                                                      .field = "decoO2_Level_%",
                                                                      .label = {"Carnet", "Label oxygen"},
                                                                      .unit = literal("%"),
-                                                                     .clearedText = "-"});
+                                                                     .clearedText = "-",
+                                                                     .usualMinimum = 0,
+                                                                     .usualMaximum = 100});
     const std::array<Id, 6> decoHe_Level_Field = addEach<6>(levels, {.name = "decoHe_Level_%_Field",
                                                                      .kind = ControlKind::wholeNumber,
                                                                      .field = "decoHe_Level_%",
                                                                      .label = {"Carnet", "Label helium"},
                                                                      .unit = literal("%"),
-                                                                     .clearedText = "0"});
+                                                                     .clearedText = "0",
+                                                                     .usualMinimum = 0,
+                                                                     .usualMaximum = 100});
 
     const int runtimeGroup = group({3, {"Carnet", "Group run time"}, GroupLayout::pairs, 1, 1});
     const Id runtimeField = add({.name = "runtimeField", .kind = ControlKind::longText, .field = "runtime"});
@@ -303,12 +317,16 @@ struct DiveControls : ControlTable<DiveControls> {
                                                              .kind = ControlKind::wholeNumber,
                                                              .field = "pressionDepart%",
                                                              .label = {"Carnet", "Label start pressure"},
-                                                             .unit = literal("bar")});
+                                                             .unit = literal("bar"),
+                                                             .usualMinimum = 0,
+                                                             .usualMaximum = 400});
     const std::array<Id, 2> finField = addEach<2>(tanks, {.name = "fin%Field",
                                                           .kind = ControlKind::wholeNumber,
                                                           .field = "pressionFin%",
                                                           .label = {"Carnet", "Label end pressure"},
-                                                          .unit = literal("bar")});
+                                                          .unit = literal("bar"),
+                                                          .usualMinimum = 0,
+                                                          .usualMaximum = 400});
     const std::array<Id, 2> gazPopUp = addEach<2>(tanks, {.name = "gaz%PopUp",
                                                           .kind = ControlKind::popUp,
                                                           .field = "gaz%",
@@ -319,13 +337,17 @@ struct DiveControls : ControlTable<DiveControls> {
                                                             .field = "o2Mix%",
                                                             .label = {"Carnet", "Label oxygen"},
                                                             .unit = literal("%"),
-                                                            .clearedText = "21"});
+                                                            .clearedText = "21",
+                                                            .usualMinimum = 1,
+                                                            .usualMaximum = 100});
     const std::array<Id, 2> heMixField = addEach<2>(tanks, {.name = "heMix%Field",
                                                             .kind = ControlKind::wholeNumber,
                                                             .field = "heMix%",
                                                             .label = {"Carnet", "Label helium"},
                                                             .unit = literal("%"),
-                                                            .clearedText = "0"});
+                                                            .clearedText = "0",
+                                                            .usualMinimum = 0,
+                                                            .usualMaximum = 86});
     const std::array<Id, 2> n2MixField = addEach<2>(tanks, {.name = "n2Mix%Field",
                                                             .kind = ControlKind::readOnly,
                                                             .label = {"Carnet", "Label nitrogen"},

@@ -39,6 +39,28 @@ QStringList DiveForm::ownList(int list) const {
     return lists[static_cast<std::size_t>(list)];
 }
 
+QString DiveForm::hint(int control) const {
+    if (control == controls_.dateField.index &&
+        state().date(controls_.dateField).toDateTime() > desktop().clock.now()) {
+        return text("Carnet", "Hint future day");
+    }
+    return gainsGas(control) ? text("Carnet", "Hint pressure rises") : RecordForm::hint(control);
+}
+
+bool DiveForm::gainsGas(int endPressure) const {
+    const auto rises = [&](const auto& starts, const auto& ends) {
+        for (std::size_t each = 0; each < ends.size(); ++each) {
+            if (ends[each].index == endPressure) {
+                return state().integer(ends[each]) > state().integer(starts[each]);
+            }
+        }
+        return false;
+    };
+    return rises(controls_.departField, controls_.finField) ||
+           rises(controls_.pony_DepartField, controls_.pony_FinField) ||
+           rises(controls_.bailout_DepartField, controls_.bailout_FinField);
+}
+
 namespace {
 
 /// The series that the record's field holds; null when it is none.

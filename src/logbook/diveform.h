@@ -35,6 +35,8 @@ public:
     void razHeliox();
 
     QStringList ownList(int list) const override;
+    /// Also a day to come, and a tank or bottle with more gas at the end than at the start.
+    QString hint(int control) const override;
     bool holdsBeside(const QString& field) const override;
     /// A series of the profile, as numbers with commas.
     Expected<void> enterBeside(const QString& field, const QString& value) override;
@@ -53,6 +55,7 @@ protected:
 
 private:
     void nameDifficulty();
+    bool gainsGas(int endPressure) const;
     void presetGas(qint64 oxygen, qint64 nitrogen, qint64 helium);
 
     const DiveControls& controls_;

@@ -255,6 +255,40 @@ TEST_F(DiveFormTest, followsTheEntries) {
     EXPECT_EQ(mix(), u"21/79/0");
 }
 
+TEST_F(DiveFormTest, hintsAtWhatIsNotReadAsTypedOrIsUnlikely) {
+    const struct {
+        const char* control;
+        const char* typed;
+        const char* hint;
+    } cases[] = {
+        {"profondeurField", "abc33.5x", "read as 0"},
+        {"profondeurField", "33,5", ""},
+        {"profondeurField", "33.5 m", "read as 33.5"},
+        {"profondeurField", "", ""},
+        {"tempsField", "45.5", "read as 45"},
+        {"tempsField", "99999", "usually 0 to 1440"},
+        {"tempsField", "99999999999", "read as 2147483647"},
+        {"altitudeField", "4001", "usually 0 to 4000"},
+        {"o2MixField", "150", "usually 1 to 100"},
+        {"volumeBlocField", "12 l", "read as 12"},
+        {"tempEauField", "-", ""},
+        {"surfaceField", "--:--", ""},
+        {"surfaceField", "3 h", ""},
+        {"departField", "200", ""},
+        {"finField", "210", "above the start"},
+        {"finField", "50", ""},
+    };
+    for (const auto& it : cases) {
+        type(it.control, it.typed);
+        EXPECT_EQ(form.hint(indexOf(it.control)), QString::fromUtf8(it.hint)) << it.control << ' ' << it.typed;
+    }
+    const int day = controls.dateField.index;
+    form.state().pick(day, Date::fromDateTime(desktop.clock.moment));
+    EXPECT_TRUE(form.hint(day).isEmpty());
+    form.state().pick(day, Date::fromDateTime(desktop.clock.moment.addDays(1)));
+    EXPECT_EQ(form.hint(day), u"in the future");
+}
+
 TEST_F(DiveFormTest, offersNewWordsToTheSharedLists) {
     desktop.pickLists.append(PickList::tableauDesLieux, QStringLiteral("Nice"));
     const auto finish = [&](const char* control, const char* typed) {

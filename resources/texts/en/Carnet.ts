@@ -136,6 +136,8 @@
 <message><source>Hard</source><translation>Hard</translation></message>
 <message><source>Helium percent</source><translation>Helium must lie between 0 and 86 percent.</translation></message>
 <message><source>High tide</source><translation>High tide</translation></message>
+<message><source>Hint future day</source><translation>in the future</translation></message>
+<message><source>Hint pressure rises</source><translation>above the start</translation></message>
 <message><source>Import UDCF</source><translation>Import UDCF</translation></message>
 <message><source>Import UDDF</source><translation>Import UDDF</translation></message>
 <message><source>Import cancelled</source><translation>The import was cancelled.</translation></message>

@@ -53,6 +53,7 @@
 <message><source>Document not opened</source><translation>“%@” could not be opened: %@</translation></message>
 <message><source>Document not saved</source><translation>“%@” could not be saved: %@</translation></message>
 <message><source>Don't save</source><translation>Don’t Save</translation></message>
+<message><source>Drawing too long</source><translation>This is too long for one picture. A PDF file has room for it.</translation></message>
 <message><source>Empty record book</source><translation>There are no cards yet. %@ makes a new one.</translation></message>
 <message><source>Equipment types</source><translation>Equipment Types</translation></message>
 <message><source>Erase</source><translation>Clear</translation></message>
@@ -143,7 +144,6 @@
 <message><source>Page of pages</source><translation>Page %d of %d</translation></message>
 <message><source>Pages</source><translation>Pages of the form</translation></message>
 <message><source>Picture cannot be made</source><translation>The picture could not be made.</translation></message>
-<message><source>Picture too large</source><translation>This is too long for one picture. A PDF file has room for it.</translation></message>
 <message><source>Picture choose</source><translation>Choose…</translation></message>
 <message><source>Picture copy</source><translation>Copy</translation></message>
 <message><source>Picture damaged</source><translation>The picture is damaged.</translation></message>

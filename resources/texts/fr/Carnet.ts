@@ -136,6 +136,8 @@
 <message><source>Hard</source><translation>Difficile</translation></message>
 <message><source>Helium percent</source><translation>L’hélium doit être compris entre 0 et 86 pour cent.</translation></message>
 <message><source>High tide</source><translation>Pleine mer</translation></message>
+<message><source>Hint future day</source><translation>dans le futur</translation></message>
+<message><source>Hint pressure rises</source><translation>supérieure au départ</translation></message>
 <message><source>Import UDCF</source><translation>Importer UDCF</translation></message>
 <message><source>Import UDDF</source><translation>Importer UDDF</translation></message>
 <message><source>Import cancelled</source><translation>L’importation a été annulée.</translation></message>

@@ -53,6 +53,7 @@
 <message><source>Document not opened</source><translation>Impossible d’ouvrir « %@ » : %@</translation></message>
 <message><source>Document not saved</source><translation>Impossible d’enregistrer « %@ » : %@</translation></message>
 <message><source>Don't save</source><translation>Ne pas enregistrer</translation></message>
+<message><source>Drawing too long</source><translation>C’est trop long pour une seule image. Un fichier PDF peut le contenir.</translation></message>
 <message><source>Empty record book</source><translation>Il n’y a pas encore de fiche. %@ en crée une.</translation></message>
 <message><source>Equipment types</source><translation>Types de matériel</translation></message>
 <message><source>Erase</source><translation>Effacer</translation></message>
@@ -143,7 +144,6 @@
 <message><source>Page of pages</source><translation>Page %d sur %d</translation></message>
 <message><source>Pages</source><translation>Pages du formulaire</translation></message>
 <message><source>Picture cannot be made</source><translation>L’image n’a pas pu être produite.</translation></message>
-<message><source>Picture too large</source><translation>C’est trop long pour une seule image. Un fichier PDF peut le contenir.</translation></message>
 <message><source>Picture choose</source><translation>Choisir…</translation></message>
 <message><source>Picture copy</source><translation>Copier</translation></message>
 <message><source>Picture damaged</source><translation>L’image est endommagée.</translation></message>

@@ -80,8 +80,8 @@ void CardWindow::print() {
     if (!runPrintDialog(this, print_, printer)) {
         return;
     }
-    printer.setDocName(windowTitle());
-    if (!printText(printer, *textDocumentOf(card_), print_) && printer.printerState() == QPrinter::Error) {
+    if (!printText(printer, *textDocumentOf(card_), print_, windowTitle()) &&
+        printer.printerState() == QPrinter::Error) {
         desktop_.alerts.fail({text("Main", "Printing failed"), printer.outputFileName()});
     }
 }

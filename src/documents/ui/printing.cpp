@@ -99,6 +99,24 @@ std::vector<Run> fittingRuns(const std::vector<int>& lengths, double available) 
     return runs;
 }
 
+/// The room below the contents of a page for its title and number, in the units of the sheet.
+int footHeight(const QFont& font) {
+    return QFontMetrics(font).height() * 3 / 2;
+}
+
+void paintFoot(QPainter& painter, const QSizeF& sheet, const QFont& font, const QString& title, int page, int pages) {
+    const int height = footHeight(font);
+    const QRectF foot(0, sheet.height() - height, sheet.width(), height);
+    const QString number = textWith("Main", "Page number", page + 1, pages);
+    painter.setFont(font);
+    painter.setPen(Qt::black);
+    painter.drawText(foot, Qt::AlignRight | Qt::AlignBottom | Qt::TextSingleLine, number);
+    const QFontMetrics metrics(font);
+    const int room = static_cast<int>(sheet.width()) - metrics.horizontalAdvance(number) - 3 * cellMargin;
+    painter.drawText(foot, Qt::AlignLeft | Qt::AlignBottom | Qt::TextSingleLine,
+                     metrics.elidedText(title, Qt::ElideMiddle, room));
+}
+
 class TablePages {
 public:
     TablePages(const QTableView& table, const Sheet& sheet, const PrintSettings& settings)
@@ -236,22 +254,31 @@ void applyPrintSettings(QPrinter& printer, const PrintSettings& settings) {
 bool printTable(QPrinter& printer, const QTableView& table, const PrintSettings& settings, const QString& title) {
     printer.setDocName(title);
     const Sheet sheet(printer, table, settings.scale);
-    const TablePages pages(table, sheet, settings);
-    return paintPages(printer, table.window(), sheet, pages.count(),
-                      [&](QPainter& painter, int page) { pages.paint(painter, page); });
+    const QFont font = inPixels(table.font());
+    Sheet contents = sheet;
+    contents.size.rheight() -= footHeight(font);
+    const TablePages pages(table, contents, settings);
+    return paintPages(printer, table.window(), sheet, pages.count(), [&](QPainter& painter, int page) {
+        paintFoot(painter, sheet.size, font, title, page, pages.count());
+        pages.paint(painter, page);
+    });
 }
 
-bool printText(QPrinter& printer, const QTextDocument& text, const PrintSettings& settings) {
+bool printText(QPrinter& printer, const QTextDocument& text, const PrintSettings& settings, const QString& title) {
+    printer.setDocName(title);
     const std::unique_ptr<QTextDocument> laidOut(text.clone());
     QWidget screen;
     const Sheet sheet(printer, screen, settings.scale);
     laidOut->documentLayout()->setPaintDevice(&screen);
     laidOut->setDocumentMargin(0);
-    laidOut->setPageSize(sheet.size);
+    const QFont font = inPixels(text.defaultFont());
+    const QSizeF contents(sheet.size.width(), sheet.size.height() - footHeight(font));
+    laidOut->setPageSize(contents);
     QAbstractTextDocumentLayout::PaintContext context;
     context.palette.setColor(QPalette::Text, Qt::black);
     return paintPages(printer, nullptr, sheet, laidOut->pageCount(), [&](QPainter& painter, int page) {
-        const QRectF part(QPointF(0, page * sheet.size.height()), sheet.size);
+        paintFoot(painter, sheet.size, font, title, page, laidOut->pageCount());
+        const QRectF part(QPointF(0, page * contents.height()), contents);
         painter.translate(0, -part.top());
         painter.setClipRect(part);
         context.clip = part;

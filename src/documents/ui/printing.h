@@ -17,11 +17,11 @@ void applyPrintSettings(QPrinter& printer, const PrintSettings& settings);
 
 /// Paints all rows of a table, its visible columns in their order with header texts, cell texts, fonts, colours and
 /// images, at the settings' scale (1 is the size on the screen) over as many pages as it takes, the header on each.
-/// Columns that do not fit beside the others go to further pages. The title names the print job. Long work shows its
-/// progress and can be cancelled; answers whether it came to its end.
+/// Columns that do not fit beside the others go to further pages. The title names the print job and stands below each
+/// page with its number. Long work shows its progress and can be cancelled; answers whether it came to its end.
 bool printTable(QPrinter& printer, const QTableView& table, const PrintSettings& settings, const QString& title);
 /// The same for a text, in black where it has no colours of its own.
-bool printText(QPrinter& printer, const QTextDocument& text, const PrintSettings& settings);
+bool printText(QPrinter& printer, const QTextDocument& text, const PrintSettings& settings, const QString& title);
 
 /// The print dialog (a printer or a PDF file) with the settings applied; whether to go on and print.
 bool runPrintDialog(QWidget* parent, const PrintSettings& settings, QPrinter& printer);

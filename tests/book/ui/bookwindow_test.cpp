@@ -283,15 +283,15 @@ TEST_F(BookWindowTest, offersTheCommandsThatItHas) {
     EXPECT_TRUE(placeholder->text().contains(command("newDive")->shortcut().toString(QKeySequence::NativeText)));
     auto& bar = window->toolBar();
     EXPECT_FALSE(bar.action(QStringLiteral("imprimer"))->isEnabled());
-    EXPECT_FALSE(bar.action(QStringLiteral("importUDCF")));
-    EXPECT_TRUE(window->importActions().isEmpty());
+    EXPECT_FALSE(bar.action(QStringLiteral("profil")));
 
-    int imports = 0;
+    int profiles = 0;
     static_cast<void>(window->editWindow());
-    window->provideCommand(QStringLiteral("importUDCF"), [&imports] { ++imports; });
-    window->importActions().first()->trigger();
-    window->editWindow().toolBar().action(QStringLiteral("importUDCF"))->trigger();
-    EXPECT_EQ(imports, 2);
+    window->provideCommand(QStringLiteral("profil"), [&profiles] { ++profiles; });
+    QAction* profile = bar.action(QStringLiteral("profil"));
+    EXPECT_EQ(window->editWindow().toolBar().action(QStringLiteral("profil")), profile);
+    EXPECT_EQ(window->ownMenuActions().back(), profile);
+    EXPECT_FALSE(profile->isEnabled()) << "there is no dive";
     QSignalSpy saves(window.get(), &DocumentWindow::saveRequested);
     bar.action(QStringLiteral("saveDocument"))->trigger();
     EXPECT_EQ(saves.count(), 1);
@@ -299,6 +299,8 @@ TEST_F(BookWindowTest, offersTheCommandsThatItHas) {
     hold(1);
     EXPECT_FALSE(placeholder->isVisible());
     EXPECT_TRUE(bar.action(QStringLiteral("imprimer"))->isEnabled());
+    profile->trigger();
+    EXPECT_EQ(profiles, 1);
 }
 
 TEST(ReadableOn, shiftsOnlyWhatTheGroundSwallows) {

@@ -1,6 +1,7 @@
 #include "documents/ui/printing.h"
 
 #include <QFile>
+#include <QFontMetrics>
 #include <QHeaderView>
 #include <QRegularExpression>
 #include <QStandardItemModel>
@@ -71,7 +72,9 @@ TEST_F(Printing, takesMarginsInPointsAndTheOrientation) {
 
 TEST_F(Printing, breaksTablesIntoPages) {
     applyPrintSettings(printer, settings);
-    const auto rowsPerPage = static_cast<int>((fitting(595 - 23.2 - 25) - 25) / 20);
+    // Below the rows stand the title and the page's number.
+    const double foot = QFontMetrics(table.font()).height() * 1.5;
+    const auto rowsPerPage = static_cast<int>((fitting(595 - 23.2 - 25) - 25 - foot) / 20);
     const auto columnsPerPage = static_cast<int>(fitting(842 - 20) / 200);
     const struct {
         int rows, columns, pages;
@@ -92,11 +95,11 @@ TEST_F(Printing, breaksTablesIntoPages) {
 TEST_F(Printing, breaksTextsIntoPages) {
     applyPrintSettings(printer, settings);
     QTextDocument text(QStringLiteral("A line of text\n").repeated(200));
-    EXPECT_TRUE(printText(printer, text, settings));
+    EXPECT_TRUE(printText(printer, text, settings, QStringLiteral("Card")));
     EXPECT_GT(printedPages(), 2);
     EXPECT_LT(printedPages(), 8);
     printer.setOutputFileName(folder.filePath(QStringLiteral("no folder/out.pdf")));
-    EXPECT_FALSE(printText(printer, text, settings));
+    EXPECT_FALSE(printText(printer, text, settings, QStringLiteral("Card")));
 }
 
 }  // namespace

@@ -35,6 +35,21 @@ TEST(LogbookWindow, renumbersFromTheNumberGiven) {
     EXPECT_EQ(carnet.count(), 3);
 }
 
+TEST(LogbookWindow, keepsItsImportsInAMenuOfTheirOwn) {
+    TestDesktop desktop;
+    Carnet carnet(desktop.desktop());
+    LogbookWindow window(carnet, desktop.desktop());
+    EXPECT_TRUE(window.importActions().isEmpty());
+    QStringList imports;
+    window.addImport(QStringLiteral("Handheld"), [&] { imports.append(QStringLiteral("handheld")); });
+    window.provideCommand(QStringLiteral("importUDCF"), [&] { imports.append(QStringLiteral("UDCF")); });
+    for (QAction* action : window.importActions()) {
+        action->trigger();
+        EXPECT_FALSE(window.ownMenuActions().contains(action));
+    }
+    EXPECT_EQ(imports, (QStringList{QStringLiteral("UDCF"), QStringLiteral("handheld")}));
+}
+
 }  // namespace
 
 }  // namespace tavrel
