@@ -1,6 +1,6 @@
+#include "archive/recordarchive.h"
 #include "benchmarks/ratio.h"
 #include "dives/plongee.h"
-#include "archive/recordarchive.h"
 
 #include <benchmark/benchmark.h>
 #include <zlib.h>

@@ -1,5 +1,5 @@
-#include "dives/plongee.h"
 #include "archive/recordarchive.h"
+#include "dives/plongee.h"
 
 #include <QByteArrayView>
 
@@ -25,8 +25,9 @@ struct Card : Record {
 };
 
 constexpr Item cardItems[] = {
-    {"numbers", member<&Card::numbers>}, {"picture", member<&Card::picture>}, {"text", member<&Card::text>},
-    {"date", member<&Card::date>},       {"number", member<&Card::number>},   {"depth", member<&Card::depth>, Travel::bitsAsInt},
+    {"numbers", member<&Card::numbers>}, {"picture", member<&Card::picture>},
+    {"text", member<&Card::text>},       {"date", member<&Card::date>},
+    {"number", member<&Card::number>},   {"depth", member<&Card::depth>, Travel::bitsAsInt},
 };
 constexpr RecordLayout cardLayout = recordLayout<Card>("Card", 1, cardItems);
 

@@ -17,7 +17,7 @@ namespace tavrel {
 
 namespace {
 
-constexpr double fontSize = 11;  // points, before the settings' scale
+constexpr int fontSize = 11;  // in points, which are the units of the page, before the settings' scale
 constexpr double padding = 4;
 const QColor ruleColour(0xb0, 0xb0, 0xb0);
 
@@ -49,7 +49,7 @@ struct Sheet {
 
 QFont fontOf(bool bold) {
     QFont font;
-    font.setPointSizeF(fontSize);
+    font.setPixelSize(fontSize);
     font.setBold(bold);
     return font;
 }

@@ -23,16 +23,21 @@ void ConsoleAlerts::fail(const Failure& failure) {
 }
 
 CliDesktop::CliDesktop(Console& console)
-    : preferences_({}, Preferences::Keeping::thisRun),
+    : options_(console.options),
+      preferences_({}, Preferences::Keeping::thisRun),
       pickLists_(preferences_),
       alerts_(console),
       clock_(console.options.now),
       desktop_{preferences_, notifications_, pickLists_, alerts_, clock_} {
-    for (const auto& [key, value] : console.options.preferences) {
+    applyOptions();
+    startDesktop(preferences_, pickLists_);
+}
+
+void CliDesktop::applyOptions() {
+    for (const auto& [key, value] : options_.preferences) {
         const QJsonDocument object = QJsonDocument::fromJson(value.toUtf8());
         preferences_.set(key, object.isObject() ? QVariant(object.object().toVariantMap()) : QVariant(value));
     }
-    startDesktop(preferences_, pickLists_);
 }
 
 }  // namespace tavrel

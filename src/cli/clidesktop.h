@@ -45,8 +45,11 @@ public:
     explicit CliDesktop(Console& console);
 
     Desktop& desktop() { return desktop_; }
+    /// Puts the settings of the run's options over all others, those included that a document set when it was made.
+    void applyOptions();
 
 private:
+    const RunOptions& options_;
     Preferences preferences_;
     NotificationCentre notifications_;
     PickLists pickLists_;

@@ -20,6 +20,7 @@ Expected<void> Session::open(const QString& path) {
         return tl::unexpected(openingFailure(path, kind.error()));
     }
     book = (*kind)->make(desktop.desktop());
+    desktop.applyOptions();
     return book->open(path);
 }
 

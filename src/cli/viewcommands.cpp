@@ -14,6 +14,7 @@
 
 #include <memory>
 #include <numeric>
+#include <optional>
 #include <ostream>
 
 namespace tavrel {
@@ -25,6 +26,7 @@ struct Arguments {
     std::string target;
     std::string what;
     std::vector<int> rows;
+    std::optional<int> row;  ///< of the form
     std::vector<std::string> entries;
     bool isNew = false;
     bool json = false;
@@ -35,7 +37,11 @@ template <class Work>
 void look(const Arguments& arguments, Console& console, Work work) {
     Session session(console);
     const Expected<void> done = session.open(pathArgument(arguments.file)).and_then([&]() -> Expected<void> {
-        for (const int row : arguments.rows) {
+        std::vector<int> rows = arguments.rows;
+        if (arguments.row) {
+            rows.push_back(*arguments.row);
+        }
+        for (const int row : rows) {
             if (auto checked = session.checkRow(row); !checked) {
                 return checked;
             }
@@ -175,13 +181,13 @@ void printForm(const FormStateBase& state, Console& console) {
 void runForm(const Arguments& arguments, Console& console) {
     look(arguments, console, [&](Session& session) -> Expected<void> {
         BookBase& book = *session.book;
-        if (arguments.isNew == !arguments.rows.empty()) {
+        if (arguments.isNew == arguments.row.has_value()) {
             wrongUsage(text("Cli", "Row or new"));
         }
         if (arguments.isNew) {
             book.newRecord();
         } else {
-            book.selectRows({arguments.rows.front()});
+            book.selectRows({*arguments.row});
         }
         enterAll(book.form(), arguments.entries);
         book.updateUI();
@@ -254,7 +260,7 @@ void addViewCommands(CLI::App& app, Console& console) {
 
     CLI::App* form =
         add("form", "Shows the edit form with a record, or a new one, and entries; stores nothing", runForm);
-    form->add_option("--row", arguments->rows, "The record's row, from 0")->expected(1);
+    form->add_option("--row", arguments->row, "The record's row, from 0");
     form->add_flag("--new", arguments->isNew, "A new record");
     form->add_option("ENTRIES", arguments->entries, "field=value, by the field's or the control's name");
     addJson(form);

@@ -16,10 +16,10 @@ struct ListChange {
     int inserted = 0;
 };
 
-/// A document that holds an ordered list of records of one class. They are shared, immutable values: a change replaces a
-/// record, never edits one in place. Every change of the list goes through changeList, which records one named undo step;
-/// a step keeps only what it took out of the list and what it put in, so that many small steps in a long list stay small.
-/// The selection belongs to the document; windows mirror it.
+/// A document that holds an ordered list of records of one class. They are shared, immutable values: a change replaces
+/// a record, never edits one in place. Every change of the list goes through changeList, which records one named undo
+/// step; a step keeps only what it took out of the list and what it put in, so that many small steps in a long list
+/// stay small. The selection belongs to the document; windows mirror it.
 class ListDocument : public Document {
     Q_OBJECT
 

@@ -18,7 +18,7 @@ namespace {
 constexpr double pointsInMetre = 72 / 0.0254;
 
 Failure tooLarge(const QSize& size) {
-    return {textWith("Main", "Picture too large", size.width(), size.height(), mostPixels / 1'000'000), {}};
+    return {textWith("Main", "Picture has too many pixels", size.width(), size.height(), mostPixels / 1'000'000), {}};
 }
 
 bool isTooLarge(const QSize& size) {

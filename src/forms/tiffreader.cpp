@@ -163,7 +163,7 @@ Expected<Kind> kindOf(const Directory& directory) {
         return tl::unexpected(damaged());
     }
     if (width > mostPixels || height > mostPixels || width * height > mostPixels) {
-        return failure(textWith("Main", "Picture too large", width, height, mostPixels / 1'000'000));
+        return failure(textWith("Main", "Picture has too many pixels", width, height, mostPixels / 1'000'000));
     }
     Kind kind{};
     kind.width = static_cast<int>(width);

@@ -48,8 +48,7 @@ public:
     /// The field that a member of the record class Owner holds.
     template <class Owner, class Value, Value Owner::*member>
     static constexpr Field ofMember() {
-        return Field(kindOf<Value>(),
-                     [](Record& record) -> void* { return &(static_cast<Owner&>(record).*member); });
+        return Field(kindOf<Value>(), [](Record& record) -> void* { return &(static_cast<Owner&>(record).*member); });
     }
 
     constexpr bool isNull() const { return !address_; }
@@ -81,9 +80,8 @@ public:
     /// The text, number … of a field whose kind is known; null when it is of another kind.
     template <class Value>
     const Value* get(const Record& record) const {
-        return !isNull() && kind_ == kindOf<Value>()
-                   ? static_cast<const Value*>(address_(const_cast<Record&>(record)))
-                   : nullptr;
+        return !isNull() && kind_ == kindOf<Value>() ? static_cast<const Value*>(address_(const_cast<Record&>(record)))
+                                                     : nullptr;
     }
 
     friend constexpr bool operator==(const Field&, const Field&) = default;

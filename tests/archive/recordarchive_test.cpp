@@ -44,10 +44,11 @@ constexpr RecordLayout sampleLayout = recordLayout<Sample>("Sample", 3, sampleIt
 using Samples = RecordList;
 
 Samples exampleSamples() {
-    Sample one{{}, Series::ofReals({0.0, 5.5, 0.0}), 12, -50,      300, 3.0F, 18.0F, 18.5F,
-               QStringLiteral("Étang"),          {}, Date(0.5)};
-    Sample two{{}, Series::ofIntegers({7}), 0,         127, -128, 0, 0.1F, -2.0F, QStringLiteral("Étang"),
-               QStringLiteral(""),      Date(3600)};
+    Sample one{{},    Series::ofReals({0.0, 5.5, 0.0}), 12, -50,      300, 3.0F, 18.0F,
+               18.5F, QStringLiteral("Étang"),          {}, Date(0.5)};
+    Sample two{
+        {},        Series::ofIntegers({7}), 0, 127, -128, 0, 0.1F, -2.0F, QStringLiteral("Étang"), QStringLiteral(""),
+        Date(3600)};
     two.depth = std::bit_cast<float>(qint32{-111});
     return {std::make_shared<Sample>(one), std::make_shared<Sample>(two)};
 }
@@ -276,7 +277,7 @@ TEST(RecordArchive, KeepsPicturesAndVersionsThroughTheFile) {
     card.kept = 3;
     card.length = 2.5F;
     card.mark = QStringLiteral("m");
-    card.picture = {QByteArray("II*\0some picture", 16), 12.5F, 8.0F};
+    card.picture = {QByteArray("II*\0some picture", 16), 12.5F, 8.0F, {}};
     const QByteArray bytes = writeRecords({std::make_shared<Card>(card)}, cardLayout);
     const auto file = readRecords(bytes, cardLayout);
     ASSERT_TRUE(file) << file.error().message().toStdString();
@@ -376,7 +377,8 @@ TEST(RecordArchive, BoundsNestingAndMemory) {
                                   cardLayout);
     ASSERT_TRUE(file) << file.error().message().toStdString();
     EXPECT_EQ(as<Card>(file->records[1]).numbers, Series::ofReals({0.5}));
-    EXPECT_EQ(as<Card>(file->records[0]).numbers.block<double>().data(), as<Card>(file->records[1]).numbers.block<double>().data());
+    EXPECT_EQ(as<Card>(file->records[0]).numbers.block<double>().data(),
+              as<Card>(file->records[1]).numbers.block<double>().data());
 }
 
 // Each once made a reader fall.

@@ -4,6 +4,7 @@
 #include "cli/fieldtext.h"
 #include "dives/plongee.h"
 #include "support/printing.h"
+#include "support/records.h"
 
 #include <QByteArray>
 #include <QDir>

@@ -35,7 +35,7 @@ TEST_F(ViewCommands, tableShowsWhatTheWindowShows) {
     EXPECT_EQ(plain[u"columns"].toArray().size(), 14);  // the apparatus is hidden at first
     EXPECT_EQ(plain[u"columns"].toArray().first(), QStringLiteral("noPlongee"));
     EXPECT_EQ(texts(plain, "profondeur"), QStringList{QStringLiteral("20 m")});
-    EXPECT_EQ(plain[u"count"], QStringLiteral("1 dive"));
+    EXPECT_EQ(plain[u"count"], QStringLiteral("One dive"));
     const QJsonArray row = plain[u"rows"].toArray().first().toArray();
     EXPECT_EQ(row.at(11).toObject()[u"image"], QStringLiteral("epave"));
     EXPECT_FALSE(row.at(2).toObject().contains(u"colour"));
@@ -92,21 +92,28 @@ TEST_F(ViewCommands, sortClicksTheHeadersAndSavesTheOrder) {
 }
 
 TEST_F(ViewCommands, everyTypeIsMadeByAnyOfItsNames) {
-    const std::pair<const char*, const char*> names[] = {{"Carnet de plongee", "Plongee"},
-                                                         {"Materiel", "Materiel"},
-                                                         {"Epaves", "Epaves"},
-                                                         {"Compresseur", "Compresseur"},
-                                                         {"Rebreather", "Rebreather"},
-                                                         {"Consommables", "Consommables"},
-                                                         {"Budget", "Budget"},
-                                                         {"Entreprises", "Entreprises"},
-                                                         {"Structures", "Structures"},
-                                                         {"Divers documents", "DiversDocs"},
-                                                         {"Carnet de plongée", "Plongee"},
-                                                         {"diversdocs", "DiversDocs"}};
+    struct Name {
+        const char* name;
+        const char* recordClass;
+        const char* extension;
+    };
+    const Name names[] = {
+        {"Carnet de plongee", "Plongee", "carnet"},
+        {"Materiel", "Materiel", "materiel"},
+        {"Epaves", "Epaves", "epaves"},
+        {"Compresseur", "Compresseur", "compresseur"},
+        {"Rebreather", "Rebreather", "rebreather"},
+        {"Consommables", "Consommables", "consommables"},
+        {"Budget", "Budget", "budget"},
+        {"Entreprises", "Entreprises", "entreprises"},
+        {"Structures", "Structures", "structures"},
+        {"Divers documents", "DiversDocs", "documents"},
+        {"Carnet de plongée", "Plongee", "carnet"},
+        {"diversdocs", "DiversDocs", "documents"},
+    };
     int made = 0;
-    for (const auto& [name, recordClass] : names) {
-        const QString file = QStringLiteral("%1.file").arg(++made);
+    for (const auto& [name, recordClass, extension] : names) {
+        const QString file = QStringLiteral("%1.%2").arg(++made).arg(QLatin1StringView(extension));
         done({QStringLiteral("new"), QString::fromUtf8(name), file});
         done({QStringLiteral("add"), file});
         const QJsonObject shown = json({QStringLiteral("show"), file, QStringLiteral("--json")});

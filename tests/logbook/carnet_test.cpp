@@ -1,7 +1,7 @@
 #include "logbook/carnet.h"
 
-#include "logbook/divecolumns.h"
 #include "book/booktable.h"
+#include "logbook/divecolumns.h"
 #include "support/testdesktop.h"
 
 #include <QSignalSpy>

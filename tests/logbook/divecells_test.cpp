@@ -1,6 +1,7 @@
+#include "logbook/divecells.h"
+
 #include "base/texts.h"
 #include "logbook/divecolumns.h"
-#include "logbook/divecells.h"
 #include "logbook/logbooksettings.h"
 #include "support/testdesktop.h"
 
@@ -109,7 +110,8 @@ TEST(TableCells, followUnitsAndLocale) {
                 french);
 
     desktop.preferences.set(QStringLiteral("us units"), true);
-    const auto american = DiveTableStyle(desktop.preferences, desktop.clock, QLocale(QLocale::English, QLocale::UnitedStates));
+    const auto american =
+        DiveTableStyle(desktop.preferences, desktop.clock, QLocale(QLocale::English, QLocale::UnitedStates));
     expectTexts({{"date", dive, "3/7/1998"}, {"profondeur", dive, "18.5 ft"}, {"tempEau", dive, "14\u00a0°F"}},
                 american);
 

@@ -13,8 +13,8 @@
 <message><source>No such row</source><translation>There is no row %d: the document has %d records, counted from 0.</translation></message>
 <message><source>No such type</source><translation>“%@” is not a type of document. Types: %@.</translation></message>
 <message><source>Not a logbook</source><translation>“%@” is not a logbook.</translation></message>
-<message><source>Not a replacement</source><translation>“%@” is not a replacement. Replacements are SERIES=TEXTFILE; the series are depth, ascent, slow, ceiling, surface, gas and pressure.</translation></message>
 <message><source>Not a moment</source><translation>“%@” is not a date with a time, such as 2024-05-03T10:30:00.</translation></message>
+<message><source>Not a replacement</source><translation>“%@” is not a replacement. Replacements are SERIES=TEXTFILE; the series are depth, ascent, slow, ceiling, surface, gas and pressure.</translation></message>
 <message><source>Not an entry</source><translation>“%@” is not of the form field=value.</translation></message>
 <message><source>Not decimal degrees</source><translation>“%@” is not decimal degrees. Is --sexagesimal meant?</translation></message>
 <message><source>Not sexagesimal</source><translation>“%@” is not degrees, minutes and seconds.</translation></message>
@@ -23,8 +23,8 @@
 <message><source>Picture endings</source><translation>The file's name must end in .pdf, .svg or .png.</translation></message>
 <message><source>References</source><translation>References: %d</translation></message>
 <message><source>Row</source><translation>Row</translation></message>
-<message><source>Seconds</source><translation>%d s</translation></message>
 <message><source>Row or new</source><translation>Give either --row or --new.</translation></message>
+<message><source>Seconds</source><translation>%d s</translation></message>
 <message><source>System version</source><translation>System version: %d</translation></message>
 </context>
 </TS>

@@ -150,6 +150,7 @@
 <message><source>Picture enlarge</source><translation>Enlarge</translation></message>
 <message><source>Picture export</source><translation>Export…</translation></message>
 <message><source>Picture files</source><translation>Pictures</translation></message>
+<message><source>Picture has too many pixels</source><translation>The picture is too large: %d × %d pixels, and %d million at most.</translation></message>
 <message><source>Picture none</source><translation>No picture. Choose a file, drop it here, or paste.</translation></message>
 <message><source>Picture not shown</source><translation>The picture is of a kind that cannot be shown. It is kept as it is.</translation></message>
 <message><source>Picture not written</source><translation>The picture could not be written.</translation></message>
@@ -157,7 +158,7 @@
 <message><source>Picture paste</source><translation>Paste</translation></message>
 <message><source>Picture remove</source><translation>Remove</translation></message>
 <message><source>Picture shown</source><translation>Picture, %d × %d pixels</translation></message>
-<message><source>Picture too large</source><translation>The picture is too large: %d × %d pixels, and %d million at most.</translation></message>
+<message><source>Picture too large</source><translation>This is too long for one picture. A PDF file has room for it.</translation></message>
 <message><source>Picture unknown format</source><translation>The file is no picture that this program can read.</translation></message>
 <message><source>Places</source><translation>Places</translation></message>
 <message><source>Preferences not saved</source><translation>The preferences could not be saved to “%@”.</translation></message>

@@ -13,8 +13,8 @@
 <message><source>No such row</source><translation>Il n’y a pas de ligne %d : le document compte %d fiches, numérotées à partir de 0.</translation></message>
 <message><source>No such type</source><translation>« %@ » n’est pas un type de document. Types : %@.</translation></message>
 <message><source>Not a logbook</source><translation>« %@ » n’est pas un carnet de plongée.</translation></message>
-<message><source>Not a replacement</source><translation>« %@ » n’est pas un remplacement. Les remplacements s’écrivent SÉRIE=FICHIER ; les séries sont depth, ascent, slow, ceiling, surface, gas et pressure.</translation></message>
 <message><source>Not a moment</source><translation>« %@ » n’est pas une date avec une heure, comme 2024-05-03T10:30:00.</translation></message>
+<message><source>Not a replacement</source><translation>« %@ » n’est pas un remplacement. Les remplacements s’écrivent SÉRIE=FICHIER ; les séries sont depth, ascent, slow, ceiling, surface, gas et pressure.</translation></message>
 <message><source>Not an entry</source><translation>« %@ » n’est pas de la forme champ=valeur.</translation></message>
 <message><source>Not decimal degrees</source><translation>« %@ » n’est pas en degrés décimaux. Faut-il --sexagesimal ?</translation></message>
 <message><source>Not sexagesimal</source><translation>« %@ » n’est pas en degrés, minutes et secondes.</translation></message>
@@ -23,8 +23,8 @@
 <message><source>Picture endings</source><translation>Le nom du fichier doit se terminer par .pdf, .svg ou .png.</translation></message>
 <message><source>References</source><translation>Références : %d</translation></message>
 <message><source>Row</source><translation>Ligne</translation></message>
-<message><source>Seconds</source><translation>%d s</translation></message>
 <message><source>Row or new</source><translation>Indiquez soit --row, soit --new.</translation></message>
+<message><source>Seconds</source><translation>%d s</translation></message>
 <message><source>System version</source><translation>Version du système : %d</translation></message>
 </context>
 </TS>

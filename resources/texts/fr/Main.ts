@@ -150,6 +150,7 @@
 <message><source>Picture enlarge</source><translation>Agrandir</translation></message>
 <message><source>Picture export</source><translation>Exporter…</translation></message>
 <message><source>Picture files</source><translation>Images</translation></message>
+<message><source>Picture has too many pixels</source><translation>L’image est trop grande : %d × %d pixels, pour %d millions au plus.</translation></message>
 <message><source>Picture none</source><translation>Pas d’image. Choisissez un fichier, déposez-le ici ou collez.</translation></message>
 <message><source>Picture not shown</source><translation>L’image est d’un type qui ne peut pas être affiché. Elle est conservée telle quelle.</translation></message>
 <message><source>Picture not written</source><translation>L’image n’a pas pu être écrite.</translation></message>
@@ -157,7 +158,7 @@
 <message><source>Picture paste</source><translation>Coller</translation></message>
 <message><source>Picture remove</source><translation>Retirer</translation></message>
 <message><source>Picture shown</source><translation>Image, %d × %d pixels</translation></message>
-<message><source>Picture too large</source><translation>L’image est trop grande : %d × %d pixels, pour %d millions au plus.</translation></message>
+<message><source>Picture too large</source><translation>C’est trop long pour une seule image. Un fichier PDF peut le contenir.</translation></message>
 <message><source>Picture unknown format</source><translation>Le fichier n’est pas une image que ce programme sait lire.</translation></message>
 <message><source>Places</source><translation>Lieux</translation></message>
 <message><source>Preferences not saved</source><translation>Impossible d’enregistrer les préférences dans « %@ ».</translation></message>

@@ -290,7 +290,7 @@ TEST_F(BookWindowTest, offersTheCommandsThatItHas) {
     window->provideCommand(QStringLiteral("profil"), [&profiles] { ++profiles; });
     QAction* profile = bar.action(QStringLiteral("profil"));
     EXPECT_EQ(window->editWindow().toolBar().action(QStringLiteral("profil")), profile);
-    EXPECT_EQ(window->ownMenuActions().back(), profile);
+    EXPECT_TRUE(window->ownMenuActions().contains(profile));
     EXPECT_FALSE(profile->isEnabled()) << "there is no dive";
     QSignalSpy saves(window.get(), &DocumentWindow::saveRequested);
     bar.action(QStringLiteral("saveDocument"))->trigger();
