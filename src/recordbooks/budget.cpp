@@ -169,7 +169,6 @@ public:
 protected:
     void clear(int) override {
         state().setDate(controls().miseAJourField, noDate());
-        state().requestFocus(controls().prestationField);
     }
 
     void refresh() override {
