@@ -35,8 +35,8 @@ public:
         }
         return *this;
     }
-    TiffFile& strip(std::string_view hex) { return strip(streamBytes(hex)); }
-    TiffFile& strip(const QByteArray& bytes) {
+    TiffFile& strip(std::string_view hex) { return packed(streamBytes(hex)); }
+    TiffFile& packed(const QByteArray& bytes) {
         strips_.push_back(bytes);
         return *this;
     }
@@ -251,7 +251,7 @@ TEST(Tiff, unpacksLzw) {
     EXPECT_EQ(pixelsIn(TiffFile()
                            .image(3, 1, {8}, 1, 5)
                            .shorts(317, {2})
-                           .strip(lzwPacked(std::string("\x0a\x01\xff", 3)))
+                           .packed(lzwPacked(std::string("\x0a\x01\xff", 3)))
                            .bytes()),
               "ff0a0a0a ff0b0b0b ff0a0a0a/");
     EXPECT_EQ(pixelsIn(TiffFile().image(2, 1, {8}, 1, 5).strip("8040bfffff").bytes()), "The picture is damaged.");
