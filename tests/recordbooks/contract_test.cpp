@@ -9,6 +9,7 @@
 #include "records/nodate.h"
 #include "support/testdesktop.h"
 
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <gtest/gtest.h>
 
@@ -215,6 +216,8 @@ TEST_P(RecordBook, writesACardOfEveryRecord) {
         EXPECT_EQ(card.runs().back().colour, plaincolour::green);
         EXPECT_TRUE(card.runs().back().text.startsWith(QString::fromUtf8(GetParam().closing)))
             << card.runs().back().text.toStdString();
+        EXPECT_TRUE(QRegularExpression(QStringLiteral(" 14:30:00 [+-][0-9]{4}$")).match(card.text()).hasMatch())
+            << card.text().toStdString();
         EXPECT_EQ(card.text().count(QStringLiteral("\r--------------------")), GetParam().separators);
         EXPECT_FALSE(card.text().contains(u'\n'));
         const bool labelled = std::any_of(card.runs().begin(), card.runs().end(),
