@@ -165,6 +165,16 @@ TEST_F(BudgetTest, readsPropertyListsOfEarlierTimes) {
     EXPECT_FALSE(record().notes.isNull());
 }
 
+TEST_F(BudgetTest, knowsFilesOfEarlierTimesByTheirName) {
+    const std::array kinds{invConso().kind, previBudget().kind};
+    const QByteArray earlier = propertyList("<dict/>");
+    const auto found = documentKindOf(kinds, QStringLiteral("/home/a.BUDGET"), earlier);
+    ASSERT_TRUE(found);
+    EXPECT_EQ(*found, &kinds[1]);
+    EXPECT_FALSE(documentKindOf(kinds, QStringLiteral("/home/a.consommables"), earlier));
+    EXPECT_FALSE(documentKindOf(kinds, QStringLiteral("/home/a.txt"), earlier));
+}
+
 TEST_F(BudgetTest, logsWhatIsNoBudgetAtAll) {
     hold({Budget()});
     const QByteArray wrong[] = {

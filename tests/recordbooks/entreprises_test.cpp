@@ -63,13 +63,13 @@ TEST_F(EntreprisesTest, readsEveryVersion) {
 }
 
 TEST_F(EntreprisesTest, isClosedOnSundaysAtFirst) {
-    for (const auto& [language, closed] : {std::pair(u"fr", u"Fermé"), std::pair(u"en", u"Closed")}) {
-        setTextLanguage(QString(language));
+    for (const auto& [language, closed] : {std::pair("fr", "Fermé"), std::pair("en", "Closed")}) {
+        setTextLanguage(QString::fromUtf8(language));
         book->newRecord();
         EXPECT_EQ(at("horaireLundi_1Field").text, u"-");
         EXPECT_EQ(at("horaireSamedi_4Field").text, u"-");
-        EXPECT_EQ(at("horaireDimanche_1Field").text, QString(closed));
-        EXPECT_EQ(built()->horaireDimanche_4, QString(closed));
+        EXPECT_EQ(at("horaireDimanche_1Field").text, QString::fromUtf8(closed));
+        EXPECT_EQ(built()->horaireDimanche_4, QString::fromUtf8(closed));
         EXPECT_EQ(built()->entreprise, u"");
         EXPECT_TRUE(built()->miseAJour == Date::fromDateTime(desktop.clock.moment));
     }
@@ -121,7 +121,7 @@ TEST_F(EntreprisesTest, offersActivitiesToTheirList) {
     desktop.alerts.answerNext(0);
     book->form().endEditing(indexOf("activiteField"), QStringLiteral(" Shop "));
     EXPECT_TRUE(desktop.pickLists[PickList::tableauDesActivites].contains(QStringLiteral("Shop")));
-    EXPECT_EQ(desktop.preferences.stringList(QStringLiteral("activite")), QStringList(QStringLiteral("Shop")));
+    EXPECT_EQ(desktop.preferences.strings(QStringLiteral("activite")), QStringList(QStringLiteral("Shop")));
     book->form().endEditing(indexOf("activiteField"), QStringLiteral("Shop"));
     EXPECT_EQ(desktop.alerts.questions.size(), 1U);
 }
