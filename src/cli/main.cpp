@@ -4,6 +4,7 @@
 #include "cli/documentcommands.h"
 #include "cli/inspectcommand.h"
 #include "cli/interchangecommands.h"
+#include "cli/picturecommand.h"
 #include "cli/profilecommand.h"
 #include "cli/shellfilecommand.h"
 #include "cli/viewcommands.h"
@@ -32,6 +33,7 @@ int main(int argc, char** argv) try {
     tavrel::addRunOptions(app, console);
     tavrel::addDocumentCommands(app, console);
     tavrel::addViewCommands(app, console);
+    tavrel::addPictureCommand(app, console);
     tavrel::addInspectCommand(app, console);
     tavrel::addInterchangeCommands(app, console);
     tavrel::addCalcCommand(app, console);

@@ -185,7 +185,7 @@ private:
         for (Cell& cell : cells_) {
             const int first = cell.controls.front();
             nameOfCell(cell);
-            if (control(first).kind == ControlKind::longText) {
+            if (control(first).kind == ControlKind::longText || control(first).kind == ControlKind::picture) {
                 row += pair > 0 ? 1 : 0;
                 setWidth(first);
                 result_.grid->addWidget(form(first).widget(), row, 0, 1, controlColumn(pairs - 1) + 1);
