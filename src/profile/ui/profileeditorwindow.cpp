@@ -37,10 +37,7 @@ ProfileEditorWindow::ProfileEditorWindow(Preferences& preferences)
     }
     auto* importButton = new QPushButton(text("Profil", "Import series"));
     importButton->setObjectName(QStringLiteral("importProfil"));
-    const auto enable = [this, importButton] {
-        importButton->setEnabled(std::any_of(columns_.begin(), columns_.end(),
-                                             [](const Column& column) { return column.erase->isChecked(); }));
-    };
+    const auto enable = [this, importButton] { importButton->setEnabled(anyMarked()); };
     for (const Column& column : columns_) {
         connect(column.erase, &QCheckBox::toggled, this, enable);
     }
@@ -86,9 +83,27 @@ ProfileEditorWindow::Column ProfileEditorWindow::newColumn(const EditedSeries& e
 }
 
 void ProfileEditorWindow::updateProfilInfo(const ProfileSeries& profile, qint32 diveNumber) {
-    setWindowTitle(textWith("Carnet", "Dive number profile datas title", diveNumber));
+    setDiveNumber(diveNumber);
     shown_ = profile;
     showTexts();
+}
+
+void ProfileEditorWindow::followDive(const ProfileSeries& profile, qint32 diveNumber) {
+    if (anyMarked()) {
+        setDiveNumber(diveNumber);
+        shown_ = profile;
+    } else {
+        updateProfilInfo(profile, diveNumber);
+    }
+}
+
+void ProfileEditorWindow::setDiveNumber(qint32 number) {
+    setWindowTitle(textWith("Carnet", "Dive number profile datas title", number));
+}
+
+bool ProfileEditorWindow::anyMarked() const {
+    return std::any_of(columns_.begin(), columns_.end(),
+                       [](const Column& column) { return column.erase->isChecked(); });
 }
 
 void ProfileEditorWindow::showTexts() {

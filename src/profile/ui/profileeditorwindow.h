@@ -24,6 +24,8 @@ public:
 
     /// Shows the series of a dive, all switches off.
     void updateProfilInfo(const ProfileSeries& profile, qint32 diveNumber);
+    /// Another dive is the current one: shows its series, unless some are marked, which then are for that dive.
+    void followDive(const ProfileSeries& profile, qint32 diveNumber);
     /// Empties all texts and turns all switches on.
     void selectAllSwitches();
     /// The texts of the series whose switch is on.
@@ -41,6 +43,8 @@ private:
 
     Column newColumn(const EditedSeries& edited);
     void showTexts();
+    void setDiveNumber(qint32 number);
+    bool anyMarked() const;
     void toggleAll(bool on);
 
     ProfileSeries shown_;
