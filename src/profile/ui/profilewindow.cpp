@@ -38,10 +38,10 @@ ProfileWindow::ProfileWindow(Preferences& preferences, Alerts& alerts)
     }
     auto* intervalLabel = new QLabel(text("Profil", "Time scale"));
     intervalLabel->setBuddy(samplingRatePopUp_);
-    auto* data = new QPushButton(text("Profil", "Data"));
+    auto* dataButton = new QPushButton(text("Profil", "Data"));
     auto* pageLayout = new QPushButton(text("Profil", "Page layout"));
     auto* printButton = new QPushButton(iconNamed(QStringLiteral("imprimante")), text("Main", "Print"));
-    connect(data, &QPushButton::clicked, view_, &DrawingView::showData);
+    connect(dataButton, &QPushButton::clicked, view_, &DrawingView::showData);
     connect(pageLayout, &QPushButton::clicked, this, [this] { runPageLayout(this); });
     connect(printButton, &QPushButton::clicked, this, &ProfileWindow::print);
 
@@ -51,8 +51,8 @@ ProfileWindow::ProfileWindow(Preferences& preferences, Alerts& alerts)
     auto* row = new QHBoxLayout;
     row->addLayout(readings, 1);
     for (QWidget* widget :
-         {static_cast<QWidget*>(intervalLabel), static_cast<QWidget*>(samplingRatePopUp_), static_cast<QWidget*>(data),
-          static_cast<QWidget*>(pageLayout), static_cast<QWidget*>(printButton)}) {
+         {static_cast<QWidget*>(intervalLabel), static_cast<QWidget*>(samplingRatePopUp_),
+          static_cast<QWidget*>(dataButton), static_cast<QWidget*>(pageLayout), static_cast<QWidget*>(printButton)}) {
         row->addWidget(widget, 0, Qt::AlignVCenter);
     }
     auto* layout = new QVBoxLayout(this);
