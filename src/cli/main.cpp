@@ -1,6 +1,7 @@
 #include "base/texts.h"
 #include "cli/calccommand.h"
 #include "cli/commandline.h"
+#include "cli/divecommands.h"
 #include "cli/documentcommands.h"
 #include "cli/inspectcommand.h"
 #include "cli/interchangecommands.h"
@@ -36,6 +37,7 @@ int main(int argc, char** argv) try {
     tavrel::addPictureCommand(app, console);
     tavrel::addInspectCommand(app, console);
     tavrel::addInterchangeCommands(app, console);
+    tavrel::addDiveCommands(app, console);
     tavrel::addCalcCommand(app, console);
     tavrel::addProfileCommand(app, console);
     tavrel::addShellFileCommand(app, console);

@@ -22,6 +22,7 @@
 <message><source>Objects</source><translation>Objects: %d</translation></message>
 <message><source>Output not written</source><translation>The output could not be written.</translation></message>
 <message><source>Picture endings</source><translation>The file's name must end in .pdf, .svg or .png.</translation></message>
+<message><source>Pressure drop line</source><translation>Tank %d: %@</translation></message>
 <message><source>References</source><translation>References: %d</translation></message>
 <message><source>Row</source><translation>Row</translation></message>
 <message><source>Row or new</source><translation>Give either --row or --new.</translation></message>

@@ -22,6 +22,7 @@
 <message><source>Objects</source><translation>Objets : %d</translation></message>
 <message><source>Output not written</source><translation>La sortie n’a pas pu être écrite.</translation></message>
 <message><source>Picture endings</source><translation>Le nom du fichier doit se terminer par .pdf, .svg ou .png.</translation></message>
+<message><source>Pressure drop line</source><translation>Bloc %d : %@</translation></message>
 <message><source>References</source><translation>Références : %d</translation></message>
 <message><source>Row</source><translation>Ligne</translation></message>
 <message><source>Row or new</source><translation>Indiquez soit --row, soit --new.</translation></message>
