@@ -28,7 +28,7 @@ void checkCell(bool isSet, Cell& cell) {
 }
 
 QString hoursAndMinutes(const Date& time) {
-    return isNoDate(time) ? QString() : time.toDateTime().time().toString(u"HH:mm");
+    return time == noDate() ? QString() : time.toDateTime().time().toString(u"HH:mm");
 }
 
 void offerFromForm(BookForm& form, int control, const QString& typed) {

@@ -95,7 +95,7 @@ void ratedCell(qint32 rating, Cell& cell);
 /// A cell of a field that is 0 or 1: the word for a tick, or nothing.
 void checkCell(bool isSet, Cell& cell);
 
-/// A duration that is held as a time of day, as "07:30"; nothing for no date.
+/// A duration that is held as a time of day, as "07:30"; nothing for what a cleared form holds. The day plays no part.
 QString hoursAndMinutes(const Date& time);
 
 /// At the end of editing a combo box of a record book: what was typed, without the spaces around it, is offered to the

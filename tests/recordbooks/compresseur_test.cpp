@@ -63,6 +63,10 @@ TEST_F(CompresseurTest, showsOperationsAndAnalysesInItsColumns) {
     Compresseur service;
     service.temps = Date::fromDateTime(QDateTime(QDate(2001, 1, 1), QTime(7, 5)));
     EXPECT_EQ(cell(service, "temps").text, u"07:05");
+    book->form().blankFields(0);
+    EXPECT_EQ(cell(*built(), "temps").text, u"");
+    enter("tempsField", "06:40");
+    EXPECT_EQ(cell(*built(), "temps").text, u"06:40");
     EXPECT_EQ(cell(service, "vidange").text, u"");
     EXPECT_EQ(cell(service, "operationFiltre").text, u"Cleaning");
     EXPECT_EQ(cell(service, "intSoupape").text, u"Verification");

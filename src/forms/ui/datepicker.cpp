@@ -1,6 +1,7 @@
 #include "forms/ui/datepicker.h"
 
 #include "forms/ui/wheelguard.h"
+#include "records/nodate.h"
 
 #include <QCalendarWidget>
 #include <QKeyEvent>
@@ -30,10 +31,6 @@ QString timeFormat() {
     return format.remove(QLatin1StringView(":ss"));
 }
 
-Date date1900() {
-    return Date::fromDateTime(QDate(1900, 1, 1).startOfDay());
-}
-
 /// The day and time as they stand, without a time zone whose missing hours would shift them.
 QDateTime asShown(const QDateTime& moment) {
     return QDateTime(moment.date(), moment.time(), Qt::UTC);
@@ -56,8 +53,7 @@ DatePicker::DatePicker(Part part, QWidget* parent) : QDateTimeEdit(parent), part
 void DatePicker::showDate(const Date& date) {
     date_ = date;
     const QDateTime moment = asShown(date.toDateTime());
-    const bool blank =
-        (emptyAt1900_ && date == date1900()) || !moment.isValid() || moment <= earliest || moment > latest;
+    const bool blank = (emptyAt1900_ && isNoDate(date)) || !moment.isValid() || moment <= earliest || moment > latest;
     if (blank != blank_ || (!blank && moment != dateTime())) {
         blank_ = blank;
         put(blank ? earliest : moment);
@@ -117,7 +113,7 @@ bool DatePicker::eventFilter(QObject* watched, QEvent* event) {
 void DatePicker::keyPressEvent(QKeyEvent* event) {
     const bool erases = event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace;
     if (emptyAt1900_ && erases && !blank_) {
-        showDate(date1900());
+        showDate(noDate());
         Q_EMIT picked(date_);
         return;
     }
