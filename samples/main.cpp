@@ -67,6 +67,7 @@ Expected<void> makeDocument(const QString& list, const QString& target, Console&
 int main(int argc, char** argv) {
     const QTemporaryDir settings;
     qputenv("TZ", "UTC");
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("LC_ALL", "C.UTF-8");
     qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
     const QGuiApplication application(argc, argv);
