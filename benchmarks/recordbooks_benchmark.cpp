@@ -1,5 +1,6 @@
 #include "archive/recordarchive.h"
 #include "benchmarks/ratio.h"
+#include "book/book.h"
 #include "recordbooks/materiel.h"
 #include "recordbooks/recordbooks.h"
 #include "support/testdesktop.h"

@@ -1,4 +1,5 @@
 #include "archive/recordarchive.h"
+#include "book/bookform.h"
 #include "book/column.h"
 #include "desktop/alerts.h"
 #include "desktop/clock.h"
