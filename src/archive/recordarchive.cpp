@@ -127,9 +127,10 @@ Expected<QString> recordClassOf(QByteArrayView bytes) {
     return name;
 }
 
-Expected<RecordFile> readRecords(QByteArrayView bytes, const RecordLayout& layout, const Progress& progress) {
+Expected<RecordFile> readRecords(QByteArrayView bytes, const RecordLayout& layout, const Progress& progress,
+                                 SeriesPath path) {
     Sink sink(layout);
-    TypedStreamReader reader(bytes, layout.className, &sink);
+    TypedStreamReader reader(bytes, layout.className, &sink, path);
     const std::size_t count = reader.openRoot();
     RecordFile file;
     for (std::size_t index = 0; index < count && reader.ok(); ++index) {
@@ -149,8 +150,8 @@ Expected<RecordFile> readRecords(QByteArrayView bytes, const RecordLayout& layou
     return file;
 }
 
-QByteArray writeRecords(const RecordList& records, const RecordLayout& layout, SeriesNumbers numbers) {
-    TypedStreamWriter writer(numbers, numbersIn(records, layout));
+QByteArray writeRecords(const RecordList& records, const RecordLayout& layout, SeriesNumbers numbers, SeriesPath path) {
+    TypedStreamWriter writer(numbers, numbersIn(records, layout), path);
     const TypedStreamWriter::Class recordClass{layout.className, layout.version, &TypedStreamWriter::rootClass};
     writer.beginRoot(records.size());
     for (const auto& record : records) {

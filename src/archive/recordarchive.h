@@ -1,5 +1,6 @@
 #pragma once
 
+#include "archive/seriespath.h"
 #include "base/failure.h"
 #include "base/progress.h"
 #include "records/recordlayout.h"
@@ -17,23 +18,18 @@ struct RecordFile {
     RecordList records;
 };
 
-/// How the numbers of series are written.
-enum class SeriesNumbers {
-    shared,   ///< a number that stood before as a reference to it
-    literal,  ///< every number as an object of its own, as other writers may do
-};
-
 /// The class of the first record of a document file, which tells the type of document; null when it holds none.
 Expected<QString> recordClassOf(QByteArrayView bytes);
 
 /// Reads a document file in one pass. Every item that the layout names for the record's class version must stand there
 /// in order and with its type; groups beyond them, which a later version may have added, are skipped. Fails as a whole,
 /// with the offset of what cannot be read.
-Expected<RecordFile> readRecords(QByteArrayView bytes, const RecordLayout& layout, const Progress& progress = {});
+Expected<RecordFile> readRecords(QByteArrayView bytes, const RecordLayout& layout, const Progress& progress = {},
+                                 SeriesPath path = SeriesPath::fast);
 
 /// The document file of the records, all items of the layout's version. A record that stands twice in the list is
 /// written once.
 QByteArray writeRecords(const RecordList& records, const RecordLayout& layout,
-                        SeriesNumbers numbers = SeriesNumbers::shared);
+                        SeriesNumbers numbers = SeriesNumbers::shared, SeriesPath path = SeriesPath::fast);
 
 }  // namespace tavrel

@@ -1,6 +1,7 @@
 #include "archive/typedstreamreader.h"
 
 #include "archive/imagearchive.h"
+#include "archive/numberrun.h"
 #include "archive/typedstreamencoding.h"
 #include "records/floatbits.h"
 
@@ -73,11 +74,17 @@ struct TypedStreamReader::SkipHandler {
     void endList() const {}
 };
 
-TypedStreamReader::TypedStreamReader(QByteArrayView bytes, std::string_view recordClass, RecordSink* sink)
-    : scanner_(bytes, recordClass), sink_(sink), storedObjects_(scanner_, [this](std::size_t number) {
+TypedStreamReader::TypedStreamReader(QByteArrayView bytes, std::string_view recordClass, RecordSink* sink,
+                                     SeriesPath path)
+    : scanner_(bytes, recordClass),
+      numbers_(path == SeriesPath::fast ? std::make_unique<NumberRun>(scanner_) : nullptr),
+      sink_(sink),
+      storedObjects_(scanner_, [this](std::size_t number) {
           const ObjectEntry& entry = scanner_.objects()[number];
           return entry.kind() == Holds::text ? std::optional(texts_[entry.payload()].toUtf8()) : std::nullopt;
       }) {}
+
+TypedStreamReader::~TypedStreamReader() = default;
 
 std::size_t TypedStreamReader::openRoot() {
     scanner_.readHeader();
@@ -437,8 +444,8 @@ ObjectEntry TypedStreamReader::decodeSeries() {
     Series series = Series::empty();
     std::size_t foreign = 0;  // offset of the first element that is no number
     for (std::size_t index = 0; index < count && scanner_.ok(); ++index) {
-        if (foreign == 0) {
-            index += numbers_.read(count - index, series);
+        if (numbers_ && foreign == 0) {
+            index += numbers_->read(count - index, series);
             if (index == count) {
                 break;
             }
@@ -447,8 +454,8 @@ ObjectEntry TypedStreamReader::decodeSeries() {
         const std::size_t known = scanner_.definitions();
         requireObjectGroup(StreamFault::wrongItemType);
         const ObjectEntry entry = scanner_.ok() ? readObject() : ObjectEntry();
-        if (entry.kind() == Holds::number && scanner_.definitions() == known + 1) {
-            numbers_.learn(start, entry);
+        if (numbers_ && entry.kind() == Holds::number && scanner_.definitions() == known + 1) {
+            numbers_->learn(start, entry);
         }
         if (entry.kind() != Holds::number) {
             foreign = foreign ? foreign : start;

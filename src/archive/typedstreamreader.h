@@ -1,6 +1,6 @@
 #pragma once
 
-#include "archive/numberrun.h"
+#include "archive/seriespath.h"
 #include "archive/storedobject.h"
 #include "archive/typedstreamscanner.h"
 #include "records/date.h"
@@ -12,11 +12,13 @@
 
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <string_view>
 #include <vector>
 
 namespace tavrel {
 
+class NumberRun;
 class TypedStreamReader;
 
 /// Takes the records of a stream: reads the items of one whose class has that version and keeps it; returns the index
@@ -37,7 +39,9 @@ public:
 class TypedStreamReader {
 public:
     /// Without a record class every record is an object that is skipped.
-    explicit TypedStreamReader(QByteArrayView bytes, std::string_view recordClass = {}, RecordSink* sink = nullptr);
+    explicit TypedStreamReader(QByteArrayView bytes, std::string_view recordClass = {}, RecordSink* sink = nullptr,
+                               SeriesPath path = SeriesPath::fast);
+    ~TypedStreamReader();
 
     TypedStreamReader(const TypedStreamReader&) = delete;
     TypedStreamReader& operator=(const TypedStreamReader&) = delete;
@@ -105,7 +109,7 @@ private:
     }
 
     TypedStreamScanner scanner_;
-    NumberRun numbers_{scanner_};
+    std::unique_ptr<NumberRun> numbers_;  // null on the plain path
     RecordSink* sink_;
     int depth_ = 0;
     std::size_t itemStart_ = 0;

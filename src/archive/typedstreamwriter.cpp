@@ -1,5 +1,7 @@
 #include "archive/typedstreamwriter.h"
 
+#include "archive/fastnumberwriter.h"
+#include "archive/plainnumberwriter.h"
 #include "archive/typedstreamtags.h"
 #include "base/largememory.h"
 #include "records/floatbits.h"
@@ -35,8 +37,13 @@ constexpr Class TypedStreamWriter::rootClass{"NSObject", 0, nullptr};
 constexpr Class TypedStreamWriter::mutableArrayClass{"NSMutableArray", 0, &arrayClass};
 constexpr Class TypedStreamWriter::numberClass{"NSNumber", 0, &valueClass};
 
-TypedStreamWriter::TypedStreamWriter(SeriesNumbers numbers, std::size_t expectedNumbers)
-    : numbers_(numbers), position_(nullptr), end_(nullptr) {
+TypedStreamWriter::TypedStreamWriter(SeriesNumbers numbers, std::size_t expectedNumbers, SeriesPath path)
+    : position_(nullptr), end_(nullptr) {
+    if (path == SeriesPath::fast) {
+        numbers_ = std::make_unique<FastNumberWriter>(*this, numbers);
+    } else {
+        numbers_ = std::make_unique<PlainNumberWriter>(*this, numbers);
+    }
     // An element takes 4 bytes to refer to a number in most files, and 16 to hold one.
     const std::size_t expectedBytes = 4096 + expectedNumbers * (numbers == SeriesNumbers::shared ? 4 : 16);
     buffer_ = QByteArray(static_cast<qsizetype>(expectedBytes + expectedBytes / 16), Qt::Uninitialized);
@@ -120,6 +127,26 @@ void TypedStreamWriter::writeDate(const Date& date) {
     beginLiteral(dateClass);
     beginGroup("d");
     putDouble(date.secondsSince2001());
+    endObject();
+}
+
+void TypedStreamWriter::writeSeries(const Series& series) {
+    beginGroup("@");
+    if (series.isNull()) {
+        put(streamtags::nil);
+        return;
+    }
+    if (const void* numbers = series.sharedNumbers()) {
+        if (const auto known = series_.constFind(numbers); known != series_.constEnd()) {
+            putReference(*known);
+            return;
+        }
+        series_.insert(numbers, nextObject_);
+    }
+    beginLiteral(mutableArrayClass);
+    beginGroup("i");
+    putSigned(static_cast<std::int64_t>(series.size()));
+    numbers_->write(series);
     endObject();
 }
 

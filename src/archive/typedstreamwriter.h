@@ -1,7 +1,7 @@
 #pragma once
 
-#include "archive/recordarchive.h"
-#include "archive/sharednumbers.h"
+#include "archive/numberwriter.h"
+#include "archive/seriespath.h"
 #include "archive/storedobject.h"
 #include "records/date.h"
 #include "records/image.h"
@@ -14,10 +14,10 @@
 #include <array>
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace tavrel {
@@ -39,7 +39,8 @@ public:
     static const Class numberClass;
 
     /// Sets memory aside for so many numbers in series beside the first bytes; what is not needed takes none.
-    explicit TypedStreamWriter(SeriesNumbers numbers = SeriesNumbers::shared, std::size_t expectedNumbers = 0);
+    explicit TypedStreamWriter(SeriesNumbers numbers = SeriesNumbers::shared, std::size_t expectedNumbers = 0,
+                               SeriesPath path = SeriesPath::fast);
 
     /// The root array; its elements follow, then endObject().
     void beginRoot(std::size_t count);
@@ -65,6 +66,9 @@ public:
     QByteArray take();
 
 private:
+    friend class FastNumberWriter;
+    friend class PlainNumberWriter;
+
     struct KnownClass {
         std::string name;
         std::int64_t version;
@@ -104,20 +108,7 @@ private:
     void beginGroup(std::string_view types) { putSharedString(types); }
     void beginLiteral(const Class& description);
 
-    template <class Value>
-    void putBlock(std::span<const Value> values, char code);
-    template <class Value>
-    void putShared(std::span<const Value> values, char code);
-    void putSmall(std::span<const std::int8_t> values, char code);
-    template <class Value>
-    void putLiterals(std::span<const Value> values, char code);
-    template <class Value>
-    std::size_t putLiteral(Value value, char code);
-    void putNumber(const Number& number);
-    void putNumberPrefix(char code);
-    SharedNumbers::Element elementFor(std::size_t object) const;
-
-    SeriesNumbers numbers_;
+    std::unique_ptr<NumberWriter> numbers_;
     QByteArray buffer_;
     char* position_;
     char* end_;
@@ -130,12 +121,6 @@ private:
     QHash<quint64, std::size_t> dates_;
     QHash<const void*, std::size_t> records_;
     QHash<const void*, std::size_t> series_;  // those whose numbers others may share
-    SharedNumbers reals_;                     // of type 'd', by their bits
-    SharedNumbers narrow_;                    // of other types, by their 32 bits and the type above them
-    std::map<std::pair<char, std::int64_t>, SharedNumbers::Element> wide_;  // integers beyond 32 bits
-    std::array<SharedNumbers::Element, 256> small_{};  // those of narrow_ that fit a byte, by that byte, of one type
-    char smallCode_ = 'i';
-    std::array<std::string, 128> numberPrefixes_;  // what precedes the value of a number literal, by type code
 };
 
 }  // namespace tavrel

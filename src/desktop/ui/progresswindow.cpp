@@ -2,6 +2,10 @@
 
 #include "base/texts.h"
 
+#include <QElapsedTimer>
+
+#include <utility>
+
 namespace tavrel {
 
 namespace {
@@ -10,18 +14,26 @@ constexpr int steps = 1000;
 constexpr int patience = 500;  // milliseconds without a window
 constexpr int pace = 40;       // milliseconds between two looks at the user
 
+QElapsedTimer startedTimer() {
+    QElapsedTimer timer;
+    timer.start();
+    return timer;
+}
+
 }  // namespace
 
-ProgressWindow::ProgressWindow(QWidget* parent, const QString& work) : parent_(parent), work_(work) {
-    sinceStart_.start();
-}
+ProgressWindow::ProgressWindow(QWidget* parent, const QString& work)
+    : ProgressWindow(parent, work, [time = startedTimer()] { return time.elapsed(); }) {}
+
+ProgressWindow::ProgressWindow(QWidget* parent, const QString& work, Milliseconds clock)
+    : parent_(parent), work_(work), clock_(std::move(clock)), nextLook_(clock_() + patience) {}
 
 Progress ProgressWindow::progress() {
     return [this](std::size_t done, std::size_t total) { return goOn(done, total); };
 }
 
 bool ProgressWindow::goOn(std::size_t done, std::size_t total) {
-    if (wasCancelled() || sinceStart_.elapsed() < patience || (dialog_ && sinceShown_.elapsed() < pace)) {
+    if (wasCancelled() || clock_() < nextLook_) {
         return !wasCancelled();
     }
     if (!dialog_) {
@@ -29,7 +41,7 @@ bool ProgressWindow::goOn(std::size_t done, std::size_t total) {
     }
     const double share = total > 0 ? static_cast<double>(done) / static_cast<double>(total) : 0;
     dialog_->setValue(static_cast<int>(share * steps));
-    sinceShown_.start();
+    nextLook_ = clock_() + pace;
     return !wasCancelled();
 }
 

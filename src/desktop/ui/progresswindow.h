@@ -2,9 +2,9 @@
 
 #include "base/progress.h"
 
-#include <QElapsedTimer>
 #include <QProgressDialog>
 
+#include <functional>
 #include <memory>
 
 namespace tavrel {
@@ -13,7 +13,11 @@ namespace tavrel {
 /// nothing. While it shows nothing else in the application can be used.
 class ProgressWindow {
 public:
+    /// A clock in milliseconds that only goes forward.
+    using Milliseconds = std::function<qint64()>;
+
     ProgressWindow(QWidget* parent, const QString& work);
+    ProgressWindow(QWidget* parent, const QString& work, Milliseconds clock);
 
     /// What the work is to tell; valid while the window lives.
     Progress progress();
@@ -25,8 +29,8 @@ private:
 
     QWidget* parent_;
     QString work_;
-    QElapsedTimer sinceStart_;
-    QElapsedTimer sinceShown_;
+    Milliseconds clock_;
+    qint64 nextLook_;  ///< when it is shown, or shows more
     std::unique_ptr<QProgressDialog> dialog_;
 };
 

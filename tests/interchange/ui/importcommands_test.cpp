@@ -1,15 +1,9 @@
 #include "interchange/ui/importcommands.h"
 
-#include "desktop/ui/progresswindow.h"
 #include "support/testdesktop.h"
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QFile>
 #include <gtest/gtest.h>
-
-#include <chrono>
-#include <thread>
 
 namespace tavrel {
 
@@ -85,22 +79,6 @@ TEST_F(ImportWindow, asksForAFileAndTellsWhatCameIn) {
     commands->importUDDF();
     EXPECT_EQ(desktop.alerts.failures.size(), 1U);
     EXPECT_EQ(carnet.undoStack().count(), 3);
-}
-
-TEST_F(ImportWindow, showsProgressOfLongWorkAndCancels) {
-    ProgressWindow work(&window, QStringLiteral("Working"));
-    const Progress progress = work.progress();
-    EXPECT_TRUE(progress(0, 100));
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "quick work shows nothing";
-    std::this_thread::sleep_for(std::chrono::milliseconds(600));
-    EXPECT_TRUE(progress(10, 100));
-    QWidget* shown = QApplication::activeModalWidget();
-    ASSERT_NE(shown, nullptr);
-    const auto buttons = shown->findChildren<QAbstractButton*>();
-    ASSERT_EQ(buttons.size(), 1);
-    buttons[0]->click();
-    EXPECT_FALSE(progress(20, 100));
-    EXPECT_TRUE(work.wasCancelled());
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
+#include "archive/fastnumberwriter.h"
+
 #include "archive/typedstreamtags.h"
-#include "archive/typedstreamwriter.h"
 #include "records/floatbits.h"
 
 #include <QtEndian>
@@ -92,22 +93,7 @@ char* storeValue(char* at, double value, char) {
 
 }  // namespace
 
-void TypedStreamWriter::writeSeries(const Series& series) {
-    beginGroup("@");
-    if (series.isNull()) {
-        put(streamtags::nil);
-        return;
-    }
-    if (const void* numbers = series.sharedNumbers()) {
-        if (const auto known = series_.constFind(numbers); known != series_.constEnd()) {
-            putReference(*known);
-            return;
-        }
-        series_.insert(numbers, nextObject_);
-    }
-    beginLiteral(mutableArrayClass);
-    beginGroup("i");
-    putSigned(static_cast<std::int64_t>(series.size()));
+void FastNumberWriter::write(const Series& series) {
     putBlock(series.block<double>(), series.code());
     putBlock(series.block<float>(), series.code());
     putBlock(series.block<std::int32_t>(), series.code());
@@ -117,11 +103,10 @@ void TypedStreamWriter::writeSeries(const Series& series) {
             putNumber(series.at(index));
         }
     }
-    endObject();
 }
 
 template <class Value>
-void TypedStreamWriter::putBlock(std::span<const Value> values, char code) {
+void FastNumberWriter::putBlock(std::span<const Value> values, char code) {
     if (values.empty()) {
         return;
     }
@@ -135,7 +120,7 @@ void TypedStreamWriter::putBlock(std::span<const Value> values, char code) {
 }
 
 // One element of an array of mixed types.
-void TypedStreamWriter::putNumber(const Number& number) {
+void FastNumberWriter::putNumber(const Number& number) {
     if (number.code == 'd') {
         putBlock(std::span<const double>(&number.real, 1), 'd');
     } else if (number.code == 'f') {
@@ -145,25 +130,25 @@ void TypedStreamWriter::putNumber(const Number& number) {
         const auto value = static_cast<std::int32_t>(number.integer);
         putBlock(std::span<const std::int32_t>(&value, 1), number.code);
     } else if (Element& element = wide_[{number.code, number.integer}]; element != 0) {
-        position_ = repeat(room(prefixRoom), element, 1);
+        stream_.position_ = repeat(stream_.room(prefixRoom), element, 1);
     } else {
-        const Element known = elementFor(nextObject_);
+        const Element known = elementFor(stream_.nextObject_);
         putNumberPrefix(number.code);
         if (number.code == 'I' || number.code == 'L' || number.code == 'Q') {
-            putUnsigned(std::bit_cast<std::uint64_t>(number.integer));
+            stream_.putUnsigned(std::bit_cast<std::uint64_t>(number.integer));
         } else {
-            putSigned(number.integer);
+            stream_.putSigned(number.integer);
         }
-        endObject();
+        stream_.endObject();
         element = numbers_ == SeriesNumbers::shared ? known : 0;
     }
 }
 
 template <class Value>
-void TypedStreamWriter::putShared(std::span<const Value> values, char code) {
+void FastNumberWriter::putShared(std::span<const Value> values, char code) {
     SharedNumbers& known = std::is_same_v<Value, double> ? reals_ : narrow_;
     for (std::size_t index = 0; index < values.size(); ++index) {
-        char* at = room((values.size() - index) * sizeof(Element));
+        char* at = stream_.room((values.size() - index) * sizeof(Element));
         Element element = 1;
         for (; index < values.size(); ++index) {
             element = known.find(keyOf(values[index], code));
@@ -173,7 +158,7 @@ void TypedStreamWriter::putShared(std::span<const Value> values, char code) {
             qToLittleEndian(element, at);
             at += sizeOf(element);
         }
-        position_ = at;
+        stream_.position_ = at;
         if (element == 0) {
             element = elementFor(putLiteral(values[index], code));
             if (element != 0) {
@@ -183,7 +168,7 @@ void TypedStreamWriter::putShared(std::span<const Value> values, char code) {
     }
 }
 
-void TypedStreamWriter::putSmall(std::span<const std::int8_t> values, char code) {
+void FastNumberWriter::putSmall(std::span<const std::int8_t> values, char code) {
     if (smallCode_ != code) {
         smallCode_ = code;
         small_.fill(0);
@@ -207,24 +192,24 @@ void TypedStreamWriter::putSmall(std::span<const std::int8_t> values, char code)
         while (end < values.size() && values[end] == value) {
             ++end;
         }
-        position_ = repeat(room((end - index + 1) * sizeof(Element)), element, end - index);
+        stream_.position_ = repeat(stream_.room((end - index + 1) * sizeof(Element)), element, end - index);
         index = end;
     }
 }
 
 // The number of the object written.
 template <class Value>
-std::size_t TypedStreamWriter::putLiteral(Value value, char code) {
-    const std::size_t object = nextObject_;
+std::size_t FastNumberWriter::putLiteral(Value value, char code) {
+    const std::size_t object = stream_.nextObject_;
     putNumberPrefix(code);
-    position_ = storeValue(room(prefixRoom), value, code);
-    endObject();
+    stream_.position_ = storeValue(stream_.room(prefixRoom), value, code);
+    stream_.endObject();
     return object;
 }
 
 // What precedes the value is the same for all of them, once the first one has been written.
 template <class Value>
-void TypedStreamWriter::putLiterals(std::span<const Value> values, char code) {
+void FastNumberWriter::putLiterals(std::span<const Value> values, char code) {
     const std::string& prefix = numberPrefixes_[static_cast<unsigned char>(code)];
     std::size_t index = 0;
     for (; index < values.size() && (prefix.empty() || prefix.size() > prefixBlock); ++index) {
@@ -234,47 +219,47 @@ void TypedStreamWriter::putLiterals(std::span<const Value> values, char code) {
     prefix.copy(block.data(), block.size());
     const std::size_t size = prefix.size();
     constexpr std::size_t longestValue = 10;  // with the end of the object
-    char* at = room((values.size() - index) * (size + longestValue) + prefixBlock);
-    nextObject_ += values.size() - index;
+    char* at = stream_.room((values.size() - index) * (size + longestValue) + prefixBlock);
+    stream_.nextObject_ += values.size() - index;
     for (; index < values.size(); ++index) {
         std::memcpy(at, block.data(), block.size());
         at = storeValue(at + size, values[index], code);
         *at++ = static_cast<char>(streamtags::end);
     }
-    position_ = at;
+    stream_.position_ = at;
 }
 
 // Type, class and type code of a number. From the second one of a type on they are references only, always the same.
-void TypedStreamWriter::putNumberPrefix(char code) {
+void FastNumberWriter::putNumberPrefix(char code) {
     std::string& known = numberPrefixes_[static_cast<unsigned char>(code)];
     const std::string_view codeText(&code, 1);
     if (known.empty()) {
-        beginGroup("@");
-        beginLiteral(numberClass);
-        beginGroup("*");
-        putCString(codeText);
-        beginGroup(codeText);
+        stream_.beginGroup("@");
+        stream_.beginLiteral(TypedStreamWriter::numberClass);
+        stream_.beginGroup("*");
+        stream_.putCString(codeText);
+        stream_.beginGroup(codeText);
 
         // Written a second time for its bytes, which are then taken back.
-        const std::ptrdiff_t start = position_ - buffer_.constData();
-        beginGroup("@");
-        put(streamtags::literal);
-        putClass(numberClass);
-        beginGroup("*");
-        putCString(codeText);
-        beginGroup(codeText);
-        const std::ptrdiff_t size = position_ - buffer_.constData() - start;
-        position_ = buffer_.data() + start;
-        known.assign(position_, static_cast<std::size_t>(size));
+        const std::ptrdiff_t start = stream_.position_ - stream_.buffer_.constData();
+        stream_.beginGroup("@");
+        stream_.put(streamtags::literal);
+        stream_.putClass(TypedStreamWriter::numberClass);
+        stream_.beginGroup("*");
+        stream_.putCString(codeText);
+        stream_.beginGroup(codeText);
+        const std::ptrdiff_t size = stream_.position_ - stream_.buffer_.constData() - start;
+        stream_.position_ = stream_.buffer_.data() + start;
+        known.assign(stream_.position_, static_cast<std::size_t>(size));
         return;
     }
-    put(known);
-    ++nextObject_;
+    stream_.put(known);
+    ++stream_.nextObject_;
 }
 
 // The element that refers to an object; 0 when it takes more than seven bytes.
-Element TypedStreamWriter::elementFor(std::size_t object) const {
-    const Reference& type = codeReferences_['@'];
+Element FastNumberWriter::elementFor(std::size_t object) const {
+    const TypedStreamWriter::Reference& type = stream_.codeReferences_['@'];
     const std::int64_t reference = static_cast<std::int64_t>(object) + streamtags::firstReference;
     Element element = 0;
     unsigned shift = 0;
