@@ -55,8 +55,8 @@
 <message><source>Consumption of</source><translation>Gas consumption: %@</translation></message>
 <message><source>Copying</source><translation>Copying the dives…</translation></message>
 <message><source>Current</source><translation>&#13;Current: </translation></message>
-<message><source>Datas</source><translation>%d values</translation></message>
 <message><source>Current dive</source><translation>Current dive</translation></message>
+<message><source>Datas</source><translation>%d values</translation></message>
 <message><source>Date</source><translation>&#13;Date: </translation></message>
 <message><source>Deco algorythm type</source><translation>&#13;Algorithm: </translation></message>
 <message><source>Deco conservatism</source><translation>&#13;Conservatism: </translation></message>

@@ -55,8 +55,8 @@
 <message><source>Consumption of</source><translation>Consommation de gaz : %@</translation></message>
 <message><source>Copying</source><translation>Copie des plongées…</translation></message>
 <message><source>Current</source><translation>&#13;Courant : </translation></message>
-<message><source>Datas</source><translation>%d valeurs</translation></message>
 <message><source>Current dive</source><translation>Plongée courante</translation></message>
+<message><source>Datas</source><translation>%d valeurs</translation></message>
 <message><source>Date</source><translation>&#13;Date : </translation></message>
 <message><source>Deco algorythm type</source><translation>&#13;Algorithme : </translation></message>
 <message><source>Deco conservatism</source><translation>&#13;Conservatisme : </translation></message>
