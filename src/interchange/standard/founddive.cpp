@@ -1,6 +1,7 @@
 #include "interchange/standard/founddive.h"
 
 #include "base/texts.h"
+#include "interchange/standard/uddfwords.h"
 
 #include <algorithm>
 #include <cmath>
@@ -176,6 +177,11 @@ void markDuplicates(FoundDives& found, const std::vector<DivePointer>& held) {
         it.duplicate = known.holds(it.dive);
         known.add(it.dive);
     }
+}
+
+BreathedGas breathedGas(const Plongee& dive) {
+    return dive.rebreather >= manualClosed ? BreathedGas{dive.o2Mix_2, dive.heMix_2}
+                                           : BreathedGas{dive.o2Mix, dive.heMix};
 }
 
 void keepLostTexts(FoundDive& found) {

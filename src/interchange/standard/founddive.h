@@ -66,6 +66,13 @@ void doubt(FoundDives& found, const QDateTime& now);
 /// depth within a metre or 5 %, the time within two minutes or 10 %. Dives without a date are never the same.
 void markDuplicates(FoundDives& found, const std::vector<DivePointer>& held);
 
+/// The gas that a dive was made on, percent: that of the first tank, with a closed rebreather the diluent.
+struct BreathedGas {
+    qint32 oxygen;
+    qint32 helium;
+};
+BreathedGas breathedGas(const Plongee& dive);
+
 /// Adds the words of what is lost to the notes, a paragraph each.
 void keepLostTexts(FoundDive& found);
 

@@ -38,7 +38,9 @@ std::vector<XmlElement> childrenOf(XmlElement parent, std::string_view name) {
 
 class DiveReader {
 public:
-    DiveReader(XmlElement dive, bool imperial) : dive_(dive), imperial_(imperial) { found_.dive = unknownDive(); }
+    DiveReader(XmlElement dive, bool imperial, bool own) : dive_(dive), imperial_(imperial), own_(own) {
+        found_.dive = unknownDive();
+    }
 
     FoundDive read() {
         readPlace();
@@ -188,7 +190,23 @@ private:
                 found_.lose(QStringLiteral("SAMPLES/TEMPERATURE"));
             }
         }
+        if (own_ && depths.size() >= 2) {
+            withoutSurface(depths, raised, delta);
+        }
         take(depths, raised);
+    }
+
+    /// Drops the points at the surface that the export puts before and behind a profile.
+    static void withoutSurface(std::vector<TimedValue>& depths, std::vector<std::pair<double, QString>>& raised,
+                               double delta) {
+        depths.pop_back();
+        depths.erase(depths.begin());
+        for (TimedValue& it : depths) {
+            it.seconds -= delta;
+        }
+        for (auto& [moment, kind] : raised) {
+            moment -= delta;
+        }
     }
 
     void take(const std::vector<TimedValue>& depths, const std::vector<std::pair<double, QString>>& raised) {
@@ -226,6 +244,7 @@ private:
 
     XmlElement dive_;
     bool imperial_;
+    bool own_;  ///< an export of this program
     FoundDive found_;
 };
 
@@ -243,12 +262,15 @@ FoundDives readUdcf(XmlElement root, const Progress& progress) {
     }
     const bool imperial =
         wordsOf(childOf(root, {"UNITS"})).compare(QLatin1String("IMPERIAL"), Qt::CaseInsensitive) == 0;
+    // This program's exports name it as the maker, in either vocabulary.
+    const bool own = wordsOf(childOf(childOf(root, {"DEVICE"}), {"VENDOR"})).startsWith(QLatin1String("Tavrel")) ||
+                     wordsOf(childOf(childOf(root, {"generator"}), {"name"})).startsWith(QLatin1String("Tavrel"));
     FoundDives found;
     for (const XmlElement dive : dives) {
         if (progress && !progress(found.dives.size(), dives.size())) {
             break;
         }
-        found.dives.push_back(DiveReader(dive, imperial).read());
+        found.dives.push_back(DiveReader(dive, imperial, own).read());
     }
     return found;
 }

@@ -1,6 +1,6 @@
 #include "interchange/standard/uddfreading.h"
 
-#include "dives/divechoices.h"
+#include "interchange/standard/divetanks.h"
 #include "interchange/standard/filetime.h"
 #include "interchange/standard/filevalues.h"
 #include "interchange/standard/position.h"
@@ -353,15 +353,10 @@ private:
                 takeComputer(only);
             }
         }
-        static constexpr std::array<QString Plongee::*, 12> places{
-            &Plongee::equip_1, &Plongee::equip_2,  &Plongee::equip_3,  &Plongee::equip_4,
-            &Plongee::equip_5, &Plongee::equip_6,  &Plongee::equip_7,  &Plongee::equip_8,
-            &Plongee::equip_9, &Plongee::equip_10, &Plongee::equip_11, &Plongee::equip_12,
-        };
         equipment_.removeAll(QString());
         for (qsizetype piece = 0; piece < equipment_.size(); ++piece) {
-            if (static_cast<std::size_t>(piece) < places.size()) {
-                dive.*places[static_cast<std::size_t>(piece)] = equipment_[piece];
+            if (static_cast<std::size_t>(piece) < equipmentFields.size()) {
+                dive.*equipmentFields[static_cast<std::size_t>(piece)] = equipment_[piece];
             } else {
                 found_.lose(QStringLiteral("equipmentused"), equipment_[piece]);
             }
@@ -470,11 +465,10 @@ FoundDives readUddf(XmlElement root, const Progress& progress) {
         for (XmlElement group = data.firstElement(); !group.isNull(); group = group.nextElement()) {
             if (group.name() == "dive") {
                 dives.push_back(group);
+                continue;
             }
             for (const XmlElement dive : group.children("dive")) {
-                if (group.name() == "repetitiongroup") {
-                    dives.push_back(dive);
-                }
+                dives.push_back(dive);
             }
         }
     }
@@ -485,6 +479,9 @@ FoundDives readUddf(XmlElement root, const Progress& progress) {
             break;
         }
         found.dives.push_back(DiveReader(document, dive).read());
+        if (dive.parent().name() != "repetitiongroup") {
+            found.dives.back().doubts.push_back(Doubt::groupSkipped);
+        }
     }
     for (const char* name : {"mediadata", "business", "tablegeneration", "divecomputercontrol", "decomodel"}) {
         if (const XmlElement part = root.first(name); !part.firstElement().isNull()) {

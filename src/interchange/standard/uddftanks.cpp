@@ -1,6 +1,9 @@
 #include "interchange/standard/uddftanks.h"
 
+#include "interchange/standard/divetanks.h"
 #include "interchange/standard/filevalues.h"
+
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
@@ -10,7 +13,7 @@ namespace tavrel {
 namespace {
 
 /// Where a tank of the file goes.
-enum class Role { unknown, bottom, stage, bailout };
+enum class Role { unknown, first, second, stage, bailout };
 
 struct Tank {
     std::string mix;                 ///< the id of its gas; empty when unknown
@@ -28,12 +31,29 @@ qint32 materialOf(XmlElement piece) {
     return material == QLatin1String("carbon") ? 1 : material == QLatin1String("steel") ? 2 : 0;
 }
 
+/// What the name of a tank says of its use.
 Role roleOf(const QString& title) {
+    static const QRegularExpression numbered(QStringLiteral(R"(^\s*(?:tank|cylinder|bottle)\s*([12])\s*$)"),
+                                             QRegularExpression::CaseInsensitiveOption);
     const auto names = [&](const char* word) { return title.contains(QLatin1String(word), Qt::CaseInsensitive); };
     if (names("bail")) {
         return Role::bailout;
     }
-    return names("pony") || names("stage") || names("deco") ? Role::stage : Role::unknown;
+    if (names("pony") || names("stage") || names("deco")) {
+        return Role::stage;
+    }
+    const auto match = numbered.match(title);
+    return !match.hasMatch() ? Role::unknown : match.captured(1) == QLatin1String("1") ? Role::first : Role::second;
+}
+
+/// The number that the name of a tank ends with; 0 for none.
+std::size_t numberOfTitle(const QString& title) {
+    static const QRegularExpression number(QStringLiteral(R"((\d)\s*$)"));
+    return number.match(title).captured(1).toUInt();
+}
+
+bool isAside(const Tank& tank) {
+    return tank.role == Role::stage || tank.role == Role::bailout;
 }
 
 class TankReader {
@@ -113,49 +133,6 @@ private:
     std::vector<Tank> tanks_;
 };
 
-struct MainTank {
-    qint32 Plongee::*material;
-    qint32 Plongee::*volume;
-    qint32 Plongee::*start;
-    qint32 Plongee::*end;
-    qint32 Plongee::*gas;
-    qint32 Plongee::*oxygen;
-    qint32 Plongee::*helium;
-};
-constexpr std::array<MainTank, 2> mainTanks{{
-    {&Plongee::alliageBloc, &Plongee::volumeBloc, &Plongee::pressionDepart, &Plongee::pressionFin, &Plongee::gaz,
-     &Plongee::o2Mix, &Plongee::heMix},
-    {&Plongee::alliageBloc_2, &Plongee::volumeBloc_2, &Plongee::pressionDepart_2, &Plongee::pressionFin_2,
-     &Plongee::gaz_2, &Plongee::o2Mix_2, &Plongee::heMix_2},
-}};
-
-struct Bottle {
-    qint32 Plongee::*volume;
-    qint32 Plongee::*start;
-    qint32 Plongee::*end;
-};
-constexpr std::array<Bottle, 3> stages{{
-    {&Plongee::volPony1, &Plongee::pressDepartPony1, &Plongee::pressFinPony1},
-    {&Plongee::volPony2, &Plongee::pressDepartPony2, &Plongee::pressFinPony2},
-    {&Plongee::volPony3, &Plongee::pressDepartPony3, &Plongee::pressFinPony3},
-}};
-constexpr std::array<Bottle, 2> bailouts{{
-    {&Plongee::volBailout1, &Plongee::pressDepartBailout1, &Plongee::pressFinBailout1},
-    {&Plongee::volBailout2, &Plongee::pressDepartBailout2, &Plongee::pressFinBailout2},
-}};
-constexpr std::array<std::pair<qint32 Plongee::*, qint32 Plongee::*>, 2> bailoutGases{{
-    {&Plongee::O2Bailout1, &Plongee::HeBailout1},
-    {&Plongee::O2Bailout2, &Plongee::HeBailout2},
-}};
-constexpr std::array<std::pair<qint32 Plongee::*, qint32 Plongee::*>, 6> levelGases{{
-    {&Plongee::decoO2_Level_1, &Plongee::decoHe_Level_1},
-    {&Plongee::decoO2_Level_2, &Plongee::decoHe_Level_2},
-    {&Plongee::decoO2_Level_3, &Plongee::decoHe_Level_3},
-    {&Plongee::decoO2_Level_4, &Plongee::decoHe_Level_4},
-    {&Plongee::decoO2_Level_5, &Plongee::decoHe_Level_5},
-    {&Plongee::decoO2_Level_6, &Plongee::decoHe_Level_6},
-}};
-
 class Assignment {
 public:
     Assignment(const UddfDocument& document, const UddfProfile& profile, const std::string& namedMix, FoundDive& found)
@@ -185,12 +162,18 @@ public:
 
 private:
     std::string bottomOf(const std::vector<Tank>& tanks) const {
+        const Role main = found_.dive.rebreather >= 2 ? Role::second : Role::first;
+        for (const Tank& tank : tanks) {
+            if (tank.role == main && !tank.mix.empty()) {
+                return tank.mix;
+            }
+        }
         if (const std::string mix = profile_.mixAt(profile_.deepestMoment()); document_.isMix(mix)) {
             return mix;
         }
         if (found_.dive.rebreather < 2) {
             for (const Tank& tank : tanks) {
-                if (!tank.mix.empty() && tank.role != Role::stage && tank.role != Role::bailout) {
+                if (!tank.mix.empty() && !isAside(tank)) {
                     return tank.mix;
                 }
             }
@@ -206,20 +189,20 @@ private:
         return document_.mixIds().size() == 1 ? document_.mixIds().front() : std::string();
     }
 
-    void fill(const MainTank& place, const Tank& tank) {
+    void fill(const MainTankFields& place, const Tank& tank) {
         Plongee& dive = found_.dive;
         dive.*place.material = tank.material;
         dive.*place.volume = tank.volume;
         dive.*place.start = tank.start;
         dive.*place.end = tank.end;
     }
-    void fill(const Bottle& place, const Tank& tank) {
+    void fill(const BottleFields& place, const Tank& tank) {
         Plongee& dive = found_.dive;
         dive.*place.volume = tank.volume;
         dive.*place.start = tank.start;
         dive.*place.end = tank.end;
     }
-    void breathe(const MainTank& place, const GasMix& mix) {
+    void breathe(const MainTankFields& place, const GasMix& mix) {
         Plongee& dive = found_.dive;
         dive.*place.gas = mix.kind;
         dive.*place.oxygen = mix.oxygen;
@@ -227,29 +210,45 @@ private:
     }
 
     void giveFirst(const Tank& tank) {
-        fill(mainTanks[0], tank);
+        fill(mainTankFields[0], tank);
         firstNames_ = tank.names;
     }
 
-    bool giveStage(const Tank& tank) {
-        if (stagesGiven_ == stages.size()) {
-            return false;
+    /// The place for one more tank: the one of its number, or the first that is free; none left is the count.
+    template <std::size_t N>
+    static std::size_t placeFor(const Tank& tank, std::array<bool, N>& given) {
+        const std::size_t number = numberOfTitle(tank.title);
+        std::size_t place = 0;
+        if (number >= 1 && number <= N && !given[number - 1]) {
+            place = number - 1;
+        } else {
+            place = static_cast<std::size_t>(std::find(given.begin(), given.end(), false) - given.begin());
         }
-        fill(stages[stagesGiven_++], tank);
-        return true;
+        if (place < N) {
+            given[place] = true;
+        }
+        return place;
+    }
+
+    bool giveStage(const Tank& tank) {
+        const std::size_t place = placeFor(tank, stagesGiven_);
+        if (place < stageFields.size()) {
+            fill(stageFields[place], tank);
+        }
+        return place < stageFields.size();
     }
 
     bool giveBailout(const Tank& tank) {
-        if (bailoutsGiven_ == bailouts.size()) {
+        const std::size_t place = placeFor(tank, bailoutsGiven_);
+        if (place == bailoutFields.size()) {
             return false;
         }
-        fill(bailouts[bailoutsGiven_], tank);
-        const GasMix mix = document_.mix(tank.mix);
+        fill(bailoutFields[place], tank);
         if (!tank.mix.empty()) {
-            found_.dive.*bailoutGases[bailoutsGiven_].first = mix.oxygen;
-            found_.dive.*bailoutGases[bailoutsGiven_].second = mix.helium;
+            const GasMix mix = document_.mix(tank.mix);
+            found_.dive.*bailoutGasFields[place].first = mix.oxygen;
+            found_.dive.*bailoutGasFields[place].second = mix.helium;
         }
-        ++bailoutsGiven_;
         return true;
     }
 
@@ -271,18 +270,21 @@ private:
     }
 
     void assignOpen(const std::vector<Tank>& tanks) {
-        const auto first = std::find_if(tanks.begin(), tanks.end(), [&](const Tank& tank) {
-            return tank.role != Role::stage && tank.role != Role::bailout && tank.mix == bottom_;
-        });
+        auto first =
+            std::find_if(tanks.begin(), tanks.end(), [](const Tank& tank) { return tank.role == Role::first; });
+        if (first == tanks.end()) {
+            first = std::find_if(tanks.begin(), tanks.end(),
+                                 [&](const Tank& tank) { return !isAside(tank) && tank.mix == bottom_; });
+        }
         const Tank* chosen = first != tanks.end() ? &*first : nullptr;
-        if (!chosen && !tanks.empty() && tanks.front().role != Role::stage && tanks.front().role != Role::bailout) {
+        if (!chosen && !tanks.empty() && !isAside(tanks.front())) {
             chosen = &tanks.front();
         }
         if (chosen) {
             giveFirst(*chosen);
         }
         if (!bottom_.empty()) {
-            breathe(mainTanks[0], document_.mix(bottom_));
+            breathe(mainTankFields[0], document_.mix(bottom_));
         }
         bool second = false;
         for (const Tank& tank : tanks) {
@@ -294,9 +296,9 @@ private:
             if (tank.role == Role::bailout) {
                 held = giveBailout(tank);
             } else if (!stage && !second) {
-                fill(mainTanks[1], tank);
+                fill(mainTankFields[1], tank);
                 if (!tank.mix.empty()) {
-                    breathe(mainTanks[1], document_.mix(tank.mix));
+                    breathe(mainTankFields[1], document_.mix(tank.mix));
                 }
                 held = second = true;
             }
@@ -311,26 +313,30 @@ private:
             return !tank.mix.empty() && document_.mix(tank.mix).oxygen >= 95;
         };
         const auto oxygen = std::find_if(tanks.begin(), tanks.end(), [&](const Tank& tank) {
-            return tank.role != Role::bailout && tank.role != Role::stage && isOxygen(tank);
+            return tank.role == Role::first || (tank.role == Role::unknown && isOxygen(tank));
         });
-        auto diluent = std::find_if(tanks.begin(), tanks.end(), [&](const Tank& tank) {
-            return tank.role == Role::unknown && tank.mix == bottom_ && !isOxygen(tank);
-        });
+        auto diluent =
+            std::find_if(tanks.begin(), tanks.end(), [](const Tank& tank) { return tank.role == Role::second; });
+        if (diluent == tanks.end()) {
+            diluent = std::find_if(tanks.begin(), tanks.end(), [&](const Tank& tank) {
+                return tank.role == Role::unknown && tank.mix == bottom_ && !isOxygen(tank);
+            });
+        }
         if (diluent == tanks.end()) {
             diluent = std::find_if(tanks.begin(), tanks.end(),
                                    [&](const Tank& tank) { return tank.role == Role::unknown && !isOxygen(tank); });
         }
-        breathe(mainTanks[0], GasMix{100, 0, 1});
+        breathe(mainTankFields[0], GasMix{100, 0, 1});
         if (oxygen != tanks.end()) {
             giveFirst(*oxygen);
         }
         if (!bottom_.empty() && document_.mix(bottom_).oxygen < 95) {
-            breathe(mainTanks[1], document_.mix(bottom_));
+            breathe(mainTankFields[1], document_.mix(bottom_));
         } else if (diluent != tanks.end() && !diluent->mix.empty()) {
-            breathe(mainTanks[1], document_.mix(diluent->mix));
+            breathe(mainTankFields[1], document_.mix(diluent->mix));
         }
         if (diluent != tanks.end()) {
-            fill(mainTanks[1], *diluent);
+            fill(mainTankFields[1], *diluent);
         }
         for (auto tank = tanks.begin(); tank != tanks.end(); ++tank) {
             if (tank != oxygen && tank != diluent &&
@@ -346,43 +352,30 @@ private:
     FoundDive& found_;
     std::string bottom_;
     std::vector<std::string> firstNames_;
-    std::size_t stagesGiven_ = 0;
-    std::size_t bailoutsGiven_ = 0;
+    std::array<bool, stageFields.size()> stagesGiven_{};
+    std::array<bool, bailoutFields.size()> bailoutsGiven_{};
 };
 
 /// The stops that a plan names, in its order.
 void giveStops(const UddfDocument& document, XmlElement dive, Assignment& assignment, FoundDive& found) {
-    struct Stop {
-        float Plongee::*depth;
-        qint32 Plongee::*minutes;
-        qint32 Plongee::*made;
-    };
-    static constexpr std::array<Stop, 6> stops{{
-        {&Plongee::decoDepth_Level_1, &Plongee::decoTime_Level_1, &Plongee::deco_Level_1_sw},
-        {&Plongee::decoDepth_Level_2, &Plongee::decoTime_Level_2, &Plongee::deco_Level_2_sw},
-        {&Plongee::decoDepth_Level_3, &Plongee::decoTime_Level_3, &Plongee::deco_Level_3_sw},
-        {&Plongee::decoDepth_Level_4, &Plongee::decoTime_Level_4, &Plongee::deco_Level_4_sw},
-        {&Plongee::decoDepth_Level_5, &Plongee::decoTime_Level_5, &Plongee::deco_Level_5_sw},
-        {&Plongee::decoDepth_Level_6, &Plongee::decoTime_Level_6, &Plongee::deco_Level_6_sw},
-    }};
     std::size_t level = 0;
     for (const XmlElement waypoint : dive.first("informationbeforedive").first("plannedprofile").children("waypoint")) {
         const XmlElement stop = waypoint.first("decostop");
         if (stop.isNull()) {
             continue;
         }
-        if (level == stops.size()) {
+        if (level == stopFields.size()) {
             found.lose(QStringLiteral("plannedprofile/decostop"));
             break;
         }
-        found.dive.*stops[level].depth = static_cast<float>(numberOf(stop.attribute("decodepth")).value_or(0));
-        found.dive.*stops[level].minutes = rounded(numberOf(stop.attribute("duration")).value_or(0) / 60);
-        found.dive.*stops[level].made = stop.attribute("kind") == "mandatory" ? 1 : 0;
+        found.dive.*stopFields[level].depth = static_cast<float>(numberOf(stop.attribute("decodepth")).value_or(0));
+        found.dive.*stopFields[level].minutes = rounded(numberOf(stop.attribute("duration")).value_or(0) / 60);
+        found.dive.*stopFields[level].made = stop.attribute("kind") == "mandatory" ? 1 : 0;
         if (const XmlElement gas = waypoint.first("switchmix"); !gas.isNull()) {
             assignment.levelMixes[level] = uddfReference(gas);
             const GasMix mix = document.mix(assignment.levelMixes[level]);
-            found.dive.*levelGases[level].first = mix.oxygen;
-            found.dive.*levelGases[level].second = mix.helium;
+            found.dive.*stopFields[level].gas.first = mix.oxygen;
+            found.dive.*stopFields[level].gas.second = mix.helium;
         }
         ++level;
     }
@@ -409,7 +402,7 @@ void markSwitches(const UddfDocument& document, const UddfProfile& profile, cons
         if (level == levels.end()) {
             const auto isFree = [&](const std::string& mix) {
                 const auto place = static_cast<std::size_t>(&mix - levels.data());
-                return mix.empty() && found.dive.*levelGases[place].first == 0;
+                return mix.empty() && found.dive.*stopFields[place].gas.first == 0;
             };
             level = std::find_if(levels.begin(), levels.end(), isFree);
             if (level == levels.end()) {
@@ -418,8 +411,8 @@ void markSwitches(const UddfDocument& document, const UddfProfile& profile, cons
             }
             *level = it.mix;
             const auto place = static_cast<std::size_t>(level - levels.begin());
-            found.dive.*levelGases[place].first = document.mix(it.mix).oxygen;
-            found.dive.*levelGases[place].second = document.mix(it.mix).helium;
+            found.dive.*stopFields[place].gas.first = document.mix(it.mix).oxygen;
+            found.dive.*stopFields[place].gas.second = document.mix(it.mix).helium;
         }
         flags[sample] = static_cast<qint32>(level - levels.begin()) + 2;
     }

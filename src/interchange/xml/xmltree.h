@@ -123,11 +123,11 @@ struct XmlMarkup {
     bool plainNames = false;
 };
 
-/// An XML file as a tree of elements and texts, with attributes where they are asked for. Malformed markup is repaired as far as libxml2's
-/// parser recovers it, and texts are converted from the encoding that the file declares. Nothing outside the bytes is
-/// ever read: entities, external references and inclusions stay unresolved, and the network is out of reach. Fails when
-/// the bytes hold no element, or when they nest or grow beyond the parser's limits (256 levels, names of 50 kB)
-/// or name entities whose texts add up to far more than the file.
+/// An XML file as a tree of elements and texts, with attributes where they are asked for. Malformed markup is repaired
+/// as far as libxml2's parser recovers it, and texts are converted from the encoding that the file declares. Nothing
+/// outside the bytes is ever read: entities, external references and inclusions stay unresolved, and the network is out
+/// of reach. Fails when the bytes hold no element, or when they nest or grow beyond the parser's limits (256 levels,
+/// names of 50 kB) or name entities whose texts add up to far more than the file.
 class XmlTree {
 public:
     /// The progress counts bytes.
