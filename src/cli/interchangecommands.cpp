@@ -5,6 +5,7 @@
 #include "base/texts.h"
 #include "cli/session.h"
 #include "interchange/exports.h"
+#include "interchange/lossreport.h"
 #include "interchange/standardimport.h"
 
 #include <CLI/CLI.hpp>
@@ -30,6 +31,7 @@ struct Arguments {
     bool keepDuplicates = false;
     bool byDate = false;
     bool keepTexts = false;
+    bool report = false;
 };
 
 /// How a file is read: by one of the prescribed formats, or found first whatever it is.
@@ -203,6 +205,13 @@ Expected<void> exportFrom(Carnet& carnet, const Arguments& arguments, Console& c
     const auto& exports = logbookExports();
     const auto chosen = std::find_if(exports.begin(), exports.end(),
                                      [&](const LogbookExport& it) { return it.name == arguments.format; });
+    if (arguments.report) {
+        return lossesOf(carnet, *chosen, carnet.records()).map([&](const std::vector<FieldLoss>& losses) {
+            for (const QString& line : lossLines(losses)) {
+                print(console, line);
+            }
+        });
+    }
     const QString type = QString::fromLatin1(chosen->typeName);
     const QString target = pathArgument(arguments.other);
     if (target == u"-" || target == u"/dev/stdout") {
@@ -266,6 +275,8 @@ void addInterchangeCommands(CLI::App& app, Console& console) {
     addFile(exporting);
     exporting->add_option("TARGET", arguments->other, "The file to write; - is the standard output")->required();
     exporting->add_option("--format", arguments->format, "The format")->required()->check(CLI::IsMember(formats));
+    exporting->add_flag("--report", arguments->report,
+                        "Prints which fields the format would lose, and of how many dives; writes nothing");
     exporting->callback([arguments, &console] {
         withLogbook(*arguments, console, [&](Carnet& carnet) { return exportFrom(carnet, *arguments, console); });
     });

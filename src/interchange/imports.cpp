@@ -38,9 +38,6 @@ std::optional<ImportFormat> formatOf(XmlElement root) {
     return root.first("repgroup").isNull() ? std::nullopt : std::optional(ImportFormat::handheld);
 }
 
-/// Several times what a diver of a lifetime has; a file of empty elements would fill the memory with dives.
-constexpr std::size_t mostDives = 500'000;
-
 /// One import under way.
 class Import {
 public:

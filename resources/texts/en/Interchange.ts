@@ -13,6 +13,7 @@
 <message><source>Left out</source><translation>In groups that this format leaves out: %d.</translation></message>
 <message><source>Lost of dives</source><translation>%@ (dives: %d)</translation></message>
 <message><source>No dives of this kind</source><translation>The document holds no dives.</translation></message>
+<message><source>Nothing lost</source><translation>Nothing is lost.</translation></message>
 <message><source>Reads better</source><translation>The file is UDDF 3: Import Dives… reads it with its dates, gases and profiles.</translation></message>
 <message><source>Skipped</source><translation>Already there and left out: %d.</translation></message>
 <message><source>Twice</source><translation>Now there twice: %d.</translation></message>

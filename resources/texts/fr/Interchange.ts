@@ -13,6 +13,7 @@
 <message><source>Left out</source><translation>Dans des groupes que ce format laisse de côté : %d.</translation></message>
 <message><source>Lost of dives</source><translation>%@ (plongées : %d)</translation></message>
 <message><source>No dives of this kind</source><translation>Le document ne contient pas de plongées.</translation></message>
+<message><source>Nothing lost</source><translation>Rien n’est perdu.</translation></message>
 <message><source>Reads better</source><translation>Le fichier est de l’UDDF 3 : « Importer des plongées… » le lit avec ses dates, ses gaz et ses profils.</translation></message>
 <message><source>Skipped</source><translation>Déjà présentes et laissées de côté : %d.</translation></message>
 <message><source>Twice</source><translation>Présentes deux fois : %d.</translation></message>

@@ -37,10 +37,14 @@ struct FoundDive {
     void lose(const QString& name, const QString& text = {});
 };
 
+/// Several times what a diver of a lifetime has; a file of empty elements would fill the memory with dives.
+inline constexpr std::size_t mostDives = 500'000;
+
 /// All dives of a file in its order.
 struct FoundDives {
     std::vector<FoundDive> dives;
     QStringList lostWithFile;  ///< what belongs to no dive
+    bool tooMany = false;      ///< more than anyone dives, and so not read
 
     /// How many dives lose each item.
     std::map<QString, int> lostCounts() const;

@@ -85,6 +85,9 @@ Expected<Source> readSource(QByteArrayView bytes, const Progress& progress) {
     Source source{*kind, readTree(*kind, tree->root(), [&](std::size_t done, std::size_t total) {
                       return advance(done, total, thousandthsOfParsing, thousandths - thousandthsOfParsing);
                   })};
+    if (source.found.tooMany) {
+        return failure(text("Main", "XML file beyond limits"));
+    }
     return cancelled ? failure(text("Main", "Cancelled")) : Expected<Source>(std::move(source));
 }
 

@@ -266,6 +266,10 @@ FoundDives readUdcf(XmlElement root, const Progress& progress) {
     const bool own = wordsOf(childOf(childOf(root, {"DEVICE"}), {"VENDOR"})).startsWith(QLatin1String("Tavrel")) ||
                      wordsOf(childOf(childOf(root, {"generator"}), {"name"})).startsWith(QLatin1String("Tavrel"));
     FoundDives found;
+    if (dives.size() > mostDives) {
+        found.tooMany = true;
+        return found;
+    }
     for (const XmlElement dive : dives) {
         if (progress && !progress(found.dives.size(), dives.size())) {
             break;

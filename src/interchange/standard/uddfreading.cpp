@@ -473,6 +473,10 @@ FoundDives readUddf(XmlElement root, const Progress& progress) {
         }
     }
     FoundDives found;
+    if (dives.size() > mostDives) {
+        found.tooMany = true;
+        return found;
+    }
     found.dives.reserve(dives.size());
     for (const XmlElement dive : dives) {
         if (progress && !progress(found.dives.size(), dives.size())) {

@@ -1,6 +1,7 @@
 #include "interchange/standard/uddfwriting.h"
 
 #include "base/numbers.h"
+#include "base/texts.h"
 #include "calculators/gps.h"
 #include "interchange/standard/divetanks.h"
 #include "interchange/standard/founddive.h"
@@ -133,7 +134,8 @@ public:
         }
     }
 
-    QByteArray write() {
+    Expected<QByteArray> write(const Progress& progress) {
+        constexpr std::size_t divesPerProgress = 32;
         xml_.begin("uddf", {{"xmlns", uddfNamespace}, {"version", "3.2.3"}});
         writeGenerator();
         writeDiver();
@@ -144,6 +146,9 @@ public:
             xml_.begin("profiledata");
             xml_.begin("repetitiongroup", "id", "group1");
             for (std::size_t index = 0; index < dives_.size(); ++index) {
+                if (index % divesPerProgress == 0 && progress && !progress(index, dives_.size())) {
+                    return failure(text("Main", "Cancelled"));
+                }
                 writeDive(*dives_[index], links_[index], "dive" + std::to_string(index + 1));
             }
         }
@@ -259,7 +264,6 @@ private:
         xml_.begin("generator");
         xml_.element("name", std::string_view("Tavrel"));
         xml_.element("type", std::string_view("logbook"));
-        xml_.element("version", header_.programVersion);
         xml_.element("datetime", header_.moment.toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss")));
         xml_.end();
     }
@@ -633,8 +637,9 @@ private:
 
 }  // namespace
 
-QByteArray writeUddf(const std::vector<DivePointer>& dives, const UddfHeader& header) {
-    return Writer(dives, header).write();
+Expected<QByteArray> writeUddf(const std::vector<DivePointer>& dives, const UddfHeader& header,
+                               const Progress& progress) {
+    return Writer(dives, header).write(progress);
 }
 
 }  // namespace tavrel

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/failure.h"
+#include "base/progress.h"
 #include "dives/plongee.h"
 
 #include <QByteArray>
@@ -12,7 +14,6 @@ namespace tavrel {
 
 /// What a UDDF file says beside its dives.
 struct UddfHeader {
-    QString programVersion;
     QDateTime moment;  ///< of writing
     QString owner;     ///< may be empty
 };
