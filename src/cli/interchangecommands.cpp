@@ -56,6 +56,7 @@ std::optional<ImportFormat> prescribedFor(SourceKind kind) {
             return ImportFormat::handheld;
         case SourceKind::uddf:
         case SourceKind::logbook:
+        case SourceKind::table:
             break;
     }
     return std::nullopt;
@@ -86,18 +87,6 @@ Expected<Reading> readingOf(Carnet& carnet, const Arguments& arguments) {
         });
 }
 
-QString lostLine(const QString& name, int dives) {
-    return textWith("Interchange", "Lost of dives", name, dives);
-}
-
-QStringList lostLines(const FoundDives& found) {
-    QStringList lines;
-    for (const auto& [name, dives] : found.lostCounts()) {
-        lines.append(lostLine(name, dives));
-    }
-    return lines + found.lostWithFile;
-}
-
 void writeFound(const FoundDives& found, JsonWriter json) {
     json.beginObject();
     json.key(u"dives");
@@ -125,7 +114,7 @@ void writeFound(const FoundDives& found, JsonWriter json) {
     json.endArray();
     json.key(u"lost");
     json.beginArray();
-    for (const QString& line : lostLines(found)) {
+    for (const QString& line : lostItemLines(found)) {
         json.value(line);
     }
     json.endArray();
@@ -155,7 +144,7 @@ void printFound(const FoundDives& found, Console& console) {
         };
         print(console, cells.join(QStringLiteral("  ")).trimmed());
     }
-    for (const QString& line : lostLines(found)) {
+    for (const QString& line : lostItemLines(found)) {
         print(console, line);
     }
 }

@@ -1,6 +1,7 @@
 #include "interchange/exports.h"
 
 #include "desktop/clock.h"
+#include "interchange/standard/csvtext.h"
 #include "interchange/standard/uddfwriting.h"
 
 #include <algorithm>
@@ -11,10 +12,13 @@ namespace tavrel {
 namespace {
 
 /// What the lines of the text exports have cells for.
-constexpr std::array<std::string_view, 20> listedFields{
-    "noPlongee", "date",       "lieu",       "site",           "pays",        "coeff",      "surface",
-    "heure",     "profondeur", "temps",      "pressionDepart", "pressionFin", "o2Mix",      "heMix",
-    "meteo",     "courant",    "visibilite", "tempEau",        "tempAir",     "partenaires"};
+constexpr auto listedFields = [] {
+    std::array<std::string_view, listColumns.size()> fields;
+    for (std::size_t column = 0; column < fields.size(); ++column) {
+        fields[column] = listColumns[column].field;
+    }
+    return fields;
+}();
 constexpr std::array<std::string_view, 8> profileFields{"noPlongee", "profilProfondeur", "ASC_Flag", "SLOW_Flag",
                                                         "CEIL_Flag", "SURF_Flag",        "GAZ_Flag", "PRESS_Data"};
 
@@ -25,6 +29,10 @@ Expected<QByteArray> LogbookExport::produceFrom(const Carnet& carnet, const std:
     chosen.replaceList(dives);
     chosen.setProgress(carnet.progress());
     return produce(chosen);
+}
+
+Expected<QByteArray> exportTable(Carnet& carnet) {
+    return writeCsv(carnet.records(), {}, carnet.progress());
 }
 
 Expected<QByteArray> exportStandardUddf(Carnet& carnet) {
@@ -43,6 +51,7 @@ const std::vector<LogbookExport>& logbookExports() {
          [](Carnet& carnet) { return exportProfileCSVFormat(carnet, ","); }, profileFields},
         {"udcf", "Export UDCF (Universal Dive Computer Format)", "udcf", exportUDCFFormat},
         {"uddf", "Export UDDF (Universal Dive Data Format)", "uddf", exportUDDFFormat},
+        {"csv", "Export CSV (UTF-8)", "csv", exportTable},
         {"uddf-3.2", "Export UDDF 3.2", "uddf", exportStandardUddf},
     };
     return exports;

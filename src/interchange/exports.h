@@ -32,6 +32,9 @@ Expected<QByteArray> exportProfileCSVFormat(Carnet& carnet, std::string_view sep
 /// UDDF 3.2.3, valid against its schema, with all that UDDF has a place for.
 Expected<QByteArray> exportStandardUddf(Carnet& carnet);
 
+/// A table of all fields in UTF-8, which reads back.
+Expected<QByteArray> exportTable(Carnet& carnet);
+
 /// An export as the command line and the menus know it.
 struct LogbookExport {
     const char* name;       ///< "csv-semicolon"

@@ -95,10 +95,22 @@ Expected<ImportResult> readPrescribed(Carnet& carnet, const QString& file, Impor
 
 Expected<Source> findDives(const Carnet& carnet, QByteArrayView bytes, const Progress& progress) {
     return readSource(bytes, progress).map([&](Source&& source) {
-        doubt(source.found, carnet.desktop().clock.now());
-        markDuplicates(source.found, carnet.records());
+        judge(carnet, source.found);
         return std::move(source);
     });
+}
+
+void judge(const Carnet& carnet, FoundDives& found) {
+    doubt(found, carnet.desktop().clock.now());
+    markDuplicates(found, carnet.records());
+}
+
+QStringList lostItemLines(const FoundDives& found) {
+    QStringList lines;
+    for (const auto& [name, dives] : found.lostCounts()) {
+        lines.append(textWith("Interchange", "Lost of dives", name, dives));
+    }
+    return lines + found.lostWithFile;
 }
 
 ImportResult takeDives(Carnet& carnet, FoundDives found, const TakeChoices& choices) {

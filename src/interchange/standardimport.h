@@ -15,6 +15,12 @@ namespace tavrel {
 /// thousandths; cancelled, the reading fails.
 Expected<Source> findDives(const Carnet& carnet, QByteArrayView bytes, const Progress& progress = {});
 
+/// Notes the doubts of found dives and marks those that the logbook holds already.
+void judge(const Carnet& carnet, FoundDives& found);
+
+/// What the file holds and a dive does not, each with the count of dives.
+QStringList lostItemLines(const FoundDives& found);
+
 struct TakeChoices {
     bool skipDuplicates = true;
     bool renumberByDate = false;  ///< puts all dives of the logbook in the order of their dates and numbers them on

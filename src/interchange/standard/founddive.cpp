@@ -1,7 +1,7 @@
 #include "interchange/standard/founddive.h"
 
 #include "base/texts.h"
-#include "interchange/standard/uddfwords.h"
+#include "dives/divecodes.h"
 
 #include <algorithm>
 #include <cmath>
@@ -121,13 +121,13 @@ Plongee unknownDive() {
         *words = QStringLiteral("-");
     }
     dive.surface = QStringLiteral("--:--");
-    dive.gpsSystem = 1;
-    dive.tempEau = dive.tempAir = -50;
-    dive.meteo = 7;
-    dive.courant = 6;
-    dive.visibilite = 7;
-    dive.typePlongee = 8;
-    dive.configuration = 1;
+    dive.gpsSystem = Datum::wgs84;
+    dive.tempEau = dive.tempAir = temperatureNotGiven;
+    dive.meteo = Weather::notGiven;
+    dive.courant = Current::notGiven;
+    dive.visibilite = Visibility::notGiven;
+    dive.typePlongee = DiveKind::other;
+    dive.configuration = Configuration::tek;
     dive.o2Mix = dive.o2Mix_2 = 21;
     dive.reset();
     return dive;
@@ -180,8 +180,8 @@ void markDuplicates(FoundDives& found, const std::vector<DivePointer>& held) {
 }
 
 BreathedGas breathedGas(const Plongee& dive) {
-    return dive.rebreather >= manualClosed ? BreathedGas{dive.o2Mix_2, dive.heMix_2}
-                                           : BreathedGas{dive.o2Mix, dive.heMix};
+    return Apparatus::isClosed(dive.rebreather) ? BreathedGas{dive.o2Mix_2, dive.heMix_2}
+                                                : BreathedGas{dive.o2Mix, dive.heMix};
 }
 
 void keepLostTexts(FoundDive& found) {

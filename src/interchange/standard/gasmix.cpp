@@ -1,5 +1,7 @@
 #include "interchange/standard/gasmix.h"
 
+#include "dives/divecodes.h"
+
 #include <QRegularExpression>
 
 #include <cmath>
@@ -7,8 +9,6 @@
 namespace tavrel {
 
 namespace {
-
-enum Kind { air, nitrox, trimix, heliox, triox, heliair };
 
 /// Whole percent of a share.
 qint32 percent(double share) {
@@ -22,11 +22,11 @@ qint32 kindOf(qint32 oxygen, qint32 helium, const QString& name) {
     if (helium > 0) {
         const auto named = [&](const char* word) { return name.startsWith(QLatin1String(word), Qt::CaseInsensitive); };
         if (oxygen + helium >= 100) {
-            return heliox;
+            return Gas::heliox;
         }
-        return named("triox") ? triox : named("heliair") ? heliair : trimix;
+        return named("triox") ? Gas::triox : named("heliair") ? Gas::heliair : Gas::trimix;
     }
-    return oxygen == 21 ? air : nitrox;
+    return oxygen == 21 ? Gas::air : Gas::nitrox;
 }
 
 }  // namespace
@@ -65,15 +65,15 @@ QString gasName(const GasMix& mix) {
         return QStringLiteral("%1 %2/%3").arg(QLatin1String(word)).arg(mix.oxygen).arg(mix.helium);
     };
     switch (mix.kind) {
-        case air:
+        case Gas::air:
             return QStringLiteral("Air");
-        case nitrox:
+        case Gas::nitrox:
             return QStringLiteral("EAN%1").arg(mix.oxygen);
-        case heliox:
+        case Gas::heliox:
             return both("Heliox");
-        case triox:
+        case Gas::triox:
             return both("Triox");
-        case heliair:
+        case Gas::heliair:
             return both("Heliair");
         default:
             return both("Trimix");

@@ -2,6 +2,7 @@
 
 #include "archive/recordarchive.h"
 #include "base/texts.h"
+#include "interchange/standard/csvtext.h"
 #include "interchange/standard/filevalues.h"
 #include "interchange/standard/udcfreading.h"
 #include "interchange/standard/uddfreading.h"
@@ -16,6 +17,11 @@ constexpr std::size_t thousandthsOfParsing = 600;
 bool isTypedStream(QByteArrayView bytes) {
     const QByteArrayView start = bytes.first(std::min<qsizetype>(bytes.size(), 16));
     return start.contains("streamtyped") || start.contains("typedstream");
+}
+
+bool looksLikeXml(QByteArrayView bytes) {
+    const QByteArrayView start = bytes.first(std::min<qsizetype>(bytes.size(), 200)).trimmed();
+    return start.contains('<') && (start.startsWith('<') || start.startsWith("\xEF\xBB\xBF<") || start.contains('\0'));
 }
 
 Expected<Source> readLogbook(QByteArrayView bytes, const Progress& progress) {
@@ -63,6 +69,14 @@ std::optional<SourceKind> kindOfTree(XmlElement root) {
 Expected<Source> readSource(QByteArrayView bytes, const Progress& progress) {
     if (isTypedStream(bytes)) {
         return readLogbook(bytes, progress);
+    }
+    if (!looksLikeXml(bytes)) {
+        if (auto table = readCsv(bytes)) {
+            if (table->tooMany) {
+                return failure(text("Main", "XML file beyond limits"));
+            }
+            return Source{SourceKind::table, std::move(*table)};
+        }
     }
     bool cancelled = false;
     const auto advance = [&](std::size_t done, std::size_t total, std::size_t from, std::size_t part) {

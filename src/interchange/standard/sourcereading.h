@@ -18,6 +18,7 @@ enum class SourceKind {
     udcf,       ///< also in a root named uddf, as this program exports
     handheld,   ///< the file of the companion logbook on a telephone
     logbook,    ///< a document of this program
+    table,      ///< a text of cells with a heading
 };
 
 /// What the tree of a file is; nothing when it holds none of these.

@@ -1,5 +1,6 @@
 #include "interchange/standard/udcfreading.h"
 
+#include "dives/divecodes.h"
 #include "interchange/standard/filetime.h"
 #include "interchange/standard/filevalues.h"
 #include "interchange/standard/gasmix.h"
@@ -105,9 +106,9 @@ private:
         dive.noPlongee = rounded(std::clamp(numberOf(child({"DIVENUMBER"})).value_or(0), 0.0, 1e9));
         dive.profondeur = static_cast<float>(metres(std::max(0.0, numberOf(child({"MAXDEPTH"})).value_or(0))));
         dive.temps = rounded(std::clamp(numberOf(child({"DIVETIME"})).value_or(0), 0.0, 1e6));
-        dive.tempEau = temperature(child({"TEMPERATURE", "WATERTEMPERATURE"})).value_or(-50);
-        dive.tempEau = dive.tempEau < -5 ? -50 : dive.tempEau;
-        dive.tempAir = temperature(child({"AIRTEMPERATURE", "AIRRTEMPERATURE"})).value_or(-50);
+        dive.tempEau = temperature(child({"TEMPERATURE", "WATERTEMPERATURE"})).value_or(temperatureNotGiven);
+        dive.tempEau = dive.tempEau < -5 ? temperatureNotGiven : dive.tempEau;
+        dive.tempAir = temperature(child({"AIRTEMPERATURE", "AIRRTEMPERATURE"})).value_or(temperatureNotGiven);
         const double altitude = metres(numberOf(child({"ALTITUDE"})).value_or(0));
         dive.altitude = altitude > 0 && altitude <= 4000 ? rounded(altitude) : 0;
         const QString interval = wordsOf(child({"SURFACEINTERVAL"}));

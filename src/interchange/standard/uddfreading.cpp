@@ -157,11 +157,11 @@ private:
         dive.profondeur = static_cast<float>(depth > 0 ? depth : profile.deepest());
         dive.temps = minutes(profile);
         auto coldest = celsius(number("lowesttemperature"));
-        dive.tempEau = (coldest ? coldest : celsius(profile.lowestTemperature)).value_or(-50);
+        dive.tempEau = (coldest ? coldest : celsius(profile.lowestTemperature)).value_or(temperatureNotGiven);
         if (dive.tempEau < -5) {
-            dive.tempEau = -50;
+            dive.tempEau = temperatureNotGiven;
         }
-        dive.tempAir = celsius(number("airtemperature")).value_or(-50);
+        dive.tempAir = celsius(number("airtemperature")).value_or(temperatureNotGiven);
         dive.altitude = altitude();
         const double lead =
             number("leadquantity").value_or(numberOf(element("equipmentused").first("leadquantity")).value_or(0));
@@ -211,12 +211,13 @@ private:
         }
         dive.courant = currentOf(wordsOf(element("current"))).value_or(dive.courant);
         dive.typePlongee = purposeOf(wordsOf(element("purpose"))).value_or(dive.typePlongee);
-        dive.deco = wordsOf(element("diveplan")) == QLatin1String("table") ? 1 : 0;
+        dive.deco =
+            wordsOf(element("diveplan")) == QLatin1String("table") ? DecoMethod::airTables : DecoMethod::computer;
         const XmlElement rating = element("rating");
         dive.inoubliable = ratingOf(numberOf(rating.first("ratingvalue")).value_or(numberOf(rating).value_or(0)));
         for (const XmlElement part : parts_) {
             if (!part.first("nosuit").isNull()) {
-                dive.combinaison = noSuit;
+                dive.combinaison = Suit::none;
             }
         }
     }
@@ -227,11 +228,11 @@ private:
                               wordsOf(element("divemode")) + u' ' +
                               QString::fromStdString(std::string(element("divemode").attribute("type")));
         if (words.contains(QLatin1String("semiclosed"), Qt::CaseInsensitive)) {
-            dive.rebreather = semiClosed;
+            dive.rebreather = Apparatus::semiClosed;
         } else if (words.contains(QLatin1String("closedcircuit"), Qt::CaseInsensitive)) {
-            dive.rebreather = electronicClosed;
+            dive.rebreather = Apparatus::electronicClosed;
         } else if (words.contains(QLatin1String("rebreather"), Qt::CaseInsensitive) && profile.mode != "opencircuit") {
-            dive.rebreather = electronicClosed;
+            dive.rebreather = Apparatus::electronicClosed;
         }
         if (profile.setPoints.empty()) {
             return;
@@ -239,8 +240,8 @@ private:
         const auto [low, high] = std::minmax_element(profile.setPoints.begin(), profile.setPoints.end());
         dive.ppO2 = setPointTag(*high);
         dive.lowSetpoint = *low < *high ? setPointTag(*low) : 0;
-        if (dive.rebreather == openCircuit) {
-            dive.rebreather = electronicClosed;
+        if (dive.rebreather == Apparatus::openCircuit) {
+            dive.rebreather = Apparatus::electronicClosed;
         }
     }
 
@@ -281,8 +282,8 @@ private:
         } else if (name == "suit") {
             dive.combinaison = suitOf(title, wordsOf(target.first("suittype"))).value_or(dive.combinaison);
         } else if (name == "rebreather") {
-            dive.rebreather = apparatusOf(title).value_or(dive.rebreather == openCircuit ? qint32(electronicClosed)
-                                                                                         : dive.rebreather);
+            dive.rebreather = apparatusOf(title).value_or(
+                dive.rebreather == Apparatus::openCircuit ? qint32(Apparatus::electronicClosed) : dive.rebreather);
         } else if (name == "equipmentconfiguration") {
             for (const XmlElement link : target.children("link")) {
                 if (linkedOnce_.insert(uddfReference(link)).second) {
@@ -323,8 +324,8 @@ private:
         dive.epaves = withoutRepeats(wrecks);
         dive.difficulte = difficultyOf(numberOf(site.first("sitedata").first("difficulty")).value_or(0));
         const QString environment = wordsOf(site.first("environment"));
-        if (dive.typePlongee == otherKind) {
-            dive.typePlongee = environmentKind(environment).value_or(qint32(otherKind));
+        if (dive.typePlongee == DiveKind::other) {
+            dive.typePlongee = environmentKind(environment).value_or(qint32(DiveKind::other));
         }
         if (const QString notes = notesOf(site.first("notes")); !notes.trimmed().isEmpty()) {
             found_.lose(QStringLiteral("site/notes"), notes);

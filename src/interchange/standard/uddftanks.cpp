@@ -1,5 +1,6 @@
 #include "interchange/standard/uddftanks.h"
 
+#include "dives/divecodes.h"
 #include "interchange/standard/divetanks.h"
 #include "interchange/standard/filevalues.h"
 
@@ -28,7 +29,9 @@ struct Tank {
 
 qint32 materialOf(XmlElement piece) {
     const QString material = wordsOf(piece.first("tankmaterial"));
-    return material == QLatin1String("carbon") ? 1 : material == QLatin1String("steel") ? 2 : 0;
+    return material == QLatin1String("carbon")  ? TankMaterial::carbon
+           : material == QLatin1String("steel") ? TankMaterial::steel
+                                                : TankMaterial::aluminium;
 }
 
 /// What the name of a tank says of its use.
@@ -152,7 +155,7 @@ public:
                 tank.mix = bottom_;
             }
         }
-        const bool closed = found_.dive.rebreather >= 2;
+        const bool closed = Apparatus::isClosed(found_.dive.rebreather);
         if (closed) {
             assignClosed(tanks);
         } else {
@@ -162,7 +165,7 @@ public:
 
 private:
     std::string bottomOf(const std::vector<Tank>& tanks) const {
-        const Role main = found_.dive.rebreather >= 2 ? Role::second : Role::first;
+        const Role main = Apparatus::isClosed(found_.dive.rebreather) ? Role::second : Role::first;
         for (const Tank& tank : tanks) {
             if (tank.role == main && !tank.mix.empty()) {
                 return tank.mix;
@@ -171,7 +174,7 @@ private:
         if (const std::string mix = profile_.mixAt(profile_.deepestMoment()); document_.isMix(mix)) {
             return mix;
         }
-        if (found_.dive.rebreather < 2) {
+        if (!Apparatus::isClosed(found_.dive.rebreather)) {
             for (const Tank& tank : tanks) {
                 if (!tank.mix.empty() && !isAside(tank)) {
                     return tank.mix;
@@ -326,7 +329,7 @@ private:
             diluent = std::find_if(tanks.begin(), tanks.end(),
                                    [&](const Tank& tank) { return tank.role == Role::unknown && !isOxygen(tank); });
         }
-        breathe(mainTankFields[0], GasMix{100, 0, 1});
+        breathe(mainTankFields[0], GasMix{100, 0, Gas::nitrox});
         if (oxygen != tanks.end()) {
             giveFirst(*oxygen);
         }

@@ -38,52 +38,52 @@ struct Sight {
     double metres;
 };
 constexpr std::array<Sight, 8> sights{{
-    {8, 40, 50},
-    {0, 25, 30},
-    {1, 15, 20},
-    {2, 10, 12},
-    {3, 5, 7},
-    {4, 3, 4},
-    {5, 1, 2},
-    {6, 0, 0.5},
+    {Visibility::exceptional, 40, 50},
+    {Visibility::excellent, 25, 30},
+    {Visibility::veryGood, 15, 20},
+    {Visibility::good, 10, 12},
+    {Visibility::medium, 5, 7},
+    {Visibility::bad, 3, 4},
+    {Visibility::veryBad, 1, 2},
+    {Visibility::execrable, 0, 0.5},
 }};
 
 constexpr std::array<Word, 6> currents{{
-    {0, "no-current"},
-    {1, "mild-current"},
-    {1, "very-mild-current"},
-    {2, "moderate-current"},
-    {3, "hard-current"},
-    {4, "very-hard-current"},
+    {Current::none, "no-current"},
+    {Current::weak, "mild-current"},
+    {Current::weak, "very-mild-current"},
+    {Current::moderate, "moderate-current"},
+    {Current::strong, "hard-current"},
+    {Current::veryStrong, "very-hard-current"},
 }};
 
 constexpr std::array<Word, 9> purposes{{
-    {1, "sightseeing"},
-    {11, "learning"},
-    {11, "teaching"},
-    {11, "proficiency"},
-    {12, "research"},
-    {3, "photography-videography"},
-    {7, "work"},
-    {8, "other"},
-    {8, "spearfishing"},
+    {DiveKind::recreational, "sightseeing"},
+    {DiveKind::training, "learning"},
+    {DiveKind::training, "teaching"},
+    {DiveKind::training, "proficiency"},
+    {DiveKind::biology, "research"},
+    {DiveKind::photo, "photography-videography"},
+    {DiveKind::work, "work"},
+    {DiveKind::other, "other"},
+    {DiveKind::other, "spearfishing"},
 }};
 
-constexpr std::array<Word, 2> environments{{{5, "cave-cavern"}, {10, "under-ice"}}};
+constexpr std::array<Word, 2> environments{{{DiveKind::cave, "cave-cavern"}, {DiveKind::underIce, "under-ice"}}};
 
 /// With the names that this program gives them and the kind that UDDF knows.
-struct Suit {
+struct SuitWord {
     qint32 tag;
     const char* name;
     const char* kind;
 };
-constexpr std::array<Suit, 6> suits{{
-    {0, "Wet suit", "wet-suit"},
-    {1, "Dry suit", "dry-suit"},
-    {2, "Shorty", "other"},
-    {4, "Semi-dry suit", "other"},
-    {5, "T-shirt", "other"},
-    {6, "Tropical suit", "dive-skin"},
+constexpr std::array<SuitWord, 6> suits{{
+    {Suit::wet, "Wet suit", "wet-suit"},
+    {Suit::dry, "Dry suit", "dry-suit"},
+    {Suit::shorty, "Shorty", "other"},
+    {Suit::semiDry, "Semi-dry suit", "other"},
+    {Suit::tShirt, "T-shirt", "other"},
+    {Suit::tropical, "Tropical suit", "dive-skin"},
 }};
 
 /// Tenths of a bar of the set points' tags.
@@ -101,10 +101,10 @@ constexpr std::array<std::pair<qint32, int>, 10> setPoints{{
 }};
 
 constexpr std::array<Word, 4> apparatuses{{
-    {manualClosed, "mCCR"},
-    {electronicClosed, "eCCR"},
-    {hybridClosed, "hCCR"},
-    {semiClosed, "SCR"},
+    {Apparatus::manualClosed, "mCCR"},
+    {Apparatus::electronicClosed, "eCCR"},
+    {Apparatus::hybridClosed, "hCCR"},
+    {Apparatus::semiClosed, "SCR"},
 }};
 
 }  // namespace
@@ -131,8 +131,8 @@ std::optional<qint32> currentOf(const QString& word) {
     return tagOf(currents, word);
 }
 QString currentWord(qint32 current) {
-    constexpr qint32 violent = 5;  // beyond UDDF's words
-    return wordOf(currents, current == violent ? 4 : current);
+    // UDDF has no word beyond the very strong.
+    return wordOf(currents, current == Current::violent ? qint32(Current::veryStrong) : current);
 }
 
 std::optional<qint32> purposeOf(const QString& word) {
@@ -150,7 +150,11 @@ QString environmentWord(qint32 kind) {
 }
 
 qint32 ratingOf(double value) {
-    return value >= 9 ? 1 : value >= 6 ? 2 : value >= 3 ? 3 : value >= 1 ? 4 : 0;
+    return value >= 9   ? Rating::unforgettable
+           : value >= 6 ? Rating::good
+           : value >= 3 ? Rating::poor
+           : value >= 1 ? Rating::neverAgain
+                        : Rating::none;
 }
 int ratingValue(qint32 rating) {
     constexpr std::array<int, 5> values{0, 10, 7, 4, 1};
@@ -165,12 +169,12 @@ int difficultyValue(qint32 difficulty) {
 }
 
 std::optional<qint32> suitOf(const QString& name, const QString& kind) {
-    for (const Suit& suit : suits) {
+    for (const SuitWord& suit : suits) {
         if (name.compare(QLatin1String(suit.name), Qt::CaseInsensitive) == 0) {
             return suit.tag;
         }
     }
-    for (const Suit& suit : suits) {
+    for (const SuitWord& suit : suits) {
         if (kind == QLatin1String(suit.kind) && kind != QLatin1String("other")) {
             return suit.tag;
         }
@@ -178,7 +182,7 @@ std::optional<qint32> suitOf(const QString& name, const QString& kind) {
     return std::nullopt;
 }
 QString suitName(qint32 tag) {
-    for (const Suit& suit : suits) {
+    for (const SuitWord& suit : suits) {
         if (suit.tag == tag) {
             return QString::fromLatin1(suit.name);
         }
@@ -186,7 +190,7 @@ QString suitName(qint32 tag) {
     return {};
 }
 QString suitKind(qint32 tag) {
-    for (const Suit& suit : suits) {
+    for (const SuitWord& suit : suits) {
         if (suit.tag == tag) {
             return QString::fromLatin1(suit.kind);
         }

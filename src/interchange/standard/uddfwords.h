@@ -1,5 +1,7 @@
 #pragma once
 
+#include "dives/divecodes.h"
+
 #include <QString>
 
 #include <optional>
@@ -7,11 +9,6 @@
 namespace tavrel {
 
 // The words and scales of UDDF beside the tags of a dive. Each pair of functions is one table read both ways.
-
-/// Tags of a dive that readers and writers name.
-enum ApparatusTag { openCircuit, semiClosed, manualClosed, electronicClosed, hybridClosed };
-inline constexpr qint32 noSuit = 3;
-inline constexpr qint32 otherKind = 8;
 
 /// Metres of sight and their rating, Plongee::visibilite; a rating's metres stand in the middle of what it covers, and
 /// are 0 for none.

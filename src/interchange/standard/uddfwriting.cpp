@@ -213,7 +213,7 @@ private:
                              qint32 end) {
             links.tanks.push_back({pieces(name, material, volume), std::move(mix), volume, start, end});
         };
-        const bool closed = dive.rebreather >= manualClosed;
+        const bool closed = Apparatus::isClosed(dive.rebreather);
         for (std::size_t tank = 0; tank < mainTankFields.size(); ++tank) {
             const MainTankFields& its = mainTankFields[tank];
             const bool isUsed = dive.*its.volume != 0 || dive.*its.start != 0 || dive.*its.end != 0 ||
@@ -433,7 +433,7 @@ private:
     }
 
     void kelvin(std::string_view name, qint32 celsius) {
-        if (celsius > -50) {
+        if (celsius > temperatureNotGiven) {
             xml_.decimal(name, celsius + zeroCelsius, 2);
         }
     }
@@ -460,14 +460,15 @@ private:
             link(id);
         }
         xml_.end();
-        xml_.element("apparatus", std::string_view(dive.rebreather == openCircuit ? "open-scuba" : "rebreather"));
+        xml_.element("apparatus",
+                     std::string_view(dive.rebreather == Apparatus::openCircuit ? "open-scuba" : "rebreather"));
         if (const QString purpose = purposeWord(dive.typePlongee); !purpose.isEmpty()) {
             xml_.element("purpose", purpose);
         }
         if (!links.boat.empty()) {
             xml_.element("tripmembership", {{"ref", links.boat}});
         }
-        if (dive.combinaison == noSuit) {
+        if (dive.combinaison == Suit::none) {
             xml_.element("nosuit", std::string_view());
         }
         writeStops(dive, links);
@@ -527,7 +528,7 @@ private:
         const bool knownCode =
             dive.samplingRate >= 0 && static_cast<std::size_t>(dive.samplingRate) < samplingIntervals.size();
         const int seconds = samplingIntervals[knownCode ? static_cast<std::size_t>(dive.samplingRate) : 0];
-        const bool closed = dive.rebreather >= manualClosed;
+        const bool closed = Apparatus::isClosed(dive.rebreather);
         xml_.begin("samples");
         for (std::size_t sample = 0; sample < dive.profilProfondeur.size(); ++sample) {
             xml_.begin("waypoint");
@@ -551,9 +552,9 @@ private:
             }
             writePressure(dive, links, sample);
             if (sample == 0) {
-                const std::string_view mode = closed                          ? "closedcircuit"
-                                              : dive.rebreather == semiClosed ? "semiclosedcircuit"
-                                                                              : "opencircuit";
+                const std::string_view mode = closed                                     ? "closedcircuit"
+                                              : dive.rebreather == Apparatus::semiClosed ? "semiclosedcircuit"
+                                                                                         : "opencircuit";
                 xml_.element("divemode", {{"type", mode}});
             }
             xml_.end();
