@@ -24,7 +24,7 @@ constexpr std::array<std::string_view, 8> profileFields{"noPlongee", "profilProf
 
 }  // namespace
 
-Expected<QByteArray> LogbookExport::produceFrom(const Carnet& carnet, const std::vector<DivePointer>& dives) const {
+Expected<QByteArray> LogbookExport::produceFrom(const Carnet& carnet, const RecordList& dives) const {
     Carnet chosen(carnet.desktop());
     chosen.replaceList(dives);
     chosen.setProgress(carnet.progress());

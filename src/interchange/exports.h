@@ -45,7 +45,7 @@ struct LogbookExport {
     std::span<const std::string_view> heldFields = {};
 
     /// The bytes for these dives alone, in the order given.
-    Expected<QByteArray> produceFrom(const Carnet& carnet, const std::vector<DivePointer>& dives) const;
+    Expected<QByteArray> produceFrom(const Carnet& carnet, const RecordList& dives) const;
 };
 
 /// The exports in the order in which their types are tried.

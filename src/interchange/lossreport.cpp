@@ -16,20 +16,20 @@ namespace {
 std::vector<FieldLoss> listed(const std::map<std::string_view, int>& counts) {
     std::vector<FieldLoss> losses;
     for (const auto& item : Plongee::layout().items) {
-        if (const auto count = counts.find(item.key); count != counts.end()) {
+        if (const auto count = counts.find(item.key()); count != counts.end()) {
             losses.push_back(
-                {QString::fromLatin1(item.key.data(), static_cast<qsizetype>(item.key.size())), count->second});
+                {QString::fromLatin1(item.key().data(), static_cast<qsizetype>(item.key().size())), count->second});
         }
     }
     return losses;
 }
 
-std::vector<FieldLoss> missingFields(const std::vector<DivePointer>& dives, std::span<const std::string_view> held) {
+std::vector<FieldLoss> missingFields(const RecordList& dives, std::span<const std::string_view> held) {
     const std::set<std::string_view> kept(held.begin(), held.end());
     const Plongee unknown = unknownDive();
     std::map<std::string_view, int> counts;
-    for (const DivePointer& dive : dives) {
-        for (const std::string_view key : differingFields(unknown, *dive)) {
+    for (const RecordPointer& dive : dives) {
+        for (const std::string_view key : differingFields(unknown, asDive(dive))) {
             counts[key] += kept.count(key) == 0 ? 1 : 0;
         }
     }
@@ -39,8 +39,7 @@ std::vector<FieldLoss> missingFields(const std::vector<DivePointer>& dives, std:
 
 }  // namespace
 
-Expected<std::vector<FieldLoss>> lossesOf(Carnet& carnet, const LogbookExport& format,
-                                          const std::vector<DivePointer>& dives) {
+Expected<std::vector<FieldLoss>> lossesOf(Carnet& carnet, const LogbookExport& format, const RecordList& dives) {
     if (!format.heldFields.empty()) {
         return missingFields(dives, format.heldFields);
     }
@@ -53,7 +52,7 @@ Expected<std::vector<FieldLoss>> lossesOf(Carnet& carnet, const LogbookExport& f
         for (std::size_t index = 0; index < dives.size(); ++index) {
             const bool isThere = index < source.found.dives.size();
             for (const std::string_view key :
-                 differingFields(*dives[index], isThere ? source.found.dives[index].dive : unknownDive())) {
+                 differingFields(asDive(dives[index]), isThere ? source.found.dives[index].dive : unknownDive())) {
                 ++counts[key];
             }
         }

@@ -9,11 +9,11 @@ namespace tavrel {
 
 namespace {
 
-using List = Carnet::List;
+using List = RecordList;
 
 /// Whether the numbers that the dives bring go on from those of the logbook.
 bool numbersGoOn(const Carnet& carnet, const std::vector<Plongee>& dives) {
-    qint32 last = carnet.records().empty() ? 0 : carnet.records().back()->noPlongee;
+    qint32 last = carnet.records().empty() ? 0 : asDive(carnet.records().back()).noPlongee;
     for (const Plongee& dive : dives) {
         if (dive.noPlongee <= last) {
             return false;
@@ -33,24 +33,24 @@ void numberOn(const Carnet& carnet, std::vector<Plongee>& dives) {
 
 /// All dives in the order of their starts, those without one last, numbered on from the first number there is.
 List byDate(List list) {
-    const auto startsBefore = [](const DivePointer& one, const DivePointer& other) {
-        const QDateTime start = startOf(*one);
-        const QDateTime otherStart = startOf(*other);
+    const auto startsBefore = [](const RecordPointer& one, const RecordPointer& other) {
+        const QDateTime start = startOf(asDive(one));
+        const QDateTime otherStart = startOf(asDive(other));
         return start.isValid() && (!otherStart.isValid() || start < otherStart);
     };
-    qint32 number = list.empty() ? 1 : list.front()->noPlongee;
-    for (const DivePointer& dive : list) {
-        number = std::min(number, dive->noPlongee);
+    qint32 number = list.empty() ? 1 : asDive(list.front()).noPlongee;
+    for (const RecordPointer& dive : list) {
+        number = std::min(number, asDive(dive).noPlongee);
     }
     number = std::max(number, 1);
     std::stable_sort(list.begin(), list.end(), startsBefore);
-    for (DivePointer& dive : list) {
-        if (dive->noPlongee != number) {
-            Plongee renumbered = *dive;
+    for (RecordPointer& dive : list) {
+        if (asDive(dive).noPlongee != number) {
+            Plongee renumbered = asDive(dive);
             renumbered.noPlongee = number;
             dive = std::make_shared<const Plongee>(std::move(renumbered));
         }
-        number = Carnet::numberAfter(*dive);
+        number = Carnet::numberAfter(asDive(dive));
     }
     return list;
 }
@@ -73,7 +73,7 @@ FoundDives foundFrom(const List& records, std::size_t first) {
     FoundDives found;
     for (std::size_t row = first; row < records.size(); ++row) {
         FoundDive it;
-        it.dive = *records[row];
+        it.dive = asDive(records[row]);
         found.dives.push_back(std::move(it));
     }
     return found;

@@ -13,25 +13,23 @@ namespace tavrel {
 
 namespace {
 
-using DiveItem = std::remove_cvref_t<decltype(Plongee::layout().items[0])>;
-
-bool isColumn(const DiveItem& item) {
-    return item.travel != Travel::memoryOnly;
+bool isColumn(const Item& item) {
+    return item.travel() != Travel::memoryOnly;
 }
 
-QString keyOf(const DiveItem& item) {
-    return QString::fromLatin1(item.key.data(), static_cast<qsizetype>(item.key.size()));
+QString keyOf(const Item& item) {
+    return QString::fromLatin1(item.key().data(), static_cast<qsizetype>(item.key().size()));
 }
 
 /// The field of a heading; null when it is none.
-const DiveItem* itemOf(const QString& heading) {
+const Item* itemOf(const QString& heading) {
     std::string key = heading.trimmed().toStdString();
     const auto older = std::find_if(listColumns.begin(), listColumns.end(),
                                     [&](const ListColumnName& column) { return column.heading == key; });
     if (older != listColumns.end()) {
         key = older->field;
     }
-    const DiveItem* item = Plongee::layout().find(key);
+    const Item* item = Plongee::layout().find(key);
     return item && isColumn(*item) ? item : nullptr;
 }
 
@@ -144,7 +142,7 @@ struct TakeCell {
     bool operator()(Image&) const { return true; }
 };
 
-FoundDive diveOf(const std::vector<const DiveItem*>& items, const QStringList& headings, const QStringList& row) {
+FoundDive diveOf(const std::vector<const Item*>& items, const QStringList& headings, const QStringList& row) {
     FoundDive found;
     found.dive = unknownDive();
     std::optional<QDate> day;
@@ -159,13 +157,12 @@ FoundDive diveOf(const std::vector<const DiveItem*>& items, const QStringList& h
             found.lose(heading, cell);
             continue;
         }
-        if (items[column]->key == "date") {
+        if (items[column]->key() == "date") {
             const auto moment = fileTime(cell);
             day = moment ? std::optional(moment->day) : std::nullopt;
-        } else if (items[column]->key == "heure") {
+        } else if (items[column]->key() == "heure") {
             time = fileClock(cell);
-        } else if (!std::visit([&](auto member) { return TakeCell{cell}(found.dive.*member); },
-                               items[column]->field())) {
+        } else if (!items[column]->field().visit(found.dive, TakeCell{cell})) {
             found.lose(heading, cell);
         }
     }
@@ -173,8 +170,9 @@ FoundDive diveOf(const std::vector<const DiveItem*>& items, const QStringList& h
         setStart(found.dive, *day, time);
     }
     // Flags are whole numbers in a dive.
-    for (const auto& [series, real] : profileSeriesKinds) {
-        if (!real && (found.dive.*series).size() > 1) {
+    for (const ProfileSeriesKind& kind : profileSeriesKinds) {
+        const auto series = kind.series;
+        if (!kind.real && (found.dive.*series).size() > 1) {
             std::vector<qint32> flags;
             for (std::size_t sample = 0; sample < (found.dive.*series).size(); ++sample) {
                 flags.push_back((found.dive.*series).integer(sample));
@@ -198,12 +196,11 @@ QStringList csvFields() {
     return fields;
 }
 
-Expected<QByteArray> writeCsv(const std::vector<DivePointer>& dives, const QStringList& columns,
-                              const Progress& progress) {
+Expected<QByteArray> writeCsv(const RecordList& dives, const QStringList& columns, const Progress& progress) {
     constexpr std::size_t divesPerProgress = 32;
-    std::vector<const DiveItem*> items;
+    std::vector<const Item*> items;
     for (const QString& column : columns.isEmpty() ? csvFields() : columns) {
-        const DiveItem* item = Plongee::layout().find(column.toStdString());
+        const Item* item = Plongee::layout().find(column.toStdString());
         if (!item || !isColumn(*item)) {
             return failure(textWith("Interchange", "No such column", column));
         }
@@ -222,7 +219,7 @@ Expected<QByteArray> writeCsv(const std::vector<DivePointer>& dives, const QStri
         if (index % divesPerProgress == 0 && progress && !progress(index, dives.size())) {
             return failure(text("Main", "Cancelled"));
         }
-        line([&](const DiveItem& item) { return std::visit(CellText{item.key}, fieldValue(*dives[index], item)); });
+        line([&](const Item& item) { return item.field().visit(*dives[index], CellText{item.key()}); });
     }
     return out;
 }
@@ -239,11 +236,12 @@ std::optional<FoundDives> readCsv(QByteArrayView bytes) {
     const QChar separator = first.contains(u'\t') ? u'\t' : first.count(u';') > first.count(u',') ? u';' : u',';
     Rows rows(decoded, separator);
     const QStringList headings = rows.next().value_or(QStringList());
-    std::vector<const DiveItem*> items;
+    std::vector<const Item*> items;
     for (const QString& heading : headings) {
         items.push_back(itemOf(heading));
     }
-    const bool hasDay = std::any_of(items.begin(), items.end(), [](auto item) { return item && item->key == "date"; });
+    const bool hasDay =
+        std::any_of(items.begin(), items.end(), [](auto item) { return item && item->key() == "date"; });
     if (!hasDay || std::count(items.begin(), items.end(), nullptr) * 2 > static_cast<std::ptrdiff_t>(items.size())) {
         return std::nullopt;
     }

@@ -49,8 +49,7 @@ QStringList csvFields();
 /// The dives as a table in UTF-8: a heading of field names, a line for each dive, quoted as RFC 4180 says, days and
 /// times as ISO 8601 writes them, numbers with a point, series as numbers with blanks between. All fields without a
 /// choice of columns. Fails for a column that dives do not have, and when the progress cancels.
-Expected<QByteArray> writeCsv(const std::vector<DivePointer>& dives, const QStringList& columns = {},
-                              const Progress& progress = {});
+Expected<QByteArray> writeCsv(const RecordList& dives, const QStringList& columns = {}, const Progress& progress = {});
 
 /// The dives of such a table, with commas, semicolons or tabs, whose headings are names of fields or those of the older
 /// exports; columns of other names are named as lost. Nothing when no heading is known or there is no day among them.

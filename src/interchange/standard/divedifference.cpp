@@ -94,9 +94,9 @@ private:
 std::vector<std::string_view> differingFields(const Plongee& one, const Plongee& other) {
     std::vector<std::string_view> keys;
     for (const auto& item : Plongee::layout().items) {
-        if (item.travel != Travel::memoryOnly &&
-            !std::visit(Comparison(item.key, one, other), fieldValue(one, item), fieldValue(other, item))) {
-            keys.push_back(item.key);
+        if (item.travel() != Travel::memoryOnly &&
+            !std::visit(Comparison(item.key(), one, other), item.field().value(one), item.field().value(other))) {
+            keys.push_back(item.key());
         }
     }
     return keys;

@@ -168,10 +168,10 @@ void doubt(FoundDives& found, const QDateTime& now) {
     }
 }
 
-void markDuplicates(FoundDives& found, const std::vector<DivePointer>& held) {
+void markDuplicates(FoundDives& found, const RecordList& held) {
     KnownDives known;
-    for (const DivePointer& dive : held) {
-        known.add(*dive);
+    for (const RecordPointer& record : held) {
+        known.add(asDive(record));
     }
     for (FoundDive& it : found.dives) {
         it.duplicate = known.holds(it.dive);

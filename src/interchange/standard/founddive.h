@@ -50,6 +50,11 @@ struct FoundDives {
     std::map<QString, int> lostCounts() const;
 };
 
+/// The dive that a list of dives holds as a record.
+inline const Plongee& asDive(const RecordPointer& record) {
+    return static_cast<const Plongee&>(*record);
+}
+
 /// A dive of which nothing is known: the values that stand for "not given" in a cleared form, and no profile.
 Plongee unknownDive();
 
@@ -68,7 +73,7 @@ void doubt(FoundDives& found, const QDateTime& now);
 
 /// Marks the dives that are in the list already or stand twice in the file: the same start within two minutes, the
 /// depth within a metre or 5 %, the time within two minutes or 10 %. Dives without a date are never the same.
-void markDuplicates(FoundDives& found, const std::vector<DivePointer>& held);
+void markDuplicates(FoundDives& found, const RecordList& held);
 
 /// The gas that a dive was made on, percent: that of the first tank, with a closed rebreather the diluent.
 struct BreathedGas {

@@ -32,11 +32,11 @@ Expected<Source> readLogbook(QByteArrayView bytes, const Progress& progress) {
     if (!recordClass->isEmpty() && *recordClass != QLatin1StringView("Plongee")) {
         return failure(text("Interchange", "No dives of this kind"), *recordClass);
     }
-    return readRecords<Plongee>(bytes, Plongee::layout(), progress).map([](auto&& file) {
+    return readRecords(bytes, Plongee::layout(), progress).map([](auto&& file) {
         Source source{SourceKind::logbook, {}};
         for (const auto& record : file.records) {
             FoundDive found;
-            found.dive = *record;
+            found.dive = asDive(record);
             source.found.dives.push_back(std::move(found));
         }
         return source;

@@ -127,10 +127,10 @@ std::optional<std::pair<double, double>> wgs84Of(const Plongee& dive) {
 
 class Writer {
 public:
-    Writer(const std::vector<DivePointer>& dives, const UddfHeader& header) : dives_(dives), header_(header) {
+    Writer(const RecordList& dives, const UddfHeader& header) : dives_(dives), header_(header) {
         links_.reserve(dives.size());
-        for (const DivePointer& dive : dives) {
-            links_.push_back(linksOf(*dive));
+        for (const RecordPointer& dive : dives) {
+            links_.push_back(linksOf(asDive(dive)));
         }
     }
 
@@ -149,7 +149,7 @@ public:
                 if (index % divesPerProgress == 0 && progress && !progress(index, dives_.size())) {
                     return failure(text("Main", "Cancelled"));
                 }
-                writeDive(*dives_[index], links_[index], "dive" + std::to_string(index + 1));
+                writeDive(asDive(dives_[index]), links_[index], "dive" + std::to_string(index + 1));
             }
         }
         return xml_.finish();
@@ -620,7 +620,7 @@ private:
         xml_.end();
     }
 
-    const std::vector<DivePointer>& dives_;
+    const RecordList& dives_;
     const UddfHeader& header_;
     XmlWriter xml_;
     std::vector<Links> links_;
@@ -638,8 +638,7 @@ private:
 
 }  // namespace
 
-Expected<QByteArray> writeUddf(const std::vector<DivePointer>& dives, const UddfHeader& header,
-                               const Progress& progress) {
+Expected<QByteArray> writeUddf(const RecordList& dives, const UddfHeader& header, const Progress& progress) {
     return Writer(dives, header).write(progress);
 }
 

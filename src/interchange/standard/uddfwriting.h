@@ -20,7 +20,7 @@ struct UddfHeader {
 
 /// The dives as UDDF 3.2.3, in the order given: valid against its schema whatever the dives hold, and all that UDDF has
 /// a place for. Positions in ED50 become WGS84, which is all that UDDF knows. A dive without a date starts on the first
-/// day of the year 1, which readers take for none.
-QByteArray writeUddf(const std::vector<DivePointer>& dives, const UddfHeader& header);
+/// day of the year 1, which readers take for none. The progress counts dives; fails when it cancels.
+Expected<QByteArray> writeUddf(const RecordList& dives, const UddfHeader& header, const Progress& progress = {});
 
 }  // namespace tavrel

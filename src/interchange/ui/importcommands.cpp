@@ -57,7 +57,7 @@ void ImportCommands::importDives() {
         fileDialogs_.filesToOpen(&window_, text("Interchange", "Import dives"),
                                  {{text("Interchange", "Dive files"),
                                    {QStringLiteral("uddf"), QStringLiteral("udcf"), QStringLiteral("xml"),
-                                    QStringLiteral("txt"), QString::fromLatin1(Carnet::kind.extension)}}},
+                                    QStringLiteral("txt"), QString::fromLatin1(carnetDescription().kind.extension)}}},
                                  false);
     if (!files.isEmpty()) {
         showDivesOf(files.constLast());
@@ -66,7 +66,9 @@ void ImportCommands::importDives() {
 
 void ImportCommands::showDivesOf(const QString& file) {
     // What is being edited goes to its own dive before the list changes.
-    window_.commitEditing();
+    if (!window_.leaveEditing(Settling::leaving)) {
+        return;
+    }
     (new ImportWindow(carnet_, desktop_, file, &window_))->show();
 }
 

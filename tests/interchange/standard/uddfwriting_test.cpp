@@ -48,7 +48,7 @@ std::string breach(const QByteArray& bytes, const QByteArray& schemaFile) {
     return why;
 }
 
-std::vector<Plongee> thereAndBack(const std::vector<DivePointer>& dives) {
+std::vector<Plongee> thereAndBack(const RecordList& dives) {
     const auto bytes = writeUddf(dives, header);
     EXPECT_TRUE(bytes);
     if (const QByteArray schema = qgetenv("TAVREL_UDDF_SCHEMA"); !schema.isEmpty()) {
