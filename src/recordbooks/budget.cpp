@@ -337,6 +337,9 @@ std::optional<RecordList> readPropertyList(QByteArrayView data) {
         }
         services.push_back(service);
     }
+    while (!xml.atEnd()) {
+        xml.readNext();
+    }
     return xml.hasError() ? std::nullopt : std::optional(services);
 }
 

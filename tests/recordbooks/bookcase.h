@@ -25,7 +25,7 @@ struct BookCase {
     /// What the last run of the card of "/home/b.file" begins with, and between or before the records of a card; null
     /// for a book without cards.
     const char* closing = "\rFile dir : /home/b.file\r\rEdition date : 2024-06-15 ";
-    int separators = 2;  ///< in a card of two records
+    int separators = 2;  ///< in a card of two records, at least
 };
 
 inline void PrintTo(const BookCase& book, std::ostream* out) {

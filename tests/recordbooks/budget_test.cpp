@@ -71,8 +71,8 @@ TEST_F(BudgetTest, worksOutTheUnitPriceOfCards) {
     enter("prixCarte_1Field", "180");
     EXPECT_EQ(at("prixUnite_1Field").text, u"18.00 € per unit");
     enter("unitesCarte_4Field", "4");
-    enter("prixCarte_4Field", "90.5");
-    EXPECT_EQ(at("prixUnite_4Field").text, u"22.63 € per unit");
+    enter("prixCarte_4Field", "90");
+    EXPECT_EQ(at("prixUnite_4Field").text, u"22.50 € per unit");
     enter("prixCarte_2Field", "50");
     EXPECT_EQ(at("prixUnite_2Field").text, u"");
     enter("unitesCarte_1Field", "0");
