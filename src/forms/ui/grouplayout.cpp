@@ -159,6 +159,9 @@ private:
                 form(index).addCompanion(unit);
                 layout->addWidget(unit);
             }
+        }
+        // Behind all of them: some have their unit from another control.
+        for (const int index : indexes) {
             if (takesEntries(control(index).kind)) {
                 layout->addWidget(form(index).makeHint());
             }
