@@ -84,7 +84,7 @@ void ConsumptionSheet::print() {
     report.append(windowTitle() + QStringLiteral("\n\n"), cardcolours::heading);
     report.append(consoField_->text() + QStringLiteral("\n\n"), cardcolours::value);
     report.append(explanations_->text(), cardcolours::label);
-    printText(printer, *textDocumentOf(report), print_);
+    printText(printer, *textDocumentOf(report), print_, windowTitle());
     if (printer.printerState() == QPrinter::Error) {
         desktop_.alerts.fail({text("Main", "Printing failed"), printer.outputFileName()});
     }

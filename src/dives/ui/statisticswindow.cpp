@@ -184,7 +184,7 @@ void StatisticsWindow::printStatistics() {
         QPainter painter(&printer);
         graphes_->drawing().paint(painter, painter.viewport());
     } else {
-        printText(printer, *textDocumentOf(statisticsReport(*statistics_, source_.name())), settings);
+        printText(printer, *textDocumentOf(statisticsReport(*statistics_, source_.name())), settings, windowTitle());
     }
     if (printer.printerState() == QPrinter::Error) {
         desktop_.alerts.fail({text("Main", "Printing failed"), printer.outputFileName()});

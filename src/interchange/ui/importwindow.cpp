@@ -27,7 +27,7 @@ namespace tavrel {
 
 namespace {
 
-enum Column { start, place, depth, duration, gas, profile, remarks, columns };
+enum Column { start, place, deepest, duration, gas, profile, remarks, columns };
 
 constexpr QSize profileSize{120, 28};
 
@@ -237,7 +237,7 @@ void ImportWindow::addRow(int index) {
     row->setCheckState(start, found.duplicate ? Qt::Unchecked : Qt::Checked);
     row->setText(start, startWords(found.dive));
     row->setText(place, joined(found.dive.lieu, found.dive.site));
-    row->setText(depth, shortestText(found.dive.profondeur) + QStringLiteral(" m"));
+    row->setText(deepest, shortestText(found.dive.profondeur) + QStringLiteral(" m"));
     row->setText(duration, QString::number(found.dive.temps) + QStringLiteral(" min"));
     row->setText(gas, gasName(gasMix(breathed.oxygen / 100.0, breathed.helium / 100.0)));
     row->setData(profile, Qt::DecorationRole,

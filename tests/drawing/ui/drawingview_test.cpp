@@ -70,7 +70,7 @@ TEST(DrawingView, handsOutItsDataAndPicture) {
     view.findChild<QAction*>(QStringLiteral("showData"))->trigger();
     ASSERT_TRUE(view.dataWindow());
     QTableView& table = view.dataWindow()->table();
-    EXPECT_EQ(table.model()->index(2, 1).data(), u"4");
+    EXPECT_EQ(table.model()->index(2, 1).data().toString(), u"4");
     view.dataWindow()->copy();
     EXPECT_EQ(QGuiApplication::clipboard()->text().count(u'\n'), 4);
     table.selectRow(2);
