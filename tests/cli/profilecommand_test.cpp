@@ -52,12 +52,12 @@ TEST_F(ProfileCommand, givesSummaryAndGeometry) {
     EXPECT_EQ(path("limit"), u"[]");
     const QJsonArray icons = geometry[QStringLiteral("icons")].toArray();
     ASSERT_EQ(icons.size(), 4);
-    EXPECT_EQ(icons[1].toObject()[QStringLiteral("name")], u"alarmeGAZ");
+    EXPECT_EQ(icons[1].toObject()[QStringLiteral("name")].toString(), u"alarmeGAZ");
     EXPECT_EQ(icons[1].toObject()[QStringLiteral("x")].toDouble(), 162.5 - 27);
     const QJsonObject label = geometry[QStringLiteral("labels")].toArray().last().toObject();
-    EXPECT_EQ(label[QStringLiteral("text")], u"EAN50");
+    EXPECT_EQ(label[QStringLiteral("text")].toString(), u"EAN50");
     EXPECT_EQ(label[QStringLiteral("y")].toDouble(), 523 + 14);
-    EXPECT_EQ(label[QStringLiteral("colour")], u"#000000");
+    EXPECT_EQ(label[QStringLiteral("colour")].toString(), u"#000000");
     EXPECT_EQ(profile("1")[QStringLiteral("samples")].toInt(), 0);
 }
 

@@ -30,19 +30,12 @@
 <message><source>No such column</source><translation>Dives have no field “%@”.</translation></message>
 <message><source>Nothing lost</source><translation>Nothing is lost.</translation></message>
 <message><source>Reading file</source><translation>Reading “%@” …</translation></message>
-<message><source>Reads better</source><translation>The file is UDDF 3: Import Dives… reads it with its dates, gases and profiles.</translation></message>
+<message><source>Reads better</source><translation>The file is UDDF 3; read by its meaning it has its dates, gases and profiles.</translation></message>
 <message><source>Renumber by date</source><translation>Order all dives by date and number them on</translation></message>
 <message><source>Skipped</source><translation>Already there and left out: %d.</translation></message>
 <message><source>Texts to notes</source><translation>Add words that have no field of their own to the notes</translation></message>
 <message><source>Tick all</source><translation>Tick All</translation></message>
 <message><source>Tick none</source><translation>Tick None</translation></message>
-<message><source>Left out</source><translation>In groups that this format leaves out: %d.</translation></message>
-<message><source>Lost of dives</source><translation>%@ (dives: %d)</translation></message>
-<message><source>No dives of this kind</source><translation>The document holds no dives.</translation></message>
-<message><source>No such column</source><translation>Dives have no field “%@”.</translation></message>
-<message><source>Nothing lost</source><translation>Nothing is lost.</translation></message>
-<message><source>Reads better</source><translation>The file is UDDF 3; read by its meaning it has its dates, gases and profiles.</translation></message>
-<message><source>Skipped</source><translation>Already there and left out: %d.</translation></message>
 <message><source>Twice</source><translation>Now there twice: %d.</translation></message>
 <message><source>Without date</source><translation>Without a date: %d.</translation></message>
 </context>

@@ -30,19 +30,12 @@
 <message><source>No such column</source><translation>Les plongées n’ont pas de champ « %@ ».</translation></message>
 <message><source>Nothing lost</source><translation>Rien n’est perdu.</translation></message>
 <message><source>Reading file</source><translation>Lecture de « %@ » …</translation></message>
-<message><source>Reads better</source><translation>Le fichier est de l’UDDF 3 : « Importer des plongées… » le lit avec ses dates, ses gaz et ses profils.</translation></message>
+<message><source>Reads better</source><translation>Le fichier est de l’UDDF 3 ; lu selon son sens, il a ses dates, ses gaz et ses profils.</translation></message>
 <message><source>Renumber by date</source><translation>Classer toutes les plongées par date et les renuméroter</translation></message>
 <message><source>Skipped</source><translation>Déjà présentes et laissées de côté : %d.</translation></message>
 <message><source>Texts to notes</source><translation>Ajouter aux notes les textes sans champ à eux</translation></message>
 <message><source>Tick all</source><translation>Tout cocher</translation></message>
 <message><source>Tick none</source><translation>Tout décocher</translation></message>
-<message><source>Left out</source><translation>Dans des groupes que ce format laisse de côté : %d.</translation></message>
-<message><source>Lost of dives</source><translation>%@ (plongées : %d)</translation></message>
-<message><source>No dives of this kind</source><translation>Le document ne contient pas de plongées.</translation></message>
-<message><source>No such column</source><translation>Les plongées n’ont pas de champ « %@ ».</translation></message>
-<message><source>Nothing lost</source><translation>Rien n’est perdu.</translation></message>
-<message><source>Reads better</source><translation>Le fichier est de l’UDDF 3 ; lu selon son sens, il a ses dates, ses gaz et ses profils.</translation></message>
-<message><source>Skipped</source><translation>Déjà présentes et laissées de côté : %d.</translation></message>
 <message><source>Twice</source><translation>Présentes deux fois : %d.</translation></message>
 <message><source>Without date</source><translation>Sans date : %d.</translation></message>
 </context>

@@ -47,6 +47,9 @@ protected:
     }
     const Image& held() { return state.at(0).image; }
     void drop(QMimeData* data) {
+        // What was dragged is dropped only where it has entered.
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(view(), &enter);
         QDropEvent event(QPointF(5, 5), Qt::CopyAction, data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(view(), &event);
     }
