@@ -156,7 +156,11 @@ Expected<void> previewInto(Carnet& carnet, const Arguments& arguments, Console& 
                                   : Expected<FoundDives>(std::move(reading.found));
         })
         .map([&](const FoundDives& found) {
-            arguments.json ? writeFound(found, jsonOn(console)) : printFound(found, console);
+            if (!arguments.json) {
+                return printFound(found, console);
+            }
+            writeFound(found, jsonOn(console));
+            console.out << '\n';
         });
 }
 
