@@ -17,10 +17,6 @@ int entryIndex(const FormStateBase& form, const QString& name) {
 
 }  // namespace
 
-bool hasEntry(const BookForm& form, const QString& name) {
-    return entryIndex(form.state(), name) >= 0 || form.holdsBeside(name);
-}
-
 Expected<void> enterByName(BookForm& form, const QString& name, const QString& value) {
     if (const int index = entryIndex(form.state(), name); index >= 0) {
         return enterValue(form.state(), index, value);

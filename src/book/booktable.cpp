@@ -38,12 +38,6 @@ Cell BookTable::cell(int row, int column) const {
     return cell;
 }
 
-Cell BookTable::cellOfField(int row, const Field& field) const {
-    Cell cell;
-    cell.text = plainText(*book_.records()[static_cast<std::size_t>(row)], field, *style_);
-    return cell;
-}
-
 void BookTable::reload() {
     style_ = book_.description().tableStyle(book_.desktop());
 }

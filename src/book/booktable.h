@@ -27,8 +27,6 @@ public:
     bool isShown(int column) const;
     /// Everything that a cell shows, worked out anew: ask once per paint.
     Cell cell(int row, int column) const;
-    /// The plain words of any field of the records, whether it has a column or not.
-    Cell cellOfField(int row, const Field& field) const;
     /// Reads the settings and the day again.
     void reload();
 

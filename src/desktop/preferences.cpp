@@ -104,7 +104,12 @@ std::optional<QVariantMap> readDictionary(const QVariant& value) {
     return document.isObject() ? std::optional(document.object().toVariantMap()) : std::nullopt;
 }
 
+/// A colour archive, or #rrggbb as typed for one run.
 std::optional<QColor> readColor(const QVariant& value) {
+    if (value.typeId() == QMetaType::QString && value.toString().startsWith(u'#')) {
+        const QColor typed(value.toString());
+        return typed.isValid() ? std::optional(typed) : std::nullopt;
+    }
     if (value.typeId() != QMetaType::QByteArray) {
         return std::nullopt;
     }

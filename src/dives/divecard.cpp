@@ -5,7 +5,7 @@
 #include "desktop/commonsettings.h"
 #include "desktop/preferences.h"
 #include "dives/cardcolours.h"
-#include "dives/divecodes.h"
+#include "dives/divetanks.h"
 #include "dives/divewords.h"
 #include "dives/wrapping.h"
 
@@ -27,7 +27,6 @@ constexpr std::array<Title, 7> suitWords{{{"Carnet", "Wet suit"},
                                           {"Carnet", "Semi-dry suit"},
                                           {"Carnet", "\r   - T-shirt"},
                                           {"Carnet", "Tropical suit"}}};
-constexpr std::array<Title, 3> materialWords{{{"Carnet", "Aluminum"}, {"Carnet", "Carbon"}, {"Carnet", "Steel"}}};
 
 // Labels by code.
 constexpr std::array<Title, 4> methodLabels{
@@ -37,67 +36,6 @@ constexpr std::array<Title, 5> apparatusLabels{{{"Carnet", "Open circuit"},
                                                 {"Carnet", "CCR rebreather"},
                                                 {"Carnet", "Oxygen"},
                                                 {"Carnet", "Scaphander"}}};
-
-struct Level {
-    qint32 Plongee::*oxygen;
-    qint32 Plongee::*helium;
-    float Plongee::*depth;
-    qint32 Plongee::*time;
-};
-constexpr std::array<Level, 6> levels{{
-    {&Plongee::decoO2_Level_1, &Plongee::decoHe_Level_1, &Plongee::decoDepth_Level_1, &Plongee::decoTime_Level_1},
-    {&Plongee::decoO2_Level_2, &Plongee::decoHe_Level_2, &Plongee::decoDepth_Level_2, &Plongee::decoTime_Level_2},
-    {&Plongee::decoO2_Level_3, &Plongee::decoHe_Level_3, &Plongee::decoDepth_Level_3, &Plongee::decoTime_Level_3},
-    {&Plongee::decoO2_Level_4, &Plongee::decoHe_Level_4, &Plongee::decoDepth_Level_4, &Plongee::decoTime_Level_4},
-    {&Plongee::decoO2_Level_5, &Plongee::decoHe_Level_5, &Plongee::decoDepth_Level_5, &Plongee::decoTime_Level_5},
-    {&Plongee::decoO2_Level_6, &Plongee::decoHe_Level_6, &Plongee::decoDepth_Level_6, &Plongee::decoTime_Level_6},
-}};
-
-struct Pony {
-    qint32 Plongee::*volume;
-    qint32 Plongee::*start;
-    qint32 Plongee::*end;
-};
-constexpr std::array<Pony, 3> ponies{{
-    {&Plongee::volPony1, &Plongee::pressDepartPony1, &Plongee::pressFinPony1},
-    {&Plongee::volPony2, &Plongee::pressDepartPony2, &Plongee::pressFinPony2},
-    {&Plongee::volPony3, &Plongee::pressDepartPony3, &Plongee::pressFinPony3},
-}};
-
-struct Bailout {
-    Pony bottle;
-    qint32 Plongee::*oxygen;
-    qint32 Plongee::*helium;
-};
-constexpr std::array<Bailout, 2> bailouts{{
-    {{&Plongee::volBailout1, &Plongee::pressDepartBailout1, &Plongee::pressFinBailout1},
-     &Plongee::O2Bailout1,
-     &Plongee::HeBailout1},
-    {{&Plongee::volBailout2, &Plongee::pressDepartBailout2, &Plongee::pressFinBailout2},
-     &Plongee::O2Bailout2,
-     &Plongee::HeBailout2},
-}};
-
-struct Tank {
-    qint32 Plongee::*material;
-    qint32 Plongee::*volume;
-    qint32 Plongee::*pressure;
-    qint32 Plongee::*start;
-    qint32 Plongee::*end;
-    qint32 Plongee::*gas;
-    qint32 Plongee::*oxygen;
-    qint32 Plongee::*helium;
-};
-constexpr Tank mainTank{&Plongee::alliageBloc, &Plongee::volumeBloc, &Plongee::pressionBloc, &Plongee::pressionDepart,
-                        &Plongee::pressionFin, &Plongee::gaz,        &Plongee::o2Mix,        &Plongee::heMix};
-constexpr Tank secondTank{&Plongee::alliageBloc_2,    &Plongee::volumeBloc_2,  &Plongee::pressionBloc_2,
-                          &Plongee::pressionDepart_2, &Plongee::pressionFin_2, &Plongee::gaz_2,
-                          &Plongee::o2Mix_2,          &Plongee::heMix_2};
-
-constexpr std::array<QString Plongee::*, 12> equipmentItems{&Plongee::equip_1,  &Plongee::equip_2,  &Plongee::equip_3,
-                                                            &Plongee::equip_4,  &Plongee::equip_5,  &Plongee::equip_6,
-                                                            &Plongee::equip_7,  &Plongee::equip_8,  &Plongee::equip_9,
-                                                            &Plongee::equip_10, &Plongee::equip_11, &Plongee::equip_12};
 
 /// A difficulty is 0 to 5. What a damaged file holds instead does not fill the memory with stars.
 constexpr qint32 mostStars = 1000;
@@ -110,11 +48,11 @@ QString clockTime(const QDateTime& moment) {
     return moment.toString(QStringLiteral("HH:mm"));
 }
 
-bool inUse(const Plongee& dive, const Pony& bottle) {
+bool inUse(const Plongee& dive, const BottleFields& bottle) {
     return dive.*bottle.volume != 0 || dive.*bottle.start != 0;
 }
 
-QString pressures(const Plongee& dive, const Pony& bottle) {
+QString pressures(const Plongee& dive, const BottleFields& bottle) {
     return QStringLiteral("(") + number(dive.*bottle.start) + u'-' + number(dive.*bottle.end) + QStringLiteral(" bar)");
 }
 
@@ -130,7 +68,7 @@ QString levelGas(qint32 oxygen, qint32 helium) {
     if (helium == 0) {
         return oxygen < leastNitrox ? QStringLiteral("(Air)") : u'(' + mix(QLatin1StringView("Nitrox"), oxygen) + u')';
     }
-    return u'(' + mix(QLatin1StringView(oxygen > 21 ? "Triox" : "Trimix"), oxygen, helium) + u')';
+    return u'(' + mix(QLatin1StringView(oxygen >= leastNitrox ? "Triox" : "Trimix"), oxygen, helium) + u')';
 }
 
 }  // namespace
@@ -286,13 +224,14 @@ private:
         row({"Carnet", "Deco conservatism"}, dive_.decoConservatism);
         row({"Carnet", "Detail runtime"}, newSection + dive_.runtime);
         row({"Carnet", "TTS"}, number(dive_.deco_TTS) + QStringLiteral(" min."));
-        for (const Level& level : levels) {
-            if (dive_.*level.time > 0) {
+        for (const StopFields& stop : stopFields) {
+            if (dive_.*stop.minutes > 0) {
+                const auto& [oxygen, helium] = stop.gas;
                 std::string depth;
-                appendFixed(depth, static_cast<double>(dive_.*level.depth), 1);
+                appendFixed(depth, static_cast<double>(dive_.*stop.depth), 1);
                 value(QStringLiteral("\n   - ") + length(QString::fromStdString(depth)) + QStringLiteral(" : ") +
-                      number(dive_.*level.time) + QStringLiteral(" min. - ") +
-                      levelGas(dive_.*level.oxygen, dive_.*level.helium));
+                      number(dive_.*stop.minutes) + QStringLiteral(" min. - ") +
+                      levelGas(dive_.*oxygen, dive_.*helium));
             }
         }
     }
@@ -300,22 +239,22 @@ private:
     void writeGas() {
         heading({"Carnet", "Gas"});
         label(apparatusLabels, dive_.rebreather);
-        writeTank({"Carnet", "Tank_1"}, mainTank);
+        writeTank({"Carnet", "Tank_1"}, mainTankFields[0]);
         row({"Carnet", "Flow"}, shortestText(dive_.flow) + QStringLiteral(" L/min."));
         if (dive_.volumeBloc_2 != 0) {
             writeTank(Apparatus::isClosed(dive_.rebreather) ? Title("Carnet", "Diluent") : Title("Carnet", "Tank_2"),
-                      secondTank);
+                      mainTankFields[1]);
         }
         writePonies();
         writeBailouts();
     }
 
-    void writeTank(const Title& title, const Tank& tank) {
+    void writeTank(const Title& title, const MainTankFields& tank) {
         const qint32 volume = dive_.*tank.volume;
         const qint32 start = dive_.*tank.start;
         const qint32 drop = wrappedDifference(start, dive_.*tank.end);
         const QString litres = QStringLiteral(" litres");
-        row(title, word(materialWords, dive_.*tank.material) + u' ' + number(volume));
+        row(title, word(words::tankMaterial, dive_.*tank.material) + u' ' + number(volume));
         label({"Carnet", "At"});
         value(number(dive_.*tank.pressure));
         label({"Carnet", "Tank pressure"});
@@ -347,33 +286,34 @@ private:
     }
 
     void writePonies() {
-        if (std::none_of(ponies.begin(), ponies.end(), [&](const Pony& pony) { return inUse(dive_, pony); })) {
+        if (std::none_of(stageFields.begin(), stageFields.end(),
+                         [&](const BottleFields& pony) { return inUse(dive_, pony); })) {
             return;
         }
         label({"Carnet", "Ponies"});
-        for (std::size_t pony = 0; pony < ponies.size(); ++pony) {
-            if (!inUse(dive_, ponies[pony])) {
+        for (std::size_t pony = 0; pony < stageFields.size(); ++pony) {
+            if (!inUse(dive_, stageFields[pony])) {
                 continue;
             }
             // Only the first says how much oxygen it holds.
             const QString oxygen = pony == 0 ? number(dive_.decoO2_Level_1) + u' ' : QString();
             value(QStringLiteral("\r   - Deco ") + number(static_cast<qint32>(pony) + 1) + QStringLiteral(" : ") +
-                  oxygen + QStringLiteral("% O₂ ") + pressures(dive_, ponies[pony]));
+                  oxygen + QStringLiteral("% O₂ ") + pressures(dive_, stageFields[pony]));
         }
     }
 
     void writeBailouts() {
-        if (std::none_of(bailouts.begin(), bailouts.end(),
-                         [&](const Bailout& bailout) { return inUse(dive_, bailout.bottle); })) {
+        if (std::none_of(bailoutFields.begin(), bailoutFields.end(),
+                         [&](const BottleFields& bailout) { return inUse(dive_, bailout); })) {
             return;
         }
         label({"Carnet", "\r\rBail-out"}, newSection);
-        for (std::size_t place = 0; place < bailouts.size(); ++place) {
-            const Bailout& bailout = bailouts[place];
-            if (inUse(dive_, bailout.bottle)) {
+        for (std::size_t place = 0; place < bailoutFields.size(); ++place) {
+            const auto& [oxygen, helium] = bailoutGasFields[place];
+            if (inUse(dive_, bailoutFields[place])) {
                 value(QStringLiteral("\r   - Bail-out ") + number(static_cast<qint32>(place) + 1) +
-                      QStringLiteral(" : ") + number(dive_.*bailout.oxygen) + QStringLiteral(" % O₂ - ") +
-                      number(dive_.*bailout.helium) + QStringLiteral(" % He ") + pressures(dive_, bailout.bottle));
+                      QStringLiteral(" : ") + number(dive_.*oxygen) + QStringLiteral(" % O₂ - ") +
+                      number(dive_.*helium) + QStringLiteral(" % He ") + pressures(dive_, bailoutFields[place]));
             }
         }
     }
@@ -387,7 +327,7 @@ private:
         if (const QString suit = word(suitWords, dive_.combinaison); !suit.isEmpty()) {
             value(suit.startsWith(newLine) ? suit : QStringLiteral("\r   - ") + suit);
         }
-        for (const auto item : equipmentItems) {
+        for (const auto item : equipmentFields) {
             if (!(dive_.*item).isEmpty()) {
                 value(QStringLiteral("\r   - ") + dive_.*item);
             }

@@ -88,6 +88,14 @@ struct Configuration {
     enum Code : qint32 { noTek, tek };
 };
 
+/// Oxygen set point of a rebreather.
+struct SetPoint {
+    /// Tenths of a bar: codes 1 to 5 rise from 12 to 16, 6 to 10 fall from 11 to 7; 0 for a code that is none.
+    static constexpr int tenthsOfBar(qint32 code) {
+        return code < 1 || code > 10 ? 0 : code <= 5 ? 11 + code : 17 - code;
+    }
+};
+
 /// Percent of oxygen from which a gas counts as nitrox.
 inline constexpr qint32 leastNitrox = 22;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/texts.h"
+#include "dives/divechoices.h"
 
 #include <array>
 
@@ -8,34 +8,30 @@
 // code says that nothing was given, or means nothing.
 namespace tavrel::words {
 
-inline constexpr std::array<Title, 8> weather{
-    Title("Carnet", "Clear"), Title("Carnet", "Cloudy"), Title("Carnet", "Foggy"),    Title("Carnet", "Rainy"),
-    Title("Carnet", "Hail"),  Title("Carnet", "Snowy"),  Title("Carnet", "Thundery"), Title()};
+/// The titles of a menu of the form by tag, from 0 to its size less one; the menu's item for nothing given stays empty.
+template <std::size_t size, std::size_t count>
+consteval std::array<Title, size> byTag(const Choice (&menu)[count], int notGiven = -1) {
+    std::array<Title, size> titles{};
+    for (const Choice& choice : menu) {
+        if (choice.tag != notGiven) {
+            titles[static_cast<std::size_t>(choice.tag)] = choice.title;
+        }
+    }
+    return titles;
+}
 
+inline constexpr auto weather = byTag<8>(choices::weather, Weather::notGiven);
 /// The same in every language.
-inline constexpr std::array<Title, 9> windSector{Title(),        literal("N"),   literal("N-E"),
-                                                 literal("E"),   literal("S-E"), literal("S"),
-                                                 literal("S-W"), literal("W"),   literal("N-W")};
+inline constexpr auto windSector = byTag<9>(choices::windSector, WindSector::notGiven);
+inline constexpr auto current = byTag<7>(choices::current, Current::notGiven);
+inline constexpr auto diveKind = byTag<15>(choices::diveKind);
+inline constexpr auto tankMaterial = byTag<3>(choices::tankMaterial);
 
-inline constexpr std::array<Title, 7> current{Title("Carnet", "None"),
-                                              Title("Carnet", "Weak"),
-                                              Title("Carnet", "Moderate"),
-                                              Title("Carnet", "Strong"),
-                                              Title("Carnet", "Very strong"),
-                                              Title("Carnet", "Violent"),
-                                              Title()};
-
+/// Other words than the form's.
 inline constexpr std::array<Title, 9> visibility{Title("Carnet", "Excellent"),  Title("Carnet", "Very good"),
                                                  Title("Carnet", "Good"),       Title("Carnet", "Medium"),
                                                  Title("Carnet", "Bad"),        Title("Carnet", "Very bad"),
                                                  Title("Carnet", "Execrable"),  Title(),
                                                  Title("Carnet", "Exceptional")};
-
-inline constexpr std::array<Title, 15> diveKind{
-    Title("Carnet", "Wreck"),      Title("Carnet", "Recreational"), Title(),
-    Title("Carnet", "Photo dive"), Title("Carnet", "Tek"),          Title("Carnet", "Cave"),
-    Title("Carnet", "Movies"),     Title("Carnet", "Work"),         Title("Carnet", "Other"),
-    Title("Carnet", "Drift"),      Title("Carnet", "Under ice"),    Title("Carnet", "Training"),
-    Title("Carnet", "Biology"),    Title("Carnet", "Quarry"),       Title("Carnet", "Recuperation")};
 
 }  // namespace tavrel::words

@@ -9,12 +9,10 @@ namespace tavrel {
 
 namespace {
 
-/// The set point of its code, bar: 1.2 to 1.6 for 1 to 5, then down from 1.1 to 0.7 for 6 to 10.
+/// The set point of its code, bar.
 std::optional<double> setPointOf(qint32 code) {
-    if (code < 1 || code > 10) {
-        return std::nullopt;
-    }
-    return (code <= 5 ? 11 + code : 17 - code) / 10.0;
+    const int tenths = SetPoint::tenthsOfBar(code);
+    return tenths == 0 ? std::nullopt : std::optional(tenths / 10.0);
 }
 
 }  // namespace

@@ -54,6 +54,36 @@ TEST_F(ViewCommands, tableShowsWhatTheWindowShows) {
               QStringList{QStringLiteral("20 m")});  // nothing was stored
 }
 
+TEST_F(ViewCommands, preferencesOfOneRunMayBeColoursAndDictionaries) {
+    done(QStringList{QStringLiteral("new"), QStringLiteral("Plongee"), QStringLiteral("my.carnet")});
+    done("add my.carnet profondeur=20 temps=30");
+    const QJsonObject table = json({QStringLiteral("table"), QStringLiteral("my.carnet"), QStringLiteral("--json"),
+                                    QStringLiteral("--preference"), QStringLiteral("depth color=#12ab00")});
+    const auto place = table[u"columns"].toArray().toVariantList().indexOf(QStringLiteral("profondeur"));
+    EXPECT_EQ(table[u"rows"].toArray().first().toArray().at(place).toObject()[u"colour"], QStringLiteral("#12ab00"));
+
+    const QStringList stats{QStringLiteral("stats"), QStringLiteral("my.carnet"), QStringLiteral("--json")};
+    EXPECT_EQ(
+        json(stats + QStringList{QStringLiteral("--preference"),
+                                 QStringLiteral(R"(statistics values={"total temps": 70, "tek": 3})")})[u"total temps"],
+        100);
+    EXPECT_EQ(json(stats)[u"total temps"], 30);
+}
+
+TEST_F(ViewCommands, formShowsWhatItWorksOut) {
+    done(QStringLiteral("new Materiel m.materiel").split(u' '));
+    done("add m.materiel noInspection=0 lastRevision=2020-01-01 nextRevision=2022-01-01 bloc=1");
+    // 366 of 731 days.
+    const QJsonObject inTime = json("form m.materiel --row 0 --json --now 2021-01-01T00:00:00");
+    EXPECT_NEAR(control(inTime, "tempsProgress")[u"value"].toDouble(), 100.0 * 366 / 731, 1e-9);
+    EXPECT_EQ(control(inTime, "pourcentageRevField")[u"value"], QStringLiteral("50 %"));
+    EXPECT_FALSE(control(inTime, "delaiDepasseField").contains(u"colour"));
+    EXPECT_EQ(control(inTime, "capaciteField")[u"visible"], true);
+    const QJsonObject late = json("form m.materiel --row 0 bloc=0 --json --now 2022-01-01T00:00:00");
+    EXPECT_EQ(control(late, "delaiDepasseField")[u"colour"], QStringLiteral("#ff0000"));
+    EXPECT_EQ(control(late, "capaciteField")[u"visible"], false);
+}
+
 TEST_F(ViewCommands, formShowsEntriesAndStoresNothing) {
     done(QStringList{QStringLiteral("new"), QStringLiteral("Carnet de plongee"), QStringLiteral("my.carnet")});
     done("add my.carnet profondeur=20 rebreather=mCCR");
@@ -151,6 +181,8 @@ TEST_F(ViewCommands, cardsAndPagesComeFromTheSameRooms) {
     done("render m.materiel list.svg --what table");
     EXPECT_TRUE(contentsOf(path(QStringLiteral("list.svg"))).contains("<svg"));
     EXPECT_TRUE(contentsOf(path(QStringLiteral("list-2.svg"))).contains("<svg"));
+    done("render m.materiel list.png --what card --row 1");
+    EXPECT_TRUE(contentsOf(path(QStringLiteral("list.png"))).startsWith("\x89PNG"));
     EXPECT_EQ(run(QStringLiteral("render m.materiel list.txt --what table").split(u' ')).code, 2);
     done(QStringLiteral("new Plongee my.carnet").split(u' '));
     done("add my.carnet profondeur=20 temps=40");

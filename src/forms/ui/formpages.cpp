@@ -96,12 +96,6 @@ QStringListModel* FormPages::listOf(const Control& control) {
     return list.get();
 }
 
-void FormPages::reloadOwnLists() {
-    for (const auto& [number, list] : ownLists_) {
-        list->setStringList(ownList_ ? ownList_(number) : QStringList());
-    }
-}
-
 QWidget* FormPages::buildPage(int number) {
     auto* page = new QWidget;
     page->setObjectName(QStringLiteral("page%1").arg(number));

@@ -43,8 +43,6 @@ public:
     /// Gives the focus to the first control of a page that takes it.
     void takeFirstFocus(int page);
 
-    /// Reads the lists that the document owns again.
-    void reloadOwnLists();
     /// Ends an entry under way as leaving its control would. Before an operation that takes or replaces the form.
     void finishEditing();
 

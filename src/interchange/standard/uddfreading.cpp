@@ -1,6 +1,6 @@
 #include "interchange/standard/uddfreading.h"
 
-#include "interchange/standard/divetanks.h"
+#include "dives/divetanks.h"
 #include "interchange/standard/filetime.h"
 #include "interchange/standard/filevalues.h"
 #include "interchange/standard/position.h"

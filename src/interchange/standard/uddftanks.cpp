@@ -1,7 +1,7 @@
 #include "interchange/standard/uddftanks.h"
 
 #include "dives/divecodes.h"
-#include "interchange/standard/divetanks.h"
+#include "dives/divetanks.h"
 #include "interchange/standard/filevalues.h"
 
 #include <QRegularExpression>

@@ -3,7 +3,7 @@
 #include "base/numbers.h"
 #include "base/texts.h"
 #include "calculators/gps.h"
-#include "interchange/standard/divetanks.h"
+#include "dives/divetanks.h"
 #include "interchange/standard/founddive.h"
 #include "interchange/standard/gasmix.h"
 #include "interchange/standard/position.h"

@@ -12,6 +12,7 @@ namespace tavrel {
 struct MainTankFields {
     qint32 Plongee::*material;
     qint32 Plongee::*volume;
+    qint32 Plongee::*pressure;  ///< when full
     qint32 Plongee::*start;
     qint32 Plongee::*end;
     qint32 Plongee::*gas;
@@ -19,10 +20,10 @@ struct MainTankFields {
     qint32 Plongee::*helium;
 };
 inline constexpr std::array<MainTankFields, 2> mainTankFields{{
-    {&Plongee::alliageBloc, &Plongee::volumeBloc, &Plongee::pressionDepart, &Plongee::pressionFin, &Plongee::gaz,
-     &Plongee::o2Mix, &Plongee::heMix},
-    {&Plongee::alliageBloc_2, &Plongee::volumeBloc_2, &Plongee::pressionDepart_2, &Plongee::pressionFin_2,
-     &Plongee::gaz_2, &Plongee::o2Mix_2, &Plongee::heMix_2},
+    {&Plongee::alliageBloc, &Plongee::volumeBloc, &Plongee::pressionBloc, &Plongee::pressionDepart,
+     &Plongee::pressionFin, &Plongee::gaz, &Plongee::o2Mix, &Plongee::heMix},
+    {&Plongee::alliageBloc_2, &Plongee::volumeBloc_2, &Plongee::pressionBloc_2, &Plongee::pressionDepart_2,
+     &Plongee::pressionFin_2, &Plongee::gaz_2, &Plongee::o2Mix_2, &Plongee::heMix_2},
 }};
 
 struct BottleFields {
