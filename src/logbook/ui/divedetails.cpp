@@ -3,49 +3,27 @@
 #include "base/texts.h"
 #include "desktop/desktop.h"
 #include "logbook/divefigures.h"
+#include "logbook/diveform.h"
 #include "logbook/diveprofile.h"
+#include "profile/profilestyle.h"
+#include "profile/ui/profileview.h"
 
 #include <QGridLayout>
 #include <QLabel>
-#include <QPainter>
 #include <QPlainTextEdit>
+#include <QScrollArea>
 #include <QStackedLayout>
+#include <QVBoxLayout>
 
 namespace tavrel {
-
-/// Paints the profile, as large as fits.
-class DiveDetails::Picture : public QWidget {
-public:
-    Picture() {
-        setObjectName(QStringLiteral("profilePicture"));
-        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    }
-
-    void show(Drawing drawing) {
-        drawing_ = std::move(drawing);
-        setAccessibleName(drawing_.title);
-        setAccessibleDescription(drawing_.description);
-        update();
-    }
-    const Drawing& drawing() const { return drawing_; }
-    QSize minimumSizeHint() const override { return {200, 120}; }
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        drawing_.paint(painter, rect());
-    }
-
-private:
-    Drawing drawing_;
-};
 
 DiveDetails::DiveDetails(Desktop& desktop, QWidget* parent)
     : QWidget(parent),
       desktop_(desktop),
+      form_(std::make_unique<DiveForm>(desktop)),
       pages_(new QStackedLayout(this)),
-      picture_(new Picture),
+      profile_(new ProfileView),
+      sample_(new QLabel),
       notes_(new QPlainTextEdit) {
     setObjectName(QStringLiteral("diveDetails"));
     setAccessibleName(text("Carnet", "Details"));
@@ -54,31 +32,49 @@ DiveDetails::DiveDetails(Desktop& desktop, QWidget* parent)
     hint->setForegroundRole(QPalette::PlaceholderText);
     pages_->addWidget(hint);
 
+    sample_->setObjectName(QStringLiteral("sampleField"));
+    sample_->setAlignment(Qt::AlignCenter);
+    sample_->setMinimumWidth(1);
+    connect(profile_, &ProfileView::sampleMarked, this, &DiveDetails::showSample);
+    auto* picture = new QVBoxLayout;
+    picture->setSpacing(2);
+    picture->addWidget(profile_, 1);
+    picture->addWidget(sample_);
+
     notes_->setReadOnly(true);
+    notes_->setTabChangesFocus(true);
     notes_->setFrameShape(QFrame::NoFrame);
     notes_->setObjectName(QStringLiteral("notes"));
     notes_->setAccessibleName(text("Carnet", "Group notes"));
     notes_->setPlaceholderText(text("Carnet", "No notes"));
-    addFigures();
+    auto* page = new QWidget;
+    auto* columns = new QHBoxLayout(page);
+    columns->setContentsMargins(8, 6, 8, 6);
+    columns->setSpacing(16);
+    columns->addLayout(picture, 4);
+    columns->addWidget(newFigures(), 4);
+    columns->addWidget(notes_, 3);
+    pages_->addWidget(page);
     for (const Notification name :
          {Notification::profile, Notification::updateTableView, Notification::updateEditDive}) {
         subscriptions_.push_back(desktop.notifications.subscribe(name, [this] { setDive(dive_); }));
     }
 }
 
-void DiveDetails::addFigures() {
-    auto* page = new QWidget;
-    auto* columns = new QHBoxLayout(page);
-    columns->setContentsMargins(8, 6, 8, 6);
-    columns->addWidget(picture_, 3);
-    auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(12);
-    grid->setVerticalSpacing(2);
-    const auto figures = keyFigures(Plongee(), desktop_);
+DiveDetails::~DiveDetails() = default;
+
+QWidget* DiveDetails::newFigures() {
+    auto* contents = new QWidget;
+    auto* grid = new QGridLayout(contents);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(14);
+    grid->setVerticalSpacing(3);
+    const auto figures = keyFigures(Plongee(), *form_);
     for (std::size_t place = 0; place < figures.size(); ++place) {
         auto* caption = new QLabel(figures[place].label.text());
         auto* value = new QLabel;
-        value->setObjectName(QStringLiteral("figure%1").arg(place));
+        value->setObjectName(QLatin1StringView(figures[place].label.key));
+        value->setTextFormat(Qt::PlainText);
         value->setTextInteractionFlags(Qt::TextSelectableByMouse);
         value->setWordWrap(true);
         value->setAccessibleName(caption->text());
@@ -89,13 +85,13 @@ void DiveDetails::addFigures() {
     }
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(static_cast<int>(figures.size()), 1);
-    columns->addLayout(grid, 3);
-    columns->addWidget(notes_, 2);
-    pages_->addWidget(page);
-}
-
-const Drawing& DiveDetails::profile() const {
-    return picture_->drawing();
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidgetResizable(true);
+    area->setWidget(contents);
+    return area;
 }
 
 void DiveDetails::setDive(DivePointer dive) {
@@ -113,23 +109,29 @@ void DiveDetails::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
 }
 
+void DiveDetails::showSample() {
+    sample_->setText(profile_->markedSample() ? profile_->markedWords() : profile_->drawing().description);
+    sample_->setToolTip(sample_->text());
+}
+
 void DiveDetails::refresh() {
     outdated_ = false;
     pages_->setCurrentIndex(dive_ ? 1 : 0);
     if (!dive_) {
         return;
     }
-    picture_->show(profileDrawing(*dive_, desktop_.preferences));
-    const auto figures = keyFigures(*dive_, desktop_);
+    profile_->setProfile(profileDiveOf(*dive_), ProfileStyle::read(desktop_.preferences),
+                         profileTitle(dive_->noPlongee));
+    const auto figures = keyFigures(*dive_, *form_);
     for (std::size_t place = 0; place < figures.size(); ++place) {
         // What cannot be known says why in the place of the figure.
         const bool isKnown = !figures[place].text.isNull();
         QLabel* value = figures_[place];
         value->setText(isKnown ? figures[place].text : figures[place].explanation);
         value->setForegroundRole(isKnown ? QPalette::WindowText : QPalette::PlaceholderText);
-        value->setToolTip(isKnown ? figures[place].explanation : QString());
-        value->setAccessibleDescription(value->toolTip());
-        captions_[place]->setToolTip(value->toolTip());
+        value->setToolTip(figures[place].explanation);
+        value->setAccessibleDescription(figures[place].explanation);
+        captions_[place]->setToolTip(figures[place].explanation);
     }
     notes_->setPlainText(dive_->notes);
 }

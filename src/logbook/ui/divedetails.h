@@ -2,10 +2,10 @@
 
 #include "desktop/notificationcentre.h"
 #include "dives/plongee.h"
-#include "drawing/drawing.h"
 
 #include <QWidget>
 
+#include <memory>
 #include <vector>
 
 class QLabel;
@@ -14,6 +14,8 @@ class QStackedLayout;
 
 namespace tavrel {
 
+class DiveForm;
+class ProfileView;
 struct Desktop;
 
 /// A dive at a glance, below the table of a logbook: its profile, its key figures, its notes.
@@ -22,30 +24,31 @@ class DiveDetails : public QWidget {
 
 public:
     explicit DiveDetails(Desktop& desktop, QWidget* parent = nullptr);
+    ~DiveDetails() override;
 
-    /// The dive from now on; none (null) shows what to do for one. Shown at once when the pane is in sight, else when
+    /// The dive from now on; none (null) tells how to come to one. Shown at once when the pane is in sight, else when
     /// it comes to be.
     void setDive(DivePointer dive);
     const DivePointer& dive() const { return dive_; }
-    const Drawing& profile() const;
+    ProfileView& profile() { return *profile_; }
 
     QSize sizeHint() const override { return {1000, 260}; }
-    QSize minimumSizeHint() const override { return {400, 120}; }
 
 protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    class Picture;
-
-    void addFigures();
+    QWidget* newFigures();
+    void showSample();
     void refresh();
 
     Desktop& desktop_;
     DivePointer dive_;
     bool outdated_ = true;
+    std::unique_ptr<DiveForm> form_;  ///< reads the dive as the form would
     QStackedLayout* pages_;
-    Picture* picture_;
+    ProfileView* profile_;
+    QLabel* sample_;
     std::vector<QLabel*> captions_;
     std::vector<QLabel*> figures_;
     QPlainTextEdit* notes_;

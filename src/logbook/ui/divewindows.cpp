@@ -4,39 +4,44 @@
 #include "book/ui/bookeditwindow.h"
 #include "book/ui/cardwindow.h"
 #include "desktop/desktop.h"
-#include "dives/consumption.h"
 #include "dives/divecard.h"
-#include "dives/divespan.h"
 #include "dives/ui/cardchoice.h"
 #include "dives/ui/consumptionsheet.h"
+#include "dives/ui/previoustotalswindow.h"
 #include "dives/ui/statisticswindow.h"
-#include "logbook/carnet.h"
 #include "logbook/ui/logbookwindow.h"
 
 namespace tavrel {
 
 DiveWindows::DiveWindows(Carnet& carnet, LogbookWindow& window, Desktop& desktop)
     : QObject(&window), carnet_(carnet), window_(window), desktop_(desktop) {
-    window.provideCommand(QStringLiteral("statistics"), [this] { statisticsWindow().showStatisticsWindow(); });
-    window.provideCommand(QStringLiteral("synthese"), [this] { divesForSynthesisWindow(); });
+    addCommands();
     connect(&carnet.form(), &DiveForm::consumptionRequested, this, &DiveWindows::consommation);
-    const auto updateStatistics = [this] {
-        if (statistics_) {
-            statistics_->updateStatistics();
-        }
-    };
-    connect(&carnet, &Carnet::listChanged, this, updateStatistics);
-    connect(&carnet, &Carnet::selectionChanged, this, updateStatistics);
-    const auto refill = [this] {
-        if (card_ && card_->isVisible()) {
-            fillSynthesisWindow();
-        }
-    };
-    connect(&carnet, &Carnet::listChanged, this, refill);
-    connect(&carnet, &Carnet::synthesisRefillRequested, this, refill);
+    connect(&carnet, &Carnet::listChanged, this, &DiveWindows::scheduleRefresh);
+    connect(&carnet, &Carnet::selectionChanged, this, &DiveWindows::scheduleRefresh);
+    connect(&carnet, &Carnet::searched, this, &DiveWindows::scheduleRefresh);
+    connect(&carnet, &Carnet::synthesisRefillRequested, this, &DiveWindows::scheduleRefresh);
 }
 
 DiveWindows::~DiveWindows() = default;
+
+void DiveWindows::addCommands() {
+    window_.provideCommand(QStringLiteral("statistics"), [this] { statisticsWindow().showStatisticsWindow(); });
+    const auto add = [this](const char* name, const Title& title, const char* icon, BookActions::Rule rule,
+                            std::function<void()> run) {
+        commands_.append(window_.actions().add(QLatin1StringView(name), title.text(), icon, {}, rule, std::move(run)));
+    };
+    add("displayGraphesWindow", {"Carnet", "Menu graphs"}, "statistics", BookActions::withRecords,
+        [this] { statisticsWindow().displayGraphesWindow(); });
+    add("showEditStatisticsWindow", {"Carnet", "Menu previous dives"}, "", BookActions::always,
+        [this] { statisticsWindow().previousTotals().showEditStatisticsWindow(); });
+    add("consommation", {"Carnet", "Menu consumption"}, "", BookActions::withSelection, [this] {
+        if (!window_.editWindow().isVisible()) {
+            carnet_.editWindow();
+        }
+        consommation();
+    });
+}
 
 std::vector<const Plongee*> DiveWindows::dives(DiveChoice choice) const {
     std::vector<const Plongee*> chosen;
@@ -47,12 +52,12 @@ std::vector<const Plongee*> DiveWindows::dives(DiveChoice choice) const {
             return divesIn(carnet_.foundRecords());
         case DiveChoice::selected:
             for (const int row : carnet_.selectedRows()) {
-                chosen.push_back(carnet_.recordAt(row).get());
+                chosen.push_back(&carnet_.record(row));
             }
             break;
         case DiveChoice::current:
-            if (const auto dive = carnet_.recordAt(carnet_.currentIndex())) {
-                chosen.push_back(dive.get());
+            if (const int row = carnet_.currentIndex(); row >= 0 && row < carnet_.count()) {
+                chosen.push_back(&carnet_.record(row));
             }
             break;
     }
@@ -70,12 +75,16 @@ StatisticsWindow& DiveWindows::statisticsWindow() {
     return *statistics_;
 }
 
-void DiveWindows::divesForSynthesisWindow() {
+CardChoice& DiveWindows::cardChoice() {
     if (!choice_) {
         choice_ = new CardChoice(
             source(), [this](DiveChoice choice) { syntheseWindow(choice); }, &window_);
     }
-    choice_->divesForSynthesisWindow();
+    return *choice_;
+}
+
+void DiveWindows::divesForSynthesisWindow() {
+    cardChoice().divesForSynthesisWindow();
 }
 
 CardWindow& DiveWindows::cardWindow() {
@@ -97,22 +106,44 @@ void DiveWindows::fillSynthesisWindow() {
                          diveCard(dives(shown_), desktop_.preferences));
 }
 
-void DiveWindows::consommation() {
-    QWidget& edit = window_.editWindow();
+ConsumptionSheet& DiveWindows::consumptionSheet() {
     if (!consumption_) {
-        consumption_ = new ConsumptionSheet(desktop_, Carnet::defaultPrintingSettings(false), &edit);
+        consumption_ = new ConsumptionSheet(desktop_, Carnet::defaultPrintingSettings(false), &window_.editWindow());
     }
-    consumption_->consommation(carnet_.form().gasReadings(), edit.windowTitle());
+    return *consumption_;
+}
+
+void DiveWindows::consommation() {
+    consumptionSheet().consommation(carnet_.form().gasReadings(), window_.editWindow().windowTitle());
+}
+
+void DiveWindows::scheduleRefresh() {
+    // One step of the user's changes list, selection and form; the windows follow once.
+    if (!refreshScheduled_) {
+        refreshScheduled_ = true;
+        QMetaObject::invokeMethod(this, &DiveWindows::refresh, Qt::QueuedConnection);
+    }
+}
+
+void DiveWindows::refresh() {
+    refreshScheduled_ = false;
+    if (statistics_) {
+        statistics_->updateStatistics();
+    }
+    if (card_ && card_->isVisible()) {
+        fillSynthesisWindow();
+    }
 }
 
 QList<QWidget*> DiveWindows::windows() const {
-    QList<QWidget*> windows;
-    for (QWidget* each : {static_cast<QWidget*>(statistics_.get()), static_cast<QWidget*>(card_.get())}) {
-        if (each) {
-            windows.append(each);
-        }
+    QList<QWidget*> made;
+    if (statistics_) {
+        made.append(statistics_.get());
     }
-    return windows;
+    if (card_) {
+        made.append(card_.get());
+    }
+    return made;
 }
 
 }  // namespace tavrel
