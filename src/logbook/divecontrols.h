@@ -400,11 +400,11 @@ struct DiveControls : ControlTable<DiveControls> {
                                                                 .label = {"Carnet", "Label end pressure"},
                                                                 .unit = literal("bar"),
                                                                 .clearedText = "0"});
-    const std::array<Id, 3> pony_Progress = addEach<3>(
-        ponies, {.name = "gaz%Progress", .kind = ControlKind::gauge, .label = {"Carnet", "Label gauge"}, .width = 12});
     const std::array<Id, 3> pony_ConsoField = addEach<3>(
         ponies,
         {.name = "consoPony_%Field", .kind = ControlKind::readOnly, .label = {"Carnet", "Consumption"}, .width = 24});
+    const std::array<Id, 3> pony_Progress =
+        addEach<3>(ponies, {.name = "gaz%Progress", .kind = ControlKind::gauge, .width = 10, .beside = true});
 
     const int bailoutsGroup = group({5, {"Carnet", "Group bail-outs"}, GroupLayout::columns});
     const std::array<Id, 2> bailout_VolumeField = addEach<2>(bailouts, {.name = "bailout_%_VolumeField",
@@ -437,13 +437,12 @@ struct DiveControls : ControlTable<DiveControls> {
                                                                     .label = {"Carnet", "Label helium"},
                                                                     .unit = literal("%"),
                                                                     .clearedText = "0"});
-    const std::array<Id, 2> bailout_Progress = addEach<2>(
-        bailouts,
-        {.name = "gazBailout%Progress", .kind = ControlKind::gauge, .label = {"Carnet", "Label gauge"}, .width = 12});
     const std::array<Id, 2> bailout_ConsoField = addEach<2>(bailouts, {.name = "consoBailout_%Field",
                                                                        .kind = ControlKind::readOnly,
                                                                        .label = {"Carnet", "Consumption"},
                                                                        .width = 24});
+    const std::array<Id, 2> bailout_Progress =
+        addEach<2>(bailouts, {.name = "gazBailout%Progress", .kind = ControlKind::gauge, .width = 10, .beside = true});
 
     const int computerGroup = group({5, {"Carnet", "Group computer"}, GroupLayout::pairs, 1, 1});
     const Id fabricantField = add({.name = "fabricantField", .field = "fabricant", .label = {"Carnet", "Label maker"}});

@@ -201,7 +201,6 @@
 <message><source>Label end pressure</source><translation>End pressure</translation></message>
 <message><source>Label flow</source><translation>Flow</translation></message>
 <message><source>Label gas</source><translation>Gas</translation></message>
-<message><source>Label gauge</source><translation>Left</translation></message>
 <message><source>Label helium</source><translation>Helium</translation></message>
 <message><source>Label high GF</source><translation>High GF</translation></message>
 <message><source>Label immersion</source><translation>Time in</translation></message>

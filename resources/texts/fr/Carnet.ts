@@ -201,7 +201,6 @@
 <message><source>Label end pressure</source><translation>Pression de fin</translation></message>
 <message><source>Label flow</source><translation>Débit</translation></message>
 <message><source>Label gas</source><translation>Gaz</translation></message>
-<message><source>Label gauge</source><translation>Reste</translation></message>
 <message><source>Label helium</source><translation>Hélium</translation></message>
 <message><source>Label high GF</source><translation>GF haut</translation></message>
 <message><source>Label immersion</source><translation>Heure d’immersion</translation></message>

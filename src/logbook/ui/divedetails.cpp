@@ -51,9 +51,9 @@ DiveDetails::DiveDetails(Desktop& desktop, QWidget* parent)
     auto* columns = new QHBoxLayout(page);
     columns->setContentsMargins(8, 6, 8, 6);
     columns->setSpacing(16);
-    columns->addLayout(picture, 4);
+    columns->addLayout(picture, 3);
     columns->addWidget(newFigures(), 4);
-    columns->addWidget(notes_, 3);
+    columns->addWidget(notes_, 4);
     pages_->addWidget(page);
     for (const Notification name :
          {Notification::profile, Notification::updateTableView, Notification::updateEditDive}) {
@@ -110,8 +110,8 @@ void DiveDetails::showEvent(QShowEvent* event) {
 }
 
 void DiveDetails::showSample() {
-    sample_->setText(profile_->markedSample() ? profile_->markedWords() : profile_->drawing().description);
-    sample_->setToolTip(sample_->text());
+    const bool hasProfile = dive_ && dive_->hasProfile();
+    sample_->setText(hasProfile ? profile_->markedWords() : profile_->drawing().description);
 }
 
 void DiveDetails::refresh() {

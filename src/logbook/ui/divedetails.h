@@ -32,7 +32,7 @@ public:
     const DivePointer& dive() const { return dive_; }
     ProfileView& profile() { return *profile_; }
 
-    QSize sizeHint() const override { return {1000, 260}; }
+    QSize sizeHint() const override { return {1000, 310}; }
 
 protected:
     void showEvent(QShowEvent* event) override;

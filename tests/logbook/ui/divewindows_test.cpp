@@ -114,7 +114,7 @@ TEST_F(DiveWindowsTest, consumptionIsThatOfTheForm) {
     ConsumptionSheet& sheet = window->diveWindows().consumptionSheet();
     EXPECT_TRUE(sheet.isVisible());
     EXPECT_TRUE(window->editWindow().isVisible());
-    EXPECT_EQ(sheet.windowTitle(), u"Gas consumption: Dive no. 2");
+    EXPECT_EQ(sheet.windowTitle(), u"Gas consumption: Dive no.\u00a02");
     const auto report = [&] { return sheet.findChild<QLabel*>(QStringLiteral("consoField"))->text(); };
     EXPECT_TRUE(report().startsWith(u"Gas available: 0 L\n"));
     sheet.endConsoSheet();
@@ -162,6 +162,7 @@ TEST_F(DiveWindowsTest, detailsStayAsTheUserHasThem) {
     auto* panes = window->findChild<QSplitter*>(QStringLiteral("panes"));
     panes->setSizes({200, 400});
     const int height = window->details().height();
+    window.reset();
     window = newWindow();
     window->resize(900, 700);
     window->show();
@@ -170,6 +171,7 @@ TEST_F(DiveWindowsTest, detailsStayAsTheUserHasThem) {
     EXPECT_TRUE(window->viewActions().contains(&detailsAction()));
     detailsAction().trigger();
     EXPECT_FALSE(window->details().isVisible());
+    window.reset();
     window = newWindow();
     window->show();
     EXPECT_FALSE(window->details().isVisible());
