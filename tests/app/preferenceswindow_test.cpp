@@ -327,7 +327,8 @@ TEST_F(PreferencesTest, theResetSaysWhatItChanges) {
         return desktop.alerts.questions.back().message.split(u'\n');
     };
     EXPECT_TRUE(question().contains(QStringLiteral("New dives – Tank volume: – → 15 l")));
-    EXPECT_TRUE(question().contains(QStringLiteral("Profile – Line: #ff0000 → #ff8000"))) << "red, then orange";
+    EXPECT_TRUE(question().contains(QStringLiteral("Depth and time – Depths: #0000ff → #800080")))
+        << "blue, then purple";
     EXPECT_FALSE(question().join(u' ').contains(u"Show units in")) << "it is on and stays on";
     EXPECT_TRUE(question().last().startsWith(u"and ")) << "the list is cut to fit the screen";
     window().resetPreferences();

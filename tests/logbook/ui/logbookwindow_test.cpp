@@ -43,8 +43,12 @@ TEST(ConvertUnitsWindow, showsWhatBecomesOfTheDivesBeforeItConvertsThem) {
     TestDesktop desktop;
     Carnet carnet(desktop.desktop());
     LogbookWindow window(carnet, desktop.desktop());
-    carnet.appendDives(QStringLiteral("Add"),
-                       {{.noPlongee = 5, .profondeur = 100, .tempEau = -50}, {.altitude = 1500}});
+    std::vector<Plongee> dives(2);
+    dives[0].noPlongee = 5;
+    dives[0].profondeur = 100;
+    dives[0].tempEau = -50;
+    dives[1].altitude = 1500;
+    carnet.appendDives(QStringLiteral("Add"), std::move(dives));
     desktop.preferences.set(QStringLiteral("us units"), false);
     ConvertUnitsWindow dialog(carnet, &window);
     const auto* preview = dialog.findChild<QTableWidget*>(QStringLiteral("preview"));
