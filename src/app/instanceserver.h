@@ -14,11 +14,23 @@ class InstanceServer : public QObject {
     Q_OBJECT
 
 public:
-    /// The socket's path; empty: the one of the user.
-    explicit InstanceServer(const QString& socket = {});
+    /// How long to wait, in milliseconds.
+    struct Patience {
+        int forConnection = 3000;  ///< also for another start to be over
+        int forAnswer = 30'000;    ///< of a program that runs, but may be at work
+    };
 
-    /// Hands the files, as absolute paths, to the program that runs already; says whether one took them.
-    bool handOver(const QStringList& files);
+    /// The socket's path; empty: the one of the user. Something else than a socket that bears the name stays there, and
+    /// the socket gets another one.
+    explicit InstanceServer(const QString& socket = {}, Patience patience = {});
+
+    enum class HandedOver {
+        taken,
+        toNobody,  ///< no other program runs
+        busy,      ///< one runs and does not answer
+    };
+    /// Hands the files, as absolute paths, to the program that runs already.
+    HandedOver handOver(const QStringList& files);
     /// Takes the place of the one that runs; fails when another program was quicker. A place left behind by one that
     /// died is taken over.
     bool listen();
@@ -31,6 +43,7 @@ private:
     void receive();
 
     QString socket_;
+    Patience patience_;
     QLocalServer server_;
 };
 

@@ -52,8 +52,13 @@ bool hasOpenDialog(DocumentWindow& window) {
 
 }  // namespace
 
-MyDocumentController::MyDocumentController(Desktop& desktop, FileDialogs& fileDialogs, DocumentTypes types)
-    : desktop_(desktop), fileDialogs_(fileDialogs), types_(std::move(types)), recentDocuments_(desktop.preferences) {}
+MyDocumentController::MyDocumentController(Desktop& desktop, FileDialogs& fileDialogs, DocumentTypes types,
+                                           const QString& journals)
+    : desktop_(desktop),
+      fileDialogs_(fileDialogs),
+      types_(std::move(types)),
+      recentDocuments_(desktop.preferences),
+      journals_(journals) {}
 
 MyDocumentController::~MyDocumentController() = default;
 
@@ -92,11 +97,15 @@ void MyDocumentController::newDocumentOfType(const DocumentType& type) {
 DocumentWindow* MyDocumentController::addWindow(const DocumentType& type, std::unique_ptr<Document> document) {
     auto window = type.makeWindow(*document, desktop_);
     DocumentWindow* added = window.get();
-    open_.push_back({&type, std::move(document), std::move(window)});
+    auto journal = std::make_unique<Journal>(journals_, *document, QString::fromLatin1(type.recordClass));
+    open_.push_back({&type, std::move(document), std::move(window), std::move(journal)});
     connect(added, &DocumentWindow::closeRequested, this, [this, added] { closeDocument(*added); });
     connect(added, &DocumentWindow::filesDropped, this, &MyDocumentController::openFiles);
     connect(added, &DocumentWindow::saveRequested, this, [this, added] { saveDocument(*added); });
     connect(&added->document(), &Document::fileChanged, this, &MyDocumentController::windowsChanged);
+    connect(&added->document(), &Document::stateOnDiskChanged, added,
+            [this, added](FileIdentity::State state) { tellStateOnDisk(*added, state); });
+    added->document().watchFile();
     Q_EMIT windowOpened(added);
     bringToFront(added);
     Q_EMIT windowsChanged();
@@ -134,6 +143,9 @@ Expected<DocumentWindow*> MyDocumentController::open(const QString& file) {
         return tl::unexpected(type.error());
     }
     auto document = (*type)->makeDocument(desktop_);
+    if (!claim(*document, file)) {
+        return nullptr;
+    }
     const auto opened = withProgress(*document, QApplication::activeWindow(), Title("Main", "Loading"),
                                      [&] { return document->open(file); });
     if (!opened) {
@@ -233,10 +245,17 @@ bool MyDocumentController::isTaken(const QString& file, const DocumentWindow& wi
 }
 
 bool MyDocumentController::saveDocument(DocumentWindow& window) {
-    if (window.document().file().isEmpty()) {
+    Document& document = window.document();
+    if (document.file().isEmpty() || document.isReadOnly()) {
         return saveDocumentAs(window);
     }
-    return window.leaveEditing(Settling::saving) && succeeded(window.document().save());
+    if (!window.leaveEditing(Settling::saving)) {
+        return false;
+    }
+    if (const auto state = document.stateOnDisk(); state != FileIdentity::State::same) {
+        return saveOverChange(window, state);
+    }
+    return succeeded(document.save());
 }
 
 bool MyDocumentController::saveDocumentAs(DocumentWindow& window) {
@@ -254,6 +273,9 @@ bool MyDocumentController::saveDocumentAs(DocumentWindow& window) {
     if (isTaken(chosen->file, window) || !succeeded(document.saveAs(chosen->file))) {
         return false;
     }
+    window.messageBar().tell({});
+    // Whoever has it open otherwise was written over by the user's choice.
+    static_cast<void>(document.claimFile(document.file()));
     recentDocuments_.note(document.file());
     return true;
 }
@@ -269,6 +291,18 @@ bool MyDocumentController::revertDocument(DocumentWindow& window) {
         return false;
     }
     const auto reverted = withProgress(document, &window, Title("Main", "Loading"), [&] { return document.revert(); });
+    return reverted && succeeded(*reverted);
+}
+
+bool MyDocumentController::revertToBackup(DocumentWindow& window) {
+    Document& document = window.document();
+    const QString question = textWith("Main", "Revert to backup question", document.displayName());
+    desktop_.alerts.beep();
+    if (desktop_.alerts.ask(question, {text("Main", "Revert"), text("Main", "Cancel")}) != 0) {
+        return false;
+    }
+    const auto reverted =
+        withProgress(document, &window, Title("Main", "Loading"), [&] { return document.revertToBackup(); });
     return reverted && succeeded(*reverted);
 }
 
@@ -362,6 +396,8 @@ void MyDocumentController::removeWindow(DocumentWindow& window) {
     if (untouched_ == &window) {
         untouched_ = nullptr;
     }
+    closed.journal->drop();
+    closed.journal.reset();
     closed.window->closeWithDocument();
     // The window may be in the middle of the event that closes it, so it goes later, before its document.
     closed.window.release()->deleteLater();

@@ -3,6 +3,7 @@
 #include "app/documenttypes.h"
 #include "app/recentdocuments.h"
 #include "desktop/ui/filedialogs.h"
+#include "documents/journal.h"
 
 #include <QObject>
 #include <QSet>
@@ -21,7 +22,8 @@ class MyDocumentController : public QObject {
     Q_OBJECT
 
 public:
-    MyDocumentController(Desktop& desktop, FileDialogs& fileDialogs, DocumentTypes types);
+    /// What is unsaved is kept within the folder journals; without one nothing is.
+    MyDocumentController(Desktop& desktop, FileDialogs& fileDialogs, DocumentTypes types, const QString& journals = {});
     ~MyDocumentController() override;
 
     const DocumentTypes& types() const { return types_; }
@@ -49,10 +51,17 @@ public:
     /// Start with files, or without: leaves at least one window open.
     void launch(const QStringList& files);
 
+    /// Offers what an earlier run of the program that ended suddenly had not saved.
+    void offerUnsaved();
+    /// Keeps what is unsaved for the next start, now: the program is about to end without asking anyone.
+    void keepUnsaved();
+
     // Each says whether it came to its end; a cancel or a failure stops it.
     bool saveDocument(DocumentWindow& window);
     bool saveDocumentAs(DocumentWindow& window);
     bool revertDocument(DocumentWindow& window);
+    /// Puts the contents back that the file had before this program first wrote it.
+    bool revertToBackup(DocumentWindow& window);
     bool exportDocument(DocumentWindow& window);
     /// Asks about unsaved changes first.
     bool closeDocument(DocumentWindow& window);
@@ -76,6 +85,7 @@ private:
         const DocumentType* type;
         std::unique_ptr<Document> document;
         std::unique_ptr<DocumentWindow> window;
+        std::unique_ptr<Journal> journal;
     };
 
     /// Null without a failure when the user cancelled.
@@ -89,12 +99,19 @@ private:
     void discardUntouched();
     bool mayClose(DocumentWindow& window);
     bool mayLoseChanges(DocumentWindow& window);
+    bool restore(const Unsaved& unsaved);
+    /// Asks what to do about a program that has the file open; false when the user would rather not open it.
+    bool claim(Document& document, const QString& file);
+    /// Asks what to do about a file that another program changed or removed.
+    bool saveOverChange(DocumentWindow& window, FileIdentity::State state);
+    void tellStateOnDisk(DocumentWindow& window, FileIdentity::State state);
     bool succeeded(const Expected<void>& result);
 
     Desktop& desktop_;
     FileDialogs& fileDialogs_;
     DocumentTypes types_;
     RecentDocuments recentDocuments_;
+    JournalFolder journals_;
     QString defaultType_;
     std::vector<OpenDocument> open_;
     DocumentWindow* untouched_ = nullptr;  ///< the untitled document of a start, until something else is opened

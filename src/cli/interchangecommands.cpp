@@ -21,6 +21,7 @@ struct Arguments {
     std::string file;
     std::string other;  ///< what is imported, or written
     std::string format;
+    bool force = false;
 };
 
 using Reader = Expected<ImportResult> (*)(Carnet&, const QString&, const Progress&);
@@ -33,13 +34,13 @@ const std::map<std::string, Reader>& readers() {
 }
 
 /// Saves the dives that came in also when one of them stopped the import; the stop still is a failure.
-Expected<void> importInto(Carnet& carnet, const Arguments& arguments, Console& console) {
+Expected<void> importInto(Session& session, Carnet& carnet, const Arguments& arguments, Console& console) {
     const auto result = readers().at(arguments.format)(carnet, pathArgument(arguments.other), {});
     if (!result) {
         return tl::unexpected(result.error());
     }
     if (result->taken > 0) {
-        if (auto saved = carnet.save(); !saved) {
+        if (auto saved = session.save(); !saved) {
             return saved;
         }
         console.fileSaved = true;
@@ -65,11 +66,13 @@ Expected<void> exportFrom(Carnet& carnet, const Arguments& arguments, Console& c
 }
 
 template <class Work>
-void withLogbook(const Arguments& arguments, Console& console, Work work) {
+void withLogbook(const Arguments& arguments, Console& console, Expected<void> (Session::*open)(const QString&),
+                 Work work) {
     Session session(console);
-    const auto done = session.open(pathArgument(arguments.file))
+    session.byForce = arguments.force;
+    const auto done = (session.*open)(pathArgument(arguments.file))
                           .and_then([&] { return session.logbook(); })
-                          .and_then([&](Carnet* carnet) { return work(*carnet); });
+                          .and_then([&](Carnet* carnet) { return work(session, *carnet); });
     if (!done) {
         fail(console, done.error());
     }
@@ -89,10 +92,12 @@ void addInterchangeCommands(CLI::App& app, Console& console) {
         "are kept and saved, the reason is told, and the exit code is 1.");
     addFile(importing);
     importing->add_option("SOURCE", arguments->other, "The file with the dives")->required();
+    importing->add_flag("--force", arguments->force, forceHelp);
     importing->add_option("--format", arguments->format, "What SOURCE is; told by its contents when not given")
         ->check(CLI::IsMember({"udcf", "uddf", "handheld"}));
     importing->callback([arguments, &console] {
-        withLogbook(*arguments, console, [&](Carnet& carnet) { return importInto(carnet, *arguments, console); });
+        withLogbook(*arguments, console, &Session::openToChange,
+                    [&](Session& session, Carnet& carnet) { return importInto(session, carnet, *arguments, console); });
     });
 
     std::vector<std::string> formats;
@@ -105,7 +110,8 @@ void addInterchangeCommands(CLI::App& app, Console& console) {
     exporting->add_option("TARGET", arguments->other, "The file to write; - is the standard output")->required();
     exporting->add_option("--format", arguments->format, "The format")->required()->check(CLI::IsMember(formats));
     exporting->callback([arguments, &console] {
-        withLogbook(*arguments, console, [&](Carnet& carnet) { return exportFrom(carnet, *arguments, console); });
+        withLogbook(*arguments, console, &Session::open,
+                    [&](Session&, Carnet& carnet) { return exportFrom(carnet, *arguments, console); });
     });
 }
 

@@ -9,6 +9,7 @@
 #include <QDropEvent>
 #include <QFile>
 #include <QMimeData>
+#include <QTest>
 #include <QUrl>
 #include <gtest/gtest.h>
 
@@ -264,6 +265,101 @@ TEST_F(Documents, openWhenDroppedOnAWindow) {
     QApplication::sendEvent(app.frontWindow(), &drop);
     QApplication::processEvents();
     EXPECT_EQ(names(), (QStringList{QStringLiteral("Untitled"), QStringLiteral("dives #1.carnet")}));
+}
+
+TEST_F(Documents, askBeforeTheySaveOverWhatAnotherProgramWrote) {
+    const QString file = app.savedLogbook(QStringLiteral("dives.carnet"), 2);
+    const QByteArray theirs = contents(app.savedLogbook(QStringLiteral("others.carnet"), 5));
+    DocumentWindow* window = app.documents.openFile(file);
+    const auto countAfter = [&](int answer) {
+        app.frontCarnet().addDive();
+        write(file, theirs);
+        app.alerts.clear();
+        app.alerts.answerNext(answer);
+        const bool saved = app.documents.saveDocument(*window);
+        EXPECT_EQ(app.alerts.questions.size(), 1U);
+        EXPECT_EQ(app.alerts.questions[0].buttons, (QStringList{QStringLiteral("Overwrite"), QStringLiteral("Save As…"),
+                                                                QStringLiteral("Reload"), QStringLiteral("Cancel")}));
+        return std::pair(saved, app.frontCarnet().count());
+    };
+    enum { overwrite, saveElsewhere, reload, leave };
+    EXPECT_EQ(countAfter(leave), std::pair(false, 3));
+    EXPECT_EQ(contents(file), theirs);
+    EXPECT_EQ(countAfter(reload), std::pair(false, 5));
+    EXPECT_FALSE(window->document().isChanged());
+    EXPECT_EQ(countAfter(overwrite), std::pair(true, 6));
+    EXPECT_NE(contents(file), theirs);
+    const QString elsewhere = app.path(QStringLiteral("elsewhere.carnet"));
+    app.fileDialogs.save = {{elsewhere}};
+    EXPECT_EQ(countAfter(saveElsewhere), std::pair(true, 7));
+    EXPECT_EQ(window->document().file(), elsewhere);
+    EXPECT_EQ(contents(file), theirs);
+
+    ASSERT_TRUE(QFile::remove(elsewhere));
+    app.alerts.clear();
+    app.alerts.answerNext(0);
+    EXPECT_TRUE(app.documents.saveDocument(*window));
+    EXPECT_EQ(app.alerts.questions[0].buttons.size(), 3) << "there is nothing to reload";
+    EXPECT_TRUE(QFile::exists(elsewhere));
+}
+
+TEST_F(Documents, tellInTheirWindowWhatAnotherProgramDoes) {
+    const QString file = app.savedLogbook(QStringLiteral("dives.carnet"), 2);
+    const QByteArray theirs = contents(app.savedLogbook(QStringLiteral("others.carnet"), 5));
+    DocumentWindow* window = app.documents.openFile(file);
+    MessageBar& bar = window->messageBar();
+    EXPECT_TRUE(bar.isHidden());
+    write(file, theirs);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !bar.isHidden(); }));
+    EXPECT_EQ(bar.message(), u"Another program has changed the file.");
+    bar.findChild<QAction*>(QStringLiteral("messageCommand"))->trigger();
+    EXPECT_EQ(app.frontCarnet().count(), 5);
+    EXPECT_TRUE(bar.isHidden());
+    ASSERT_TRUE(QFile::remove(file));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !bar.isHidden(); }));
+    EXPECT_EQ(bar.message(), u"Another program has removed or renamed the file.");
+    EXPECT_TRUE(app.alerts.questions.empty() && app.alerts.failures.empty());
+}
+
+TEST_F(Documents, thatAnotherProgramHasOpenAreOpenedToBeLookedAt) {
+    const QString file = app.savedLogbook(QStringLiteral("dives.carnet"), 2);
+    FileLock other(file);
+    ASSERT_FALSE(other.take({}));
+    enum { readOnly, anyway, leave };
+    app.alerts.answerNext(leave);
+    EXPECT_FALSE(app.documents.openFile(file));
+    EXPECT_TRUE(app.alerts.questions[0].message.contains(u"dives.carnet"));
+    app.alerts.answerNext(readOnly);
+    DocumentWindow* window = app.documents.openFile(file);
+    ASSERT_TRUE(window);
+    EXPECT_EQ(window->windowTitle(), u"dives.carnet (read-only)[*]");
+    const QByteArray before = contents(file);
+    app.frontCarnet().addDive();
+    EXPECT_FALSE(app.documents.saveDocument(*window));
+    EXPECT_EQ(app.fileDialogs.proposed, file) << "it is saved elsewhere";
+    EXPECT_EQ(contents(file), before);
+    app.fileDialogs.save = {{app.path(QStringLiteral("copy.carnet"))}};
+    EXPECT_TRUE(app.documents.saveDocument(*window));
+    EXPECT_EQ(window->windowTitle(), u"copy.carnet[*]");
+    app.alerts.answerNext(anyway);
+    window = app.documents.openFile(file);
+    ASSERT_TRUE(window);
+    app.frontCarnet().addDive();
+    EXPECT_TRUE(app.documents.saveDocument(*window));
+}
+
+TEST_F(Documents, goBackToTheirBackup) {
+    const QString file = app.savedLogbook(QStringLiteral("dives.carnet"), 2);
+    DocumentWindow* window = app.documents.openFile(file);
+    app.frontCarnet().addDive();
+    ASSERT_TRUE(app.documents.saveDocument(*window));
+    app.alerts.answerNext(1);
+    EXPECT_FALSE(app.documents.revertToBackup(*window));
+    EXPECT_EQ(app.frontCarnet().count(), 3);
+    app.alerts.answerNext(0);
+    EXPECT_TRUE(app.documents.revertToBackup(*window));
+    EXPECT_EQ(app.frontCarnet().count(), 2);
+    EXPECT_TRUE(window->document().isChanged());
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "documents/ui/documentwindow.h"
 
 #include "base/paths.h"
+#include "base/texts.h"
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
@@ -9,7 +10,10 @@
 
 namespace tavrel {
 
-DocumentWindow::DocumentWindow(Document& document, Desktop& desktop) : desktop_(desktop), document_(document) {
+DocumentWindow::DocumentWindow(Document& document, Desktop& desktop)
+    : desktop_(desktop), document_(document), messageBar_(new MessageBar(this)) {
+    addToolBar(messageBar_);
+    addToolBarBreak();
     setAcceptDrops(true);
     connect(&document, &Document::fileChanged, this, &DocumentWindow::updateTitle);
     connect(&document, &Document::changedStateChanged, this, &DocumentWindow::updateTitle);
@@ -20,6 +24,9 @@ void DocumentWindow::updateTitle() {
     // A file name may itself hold the marker that stands for the change mark; doubled it stands for itself.
     QString name = document_.displayName();
     name.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+    if (document_.isReadOnly()) {
+        name = textWith("Main", "Read-only title", name);
+    }
     setWindowTitle(name + QStringLiteral("[*]"));
     setWindowModified(document_.isChanged());
 }

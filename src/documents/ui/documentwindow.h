@@ -2,6 +2,7 @@
 
 #include "desktop/desktop.h"
 #include "documents/document.h"
+#include "documents/ui/messagebar.h"
 
 #include <QAction>
 #include <QList>
@@ -27,6 +28,8 @@ public:
     DocumentWindow(Document& document, Desktop& desktop);
 
     Document& document() { return document_; }
+    /// Tells what needs no answer at once.
+    MessageBar& messageBar() { return *messageBar_; }
 
     /// The menu of the document's own commands, as "Dive" in a logbook; null actions are separators.
     virtual QString ownMenuTitle() const { return {}; }
@@ -71,6 +74,7 @@ private:
     void updateTitle();
 
     Document& document_;
+    MessageBar* messageBar_;
     bool mayClose_ = false;
 };
 
