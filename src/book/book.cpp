@@ -15,6 +15,7 @@ BookBase::BookBase(Desktop& desktop, const BookDescription& description)
         titleEditWindow();
         Q_EMIT stateChanged();
     });
+    connect(form_.get(), &BookForm::userEdited, this, &Document::touched);
     connect(this, &ListDocument::selectionChanged, this, &BookBase::followSelection);
     connect(this, &ListDocument::listChanged, this, &BookBase::stateChanged);
     connect(this, &ListDocument::listRestored, this, &BookBase::listIsRestored);
@@ -235,6 +236,25 @@ bool BookBase::leaveForm(Leaving way) {
     }
     updateRecord();
     return true;
+}
+
+std::optional<UnstoredForm> BookBase::unstoredForm() const {
+    if (!hasEntries()) {
+        return std::nullopt;
+    }
+    return UnstoredForm{formShowsSelectedRecord() ? selectedRow() : -1, form_->entries()};
+}
+
+void BookBase::showUnstored(const UnstoredForm& form) {
+    if (form.row >= 0 && form.row < count()) {
+        selectRows({form.row});
+        followSelection();
+    } else {
+        deselectAll();
+        beginBlank();
+    }
+    form_->enterAgain(form.controls);
+    Q_EMIT editWindowRequested();
 }
 
 bool BookBase::closeEditWindow(Leaving way) {

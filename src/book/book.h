@@ -78,6 +78,8 @@ public:
     /// A selection by the user, who may be asked about entries first; false when it is not to come about.
     bool userSelects(const QList<int>& rows);
 
+    void showUnstored(const UnstoredForm& form) override;
+
     // The form.
     void blankFields();
     /// Loads the record at currentIndex into the form.
@@ -122,6 +124,7 @@ protected:
     void listen(Notification name, std::function<void()> handler);
     /// What the form of a new record gets besides its cleared values.
     virtual void proposeNumber() {}
+    std::optional<UnstoredForm> unstoredForm() const override;
     /// The title of the edit window, from what the form shows.
     virtual QString formTitle() const;
 

@@ -2,6 +2,7 @@
 
 #include "base/failure.h"
 #include "desktop/desktop.h"
+#include "documents/unsaved.h"
 #include "forms/formstate.h"
 #include "forms/recordbinding.h"
 
@@ -43,6 +44,10 @@ public:
     void remember();
     /// Whether the user entered something since, that is still there.
     bool hasEntries() const;
+    /// What the controls hold that the user enters into, by name; and entering it once more, in the same form or in
+    /// that of another run of the program, which may know other controls.
+    std::vector<UnstoredForm::Control> entries() const;
+    void enterAgain(const std::vector<UnstoredForm::Control>& entries);
 
     /// At the end of editing a combo box: offers what was typed, or what it holds, to the control's shared list.
     virtual void endEditing(int control, const QString& typed);

@@ -20,7 +20,8 @@ void writeForm(QDataStream& stream, const UnstoredForm& form) {
     stream << qint32(form.row) << static_cast<qint32>(form.controls.size());
     for (const UnstoredForm::Control& control : form.controls) {
         const quint64 date = control.date.isNull() ? 0 : std::bit_cast<quint64>(control.date.secondsSince2001());
-        stream << control.name << control.text << control.tag << !control.date.isNull() << date;
+        stream << control.name << control.text << control.tag << !control.date.isNull() << date << control.image.tiff
+               << control.image.width << control.image.height;
     }
 }
 
@@ -34,7 +35,8 @@ UnstoredForm readForm(QDataStream& stream) {
         UnstoredForm::Control control;
         bool hasDate = false;
         quint64 date = 0;
-        stream >> control.name >> control.text >> control.tag >> hasDate >> date;
+        stream >> control.name >> control.text >> control.tag >> hasDate >> date >> control.image.tiff >>
+            control.image.width >> control.image.height;
         control.date = hasDate ? Date(std::bit_cast<double>(date)) : Date();
         form.controls.push_back(std::move(control));
     }

@@ -2,6 +2,7 @@
 
 #include "base/failure.h"
 #include "records/date.h"
+#include "records/image.h"
 
 #include <QByteArray>
 #include <QByteArrayView>
@@ -21,6 +22,7 @@ struct UnstoredForm {
         QString text;
         qint32 tag = 0;
         Date date;
+        Image image;
     };
 
     int row = -1;  ///< of the record that is edited; -1: of a new one

@@ -362,6 +362,69 @@ TEST_F(Documents, goBackToTheirBackup) {
     EXPECT_TRUE(window->document().isChanged());
 }
 
+/// A run of the program that keeps what is unsaved in a folder that all runs share.
+struct Run {
+    explicit Run(TestApplication& itsApp) : app(itsApp) {}
+    ~Run() = default;
+
+    Carnet& carnet() { return static_cast<Carnet&>(documents.windows().back()->document()); }
+
+    TestApplication& app;
+    MyDocumentController documents{app.desktop(), app.fileDialogs, testDocumentTypes(),
+                                   app.path(QStringLiteral("journal"))};
+};
+
+TEST_F(Documents, bringBackWhatASuddenEndTook) {
+    const QString file = app.savedLogbook(QStringLiteral("dives.carnet"), 2);
+    const QByteArray before = contents(file);
+    {
+        Run run(app);
+        ASSERT_TRUE(run.documents.openFile(file));
+        run.carnet().addDive();
+        run.carnet().newRecord();
+        DiveForm& form = run.carnet().form();
+        form.state().type(form.controls().lieuField.index, QStringLiteral("Bonifacio"));
+        // Asked to end at once, as by a signal; nothing is closed.
+        run.documents.keepUnsaved();
+    }
+    EXPECT_EQ(contents(file), before);
+    enum { restore, discard, leave };
+    {
+        Run run(app);
+        app.alerts.answerNext(leave);
+        run.documents.offerUnsaved();
+        ASSERT_EQ(app.alerts.questions.size(), 1U);
+        EXPECT_TRUE(app.alerts.questions[0].message.contains(u"dives.carnet"));
+        EXPECT_TRUE(app.alerts.questions[0].message.contains(u"3 records and what was being typed"))
+            << app.alerts.questions[0].message.toStdString();
+        EXPECT_TRUE(run.documents.windows().isEmpty());
+    }
+    {
+        Run run(app);
+        ASSERT_TRUE(run.documents.openFile(file));
+        app.alerts.answerNext(restore);
+        run.documents.offerUnsaved();
+        ASSERT_EQ(run.documents.windows().size(), 1);
+        EXPECT_EQ(run.carnet().file(), file);
+        EXPECT_EQ(run.carnet().count(), 3);
+        EXPECT_TRUE(run.carnet().isChanged());
+        EXPECT_TRUE(run.carnet().hasEntries());
+        DiveForm& form = run.carnet().form();
+        EXPECT_EQ(form.state().text(form.controls().lieuField), u"Bonifacio");
+        EXPECT_EQ(contents(file), before);
+        // Another sudden end before anything is saved.
+    }
+    {
+        Run run(app);
+        app.alerts.answerNext(discard);
+        run.documents.offerUnsaved();
+        EXPECT_EQ(app.alerts.questions.size(), 3U);
+        run.documents.offerUnsaved();
+        EXPECT_EQ(app.alerts.questions.size(), 3U) << "once discarded there is nothing to offer";
+    }
+    EXPECT_TRUE(QDir(app.path(QStringLiteral("journal"))).isEmpty());
+}
+
 }  // namespace
 
 }  // namespace tavrel

@@ -38,7 +38,7 @@ public:
     void typeIntoForm(const QString& text) {
         UnstoredForm form;
         form.row = 3;
-        form.controls = {{QStringLiteral("field"), text, 7, Date(12.5)}, {QStringLiteral("none"), {}, -1, {}}};
+        form.controls = {{QStringLiteral("field"), text, 7, Date(12.5), {}}, {QStringLiteral("none"), {}, -1, {}, {}}};
         typed = form;
         Q_EMIT touched();
     }
