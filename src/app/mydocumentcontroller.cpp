@@ -53,12 +53,12 @@ bool hasOpenDialog(DocumentWindow& window) {
 }  // namespace
 
 MyDocumentController::MyDocumentController(Desktop& desktop, FileDialogs& fileDialogs, DocumentTypes types,
-                                           const QString& journals)
+                                           const QString& journals, JournalPace::Times times)
     : desktop_(desktop),
       fileDialogs_(fileDialogs),
       types_(std::move(types)),
       recentDocuments_(desktop.preferences),
-      journals_(journals) {}
+      journals_(journals, times) {}
 
 MyDocumentController::~MyDocumentController() = default;
 

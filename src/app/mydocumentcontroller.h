@@ -23,7 +23,8 @@ class MyDocumentController : public QObject {
 
 public:
     /// What is unsaved is kept within the folder journals; without one nothing is.
-    MyDocumentController(Desktop& desktop, FileDialogs& fileDialogs, DocumentTypes types, const QString& journals = {});
+    MyDocumentController(Desktop& desktop, FileDialogs& fileDialogs, DocumentTypes types, const QString& journals = {},
+                         JournalPace::Times times = {});
     ~MyDocumentController() override;
 
     const DocumentTypes& types() const { return types_; }

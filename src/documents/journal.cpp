@@ -30,7 +30,7 @@ void JournalPace::touch(qint64 now) {
 }
 
 qint64 JournalPace::wait(qint64 now) const {
-    return first_ ? std::max<qint64>(0, std::min(last_ + pause, *first_ + longest) - now) : 0;
+    return first_ ? std::max<qint64>(0, std::min(last_ + times_.pause, *first_ + times_.longest) - now) : 0;
 }
 
 void JournalFolder::Left::discard() {
@@ -41,7 +41,7 @@ void JournalFolder::Left::discard() {
     QDir().rmdir(folder);
 }
 
-JournalFolder::JournalFolder(const QString& parent) : parent_(parent) {
+JournalFolder::JournalFolder(const QString& parent, JournalPace::Times times) : parent_(parent), times_(times) {
     work_.setMaxThreadCount(1);
 }
 
@@ -105,7 +105,7 @@ std::vector<JournalFolder::Left> JournalFolder::left() const {
 }
 
 Journal::Journal(JournalFolder& folder, Document& document, const QString& recordClass)
-    : folder_(folder), document_(document), recordClass_(recordClass) {
+    : folder_(folder), document_(document), recordClass_(recordClass), pace_(folder.times()) {
     timer_.setSingleShot(true);
     connect(&timer_, &QTimer::timeout, this, &Journal::keepWhenDue);
     connect(&document, &Document::touched, this, &Journal::touch);

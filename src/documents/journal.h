@@ -20,8 +20,12 @@ namespace tavrel {
 /// clock that only goes forward.
 class JournalPace {
 public:
-    static constexpr qint64 pause = 2'000;
-    static constexpr qint64 longest = 20'000;
+    struct Times {
+        qint64 pause = 2'000;     ///< after the last key
+        qint64 longest = 20'000;  ///< after the first that is not kept
+    };
+
+    explicit JournalPace(Times times) : times_(times) {}
 
     /// Something was typed or changed.
     void touch(qint64 now);
@@ -32,6 +36,7 @@ public:
     void taken() { first_.reset(); }
 
 private:
+    Times times_;
     std::optional<qint64> first_;
     qint64 last_ = 0;
 };
@@ -51,7 +56,7 @@ public:
     };
 
     /// Within the folder given; nothing is made before it is needed. Without one nothing is kept.
-    explicit JournalFolder(const QString& parent);
+    explicit JournalFolder(const QString& parent, JournalPace::Times times = {});
     ~JournalFolder();
     JournalFolder(const JournalFolder&) = delete;
     JournalFolder& operator=(const JournalFolder&) = delete;
@@ -62,11 +67,13 @@ public:
     std::vector<Left> left() const;
     /// Writing and removing happen one after the other, beside the windows.
     QThreadPool& work() { return work_; }
+    JournalPace::Times times() const { return times_; }
 
 private:
     bool make();
 
     QString parent_;
+    JournalPace::Times times_;
     QString folder_;
     int files_ = 0;
     std::unique_ptr<QLockFile> lock_;
