@@ -145,16 +145,16 @@
 <message><source>One card found</source><translation>1 card found</translation></message>
 <message><source>One intervention</source><translation>One intervention</translation></message>
 <message><source>One revision</source><translation>One service</translation></message>
-<message><source>Open document</source><translation>Open</translation></message>
-<message><source>Page number</source><translation>%d / %d</translation></message>
-<message><source>Page of pages</source><translation>Page %d of %d</translation></message>
-<message><source>Pages</source><translation>Pages of the form</translation></message>
 <message><source>Open anyway</source><translation>Open Anyway</translation></message>
+<message><source>Open document</source><translation>Open</translation></message>
 <message><source>Open document</source><translation>Open</translation></message>
 <message><source>Open elsewhere question</source><translation>“%@” is open in %@.
 Two programs that save the same document undo each other’s changes.</translation></message>
 <message><source>Open read-only</source><translation>Open Read-Only</translation></message>
 <message><source>Overwrite</source><translation>Overwrite</translation></message>
+<message><source>Page number</source><translation>%d / %d</translation></message>
+<message><source>Page of pages</source><translation>Page %d of %d</translation></message>
+<message><source>Pages</source><translation>Pages of the form</translation></message>
 <message><source>Picture cannot be made</source><translation>The picture could not be made.</translation></message>
 <message><source>Picture choose</source><translation>Choose…</translation></message>
 <message><source>Picture copy</source><translation>Copy</translation></message>
@@ -189,9 +189,9 @@ Two programs that save the same document undo each other’s changes.</translati
 <message><source>Restore</source><translation>Restore</translation></message>
 <message><source>Revert</source><translation>Revert</translation></message>
 <message><source>Revert question</source><translation>Revert “%@” to the saved version? Your changes will be lost.</translation></message>
-<message><source>Revisions</source><translation>%d services</translation></message>
 <message><source>Revert to backup question</source><translation>Do you want to go back to what “%@” held before it was first saved in this session or the last?
 Everything entered since is lost, unless you do not save.</translation></message>
+<message><source>Revisions</source><translation>%d services</translation></message>
 <message><source>Save</source><translation>Save</translation></message>
 <message><source>Save changes</source><translation>Save the changes made to “%@”?</translation></message>
 <message><source>Save document as</source><translation>Save as</translation></message>

@@ -145,16 +145,16 @@
 <message><source>One card found</source><translation>1 fiche trouvée</translation></message>
 <message><source>One intervention</source><translation>Une intervention</translation></message>
 <message><source>One revision</source><translation>Une révision</translation></message>
-<message><source>Open document</source><translation>Ouvrir</translation></message>
-<message><source>Page number</source><translation>%d / %d</translation></message>
-<message><source>Page of pages</source><translation>Page %d sur %d</translation></message>
-<message><source>Pages</source><translation>Pages du formulaire</translation></message>
 <message><source>Open anyway</source><translation>Ouvrir quand même</translation></message>
+<message><source>Open document</source><translation>Ouvrir</translation></message>
 <message><source>Open document</source><translation>Ouvrir</translation></message>
 <message><source>Open elsewhere question</source><translation>« %@ » est ouvert dans %@.
 Deux programmes qui enregistrent le même document défont chacun les modifications de l’autre.</translation></message>
 <message><source>Open read-only</source><translation>Ouvrir en lecture seule</translation></message>
 <message><source>Overwrite</source><translation>Remplacer</translation></message>
+<message><source>Page number</source><translation>%d / %d</translation></message>
+<message><source>Page of pages</source><translation>Page %d sur %d</translation></message>
+<message><source>Pages</source><translation>Pages du formulaire</translation></message>
 <message><source>Picture cannot be made</source><translation>L’image n’a pas pu être produite.</translation></message>
 <message><source>Picture choose</source><translation>Choisir…</translation></message>
 <message><source>Picture copy</source><translation>Copier</translation></message>
@@ -189,9 +189,9 @@ Deux programmes qui enregistrent le même document défont chacun les modificati
 <message><source>Restore</source><translation>Restaurer</translation></message>
 <message><source>Revert</source><translation>Revenir</translation></message>
 <message><source>Revert question</source><translation>Revenir à la version enregistrée de « %@ » ? Les modifications seront perdues.</translation></message>
-<message><source>Revisions</source><translation>%d révisions</translation></message>
 <message><source>Revert to backup question</source><translation>Voulez-vous revenir à ce que « %@ » contenait avant son premier enregistrement de cette session ou de la précédente ?
 Tout ce qui a été saisi depuis est perdu, à moins de ne pas enregistrer.</translation></message>
+<message><source>Revisions</source><translation>%d révisions</translation></message>
 <message><source>Save</source><translation>Enregistrer</translation></message>
 <message><source>Save changes</source><translation>Enregistrer les modifications de « %@ » ?</translation></message>
 <message><source>Save document as</source><translation>Enregistrer sous</translation></message>
