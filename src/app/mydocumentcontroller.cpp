@@ -398,6 +398,8 @@ void MyDocumentController::removeWindow(DocumentWindow& window) {
     }
     closed.journal->drop();
     closed.journal.reset();
+    // The document itself goes when the event is over, and its file may be opened again before.
+    closed.document->releaseFile();
     closed.window->closeWithDocument();
     // The window may be in the middle of the event that closes it, so it goes later, before its document.
     closed.window.release()->deleteLater();

@@ -46,7 +46,7 @@ Expected<void> Session::openToChange(const QString& path) {
     Document& document = *book;
     // Commands are soon done; a window may be open for days.
     auto holder = document.claimFile(path, byForce ? std::chrono::milliseconds() : glance);
-    if (holder && !byForce && holder->program == QCoreApplication::applicationName()) {
+    if (holder && !byForce && (holder->program.isEmpty() || holder->program == QCoreApplication::applicationName())) {
         holder = document.claimFile(path, patience);
     }
     if (holder && !byForce) {

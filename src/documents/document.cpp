@@ -127,6 +127,11 @@ std::optional<LockHolder> Document::claimFile(const QString& file, std::chrono::
     return holder;
 }
 
+void Document::releaseFile() {
+    lock_.reset();
+    watch_.reset();
+}
+
 void Document::setReadOnly(bool readOnly) {
     if (std::exchange(readOnly_, readOnly) != readOnly) {
         Q_EMIT fileChanged();

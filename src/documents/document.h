@@ -87,6 +87,8 @@ public:
     /// Tells other programs that a file, which is to be the document's, is open here, until it is closed or another
     /// file takes its place. Who has it open already, waited for that long; nobody when the file could be taken.
     std::optional<LockHolder> claimFile(const QString& file, std::chrono::milliseconds patience = {});
+    /// The document is closed: its file is anyone's.
+    void releaseFile();
     /// Whether the user opened a file to look at it only, because another program has it open. It can be saved
     /// elsewhere.
     bool isReadOnly() const { return readOnly_; }

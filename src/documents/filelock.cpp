@@ -30,11 +30,17 @@ FileLock::FileLock(const QString& file) : file_(lockedFile(file)), lock_(lockNam
 }
 
 std::optional<LockHolder> FileLock::take(std::chrono::milliseconds patience) {
-    if (lock_.tryLock(static_cast<int>(patience.count())) || lock_.error() != QLockFile::LockFailedError) {
-        return std::nullopt;
-    }
+    constexpr int attempts = 10;
     LockHolder holder;
-    lock_.getLockInfo(&holder.process, &holder.host, &holder.program);
+    for (int attempt = 0; attempt < attempts; ++attempt) {
+        if (lock_.tryLock(static_cast<int>(patience.count())) || lock_.error() != QLockFile::LockFailedError) {
+            return std::nullopt;
+        }
+        // A holder may have gone, or not have signed yet, when it is looked at.
+        if (lock_.getLockInfo(&holder.process, &holder.host, &holder.program)) {
+            break;
+        }
+    }
     return holder;
 }
 
