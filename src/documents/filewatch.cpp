@@ -20,8 +20,10 @@ void FileWatch::watch(const QString& file, const FileIdentity& identity) {
     }
     file_ = file;
     identity_ = identity;
-    told_ = FileIdentity::State::same;
     addPaths();
+    if (std::exchange(told_, FileIdentity::State::same) != FileIdentity::State::same) {
+        Q_EMIT stateChanged(told_);
+    }
 }
 
 /// The file, for what is written into it, and its folder, for what takes its place.
