@@ -65,7 +65,7 @@ QString freeName(const QString& name) {
 
 }  // namespace
 
-InstanceServer::InstanceServer(const QString& socket, Patience patience)
+InstanceServer::InstanceServer(const QString& socket, StartPatience patience)
     : socket_(freeName(socket.isEmpty() ? userSocket() : socket)), patience_(patience) {
     server_.setSocketOptions(QLocalServer::UserAccessOption);
     connect(&server_, &QLocalServer::newConnection, this, &InstanceServer::receive);

@@ -9,20 +9,20 @@
 
 namespace tavrel {
 
+/// How long a start waits for other programs, in milliseconds.
+struct StartPatience {
+    int forConnection = 3000;  ///< also for another start to be over
+    int forAnswer = 30'000;    ///< of a program that runs, but may be at work
+};
+
 /// Makes the program run once per user: the first one listens, a later one hands its files over and ends.
 class InstanceServer : public QObject {
     Q_OBJECT
 
 public:
-    /// How long to wait, in milliseconds.
-    struct Patience {
-        int forConnection = 3000;  ///< also for another start to be over
-        int forAnswer = 30'000;    ///< of a program that runs, but may be at work
-    };
-
     /// The socket's path; empty: the one of the user. Something else than a socket that bears the name stays there, and
     /// the socket gets another one.
-    explicit InstanceServer(const QString& socket = {}, Patience patience = {});
+    explicit InstanceServer(const QString& socket = {}, StartPatience patience = {});
 
     enum class HandedOver {
         taken,
@@ -43,7 +43,7 @@ private:
     void receive();
 
     QString socket_;
-    Patience patience_;
+    StartPatience patience_;
     QLocalServer server_;
 };
 

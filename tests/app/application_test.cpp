@@ -137,7 +137,7 @@ TEST(InstanceServer, takesOverAPlaceThatWasLeft) {
 TEST(InstanceServer, isNotHeldUpByWhatIsInItsWay) {
     QTemporaryDir folder;
     const QString socket = folder.filePath(QStringLiteral("socket"));
-    constexpr InstanceServer::Patience brief{50, 50};
+    constexpr StartPatience brief{50, 50};
     // A folder bears the name, and a start that hangs has the lock of the name beside it.
     ASSERT_TRUE(QDir().mkdir(socket));
     const QByteArray lock = QFile::encodeName(socket + QStringLiteral("-2.lock"));
