@@ -4,6 +4,7 @@
 #include "base/texts.h"
 
 #include <QDataStream>
+#include <QIODevice>
 
 #include <bit>
 
