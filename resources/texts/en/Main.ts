@@ -147,7 +147,6 @@
 <message><source>One revision</source><translation>One service</translation></message>
 <message><source>Open anyway</source><translation>Open Anyway</translation></message>
 <message><source>Open document</source><translation>Open</translation></message>
-<message><source>Open document</source><translation>Open</translation></message>
 <message><source>Open elsewhere question</source><translation>“%@” is open in %@.
 Two programs that save the same document undo each other’s changes.</translation></message>
 <message><source>Open read-only</source><translation>Open Read-Only</translation></message>

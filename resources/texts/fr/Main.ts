@@ -147,7 +147,6 @@
 <message><source>One revision</source><translation>Une révision</translation></message>
 <message><source>Open anyway</source><translation>Ouvrir quand même</translation></message>
 <message><source>Open document</source><translation>Ouvrir</translation></message>
-<message><source>Open document</source><translation>Ouvrir</translation></message>
 <message><source>Open elsewhere question</source><translation>« %@ » est ouvert dans %@.
 Deux programmes qui enregistrent le même document défont chacun les modifications de l’autre.</translation></message>
 <message><source>Open read-only</source><translation>Ouvrir en lecture seule</translation></message>
