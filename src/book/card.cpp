@@ -35,7 +35,7 @@ StyledText CardBuilder::finish(const QString& file, const QDateTime& now) {
     const QDateTime moment = now.toOffsetFromUtc(now.offsetFromUtc());
     const int minutes = moment.offsetFromUtc() / 60;
     const QString offset = QStringLiteral("%1%2%3")
-                               .arg(minutes < 0 ? u'-' : u'+')
+                               .arg(QChar(minutes < 0 ? u'-' : u'+'))
                                .arg(std::abs(minutes) / 60, 2, 10, QLatin1Char('0'))
                                .arg(std::abs(minutes) % 60, 2, 10, QLatin1Char('0'));
     card_.append(QStringLiteral("\rFile dir : ") + file, plaincolour::green);

@@ -7,6 +7,7 @@
 #include "calculators/gps.h"
 #include "calculators/gpsreport.h"
 #include "calculators/nitrox.h"
+#include "dives/oxygenclock.h"
 
 #include <CLI/CLI.hpp>
 #include <QRegularExpression>
@@ -167,6 +168,34 @@ void addConversions(CLI::App& calc, Console& console) {
     });
 }
 
+// The oxygen clock.
+
+void addCns(CLI::App& calc, Console& console) {
+    struct Arguments {
+        std::string ppO2;
+        std::string time;
+        bool json = false;
+    };
+    auto arguments = std::make_shared<Arguments>();
+    CLI::App* command = calc.add_subcommand("cns", text("Carnet", "Figure oxygen clock").toStdString());
+    command->add_option("--ppo2", arguments->ppO2, "Oxygen partial pressure, bar")->type_name("NUMBER");
+    command->add_option("--time", arguments->time, "Time, min")->type_name("NUMBER");
+    addJsonFlag(command, arguments->json);
+    command->callback([&console, arguments] {
+        const double ppO2 = doubleValue(fromArgument(arguments->ppO2));
+        const double percent = calculSncClock(ppO2, doubleValue(fromArgument(arguments->time)));
+        if (arguments->json) {
+            JsonWriter json;
+            json.beginObject();
+            json.member(u"cns", percent);
+            json.endObject();
+            print(console, json);
+            return;
+        }
+        print(console, textWith("Carnet", "CNS", ppO2, percent));
+    });
+}
+
 // Positions.
 
 JsonWriter jsonOf(const GeographicPosition& position, const GpsOutput& output, const QStringList* report) {
@@ -299,6 +328,7 @@ void addCalcCommand(CLI::App& app, Console& console) {
         addPage(*calc, page, console);
     }
     addConversions(*calc, console);
+    addCns(*calc, console);
     addGps(*calc, console);
 }
 

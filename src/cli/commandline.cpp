@@ -5,7 +5,11 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <ostream>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace tavrel {
 
@@ -43,6 +47,32 @@ void requireOneCommand(CLI::App& app, const char* what) {
     });
 }
 
+namespace {
+
+/// The arguments in the parser's order, last first. "--name=" gives an empty value, which the parser would take from
+/// the argument behind it.
+std::vector<std::string> parserArguments(int argc, const char* const* argv) {
+    std::vector<std::string> words;
+    bool options = true;
+    for (int index = 1; index < argc; ++index) {
+        std::string word = argv[index];
+        options = options && word != "--";
+        const bool empty =
+            options && word.starts_with("--") && word.ends_with('=') && word.find('=') == word.size() - 1;
+        if (empty) {
+            word.pop_back();
+        }
+        words.push_back(std::move(word));
+        if (empty) {
+            words.emplace_back();
+        }
+    }
+    std::reverse(words.begin(), words.end());
+    return words;
+}
+
+}  // namespace
+
 void addRunOptions(CLI::App& app, Console& console) {
     app.fallthrough();
     app.add_option_function<std::string>(
@@ -76,7 +106,7 @@ void addRunOptions(CLI::App& app, Console& console) {
 int runCommandLine(CLI::App& app, int argc, const char* const* argv, Console& console) {
     requireOneCommand(app, "A command");
     try {
-        app.parse(argc, argv);
+        app.parse(parserArguments(argc, argv));
     } catch (const CLI::ParseError& stopped) {
         return app.exit(stopped, console.out, console.error) == 0 ? 0 : exitWrongUsage;
     }

@@ -1,15 +1,19 @@
 #include "cli/interchangecommands.h"
 
+#include "base/numbers.h"
+#include "base/safefile.h"
 #include "base/texts.h"
 #include "cli/session.h"
 #include "interchange/exports.h"
-#include "interchange/imports.h"
+#include "interchange/lossreport.h"
+#include "interchange/standardimport.h"
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <map>
 #include <memory>
+#include <optional>
 #include <ostream>
 #include <vector>
 
@@ -21,21 +25,160 @@ struct Arguments {
     std::string file;
     std::string other;  ///< what is imported, or written
     std::string format;
+    bool dryRun = false;
+    bool json = false;
+    bool skipDuplicates = false;
+    bool keepDuplicates = false;
+    bool byDate = false;
+    bool keepTexts = false;
+    bool report = false;
     bool force = false;
 };
 
-using Reader = Expected<ImportResult> (*)(Carnet&, const QString&, const Progress&);
-
-/// By the name of the format; without one the file tells.
-const std::map<std::string, Reader>& readers() {
-    static const std::map<std::string, Reader> byName{
-        {"", readDives}, {"udcf", readUDCF}, {"uddf", readUDDF}, {"handheld", readFromiPhoneFile}};
+/// How a file is read: by one of the prescribed formats, or found first whatever it is.
+const std::map<std::string, std::optional<ImportFormat>>& readers() {
+    static const std::map<std::string, std::optional<ImportFormat>> byName{
+        {"standard", std::nullopt},
+        {"udcf", ImportFormat::udcf},
+        {"uddf", ImportFormat::uddf},
+        {"handheld", ImportFormat::handheld},
+    };
     return byName;
+}
+
+/// What a file is read as when nobody says it: what came before version 3 of UDDF by its prescribed import.
+std::optional<ImportFormat> prescribedFor(SourceKind kind) {
+    switch (kind) {
+        case SourceKind::olderUddf:
+            return ImportFormat::uddf;
+        case SourceKind::udcf:
+            return ImportFormat::udcf;
+        case SourceKind::handheld:
+            return ImportFormat::handheld;
+        case SourceKind::uddf:
+        case SourceKind::logbook:
+        case SourceKind::table:
+            break;
+    }
+    return std::nullopt;
+}
+
+/// The dives found, or the format by whose import they are taken.
+struct Reading {
+    std::optional<ImportFormat> format;
+    FoundDives found;
+};
+
+Expected<Reading> readingOf(Carnet& carnet, const Arguments& arguments) {
+    const QString path = pathArgument(arguments.other);
+    const auto chosen = readers().find(arguments.format);
+    if (chosen != readers().end() && chosen->second) {
+        return Reading{chosen->second, {}};
+    }
+    const bool forced = chosen != readers().end();
+    return FileBytes::open(path)
+        .and_then([&](const FileBytes& file) {
+            return findDives(carnet, file.bytes()).map_error([&](const Failure& reason) {
+                return openingFailure(path, reason);
+            });
+        })
+        .map([&](Source&& source) {
+            const auto format = forced ? std::nullopt : prescribedFor(source.kind);
+            return Reading{format, format ? FoundDives() : std::move(source.found)};
+        });
+}
+
+void writeFound(const FoundDives& found, JsonWriter json) {
+    json.beginObject();
+    json.key(u"dives");
+    json.beginArray();
+    for (const FoundDive& it : found.dives) {
+        const QDateTime start = startOf(it.dive);
+        const BreathedGas gas = breathedGas(it.dive);
+        json.beginObject();
+        json.member(u"date", start.date().toString(Qt::ISODate));
+        json.member(u"time", start.time().toString(QStringLiteral("HH:mm")));
+        json.member(u"depth", it.dive.profondeur);
+        json.member(u"minutes", it.dive.temps);
+        json.member(u"o2", gas.oxygen);
+        json.member(u"he", gas.helium);
+        json.member(u"samples", static_cast<qint64>(it.dive.hasProfile() ? it.dive.profilProfondeur.size() : 0));
+        json.member(u"duplicate", it.duplicate);
+        json.key(u"doubts");
+        json.beginArray();
+        for (const Doubt doubt : it.doubts) {
+            json.value(doubtName(doubt));
+        }
+        json.endArray();
+        json.endObject();
+    }
+    json.endArray();
+    json.key(u"lost");
+    json.beginArray();
+    for (const QString& line : lostItemLines(found)) {
+        json.value(line);
+    }
+    json.endArray();
+    json.endObject();
+    json.flush();
+}
+
+void printFound(const FoundDives& found, Console& console) {
+    for (const FoundDive& it : found.dives) {
+        const QDateTime start = startOf(it.dive);
+        const BreathedGas gas = breathedGas(it.dive);
+        QStringList remarks;
+        if (it.duplicate) {
+            remarks.append(text("Interchange", "Already there"));
+        }
+        for (const Doubt doubt : it.doubts) {
+            remarks.append(doubtText(doubt));
+        }
+        QStringList cells{
+            start.isValid() ? start.toString(QStringLiteral("yyyy-MM-dd HH:mm")) : QStringLiteral("----------------"),
+            shortestText(it.dive.profondeur) + QStringLiteral(" m"),
+            QString::number(it.dive.temps) + QStringLiteral(" min"),
+            QStringLiteral("%1/%2").arg(gas.oxygen).arg(gas.helium),
+            it.dive.lieu + (it.dive.site.isEmpty() || it.dive.lieu.isEmpty() ? QString() : QStringLiteral(", ")) +
+                it.dive.site,
+            remarks.join(QStringLiteral("; ")),
+        };
+        print(console, cells.join(QStringLiteral("  ")).trimmed());
+    }
+    for (const QString& line : lostItemLines(found)) {
+        print(console, line);
+    }
+}
+
+Expected<void> previewInto(Carnet& carnet, const Arguments& arguments, Console& console) {
+    return readingOf(carnet, arguments)
+        .and_then([&](Reading&& reading) {
+            return reading.format ? previewPrescribed(carnet, pathArgument(arguments.other), *reading.format)
+                                  : Expected<FoundDives>(std::move(reading.found));
+        })
+        .map([&](const FoundDives& found) {
+            if (!arguments.json) {
+                return printFound(found, console);
+            }
+            writeFound(found, jsonOn(console));
+            console.out << '\n';
+        });
 }
 
 /// Saves the dives that came in also when one of them stopped the import; the stop still is a failure.
 Expected<void> importInto(Session& session, Carnet& carnet, const Arguments& arguments, Console& console) {
-    const auto result = readers().at(arguments.format)(carnet, pathArgument(arguments.other), {});
+    if (arguments.dryRun) {
+        return previewInto(carnet, arguments, console);
+    }
+    auto reading = readingOf(carnet, arguments);
+    if (!reading) {
+        return tl::unexpected(reading.error());
+    }
+    const TakeChoices choices{!arguments.keepDuplicates && (arguments.skipDuplicates || !reading->format),
+                              arguments.byDate, arguments.keepTexts};
+    const auto result = reading->format
+                            ? importPrescribed(carnet, pathArgument(arguments.other), *reading->format, choices)
+                            : Expected<ImportResult>(takeDives(carnet, std::move(reading->found), choices));
     if (!result) {
         return tl::unexpected(result.error());
     }
@@ -56,6 +199,13 @@ Expected<void> exportFrom(Carnet& carnet, const Arguments& arguments, Console& c
     const auto& exports = logbookExports();
     const auto chosen = std::find_if(exports.begin(), exports.end(),
                                      [&](const LogbookExport& it) { return it.name == arguments.format; });
+    if (arguments.report) {
+        return lossesOf(carnet, *chosen, carnet.records()).map([&](const std::vector<FieldLoss>& losses) {
+            for (const QString& line : lossLines(losses)) {
+                print(console, line);
+            }
+        });
+    }
     const QString type = QString::fromLatin1(chosen->typeName);
     const QString target = pathArgument(arguments.other);
     if (target == u"-" || target == u"/dev/stdout") {
@@ -88,13 +238,27 @@ void addInterchangeCommands(CLI::App& app, Console& console) {
 
     CLI::App* importing = app.add_subcommand(
         "import",
-        "Appends the dives of a file to a logbook. A dive that cannot be taken ends the import: the dives before it\n"
-        "are kept and saved, the reason is told, and the exit code is 1.");
+        "Appends the dives of a file to a logbook: UDDF 3, another logbook and, with --format standard, anything that\n"
+        "holds dives are read by their meaning. In the other formats a dive that cannot be taken ends the import: the\n"
+        "dives before it are kept and saved, the reason is told, and the exit code is 1.");
     addFile(importing);
     importing->add_option("SOURCE", arguments->other, "The file with the dives")->required();
     importing->add_flag("--force", arguments->force, forceHelp);
-    importing->add_option("--format", arguments->format, "What SOURCE is; told by its contents when not given")
-        ->check(CLI::IsMember({"udcf", "uddf", "handheld"}));
+    std::vector<std::string> roads;
+    for (const auto& [name, format] : readers()) {
+        roads.push_back(name);
+    }
+    importing->add_option("--format", arguments->format, "How SOURCE is read; told by its contents when not given")
+        ->check(CLI::IsMember(roads));
+    CLI::Option* dryRun =
+        importing->add_flag("--dry-run", arguments->dryRun, "Prints the dives that SOURCE holds and changes nothing");
+    importing->add_flag("--json", arguments->json, "Prints them as JSON")->needs(dryRun);
+    CLI::Option* skip = importing->add_flag("--skip-duplicates", arguments->skipDuplicates,
+                                            "Leaves out dives that the logbook holds already; on for standard");
+    importing->add_flag("--keep-duplicates", arguments->keepDuplicates, "Takes them too")->excludes(skip);
+    importing->add_flag("--by-date", arguments->byDate, "Orders all dives by date and numbers them on");
+    importing->add_flag("--keep-texts", arguments->keepTexts,
+                        "Adds words that have no field of their own to the notes");
     importing->callback([arguments, &console] {
         withLogbook(*arguments, console, &Session::openToChange,
                     [&](Session& session, Carnet& carnet) { return importInto(session, carnet, *arguments, console); });
@@ -109,6 +273,8 @@ void addInterchangeCommands(CLI::App& app, Console& console) {
     addFile(exporting);
     exporting->add_option("TARGET", arguments->other, "The file to write; - is the standard output")->required();
     exporting->add_option("--format", arguments->format, "The format")->required()->check(CLI::IsMember(formats));
+    exporting->add_flag("--report", arguments->report,
+                        "Prints which fields the format would lose, and of how many dives; writes nothing");
     exporting->callback([arguments, &console] {
         withLogbook(*arguments, console, &Session::open,
                     [&](Session&, Carnet& carnet) { return exportFrom(carnet, *arguments, console); });

@@ -1,9 +1,11 @@
 #include "base/texts.h"
 #include "cli/calccommand.h"
 #include "cli/commandline.h"
+#include "cli/divecommands.h"
 #include "cli/documentcommands.h"
 #include "cli/inspectcommand.h"
 #include "cli/interchangecommands.h"
+#include "cli/picturecommand.h"
 #include "cli/profilecommand.h"
 #include "cli/shellfilecommand.h"
 #include "cli/viewcommands.h"
@@ -32,8 +34,10 @@ int main(int argc, char** argv) try {
     tavrel::addRunOptions(app, console);
     tavrel::addDocumentCommands(app, console);
     tavrel::addViewCommands(app, console);
+    tavrel::addPictureCommand(app, console);
     tavrel::addInspectCommand(app, console);
     tavrel::addInterchangeCommands(app, console);
+    tavrel::addDiveCommands(app, console);
     tavrel::addCalcCommand(app, console);
     tavrel::addProfileCommand(app, console);
     tavrel::addShellFileCommand(app, console);

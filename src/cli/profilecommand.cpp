@@ -113,8 +113,7 @@ void showSummary(const Plongee& dive, Console& console) {
     const ProfileDive drawn = profileDiveOf(dive);
     const ProfileSummary summary = summaryOf(drawn.series);
     print(console, textWith("Carnet", "Max and average depth", summary.maximum, summary.average));
-    print(console,
-          textWith("Carnet", "Sampling rate", textWith("Cli", "Seconds", samplingInterval(dive.samplingRate))));
+    print(console, textWith("Carnet", "Sampling rate", samplingTitle(dive.samplingRate)));
     print(console, textWith("Carnet", "Recorded points", summary.samples));
     for (const EditedSeries& edited : editedSeries) {
         print(console, edited.title.text() + QStringLiteral(": ") + countText(drawn.series, edited));

@@ -4,6 +4,10 @@
 #include "base/texts.h"
 #include "book/booktable.h"
 #include "book/tablepages.h"
+#include "dives/divespan.h"
+#include "dives/statgraph.h"
+#include "dives/statistics.h"
+#include "dives/statisticsreport.h"
 #include "logbook/diveprofile.h"
 
 #include <algorithm>
@@ -45,15 +49,34 @@ Expected<Pages> profilePages(Session& session, const std::vector<int>& rows) {
     });
 }
 
+/// Statistics as their window shows them at first: with the totals of the dives before the logbook.
+Expected<Pages> statisticsPages(Session& session, const std::vector<int>&) {
+    return session.logbook().map([&](Carnet* carnet) {
+        const PreviousTotals previous = PreviousTotals::read(session.desktop.desktop().preferences);
+        const Statistics statistics(divesIn(carnet->records()), &previous);
+        const PrintSettings settings = portrait(carnet->description().print);
+        return pagesOf(statisticsReport(statistics, carnet->displayName()), usualPaper(settings), settings,
+                       carnet->displayName());
+    });
+}
+
+Expected<Pages> graphPages(Session& session, const std::vector<int>&) {
+    return session.logbook().map([&](Carnet* carnet) {
+        const Preferences& preferences = session.desktop.desktop().preferences;
+        const PreviousTotals previous = PreviousTotals::read(preferences);
+        const Statistics statistics(divesIn(carnet->records()), &previous);
+        return pagesOf(statGraphDrawing(setDataForStatGraphes(statistics), preferences));
+    });
+}
+
 struct Rendering {
     const char* name;
     Expected<Pages> (*pages)(Session& session, const std::vector<int>& rows);
 };
 
 constexpr std::array all{
-    Rendering{"table", tablePages},
-    Rendering{"card", cardPages},
-    Rendering{"profile", profilePages},
+    Rendering{"table", tablePages},  Rendering{"card", cardPages},        Rendering{"profile", profilePages},
+    Rendering{"graphs", graphPages}, Rendering{"stats", statisticsPages},
 };
 
 /// NAME.png, NAME-2.png …

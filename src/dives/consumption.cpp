@@ -3,7 +3,8 @@
 #include "base/numbers.h"
 #include "base/texts.h"
 #include "dives/oxygenclock.h"
-#include "profile/profileseries.h"
+#include "dives/wrapping.h"
+#include "profile/profilesummary.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,14 +12,6 @@
 namespace tavrel {
 
 namespace {
-
-// 32-bit arithmetic that wraps around instead of being undefined: pressures and volumes are whatever was typed.
-constexpr qint32 less(qint32 left, qint32 right) {
-    return static_cast<qint32>(static_cast<quint32>(left) - static_cast<quint32>(right));
-}
-constexpr qint32 times(qint32 left, qint32 right) {
-    return static_cast<qint32>(static_cast<quint32>(left) * static_cast<quint32>(right));
-}
 
 constexpr float metresPerBar = 10;
 
@@ -35,21 +28,11 @@ bool canReport(const GasReadings& readings) {
 void GasReadings::readProfile(const ProfileSeries& profile) {
     const Series& depths = profile.profilProfondeur;
     samples = depths.size();
-    float sum = 0;
+    averageDepth = summaryOf(profile).average;
     largestSample = samples > 0 ? static_cast<float>(depths.real(0)) : 0;
-    const auto take = [&](double sample) {
-        const auto metres = static_cast<float>(sample);
-        sum += metres;
-        largestSample = std::max(largestSample, metres);
-    };
-    if (const auto block = depths.block<double>(); !block.empty()) {
-        std::for_each(block.begin(), block.end(), take);
-    } else {
-        for (std::size_t sample = 0; sample < samples; ++sample) {
-            take(depths.real(sample));
-        }
+    for (std::size_t sample = 1; sample < samples; ++sample) {
+        largestSample = std::max(largestSample, static_cast<float>(depths.real(sample)));
     }
-    averageDepth = sum / static_cast<float>(samples);
 }
 
 Consumption calculVolumeAirConsomme(const GasReadings& readings) {
@@ -57,10 +40,10 @@ Consumption calculVolumeAirConsomme(const GasReadings& readings) {
     const auto time = static_cast<float>(readings.time);
     const float ambient = pressureAt(readings.averageDepth);
     Consumption result;
-    result._pressionConsommee = less(tank.start, tank.end);
+    result._pressionConsommee = wrappedDifference(tank.start, tank.end);
     result._pressionParMinute = static_cast<float>(result._pressionConsommee) / time;
-    result._volumeDisponible = times(tank.volume, tank.start);
-    result._volumeConsomme = times(tank.volume, result._pressionConsommee);
+    result._volumeDisponible = wrappedProduct(tank.volume, tank.start);
+    result._volumeConsomme = wrappedProduct(tank.volume, result._pressionConsommee);
     result._sac = static_cast<float>(result._volumeConsomme) / time / ambient;
     result._sacBar = result._pressionParMinute / ambient;
     return result;
@@ -77,7 +60,7 @@ QString consumptionReport(const GasReadings& readings, const Consumption& consum
 }
 
 qint32 pressureDrop(const GasReadings& readings, std::size_t tank) {
-    return less(readings.tanks.at(tank).start, readings.tanks.at(tank).end);
+    return wrappedDifference(readings.tanks.at(tank).start, readings.tanks.at(tank).end);
 }
 
 QString pressureDropText(qint32 drop) {
@@ -95,8 +78,8 @@ std::array<std::optional<AuxiliaryGas>, GasReadings::auxiliaryCount> auxiliaryGa
             continue;
         }
         AuxiliaryGas gas;
-        gas.available = times(bottle.volume, bottle.start);
-        gas.used = times(less(bottle.start, bottle.end), bottle.volume);
+        gas.available = wrappedProduct(bottle.volume, bottle.start);
+        gas.used = wrappedProduct(wrappedDifference(bottle.start, bottle.end), bottle.volume);
         gas.text = textWith("Carnet", "Auxiliary gas", gas.available, gas.used);
         gas.maximum = bottle.start;
         gas.value = bottle.end;

@@ -4,8 +4,10 @@
 #include "base/texts.h"
 #include "desktop/commonsettings.h"
 #include "desktop/preferences.h"
+#include "dives/cardcolours.h"
 #include "dives/divecodes.h"
 #include "dives/divewords.h"
+#include "dives/wrapping.h"
 
 #include <algorithm>
 #include <array>
@@ -14,10 +16,6 @@
 namespace tavrel {
 
 namespace {
-
-const QColor headingColour = QColor::fromRgbF(0.0F, 0.5F, 0.0F);
-const QColor labelColour = QColor::fromRgbF(0.0F, 0.0F, 0.0F);
-const QColor valueColour = QColor::fromRgbF(0.0F, 0.0F, 1.0F);
 
 const QString newLine = QStringLiteral("\r");
 const QString newSection = QStringLiteral("\r\r");
@@ -104,14 +102,6 @@ constexpr std::array<QString Plongee::*, 12> equipmentItems{&Plongee::equip_1,  
 /// A difficulty is 0 to 5. What a damaged file holds instead does not fill the memory with stars.
 constexpr qint32 mostStars = 1000;
 
-// 32-bit arithmetic that wraps around, as in the consumption sheet.
-qint32 less(qint32 left, qint32 right) {
-    return static_cast<qint32>(static_cast<quint32>(left) - static_cast<quint32>(right));
-}
-qint32 times(qint32 left, qint32 right) {
-    return static_cast<qint32>(static_cast<quint32>(left) * static_cast<quint32>(right));
-}
-
 QString number(qint32 value) {
     return QString::number(value);
 }
@@ -187,10 +177,10 @@ private:
     }
 
     void heading(const Title& title, const QString& breaks = newSection) {
-        card_.append(words_.of(title, breaks), headingColour);
+        card_.append(words_.of(title, breaks), cardcolours::heading);
     }
     void label(const Title& title, const QString& breaks = newLine) {
-        card_.append(words_.of(title, breaks), labelColour);
+        card_.append(words_.of(title, breaks), cardcolours::label);
     }
     template <std::size_t size>
     void label(const std::array<Title, size>& titles, qint32 code) {
@@ -198,7 +188,7 @@ private:
             label(titles[static_cast<std::size_t>(code)]);
         }
     }
-    void value(const QString& text) { card_.append(text, valueColour); }
+    void value(const QString& text) { card_.append(text, cardcolours::value); }
     void row(const Title& title, const QString& text) {
         label(title);
         value(text);
@@ -233,7 +223,7 @@ private:
         const auto datum = dive_.gpsSystem == Datum::ed50    ? QLatin1StringView("ED50")
                            : dive_.gpsSystem == Datum::wgs84 ? QLatin1StringView("WGS84")
                                                              : QLatin1StringView("...");
-        card_.append(QStringLiteral("\rG.P.S. (") + datum + QStringLiteral(") : "), labelColour);
+        card_.append(QStringLiteral("\rG.P.S. (") + datum + QStringLiteral(") : "), cardcolours::label);
         // A position that was never entered shows what the form proposes for one.
         value(dive_.gps.isEmpty() ? word({"Carnet", "GPS template"}) : dive_.gps);
     }
@@ -259,7 +249,7 @@ private:
         row({"Carnet", "Air temperature"}, degrees(dive_.tempAir));
         row({"Carnet", "Dive type"}, word(words::diveKind, dive_.typePlongee));
         if (dive_.nocturne == 1) {
-            card_.append(words_.of({"Carnet", "Night"}, newLine), valueColour);
+            card_.append(words_.of({"Carnet", "Night"}, newLine), cardcolours::value);
         }
         row({"Carnet", "Difficulty level"},
             word({"Main", "Cotation 1"}).repeated(std::clamp(dive_.difficulte, -1, mostStars) + 1));
@@ -323,7 +313,7 @@ private:
     void writeTank(const Title& title, const Tank& tank) {
         const qint32 volume = dive_.*tank.volume;
         const qint32 start = dive_.*tank.start;
-        const qint32 drop = less(start, dive_.*tank.end);
+        const qint32 drop = wrappedDifference(start, dive_.*tank.end);
         const QString litres = QStringLiteral(" litres");
         row(title, word(materialWords, dive_.*tank.material) + u' ' + number(volume));
         label({"Carnet", "At"});
@@ -332,8 +322,8 @@ private:
         row({"Carnet", "Start pressure"}, number(start) + QStringLiteral(" bar."));
         row({"Carnet", "End pressure"}, number(dive_.*tank.end) + QStringLiteral(" bar."));
         row({"Carnet", "Used pressure"}, number(drop) + QStringLiteral(" bar."));
-        row({"Carnet", "Available gas"}, number(times(start, volume)) + litres);
-        row({"Carnet", "Breathed gas"}, number(times(drop, volume)) + litres);
+        row({"Carnet", "Available gas"}, number(wrappedProduct(start, volume)) + litres);
+        row({"Carnet", "Breathed gas"}, number(wrappedProduct(drop, volume)) + litres);
         row({"Carnet", "Used gas"}, gasName(dive_.*tank.gas, dive_.*tank.oxygen, dive_.*tank.helium));
     }
 
@@ -420,12 +410,12 @@ void DiveCard::append(StyledText& card, const Plongee& dive) const {
     Writer(card, dive, *words_, usUnits_).write();
 }
 
-StyledText diveCard(std::span<const DivePointer> dives, const Preferences& preferences) {
+StyledText diveCard(DiveSpan dives, const Preferences& preferences) {
     const DiveCard card(preferences);
     StyledText all;
     for (std::size_t dive = 0; dive < dives.size(); ++dive) {
         if (dive > 0) {
-            all.append(QStringLiteral("\r\r--------------------\r\r"), labelColour);
+            all.append(QStringLiteral("\r\r--------------------\r\r"), cardcolours::label);
         }
         card.append(all, *dives[dive]);
     }

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "dives/plongee.h"
+#include "dives/divespan.h"
 #include "drawing/styledtext.h"
 
 #include <QString>
 
 #include <memory>
-#include <span>
 
 namespace tavrel {
 
@@ -30,6 +29,6 @@ private:
 };
 
 /// The cards of the dives in their order, a line between them.
-StyledText diveCard(std::span<const DivePointer> dives, const Preferences& preferences);
+StyledText diveCard(DiveSpan dives, const Preferences& preferences);
 
 }  // namespace tavrel

@@ -121,6 +121,14 @@ std::span<const StatCountName, statCountCount> statCountNames() {
     return countNames;
 }
 
+QString statField(const StatCountName& name) {
+    return fieldName("stat", name.field);
+}
+
+QString statShareField(const StatCountName& name) {
+    return fieldName("statP_", name.field);
+}
+
 std::span<const StatMeasureName, statMeasureCount> statMeasureNames() {
     return measureNames;
 }
@@ -152,8 +160,7 @@ QVariantMap PreviousTotals::values() const {
     return values;
 }
 
-Statistics::Statistics(std::span<const DivePointer> dives, const PreviousTotals* previous)
-    : total_(static_cast<qint64>(dives.size())) {
+Statistics::Statistics(DiveSpan dives, const PreviousTotals* previous) : total_(static_cast<qint64>(dives.size())) {
     if (previous) {
         std::copy(previous->counts.begin(), previous->counts.end(), counts_.begin());
         total_ += previous->of(StatMeasure::totalDives);
@@ -164,7 +171,7 @@ Statistics::Statistics(std::span<const DivePointer> dives, const PreviousTotals*
         coldest_ = previous->of(StatMeasure::coldest);
         warmest_ = previous->of(StatMeasure::warmest);
     }
-    for (const auto& dive : dives) {
+    for (const Plongee* dive : dives) {
         take(*dive);
     }
 }
@@ -215,21 +222,31 @@ qint64 Statistics::meanTemperature() const {
     return temperatureSum_ / std::max<qint64>(temperatureCount_, 1);
 }
 
+QString Statistics::shareText(StatCount which) const {
+    // Films alone have a blank before their share.
+    const QString format = which == StatCount::video ? QStringLiteral(" %.1f %%") : QStringLiteral("%.1f %%");
+    return fillFormat(format, {FormatArgument(double{share(which)})});
+}
+
+QString Statistics::shareExplanation(StatCount which) const {
+    return textWith("Carnet", "Explain share", count(which), divisor(), double{share(which)});
+}
+
 std::vector<StatText> Statistics::texts() const {
+    std::vector<StatText> texts = measureTexts();
+    for (const auto& name : countNames) {
+        texts.push_back({statField(name), name.label, QString::number(count(name.count)), {}});
+        texts.push_back({statShareField(name), name.label, shareText(name.count), shareExplanation(name.count)});
+    }
+    return texts;
+}
+
+std::vector<StatText> Statistics::measureTexts() const {
     std::vector<StatText> texts;
     const auto add = [&](const char* field, const Title& label, QString text, QString explanation = {}) {
         texts.push_back({QLatin1StringView(field), label, std::move(text), std::move(explanation)});
     };
     add("statDivesField", {"Carnet", "Stat dives"}, textWith("Carnet", "Total dives", total_));
-    for (const auto& name : countNames) {
-        const qint64 counted = count(name.count);
-        texts.push_back({fieldName("stat", name.field), name.label, QString::number(counted), {}});
-        // Films alone have a blank before their share.
-        const QString format = name.count == StatCount::video ? QStringLiteral(" %.1f %%") : QStringLiteral("%.1f %%");
-        texts.push_back({fieldName("statP_", name.field), name.label,
-                         fillFormat(format, {formatArgument(double{share(name.count)})}),
-                         textWith("Carnet", "Explain share", counted, divisor(), double{share(name.count)})});
-    }
     const auto metres = [](qint64 value) { return fillFormat(QStringLiteral("%d m"), {formatArgument(value)}); };
     const auto minutes = [](qint64 value) { return fillFormat(QStringLiteral("%d min."), {formatArgument(value)}); };
     const auto degrees = [](qint64 value) { return textWith("Carnet", "Celsius", value); };

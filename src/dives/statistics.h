@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/texts.h"
-#include "dives/plongee.h"
+#include "dives/divespan.h"
 
 #include <QString>
 #include <QVariantMap>
@@ -61,6 +61,9 @@ struct StatCountName {
     Title label;
 };
 std::span<const StatCountName, statCountCount> statCountNames();
+/// The field of a count ("statBioField") and that of its share ("statP_BioField").
+QString statField(const StatCountName& name);
+QString statShareField(const StatCountName& name);
 
 /// What the statistics measure beside the counts.
 enum class StatMeasure { totalDives, deepest, longest, totalDepth, totalTime, coldest, warmest };
@@ -104,7 +107,7 @@ struct StatText {
 class Statistics {
 public:
     /// Without previous totals (null) every figure is of these dives alone, and the coldest water starts at 10000.
-    Statistics(std::span<const DivePointer> dives, const PreviousTotals* previous);
+    Statistics(DiveSpan dives, const PreviousTotals* previous);
 
     qint64 total() const { return total_; }
     qint64 count(StatCount count) const { return counts_[static_cast<std::size_t>(count)]; }
@@ -125,7 +128,12 @@ public:
     /// 0, which leaves it infinite or not a number.
     float graphShare(StatCount count) const;
 
-    /// Every field of the statistics window with its text.
+    QString shareText(StatCount count) const;
+    /// How the share comes about.
+    QString shareExplanation(StatCount count) const;
+    /// The fields of the statistics window beside the counts, with their texts.
+    std::vector<StatText> measureTexts() const;
+    /// Every field of the statistics window with its text, counts and shares included.
     std::vector<StatText> texts() const;
 
 private:

@@ -20,6 +20,7 @@ struct DocumentKind {
     Title name;
     const char* recordClass;
     const char* extension;
+    bool hasOlderFormat = false;  ///< files with its extension may be no typed streams
 };
 
 /// The one of that name, in the user's language or as its key, whatever its case; null when there is none.
@@ -32,22 +33,25 @@ auto documentKindNamed(const Kinds& kinds, const QString& name) -> decltype(&*st
     return found == std::end(kinds) ? nullptr : &*found;
 }
 
-/// The one that a file belongs to: by the class of the records inside it; when it holds none, by its name's extension;
-/// the first one when that says nothing either.
+/// The one that a file belongs to: by the class of the records inside it; when it holds none, or is of an older format,
+/// by its name's extension; the first one when that says nothing either.
 template <class Kinds>
 auto documentKindOf(const Kinds& kinds, const QString& path, QByteArrayView file)
     -> Expected<decltype(&*std::begin(kinds))> {
     const auto recordClass = recordClassOf(file);
-    if (!recordClass) {
-        return tl::unexpected(recordClass.error());
-    }
     const QString extension = QFileInfo(path).suffix();
     const auto found = std::find_if(std::begin(kinds), std::end(kinds), [&](const DocumentKind& kind) {
-        return recordClass->isEmpty() ? extension.compare(QLatin1StringView(kind.extension), Qt::CaseInsensitive) == 0
-                                      : *recordClass == QLatin1StringView(kind.recordClass);
+        if (recordClass && !recordClass->isEmpty()) {
+            return *recordClass == QLatin1StringView(kind.recordClass);
+        }
+        return (recordClass || kind.hasOlderFormat) &&
+               extension.compare(QLatin1StringView(kind.extension), Qt::CaseInsensitive) == 0;
     });
     if (found != std::end(kinds)) {
         return &*found;
+    }
+    if (!recordClass) {
+        return tl::unexpected(recordClass.error());
     }
     if (recordClass->isEmpty()) {
         return &*std::begin(kinds);

@@ -68,7 +68,7 @@ std::optional<Date> timeOf(const Date& held, const QString& value) {
         return std::nullopt;
     }
     const QDate day = held.isNull() ? QDate() : held.toDateTime().date();
-    return Date::fromDateTime(QDateTime(day.isValid() ? day : QDate(2001, 1, 1), time));
+    return Date::ofLocalTime(day.isValid() ? day : QDate(2001, 1, 1), time);
 }
 
 Expected<void> enterPicture(FormStateBase& form, int index, const QString& path) {

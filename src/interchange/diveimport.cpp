@@ -50,7 +50,7 @@ Date calendarDate(XmlElement element, const CalendarNames& names) {
         integerOf(element.last(names.day)) - 1 + carriedDays;
     const QTime clock =
         QTime::fromMSecsSinceStartOfDay(static_cast<int>(minutes - carriedDays * minutesOfDay) * 60'000);
-    return Date::fromDateTime(QDateTime(QDate::fromJulianDay(day), clock));
+    return Date::ofLocalTime(QDate::fromJulianDay(day), clock);
 }
 
 Date GetCalendarDateFromElementUDCF(XmlElement element) {

@@ -10,6 +10,7 @@ namespace tavrel {
 struct DiveSource {
     const char* diveName;
     XmlElement (*group)(XmlElement root);
+    std::size_t (*allDives)(XmlElement root);  ///< how many stand in any group
     Expected<void> (*fill)(XmlElement dive, DiveForm& form);
 };
 

@@ -1,21 +1,58 @@
 #include "interchange/exports.h"
 
+#include "desktop/clock.h"
+#include "interchange/standard/csvtext.h"
+#include "interchange/standard/uddfwriting.h"
+
 #include <algorithm>
+#include <array>
 
 namespace tavrel {
+
+namespace {
+
+/// What the lines of the text exports have cells for.
+constexpr auto listedFields = [] {
+    std::array<std::string_view, listColumns.size()> fields;
+    for (std::size_t column = 0; column < fields.size(); ++column) {
+        fields[column] = listColumns[column].field;
+    }
+    return fields;
+}();
+constexpr std::array<std::string_view, 8> profileFields{"noPlongee", "profilProfondeur", "ASC_Flag", "SLOW_Flag",
+                                                        "CEIL_Flag", "SURF_Flag",        "GAZ_Flag", "PRESS_Data"};
+
+}  // namespace
+
+Expected<QByteArray> LogbookExport::produceFrom(const Carnet& carnet, const RecordList& dives) const {
+    Carnet chosen(carnet.desktop());
+    chosen.replaceList(dives);
+    chosen.setProgress(carnet.progress());
+    return produce(chosen);
+}
+
+Expected<QByteArray> exportTable(Carnet& carnet) {
+    return writeCsv(carnet.records(), {}, carnet.progress());
+}
+
+Expected<QByteArray> exportStandardUddf(Carnet& carnet) {
+    return writeUddf(carnet.records(), {carnet.desktop().clock.now(), {}}, carnet.progress());
+}
 
 const std::vector<LogbookExport>& logbookExports() {
     static const std::vector<LogbookExport> exports{
         {"csv-semicolon", "Export Carnet CSV (Point-virgule)", "csv",
-         [](Carnet& carnet) { return exportTextCSVFormat(carnet, "\";\"", "\""); }},
+         [](Carnet& carnet) { return exportTextCSVFormat(carnet, "\";\"", "\""); }, listedFields},
         {"csv-comma", "Export Carnet CSV (Virgule)", "csv",
-         [](Carnet& carnet) { return exportTextCSVFormat(carnet, ",", ""); }},
+         [](Carnet& carnet) { return exportTextCSVFormat(carnet, ",", ""); }, listedFields},
         {"tsv", "Export Carnet TXT (Tabulation)", "txt",
-         [](Carnet& carnet) { return exportTextCSVFormat(carnet, "\t", ""); }},
+         [](Carnet& carnet) { return exportTextCSVFormat(carnet, "\t", ""); }, listedFields},
         {"profiles-csv", "Export Profils CSV (Virgule)", "csv",
-         [](Carnet& carnet) { return exportProfileCSVFormat(carnet, ","); }},
+         [](Carnet& carnet) { return exportProfileCSVFormat(carnet, ","); }, profileFields},
         {"udcf", "Export UDCF (Universal Dive Computer Format)", "udcf", exportUDCFFormat},
         {"uddf", "Export UDDF (Universal Dive Data Format)", "uddf", exportUDDFFormat},
+        {"csv", "Export CSV (UTF-8)", "csv", exportTable},
+        {"uddf-3.2", "Export UDDF 3.2", "uddf", exportStandardUddf},
     };
     return exports;
 }

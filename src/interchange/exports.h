@@ -2,7 +2,9 @@
 
 #include "logbook/carnet.h"
 
+#include <span>
 #include <string_view>
+#include <vector>
 
 namespace tavrel {
 
@@ -27,15 +29,26 @@ Expected<QByteArray> exportTextCSVFormat(Carnet& carnet, std::string_view separa
 /// is not as long as the depths. The surface flag stands under "CEIL" and the ceiling flag under "SURF".
 Expected<QByteArray> exportProfileCSVFormat(Carnet& carnet, std::string_view separator);
 
+/// UDDF 3.2.3, valid against its schema, with all that UDDF has a place for.
+Expected<QByteArray> exportStandardUddf(Carnet& carnet);
+
+/// A table of all fields in UTF-8, which reads back.
+Expected<QByteArray> exportTable(Carnet& carnet);
+
 /// An export as the command line and the menus know it.
 struct LogbookExport {
     const char* name;       ///< "csv-semicolon"
     const char* typeName;   ///< the document type
     const char* extension;  ///< of new files, without a dot
     Expected<QByteArray> (*produce)(Carnet& carnet);
+    /// The fields of a dive that the format has a place for, where its files cannot be read back; else empty.
+    std::span<const std::string_view> heldFields = {};
+
+    /// The bytes for these dives alone, in the order given.
+    Expected<QByteArray> produceFrom(const Carnet& carnet, const RecordList& dives) const;
 };
 
-/// The six exports in the order in which their types are tried.
+/// The exports in the order in which their types are tried.
 const std::vector<LogbookExport>& logbookExports();
 /// The same as a logbook takes them.
 const std::vector<ExportType>& logbookExportTypes();

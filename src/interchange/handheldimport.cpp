@@ -10,6 +10,14 @@ XmlElement lastGroup(XmlElement root) {
     return root.last("repgroup");
 }
 
+std::size_t allDives(XmlElement root) {
+    std::size_t dives = 0;
+    for (const XmlElement group : root.children("repgroup")) {
+        dives += group.children("dive").count();
+    }
+    return dives;
+}
+
 /// Fields that a missing element leaves as the cleared form has them.
 void typeFields(DiveForm& form, XmlElement dive) {
     const DiveControls& controls = form.controls();
@@ -53,6 +61,6 @@ Expected<void> fill(XmlElement dive, DiveForm& form) {
 
 }  // namespace
 
-const DiveSource handheldSource{"dive", lastGroup, fill};
+const DiveSource handheldSource{"dive", lastGroup, allDives, fill};
 
 }  // namespace tavrel

@@ -1,7 +1,10 @@
 #include "interchange/imports.h"
 
 #include "base/safefile.h"
+#include "desktop/clock.h"
 #include "interchange/diveimport.h"
+#include "interchange/standard/sourcereading.h"
+#include "interchange/standard/uddfreading.h"
 
 #include <cstring>
 
@@ -35,18 +38,19 @@ std::optional<ImportFormat> formatOf(XmlElement root) {
     return root.first("repgroup").isNull() ? std::nullopt : std::optional(ImportFormat::handheld);
 }
 
-/// Several times what a diver of a lifetime has; a file of empty elements would fill the memory with dives.
-constexpr std::size_t mostDives = 500'000;
-
 /// One import under way.
 class Import {
 public:
     Import(Carnet& carnet, const Progress& progress) : carnet_(carnet), form_(carnet.desktop()), progress_(progress) {}
 
     Expected<ImportResult> run(QByteArrayView bytes, std::optional<ImportFormat> format) {
-        const auto tree = XmlTree::parse(bytes, [this](std::size_t done, std::size_t total) {
-            return advance(done * thousandthsOfParsing / std::max<std::size_t>(total, 1));
-        });
+        // Prefixes stay part of the names here; the attributes only tell the version.
+        const auto tree =
+            XmlTree::parse(bytes,
+                           [this](std::size_t done, std::size_t total) {
+                               return advance(done * thousandthsOfParsing / std::max<std::size_t>(total, 1));
+                           },
+                           {true, false});
         if (result_.cancelled) {
             return result_;
         }
@@ -66,6 +70,8 @@ public:
             return failure(text("Main", "XML file beyond limits"));
         }
         takeDives(source, dives);
+        result_.leftOut = static_cast<int>(source.allDives(tree->root()) - dives.count());
+        result_.readsBetter = *format == ImportFormat::uddf && kindOfTree(tree->root()) == SourceKind::uddf;
         return result_;
     }
 
@@ -100,10 +106,23 @@ private:
             }
         }
         result_.taken = static_cast<int>(taken.size());
+        remark(taken);
         if (!taken.empty()) {
             carnet_.appendDives(text("Carnet", "Undo import"), std::move(taken));
         }
         carnet_.updateUI();
+    }
+
+    void remark(const std::vector<Plongee>& taken) {
+        FoundDives found;
+        for (const Plongee& dive : taken) {
+            found.dives.push_back({dive, {}, {}, false});
+        }
+        doubt(found, carnet_.desktop().clock.now());
+        markDuplicates(found, carnet_.records());
+        for (const FoundDive& it : found.dives) {
+            result_.count(it);
+        }
     }
 
     bool takeDive(const DiveSource& source, XmlElement dive, std::vector<Plongee>& taken) {
@@ -146,7 +165,26 @@ QString ImportResult::message() const {
     } else if (stoppedAt > 0) {
         message += u' ' + textWith("Carnet", "Import stopped", stoppedAt, why);
     }
+    const std::pair<int, Title> remarks[] = {
+        {skipped, {"Interchange", "Skipped"}},         {withoutDate, {"Interchange", "Without date"}},
+        {implausible, {"Interchange", "Implausible"}}, {twice, {"Interchange", "Twice"}},
+        {leftOut, {"Interchange", "Left out"}},
+    };
+    for (const auto& [number, remark] : remarks) {
+        if (number > 0) {
+            message += u' ' + textWith(remark, number);
+        }
+    }
+    if (readsBetter) {
+        message += u' ' + text("Interchange", "Reads better");
+    }
     return message;
+}
+
+void ImportResult::count(const FoundDive& dive) {
+    withoutDate += dive.has(Doubt::noDate) ? 1 : 0;
+    implausible += dive.has(Doubt::tooDeep) ? 1 : 0;
+    twice += dive.duplicate ? 1 : 0;
 }
 
 Expected<ImportResult> importDives(Carnet& carnet, QByteArrayView bytes, std::optional<ImportFormat> format,

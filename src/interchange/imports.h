@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/progress.h"
+#include "interchange/standard/founddive.h"
 #include "logbook/carnet.h"
 
 #include <QByteArrayView>
@@ -23,6 +24,16 @@ struct ImportResult {
     QString why;
     bool cancelled = false;
 
+    // What is remarkable about the dives taken, and those that were not.
+    int withoutDate = 0;
+    int implausible = 0;       ///< deeper than anyone dived
+    int twice = 0;             ///< in the logbook already, or twice in the file
+    int leftOut = 0;           ///< in groups of the file that the format's import passes over
+    int skipped = 0;           ///< not taken because they are there twice
+    bool readsBetter = false;  ///< the file is of a newer version, which is read by its meaning on the other road
+
+    /// Adds up what a dive taken is remarkable for.
+    void count(const FoundDive& dive);
     bool isWhole() const { return stoppedAt == 0 && !cancelled; }
     /// All of it as sentences for the user.
     QString message() const;

@@ -3,6 +3,7 @@
 #include "interchange/exportprogress.h"
 #include "interchange/exports.h"
 #include "interchange/macroman.h"
+#include "interchange/standard/csvtext.h"
 
 #include <array>
 #include <span>
@@ -11,11 +12,13 @@ namespace tavrel {
 
 namespace {
 
-constexpr std::array<std::string_view, 20> diveHeaders{
-    "Dive #",     "Date",    "Location",   "Site",        "Country",      "Tide coeff", "Surface time",
-    "Start time", "Depth",   "Dive time",  "Pressure in", "Pressure out", "O2 mix",     "He mix",
-    "Weather",    "Current", "Visibility", "Water temp.", "Air temp.",    "Buddies",
-};
+constexpr auto diveHeaders = [] {
+    std::array<std::string_view, listColumns.size()> headings;
+    for (std::size_t column = 0; column < headings.size(); ++column) {
+        headings[column] = listColumns[column].heading;
+    }
+    return headings;
+}();
 
 constexpr std::array<std::string_view, 9> profileHeaders{"Dive #", "Point", "Depth", "ASC",  "SLOW",
                                                          "CEIL",   "SURF",  "GAS",   "PRESS"};

@@ -12,6 +12,16 @@ XmlElement lastGroup(XmlElement root) {
     return root.last("profiledata").last("repetitiongroup");
 }
 
+std::size_t allDives(XmlElement root) {
+    std::size_t dives = 0;
+    for (const XmlElement data : root.children("profiledata")) {
+        for (const XmlElement group : data.children("repetitiongroup")) {
+            dives += group.children("dive").count();
+        }
+    }
+    return dives;
+}
+
 Expected<void> fill(XmlElement dive, DiveForm& form) {
     const DiveControls& controls = form.controls();
     form.state().setDate(controls.dateField, GetCalendarDateFromElementUDDF(dive.last("date")));
@@ -40,6 +50,6 @@ Expected<void> fill(XmlElement dive, DiveForm& form) {
 
 }  // namespace
 
-const DiveSource uddfSource{"dive", lastGroup, fill};
+const DiveSource uddfSource{"dive", lastGroup, allDives, fill};
 
 }  // namespace tavrel

@@ -85,14 +85,8 @@ const BookDescription& carnetDescription() {
         .words = words,
         .searches = searches,
         .print = Carnet::defaultPrintingSettings(true),
-        .card =
-            [](const RecordList& records, const Desktop& desktop, const QString&) {
-                std::vector<DivePointer> dives;
-                for (const auto& record : records) {
-                    dives.push_back(std::static_pointer_cast<const Plongee>(record));
-                }
-                return diveCard(dives, desktop.preferences);
-            },
+        .card = [](const RecordList& records, const Desktop& desktop,
+                   const QString&) { return diveCard(divesIn(records), desktop.preferences); },
         .makeForm = [](Desktop& desktop) -> std::unique_ptr<BookForm> { return std::make_unique<DiveForm>(desktop); },
         .make = [](Desktop& desktop) -> std::unique_ptr<BookBase> { return std::make_unique<Carnet>(desktop); },
     };

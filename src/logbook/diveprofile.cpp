@@ -36,16 +36,44 @@ ProfileDive profileDiveOf(const Plongee& dive) {
     return drawn;
 }
 
+ProfileDive profileDiveOf(const DiveForm& form) {
+    const auto& fields = form.state();
+    const DiveControls& controls = form.controls();
+    ProfileDive drawn;
+    drawn.series = form.profile();
+    drawn.series.profilArraysDefaultContent();
+    drawn.samplingRate = fields.tag(controls.samplingRatePopUp);
+    drawn.fracO2 = fields.integer(controls.o2MixField[0]);
+    drawn.ppO2 = fields.tag(controls.ppO2PopUp);
+    for (std::size_t level = 0; level < drawn.ean.size(); ++level) {
+        drawn.ean[level] = fields.integer(controls.decoO2_Level_Field[level]);
+    }
+    drawn.pressDepart = fields.integer(controls.departField[0]);
+    drawn.pressFin = fields.integer(controls.finField[0]);
+    if (Apparatus::isClosed(fields.tag(controls.rebreatherMatrix))) {
+        drawn.setPoint = setPointOf(drawn.ppO2);
+    }
+    return drawn;
+}
+
+QString profileTitle(qint32 number) {
+    return textWith("Carnet", "Profile of dive", number);
+}
+
 Drawing profileDrawing(const Plongee& dive, const Preferences& preferences) {
     Drawing drawing = profileDrawing(profileDiveOf(dive), ProfileStyle::read(preferences));
-    drawing.title = textWith("Carnet", "Profile of dive", dive.noPlongee);
+    drawing.title = profileTitle(dive.noPlongee);
     return drawing;
 }
 
 void importProfil(Carnet& carnet, const SeriesTexts& texts) {
     importProfil(carnet.form().profile(), texts);
-    carnet.updateDive();
-    carnet.editFields();
+    if (carnet.formShowsSelectedRecord()) {
+        carnet.updateDive();
+        carnet.editFields();
+    } else {
+        carnet.updateUI();
+    }
 }
 
 }  // namespace tavrel

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QString>
 
 #include <array>
 
@@ -18,5 +18,8 @@ constexpr int samplingInterval(qint32 code) {
 constexpr double samplesPerFiveMinutes(qint32 code) {
     return 300.0 / samplingInterval(code);
 }
+
+/// The interval in words: "10 s", "1 min".
+QString samplingTitle(qint32 code);
 
 }  // namespace tavrel

@@ -1,5 +1,6 @@
 #include "recordbooks/budget.h"
 
+#include "archive/recordarchive.h"
 #include "base/numbers.h"
 #include "book/card.h"
 #include "book/standardbook.h"
@@ -167,10 +168,7 @@ public:
     using RecordBookForm::RecordBookForm;
 
 protected:
-    void clear(int) override {
-        state().setDate(controls().miseAJourField, noDate());
-        state().requestFocus(controls().prestationField);
-    }
+    void clear(int) override { state().setDate(controls().miseAJourField, noDate()); }
 
     void refresh() override {
         state().setText(controls().totalField, shortestText(total()));
@@ -339,6 +337,9 @@ std::optional<RecordList> readPropertyList(QByteArrayView data) {
         }
         services.push_back(service);
     }
+    while (!xml.atEnd()) {
+        xml.readNext();
+    }
     return xml.hasError() ? std::nullopt : std::optional(services);
 }
 
@@ -362,12 +363,13 @@ Expected<RecordList> importFromVersion20(QByteArrayView data) {
         return std::move(*services);
     }
     qWarning("Format non reconnu");
-    return failure(text("Budget", "Unknown format"));
+    // What is wrong is said of the present format.
+    return readRecords(data, budgetLayout).map([](const RecordFile& file) { return file.records; });
 }
 
 const BookDescription& previBudget() {
     static constexpr BookDescription description{
-        .kind = {literal("Budget"), "Budget", "budget"},
+        .kind = {literal("Budget"), "Budget", "budget", true},
         .title = {"Main", "Type budget"},
         .layoutName = "Budget",
         .newAction = "newBudgetDocumentMenuAction",

@@ -81,7 +81,6 @@ protected:
     void clear(int) override {
         state().setDate(controls().dateField, noDate());
         state().setDate(controls().dateRenouvellementField, noDate());
-        state().requestFocus(controls().titreField);
     }
 
     void refresh() override {

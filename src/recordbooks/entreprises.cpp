@@ -101,7 +101,6 @@ protected:
             state().setText(hour, text("Main", "Closed"));
         }
         resetDateToNow();
-        state().requestFocus(controls().nomField);
     }
 
     void entered(int control) override {

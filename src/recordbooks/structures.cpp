@@ -156,7 +156,6 @@ protected:
         constexpr int firstPosition = 1;  // counted from 0: commercial
         state().selectPosition(controls().typePopUp, firstPosition);
         state().setDate(controls().miseAJourField, today());
-        state().requestFocus(controls().nomField);
     }
 };
 

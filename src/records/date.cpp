@@ -62,6 +62,15 @@ Date Date::fromDateTime(const QDateTime& moment) {
     return Date(static_cast<double>(moment.toMSecsSinceEpoch() - epoch2001 * 1000) / 1000.0);
 }
 
+Date Date::ofLocalTime(const QDate& day, const QTime& time) {
+    const QDateTime moment(day, time);
+    if (moment.isValid() || !day.isValid() || !time.isValid()) {
+        return fromDateTime(moment);
+    }
+    const int offsetBefore = QDateTime(day.addDays(-1), QTime(12, 0)).offsetFromUtc();
+    return fromDateTime(QDateTime(day, time, Qt::OffsetFromUTC, offsetBefore));
+}
+
 QDateTime Date::toDateTime() const {
     if (!seconds_ || !(std::abs(*seconds_) < calendarBound)) {
         return {};

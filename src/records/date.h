@@ -15,6 +15,9 @@ public:
     Date() = default;
     explicit Date(double secondsSince2001) : seconds_(secondsSince2001) {}
     static Date fromDateTime(const QDateTime& moment);
+    /// A day and time of the user's time zone. A time that a clock change skips is moved on by what the change skips,
+    /// as a clock that nobody has set would show it, and so keeps its day.
+    static Date ofLocalTime(const QDate& day, const QTime& time);
 
     bool isNull() const { return !seconds_; }
     /// Seconds since 1 January 2001 00:00:00 UTC; 0 when there is no date.

@@ -61,6 +61,24 @@ TEST_F(CommandLine, importsTheSampleFilesTellingTheirFormat) {
     }
 }
 
+TEST_F(CommandLine, showsWhatAFileHoldsAndTakesItOnce) {
+    done({QStringLiteral("new"), QStringLiteral("Carnet de plongee"), QStringLiteral("a.carnet")});
+    const QString file = QStringLiteral(TAVREL_TEST_DATA "/exchange/stages.uddf");
+    EXPECT_EQ(done({QStringLiteral("import"), QStringLiteral("a.carnet"), file, QStringLiteral("--dry-run"),
+                    QStringLiteral("--json")})
+                  .trimmed(),
+              QStringLiteral("{\"dives\": [{\"date\": \"2019-08-01\", \"time\": \"07:05\", \"depth\": 60.2, "
+                             "\"minutes\": 70, \"o2\": 18, \"he\": 45, \"samples\": 71, \"duplicate\": false, "
+                             "\"doubts\": []}, {\"date\": \"2019-08-02\", \"time\": \"23:59\", \"depth\": 12, "
+                             "\"minutes\": 30, \"o2\": 21, \"he\": 0, \"samples\": 0, \"duplicate\": false, "
+                             "\"doubts\": [\"no samples\"]}], \"lost\": [\"waypoint/tankpressure (dives: 1)\"]}"));
+    EXPECT_TRUE(dives(QStringLiteral("a.carnet")).empty()) << "only shown";
+    done({QStringLiteral("import"), QStringLiteral("a.carnet"), file});
+    EXPECT_EQ(done({QStringLiteral("import"), QStringLiteral("a.carnet"), file}),
+              QStringLiteral("0 dives were imported. Already there and left out: 2.\n"));
+    EXPECT_EQ(dives(QStringLiteral("a.carnet")).size(), 2U);
+}
+
 TEST_F(CommandLine, saysWhyAnImportOrExportFailed) {
     done({QStringLiteral("new"), QStringLiteral("Carnet de plongee"), QStringLiteral("a.carnet")});
     writeContents(

@@ -152,6 +152,14 @@ TEST_F(ViewCommands, cardsAndPagesComeFromTheSameRooms) {
     EXPECT_TRUE(contentsOf(path(QStringLiteral("list.svg"))).contains("<svg"));
     EXPECT_TRUE(contentsOf(path(QStringLiteral("list-2.svg"))).contains("<svg"));
     EXPECT_EQ(run(QStringLiteral("render m.materiel list.txt --what table").split(u' ')).code, 2);
+    done(QStringLiteral("new Plongee my.carnet").split(u' '));
+    done("add my.carnet profondeur=20 temps=40");
+    for (const char* what : {"stats", "graphs", "card"}) {
+        const QString file = QString::fromUtf8(what) + QStringLiteral(".svg");
+        done({QStringLiteral("render"), QStringLiteral("my.carnet"), file, QStringLiteral("--what"),
+              QString::fromUtf8(what)});
+        EXPECT_TRUE(contentsOf(path(file)).contains("<text")) << what;
+    }
     EXPECT_EQ(run(QStringLiteral("render m.materiel list.png --what profile").split(u' ')).code, 1);
 }
 

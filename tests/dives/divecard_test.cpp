@@ -13,7 +13,7 @@ class DiveCardTest : public testing::Test {
 protected:
     QString cardOf(const Plongee& dive) {
         const std::vector<DivePointer> dives{std::make_shared<const Plongee>(dive)};
-        return diveCard(dives, desktop_.desktop().preferences).text();
+        return diveCard(divesIn(dives), desktop_.desktop().preferences).text();
     }
     static Plongee plainDive() {
         Plongee dive;
@@ -157,13 +157,13 @@ TEST_F(DiveCardTest, SaysNothingForCodesWithoutAWord) {
 
 TEST_F(DiveCardTest, ParagraphsOfSeveralDivesAndTheirColours) {
     const std::vector<DivePointer> dives(2, std::make_shared<const Plongee>(plainDive()));
-    const StyledText card = diveCard(dives, desktop_.desktop().preferences);
+    const StyledText card = diveCard(divesIn(dives), desktop_.desktop().preferences);
     EXPECT_TRUE(card.text().contains(u"Notes\r\r\r--------------------\r\rDive number 12\r"));
     const auto& runs = card.runs();
     EXPECT_EQ(runs[0].text, u"Dive number ");
     EXPECT_EQ(runs[1].text, u"12");
     EXPECT_NE(runs[0].colour, runs[1].colour);
-    EXPECT_TRUE(diveCard({}, desktop_.desktop().preferences).runs().empty());
+    EXPECT_TRUE(diveCard(DiveSpan(), desktop_.desktop().preferences).runs().empty());
 }
 
 }  // namespace

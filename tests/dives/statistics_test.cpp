@@ -13,6 +13,10 @@ namespace {
 
 using Dives = std::vector<DivePointer>;
 
+Statistics statisticsOf(const Dives& dives, const PreviousTotals* previous = nullptr) {
+    return Statistics(divesIn(dives), previous);
+}
+
 template <class Change>
 DivePointer dive(Change change) {
     Plongee made;
@@ -36,7 +40,7 @@ std::map<QString, QString> textsOf(const Statistics& statistics) {
 
 TEST(Statistics, CountsDepthsInBands) {
     const Dives dives{deep(9), deep(9.9F), deep(10), deep(19), deep(20), deep(59), deep(60), deep(75), deep(-3)};
-    const Statistics statistics(dives, nullptr);
+    const Statistics statistics = statisticsOf(dives, nullptr);
     const std::array<qint64, 7> wanted{3, 2, 1, 0, 0, 1, 2};
     for (std::size_t band = 0; band < wanted.size(); ++band) {
         EXPECT_EQ(statistics.count(static_cast<StatCount>(static_cast<std::size_t>(StatCount::prof_1) + band)),
@@ -55,7 +59,8 @@ TEST(Statistics, CountsKindsByTheirCode) {
         {10, StatCount::glace},       {11, StatCount::formation}, {12, StatCount::bio},  {13, StatCount::carriere},
         {14, StatCount::recuperation}};
     for (int code = -1; code <= 15; ++code) {
-        const Statistics statistics(Dives{dive([=](Plongee& made) { made.typePlongee = code; })}, nullptr);
+        const Statistics statistics =
+            statisticsOf(Dives{dive([=](Plongee& made) { made.typePlongee = code; })}, nullptr);
         for (const auto& name : statCountNames()) {
             if (name.group == StatGroup::kinds) {
                 const bool counts = kinds.contains(code) && kinds.at(code) == name.count;
@@ -64,9 +69,9 @@ TEST(Statistics, CountsKindsByTheirCode) {
         }
     }
     // Technical and night dives follow fields of their own.
-    const Statistics both(Dives{dive([](Plongee& made) { made.configuration = made.nocturne = 1; }),
-                                dive([](Plongee& made) { made.configuration = made.nocturne = 2; })},
-                          nullptr);
+    const Statistics both = statisticsOf(Dives{dive([](Plongee& made) { made.configuration = made.nocturne = 1; }),
+                                               dive([](Plongee& made) { made.configuration = made.nocturne = 2; })},
+                                         nullptr);
     EXPECT_EQ(both.count(StatCount::tek), 1);
     EXPECT_EQ(both.count(StatCount::nocturne), 1);
 }
@@ -83,11 +88,11 @@ TEST(Statistics, GasFollowsTheBreathingSystem) {
          {Case{0, 0, co, air}, Case{0, 1, co, nitrox}, Case{1, 2, scr, trimix}, Case{0, 3, co, heliox},
           Case{0, 4, co, trimix}, Case{0, 5, co, trimix}, Case{1, 6, scr, heliox}, Case{2, 2, ccr, nitrox},
           Case{3, 0, ccr, nitrox}, Case{4, 3, ccr, nitrox}}) {
-        const Statistics statistics(Dives{dive([apparatus = apparatus, gas = gas](Plongee& made) {
-                                        made.rebreather = apparatus;
-                                        made.gaz = gas;
-                                    })},
-                                    nullptr);
+        const Statistics statistics = statisticsOf(Dives{dive([apparatus = apparatus, gas = gas](Plongee& made) {
+                                                       made.rebreather = apparatus;
+                                                       made.gaz = gas;
+                                                   })},
+                                                   nullptr);
         for (const auto& name : statCountNames()) {
             if (name.group == StatGroup::systems || name.group == StatGroup::gases) {
                 EXPECT_EQ(statistics.count(name.count), name.count == system || name.count == counted ? 1 : 0)
@@ -95,24 +100,24 @@ TEST(Statistics, GasFollowsTheBreathingSystem) {
             }
         }
     }
-    const Statistics unknown(Dives{dive([](Plongee& made) { made.rebreather = 5; })}, nullptr);
+    const Statistics unknown = statisticsOf(Dives{dive([](Plongee& made) { made.rebreather = 5; })}, nullptr);
     EXPECT_EQ(unknown.count(co) + unknown.count(scr) + unknown.count(ccr), 0);
     EXPECT_EQ(unknown.count(air), 1);
 }
 
 TEST(Statistics, WaterTemperaturesLeaveOutWhatWasNotGiven) {
     const auto water = [](qint32 degrees) { return dive([=](Plongee& made) { made.tempEau = degrees; }); };
-    const Statistics statistics(Dives{water(14), water(-50), water(21), water(20)}, nullptr);
+    const Statistics statistics = statisticsOf(Dives{water(14), water(-50), water(21), water(20)}, nullptr);
     EXPECT_EQ(statistics.coldest(), 14);
     EXPECT_EQ(statistics.warmest(), 21);
     EXPECT_EQ(statistics.meanTemperature(), 18);  // 55 / 3
 
-    const Statistics none(Dives{water(-50)}, nullptr);
+    const Statistics none = statisticsOf(Dives{water(-50)}, nullptr);
     EXPECT_EQ(none.coldest(), 10000);
     EXPECT_EQ(none.warmest(), 0);
     EXPECT_EQ(none.meanTemperature(), 0);
     const PreviousTotals nothing;
-    EXPECT_EQ(Statistics(Dives{water(14)}, &nothing).coldest(), 0);
+    EXPECT_EQ(statisticsOf(Dives{water(14)}, &nothing).coldest(), 0);
 }
 
 TEST(Statistics, PreviousTotalsEnterEveryFigureButTheMeanTemperature) {
@@ -133,7 +138,7 @@ TEST(Statistics, PreviousTotalsEnterEveryFigureButTheMeanTemperature) {
         made.temps = 100;
         made.tempEau = 15;
     })};
-    const Statistics with(dives, &previous);
+    const Statistics with = statisticsOf(dives, &previous);
     EXPECT_EQ(with.total(), 10);
     EXPECT_EQ(with.count(StatCount::trimix), 5);
     EXPECT_FLOAT_EQ(with.share(StatCount::trimix), 50);
@@ -146,7 +151,7 @@ TEST(Statistics, PreviousTotalsEnterEveryFigureButTheMeanTemperature) {
     EXPECT_EQ(with.warmest(), 31);
     EXPECT_EQ(with.meanTemperature(), 15);
 
-    const Statistics without(dives, nullptr);
+    const Statistics without = statisticsOf(dives, nullptr);
     EXPECT_EQ(without.total(), 1);
     EXPECT_EQ(without.count(StatCount::trimix), 1);
     EXPECT_EQ(without.coldest(), 15);
@@ -164,7 +169,7 @@ TEST(Statistics, TextsHaveTheirFormats) {
                     made.tempEau = 17;
                 }));
     dives.push_back(deep(10));
-    const auto texts = textsOf(Statistics(dives, nullptr));
+    const auto texts = textsOf(statisticsOf(dives, nullptr));
     EXPECT_EQ(texts.at(QStringLiteral("statDivesField")), u"4 dives");
     EXPECT_EQ(texts.at(QStringLiteral("statVideoField")), u"3");
     EXPECT_EQ(texts.at(QStringLiteral("statP_VideoField")), u" 75.0 %");
@@ -175,12 +180,12 @@ TEST(Statistics, TextsHaveTheirFormats) {
     EXPECT_EQ(texts.at(QStringLiteral("statTempsField")), u"3 h 15 min.\r(195 min.)");
     EXPECT_EQ(texts.at(QStringLiteral("statTempsMoyField")), u"48 min.");
     EXPECT_EQ(texts.at(QStringLiteral("statTempMoyField")), u"17 °C");
-    EXPECT_EQ(textsOf(Statistics(Dives{dive([](Plongee& made) { made.temps = 65; })}, nullptr))
+    EXPECT_EQ(textsOf(statisticsOf(Dives{dive([](Plongee& made) { made.temps = 65; })}, nullptr))
                   .at(QStringLiteral("statTempsField")),
               u"1 h 05 min.\r(65 min.)");
     EXPECT_EQ(texts.size(), 1U + 2 * 29 + 9);
 
-    for (const auto& each : Statistics(dives, nullptr).texts()) {
+    for (const auto& each : statisticsOf(dives, nullptr).texts()) {
         if (each.field == u"statP_VideoField") {
             EXPECT_EQ(each.explanation, u"Share = 3 / 4 × 100 = 75.0 %");
         }
@@ -188,7 +193,7 @@ TEST(Statistics, TextsHaveTheirFormats) {
 }
 
 TEST(Statistics, AnEmptyLogbookSharesNothing) {
-    const Statistics empty({}, nullptr);
+    const Statistics empty = statisticsOf({}, nullptr);
     EXPECT_FLOAT_EQ(empty.share(StatCount::air), 0);
     EXPECT_EQ(empty.averageDepth(), 0);
     EXPECT_EQ(textsOf(empty).at(QStringLiteral("statTempMinField")), u"10000 °C");
@@ -196,8 +201,8 @@ TEST(Statistics, AnEmptyLogbookSharesNothing) {
 
     PreviousTotals previous;
     previous.counts[static_cast<std::size_t>(StatCount::air)] = 2;
-    EXPECT_TRUE(std::isinf(Statistics({}, &previous).graphShare(StatCount::air)));
-    EXPECT_FLOAT_EQ(Statistics({}, &previous).share(StatCount::air), 200);
+    EXPECT_TRUE(std::isinf(statisticsOf({}, &previous).graphShare(StatCount::air)));
+    EXPECT_FLOAT_EQ(statisticsOf({}, &previous).share(StatCount::air), 200);
 }
 
 }  // namespace

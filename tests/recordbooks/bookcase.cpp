@@ -35,8 +35,10 @@ FieldValue valueAt(FieldKind kind, int place) {
             return QStringLiteral("t%1").arg(place + 1);
         case FieldKind::date:
             return Date((place + 1) * 86400.0);
+        case FieldKind::image:
+            return Image{QByteArray("t") + QByteArray::number(place + 1), 20, 10, {}};
         default:
-            return Image();
+            return {};
     }
 }
 
@@ -106,6 +108,40 @@ const std::vector<BookCase> bookCases{
      "cell2_in:@ cell3_in:@ cell4_in:@ cell5_in:@ notes:@"},
     {"Consommables", &invConso, "Consommables", "newPart addPart insertPart updatePart deletePart", "One card", 3,
      "reference:@ marque:@ utilisation:@ stock:f reserve:f rangement:@ noInventaire:i dateInventaire:@ notes:@"},
+    {"Budget", &previBudget, "Budget", "newPrestation addPrestation insertPrestation updatePrestation deletePrestation",
+     "One card", 3,
+     "prestation:@ quantite_0:i quantite_1:i quantite_2:i quantite_3:i quantite_4:i quantite_5:i "
+     "prixUnitaire_0:f prixUnitaire_1:f prixUnitaire_2:f prixUnitaire_3:f prixUnitaire_4:f "
+     "prixUnitaire_5:f supplement_1:@ supplement_2:@ supplement_3:@ supplement_4:@ prixDegressif:i "
+     "unitesCarte_1:i unitesCarte_2:i unitesCarte_3:i unitesCarte_4:i prixCarte_1:f prixCarte_2:f "
+     "prixCarte_3:f prixCarte_4:f prevDepense:i entreprise:@ qualitePrix:i delai:i miseAJour:@ notes:@",
+     "\r\rFile dir : /home/b.file\r\rEdition date : 2024-06-15 "},
+    {"Entreprises", &adressesEts, "Entreprises", "newFirm addFirm insertFirm updateEntreprise deleteFirm", "One card",
+     3,
+     "entreprise:@ adresse:@ codePostal:@ ville:@ pays:@ telephone:@ fax:@ email:@ url:@ activite:@ "
+     "miseAJour:@ horaireLundi_1:@ horaireLundi_2:@ horaireLundi_3:@ horaireLundi_4:@ horaireMardi_1:@ "
+     "horaireMardi_2:@ horaireMardi_3:@ horaireMardi_4:@ horaireMercredi_1:@ horaireMercredi_2:@ "
+     "horaireMercredi_3:@ horaireMercredi_4:@ horaireJeudi_1:@ horaireJeudi_2:@ horaireJeudi_3:@ "
+     "horaireJeudi_4:@ horaireVendredi_1:@ horaireVendredi_2:@ horaireVendredi_3:@ horaireVendredi_4:@ "
+     "horaireSamedi_1:@ horaireSamedi_2:@ horaireSamedi_3:@ horaireSamedi_4:@ horaireDimanche_1:@ "
+     "horaireDimanche_2:@ horaireDimanche_3:@ horaireDimanche_4:@ remarques:@ cotation:i",
+     "\rFile dir : /home\r\rEdition date : 2024-06-15 ", 1},
+    {"Structures", &adressesStruct, "Structures",
+     "newStructure addStructure insertStructure updateStructure deleteStructure", "One card", 3,
+     "nom:@ type:i affiliation:@ gerant:@ adresse:@ codePostal:i ville:@ pays:@ telephone:@ portable:@ "
+     "fax:@ url:@ email:@ cotation:i miseAJour:@ plongee_1:@ plongee_2:@ plongee_3:@ plongee_4:@ "
+     "plongee_5:@ bapteme:f prix_1:f prix_2:f prix_3:f prix_4:f prix_5:f formation_1:@ formation_2:@ "
+     "formation_3:@ formation_4:@ formation_5:@ formation_6:@ prixForm_1:f prixForm_2:f prixForm_3:f "
+     "prixForm_4:f prixForm_5:f prixForm_6:f horaireLundi_1:@ horaireLundi_2:@ horaireLundi_3:@ "
+     "horaireLundi_4:@ horaireMardi_1:@ horaireMardi_2:@ horaireMardi_3:@ horaireMardi_4:@ "
+     "horaireMercredi_1:@ horaireMercredi_2:@ horaireMercredi_3:@ horaireMercredi_4:@ horaireJeudi_1:@ "
+     "horaireJeudi_2:@ horaireJeudi_3:@ horaireJeudi_4:@ horaireVendredi_1:@ horaireVendredi_2:@ "
+     "horaireVendredi_3:@ horaireVendredi_4:@ horaireSamedi_1:@ horaireSamedi_2:@ horaireSamedi_3:@ "
+     "horaireSamedi_4:@ horaireDimanche_1:@ horaireDimanche_2:@ horaireDimanche_3:@ horaireDimanche_4:@ "
+     "nbPlongees:i remarques:@",
+     "\rFile dir : /home\r\rEdition date : 2024-06-15 ", 1},
+    {"DiversDocs", &diversDocuments, "Miscellaneous documents", "newDoc addDoc insertDoc updateDoc deleteDoc",
+     "One card", 3, "type:i titre:@ emetteur:@ date:@ renouveler:i dateRenouvellement:@ photocopy:@ notes:@", nullptr},
 };
 
 }  // namespace tavrel

@@ -22,6 +22,10 @@ struct BookCase {
     int pages;
     /// The items of a record in archive order, "field:code"; "field<source:code" where another field is written.
     const char* archive;
+    /// What the last run of the card of "/home/b.file" begins with, and between or before the records of a card; null
+    /// for a book without cards.
+    const char* closing = "\rFile dir : /home/b.file\r\rEdition date : 2024-06-15 ";
+    int separators = 2;  ///< in a card of two records, at least
 };
 
 inline void PrintTo(const BookCase& book, std::ostream* out) {
@@ -41,7 +45,7 @@ std::vector<ArchivedItem> archivedItems(const BookCase& book);
 std::shared_ptr<Record> distinctRecord(const BookCase& book);
 
 /// The value of the field at a place from 0: the whole number place + 1, the decimal place + 1.5, the text "t" with
-/// place + 1, the day that lies place + 1 days after 1 January 2001.
+/// place + 1, the day that lies place + 1 days after 1 January 2001, a picture whose bytes are that text.
 FieldValue valueAt(FieldKind kind, int place);
 
 /// What a file of one record holds, item by item: "i 3", "f 4.5", "@ t1", "@ 86400", "@ nil".

@@ -9,6 +9,7 @@
 #include "records/nodate.h"
 #include "support/testdesktop.h"
 
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <gtest/gtest.h>
 
@@ -55,11 +56,12 @@ TEST_P(RecordBook, archivesItsFieldsInOrder) {
             ++place;
         }
         const std::string number = std::to_string(place + 1);
-        const bool isDay = layout.field(std::string_view(item.source)).kind() == FieldKind::date;
-        const std::string value = item.code == 'i'   ? number
-                                  : item.code == 'f' ? number + ".5"
-                                  : isDay            ? std::to_string((place + 1) * 86400)
-                                                     : "t" + number;
+        const FieldKind kind = layout.field(std::string_view(item.source)).kind();
+        const std::string value = item.code == 'i'           ? number
+                                  : item.code == 'f'         ? number + ".5"
+                                  : kind == FieldKind::date  ? std::to_string((place + 1) * 86400)
+                                  : kind == FieldKind::image ? "nil"  // the name that pictures do not have
+                                                             : "t" + number;
         expected << QString::fromStdString(std::string(1, item.code) + ' ' + value);
     }
     EXPECT_EQ(itemsOf(writeRecords({record}, layout)), expected);
@@ -201,7 +203,10 @@ TEST_P(RecordBook, showsItsRecordsInColumnsWithTitles) {
 }
 
 TEST_P(RecordBook, writesACardOfEveryRecord) {
-    ASSERT_NE(description.card, nullptr);
+    ASSERT_EQ(description.card == nullptr, GetParam().closing == nullptr);
+    if (!description.card) {
+        return;
+    }
     const RecordList records{distinctRecord(GetParam()), layout.make()};
     for (const auto& language : {QStringLiteral("fr"), QStringLiteral("en")}) {
         setTextLanguage(language);
@@ -209,9 +214,11 @@ TEST_P(RecordBook, writesACardOfEveryRecord) {
         EXPECT_FALSE(card.text().contains(missingText())) << card.text().toStdString();
         EXPECT_EQ(card.runs().front().colour, plaincolour::green);
         EXPECT_EQ(card.runs().back().colour, plaincolour::green);
-        EXPECT_TRUE(card.runs().back().text.startsWith(u"\rFile dir : /home/b.file\r\rEdition date : 2024-06-15 "))
+        EXPECT_TRUE(card.runs().back().text.startsWith(QString::fromUtf8(GetParam().closing)))
             << card.runs().back().text.toStdString();
-        EXPECT_GE(card.text().count(QStringLiteral("\r--------------------")), 2);
+        EXPECT_TRUE(QRegularExpression(QStringLiteral(" 14:30:00 [+-][0-9]{4}$")).match(card.text()).hasMatch())
+            << card.text().toStdString();
+        EXPECT_GE(card.text().count(QStringLiteral("\r--------------------")), GetParam().separators);
         EXPECT_FALSE(card.text().contains(u'\n'));
         const bool labelled = std::any_of(card.runs().begin(), card.runs().end(),
                                           [](const StyledRun& run) { return run.colour == plaincolour::black; });

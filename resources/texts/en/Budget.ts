@@ -59,7 +59,6 @@
 <message><source>Services</source><translation>Planned services</translation></message>
 <message><source>Supplement</source><translation>&#13;Supplement: </translation></message>
 <message><source>Units at</source><translation> units at</translation></message>
-<message><source>Unknown format</source><translation>The file is not a budget, and not one of an earlier format either.</translation></message>
 <message><source>Very bad</source><translation>Very bad</translation></message>
 <message><source>Very good</source><translation>Very good</translation></message>
 <message><source>Very inefficient</source><translation>Very slow</translation></message>

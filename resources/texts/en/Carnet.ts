@@ -11,6 +11,7 @@
 <message><source>Air</source><translation>Air</translation></message>
 <message><source>Air tables</source><translation>&#13;Air tables, computer: </translation></message>
 <message><source>Air temperature</source><translation>&#13;Air temperature: </translation></message>
+<message><source>All dives</source><translation>All dives</translation></message>
 <message><source>Altitude</source><translation>&#13;Altitude: </translation></message>
 <message><source>Aluminum</source><translation>Aluminium</translation></message>
 <message><source>At</source><translation> L at </translation></message>
@@ -26,6 +27,7 @@
 <message><source>CCR rebreather</source><translation>&#13;mCCR rebreather</translation></message>
 <message><source>CNS</source><translation>ppO₂ %.2f bar, CNS clock %.1f %%</translation></message>
 <message><source>Carbon</source><translation>Carbon</translation></message>
+<message><source>Card of dives</source><translation>Summary card: %@</translation></message>
 <message><source>Cave</source><translation>Cave</translation></message>
 <message><source>Celsius</source><translation>%d °C</translation></message>
 <message><source>Character not in Mac OS Roman</source><translation>Dive no. %d holds the character “%@” (%@), which Mac OS Roman text cannot hold.</translation></message>
@@ -49,8 +51,11 @@
 <message><source>Computer</source><translation>&#13;Dive computer: </translation></message>
 <message><source>Conditions</source><translation>&#13;&#13;Conditions</translation></message>
 <message><source>Configuration</source><translation>&#13;Configuration: </translation></message>
+<message><source>Consumption</source><translation>Consumption</translation></message>
+<message><source>Consumption of</source><translation>Gas consumption: %@</translation></message>
 <message><source>Copying</source><translation>Copying the dives…</translation></message>
 <message><source>Current</source><translation>&#13;Current: </translation></message>
+<message><source>Current dive</source><translation>Current dive</translation></message>
 <message><source>Datas</source><translation>%d values</translation></message>
 <message><source>Date</source><translation>&#13;Date: </translation></message>
 <message><source>Deco algorythm type</source><translation>&#13;Algorithm: </translation></message>
@@ -63,12 +68,15 @@
 <message><source>Delta pressure</source><translation>%d bar used</translation></message>
 <message><source>Depth</source><translation>&#13;Depth: </translation></message>
 <message><source>Detail runtime</source><translation>&#13;Run-time table: </translation></message>
+<message><source>Details</source><translation>Details</translation></message>
 <message><source>Difficulty level</source><translation>&#13;Difficulty: </translation></message>
 <message><source>Diluent</source><translation>&#13;Diluent tank: </translation></message>
 <message><source>Dive number</source><translation>Dive number </translation></message>
 <message><source>Dive number profile datas title</source><translation>Profile data of dive %d</translation></message>
 <message><source>Dive number title</source><translation>Dive no. %d</translation></message>
 <message><source>Dive type</source><translation>&#13;Dive type: </translation></message>
+<message><source>Dives counted</source><translation>Dives counted</translation></message>
+<message><source>Dives found</source><translation>Dives found</translation></message>
 <message><source>Drift</source><translation>Drift</translation></message>
 <message><source>Dry suit</source><translation>Drysuit</translation></message>
 <message><source>Easy</source><translation>Easy</translation></message>
@@ -95,6 +103,13 @@
 <message><source>Extreme</source><translation>Extreme</translation></message>
 <message><source>Farenheit</source><translation>%d °F</translation></message>
 <message><source>Feet</source><translation>%.1f ft</translation></message>
+<message><source>Figure SAC</source><translation>Surface consumption</translation></message>
+<message><source>Figure air</source><translation>Air temperature</translation></message>
+<message><source>Figure average depth</source><translation>Average depth</translation></message>
+<message><source>Figure gas used</source><translation>Gas used</translation></message>
+<message><source>Figure oxygen clock</source><translation>Oxygen clock (CNS)</translation></message>
+<message><source>Figure pressure per minute</source><translation>Pressure per minute</translation></message>
+<message><source>Figure water</source><translation>Water temperature</translation></message>
 <message><source>Find</source><translation>Find</translation></message>
 <message><source>Find boats</source><translation>Boats</translation></message>
 <message><source>Find buddies</source><translation>Buddies</translation></message>
@@ -113,6 +128,8 @@
 <message><source>Gas status error</source><translation>Enter a start pressure and a dive time.</translation></message>
 <message><source>General</source><translation>&#13;&#13;General</translation></message>
 <message><source>Good</source><translation>Good</translation></message>
+<message><source>Graph bar</source><translation>Depths and gases</translation></message>
+<message><source>Graph share</source><translation>Share of dives</translation></message>
 <message><source>Group apparatus</source><translation>Breathing apparatus</translation></message>
 <message><source>Group bail-outs</source><translation>Bail-out cylinders</translation></message>
 <message><source>Group computer</source><translation>Dive computer</translation></message>
@@ -226,8 +243,10 @@
 <message><source>Nitrox tables</source><translation>&#13;Nitrox tables, computer: </translation></message>
 <message><source>No Tek</source><translation>Recreational</translation></message>
 <message><source>No datas</source><translation>No data</translation></message>
+<message><source>No dive selected</source><translation>Select a dive to see its details.</translation></message>
 <message><source>No dive to export</source><translation>The logbook holds no dive, and UDDF cannot be written without one.</translation></message>
 <message><source>No dives yet</source><translation>No dives yet. Press %@ to enter the first one.</translation></message>
+<message><source>No notes</source><translation>No notes</translation></message>
 <message><source>No such field</source><translation>Dives have no field "%@" that can be used this way.</translation></message>
 <message><source>No suit</source><translation>No suit</translation></message>
 <message><source>No wind</source><translation>no wind</translation></message>
@@ -257,6 +276,9 @@
 <message><source>PpO2</source><translation>PpO₂ (bar)</translation></message>
 <message><source>Pressure in out</source><translation>The end pressure must not exceed the start pressure, and neither may be negative.</translation></message>
 <message><source>Previous dive</source><translation>Previous dive</translation></message>
+<message><source>Previous dives edit</source><translation>Previous dives…</translation></message>
+<message><source>Previous dives hint</source><translation>What you enter here is added to the statistics of every logbook.</translation></message>
+<message><source>Previous dives title</source><translation>Dives before this logbook</translation></message>
 <message><source>Profile</source><translation>Profile</translation></message>
 <message><source>Profile datas</source><translation>Profile data</translation></message>
 <message><source>Profile of dive</source><translation>Profile of dive %d</translation></message>
@@ -277,6 +299,7 @@
 <message><source>SCR rebreather</source><translation>&#13;SCR rebreather</translation></message>
 <message><source>Sampling rate</source><translation>Sampling interval: %@</translation></message>
 <message><source>Scaphander</source><translation>&#13;hCCR rebreather</translation></message>
+<message><source>Selected dives</source><translation>Selected dives</translation></message>
 <message><source>Semi-dry suit</source><translation>Semi-dry suit</translation></message>
 <message><source>Shorty</source><translation>Shorty</translation></message>
 <message><source>Site</source><translation>&#13;Site: </translation></message>
@@ -287,8 +310,15 @@
 <message><source>Stat average time</source><translation>Average time</translation></message>
 <message><source>Stat closed</source><translation>Closed-circuit rebreather</translation></message>
 <message><source>Stat coldest</source><translation>Coldest water</translation></message>
+<message><source>Stat count and share</source><translation>%d (%@)</translation></message>
 <message><source>Stat deepest</source><translation>Deepest dive</translation></message>
 <message><source>Stat dives</source><translation>Dives</translation></message>
+<message><source>Stat group depths</source><translation>Depths</translation></message>
+<message><source>Stat group gases</source><translation>Gases</translation></message>
+<message><source>Stat group kinds</source><translation>Kinds of dive</translation></message>
+<message><source>Stat group measures</source><translation>Depth, time and water</translation></message>
+<message><source>Stat group systems</source><translation>Breathing systems</translation></message>
+<message><source>Stat label</source><translation>%@: </translation></message>
 <message><source>Stat longest</source><translation>Longest dive</translation></message>
 <message><source>Stat mean water</source><translation>Mean water temperature</translation></message>
 <message><source>Stat night</source><translation>Night dive</translation></message>
@@ -298,6 +328,8 @@
 <message><source>Stat total time</source><translation>Total time</translation></message>
 <message><source>Stat warmest</source><translation>Warmest water</translation></message>
 <message><source>Statistics</source><translation>Statistics</translation></message>
+<message><source>Statistics graphs</source><translation>Statistics in graphs</translation></message>
+<message><source>Statistics of</source><translation>Statistics of %@</translation></message>
 <message><source>Steel</source><translation>Steel</translation></message>
 <message><source>Store dive question</source><translation>The dive in the form was changed and is not stored yet.</translation></message>
 <message><source>Strong</source><translation>Strong</translation></message>
@@ -357,6 +389,7 @@
 <message><source>Undo insert</source><translation>Insert Dive</translation></message>
 <message><source>Undo renumber</source><translation>Renumber Dives</translation></message>
 <message><source>Undo update</source><translation>Edit Dive</translation></message>
+<message><source>Unknown temperature</source><translation>Not known: no temperature was entered.</translation></message>
 <message><source>Unknown with bad samples</source><translation>Not known: the profile holds depths that are no numbers.</translation></message>
 <message><source>Unknown without samples</source><translation>Not known: the dive has no profile, so no average depth.</translation></message>
 <message><source>Unknown without start pressure</source><translation>Not known: the dive has no start pressure.</translation></message>
@@ -379,6 +412,7 @@
 <message><source>Wind</source><translation>&#13;Wind: </translation></message>
 <message><source>Wind force</source><translation>&#13;Wind force: </translation></message>
 <message><source>Wind sector</source><translation>&#13;Wind sector: </translation></message>
+<message><source>Without previous dives</source><translation>Without previous dives</translation></message>
 <message><source>Work</source><translation>Work</translation></message>
 <message><source>Wreck</source><translation>Wreck</translation></message>
 <message><source>Wrecks</source><translation>&#13;Wrecks: </translation></message>

@@ -10,6 +10,7 @@
 <message><source>Groups</source><translation>Groups: %d</translation></message>
 <message><source>Little-endian</source><translation>Byte order: little-endian</translation></message>
 <message><source>No card</source><translation>Documents of the type “%@” have no card.</translation></message>
+<message><source>No picture field</source><translation>Documents of the type “%@” hold no pictures.</translation></message>
 <message><source>No such row</source><translation>There is no row %d: the document has %d records, counted from 0.</translation></message>
 <message><source>No such type</source><translation>“%@” is not a type of document. Types: %@.</translation></message>
 <message><source>Not a logbook</source><translation>“%@” is not a logbook.</translation></message>
@@ -21,6 +22,7 @@
 <message><source>Objects</source><translation>Objects: %d</translation></message>
 <message><source>Output not written</source><translation>The output could not be written.</translation></message>
 <message><source>Picture endings</source><translation>The file's name must end in .pdf, .svg or .png.</translation></message>
+<message><source>Pressure drop line</source><translation>Tank %d: %@</translation></message>
 <message><source>References</source><translation>References: %d</translation></message>
 <message><source>Row</source><translation>Row</translation></message>
 <message><source>Row or new</source><translation>Give either --row or --new.</translation></message>

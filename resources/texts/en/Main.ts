@@ -28,7 +28,9 @@
 <message><source>Command line files</source><translation>Documents to open.</translation></message>
 <message><source>Command line help</source><translation>Show this help.</translation></message>
 <message><source>Command line version</source><translation>Show the version.</translation></message>
+<message><source>Copy data</source><translation>Copy Data</translation></message>
 <message><source>Copy kept</source><translation>The previous contents are kept in “%@”.</translation></message>
+<message><source>Copy picture</source><translation>Copy Picture</translation></message>
 <message><source>Copying</source><translation>Copying the rows…</translation></message>
 <message><source>Cotation 0</source><translation>☆</translation></message>
 <message><source>Cotation 1</source><translation>★</translation></message>
@@ -201,6 +203,7 @@ Overwriting loses what that program wrote, reloading what you entered.</translat
 <message><source>Separator</source><translation>Separator</translation></message>
 <message><source>Services</source><translation>Services</translation></message>
 <message><source>Shops</source><translation>Shops</translation></message>
+<message><source>Show data</source><translation>Show Data…</translation></message>
 <message><source>Sites</source><translation>Sites</translation></message>
 <message><source>Space</source><translation>Space</translation></message>
 <message><source>Store</source><translation>Store</translation></message>

@@ -59,7 +59,6 @@
 <message><source>Services</source><translation>Prestations prévues</translation></message>
 <message><source>Supplement</source><translation>&#13;Supplément : </translation></message>
 <message><source>Units at</source><translation> unités à</translation></message>
-<message><source>Unknown format</source><translation>Le fichier n’est pas un budget, ni un budget d’un format antérieur.</translation></message>
 <message><source>Very bad</source><translation>Très mauvais</translation></message>
 <message><source>Very good</source><translation>Très bon</translation></message>
 <message><source>Very inefficient</source><translation>Très lent</translation></message>

@@ -11,6 +11,7 @@
 <message><source>Air</source><translation>Air</translation></message>
 <message><source>Air tables</source><translation>&#13;Tables à l’air, ordinateur : </translation></message>
 <message><source>Air temperature</source><translation>&#13;Température de l’air : </translation></message>
+<message><source>All dives</source><translation>Toutes les plongées</translation></message>
 <message><source>Altitude</source><translation>&#13;Altitude : </translation></message>
 <message><source>Aluminum</source><translation>Aluminium</translation></message>
 <message><source>At</source><translation> L à </translation></message>
@@ -26,6 +27,7 @@
 <message><source>CCR rebreather</source><translation>&#13;Recycleur mCCR</translation></message>
 <message><source>CNS</source><translation>PpO₂ %.2f bar, horloge SNC %.1f %%</translation></message>
 <message><source>Carbon</source><translation>Carbone</translation></message>
+<message><source>Card of dives</source><translation>Fiche de synthèse : %@</translation></message>
 <message><source>Cave</source><translation>Souterraine</translation></message>
 <message><source>Celsius</source><translation>%d °C</translation></message>
 <message><source>Character not in Mac OS Roman</source><translation>La plongée n° %d contient le caractère « %@ » (%@), que le texte Mac OS Roman ne peut contenir.</translation></message>
@@ -49,8 +51,11 @@
 <message><source>Computer</source><translation>&#13;Ordinateur : </translation></message>
 <message><source>Conditions</source><translation>&#13;&#13;Conditions</translation></message>
 <message><source>Configuration</source><translation>&#13;Configuration : </translation></message>
+<message><source>Consumption</source><translation>Consommation</translation></message>
+<message><source>Consumption of</source><translation>Consommation de gaz : %@</translation></message>
 <message><source>Copying</source><translation>Copie des plongées…</translation></message>
 <message><source>Current</source><translation>&#13;Courant : </translation></message>
+<message><source>Current dive</source><translation>Plongée courante</translation></message>
 <message><source>Datas</source><translation>%d valeurs</translation></message>
 <message><source>Date</source><translation>&#13;Date : </translation></message>
 <message><source>Deco algorythm type</source><translation>&#13;Algorithme : </translation></message>
@@ -63,12 +68,15 @@
 <message><source>Delta pressure</source><translation>%d bars consommés</translation></message>
 <message><source>Depth</source><translation>&#13;Profondeur : </translation></message>
 <message><source>Detail runtime</source><translation>&#13;Détail du run time : </translation></message>
+<message><source>Details</source><translation>Détails</translation></message>
 <message><source>Difficulty level</source><translation>&#13;Difficulté : </translation></message>
 <message><source>Diluent</source><translation>&#13;Bloc de diluant : </translation></message>
 <message><source>Dive number</source><translation>Plongée numéro </translation></message>
 <message><source>Dive number profile datas title</source><translation>Données du profil de la plongée %d</translation></message>
 <message><source>Dive number title</source><translation>Plongée n° %d</translation></message>
 <message><source>Dive type</source><translation>&#13;Type de plongée : </translation></message>
+<message><source>Dives counted</source><translation>Plongées comptées</translation></message>
+<message><source>Dives found</source><translation>Plongées trouvées</translation></message>
 <message><source>Drift</source><translation>Dérivante</translation></message>
 <message><source>Dry suit</source><translation>Combinaison étanche</translation></message>
 <message><source>Easy</source><translation>Facile</translation></message>
@@ -95,6 +103,13 @@
 <message><source>Extreme</source><translation>Extrême</translation></message>
 <message><source>Farenheit</source><translation>%d °F</translation></message>
 <message><source>Feet</source><translation>%.1f ft</translation></message>
+<message><source>Figure SAC</source><translation>Consommation en surface</translation></message>
+<message><source>Figure air</source><translation>Température de l’air</translation></message>
+<message><source>Figure average depth</source><translation>Profondeur moyenne</translation></message>
+<message><source>Figure gas used</source><translation>Gaz consommé</translation></message>
+<message><source>Figure oxygen clock</source><translation>Horloge de l’oxygène (SNC)</translation></message>
+<message><source>Figure pressure per minute</source><translation>Pression par minute</translation></message>
+<message><source>Figure water</source><translation>Température de l’eau</translation></message>
 <message><source>Find</source><translation>Rechercher</translation></message>
 <message><source>Find boats</source><translation>Bateaux</translation></message>
 <message><source>Find buddies</source><translation>Équipiers</translation></message>
@@ -113,6 +128,8 @@
 <message><source>Gas status error</source><translation>Indiquez une pression de départ et une durée de plongée.</translation></message>
 <message><source>General</source><translation>&#13;&#13;Généralités</translation></message>
 <message><source>Good</source><translation>Bonne</translation></message>
+<message><source>Graph bar</source><translation>Profondeurs et gaz</translation></message>
+<message><source>Graph share</source><translation>Part des plongées</translation></message>
 <message><source>Group apparatus</source><translation>Appareil respiratoire</translation></message>
 <message><source>Group bail-outs</source><translation>Blocs de secours (bail-out)</translation></message>
 <message><source>Group computer</source><translation>Ordinateur de plongée</translation></message>
@@ -226,8 +243,10 @@
 <message><source>Nitrox tables</source><translation>&#13;Tables nitrox, ordinateur : </translation></message>
 <message><source>No Tek</source><translation>Loisir</translation></message>
 <message><source>No datas</source><translation>Pas de données</translation></message>
+<message><source>No dive selected</source><translation>Sélectionnez une plongée pour en voir les détails.</translation></message>
 <message><source>No dive to export</source><translation>Le carnet ne contient aucune plongée, et l’UDDF ne peut s’écrire sans.</translation></message>
 <message><source>No dives yet</source><translation>Aucune plongée. Appuyez sur %@ pour saisir la première.</translation></message>
+<message><source>No notes</source><translation>Pas de notes</translation></message>
 <message><source>No such field</source><translation>Les plongées n’ont pas de champ « %@ » utilisable ainsi.</translation></message>
 <message><source>No suit</source><translation>Sans combinaison</translation></message>
 <message><source>No wind</source><translation>pas de vent</translation></message>
@@ -257,6 +276,9 @@
 <message><source>PpO2</source><translation>PpO₂ (bar)</translation></message>
 <message><source>Pressure in out</source><translation>La pression de fin ne doit pas dépasser la pression de départ et aucune des deux ne peut être négative.</translation></message>
 <message><source>Previous dive</source><translation>Plongée précédente</translation></message>
+<message><source>Previous dives edit</source><translation>Plongées antérieures…</translation></message>
+<message><source>Previous dives hint</source><translation>Ce que vous indiquez ici s’ajoute aux statistiques de tous les carnets.</translation></message>
+<message><source>Previous dives title</source><translation>Plongées antérieures à ce carnet</translation></message>
 <message><source>Profile</source><translation>Profil</translation></message>
 <message><source>Profile datas</source><translation>Données du profil</translation></message>
 <message><source>Profile of dive</source><translation>Profil de la plongée %d</translation></message>
@@ -277,6 +299,7 @@
 <message><source>SCR rebreather</source><translation>&#13;Recycleur SCR</translation></message>
 <message><source>Sampling rate</source><translation>Intervalle d’échantillonnage : %@</translation></message>
 <message><source>Scaphander</source><translation>&#13;Recycleur hCCR</translation></message>
+<message><source>Selected dives</source><translation>Plongées sélectionnées</translation></message>
 <message><source>Semi-dry suit</source><translation>Combinaison semi-étanche</translation></message>
 <message><source>Shorty</source><translation>Shorty</translation></message>
 <message><source>Site</source><translation>&#13;Site : </translation></message>
@@ -287,8 +310,15 @@
 <message><source>Stat average time</source><translation>Durée moyenne</translation></message>
 <message><source>Stat closed</source><translation>Recycleur fermé</translation></message>
 <message><source>Stat coldest</source><translation>Eau la plus froide</translation></message>
+<message><source>Stat count and share</source><translation>%d (%@)</translation></message>
 <message><source>Stat deepest</source><translation>Plongée la plus profonde</translation></message>
 <message><source>Stat dives</source><translation>Plongées</translation></message>
+<message><source>Stat group depths</source><translation>Profondeurs</translation></message>
+<message><source>Stat group gases</source><translation>Gaz</translation></message>
+<message><source>Stat group kinds</source><translation>Types de plongée</translation></message>
+<message><source>Stat group measures</source><translation>Profondeur, durée et eau</translation></message>
+<message><source>Stat group systems</source><translation>Scaphandres</translation></message>
+<message><source>Stat label</source><translation>%@ : </translation></message>
 <message><source>Stat longest</source><translation>Plongée la plus longue</translation></message>
 <message><source>Stat mean water</source><translation>Température moyenne de l’eau</translation></message>
 <message><source>Stat night</source><translation>Plongée de nuit</translation></message>
@@ -298,6 +328,8 @@
 <message><source>Stat total time</source><translation>Durée cumulée</translation></message>
 <message><source>Stat warmest</source><translation>Eau la plus chaude</translation></message>
 <message><source>Statistics</source><translation>Statistiques</translation></message>
+<message><source>Statistics graphs</source><translation>Graphiques des statistiques</translation></message>
+<message><source>Statistics of</source><translation>Statistiques de %@</translation></message>
 <message><source>Steel</source><translation>Acier</translation></message>
 <message><source>Store dive question</source><translation>La plongée du formulaire a été modifiée et n’est pas encore enregistrée.</translation></message>
 <message><source>Strong</source><translation>Fort</translation></message>
@@ -357,6 +389,7 @@
 <message><source>Undo insert</source><translation>Insérer la plongée</translation></message>
 <message><source>Undo renumber</source><translation>Renuméroter les plongées</translation></message>
 <message><source>Undo update</source><translation>Modifier la plongée</translation></message>
+<message><source>Unknown temperature</source><translation>Inconnu : aucune température n’a été indiquée.</translation></message>
 <message><source>Unknown with bad samples</source><translation>Inconnu : le profil contient des profondeurs qui ne sont pas des nombres.</translation></message>
 <message><source>Unknown without samples</source><translation>Inconnu : la plongée n’a pas de profil, donc pas de profondeur moyenne.</translation></message>
 <message><source>Unknown without start pressure</source><translation>Inconnu : la plongée n’a pas de pression de départ.</translation></message>
@@ -379,6 +412,7 @@
 <message><source>Wind</source><translation>&#13;Vent : </translation></message>
 <message><source>Wind force</source><translation>&#13;Force du vent : </translation></message>
 <message><source>Wind sector</source><translation>&#13;Secteur du vent : </translation></message>
+<message><source>Without previous dives</source><translation>Sans les plongées antérieures</translation></message>
 <message><source>Work</source><translation>Travail</translation></message>
 <message><source>Wreck</source><translation>Épave</translation></message>
 <message><source>Wrecks</source><translation>&#13;Épaves : </translation></message>

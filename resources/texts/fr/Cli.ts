@@ -10,6 +10,7 @@
 <message><source>Groups</source><translation>Groupes : %d</translation></message>
 <message><source>Little-endian</source><translation>Ordre des octets : petit-boutiste</translation></message>
 <message><source>No card</source><translation>Les documents du type « %@ » n’ont pas de fiche.</translation></message>
+<message><source>No picture field</source><translation>Les documents du type « %@ » ne contiennent pas d’images.</translation></message>
 <message><source>No such row</source><translation>Il n’y a pas de ligne %d : le document compte %d fiches, numérotées à partir de 0.</translation></message>
 <message><source>No such type</source><translation>« %@ » n’est pas un type de document. Types : %@.</translation></message>
 <message><source>Not a logbook</source><translation>« %@ » n’est pas un carnet de plongée.</translation></message>
@@ -21,6 +22,7 @@
 <message><source>Objects</source><translation>Objets : %d</translation></message>
 <message><source>Output not written</source><translation>La sortie n’a pas pu être écrite.</translation></message>
 <message><source>Picture endings</source><translation>Le nom du fichier doit se terminer par .pdf, .svg ou .png.</translation></message>
+<message><source>Pressure drop line</source><translation>Bloc %d : %@</translation></message>
 <message><source>References</source><translation>Références : %d</translation></message>
 <message><source>Row</source><translation>Ligne</translation></message>
 <message><source>Row or new</source><translation>Indiquez soit --row, soit --new.</translation></message>

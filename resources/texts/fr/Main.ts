@@ -28,7 +28,9 @@
 <message><source>Command line files</source><translation>Documents à ouvrir.</translation></message>
 <message><source>Command line help</source><translation>Afficher cette aide.</translation></message>
 <message><source>Command line version</source><translation>Afficher la version.</translation></message>
+<message><source>Copy data</source><translation>Copier les données</translation></message>
 <message><source>Copy kept</source><translation>Le contenu précédent est conservé dans « %@ ».</translation></message>
+<message><source>Copy picture</source><translation>Copier l’image</translation></message>
 <message><source>Copying</source><translation>Copie des lignes…</translation></message>
 <message><source>Cotation 0</source><translation>☆</translation></message>
 <message><source>Cotation 1</source><translation>★</translation></message>
@@ -201,6 +203,7 @@ Remplacer perd ce que ce programme a écrit, recharger ce que vous avez saisi.</
 <message><source>Separator</source><translation>Séparateur</translation></message>
 <message><source>Services</source><translation>Prestations</translation></message>
 <message><source>Shops</source><translation>Magasins</translation></message>
+<message><source>Show data</source><translation>Afficher les données…</translation></message>
 <message><source>Sites</source><translation>Sites</translation></message>
 <message><source>Space</source><translation>Espace</translation></message>
 <message><source>Store</source><translation>Enregistrer</translation></message>

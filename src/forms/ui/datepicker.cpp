@@ -91,7 +91,9 @@ void DatePicker::takeChoice() {
         before = QDate(2001, 1, 1).startOfDay();
         date_ = Date::fromDateTime(before);
     }
-    const QDateTime after = part_ == day ? QDateTime(date(), before.time()) : QDateTime(before.date(), time());
+    const Date chosen =
+        part_ == day ? Date::ofLocalTime(date(), before.time()) : Date::ofLocalTime(before.date(), time());
+    const QDateTime after = chosen.toDateTime();
     // By the difference, so that what a QDateTime cannot hold of a moment stays.
     date_ = Date(date_.secondsSince2001() + static_cast<double>(before.msecsTo(after)) / 1000.0);
     Q_EMIT picked(date_);

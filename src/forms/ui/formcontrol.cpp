@@ -4,6 +4,7 @@
 #include "desktop/ui/readablecolour.h"
 #include "forms/ui/datepicker.h"
 #include "forms/ui/listcombo.h"
+#include "forms/ui/picturebox.h"
 #include "forms/ui/showncontrol.h"
 #include "forms/ui/wheelguard.h"
 
@@ -384,7 +385,7 @@ std::unique_ptr<FormControl> makeFormControl(FormStateBase& state, int index, QS
         case ControlKind::progress:
             return makeShownControl(state, index);
         case ControlKind::picture:
-            break;
+            return makePictureControl(state, index);
     }
     return nullptr;
 }

@@ -159,6 +159,9 @@ private:
                 form(index).addCompanion(unit);
                 layout->addWidget(unit);
             }
+        }
+        // Behind all of them: some have their unit from another control.
+        for (const int index : indexes) {
             if (takesEntries(control(index).kind)) {
                 layout->addWidget(form(index).makeHint());
             }
@@ -185,7 +188,7 @@ private:
         for (Cell& cell : cells_) {
             const int first = cell.controls.front();
             nameOfCell(cell);
-            if (control(first).kind == ControlKind::longText) {
+            if (control(first).kind == ControlKind::longText || control(first).kind == ControlKind::picture) {
                 row += pair > 0 ? 1 : 0;
                 setWidth(first);
                 result_.grid->addWidget(form(first).widget(), row, 0, 1, controlColumn(pairs - 1) + 1);

@@ -3,6 +3,9 @@
 #include "base/texts.h"
 #include "desktop/alerts.h"
 #include "desktop/ui/progresswindow.h"
+#include "interchange/ui/importwindow.h"
+
+#include <QAction>
 
 namespace tavrel {
 
@@ -45,6 +48,28 @@ ImportCommands::ImportCommands(Carnet& carnet, LogbookWindow& window, Desktop& d
     window.provideCommand(QStringLiteral("importUDCF"), [this] { importUDCF(); });
     window.provideCommand(QStringLiteral("importUDDF"), [this] { importUDDF(); });
     window.addImport(text("Carnet", "Import handheld"), [this] { importHandheld(); });
+    window.addImport(text("Interchange", "Import dives command"), [this] { importDives(); });
+    window.importActions().constLast()->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_I));
+}
+
+void ImportCommands::importDives() {
+    const QStringList files =
+        fileDialogs_.filesToOpen(&window_, text("Interchange", "Import dives"),
+                                 {{text("Interchange", "Dive files"),
+                                   {QStringLiteral("uddf"), QStringLiteral("udcf"), QStringLiteral("xml"),
+                                    QStringLiteral("txt"), QString::fromLatin1(carnetDescription().kind.extension)}}},
+                                 false);
+    if (!files.isEmpty()) {
+        showDivesOf(files.constLast());
+    }
+}
+
+void ImportCommands::showDivesOf(const QString& file) {
+    // What is being edited goes to its own dive before the list changes.
+    if (!window_.leaveEditing(Settling::leaving)) {
+        return;
+    }
+    (new ImportWindow(carnet_, desktop_, file, &window_))->show();
 }
 
 void ImportCommands::chooseAndImport(ImportFormat format) {
@@ -70,6 +95,15 @@ void ImportCommands::importFile(const QString& file, ImportFormat format) {
     }
     if (result->taken > 0) {
         carnet_.selectLastDive(carnet_.count() - 1, false);
+    }
+    // A file that the other road reads better is offered to it, with what came in left to undo.
+    if (result->readsBetter) {
+        const QStringList answers{text("Interchange", "Import dives command"), text("Main", "No")};
+        if (desktop_.alerts.ask(result->message(), answers) == 0) {
+            carnet_.undoStack().undo();
+            showDivesOf(file);
+        }
+        return;
     }
     desktop_.alerts.tell(result->message());
 }

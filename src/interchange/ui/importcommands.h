@@ -22,6 +22,10 @@ public:
 
     void importFile(const QString& file, ImportFormat format);
 
+    /// Asks for a file of any kind that holds dives, and opens the window that shows them.
+    void importDives();
+    void showDivesOf(const QString& file);
+
 private:
     void chooseAndImport(ImportFormat format);
 

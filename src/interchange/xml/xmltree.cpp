@@ -22,6 +22,16 @@ bool isBlank(std::string_view text) {
     return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
 }
 
+/// Attributes reach the events with an ampersand still written as a reference.
+void appendDecoded(std::string& text, std::string_view value) {
+    constexpr std::string_view reference = "&#38;";
+    for (std::size_t found = value.find(reference); found != std::string_view::npos; found = value.find(reference)) {
+        text += value.substr(0, found + 1);
+        value.remove_prefix(found + reference.size());
+    }
+    text += value;
+}
+
 /// Builds the nodes from the parser's events.
 class Builder {
 public:
@@ -33,6 +43,14 @@ public:
         }
         const std::uint32_t index = append({name, none, none, none, 0, tree_.texts.size()});
         open_.push_back({index, none});
+    }
+
+    /// Of the element that began last.
+    void attribute(const char* name, std::string_view value) {
+        const auto element = static_cast<std::uint32_t>(tree_.nodes.size() - 1);
+        const std::size_t offset = tree_.texts.size();
+        appendDecoded(tree_.texts, value);
+        tree_.attributes.push_back({name, element, static_cast<std::uint32_t>(tree_.texts.size() - offset), offset});
     }
 
     void text(std::string_view piece) {
@@ -116,6 +134,8 @@ struct Reading {
     QByteArrayView rest;
     xmlParserCtxtPtr parser;
     Builder builder;
+    XmlMarkup markup;
+    const xmlChar* rootNamespace = nullptr;
     std::size_t elements = 0;
     std::size_t declarations = 0;
     std::size_t declaredAttributes = 0;
@@ -124,6 +144,8 @@ struct Reading {
     bool limit = false;
     QString firstError = {};
 };
+
+constexpr int partsOfAttribute = 5;  // name, prefix, namespace, start and end of the value
 
 /// How many bytes of entities a file may have gone through: more than any that means well, few enough to be quick.
 std::size_t entityAllowance(std::size_t fileSize) {
@@ -165,8 +187,8 @@ int readBytes(void* context, char* buffer, int length) {
     return static_cast<int>(count);
 }
 
-void startElement(void* context, const xmlChar* name, const xmlChar* prefix, const xmlChar*, int, const xmlChar**,
-                  int attributes, int, const xmlChar**) {
+void startElement(void* context, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri, int, const xmlChar**,
+                  int attributes, int, const xmlChar** attribute) {
     Reading* state = reading(context);
     if (!state) {
         return;
@@ -175,8 +197,18 @@ void startElement(void* context, const xmlChar* name, const xmlChar* prefix, con
         stopBeyondLimits(*state);
         return;
     }
-    const xmlChar* whole = prefix ? xmlDictQLookup(state->parser->dict, prefix, name) : name;
+    if (state->elements == 1) {
+        state->rootNamespace = uri;
+    }
+    // Names and namespaces are of the parser's dictionary: equal ones are one pointer.
+    const bool plain = !prefix || (state->markup.plainNames && uri && uri == state->rootNamespace);
+    const xmlChar* whole = plain ? name : xmlDictQLookup(state->parser->dict, prefix, name);
     state->builder.begin(reinterpret_cast<const char*>(whole));
+    for (int index = 0; state->markup.attributes && index < attributes; ++index, attribute += partsOfAttribute) {
+        const auto* value = reinterpret_cast<const char*>(attribute[3]);
+        const auto length = static_cast<std::size_t>(attribute[4] - attribute[3]);
+        state->builder.attribute(reinterpret_cast<const char*>(attribute[0]), {value, length});
+    }
 }
 
 void endElement(void* context, const xmlChar*, const xmlChar*, const xmlChar*) {
@@ -322,6 +354,45 @@ XmlElement XmlElement::matching(const char* name) const {
     return element;
 }
 
+XmlElement XmlElement::orNextElement() const {
+    XmlElement element = *this;
+    while (!element.isNull() && !element.node().name) {
+        element = at(element.node().next);
+    }
+    return element;
+}
+
+namespace {
+
+/// The attributes of an element and of those behind it.
+auto attributesFrom(const XmlNodes& tree, std::uint32_t element) {
+    return std::lower_bound(
+        tree.attributes.begin(), tree.attributes.end(), element,
+        [](const XmlNodes::Attribute& attribute, std::uint32_t index) { return attribute.element < index; });
+}
+
+}  // namespace
+
+std::string_view XmlElement::attribute(std::string_view name) const {
+    if (!isNull()) {
+        const auto end = tree_->attributes.end();
+        for (auto it = attributesFrom(*tree_, index_); it != end && it->element == index_; ++it) {
+            if (name == it->name) {
+                return std::string_view(tree_->texts).substr(it->offset, it->length);
+            }
+        }
+    }
+    return {};
+}
+
+bool XmlElement::hasAttributes() const {
+    if (isNull()) {
+        return false;
+    }
+    const auto first = attributesFrom(*tree_, index_);
+    return first != tree_->attributes.end() && first->element == index_;
+}
+
 XmlElement::Children XmlElement::children(const char* name) const {
     return {first(name), name};
 }
@@ -390,7 +461,7 @@ void XmlTree::Free::operator()(void* names) const {
     xmlDictFree(static_cast<xmlDictPtr>(names));
 }
 
-Expected<XmlTree> XmlTree::parse(QByteArrayView bytes, const Progress& progress) {
+Expected<XmlTree> XmlTree::parse(QByteArrayView bytes, const Progress& progress, XmlMarkup markup) {
     const std::unique_ptr<xmlParserCtxt, FreeParser> parser(xmlNewParserCtxt());
     if (bytes.size() > std::numeric_limits<int>::max() || !parser) {
         return failure(text("Main", "XML file too large"));
@@ -400,7 +471,7 @@ Expected<XmlTree> XmlTree::parse(QByteArrayView bytes, const Progress& progress)
     tree.names_.reset(parser->dict);
 
     const Silence silence;
-    Reading state{progress, static_cast<std::size_t>(bytes.size()), bytes, parser.get(), Builder(*tree.nodes_)};
+    Reading state{progress, static_cast<std::size_t>(bytes.size()), bytes, parser.get(), Builder(*tree.nodes_), markup};
     parser->_private = &state;
     listen(*parser->sax);
     // Without XML_PARSE_NOENT, XML_PARSE_DTDLOAD and XML_PARSE_HUGE: nothing is resolved and the limits hold.

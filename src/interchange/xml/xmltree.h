@@ -28,9 +28,17 @@ struct XmlNodes {
         std::size_t offset;  ///< of its text in the texts
     };
 
+    struct Attribute {
+        const char* name;
+        std::uint32_t element;
+        std::uint32_t length;
+        std::size_t offset;  ///< of its value in the texts
+    };
+
     std::string_view textOf(const Node& node) const { return std::string_view(texts).substr(node.offset, node.length); }
 
     std::vector<Node> nodes;
+    std::vector<Attribute> attributes;  ///< in the order of their elements
     std::string texts;
 };
 
@@ -49,6 +57,12 @@ public:
     Children children(const char* name) const;
     XmlElement first(const char* name) const;
     XmlElement last(const char* name) const;
+    /// The first child of any name, and the next element beside this one.
+    XmlElement firstElement() const { return isNull() ? XmlElement() : at(node().first).orNextElement(); }
+    XmlElement nextElement() const { return isNull() ? XmlElement() : at(node().next).orNextElement(); }
+    /// The value of an attribute, a view into the tree; empty when there is none or the tree keeps none.
+    std::string_view attribute(std::string_view name) const;
+    bool hasAttributes() const;
 
     /// The whole text content in UTF-8: the texts of the element and all its descendants joined with nothing between
     /// them. Blanks that merely lay out child elements are no text; entity references stand for nothing. A view into
@@ -67,6 +81,8 @@ private:
     }
     /// The element itself or the next sibling of that name.
     XmlElement matching(const char* name) const;
+    /// The element itself, or where it is a text the next sibling that is an element.
+    XmlElement orNextElement() const;
 
     const XmlNodes* tree_ = nullptr;
     std::uint32_t index_ = 0;
@@ -100,15 +116,22 @@ private:
     const char* name_;
 };
 
-/// An XML file as a tree of elements and texts, without attributes. Malformed markup is repaired as far as libxml2's
-/// parser recovers it, and texts are converted from the encoding that the file declares. Nothing outside the bytes is
-/// ever read: entities, external references and inclusions stay unresolved, and the network is out of reach. Fails when
-/// the bytes hold no element, or when they nest or grow beyond the parser's limits (256 levels, names of 50 kB)
-/// or name entities whose texts add up to far more than the file.
+/// What of a file's markup a tree keeps beside its elements and texts.
+struct XmlMarkup {
+    bool attributes = false;
+    /// Leaves out the prefixes of the root's own namespace, so that names do not depend on how the file spells it.
+    bool plainNames = false;
+};
+
+/// An XML file as a tree of elements and texts, with attributes where they are asked for. Malformed markup is repaired
+/// as far as libxml2's parser recovers it, and texts are converted from the encoding that the file declares. Nothing
+/// outside the bytes is ever read: entities, external references and inclusions stay unresolved, and the network is out
+/// of reach. Fails when the bytes hold no element, or when they nest or grow beyond the parser's limits (256 levels,
+/// names of 50 kB) or name entities whose texts add up to far more than the file.
 class XmlTree {
 public:
     /// The progress counts bytes.
-    static Expected<XmlTree> parse(QByteArrayView bytes, const Progress& progress = {});
+    static Expected<XmlTree> parse(QByteArrayView bytes, const Progress& progress = {}, XmlMarkup markup = {});
 
     XmlElement root() const { return nodes_->nodes.empty() ? XmlElement() : XmlElement(nodes_.get(), 0); }
 

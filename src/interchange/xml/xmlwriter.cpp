@@ -72,10 +72,17 @@ void XmlWriter::openLine() {
     text_.append(2 * open_.size(), ' ');
 }
 
-void XmlWriter::openTag(std::string_view name) {
+void XmlWriter::openTag(std::string_view name, std::initializer_list<XmlAttribute> attributes) {
     openLine();
     text_ += '<';
     text_ += name;
+    for (const XmlAttribute& attribute : attributes) {
+        text_ += ' ';
+        text_ += attribute.name;
+        text_ += "=\"";
+        appendEscaped(text_, attribute.value, true);
+        text_ += '"';
+    }
 }
 
 void XmlWriter::closeTag(std::string_view name) {
@@ -84,15 +91,8 @@ void XmlWriter::closeTag(std::string_view name) {
     text_ += ">\n";
 }
 
-void XmlWriter::begin(std::string_view name, std::string_view attribute, std::string_view value) {
-    openTag(name);
-    if (!attribute.empty()) {
-        text_ += ' ';
-        text_ += attribute;
-        text_ += "=\"";
-        appendEscaped(text_, value, true);
-        text_ += '"';
-    }
+void XmlWriter::begin(std::string_view name, std::initializer_list<XmlAttribute> attributes) {
+    openTag(name, attributes);
     open_.push_back(name);
     tagOpen_ = true;
 }
@@ -109,8 +109,7 @@ void XmlWriter::end() {
     }
 }
 
-void XmlWriter::element(std::string_view name, std::string_view text) {
-    openTag(name);
+void XmlWriter::finishElement(std::string_view name, std::string_view text) {
     const std::size_t start = text_.size();
     text_ += '>';
     appendEscaped(text_, text);
@@ -120,6 +119,16 @@ void XmlWriter::element(std::string_view name, std::string_view text) {
     } else {
         closeTag(name);
     }
+}
+
+void XmlWriter::element(std::string_view name, std::string_view text) {
+    openTag(name);
+    finishElement(name, text);
+}
+
+void XmlWriter::element(std::string_view name, std::initializer_list<XmlAttribute> attributes, std::string_view text) {
+    openTag(name, attributes);
+    finishElement(name, text);
 }
 
 void XmlWriter::element(std::string_view name, const QString& text) {

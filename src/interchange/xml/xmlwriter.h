@@ -3,11 +3,18 @@
 #include <QByteArray>
 #include <QString>
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace tavrel {
+
+/// A name and its value, in UTF-8.
+struct XmlAttribute {
+    std::string_view name;
+    std::string_view value;
+};
 
 /// Writes an XML file element by element: UTF-8 with a declaration, two blanks of indentation for each level, an
 /// element's text on one line with its tags, an element without contents as one empty tag. The same bytes as libxml2
@@ -17,12 +24,16 @@ class XmlWriter {
 public:
     XmlWriter() = default;
 
-    void begin(std::string_view name) { begin(name, {}, {}); }
-    void begin(std::string_view name, std::string_view attribute, std::string_view value);
+    void begin(std::string_view name, std::initializer_list<XmlAttribute> attributes = {});
+    void begin(std::string_view name, std::string_view attribute, std::string_view value) {
+        begin(name, {{attribute, value}});
+    }
     void end();
     /// An element with text (in UTF-8).
     void element(std::string_view name, std::string_view text);
     void element(std::string_view name, const QString& text);
+    /// An element with attributes, and its text if it has one.
+    void element(std::string_view name, std::initializer_list<XmlAttribute> attributes, std::string_view text = {});
     /// An element whose text is a number with a fixed count of decimals, or a whole one.
     void decimal(std::string_view name, double value, int decimals);
     void integer(std::string_view name, qint64 value);
@@ -34,7 +45,9 @@ public:
 
 private:
     void openLine();
-    void openTag(std::string_view name);
+    void openTag(std::string_view name, std::initializer_list<XmlAttribute> attributes = {});
+    /// The text of the tag just opened, and its end.
+    void finishElement(std::string_view name, std::string_view text);
     void closeTag(std::string_view name);
 
     std::string text_ = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";

@@ -1,10 +1,12 @@
 #include "logbook/ui/logbookwindow.h"
 
+#include "logbook/ui/profilecommands.h"
 #include "logbook/ui/renumberwindow.h"
 
 namespace tavrel {
 
-LogbookWindow::LogbookWindow(Carnet& carnet, Desktop& desktop) : BookWindow(carnet, desktop), carnet_(carnet) {
+LogbookWindow::LogbookWindow(Carnet& carnet, Desktop& desktop)
+    : BookWindow(carnet, desktop), carnet_(carnet), profile_(new ProfileCommands(carnet, *this, desktop)) {
     connect(&carnet, &Carnet::renumberWindowRequested, this, [this] { renumberWindow().bringToFront(); });
 }
 
@@ -32,7 +34,7 @@ QList<QAction*> LogbookWindow::importActions() {
 }
 
 QList<QWidget*> LogbookWindow::furtherWindows() {
-    QList<QWidget*> windows = BookWindow::furtherWindows();
+    QList<QWidget*> windows = BookWindow::furtherWindows() + profile_->windows();
     if (renumberWindow_) {
         windows.append(renumberWindow_);
     }

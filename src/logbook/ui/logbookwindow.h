@@ -7,10 +7,11 @@
 
 namespace tavrel {
 
+class ProfileCommands;
 class RenumberWindow;
 
-/// The window of a logbook: that of a book, with imports and the renumbering window, which is made when it is asked for
-/// first.
+/// The window of a logbook: that of a book, with imports, the windows of a dive's profile, and the renumbering window,
+/// which is made when it is asked for first.
 class LogbookWindow : public BookWindow {
     Q_OBJECT
 
@@ -21,12 +22,14 @@ public:
     void addImport(const QString& title, const std::function<void()>& command);
 
     RenumberWindow& renumberWindow();
+    ProfileCommands& profileCommands() { return *profile_; }
 
     QList<QAction*> importActions() override;
     QList<QWidget*> furtherWindows() override;
 
 private:
     Carnet& carnet_;
+    ProfileCommands* profile_;
     RenumberWindow* renumberWindow_ = nullptr;
     QList<QAction*> furtherImports_;
 };

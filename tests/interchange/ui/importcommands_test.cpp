@@ -54,14 +54,16 @@ TEST_F(ImportWindow, asksForAFileAndTellsWhatCameIn) {
         const char* told;
     };
     const Case cases[] = {
-        {"udcf", "<PROFILE><REPGROUP>" + dive + dive + "</REPGROUP></PROFILE>", 2, "2 dives were imported."},
+        {"udcf", "<PROFILE><REPGROUP>" + dive + dive + "</REPGROUP></PROFILE>", 2,
+         "2 dives were imported. Without a date: 2."},
         {"uddf", "<uddf><profiledata><repetitiongroup><dive/></repetitiongroup></profiledata></uddf>", 3,
-         "One dive was imported."},
+         "One dive was imported. Without a date: 1."},
         {nullptr, "<log><repgroup><dive>" + gases + "</dive><dive/></repgroup></log>", 4,
-         "One dive was imported. The import stopped at dive 2 of the file: the element gases is missing."},
+         "One dive was imported. The import stopped at dive 2 of the file: the element gases is missing. Without a "
+         "date: 1."},
     };
     const QList<QAction*> actions = window.importActions();
-    ASSERT_EQ(actions.size(), std::ssize(cases));
+    ASSERT_EQ(actions.size(), std::ssize(cases) + 1);
     for (const Case& it : cases) {
         dialogs.answer = {written(it.file)};
         actions[&it - cases]->trigger();

@@ -1,0 +1,194 @@
+#include "dives/ui/statisticswindow.h"
+
+#include "base/texts.h"
+#include "desktop/alerts.h"
+#include "desktop/ui/bringtofront.h"
+#include "desktop/ui/icons.h"
+#include "desktop/ui/keptframe.h"
+#include "dives/statisticsreport.h"
+#include "dives/ui/graphes.h"
+#include "dives/ui/previoustotalswindow.h"
+#include "documents/ui/printing.h"
+#include "drawing/pages.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPainter>
+#include <QPrinter>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QTabWidget>
+#include <QTextDocument>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+namespace tavrel {
+
+StatisticsWindow::StatisticsWindow(DiveSource source, Desktop& desktop, const PrintSettings& print, QWidget* parent)
+    : QMainWindow(parent),
+      source_(std::move(source)),
+      desktop_(desktop),
+      print_(print),
+      statistics_(std::make_unique<Statistics>(DiveSpan(), nullptr)) {
+    setObjectName(QStringLiteral("statisticsWindow"));
+    setContextMenuPolicy(Qt::NoContextMenu);
+    buildToolBar();
+    pages_ = new QTabWidget;
+    pages_->setDocumentMode(true);
+    graphes_ = new Graphes(desktop);
+    pages_->addTab(newFiguresPage(), text("Carnet", "Statistics"));
+    pages_->addTab(graphes_, text("Carnet", "Statistics graphs"));
+    setCentralWidget(pages_);
+    resize(900, 640);
+    new KeptFrame(*this, desktop.preferences, QStringLiteral("Statistics"));
+}
+
+StatisticsWindow::~StatisticsWindow() = default;
+
+void StatisticsWindow::buildToolBar() {
+    auto* bar = addToolBar(text("Carnet", "Statistics"));
+    bar->setMovable(false);
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    auto* print = bar->addAction(iconNamed(QStringLiteral("imprimante")), text("Main", "Print"), this,
+                                 &StatisticsWindow::printStatistics);
+    print->setShortcut(QKeySequence::Print);
+    bar->addAction(text("Carnet", "Previous dives edit"), this,
+                   [this] { previousTotals().showEditStatisticsWindow(); });
+    bar->addSeparator();
+
+    choice_ = new QComboBox;
+    choice_->setObjectName(QStringLiteral("diveChoice"));
+    choice_->setAccessibleName(text("Carnet", "Dives counted"));
+    choice_->addItem(text("Carnet", "All dives"), static_cast<int>(DiveChoice::all));
+    choice_->addItem(text("Carnet", "Selected dives"), static_cast<int>(DiveChoice::selected));
+    choice_->addItem(text("Carnet", "Dives found"), static_cast<int>(DiveChoice::found));
+    connect(choice_, &QComboBox::activated, this, &StatisticsWindow::refresh);
+    bar->addWidget(choice_);
+    previousDivesNoSwitch_ = new QCheckBox(text("Carnet", "Without previous dives"));
+    previousDivesNoSwitch_->setObjectName(QStringLiteral("previousDivesNoSwitch"));
+    connect(previousDivesNoSwitch_, &QCheckBox::toggled, this, &StatisticsWindow::refresh);
+    bar->addWidget(previousDivesNoSwitch_);
+    for (const auto& keys : {QKeySequence(QKeySequence::Close), QKeySequence(Qt::Key_Escape)}) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, &QWidget::close);
+    }
+}
+
+QLabel* StatisticsWindow::newFigure(const QString& field, const QString& label) {
+    auto* figure = new QLabel;
+    figure->setObjectName(field);
+    figure->setAlignment(Qt::AlignRight | Qt::AlignTop);
+    figure->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    figure->setAccessibleName(label);
+    figures_.emplace(field, figure);
+    return figure;
+}
+
+QWidget* StatisticsWindow::newFiguresPage() {
+    auto* page = new QWidget;
+    auto* columns = new QHBoxLayout(page);
+    auto* left = new QVBoxLayout;
+    auto* right = new QVBoxLayout;
+    columns->addLayout(left);
+    columns->addSpacing(12);
+    columns->addLayout(right);
+    const auto newGroup = [](const QString& title, QVBoxLayout* column) {
+        auto* box = new QGroupBox(title);
+        auto* grid = new QGridLayout(box);
+        grid->setColumnStretch(0, 1);
+        grid->setHorizontalSpacing(16);
+        column->addWidget(box);
+        return grid;
+    };
+    QGridLayout* measures = newGroup(text("Carnet", "Stat group measures"), right);
+    for (const StatText& measure : statistics_->measureTexts()) {
+        const int row = measures->rowCount();
+        const QString label = measure.label.text();
+        measures->addWidget(new QLabel(label), row, 0, Qt::AlignTop);
+        measures->addWidget(newFigure(measure.field, label), row, 1);
+    }
+    for (const auto& [group, title] : statGroupNames) {
+        QGridLayout* grid =
+            newGroup(title.text(), group == StatGroup::kinds || group == StatGroup::systems ? left : right);
+        for (const StatCountName& name : statCountNames()) {
+            if (name.group == group) {
+                const int row = grid->rowCount();
+                const QString label = name.label.text();
+                grid->addWidget(new QLabel(label), row, 0);
+                grid->addWidget(newFigure(statField(name), label), row, 1);
+                grid->addWidget(newFigure(statShareField(name), label), row, 2);
+            }
+        }
+    }
+    left->addStretch();
+    right->addStretch();
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setWidget(page);
+    return area;
+}
+
+PreviousTotalsWindow& StatisticsWindow::previousTotals() {
+    if (!previousTotals_) {
+        previousTotals_ = new PreviousTotalsWindow(
+            desktop_, [this] { refresh(); }, this);
+    }
+    return *previousTotals_;
+}
+
+void StatisticsWindow::showStatisticsWindow() {
+    refresh();
+    bringToFront(this);
+}
+
+void StatisticsWindow::displayGraphesWindow() {
+    pages_->setCurrentWidget(graphes_);
+    showStatisticsWindow();
+}
+
+void StatisticsWindow::updateStatistics() {
+    if (isVisible()) {
+        refresh();
+    }
+}
+
+void StatisticsWindow::refresh() {
+    const auto choice = static_cast<DiveChoice>(choice_->currentData().toInt());
+    const PreviousTotals previous = PreviousTotals::read(desktop_.preferences);
+    statistics_ =
+        std::make_unique<Statistics>(source_.dives(choice), previousDivesNoSwitch_->isChecked() ? nullptr : &previous);
+    for (const StatText& each : statistics_->texts()) {
+        QLabel* figure = figures_.at(each.field);
+        figure->setText(QString(each.text).replace(u'\r', u'\n'));
+        figure->setToolTip(each.explanation);
+        figure->setAccessibleDescription(each.explanation);
+    }
+    graphes_->setShares(setDataForStatGraphes(*statistics_));
+    setWindowTitle(textWith("Carnet", "Statistics of", source_.name()));
+}
+
+void StatisticsWindow::printStatistics() {
+    refresh();
+    PrintSettings settings = print_;
+    const bool graphs = pages_->currentWidget() == graphes_;
+    settings.landscape = graphs;
+    QPrinter printer;
+    if (!runPrintDialog(this, settings, printer)) {
+        return;
+    }
+    printer.setDocName(windowTitle());
+    if (graphs) {
+        QPainter painter(&printer);
+        graphes_->drawing().paint(painter, painter.viewport());
+    } else {
+        printText(printer, *textDocumentOf(statisticsReport(*statistics_, source_.name())), settings, windowTitle());
+    }
+    if (printer.printerState() == QPrinter::Error) {
+        desktop_.alerts.fail({text("Main", "Printing failed"), printer.outputFileName()});
+    }
+}
+
+}  // namespace tavrel

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+#include <QTime>
+
+#include <optional>
+
+namespace tavrel {
+
+/// A moment as a file writes it: a day, and a time of day that is invalid where the file gives none.
+struct FileTime {
+    QDate day;
+    QTime time;
+};
+
+/// The day and time of a text such as "2010-08-14T10:02:00+02:00", "2010-8-4 9:05", "20100814T100200", "14.08.2010
+/// 10:02" or "2010-08-14". An offset or Z is dropped: the time stays what the diver's clock showed. Nothing when the
+/// text holds no day, or one before 1900, which stands for none.
+std::optional<FileTime> fileTime(const QString& text);
+
+/// The time of a text such as "10:02", "10:02:30.5Z" or "9:05"; invalid when it holds none.
+QTime fileClock(const QString& text);
+
+/// The day, where the numbers make one of 1900 or after.
+std::optional<QDate> fileDay(int year, int month, int day);
+
+}  // namespace tavrel

@@ -1,0 +1,94 @@
+#include "interchange/standard/filevalues.h"
+
+#include "base/numbers.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cmath>
+#include <limits>
+
+namespace tavrel {
+
+namespace {
+
+constexpr double zeroCelsius = 273.15;
+constexpr double coldestKelvin = 150;  // below, a number can only be degrees Celsius
+constexpr double pascalPerBar = 100'000;
+constexpr double highestBar = 1000;       // above, a number can only be pascal
+constexpr double largestTankCubic = 0.5;  // m³; above, a number can only be litres
+
+}  // namespace
+
+QString wordsOf(XmlElement element) {
+    return element.text().trimmed();
+}
+
+std::optional<double> numberOf(std::string_view text) {
+    const QString words = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    if (!startsWithNumber(words)) {
+        return std::nullopt;
+    }
+    const double value = doubleValue(words);
+    return std::isfinite(value) ? std::optional(value) : std::nullopt;
+}
+
+std::optional<double> numberOf(XmlElement element) {
+    if (element.isNull()) {
+        return std::nullopt;
+    }
+    std::string buffer;
+    const std::string_view text = element.text(buffer);
+    // The usual case without a detour: digits and points alone.
+    if (!text.empty() && text.size() < 40 && text.find_first_not_of("0123456789.") == std::string_view::npos &&
+        text != ".") {
+        return doubleInFile(text);
+    }
+    return numberOf(text);
+}
+
+bool isNamed(XmlElement element, std::string_view name) {
+    const std::string_view own = element.name();
+    return own.size() == name.size() && std::equal(own.begin(), own.end(), name.begin(), [](char one, char other) {
+               return std::tolower(static_cast<unsigned char>(one)) == std::tolower(static_cast<unsigned char>(other));
+           });
+}
+
+XmlElement childOf(XmlElement parent, std::initializer_list<std::string_view> names) {
+    for (const std::string_view name : names) {
+        for (XmlElement child = parent.firstElement(); !child.isNull(); child = child.nextElement()) {
+            if (isNamed(child, name)) {
+                return child;
+            }
+        }
+    }
+    return {};
+}
+
+qint32 rounded(double value) {
+    return std::isnan(value) ? 0 : truncated(std::round(value));
+}
+
+std::optional<qint32> celsius(std::optional<double> kelvin) {
+    if (!kelvin || *kelvin == 0) {
+        return std::nullopt;
+    }
+    const double degrees = *kelvin < coldestKelvin ? *kelvin : *kelvin - zeroCelsius;
+    return degrees > -50 && degrees <= 100 ? std::optional(rounded(degrees)) : std::nullopt;
+}
+
+std::optional<double> bars(std::optional<double> pascal) {
+    if (!pascal || *pascal <= 0) {
+        return std::nullopt;
+    }
+    const double bar = *pascal > highestBar ? *pascal / pascalPerBar : *pascal;
+    return std::round(bar * 1e6) / 1e6;
+}
+
+std::optional<double> litres(std::optional<double> cubicMetres) {
+    if (!cubicMetres || *cubicMetres <= 0) {
+        return std::nullopt;
+    }
+    return *cubicMetres > largestTankCubic ? *cubicMetres : *cubicMetres * 1000;
+}
+
+}  // namespace tavrel

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "interchange/xml/xmltree.h"
+
+#include <QString>
+
+#include <initializer_list>
+#include <optional>
+#include <string_view>
+
+namespace tavrel {
+
+// Elements' values by their meaning, as files write them.
+
+/// The text without blanks at its ends.
+QString wordsOf(XmlElement element);
+/// The number that the text begins with, a decimal comma allowed; nothing for none and for one that is not finite.
+std::optional<double> numberOf(XmlElement element);
+std::optional<double> numberOf(std::string_view text);
+
+/// The first child whose name is one of these, case aside.
+XmlElement childOf(XmlElement parent, std::initializer_list<std::string_view> names);
+bool isNamed(XmlElement element, std::string_view name);
+
+/// The nearest whole number that 32 bits hold.
+qint32 rounded(double value);
+
+/// Kelvin to whole degrees Celsius; what is too cold for kelvin counts as degrees Celsius. Nothing for 0, which stands
+/// for none, and for what no diver meets.
+std::optional<qint32> celsius(std::optional<double> kelvin);
+/// Pascal to bar, to a millionth; what is too little for pascal counts as bar. Nothing for what is not above 0.
+std::optional<double> bars(std::optional<double> pascal);
+/// Cubic metres to litres; what is too much for a tank counts as litres.
+std::optional<double> litres(std::optional<double> cubicMetres);
+
+}  // namespace tavrel

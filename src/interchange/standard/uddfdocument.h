@@ -1,0 +1,46 @@
+#pragma once
+
+#include "interchange/standard/gasmix.h"
+#include "interchange/xml/xmltree.h"
+
+#include <QString>
+
+#include <set>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace tavrel {
+
+/// What an element refers to: the value of its attribute ref, or else its text.
+std::string uddfReference(XmlElement element);
+
+/// The parts of a UDDF file that dives refer to by their ids: gases, sites, people, equipment, boats.
+class UddfDocument {
+public:
+    explicit UddfDocument(XmlElement root);
+
+    XmlElement root() const { return root_; }
+    /// All elements of an id, in the file's order: files that count each kind from 1 use one for several.
+    std::vector<XmlElement> withId(const std::string& id) const;
+    /// The element of an id that has this name; null when there is none.
+    XmlElement withId(const std::string& id, std::string_view name) const;
+    bool isMix(const std::string& id) const { return mixes_.count(id) > 0; }
+    /// The gas of an id; air for one that the file does not define.
+    GasMix mix(const std::string& id) const;
+    const std::vector<std::string>& mixIds() const { return mixIds_; }
+
+    /// The owner's only piece of equipment of that name; null when there is none or more than one.
+    XmlElement onlyPiece(const char* name) const;
+
+private:
+    void collect(XmlElement parent);
+
+    XmlElement root_;
+    std::unordered_multimap<std::string, XmlElement> byId_;
+    std::unordered_map<std::string, GasMix> mixes_;
+    std::vector<std::string> mixIds_;
+};
+
+}  // namespace tavrel

@@ -1,0 +1,197 @@
+#include "interchange/standard/uddfprofile.h"
+
+#include "interchange/standard/filevalues.h"
+#include "interchange/standard/uddfdocument.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+#include <set>
+
+namespace tavrel {
+
+namespace {
+
+constexpr double deepestThinkable = 12'000;  // metres; deeper is no number of a depth
+constexpr double latestStart = 86'400;       // seconds; a first waypoint behind it counts from another moment
+
+template <class Item>
+void sortByTime(std::vector<Item>& items, double (*timeOf)(const Item&)) {
+    const auto earlier = [&](const Item& one, const Item& other) { return timeOf(one) < timeOf(other); };
+    if (!std::is_sorted(items.begin(), items.end(), earlier)) {
+        std::stable_sort(items.begin(), items.end(), earlier);
+    }
+}
+
+double momentOf(const TimedValue& value) {
+    return value.seconds;
+}
+
+/// One value at each moment, the last of those that the file gives it.
+void uniteMoments(std::vector<TimedValue>& values) {
+    sortByTime(values, momentOf);
+    std::size_t kept = 0;
+    for (std::size_t index = 0; index < values.size(); ++index) {
+        if (kept > 0 && values[kept - 1].seconds == values[index].seconds) {
+            values[kept - 1] = values[index];
+        } else {
+            values[kept++] = values[index];
+        }
+    }
+    values.resize(kept);
+}
+
+class WaypointReader {
+public:
+    WaypointReader(UddfProfile& profile, FoundDive& found) : profile_(profile), found_(found) {}
+
+    void read(XmlElement waypoint, double fallbackMoment) {
+        moment_ = numberOf(waypoint.first("divetime")).value_or(fallbackMoment);
+        if (!(moment_ >= 0) || moment_ > 1e9) {
+            moment_ = fallbackMoment;
+        }
+        profile_.lastMoment = std::max(profile_.lastMoment, moment_);
+        for (XmlElement it = waypoint.firstElement(); !it.isNull(); it = it.nextElement()) {
+            take(it, it.name());
+        }
+    }
+    double moment() const { return moment_; }
+
+    /// Names what the waypoints held beyond the profile.
+    void tellLost() {
+        for (const std::string_view name : unknown_) {
+            const QString words = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+            found_.lose(QStringLiteral("waypoint/") + words);
+        }
+    }
+
+private:
+    void take(XmlElement it, std::string_view name) {
+        if (name == "divetime") {
+            return;
+        }
+        if (name == "depth") {
+            if (const auto depth = numberOf(it); depth && std::abs(*depth) <= deepestThinkable) {
+                profile_.depths.push_back({moment_, *depth});
+            }
+        } else if (name == "temperature") {
+            const auto kelvin = numberOf(it);
+            if (kelvin && *kelvin > 0) {
+                profile_.lowestTemperature = std::min(profile_.lowestTemperature.value_or(*kelvin), *kelvin);
+                unknown_.insert(name);
+            }
+        } else if (name == "tankpressure") {
+            if (const auto bar = bars(numberOf(it))) {
+                profile_.pressures[std::string(it.attribute("ref"))].push_back({moment_, *bar});
+            }
+        } else if (name == "switchmix") {
+            profile_.switches.push_back({moment_, uddfReference(it)});
+        } else if (name == "alarm") {
+            takeAlarm(it);
+        } else if (name == "setpo2") {
+            if (const auto point = numberOf(it)) {
+                profile_.setPoints.push_back(*point > 10 ? *point / 100'000 : *point);
+            }
+        } else if (name == "divemode") {
+            const std::string_view type = it.attribute("type");
+            profile_.mode = type.empty() ? wordsOf(it).toStdString() : std::string(type);
+        } else {
+            unknown_.insert(name);
+        }
+    }
+
+    void takeAlarm(XmlElement it) {
+        const QString kind = wordsOf(it).toLower();
+        const auto level = numberOf(it.attribute("level"));
+        if (kind == QLatin1String("ascent")) {
+            // Below its full level the alarm only asks to slow down.
+            const bool full = level.value_or(1) >= 1;
+            profile_.alarms.emplace_back(moment_, full ? UddfProfile::Alarm::ascent : UddfProfile::Alarm::slow);
+        } else if (kind == QLatin1String("deco")) {
+            profile_.alarms.emplace_back(moment_, UddfProfile::Alarm::ceiling);
+        } else if (kind == QLatin1String("surface")) {
+            profile_.alarms.emplace_back(moment_, UddfProfile::Alarm::surface);
+        } else if (!kind.isEmpty()) {
+            found_.lose(QStringLiteral("alarm ") + kind.left(40));
+        }
+    }
+
+    UddfProfile& profile_;
+    FoundDive& found_;
+    double moment_ = 0;
+    std::set<std::string_view> unknown_;
+};
+
+/// Moves everything to the start of the dive where the waypoints count from another moment.
+void moveToStart(UddfProfile& profile) {
+    const double start = profile.depths.empty() ? 0 : profile.depths.front().seconds;
+    if (start <= latestStart) {
+        return;
+    }
+    const auto moved = [start](double& moment) { moment = std::max(0.0, moment - start); };
+    for (TimedValue& it : profile.depths) {
+        moved(it.seconds);
+    }
+    for (auto& [tank, values] : profile.pressures) {
+        for (TimedValue& it : values) {
+            moved(it.seconds);
+        }
+    }
+    for (UddfProfile::Switch& it : profile.switches) {
+        moved(it.seconds);
+    }
+    for (auto& [moment, alarm] : profile.alarms) {
+        moved(moment);
+    }
+    moved(profile.lastMoment);
+}
+
+}  // namespace
+
+double UddfProfile::deepest() const {
+    double deepest = 0;
+    for (const TimedValue& it : depths) {
+        deepest = std::max(deepest, it.value);
+    }
+    return deepest;
+}
+
+double UddfProfile::deepestMoment() const {
+    const auto most =
+        std::max_element(depths.begin(), depths.end(),
+                         [](const TimedValue& one, const TimedValue& other) { return one.value < other.value; });
+    return most == depths.end() ? std::numeric_limits<double>::max() : most->seconds;
+}
+
+std::string UddfProfile::mixAt(double seconds) const {
+    std::string mix;
+    for (const Switch& it : switches) {
+        if (it.seconds <= seconds) {
+            mix = it.mix;
+        }
+    }
+    return mix;
+}
+
+UddfProfile readUddfProfile(XmlElement dive, FoundDive& found) {
+    constexpr double secondsWithoutTimes = 10;
+    UddfProfile profile;
+    WaypointReader reader(profile, found);
+    for (const XmlElement samples : dive.children("samples")) {
+        for (const XmlElement waypoint : samples.children("waypoint")) {
+            reader.read(waypoint, profile.waypoints == 0 ? 0 : reader.moment() + secondsWithoutTimes);
+            ++profile.waypoints;
+        }
+    }
+    reader.tellLost();
+    uniteMoments(profile.depths);
+    for (auto& [tank, values] : profile.pressures) {
+        uniteMoments(values);
+    }
+    sortByTime<UddfProfile::Switch>(profile.switches, [](const UddfProfile::Switch& it) { return it.seconds; });
+    moveToStart(profile);
+    return profile;
+}
+
+}  // namespace tavrel

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "interchange/standard/founddive.h"
+#include "interchange/standard/resampling.h"
+#include "interchange/xml/xmltree.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tavrel {
+
+/// What the waypoints of a dive hold, in the order of their times.
+struct UddfProfile {
+    enum class Alarm { ascent, slow, surface, ceiling };
+    struct Switch {
+        double seconds;
+        std::string mix;
+    };
+
+    std::vector<TimedValue> depths;
+    std::map<std::string, std::vector<TimedValue>> pressures;  ///< bar, by the tank that they refer to
+    std::vector<Switch> switches;
+    std::vector<std::pair<double, Alarm>> alarms;
+    std::vector<double> setPoints;            ///< bar
+    std::optional<double> lowestTemperature;  ///< kelvin, or what the file has for it
+    double lastMoment = 0;                    ///< seconds
+    std::string mode;                         ///< of the last dive mode that the file names
+    std::size_t waypoints = 0;
+
+    double deepest() const;
+    /// The gas in use at a moment: that of the last switch before it; empty before the first.
+    std::string mixAt(double seconds) const;
+    /// When the diver was deepest.
+    double deepestMoment() const;
+};
+
+/// Reads the waypoints of one or more samples elements, naming in the dive what they hold beyond a profile.
+UddfProfile readUddfProfile(XmlElement dive, FoundDive& found);
+
+}  // namespace tavrel

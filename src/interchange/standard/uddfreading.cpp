@@ -1,0 +1,499 @@
+#include "interchange/standard/uddfreading.h"
+
+#include "interchange/standard/divetanks.h"
+#include "interchange/standard/filetime.h"
+#include "interchange/standard/filevalues.h"
+#include "interchange/standard/position.h"
+#include "interchange/standard/uddfdocument.h"
+#include "interchange/standard/uddfprofile.h"
+#include "interchange/standard/uddftanks.h"
+#include "interchange/standard/uddfwords.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <set>
+
+namespace tavrel {
+
+namespace {
+
+/// The texts of notes: paragraphs in newer files, texts in older ones, or the element's own.
+QString notesOf(XmlElement notes) {
+    QStringList paragraphs;
+    bool inParts = false;
+    for (XmlElement it = notes.firstElement(); !it.isNull(); it = it.nextElement()) {
+        if (it.name() == "para" || it.name() == "text") {
+            paragraphs.append(it.text());
+            inParts = true;
+        }
+    }
+    return inParts ? paragraphs.join(u'\n') : wordsOf(notes);
+}
+
+QString withoutRepeats(QStringList words) {
+    words.removeAll(QString());
+    words.removeDuplicates();
+    return words.join(QStringLiteral(", "));
+}
+
+QString personName(XmlElement person) {
+    const XmlElement personal = person.first("personal");
+    const XmlElement holder = personal.isNull() ? person : personal;
+    QStringList parts;
+    for (const char* part : {"firstname", "middlename", "lastname"}) {
+        if (const QString words = wordsOf(holder.first(part)); !words.isEmpty()) {
+            parts.append(words);
+        }
+    }
+    return parts.isEmpty() ? wordsOf(person.first("name")) : parts.join(u' ');
+}
+
+/// One dive, read part by part.
+class DiveReader {
+public:
+    DiveReader(const UddfDocument& document, XmlElement dive) : document_(document), dive_(dive) {
+        found_.dive = unknownDive();
+        for (const char* name : {"informationbeforedive", "informationafterdive", "diveinformation"}) {
+            for (const XmlElement part : dive.children(name)) {
+                parts_.push_back(part);
+            }
+        }
+        parts_.push_back(dive);
+    }
+
+    FoundDive read() {
+        const UddfProfile profile = readUddfProfile(dive_, found_);
+        readStart();
+        readNumbers(profile);
+        readSurfaceInterval();
+        readWords();
+        readApparatus(profile);
+        for (const XmlElement part : parts_) {
+            for (const XmlElement link : part.children("link")) {
+                follow(uddfReference(link));
+            }
+            for (const XmlElement used : part.children("equipmentused")) {
+                for (const XmlElement link : used.children("link")) {
+                    follow(uddfReference(link));
+                }
+            }
+            follow(part.first("tripmembership"));
+        }
+        finishWords();
+        std::optional<Resampled> samples = readSamples(profile);
+        giveUddfTanks(document_, dive_, profile, namedMix_, samples, found_);
+        nameLost();
+        return std::move(found_);
+    }
+
+private:
+    /// The first element of the name in any part of the dive that has text, attributes or children.
+    XmlElement element(const char* name) const {
+        for (const XmlElement part : parts_) {
+            for (const XmlElement it : part.children(name)) {
+                if (!it.firstElement().isNull() || it.hasAttributes() || !wordsOf(it).isEmpty()) {
+                    return it;
+                }
+            }
+        }
+        return {};
+    }
+    std::optional<double> number(const char* name) const { return numberOf(element(name)); }
+
+    /// A part of a date or a time: a child or an attribute.
+    static std::optional<int> partOf(XmlElement element, const char* name) {
+        auto value = numberOf(element.first(name));
+        value = value ? value : numberOf(element.attribute(name));
+        return value && *value >= 0 && *value < 10'000 ? std::optional(static_cast<int>(*value)) : std::nullopt;
+    }
+
+    void readStart() {
+        for (const char* name : {"datetime", "date"}) {
+            for (const XmlElement part : parts_) {
+                for (const XmlElement it : part.children(name)) {
+                    const auto start = startOf(it, part);
+                    if (start) {
+                        setStart(found_.dive, start->day, start->time);
+                        return;
+                    }
+                }
+            }
+        }
+    }
+
+    static std::optional<FileTime> startOf(XmlElement moment, XmlElement part) {
+        const auto year = partOf(moment, "year");
+        const auto month = partOf(moment, "month");
+        const auto day = partOf(moment, "day");
+        std::optional<FileTime> start;
+        if (year && month && day) {
+            if (const auto date = fileDay(*year, *month, *day)) {
+                start = FileTime{*date, clockOf(moment)};
+            }
+        } else {
+            start = fileTime(wordsOf(moment));
+        }
+        if (start && !start->time.isValid()) {
+            start->time = clockOf(part.first("time"));
+        }
+        return start;
+    }
+
+    static QTime clockOf(XmlElement element) {
+        const auto hour = partOf(element, "hour");
+        if (!hour) {
+            const QString words = element.firstElement().isNull() ? wordsOf(element) : QString();
+            return words.contains(u'T') ? fileTime(words).value_or(FileTime()).time : fileClock(words);
+        }
+        const auto minute = partOf(element, "minute");
+        return {*hour == 24 ? 0 : *hour, minute.value_or(0), std::min(partOf(element, "second").value_or(0), 59)};
+    }
+
+    void readNumbers(const UddfProfile& profile) {
+        Plongee& dive = found_.dive;
+        dive.noPlongee = rounded(std::clamp(number("divenumber").value_or(0), 0.0, 1e9));
+        const double depth = number("greatestdepth").value_or(0);
+        dive.profondeur = static_cast<float>(depth > 0 ? depth : profile.deepest());
+        dive.temps = minutes(profile);
+        auto coldest = celsius(number("lowesttemperature"));
+        dive.tempEau = (coldest ? coldest : celsius(profile.lowestTemperature)).value_or(temperatureNotGiven);
+        if (dive.tempEau < -5) {
+            dive.tempEau = temperatureNotGiven;
+        }
+        dive.tempAir = celsius(number("airtemperature")).value_or(temperatureNotGiven);
+        dive.altitude = altitude();
+        const double lead =
+            number("leadquantity").value_or(numberOf(element("equipmentused").first("leadquantity")).value_or(0));
+        dive.lestage = static_cast<float>(lead > 0 && lead < 1000 ? lead : 0);
+    }
+
+    /// Seconds as whole minutes; a duration that only makes sense as minutes is taken for them.
+    qint32 minutes(const UddfProfile& profile) const {
+        double seconds = number("diveduration").value_or(0);
+        if (!(seconds > 0)) {
+            seconds = profile.lastMoment;
+        } else if (profile.lastMoment > 20 * seconds && std::abs(seconds * 60 - profile.lastMoment) < 300) {
+            seconds *= 60;
+        }
+        return rounded(std::min(seconds, 1e9) / 60);
+    }
+
+    qint32 altitude() const {
+        constexpr double seaLevel = 101'325;       // pascal
+        constexpr double highestWeather = 95'000;  // pascal; below, it is the height that counts
+        if (const auto metres = number("altitude")) {
+            return *metres > 0 && *metres <= 4000 ? rounded(*metres) : 0;
+        }
+        const double pressure = number("surfacepressure").value_or(0);
+        if (pressure < 60'000 || pressure >= highestWeather) {
+            return 0;
+        }
+        // The international standard atmosphere, to ten metres.
+        return 10 * rounded(4433 * (1 - std::pow(pressure / seaLevel, 0.1903)));
+    }
+
+    void readSurfaceInterval() {
+        XmlElement interval = element("surfaceintervalbeforedive");
+        interval = interval.isNull() ? element("surfaceinterval") : interval;
+        const auto seconds = numberOf(interval.first("passedtime"));
+        if (seconds && *seconds > 0 && *seconds < 1e9) {
+            const qint32 minutes = rounded(*seconds / 60);
+            found_.dive.surface = QStringLiteral("%1:%2").arg(minutes / 60).arg(minutes % 60, 2, 10, QLatin1Char('0'));
+        }
+    }
+
+    void readWords() {
+        Plongee& dive = found_.dive;
+        dive.notes = notesOf(element("notes"));
+        if (const auto metres = number("visibility"); metres && *metres > 0) {
+            dive.visibilite = visibilityRating(*metres);
+        }
+        dive.courant = currentOf(wordsOf(element("current"))).value_or(dive.courant);
+        dive.typePlongee = purposeOf(wordsOf(element("purpose"))).value_or(dive.typePlongee);
+        dive.deco =
+            wordsOf(element("diveplan")) == QLatin1String("table") ? DecoMethod::airTables : DecoMethod::computer;
+        const XmlElement rating = element("rating");
+        dive.inoubliable = ratingOf(numberOf(rating.first("ratingvalue")).value_or(numberOf(rating).value_or(0)));
+        for (const XmlElement part : parts_) {
+            if (!part.first("nosuit").isNull()) {
+                dive.combinaison = Suit::none;
+            }
+        }
+    }
+
+    void readApparatus(const UddfProfile& profile) {
+        Plongee& dive = found_.dive;
+        const QString words = wordsOf(element("apparatus")) + u' ' + QString::fromStdString(profile.mode) + u' ' +
+                              wordsOf(element("divemode")) + u' ' +
+                              QString::fromStdString(std::string(element("divemode").attribute("type")));
+        if (words.contains(QLatin1String("semiclosed"), Qt::CaseInsensitive)) {
+            dive.rebreather = Apparatus::semiClosed;
+        } else if (words.contains(QLatin1String("closedcircuit"), Qt::CaseInsensitive)) {
+            dive.rebreather = Apparatus::electronicClosed;
+        } else if (words.contains(QLatin1String("rebreather"), Qt::CaseInsensitive) && profile.mode != "opencircuit") {
+            dive.rebreather = Apparatus::electronicClosed;
+        }
+        if (profile.setPoints.empty()) {
+            return;
+        }
+        const auto [low, high] = std::minmax_element(profile.setPoints.begin(), profile.setPoints.end());
+        dive.ppO2 = setPointTag(*high);
+        dive.lowSetpoint = *low < *high ? setPointTag(*low) : 0;
+        if (dive.rebreather == Apparatus::openCircuit) {
+            dive.rebreather = Apparatus::electronicClosed;
+        }
+    }
+
+    void follow(XmlElement link) {
+        if (!link.isNull()) {
+            follow(uddfReference(link));
+        }
+    }
+
+    void follow(const std::string& id) {
+        if (id.empty()) {
+            return;
+        }
+        if (document_.isMix(id)) {
+            namedMix_ = namedMix_.empty() ? id : namedMix_;
+        }
+        for (const XmlElement target : document_.withId(id)) {
+            take(target, target.name());
+        }
+    }
+
+    void take(XmlElement target, std::string_view name) {
+        Plongee& dive = found_.dive;
+        const QString title = wordsOf(target.first("name"));
+        if (name == "site") {
+            takeSite(target);
+        } else if (name == "divebase") {
+            dive.structure = dive.structure.isEmpty() ? title : dive.structure;
+        } else if (name == "buddy") {
+            buddies_.append(personName(target));
+        } else if (name == "divecomputer") {
+            takeComputer(target);
+        } else if (name == "trip") {
+            const XmlElement vessel = target.first("trippart").first("vessel");
+            dive.bateau = dive.bateau.isEmpty() ? wordsOf(vessel.first("name")) : dive.bateau;
+        } else if (name == "vessel") {
+            dive.bateau = title;
+        } else if (name == "suit") {
+            dive.combinaison = suitOf(title, wordsOf(target.first("suittype"))).value_or(dive.combinaison);
+        } else if (name == "rebreather") {
+            dive.rebreather = apparatusOf(title).value_or(
+                dive.rebreather == Apparatus::openCircuit ? qint32(Apparatus::electronicClosed) : dive.rebreather);
+        } else if (name == "equipmentconfiguration") {
+            for (const XmlElement link : target.children("link")) {
+                if (linkedOnce_.insert(uddfReference(link)).second) {
+                    follow(link);
+                }
+            }
+        } else if (name != "mix" && name != "tank" && name != "owner" && name != "dive") {
+            equipment_.append(title.isEmpty() ? wordsOf(target.first("model")) : title);
+        }
+    }
+
+    void takeSite(XmlElement site) {
+        Plongee& dive = found_.dive;
+        if (!dive.site.isEmpty() || !dive.lieu.isEmpty()) {
+            return;
+        }
+        dive.site = wordsOf(site.first("name"));
+        const XmlElement geography = site.first("geography");
+        dive.lieu = wordsOf(geography.first("location"));
+        dive.pays = wordsOf(childOf(geography.first("address"), {"country"}));
+        if (dive.pays.isEmpty()) {
+            dive.pays = wordsOf(geography.first("country"));
+        }
+        const auto latitude = numberOf(geography.first("latitude"));
+        const auto longitude = numberOf(geography.first("longitude"));
+        if (latitude && longitude && std::abs(*latitude) <= 90 && std::abs(*longitude) <= 180 &&
+            (*latitude != 0 || *longitude != 0)) {
+            dive.gps = positionText({*latitude, *longitude});
+        }
+        if (const auto metres = numberOf(geography.first("altitude"));
+            metres && dive.altitude == 0 && *metres > 0 && *metres <= 4000) {
+            dive.altitude = rounded(*metres);
+        }
+        QStringList wrecks;
+        for (const XmlElement wreck : site.first("sitedata").children("wreck")) {
+            wrecks.append(wordsOf(wreck.first("name")));
+        }
+        dive.epaves = withoutRepeats(wrecks);
+        dive.difficulte = difficultyOf(numberOf(site.first("sitedata").first("difficulty")).value_or(0));
+        const QString environment = wordsOf(site.first("environment"));
+        if (dive.typePlongee == DiveKind::other) {
+            dive.typePlongee = environmentKind(environment).value_or(qint32(DiveKind::other));
+        }
+        if (const QString notes = notesOf(site.first("notes")); !notes.trimmed().isEmpty()) {
+            found_.lose(QStringLiteral("site/notes"), notes);
+        }
+    }
+
+    void takeComputer(XmlElement computer) {
+        Plongee& dive = found_.dive;
+        if (!dive.ordinateur.isEmpty()) {
+            return;
+        }
+        dive.fabricant = wordsOf(computer.first("manufacturer").first("name"));
+        dive.ordinateur = wordsOf(computer.first("model"));
+        if (dive.ordinateur.isEmpty()) {
+            dive.ordinateur = wordsOf(computer.first("name"));
+        }
+        dive.serie = wordsOf(computer.first("serialnumber"));
+    }
+
+    void finishWords() {
+        Plongee& dive = found_.dive;
+        dive.partenaires = withoutRepeats(buddies_);
+        if (dive.ordinateur.isEmpty()) {
+            // A dive that names no computer was logged by the only one of the owner.
+            if (const XmlElement only = document_.onlyPiece("divecomputer"); !only.isNull()) {
+                takeComputer(only);
+            }
+        }
+        equipment_.removeAll(QString());
+        for (qsizetype piece = 0; piece < equipment_.size(); ++piece) {
+            if (static_cast<std::size_t>(piece) < equipmentFields.size()) {
+                dive.*equipmentFields[static_cast<std::size_t>(piece)] = equipment_[piece];
+            } else {
+                found_.lose(QStringLiteral("equipmentused"), equipment_[piece]);
+            }
+        }
+    }
+
+    std::optional<Resampled> readSamples(const UddfProfile& profile) {
+        std::optional<Resampled> samples = profile.depths.size() < 2 ? std::nullopt : resample(profile.depths);
+        if (!samples) {
+            if (!profile.depths.empty()) {
+                found_.lose(QStringLiteral("samples"));
+            }
+            return samples;
+        }
+        Plongee& dive = found_.dive;
+        dive.samplingRate = samples->code;
+        dive.profilProfondeur = Series::ofReals(samples->depths);
+        using Alarm = UddfProfile::Alarm;
+        static constexpr std::array<std::pair<Alarm, Series ProfileSeries::*>, 4> flagsOf{{
+            {Alarm::ascent, &ProfileSeries::ASC_Flag},
+            {Alarm::slow, &ProfileSeries::SLOW_Flag},
+            {Alarm::surface, &ProfileSeries::SURF_Flag},
+            {Alarm::ceiling, &ProfileSeries::CEIL_Flag},
+        }};
+        for (const auto& [kind, series] : flagsOf) {
+            std::vector<std::int8_t> flags(samples->depths.size(), 0);
+            for (const auto& [moment, alarm] : profile.alarms) {
+                if (alarm == kind) {
+                    flags[samples->sampleAt(moment)] = 1;
+                }
+            }
+            dive.*series = Series::empty();
+            (dive.*series).append(std::span<const std::int8_t>(flags));
+        }
+        dive.GAZ_Flag = dive.ASC_Flag;
+        return samples;
+    }
+
+    /// Names the elements of the dive's parts that nothing above has read.
+    void nameLost() {
+        static const std::set<std::string_view> read{
+            "informationbeforedive",
+            "informationafterdive",
+            "diveinformation",
+            "samples",
+            "tankdata",
+            "link",
+            "divenumber",
+            "datetime",
+            "date",
+            "time",
+            "airtemperature",
+            "surfaceintervalbeforedive",
+            "surfaceinterval",
+            "altitude",
+            "equipmentused",
+            "apparatus",
+            "purpose",
+            "nosuit",
+            "plannedprofile",
+            "tripmembership",
+            "lowesttemperature",
+            "greatestdepth",
+            "diveduration",
+            "visibility",
+            "current",
+            "diveplan",
+            "notes",
+            "rating",
+            "averagedepth",
+            "divemode",
+            "leadquantity",
+        };
+        for (const XmlElement part : parts_) {
+            for (XmlElement it = part.firstElement(); !it.isNull(); it = it.nextElement()) {
+                if (read.count(it.name()) > 0) {
+                    continue;
+                }
+                const QString words = wordsOf(it);
+                const bool isNumber = numberOf(it).has_value();
+                if (!words.isEmpty() || !it.firstElement().isNull() || it.hasAttributes()) {
+                    const std::string_view name = it.name();
+                    found_.lose(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())),
+                                isNumber ? QString() : words.simplified());
+                }
+            }
+        }
+    }
+
+    const UddfDocument& document_;
+    XmlElement dive_;
+    std::vector<XmlElement> parts_;
+    FoundDive found_;
+    std::string namedMix_;
+    QStringList buddies_;
+    QStringList equipment_;
+    std::set<std::string> linkedOnce_;
+};
+
+}  // namespace
+
+FoundDives readUddf(XmlElement root, const Progress& progress) {
+    const UddfDocument document(root);
+    std::vector<XmlElement> dives;
+    for (const XmlElement data : root.children("profiledata")) {
+        for (XmlElement group = data.firstElement(); !group.isNull(); group = group.nextElement()) {
+            if (group.name() == "dive") {
+                dives.push_back(group);
+                continue;
+            }
+            for (const XmlElement dive : group.children("dive")) {
+                dives.push_back(dive);
+            }
+        }
+    }
+    FoundDives found;
+    if (dives.size() > mostDives) {
+        found.tooMany = true;
+        return found;
+    }
+    found.dives.reserve(dives.size());
+    for (const XmlElement dive : dives) {
+        if (progress && !progress(found.dives.size(), dives.size())) {
+            break;
+        }
+        found.dives.push_back(DiveReader(document, dive).read());
+        if (dive.parent().name() != "repetitiongroup") {
+            found.dives.back().doubts.push_back(Doubt::groupSkipped);
+        }
+    }
+    for (const char* name : {"mediadata", "business", "tablegeneration", "divecomputercontrol", "decomodel"}) {
+        if (const XmlElement part = root.first(name); !part.firstElement().isNull()) {
+            found.lostWithFile.append(QString::fromLatin1(name));
+        }
+    }
+    return found;
+}
+
+}  // namespace tavrel

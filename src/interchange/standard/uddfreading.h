@@ -1,0 +1,17 @@
+#pragma once
+
+#include "base/progress.h"
+#include "interchange/standard/founddive.h"
+#include "interchange/xml/xmltree.h"
+
+namespace tavrel {
+
+/// How such a file is parsed: with attributes, and names without the prefix of the root's namespace.
+inline constexpr XmlMarkup uddfMarkup{true, true};
+
+/// The dives of a UDDF file, versions 2 and 3, by the meaning of its elements: every group of every profiledata, values
+/// wherever the versions put them, links followed, SI units turned into a dive's. What a dive cannot hold is named in
+/// it. The progress counts dives; cancelled, the dives read so far come back.
+FoundDives readUddf(XmlElement root, const Progress& progress = {});
+
+}  // namespace tavrel

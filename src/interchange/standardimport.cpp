@@ -1,0 +1,180 @@
+#include "interchange/standardimport.h"
+
+#include "base/safefile.h"
+#include "desktop/clock.h"
+
+#include <algorithm>
+
+namespace tavrel {
+
+namespace {
+
+using List = RecordList;
+
+/// Whether the numbers that the dives bring go on from those of the logbook.
+bool numbersGoOn(const Carnet& carnet, const std::vector<Plongee>& dives) {
+    qint32 last = carnet.records().empty() ? 0 : asDive(carnet.records().back()).noPlongee;
+    for (const Plongee& dive : dives) {
+        if (dive.noPlongee <= last) {
+            return false;
+        }
+        last = dive.noPlongee;
+    }
+    return true;
+}
+
+void numberOn(const Carnet& carnet, std::vector<Plongee>& dives) {
+    qint32 number = carnet.nextDiveNumber();
+    for (Plongee& dive : dives) {
+        dive.noPlongee = number;
+        number = Carnet::numberAfter(dive);
+    }
+}
+
+/// All dives in the order of their starts, those without one last, numbered on from the first number there is.
+List byDate(List list) {
+    const auto startsBefore = [](const RecordPointer& one, const RecordPointer& other) {
+        const QDateTime start = startOf(asDive(one));
+        const QDateTime otherStart = startOf(asDive(other));
+        return start.isValid() && (!otherStart.isValid() || start < otherStart);
+    };
+    qint32 number = list.empty() ? 1 : asDive(list.front()).noPlongee;
+    for (const RecordPointer& dive : list) {
+        number = std::min(number, asDive(dive).noPlongee);
+    }
+    number = std::max(number, 1);
+    std::stable_sort(list.begin(), list.end(), startsBefore);
+    for (RecordPointer& dive : list) {
+        if (asDive(dive).noPlongee != number) {
+            Plongee renumbered = asDive(dive);
+            renumbered.noPlongee = number;
+            dive = std::make_shared<const Plongee>(std::move(renumbered));
+        }
+        number = Carnet::numberAfter(asDive(dive));
+    }
+    return list;
+}
+
+void append(Carnet& carnet, std::vector<Plongee> dives, bool renumberByDate) {
+    // Nothing of what the form shows may be stored into a dive that stands elsewhere afterwards.
+    carnet.deselectAll();
+    if (!renumberByDate) {
+        carnet.appendDives(text("Carnet", "Undo import"), std::move(dives));
+        return;
+    }
+    List list = carnet.records();
+    for (Plongee& dive : dives) {
+        list.push_back(std::make_shared<const Plongee>(std::move(dive)));
+    }
+    carnet.changeList(text("Carnet", "Undo import"), byDate(std::move(list)));
+}
+
+FoundDives foundFrom(const List& records, std::size_t first) {
+    FoundDives found;
+    for (std::size_t row = first; row < records.size(); ++row) {
+        FoundDive it;
+        it.dive = asDive(records[row]);
+        found.dives.push_back(std::move(it));
+    }
+    return found;
+}
+
+Expected<ImportResult> readPrescribed(Carnet& carnet, const QString& file, ImportFormat format) {
+    switch (format) {
+        case ImportFormat::uddf:
+            return readUDDF(carnet, file);
+        case ImportFormat::handheld:
+            return readFromiPhoneFile(carnet, file);
+        case ImportFormat::udcf:
+            break;
+    }
+    return readUDCF(carnet, file);
+}
+
+}  // namespace
+
+Expected<Source> findDives(const Carnet& carnet, QByteArrayView bytes, const Progress& progress) {
+    return readSource(bytes, progress).map([&](Source&& source) {
+        judge(carnet, source.found);
+        return std::move(source);
+    });
+}
+
+void judge(const Carnet& carnet, FoundDives& found) {
+    doubt(found, carnet.desktop().clock.now());
+    markDuplicates(found, carnet.records());
+}
+
+QStringList lostItemLines(const FoundDives& found) {
+    QStringList lines;
+    for (const auto& [name, dives] : found.lostCounts()) {
+        lines.append(textWith("Interchange", "Lost of dives", name, dives));
+    }
+    return lines + found.lostWithFile;
+}
+
+ImportResult takeDives(Carnet& carnet, FoundDives found, const TakeChoices& choices) {
+    ImportResult result;
+    std::vector<Plongee> dives;
+    FoundDives taken;
+    for (FoundDive& it : found.dives) {
+        if (choices.skipDuplicates && it.duplicate) {
+            ++result.skipped;
+            continue;
+        }
+        if (choices.keepLostTexts) {
+            keepLostTexts(it);
+        }
+        it.dive.profilArraysDefaultContent();
+        result.count(it);
+        dives.push_back(std::move(it.dive));
+    }
+    if (!numbersGoOn(carnet, dives)) {
+        numberOn(carnet, dives);
+    }
+    result.taken = static_cast<int>(dives.size());
+    if (!dives.empty()) {
+        append(carnet, std::move(dives), choices.renumberByDate);
+    }
+    carnet.updateUI();
+    return result;
+}
+
+Expected<FoundDives> previewPrescribed(Carnet& carnet, const QString& file, ImportFormat format) {
+    const List before = carnet.records();
+    return readPrescribed(carnet, file, format).map([&](const ImportResult& result) {
+        FoundDives found = foundFrom(carnet.records(), before.size());
+        if (result.taken > 0) {
+            carnet.undoStack().undo();
+        }
+        doubt(found, carnet.desktop().clock.now());
+        markDuplicates(found, before);
+        if (result.leftOut > 0) {
+            found.lostWithFile.append(textWith("Interchange", "Left out", result.leftOut));
+        }
+        if (result.stoppedAt > 0) {
+            found.lostWithFile.append(textWith("Carnet", "Import stopped", result.stoppedAt, result.why));
+        }
+        return found;
+    });
+}
+
+Expected<ImportResult> importPrescribed(Carnet& carnet, const QString& file, ImportFormat format,
+                                        const TakeChoices& choices) {
+    const List before = carnet.records();
+    auto result = readPrescribed(carnet, file, format);
+    const bool changes = choices.renumberByDate || (choices.skipDuplicates && result && result->twice > 0);
+    if (!result || result->taken == 0 || !changes) {
+        return result;
+    }
+    FoundDives found = foundFrom(carnet.records(), before.size());
+    carnet.undoStack().undo();
+    markDuplicates(found, before);
+    const ImportResult taken = takeDives(carnet, std::move(found), choices);
+    result->taken = taken.taken;
+    result->skipped = taken.skipped;
+    result->twice = taken.twice;
+    return result;
+}
+
+}  // namespace tavrel

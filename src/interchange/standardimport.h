@@ -1,0 +1,40 @@
+#pragma once
+
+#include "interchange/imports.h"
+#include "interchange/standard/sourcereading.h"
+#include "logbook/carnet.h"
+
+#include <QByteArrayView>
+
+namespace tavrel {
+
+// The front door: a file's dives are found first, with what is doubtful about them, and taken over when the user has
+// chosen. Nothing in the logbook changes before.
+
+/// The dives of a file, with their doubts, and those marked that the logbook holds already. The progress is in
+/// thousandths; cancelled, the reading fails.
+Expected<Source> findDives(const Carnet& carnet, QByteArrayView bytes, const Progress& progress = {});
+
+/// Notes the doubts of found dives and marks those that the logbook holds already.
+void judge(const Carnet& carnet, FoundDives& found);
+
+/// What the file holds and a dive does not, each with the count of dives.
+QStringList lostItemLines(const FoundDives& found);
+
+struct TakeChoices {
+    bool skipDuplicates = true;
+    bool renumberByDate = false;  ///< puts all dives of the logbook in the order of their dates and numbers them on
+    bool keepLostTexts = false;   ///< words that have no field of their own go to the notes
+};
+
+/// Appends found dives as one undo step. They keep their numbers where these go on from the last of the logbook, or it
+/// is empty; else they are numbered on.
+ImportResult takeDives(Carnet& carnet, FoundDives found, const TakeChoices& choices);
+
+/// What an import in one of the prescribed formats would bring, as found dives, with the logbook left as it was; and
+/// that import itself, where dives that the logbook holds already may be left out.
+Expected<FoundDives> previewPrescribed(Carnet& carnet, const QString& file, ImportFormat format);
+Expected<ImportResult> importPrescribed(Carnet& carnet, const QString& file, ImportFormat format,
+                                        const TakeChoices& choices);
+
+}  // namespace tavrel

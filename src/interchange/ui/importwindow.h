@@ -1,0 +1,67 @@
+#pragma once
+
+#include "desktop/desktop.h"
+#include "interchange/standardimport.h"
+
+#include <QWidget>
+
+#include <atomic>
+#include <memory>
+
+class QCheckBox;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QThread;
+class QTreeWidget;
+
+namespace tavrel {
+
+/// The dives of a file before any of them is taken: a list with ticks, where what the logbook holds already is not
+/// ticked, with what is doubtful about each and a small profile. The file is read in a thread of its own; the
+/// logbook stays in use, and nothing in it changes before the user imports, which is one undo step.
+class ImportWindow : public QWidget {
+    Q_OBJECT
+
+public:
+    ImportWindow(Carnet& carnet, Desktop& desktop, const QString& file, QWidget* parent);
+    ~ImportWindow() override;
+
+    bool isReading() const { return reading_; }
+    QTreeWidget& list() { return *list_; }
+    /// Takes the ticked dives over, tells what came in, and closes.
+    void importChosen();
+
+Q_SIGNALS:
+    /// The list is filled, or the file could not be read.
+    void readingEnded();
+
+private:
+    /// What the reading thread leaves, and how it is told to stop.
+    struct Reading;
+
+    void startReading(const QString& file);
+    void advance(int thousandths);
+    void showFound();
+    void addRow(int index);
+    void tickAll(bool ticked);
+    void updateChosen();
+
+    Carnet& carnet_;
+    Desktop& desktop_;
+    FoundDives found_;
+    std::shared_ptr<Reading> state_;
+    QThread* thread_ = nullptr;
+    bool reading_ = false;
+
+    QLabel* heading_;
+    QProgressBar* progress_;
+    QTreeWidget* list_;
+    QLabel* lost_;
+    QCheckBox* byDate_;
+    QCheckBox* keepTexts_;
+    QLabel* chosen_;
+    QPushButton* import_;
+};
+
+}  // namespace tavrel

@@ -1,0 +1,97 @@
+#include "logbook/ui/profilecommands.h"
+
+#include "desktop/ui/bringtofront.h"
+#include "logbook/diveprofile.h"
+#include "logbook/ui/logbookwindow.h"
+#include "profile/ui/profileeditorwindow.h"
+#include "profile/ui/profilewindow.h"
+
+namespace tavrel {
+
+namespace {
+
+qint32 numberIn(const DiveForm& form) {
+    return form.state().integer(form.controls().noPlongeeField);
+}
+
+}  // namespace
+
+ProfileCommands::ProfileCommands(Carnet& carnet, LogbookWindow& window, Desktop& desktop)
+    : QObject(&window), carnet_(carnet), desktop_(desktop) {
+    window.provideCommand(QStringLiteral("profil"), [this] { displayProfilWindow(); });
+    window.provideCommand(QStringLiteral("profilData"), [this] { profilInfo(); });
+    const FormStateBase& state = carnet.form().state();
+    connect(&state, &FormStateBase::refreshed, this, &ProfileCommands::scheduleRefresh);
+    connect(&state, &FormStateBase::controlChanged, this, &ProfileCommands::scheduleRefresh);
+    connect(&carnet, &Carnet::selectionChanged, this, &ProfileCommands::scheduleRefresh);
+    connect(&carnet, &Carnet::listChanged, this, &ProfileCommands::scheduleRefresh);
+    connect(&carnet, &Carnet::profileRedrawRequested, this, &ProfileCommands::scheduleRefresh);
+}
+
+ProfileCommands::~ProfileCommands() = default;
+
+ProfileWindow& ProfileCommands::profileWindow() {
+    if (!profileWindow_) {
+        profileWindow_ = std::make_unique<ProfileWindow>(desktop_.preferences, desktop_.alerts);
+    }
+    return *profileWindow_;
+}
+
+ProfileEditorWindow& ProfileCommands::editorWindow() {
+    if (!editorWindow_) {
+        editorWindow_ = std::make_unique<ProfileEditorWindow>(desktop_.preferences);
+        connect(editorWindow_.get(), &ProfileEditorWindow::importRequested, this, [this](const SeriesTexts& texts) {
+            importProfil(carnet_, texts);
+            editorWindow_->updateProfilInfo(carnet_.form().profile(), numberIn(carnet_.form()));
+        });
+    }
+    return *editorWindow_;
+}
+
+void ProfileCommands::displayProfilWindow() {
+    bringToFront(&profileWindow());
+    refresh();
+}
+
+void ProfileCommands::profilInfo() {
+    editorWindow().updateProfilInfo(carnet_.form().profile(), numberIn(carnet_.form()));
+    bringToFront(editorWindow_.get());
+}
+
+QList<QWidget*> ProfileCommands::windows() const {
+    QList<QWidget*> made;
+    if (profileWindow_) {
+        made.append(profileWindow_.get());
+    }
+    if (editorWindow_) {
+        made.append(editorWindow_.get());
+    }
+    return made;
+}
+
+void ProfileCommands::scheduleRefresh() {
+    // A step to another dive changes many controls; the windows follow once.
+    if (!refreshScheduled_) {
+        refreshScheduled_ = true;
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                refreshScheduled_ = false;
+                refresh();
+            },
+            Qt::QueuedConnection);
+    }
+}
+
+void ProfileCommands::refresh() {
+    const qint32 number = numberIn(carnet_.form());
+    if (profileWindow_ && profileWindow_->isVisible()) {
+        profileWindow_->setProfile(profileDiveOf(carnet_.form()), ProfileStyle::read(desktop_.preferences),
+                                   profileTitle(number));
+    }
+    if (editorWindow_ && editorWindow_->isVisible()) {
+        editorWindow_->followDive(carnet_.form().profile(), number);
+    }
+}
+
+}  // namespace tavrel

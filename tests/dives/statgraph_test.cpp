@@ -1,0 +1,139 @@
+#include "dives/statgraph.h"
+
+#include "dives/statistics.h"
+#include "dives/statisticsreport.h"
+#include "profile/profilesettings.h"
+#include "support/printing.h"
+#include "support/testdesktop.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tavrel {
+namespace {
+
+std::vector<DivePointer> dives(std::initializer_list<float> depths) {
+    std::vector<DivePointer> list;
+    for (const float depth : depths) {
+        Plongee dive;
+        dive.profondeur = depth;
+        dive.gaz = depth > 50 ? 3 : 0;
+        list.push_back(std::make_shared<const Plongee>(std::move(dive)));
+    }
+    return list;
+}
+
+template <class Kind>
+std::vector<Kind> all(const Drawing& drawing) {
+    std::vector<Kind> found;
+    for (const auto& primitive : drawing.primitives()) {
+        if (const auto* one = std::get_if<Kind>(&primitive)) {
+            found.push_back(*one);
+        }
+    }
+    return found;
+}
+
+TEST(StatGraph, BarsAreAsHighAsTheirShare) {
+    const auto list = dives({5, 12, 15, 70});
+    const GraphShares shares = setDataForStatGraphes(Statistics(divesIn(list), nullptr));
+    EXPECT_FLOAT_EQ(shares.depth_level[1], 50);
+    EXPECT_FLOAT_EQ(shares.depth_level[6], 25);
+    EXPECT_FLOAT_EQ(shares.air, 75);
+    EXPECT_FLOAT_EQ(shares.heliox, 25);
+
+    const StatGraph graph = statGraph(shares, false);
+    EXPECT_EQ(graph.bars[1].rect, QRectF(145, 50, 60, 200));
+    EXPECT_EQ(graph.bars[1].label, u"50.0 %");
+    EXPECT_EQ(graph.bars[1].labelAt, QPointF(160, 250));
+    EXPECT_EQ(graph.bars[1].name, u"10 - 19 m");
+    EXPECT_EQ(graph.bars[2].rect, QRectF(210, 50, 60, 0));
+    EXPECT_EQ(graph.bars[2].label, u"0.0 %");
+    EXPECT_EQ(graph.bars[6].rect.left(), 470);
+    EXPECT_EQ(graph.bars[7].rect, QRectF(600, 50, 60, 300));
+    EXPECT_EQ(graph.bars[8].rect.left(), 665);
+    EXPECT_EQ(graph.bars[10].rect, QRectF(795, 50, 60, 100));
+    EXPECT_EQ(graph.bars[10].nameAt.x(), 807);
+    EXPECT_EQ(graph.bars[10].path, GraphPath::trimix);
+    EXPECT_EQ(statGraph({.air = 100}, false).bars[7].rect.bottom(), 450);
+}
+
+TEST(StatGraph, PreviousDivesCountInSharesAndNoDiveAtAllLiesFlat) {
+    PreviousTotals previous;
+    previous.counts[static_cast<std::size_t>(StatCount::air)] = 4;
+    previous.measures[static_cast<std::size_t>(StatMeasure::totalDives)] = 6;
+    const auto list = dives({5, 12});
+    EXPECT_FLOAT_EQ(setDataForStatGraphes(Statistics(divesIn(list), &previous)).air, 75);
+    EXPECT_FLOAT_EQ(setDataForStatGraphes(Statistics(divesIn(list), nullptr)).air, 100);
+
+    previous.measures = {};
+    for (const auto* totals : {static_cast<const PreviousTotals*>(nullptr), &std::as_const(previous)}) {
+        const GraphShares shares = setDataForStatGraphes(Statistics({}, totals));
+        EXPECT_FALSE(std::isfinite(shares.air));
+        for (const auto& bar : statGraph(shares, true).bars) {
+            EXPECT_EQ(bar.rect.height(), 0);
+        }
+    }
+}
+
+TEST(StatGraph, TicksAreLabelledInTens) {
+    const auto ticks = statGraph({}, true).ticks;
+    EXPECT_EQ(ticks.size(), 21U);
+    EXPECT_EQ(ticks[1].label, u"");
+    EXPECT_EQ(ticks[1].y, 70);
+    EXPECT_EQ(ticks[20].label, u"100 %");
+    EXPECT_EQ(ticks[20].y, 450);
+    EXPECT_EQ(statGraph({}, false).ticks.size(), 11U);
+}
+
+TEST(StatGraph, DrawingFollowsThePreferencesAndKeepsLabelsOnThePaper) {
+    TestDesktop desktop;
+    Preferences& preferences = desktop.desktop().preferences;
+    const auto list = dives({5, 12, 15, 70});
+    GraphShares shares = setDataForStatGraphes(Statistics(divesIn(list), nullptr));
+    shares.nitrox = 300;
+    preferences.set(settings::fillPlot, false);
+    const auto filled = [&](const QColor& colour) {
+        const auto areas = all<Drawing::Area>(statGraphDrawing(shares, preferences));
+        return std::count_if(areas.begin(), areas.end(),
+                             [&](const auto& area) { return area.brush.color() == colour; });
+    };
+    const QColor pink(250, 10, 200);
+    preferences.set(settings::fillColor, pink);
+    preferences.set(settings::alphaFillColor, 1.0);
+    EXPECT_EQ(filled(pink), 0);
+    preferences.set(settings::fillPlot, true);
+    EXPECT_EQ(filled(pink), 1);
+
+    const auto lines = [&] { return all<Drawing::Line>(statGraphDrawing(shares, preferences)); };
+    const auto dashes = [&] {
+        const auto found = lines();
+        return std::count_if(found.begin(), found.end(), [](const auto& line) { return line.dash > 0; });
+    };
+    EXPECT_EQ(dashes(), 0);
+    preferences.set(settings::gradientYes, true);
+    EXPECT_EQ(dashes(), 1);
+
+    const Drawing drawing = statGraphDrawing(shares, preferences);
+    for (const auto& text : all<Drawing::Text>(drawing)) {
+        EXPECT_GE(text.at.y(), 0);
+        EXPECT_LE(text.at.y() + text.size, drawing.size().height()) << text.text.toStdString();
+    }
+    EXPECT_EQ(drawing.table.cell(8, 1), u"300.0 %");
+}
+
+TEST(StatisticsReport, NamesEveryFigureUnderItsHeading) {
+    const auto list = dives({5, 12, 15, 70});
+    const QString report = statisticsReport(Statistics(divesIn(list), nullptr), QStringLiteral("Lagoon")).text();
+    EXPECT_TRUE(
+        report.startsWith(u"Statistics of Lagoon\r\rDepth, time and water\r   Dives: 4 dives\r"
+                          "   Deepest dive: 70 m\r"));
+    EXPECT_TRUE(report.contains(u"\r   Total time: 0 h 00 min. (0 min.)\r"));
+    EXPECT_TRUE(report.contains(u"\r\rGases\r   Air: 3 (75.0 %)\r   Nitrox: 0 (0.0 %)\r"));
+    EXPECT_TRUE(report.endsWith(u"\r   60 m and more: 1 (25.0 %)"));
+}
+
+}  // namespace
+}  // namespace tavrel

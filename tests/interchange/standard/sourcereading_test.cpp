@@ -1,0 +1,310 @@
+#include "interchange/standard/sourcereading.h"
+
+#include "base/safefile.h"
+#include "support/printing.h"
+
+#include <QElapsedTimer>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+
+namespace tavrel {
+
+namespace {
+
+FoundDives read(const QByteArray& bytes, std::optional<SourceKind> kind = {}) {
+    const auto source = readSource(bytes);
+    EXPECT_TRUE(source) << (source ? "" : source.error().message().toStdString());
+    EXPECT_TRUE(!kind || !source || source->kind == *kind);
+    return source ? source->found : FoundDives();
+}
+
+FoundDives readFixture(const char* name, SourceKind kind) {
+    const auto bytes = FileBytes::open(QStringLiteral(TAVREL_TEST_DATA "/exchange/") + QString::fromLatin1(name));
+    EXPECT_TRUE(bytes) << name;
+    return bytes ? read(bytes->bytes().toByteArray(), kind) : FoundDives();
+}
+
+QByteArray dive(const QByteArray& before, const QByteArray& rest = {}) {
+    return "<uddf version='3.2.3'><profiledata><repetitiongroup id='g'><dive id='d'><informationbeforedive>" + before +
+           "</informationbeforedive>" + rest + "</dive></repetitiongroup></profiledata></uddf>";
+}
+
+QString startText(const Plongee& dive) {
+    return startOf(dive).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+}
+
+bool loses(const FoundDive& found, const char* name) {
+    return std::any_of(found.lost.begin(), found.lost.end(),
+                       [&](const LostItem& item) { return item.name == QLatin1String(name); });
+}
+
+TEST(Uddf, givesADiveEverythingThatItsLinksTell) {
+    const FoundDives found = readFixture("two-seconds.uddf", SourceKind::uddf);
+    ASSERT_EQ(found.dives.size(), 1U);
+    const Plongee& dive = found.dives[0].dive;
+    EXPECT_EQ(dive.noPlongee, 7);
+    EXPECT_EQ(startText(dive), u"2021-06-30 09:41:30") << "as the clock on the boat showed it";
+    EXPECT_EQ(dive.lieu, QStringLiteral("Port-Cros"));
+    EXPECT_EQ(dive.site, QStringLiteral("La Gabinière"));
+    EXPECT_EQ(dive.pays, u"France");
+    EXPECT_EQ(dive.gps, QStringLiteral("N 42° 59.298'  E 006° 23.550'"));
+    EXPECT_EQ(dive.epaves, u"Le Donator");
+    EXPECT_EQ(dive.structure, u"Club du Port");
+    EXPECT_EQ(dive.partenaires, QStringLiteral("Zoé Martin, Max"));
+    EXPECT_EQ(dive.surface, u"1:31");
+    EXPECT_EQ(dive.profondeur, 6.47F);
+    EXPECT_EQ((std::array{dive.temps, dive.tempEau, dive.tempAir}), (std::array{45, 15, 26}));
+    EXPECT_EQ((std::array{dive.gaz, dive.o2Mix, dive.heMix}), (std::array{1, 32, 0}));
+    EXPECT_EQ((std::array{dive.alliageBloc, dive.volumeBloc, dive.pressionDepart, dive.pressionFin}),
+              (std::array{2, 12, 201, 70}));
+    EXPECT_EQ((std::array{dive.visibilite, dive.courant, dive.typePlongee, dive.combinaison, dive.inoubliable}),
+              (std::array{1, 3, 3, 1, 1}));
+    EXPECT_EQ(dive.lestage, 4.5F);
+    EXPECT_EQ((QStringList{dive.fabricant, dive.ordinateur, dive.serie, dive.equip_1, dive.equip_2}),
+              (QStringList{QStringLiteral("Reef"), QStringLiteral("Two"), QStringLiteral("0042"),
+                           QStringLiteral("Red fins"), QString()}));
+    EXPECT_EQ(dive.notes, u"First line\nSecond line");
+    for (const char* name : {"waypoint/heartrate", "waypoint/temperature", "alarm rbt", "problems", "site/notes"}) {
+        EXPECT_TRUE(loses(found.dives[0], name)) << name;
+    }
+    EXPECT_FALSE(loses(found.dives[0], "rating"));
+    FoundDive keeping = found.dives[0];
+    keepLostTexts(keeping);
+    EXPECT_TRUE(keeping.dive.notes.endsWith(QStringLiteral("problems: vertigo"))) << keeping.dive.notes.toStdString();
+}
+
+TEST(Uddf, samplesTwoSecondsSoThatNoDepthIsLost) {
+    const Plongee dive = readFixture("two-seconds.uddf", SourceKind::uddf).dives[0].dive;
+    // Four seconds would be a metre off at the peak, so it becomes one.
+    EXPECT_EQ(dive.samplingRate, 6);
+    ASSERT_EQ(dive.profilProfondeur.size(), 13U);
+    EXPECT_EQ(dive.profilProfondeur.real(4), 6.4);
+    EXPECT_DOUBLE_EQ(dive.profilProfondeur.real(3), 3.95);
+    const auto flagged = [&](const Series& flags, std::size_t sample) {
+        for (std::size_t other = 0; other < flags.size(); ++other) {
+            EXPECT_EQ(flags.integer(other), other == sample ? 1 : 0) << other;
+        }
+        EXPECT_EQ(flags.size(), 13U);
+    };
+    flagged(dive.ASC_Flag, 4);
+    flagged(dive.SLOW_Flag, 8);
+    flagged(dive.CEIL_Flag, 10);
+    flagged(dive.SURF_Flag, 12);
+    EXPECT_EQ(dive.PRESS_Data.real(0), 200.5);
+    EXPECT_EQ(dive.PRESS_Data.real(4), 196.5);
+    EXPECT_EQ(dive.PRESS_Data.real(12), 192.5);
+}
+
+TEST(Uddf, givesTanksTheirPlacesByTheUseOfTheirGas) {
+    const FoundDives found = readFixture("stages.uddf", SourceKind::uddf);
+    ASSERT_EQ(found.dives.size(), 2U) << "of both groups, whatever the prefix";
+    const Plongee& dive = found.dives[0].dive;
+    EXPECT_EQ(startText(dive), u"2019-08-01 07:05:00");
+    EXPECT_EQ((std::array{dive.gaz, dive.o2Mix, dive.heMix}), (std::array{2, 18, 45})) << "breathed at the bottom";
+    EXPECT_EQ((std::array{dive.volumeBloc, dive.pressionDepart, dive.pressionFin}), (std::array{24, 230, 80}));
+    EXPECT_EQ((std::array{dive.gaz_2, dive.o2Mix_2, dive.volumeBloc_2, dive.pressionDepart_2, dive.pressionFin_2}),
+              (std::array{1, 30, 11, 210, 150}));
+    EXPECT_EQ((std::array{dive.volPony1, dive.pressDepartPony1, dive.pressFinPony1}), (std::array{11, 200, 110}));
+    EXPECT_EQ((std::array{dive.volPony2, dive.pressDepartPony2, dive.pressFinPony2}), (std::array{7, 190, 120}));
+    EXPECT_EQ((std::array{dive.decoO2_Level_1, dive.decoO2_Level_2, dive.decoO2_Level_3}), (std::array{30, 50, 100}));
+    const int seconds = 60;
+    EXPECT_EQ(dive.GAZ_Flag.integer(120 / seconds), 1);
+    EXPECT_EQ(dive.GAZ_Flag.integer(1800 / seconds), 3);
+    EXPECT_EQ(dive.GAZ_Flag.integer(2700 / seconds), 4);
+    EXPECT_EQ(dive.PRESS_Data.real(0), 230) << "of the first tank";
+    EXPECT_EQ(dive.temps, 70) << "the last waypoint's, without a duration";
+    EXPECT_EQ(found.dives[1].dive.temps, 30);
+    EXPECT_EQ(startText(found.dives[1].dive), u"2019-08-02 23:59:59");
+    EXPECT_FALSE(found.dives[1].dive.hasProfile());
+}
+
+TEST(Uddf, readsARebreather) {
+    const FoundDives found = readFixture("rebreather.uddf", SourceKind::uddf);
+    ASSERT_EQ(found.dives.size(), 1U);
+    const Plongee& dive = found.dives[0].dive;
+    EXPECT_EQ(dive.rebreather, 3);
+    EXPECT_EQ((std::array{dive.ppO2, dive.lowSetpoint}), (std::array{2, 10})) << "1.3 and 0.7 bar";
+    EXPECT_EQ((std::array{dive.o2Mix, dive.volumeBloc, dive.pressionDepart}), (std::array{100, 2, 180}));
+    EXPECT_EQ((std::array{dive.o2Mix_2, dive.heMix_2, dive.volumeBloc_2, dive.pressionFin_2}),
+              (std::array{18, 45, 3, 160}));
+    EXPECT_EQ((std::array{dive.O2Bailout1, dive.volBailout1, dive.pressDepartBailout1, dive.pressFinBailout1}),
+              (std::array{50, 11, 210, 205}))
+        << "litres and bar where pascal and cubic metres make no sense";
+    EXPECT_EQ(dive.profondeur, 40.5F) << "the deepest waypoint";
+    EXPECT_EQ((std::array{dive.temps, dive.tempEau}), (std::array{15, 12}));
+    // 80 000 Pa stand for 1950 m in the standard atmosphere.
+    EXPECT_EQ(dive.altitude, 1950);
+    EXPECT_EQ(breathedGas(dive).helium, 45);
+}
+
+TEST(Uddf, readsTheOlderPlacesOfValues) {
+    const FoundDives found = readFixture("older.uddf", SourceKind::olderUddf);
+    ASSERT_EQ(found.dives.size(), 3U);
+    const Plongee& dive = found.dives[0].dive;
+    EXPECT_EQ(startText(dive), u"2009-05-09 08:07:00");
+    EXPECT_EQ(dive.profondeur, 31.4F);
+    EXPECT_EQ((std::array{dive.tempEau, dive.gaz, dive.o2Mix}), (std::array{16, 0, 21}));
+    EXPECT_EQ((QStringList{dive.lieu, dive.site, dive.notes}),
+              (QStringList{QStringLiteral("Gozo"), QStringLiteral("Blue Hole"), QStringLiteral("Old times")}));
+    EXPECT_EQ(dive.samplingRate, 0);
+    EXPECT_EQ(dive.profilProfondeur, Series::ofReals({4.0, 4.0, 9.5, 14.0}));
+    EXPECT_EQ(startText(found.dives[1].dive), u"2009-05-10 16:30:00");
+    EXPECT_EQ(found.dives[1].dive.profondeur, 9.5F);
+    EXPECT_TRUE(found.dives[2].dive.date.isNull());
+}
+
+TEST(Uddf, readsTheClockHoweverItIsWritten) {
+    const std::pair<const char*, const char16_t*> cases[] = {
+        {"<datetime>2010-08-14T10:02:00Z</datetime>", u"2010-08-14 10:02:00"},
+        {"<datetime>2010-08-14T10:02:00.25-11:00</datetime>", u"2010-08-14 10:02:00"},
+        {"<datetime>\n 2010-8-4T9:02 </datetime>", u"2010-08-04 09:02:00"},
+        {"<datetime>20100814T100203</datetime>", u"2010-08-14 10:02:03"},
+        {"<datetime>14.08.2010 10:02</datetime>", u"2010-08-14 10:02:00"},
+        {"<datetime>08/14/2010 2:02 PM</datetime>", u"2010-08-14 14:02:00"},
+        {"<datetime/><date>2010-08-14</date><time>10:02:59Z</time>", u"2010-08-14 10:02:59"},
+        {"<date year='2010' month='8' day='14'/><time hour='7' minute='5'/>", u"2010-08-14 07:05:00"},
+        {"<date><year>2010</year><month>8</month><day>14</day></date>", u"2010-08-14 00:00:00"},
+        {"<datetime>0001-01-01T00:00:00</datetime>", u""},
+        {"<datetime>2010-02-30T10:00:00</datetime>", u""},
+        {"<datetime>yesterday</datetime>", u""},
+    };
+    for (const auto& [before, start] : cases) {
+        EXPECT_EQ(startText(read(dive(before)).dives.at(0).dive), QStringView(start)) << before;
+    }
+}
+
+TEST(Uddf, keepsTheDayOfATimeThatNoClockShowed) {
+    const QByteArray zone = qgetenv("TZ");
+    struct Case {
+        const char *zone, *moment;
+    };
+    for (const Case& it :
+         {Case{"Europe/Paris", "2019-03-31T02:30:00"}, Case{"America/Sao_Paulo", "2018-11-04T00:10:00"},
+          Case{"America/Santiago", "2019-09-08T00:00:00"}, Case{"America/Havana", "2019-03-10T00:45:00"}}) {
+        qputenv("TZ", it.zone);
+        tzset();
+        const Plongee skipped = read(dive("<datetime>" + QByteArray(it.moment) + "</datetime>")).dives.at(0).dive;
+        EXPECT_EQ(startOf(skipped).toString(Qt::ISODate), QLatin1String(it.moment) + u'Z') << it.zone;
+    }
+    zone.isNull() ? qunsetenv("TZ") : qputenv("TZ", zone);
+    tzset();
+}
+
+TEST(Uddf, takesNumbersOfNoSenseForNone) {
+    const FoundDives found = read(dive("<altitude>-3</altitude><divenumber>-2</divenumber>",
+                                       R"(<samples>
+        <waypoint><depth>nan</depth><divetime>0</divetime></waypoint>
+        <waypoint><depth>1e32</depth><divetime>10</divetime></waypoint>
+        <waypoint><depth>5</depth><divetime>1e18</divetime><tankpressure>-1</tankpressure></waypoint>
+        <waypoint><depth>7</depth></waypoint>
+        </samples><informationafterdive><greatestdepth>-4</greatestdepth><diveduration>0</diveduration>
+        <lowesttemperature>9999</lowesttemperature></informationafterdive>)"));
+    const Plongee& it = found.dives.at(0).dive;
+    EXPECT_EQ((std::array{it.altitude, it.noPlongee, it.tempEau}), (std::array{0, 0, -50}));
+    EXPECT_EQ(it.profondeur, 7.0F);
+    EXPECT_EQ(it.profilProfondeur.size(), 4U) << "from the start on";
+    EXPECT_EQ(it.PRESS_Data.size(), 1U);
+}
+
+TEST(Uddf, boundsTheSamplesOfADive) {
+    QByteArray samples = "<samples>";
+    for (int second = 0; second < 100'000; ++second) {
+        samples += "<waypoint><depth>" + QByteArray::number(second % 40) + "</depth><divetime>" +
+                   QByteArray::number(second) + "</divetime></waypoint>";
+    }
+    const FoundDives found = read(dive({}, samples + "</samples>"));
+    EXPECT_EQ(found.dives.at(0).dive.profilProfondeur.size(), 100'000U);
+    // A few points that would come to more samples than a dive may have.
+    const Plongee endless = read(dive({},
+                                      "<samples><waypoint><depth>1</depth><divetime>0</divetime></waypoint>"
+                                      "<waypoint><depth>1</depth><divetime>999999999</divetime></waypoint></samples>"))
+                                .dives.at(0)
+                                .dive;
+    EXPECT_FALSE(endless.hasProfile());
+}
+
+TEST(Udcf, isReadAsItWasMeant) {
+    const FoundDives found = readFixture("plain.udcf", SourceKind::udcf);
+    ASSERT_EQ(found.dives.size(), 2U) << "of both groups";
+    const Plongee& dive = found.dives[0].dive;
+    EXPECT_EQ((QStringList{dive.lieu, dive.site, dive.surface}),
+              (QStringList{QStringLiteral("Agay"), QStringLiteral("La Chrétienne"), QStringLiteral("2:30")}));
+    EXPECT_EQ(startText(dive), u"2012-07-14 10:45:00");
+    EXPECT_EQ(dive.profondeur, 32.8F);
+    EXPECT_EQ((std::array{dive.temps, dive.tempEau}), (std::array{41, 18}));
+    EXPECT_EQ((std::array{dive.gaz, dive.o2Mix, dive.volumeBloc, dive.pressionDepart, dive.pressionFin}),
+              (std::array{1, 36, 15, 200, 60}));
+    EXPECT_EQ((std::array{dive.o2Mix_2, dive.volumeBloc_2}), (std::array{100, 7}));
+    EXPECT_EQ(dive.samplingRate, 1);
+    EXPECT_EQ(dive.profilProfondeur, Series::ofReals({0, 12.75, 3.5}));
+    EXPECT_EQ(dive.SLOW_Flag.integer(1), 1);
+    EXPECT_EQ(dive.ASC_Flag.integer(1), 0);
+    EXPECT_EQ(found.dives[1].dive.lieu, u"Agay");
+}
+
+TEST(Sources, areToldByTheirContents) {
+    const std::pair<const char*, std::optional<SourceKind>> cases[] = {
+        {"<uddf version='3.2.0'/>", SourceKind::uddf},
+        {"<uddf version='2.2.0'/>", SourceKind::olderUddf},
+        {"<uddf><profiledata><repetitiongroup><dive><informationbeforedive/></dive></repetitiongroup></profiledata></"
+         "uddf>",
+         SourceKind::uddf},
+        {"<uddf version='2.2.0'><REPGROUP/></uddf>", SourceKind::udcf},
+        {"<carnet><repgroup/></carnet>", SourceKind::handheld},
+        {"<html><body/></html>", std::nullopt},
+        {"just words", std::nullopt},
+    };
+    for (const auto& [bytes, kind] : cases) {
+        const auto source = readSource(bytes);
+        EXPECT_EQ(source ? std::optional(source->kind) : std::nullopt, kind) << bytes;
+    }
+}
+
+TEST(FoundDives, areDoubtedWithAReason) {
+    FoundDives found = readFixture("older.uddf", SourceKind::olderUddf);
+    doubt(found, QDateTime(QDate(2009, 5, 10), QTime(12, 0)));
+    EXPECT_TRUE(found.dives[0].doubts.empty());
+    EXPECT_EQ(found.dives[1].doubts, (std::vector{Doubt::inFuture, Doubt::noSamples}));
+    EXPECT_EQ(found.dives[2].doubts, (std::vector{Doubt::noDate, Doubt::tooDeep, Doubt::noSamples}));
+    const FoundDives outside = read("<uddf version='3.0'><profiledata><dive/></profiledata></uddf>");
+    EXPECT_TRUE(outside.dives.at(0).has(Doubt::groupSkipped));
+}
+
+TEST(FoundDives, areRecognisedWithinTwoMinutesAndLikeDepthAndLength) {
+    Plongee held = unknownDive();
+    setStart(held, QDate(2020, 5, 1), QTime(10, 0));
+    held.profondeur = 20;
+    held.temps = 40;
+    struct Case {
+        QTime time;
+        float depth;
+        int minutes;
+        bool duplicate;
+    };
+    const Case cases[] = {
+        {QTime(10, 0), 20, 40, true},      {QTime(10, 2), 20.9F, 43, true},  {QTime(9, 58), 19.1F, 38, true},
+        {QTime(10, 2, 1), 20, 40, false},  {QTime(10, 0), 21.2F, 40, false}, {QTime(10, 0), 20, 46, false},
+        {QTime(9, 57, 59), 20, 40, false},
+    };
+    for (const Case& it : cases) {
+        FoundDives found;
+        found.dives.resize(1);
+        found.dives[0].dive = held;
+        setStart(found.dives[0].dive, QDate(2020, 5, 1), it.time);
+        found.dives[0].dive.profondeur = it.depth;
+        found.dives[0].dive.temps = it.minutes;
+        markDuplicates(found, {std::make_shared<const Plongee>(held)});
+        EXPECT_EQ(found.dives[0].duplicate, it.duplicate)
+            << it.time.toString().toStdString() << ' ' << it.depth << ' ' << it.minutes;
+    }
+    FoundDives undated;
+    undated.dives.resize(2);
+    markDuplicates(undated, {});
+    EXPECT_FALSE(undated.dives[1].duplicate) << "two dives without a date are not the same";
+}
+
+}  // namespace
+
+}  // namespace tavrel

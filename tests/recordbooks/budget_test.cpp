@@ -1,0 +1,201 @@
+#include "recordbooks/budget.h"
+
+#include "recordbooks/bookfixture.h"
+#include "recordbooks/recordbooks.h"
+
+namespace tavrel {
+
+namespace {
+
+class BudgetTest : public BookFixture<Budget> {
+protected:
+    BudgetTest() : BookFixture(previBudget()) {}
+};
+
+TEST_F(BudgetTest, readsItsArchive) {
+    open(R"(
+        04 "streamtyped" 81e803 84"@"
+        8484 84"NSMutableArray"00 8484"NSArray"00 8484"NSObject"00 85 84"i"01
+        92 8484 84"Budget"01 95
+        92 8484 84"NSString"01 95 84"+" "Air" 86
+        9602 9601 9600 9600 9600 9603
+        84"f"19 9a8300000040 9a00 9a00 9a00 9a64
+        92 84 99 99 "lamp" 86 92 85 92 85 92 85
+        9601 960a 9614 9600 9600 9a81b400 9a00 9a00 9a00
+        9601 92 84 99 99 "Club" 86 9604 9605 92 85 92 84 99 99 "soon" 86 86 86)");
+    EXPECT_EQ(record().prestation, u"Air");
+    EXPECT_EQ(record().quantite_0, 2);
+    EXPECT_EQ(record().quantite_5, 3);
+    EXPECT_EQ(record().prixUnitaire_0, 25);
+    EXPECT_EQ(record().prixUnitaire_1, 2);
+    EXPECT_EQ(record().prixUnitaire_5, 100);
+    EXPECT_EQ(record().supplement_1, u"lamp");
+    EXPECT_TRUE(record().supplement_4.isNull());
+    EXPECT_EQ(record().prixDegressif, 1);
+    EXPECT_EQ(record().unitesCarte_2, 20);
+    EXPECT_EQ(record().prixCarte_1, 180);
+    EXPECT_EQ(record().prevDepense, 1);
+    EXPECT_EQ(record().entreprise, u"Club");
+    EXPECT_EQ(record().qualitePrix, 4);
+    EXPECT_EQ(record().delai, 5);
+    EXPECT_TRUE(record().miseAJour.isNull());
+    EXPECT_EQ(record().notes, u"soon");
+}
+
+TEST_F(BudgetTest, addsUpAllLinesButTheFifthSupplement) {
+    book->newRecord();
+    EXPECT_EQ(at("totalField").text, u"0");
+    enter("quantite_0Field", "2");
+    enter("prixUnitaire_0Field", "25");
+    enter("quantite_1Field", "1");
+    enter("prixUnitaire_1Field", "5");
+    enter("quantite_5Field", "3");
+    enter("prixUnitaire_5Field", "100");
+    EXPECT_EQ(at("totalField").text, u"55");
+    enter("quantite_4Field", "3");
+    enter("prixUnitaire_4Field", "0,25");
+    EXPECT_EQ(at("totalField").text, u"55.75");
+    EXPECT_EQ(built()->quantite_5, 3);
+    EXPECT_EQ(built()->prixUnitaire_5, 100);
+    // Quantities are whole, whatever is typed.
+    enter("quantite_4Field", "3.9");
+    EXPECT_EQ(at("totalField").text, u"55.75");
+}
+
+TEST_F(BudgetTest, worksOutTheUnitPriceOfCards) {
+    book->newRecord();
+    EXPECT_FALSE(at("unitesCarte_1Field").enabled || at("prixCarte_4Field").enabled);
+    enter("prixDegressifSwitch", "1");
+    EXPECT_TRUE(at("unitesCarte_1Field").enabled && at("prixCarte_4Field").enabled);
+    enter("unitesCarte_1Field", "10");
+    enter("prixCarte_1Field", "180");
+    EXPECT_EQ(at("prixUnite_1Field").text, u"18.00 € per unit");
+    enter("unitesCarte_4Field", "4");
+    enter("prixCarte_4Field", "90");
+    EXPECT_EQ(at("prixUnite_4Field").text, u"22.50 € per unit");
+    enter("prixCarte_2Field", "50");
+    EXPECT_EQ(at("prixUnite_2Field").text, u"");
+    enter("unitesCarte_1Field", "0");
+    EXPECT_EQ(at("prixUnite_1Field").text, u"");
+    enter("unitesCarte_1Field", "-3");
+    EXPECT_EQ(at("prixUnite_1Field").text, u"");
+}
+
+TEST_F(BudgetTest, namesItsRatings) {
+    const std::tuple<qint32, const char*, const char*, const char*> cases[] = {
+        {0, "Not rated", "Not rated", "☆"},
+        {1, "Very bad", "Very slow", "★"},
+        {2, "Bad", "Slow", "★★"},
+        {3, "Medium", "Medium", "★★★"},
+        {4, "Good", "Satisfying", "★★★★"},
+        {5, "Very good", "Very satisfying", "★★★★★"},
+        {7, "Very good", "Very satisfying", "☆"},
+    };
+    for (const auto& [rating, value, delay, stars] : cases) {
+        Budget service;
+        service.qualitePrix = service.delai = rating;
+        book->form().editFields(service);
+        EXPECT_EQ(at("qualitePrixField").text, QString::fromUtf8(value));
+        EXPECT_EQ(at("delaiField").text, QString::fromUtf8(delay));
+        EXPECT_EQ(cell(service, "qualitePrix").text, QString::fromUtf8(stars));
+        EXPECT_EQ(cell(service, "delai").text, QString::fromUtf8(stars));
+        EXPECT_EQ(built()->delai, rating);
+    }
+}
+
+TEST_F(BudgetTest, writesPlannedExpensesInRedButRatings) {
+    Budget service;
+    EXPECT_EQ(colour(service, "prestation"), "#000000");
+    service.prevDepense = 1;
+    service.delai = 3;
+    for (const char* field : {"prestation", "quantite_0", "prixUnitaire_0", "entreprise", "miseAJour"}) {
+        EXPECT_EQ(colour(service, field), "#ff0000") << field;
+    }
+    EXPECT_EQ(colour(service, "qualitePrix"), "#000000");
+    EXPECT_EQ(colour(service, "delai"), "#996633");
+    service.prevDepense = 2;
+    EXPECT_EQ(colour(service, "prestation"), "#000000");
+}
+
+TEST_F(BudgetTest, listsTheThirdCardTwice) {
+    Budget service;
+    service.prestation = QStringLiteral("Air");
+    service.prixUnitaire_0 = 25.9F;
+    service.quantite_0 = 2;
+    service.supplement_1 = QStringLiteral("lamp");
+    service.prixUnitaire_1 = 5;
+    service.quantite_1 = 1;
+    service.quantite_5 = 99;
+    service.unitesCarte_1 = 10;
+    service.prixCarte_1 = 180;
+    service.unitesCarte_3 = 30;
+    service.prixCarte_3 = 480.5F;
+    service.entreprise = QStringLiteral("Club");
+    service.qualitePrix = 4;
+    service.notes = QStringLiteral("soon");
+    EXPECT_EQ(card({service}),
+              QStringLiteral("Budget forecast//--------------------//Service: Air/Price per unit (€): 25   Quantity: 2"
+                             "/Supplement: lamp 5   Quantity: 1/Supplement:  0   Quantity: 0"
+                             "/Supplement:  0   Quantity: 0/Supplement:  0   Quantity: 0"
+                             "/Card of 10 units at 180 €/Card of 0 units at 0 €/Card of 30 units at 480 €"
+                             "/Card of 30 units at 480 €/Card of 0 units at 0 €"
+                             "/Company: Club/Value for money: Good/Responsiveness: Not rated/Remarks: soon/"));
+}
+
+QByteArray propertyList(const char* services) {
+    return QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?><plist version=\"1.0\"><array>") + services +
+           "</array></plist>";
+}
+
+TEST_F(BudgetTest, readsPropertyListsOfEarlierTimes) {
+    const QByteArray earlier = propertyList(
+        "<dict><key>prestation</key><string>Été &amp; air</string><key>quantite_0</key><integer>2</integer>"
+        "<key>prixUnitaire_0</key><real>25.5</real><key>prixUnitaire_1</key><integer>5</integer>"
+        "<key>prevDepense</key><true/><key>total</key><array><string>x</string></array>"
+        "<key>miseAJour</key><date>2003-05-04T12:00:00Z</date><key>notes</key><string/></dict><dict/>");
+    ASSERT_TRUE(book->loadDataRepresentation(earlier, book->type()));
+    ASSERT_EQ(book->count(), 2);
+    EXPECT_EQ(record().prestation, u"Été & air");
+    EXPECT_EQ(record().quantite_0, 2);
+    EXPECT_EQ(record().prixUnitaire_0, 25.5F);
+    EXPECT_EQ(record().prixUnitaire_1, 5);
+    EXPECT_EQ(record().prevDepense, 1);
+    EXPECT_EQ(record().miseAJour.toIso(), u"2003-05-04T12:00:00Z");
+    EXPECT_EQ(record().notes, u"");
+    EXPECT_FALSE(record().notes.isNull());
+}
+
+TEST_F(BudgetTest, knowsFilesOfEarlierTimesByTheirName) {
+    const std::array kinds{invConso().kind, previBudget().kind};
+    const QByteArray earlier = propertyList("<dict/>");
+    const auto found = documentKindOf(kinds, QStringLiteral("/home/a.BUDGET"), earlier);
+    ASSERT_TRUE(found);
+    EXPECT_EQ(*found, &kinds[1]);
+    EXPECT_FALSE(documentKindOf(kinds, QStringLiteral("/home/a.consommables"), earlier));
+    EXPECT_FALSE(documentKindOf(kinds, QStringLiteral("/home/a.txt"), earlier));
+}
+
+TEST_F(BudgetTest, logsWhatIsNoBudgetAtAll) {
+    hold({Budget()});
+    const QByteArray wrong[] = {
+        "x",
+        "<plist><dict/></plist>",
+        propertyList("<dict><key>quantite_0</key><string>2</string></dict>"),
+        propertyList("<dict><key>quantite_0</key><integer>3000000000</integer></dict>"),
+        propertyList("<string>Air</string>"),
+        propertyList("<dict/>").chopped(4),
+    };
+    for (const QByteArray& file : wrong) {
+        testing::internal::CaptureStderr();
+        EXPECT_FALSE(book->loadDataRepresentation(file, book->type())) << file.toStdString();
+        EXPECT_NE(testing::internal::GetCapturedStderr().find("Format non reconnu"), std::string::npos);
+        EXPECT_EQ(book->count(), 1);
+    }
+    // Of another type nothing earlier is tried.
+    EXPECT_FALSE(book->loadDataRepresentation(propertyList("<dict/>"), QStringLiteral("Materiel")));
+    EXPECT_EQ(book->count(), 1);
+}
+
+}  // namespace
+
+}  // namespace tavrel

@@ -1,0 +1,164 @@
+#include "recordbooks/entreprises.h"
+
+#include "recordbooks/bookfixture.h"
+#include "recordbooks/recordbooks.h"
+
+#include <limits>
+
+namespace tavrel {
+
+namespace {
+
+class EntreprisesTest : public BookFixture<Entreprises> {
+protected:
+    EntreprisesTest() : BookFixture(adressesEts()) {}
+
+    /// A file of one company, whose postal code and what follows the remarks are written as its version does.
+    void openVersion(const char* version, const char* postalCode, const char* behind) {
+        std::string notation = R"(
+            04 "streamtyped" 81e803 84"@"
+            8484 84"NSMutableArray"00 8484"NSArray"00 8484"NSObject"00 85 84"i"01
+            92 8484 84"Entreprises")";
+        notation += version;
+        notation += R"( 95 92 8484 84"NSString"01 95 84"+" "Aqua" 86 92 84 99 99 "Quay 3" 86 )";
+        notation += postalCode;
+        notation += R"( 92 84 99 99 "Nice" 86 92 85 92 85 92 85 92 85 92 85 92 84 99 99 "shop" 86 92 85
+            92 84 99 99 "9:00" 86 92 84 99 99 "12:00" 86 )";
+        for (int hour = 2; hour < 27; ++hour) {
+            notation += "92 85 ";
+        }
+        notation += R"(92 84 99 99 "late" 86 92 84 99 99 "fine" 86 )";
+        notation += behind;
+        notation += " 86 86";
+        open(notation);
+        EXPECT_EQ(record().entreprise, u"Aqua");
+        EXPECT_EQ(record().adresse, u"Quay 3");
+        EXPECT_EQ(record().ville, u"Nice");
+        EXPECT_TRUE(record().url.isNull());
+        EXPECT_EQ(record().activite, u"shop");
+        EXPECT_EQ(record().horaireLundi_2, u"12:00");
+        EXPECT_EQ(record().horaireDimanche_4, u"late");
+        EXPECT_EQ(record().remarques, u"fine");
+    }
+    Entreprises aged(qint64 seconds, double fraction = 0) const {
+        Entreprises company;
+        company.miseAJour =
+            Date(Date::fromDateTime(desktop.clock.moment).secondsSince2001() - static_cast<double>(seconds) - fraction);
+        return company;
+    }
+};
+
+TEST_F(EntreprisesTest, readsEveryVersion) {
+    for (const char* version : {"00", "01"}) {
+        openVersion(version, "9682f9240100", "");
+        EXPECT_EQ(record().codePostal, u"75001");
+        EXPECT_EQ(record().cotation, 0);
+    }
+    openVersion("02", R"(92 84 99 99 "06000" 86)", "");
+    EXPECT_EQ(record().codePostal, u"06000");
+    EXPECT_EQ(record().cotation, 0);
+    openVersion("03", R"(92 84 99 99 "06000" 86)", "9604");
+    EXPECT_EQ(record().codePostal, u"06000");
+    EXPECT_EQ(record().cotation, 4);
+}
+
+TEST_F(EntreprisesTest, isClosedOnSundaysAtFirst) {
+    for (const auto& [language, closed] : {std::pair("fr", "Fermé"), std::pair("en", "Closed")}) {
+        setTextLanguage(QString::fromUtf8(language));
+        book->newRecord();
+        EXPECT_EQ(at("horaireLundi_1Field").text, u"-");
+        EXPECT_EQ(at("horaireSamedi_4Field").text, u"-");
+        EXPECT_EQ(at("horaireDimanche_1Field").text, QString::fromUtf8(closed));
+        EXPECT_EQ(built()->horaireDimanche_4, QString::fromUtf8(closed));
+        EXPECT_EQ(built()->entreprise, u"");
+        EXPECT_TRUE(built()->miseAJour == Date::fromDateTime(desktop.clock.moment));
+    }
+}
+
+TEST_F(EntreprisesTest, bringsItsDateUpToNow) {
+    hold({aged(5000)});
+    book->userSelects({0});
+    EXPECT_TRUE(at("miseAJourField").date == aged(5000).miseAJour);
+    state().choose(indexOf("resetDateToNowButton"), 0);
+    EXPECT_TRUE(at("miseAJourField").date == Date::fromDateTime(desktop.clock.moment));
+    EXPECT_TRUE(book->hasEntries());
+}
+
+TEST_F(EntreprisesTest, coloursCardsByTheirAge) {
+    const std::tuple<qint64, double, const char*> cases[] = {
+        {-100, 0, "#000000"},       {0, 0, "#000000"},          {31557599, 0.9, "#000000"}, {31557600, 0, "default"},
+        {31557600, 0.9, "default"}, {31557601, 0, "#ff8000"},   {63115199, 0.9, "#ff8000"}, {63115200, 0, "default"},
+        {63115201, 0, "#ff0000"},   {4000000000, 0, "#ff0000"},
+    };
+    for (const auto& [seconds, fraction, colour] : cases) {
+        EXPECT_EQ(this->colour(aged(seconds, fraction), "miseAJour"), colour) << seconds;
+    }
+    Entreprises odd;
+    EXPECT_EQ(colour(odd, "miseAJour"), "#000000");
+    odd.miseAJour = Date(-std::numeric_limits<double>::infinity());
+    EXPECT_EQ(colour(odd, "miseAJour"), "#ff0000");
+    EXPECT_EQ(colour(odd, "entreprise"), "default");
+}
+
+TEST_F(EntreprisesTest, showsRatingsAsStars) {
+    const std::tuple<qint32, const char*, const char*> cases[] = {
+        {0, "☆", "#000000"}, {1, "★", "#996633"}, {5, "★★★★★", "#996633"}, {7, "☆", "#996633"}, {-1, "☆", "#996633"}};
+    for (const auto& [rating, stars, colour] : cases) {
+        Entreprises company;
+        company.cotation = rating;
+        EXPECT_EQ(cell(company, "cotation").text, QString::fromUtf8(stars)) << rating;
+        EXPECT_EQ(this->colour(company, "cotation"), colour) << rating;
+        book->form().editFields(company);
+        EXPECT_EQ(built()->cotation, rating);
+    }
+    Entreprises company;
+    company.cotation = 4;
+    EXPECT_EQ(cell(company, "cotation").words, u"4 of 5 stars");
+}
+
+TEST_F(EntreprisesTest, offersActivitiesToTheirList) {
+    book->newRecord();
+    desktop.alerts.answerNext(0);
+    book->form().endEditing(indexOf("activiteField"), QStringLiteral(" Shop "));
+    EXPECT_TRUE(desktop.pickLists[PickList::tableauDesActivites].contains(QStringLiteral("Shop")));
+    EXPECT_EQ(desktop.preferences.strings(QStringLiteral("activite")), QStringList(QStringLiteral("Shop")));
+    book->form().endEditing(indexOf("activiteField"), QStringLiteral("Shop"));
+    EXPECT_EQ(desktop.alerts.questions.size(), 1U);
+}
+
+TEST_F(EntreprisesTest, writesBlocksBetweenSeparators) {
+    Entreprises company;
+    company.entreprise = QStringLiteral("Aqua");
+    company.adresse = QStringLiteral("Quay 3");
+    company.codePostal = QStringLiteral("06000");
+    company.ville = QStringLiteral("Nice");
+    company.pays = QStringLiteral("France");
+    company.telephone = QStringLiteral("1");
+    company.fax = QStringLiteral("2");
+    company.email = QStringLiteral("a@b");
+    company.url = QStringLiteral("w");
+    company.activite = QStringLiteral("shop");
+    company.horaireLundi_1 = QStringLiteral("9:00");
+    company.horaireLundi_2 = QStringLiteral("12:00");
+    company.horaireLundi_3 = QStringLiteral("14:00");
+    company.horaireLundi_4 = QStringLiteral("19:00");
+    company.horaireDimanche_1 = QStringLiteral("Closed");
+    company.remarques = QStringLiteral("fine");
+    company.miseAJour = day(2024, 5, 3);
+    const QString week = QStringLiteral(
+        "/   Tuesday:  -  /  - /   Wednesday:  -  /  - /   Thursday:  -  /  - "
+        "/   Friday:  -  /  - /   Saturday:  -  /  - ");
+    EXPECT_EQ(
+        card({company, {}}),
+        QStringLiteral("Company address book/Name: Aqua/Address: Quay 3 06000 Nice France/Telephone: 1/Fax: 2"
+                       "/E-mail: a@b/Web: w/Activity: shop/Opening hours:/   Monday: 9:00 - 12:00 / 14:00 - 19:00") +
+            week +
+            QStringLiteral("/   Sunday: Closed -  /  - /Remarks: fine/Updated on: 03/05/2024"
+                           "/------------------------------//Name: /Address:    /Telephone: /Fax: /E-mail: "
+                           "/Web: /Activity: /Opening hours:/   Monday:  -  /  - ") +
+            week + QStringLiteral("/   Sunday:  -  /  - /Remarks: /Updated on: "));
+}
+
+}  // namespace
+
+}  // namespace tavrel
