@@ -12,8 +12,8 @@
 
 namespace tavrel {
 
-bool MyDocumentController::saveOverChange(DocumentWindow& window, FileIdentity::State state) {
-    enum Answer { overwrite, saveElsewhere, reload };
+bool MyDocumentController::saveOverChange(DocumentWindow& window, FileIdentity::State state, Entries entries) {
+    enum Answer { overwrite, elsewhere, reload };
     const bool isGone = state == FileIdentity::State::gone;
     QStringList answers{text("Main", "Overwrite"), text("Main", "Save elsewhere")};
     if (!isGone) {
@@ -25,12 +25,14 @@ bool MyDocumentController::saveOverChange(DocumentWindow& window, FileIdentity::
     desktop_.alerts.beep();
     const int answer = desktop_.alerts.ask(textWith(question, document.displayName()), answers);
     if (answer == overwrite) {
+        window.settleEntries(entries);
         return succeeded(document.save(Document::Overwriting::yes));
     }
-    if (answer == saveElsewhere) {
-        return saveDocumentAs(window);
+    if (answer == elsewhere) {
+        return saveElsewhere(window, entries);
     }
     if (answer == reload && !isGone) {
+        window.settleEntries(Entries::dropped);
         succeeded(document.revert());
     }
     return false;
@@ -44,11 +46,10 @@ void MyDocumentController::tellStateOnDisk(DocumentWindow& window, FileIdentity:
             break;
         case FileIdentity::State::changed:
             bar.tell(text("Main", "File changed by another"), text("Main", "Reload"), [this, &window] {
-                if (window.document().isChanged()) {
-                    revertDocument(window);
-                } else {
-                    succeeded(window.document().revert());
-                }
+                Document& document = window.document();
+                const QString question =
+                    document.isChanged() ? textWith("Main", "Revert question", document.displayName()) : QString();
+                reload(window, question, [&document] { return document.revert(); });
             });
             break;
         case FileIdentity::State::gone:
@@ -105,7 +106,7 @@ bool MyDocumentController::restore(const Unsaved& unsaved) {
         return unsaved.recordClass == QLatin1StringView(each.recordClass);
     });
     DocumentWindow* open = unsaved.file.isEmpty() ? nullptr : windowOf(unsaved.file);
-    if (type == types_.end() || (open && open->document().isChanged())) {
+    if (type == types_.end() || (open && open->document().unsaved())) {
         return false;
     }
     auto document = type->makeDocument(desktop_);

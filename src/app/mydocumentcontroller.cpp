@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QScopeGuard>
 
 #include <algorithm>
 #include <functional>
@@ -99,6 +100,7 @@ DocumentWindow* MyDocumentController::addWindow(const DocumentType& type, std::u
     DocumentWindow* added = window.get();
     auto journal = std::make_unique<Journal>(journals_, *document, QString::fromLatin1(type.recordClass));
     open_.push_back({&type, std::move(document), std::move(window), std::move(journal)});
+    connect(&added->document(), &Document::touched, this, [this, added] { ++touches_[added]; });
     connect(added, &DocumentWindow::closeRequested, this, [this, added] { closeDocument(*added); });
     connect(added, &DocumentWindow::filesDropped, this, &MyDocumentController::openFiles);
     connect(added, &DocumentWindow::saveRequested, this, [this, added] { saveDocument(*added); });
@@ -245,32 +247,38 @@ bool MyDocumentController::isTaken(const QString& file, const DocumentWindow& wi
 }
 
 bool MyDocumentController::saveDocument(DocumentWindow& window) {
-    Document& document = window.document();
-    if (document.file().isEmpty() || document.isReadOnly()) {
-        return saveDocumentAs(window);
-    }
-    if (!window.leaveEditing(Settling::saving)) {
-        return false;
-    }
-    if (const auto state = document.stateOnDisk(); state != FileIdentity::State::same) {
-        return saveOverChange(window, state);
-    }
-    return succeeded(document.save());
+    const auto entries = window.askAboutEntries(Settling::saving);
+    return entries && save(window, *entries);
 }
 
 bool MyDocumentController::saveDocumentAs(DocumentWindow& window) {
-    if (!window.leaveEditing(Settling::saving)) {
-        return false;
+    const auto entries = window.askAboutEntries(Settling::saving);
+    return entries && saveElsewhere(window, *entries);
+}
+
+bool MyDocumentController::save(DocumentWindow& window, Entries entries) {
+    Document& document = window.document();
+    if (document.file().isEmpty() || document.isReadOnly()) {
+        return saveElsewhere(window, entries);
     }
+    if (const auto state = document.stateOnDisk(); state != FileIdentity::State::same) {
+        return saveOverChange(window, state, entries);
+    }
+    window.settleEntries(entries);
+    return succeeded(document.save());
+}
+
+bool MyDocumentController::saveElsewhere(DocumentWindow& window, Entries entries) {
     Document& document = window.document();
     const DocumentType& type = typeOf(window);
     const QString proposal =
         document.file().isEmpty() ? document.displayName() + u'.' + QLatin1StringView(type.extension) : document.file();
     const auto chosen = fileDialogs_.fileToSave(&window, text("Main", "Save document as"), proposal, {filterOf(type)});
-    if (!chosen) {
+    if (!chosen || isTaken(chosen->file, window)) {
         return false;
     }
-    if (isTaken(chosen->file, window) || !succeeded(document.saveAs(chosen->file))) {
+    window.settleEntries(entries);
+    if (!succeeded(document.saveAs(chosen->file))) {
         return false;
     }
     window.messageBar().tell({});
@@ -280,30 +288,33 @@ bool MyDocumentController::saveDocumentAs(DocumentWindow& window) {
     return true;
 }
 
+bool MyDocumentController::reload(DocumentWindow& window, const QString& question,
+                                  const std::function<Expected<void>()>& read) {
+    const auto entries = window.askAboutEntries(Settling::leaving);
+    if (!entries) {
+        return false;
+    }
+    if (!question.isEmpty()) {
+        desktop_.alerts.beep();
+        if (desktop_.alerts.ask(question, {text("Main", "Revert"), text("Main", "Cancel")}) != 0) {
+            return false;
+        }
+    }
+    window.settleEntries(*entries);
+    const auto done = withProgress(window.document(), &window, Title("Main", "Loading"), read);
+    return done && succeeded(*done);
+}
+
 bool MyDocumentController::revertDocument(DocumentWindow& window) {
-    if (!window.leaveEditing(Settling::leaving)) {
-        return false;
-    }
     Document& document = window.document();
-    const QString question = textWith("Main", "Revert question", document.displayName());
-    desktop_.alerts.beep();
-    if (desktop_.alerts.ask(question, {text("Main", "Revert"), text("Main", "Cancel")}) != 0) {
-        return false;
-    }
-    const auto reverted = withProgress(document, &window, Title("Main", "Loading"), [&] { return document.revert(); });
-    return reverted && succeeded(*reverted);
+    return reload(window, textWith("Main", "Revert question", document.displayName()),
+                  [&] { return document.revert(); });
 }
 
 bool MyDocumentController::revertToBackup(DocumentWindow& window) {
     Document& document = window.document();
-    const QString question = textWith("Main", "Revert to backup question", document.displayName());
-    desktop_.alerts.beep();
-    if (desktop_.alerts.ask(question, {text("Main", "Revert"), text("Main", "Cancel")}) != 0) {
-        return false;
-    }
-    const auto reverted =
-        withProgress(document, &window, Title("Main", "Loading"), [&] { return document.revertToBackup(); });
-    return reverted && succeeded(*reverted);
+    return reload(window, textWith("Main", "Revert to backup question", document.displayName()),
+                  [&] { return document.revertToBackup(); });
 }
 
 QList<ExportFormat> MyDocumentController::exportFormats(DocumentWindow& window) const {
@@ -334,33 +345,38 @@ bool MyDocumentController::exportDocument(DocumentWindow& window) {
     return exported && succeeded(*exported);
 }
 
-bool MyDocumentController::mayClose(DocumentWindow& window) {
+std::optional<MyDocumentController::Parting> MyDocumentController::askBeforeClosing(DocumentWindow& window) {
     if (asked_.contains(&window) || hasOpenDialog(window)) {
         // What the user is asked there comes first.
         bringToFront(&window);
-        return false;
+        return std::nullopt;
     }
     asked_.insert(&window);
-    const bool goesOn = window.leaveEditing(Settling::leaving) && mayLoseChanges(window);
-    asked_.remove(&window);
-    return goesOn;
-}
-
-bool MyDocumentController::mayLoseChanges(DocumentWindow& window) {
-    Document& document = window.document();
-    if (!document.isChanged()) {
-        return true;
+    const auto asked = qScopeGuard([&] { asked_.remove(&window); });
+    const auto entries = window.askAboutEntries(Settling::leaving);
+    if (!entries) {
+        return std::nullopt;
+    }
+    const int touches = touches_[&window];
+    const Document& document = window.document();
+    if (!document.isChanged() && *entries != Entries::stored) {
+        return Parting{*entries, false, touches};
     }
     bringToFront(&window);
     desktop_.alerts.beep();
     const QString question = textWith("Main", "Save changes", document.displayName());
+    enum Answer { saveIt, leaveIt };
     const int answer =
         desktop_.alerts.ask(question, {text("Main", "Save"), text("Main", "Don't save"), text("Main", "Cancel")});
-    return answer == 0 ? saveDocument(window) : answer == 1;
+    if (answer != saveIt && answer != leaveIt) {
+        return std::nullopt;
+    }
+    return Parting{*entries, answer == saveIt, touches};
 }
 
 bool MyDocumentController::closeDocument(DocumentWindow& window) {
-    if (!mayClose(window)) {
+    const auto parting = askBeforeClosing(window);
+    if (!parting || (parting->saves && !save(window, parting->entries))) {
         return false;
     }
     removeWindow(window);
@@ -368,10 +384,28 @@ bool MyDocumentController::closeDocument(DocumentWindow& window) {
 }
 
 bool MyDocumentController::mayQuit() {
+    std::map<DocumentWindow*, Parting> partings;
+    const auto isUnanswered = [&](DocumentWindow* window) {
+        const auto found = partings.find(window);
+        return found == partings.end() || found->second.touches != touches_[window];
+    };
+    // While one document asks, others may be closed, opened or changed.
+    for (;;) {
+        const QList<DocumentWindow*> all = windows();
+        const auto next = std::find_if(all.begin(), all.end(), isUnanswered);
+        if (next == all.end()) {
+            break;
+        }
+        const auto parting = askBeforeClosing(**next);
+        if (!parting) {
+            return false;
+        }
+        partings.insert_or_assign(*next, *parting);
+    }
     const QList<DocumentWindow*> all = windows();
-    return std::all_of(all.begin(), all.end(), [this](DocumentWindow* window) {
-        // While one document asks, another may be closed.
-        return !windows().contains(window) || mayClose(*window);
+    return std::all_of(all.begin(), all.end(), [&](DocumentWindow* window) {
+        const Parting& parting = partings.at(window);
+        return !parting.saves || !windows().contains(window) || save(*window, parting.entries);
     });
 }
 
@@ -393,6 +427,7 @@ void MyDocumentController::removeWindow(DocumentWindow& window) {
     }
     OpenDocument closed = std::move(*found);
     open_.erase(found);
+    touches_.erase(&window);
     if (untouched_ == &window) {
         untouched_ = nullptr;
     }

@@ -8,7 +8,10 @@
 #include <QObject>
 #include <QSet>
 
+#include <functional>
+#include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace tavrel {
@@ -66,9 +69,10 @@ public:
     bool exportDocument(DocumentWindow& window);
     /// Asks about unsaved changes first.
     bool closeDocument(DocumentWindow& window);
-    /// Asks about the unsaved changes of every document, then closes them all, or none after a cancel.
+    /// Does as mayQuit(), then closes all documents.
     bool closeAllDocuments();
-    /// Asks about the unsaved changes of every document and closes none.
+    /// Asks about what every document has unsaved, then saves what is to be saved, and closes none. A cancel leaves
+    /// everything as it was, what other documents were asked about included.
     bool mayQuit();
     /// The formats that the document can be exported to.
     QList<ExportFormat> exportFormats(DocumentWindow& window) const;
@@ -98,13 +102,24 @@ private:
     DocumentWindow* addWindow(const DocumentType& type, std::unique_ptr<Document> document);
     void removeWindow(DocumentWindow& window);
     void discardUntouched();
-    bool mayClose(DocumentWindow& window);
-    bool mayLoseChanges(DocumentWindow& window);
+    /// What the user answered about a document that is to close, and how often that had been touched by then.
+    struct Parting {
+        Entries entries;
+        bool saves;
+        int touches;
+    };
+    /// Asks, and changes nothing; nothing after a cancel.
+    std::optional<Parting> askBeforeClosing(DocumentWindow& window);
+    // These settle the entries so once nothing is asked any more.
+    bool save(DocumentWindow& window, Entries entries);
+    bool saveElsewhere(DocumentWindow& window, Entries entries);
+    /// Reads the document anew, after a question unless that is empty.
+    bool reload(DocumentWindow& window, const QString& question, const std::function<Expected<void>()>& read);
     bool restore(const Unsaved& unsaved);
     /// Asks what to do about a program that has the file open; false when the user would rather not open it.
     bool claim(Document& document, const QString& file);
     /// Asks what to do about a file that another program changed or removed.
-    bool saveOverChange(DocumentWindow& window, FileIdentity::State state);
+    bool saveOverChange(DocumentWindow& window, FileIdentity::State state, Entries entries);
     void tellStateOnDisk(DocumentWindow& window, FileIdentity::State state);
     bool succeeded(const Expected<void>& result);
 
@@ -116,7 +131,8 @@ private:
     QString defaultType_;
     std::vector<OpenDocument> open_;
     DocumentWindow* untouched_ = nullptr;  ///< the untitled document of a start, until something else is opened
-    QSet<DocumentWindow*> asked_;          ///< about which the user is being asked
+    std::map<const DocumentWindow*, int> touches_;
+    QSet<DocumentWindow*> asked_;  ///< about which the user is being asked
     std::unique_ptr<PreferencesWindow> preferences_;
     std::unique_ptr<MemoWindow> penseBeteWindow_;
 };

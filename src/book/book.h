@@ -10,6 +10,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace tavrel {
@@ -73,6 +74,9 @@ public:
     /// Cancel; for a stored one it is stored, or on the ways that ask, Store, Discard or Cancel. False when the user
     /// cancels: everything is then to stay as it is.
     bool leaveForm(Leaving way);
+    /// Its two halves. The first asks and changes nothing; nothing when the user cancels.
+    std::optional<Entries> askAboutEntries(Leaving way);
+    void settleEntries(Entries entries);
     /// Closes the edit window, entries settled; false when the user would rather go on editing.
     bool closeEditWindow(Leaving way = Leaving::closing);
     /// A selection by the user, who may be asked about entries first; false when it is not to come about.
@@ -135,7 +139,7 @@ private:
     void titleEditWindow();
     void listIsRestored();
     void showFound(const QList<int>& rows);
-    bool askAboutEntries(const Title& question, const Title& keep);
+    std::optional<Entries> askAboutEntries(const Title& question, const Title& keep);
 
     const BookDescription& description_;
     std::unique_ptr<BookForm> form_;

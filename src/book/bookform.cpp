@@ -94,10 +94,10 @@ std::vector<UnstoredForm::Control> BookForm::entries() const {
     return entries;
 }
 
-void BookForm::enterAgain(const std::vector<UnstoredForm::Control>& entries) {
+void BookForm::enterAgain(const UnstoredForm& entries) {
     {
         const FormStateBase::Batch batch(*state_);
-        for (const UnstoredForm::Control& entry : entries) {
+        for (const UnstoredForm::Control& entry : entries.controls) {
             const int index = state_->table().find(entry.name.toStdString());
             if (index >= 0) {
                 state_->setText(index, entry.text);
@@ -105,6 +105,9 @@ void BookForm::enterAgain(const std::vector<UnstoredForm::Control>& entries) {
                 state_->setDate(index, entry.date);
                 state_->setImage(index, entry.image);
             }
+        }
+        if (entries.beside) {
+            enterBesideAgain(entries.beside());
         }
         entered_ = true;
         refresh();
@@ -150,5 +153,11 @@ bool BookForm::differsBeside() const {
 }
 
 void BookForm::rememberBeside() {}
+
+std::function<QByteArray()> BookForm::entriesBeside() const {
+    return {};
+}
+
+void BookForm::enterBesideAgain(QByteArrayView) {}
 
 }  // namespace tavrel

@@ -146,6 +146,7 @@ std::optional<Unsaved> Document::unsaved() const {
     if (!kept.contents || (!kept.isChanged && !kept.form)) {
         return std::nullopt;
     }
+    kept.version = contentsVersion();
     kept.name = displayName();
     kept.file = file_;
     kept.fileHash = identity_.hash();

@@ -106,6 +106,8 @@ protected:
     void setType(const QString& type) { type_ = type; }
     /// What works out the file's contents as they are now, in another thread; null when the document cannot do that.
     virtual std::function<QByteArray()> contentsLater() const { return {}; }
+    /// What stays the same as long as these contents do; null when nothing tells.
+    virtual std::shared_ptr<const void> contentsVersion() const { return nullptr; }
     virtual int recordCount() const { return 0; }
     /// What is typed in the form and stored nowhere.
     virtual std::optional<UnstoredForm> unstoredForm() const { return std::nullopt; }

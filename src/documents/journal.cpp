@@ -2,10 +2,12 @@
 
 #include "base/paths.h"
 #include "base/safefile.h"
+#include "base/texts.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QUuid>
 
 #include <algorithm>
@@ -22,7 +24,31 @@ qint64 now() {
     return QDeadlineTimer::current().deadline();
 }
 
+const QString contentsEnding = QStringLiteral(".contents");
+
+/// What was kept in a file, its contents included.
+Expected<Unsaved> readUnsaved(const QString& file) {
+    return FileBytes::open(file)
+        .and_then([](const FileBytes& bytes) { return unarchivedUnsaved(bytes.bytes()); })
+        .and_then([&](auto&& read) -> Expected<Unsaved> {
+            auto& [unsaved, contents] = read;
+            // A name of its own folder only.
+            const auto bytes = FileBytes::open(QFileInfo(file).path() + u'/' + QFileInfo(contents.name).fileName());
+            if (!bytes || contentHash(bytes->bytes()) != contents.hash) {
+                return failure(text("Main", "Unsaved work not readable"));
+            }
+            unsaved.contents = [held = bytes->bytes().toByteArray()] { return held; };
+            return std::move(unsaved);
+        });
+}
+
 }  // namespace
+
+/// The contents as they were written last; of the working thread alone.
+struct KeptContents {
+    int number = 0;
+    ContentsFile file;
+};
 
 void JournalPace::touch(qint64 now) {
     first_ = first_.value_or(now);
@@ -34,8 +60,12 @@ qint64 JournalPace::wait(qint64 now) const {
 }
 
 void JournalFolder::Left::discard() {
-    for (const QString& file : files) {
-        QFile::remove(file);
+    // Also what was being written when the program ended; the lock removes itself.
+    const QDir files(folder);
+    for (const QString& name : files.entryList(QDir::Files | QDir::Hidden)) {
+        if (files.filePath(name) != lockIn(folder)) {
+            QFile::remove(files.filePath(name));
+        }
     }
     lock.reset();
     QDir().rmdir(folder);
@@ -89,9 +119,7 @@ std::vector<JournalFolder::Left> JournalFolder::left() const {
         }
         const QDir folder(left.folder);
         for (const QString& file : folder.entryList({QStringLiteral("*.journal")}, QDir::Files, QDir::Name)) {
-            left.files.push_back(folder.filePath(file));
-            const auto bytes = FileBytes::open(left.files.back());
-            if (auto unsaved = bytes ? unarchivedUnsaved(bytes->bytes()) : tl::unexpected(bytes.error())) {
+            if (auto unsaved = readUnsaved(folder.filePath(file))) {
                 left.documents.push_back(std::move(*unsaved));
             }
         }
@@ -105,7 +133,11 @@ std::vector<JournalFolder::Left> JournalFolder::left() const {
 }
 
 Journal::Journal(JournalFolder& folder, Document& document, const QString& recordClass)
-    : folder_(folder), document_(document), recordClass_(recordClass), pace_(folder.times()) {
+    : folder_(folder),
+      document_(document),
+      recordClass_(recordClass),
+      pace_(folder.times()),
+      kept_(std::make_shared<KeptContents>()) {
     timer_.setSingleShot(true);
     connect(&timer_, &QTimer::timeout, this, &Journal::keepWhenDue);
     connect(&document, &Document::touched, this, &Journal::touch);
@@ -147,9 +179,29 @@ void Journal::keep() {
     }
     unsaved->recordClass = recordClass_;
     isKept_ = true;
-    folder_.work().start([file = file_, kept = std::move(*unsaved)] {
+    if (!unsaved->version || version_.lock() != unsaved->version) {
+        ++contentsNumber_;
+        version_ = unsaved->version;
+    }
+    folder_.work().start([file = file_, number = contentsNumber_, last = kept_, now = std::move(*unsaved)] {
         // A journal that cannot be written must not disturb the work that it is for.
-        static_cast<void>(writePrivateFile(file, archived(kept)));
+        const QString folder = QFileInfo(file).path() + u'/';
+        ContentsFile contents = last->file;
+        if (last->number != number) {
+            const QByteArray bytes = now.contents();
+            contents = {QFileInfo(file).baseName() + u'-' + QString::number(number) + contentsEnding,
+                        contentHash(bytes)};
+            if (!writePrivateFile(folder + contents.name, bytes)) {
+                return;
+            }
+        }
+        if (!writePrivateFile(file, archived(now, contents))) {
+            return;
+        }
+        if (last->number != number && last->number > 0) {
+            QFile::remove(folder + last->file.name);
+        }
+        *last = {number, contents};
     });
 }
 
@@ -162,7 +214,11 @@ void Journal::drop() {
     timer_.stop();
     pace_.taken();
     if (std::exchange(isKept_, false)) {
-        folder_.work().start([file = file_] { QFile::remove(file); });
+        folder_.work().start([file = file_, last = kept_] {
+            QFile::remove(file);
+            QFile::remove(QFileInfo(file).path() + u'/' + last->file.name);
+            *last = {};
+        });
     }
 }
 

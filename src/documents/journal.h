@@ -49,7 +49,6 @@ public:
     struct Left {
         QString folder;
         std::unique_ptr<QLockFile> lock;
-        std::vector<QString> files;
         std::vector<Unsaved> documents;
 
         void discard();
@@ -80,6 +79,8 @@ private:
     QThreadPool work_;
 };
 
+struct KeptContents;
+
 /// Keeps what is unsaved of one document, soon after each change, without holding up its windows.
 class Journal : public QObject {
     Q_OBJECT
@@ -106,6 +107,10 @@ private:
     JournalPace pace_;
     QTimer timer_;
     bool isKept_ = false;
+    // The contents are written only when they are others than before. The number names their file.
+    std::weak_ptr<const void> version_;
+    int contentsNumber_ = 0;
+    std::shared_ptr<KeptContents> kept_;
 };
 
 }  // namespace tavrel

@@ -61,6 +61,7 @@ protected:
     QByteArray archive() const;
     Expected<RecordList> unarchive(QByteArrayView data) const;
     std::function<QByteArray()> contentsLater() const override;
+    std::shared_ptr<const void> contentsVersion() const override { return list_; }
     int recordCount() const override { return count(); }
 
 private:

@@ -13,7 +13,7 @@ namespace tavrel {
 namespace {
 
 constexpr quint32 magic = 0x54766C4A;
-constexpr qint32 formatVersion = 1;
+constexpr qint32 formatVersion = 2;
 constexpr QDataStream::Version wireVersion = QDataStream::Qt_6_4;
 constexpr qint32 mostControls = 100'000;
 
@@ -24,6 +24,7 @@ void writeForm(QDataStream& stream, const UnstoredForm& form) {
         stream << control.name << control.text << control.tag << !control.date.isNull() << date << control.image.tiff
                << control.image.width << control.image.height;
     }
+    stream << (form.beside ? form.beside() : QByteArray());
 }
 
 UnstoredForm readForm(QDataStream& stream) {
@@ -41,12 +42,17 @@ UnstoredForm readForm(QDataStream& stream) {
         control.date = hasDate ? Date(std::bit_cast<double>(date)) : Date();
         form.controls.push_back(std::move(control));
     }
+    QByteArray beside;
+    stream >> beside;
+    if (!beside.isEmpty()) {
+        form.beside = [beside] { return beside; };
+    }
     return form;
 }
 
 }  // namespace
 
-QByteArray archived(const Unsaved& unsaved) {
+QByteArray archived(const Unsaved& unsaved, const ContentsFile& contents) {
     QByteArray body;
     QDataStream stream(&body, QIODevice::WriteOnly);
     stream.setVersion(wireVersion);
@@ -55,7 +61,7 @@ QByteArray archived(const Unsaved& unsaved) {
     if (unsaved.form) {
         writeForm(stream, *unsaved.form);
     }
-    stream << unsaved.contents();
+    stream << contents.name << contents.hash;
     QByteArray bytes;
     QDataStream whole(&bytes, QIODevice::WriteOnly);
     whole.setVersion(wireVersion);
@@ -63,7 +69,7 @@ QByteArray archived(const Unsaved& unsaved) {
     return bytes;
 }
 
-Expected<Unsaved> unarchivedUnsaved(QByteArrayView bytes) {
+Expected<std::pair<Unsaved, ContentsFile>> unarchivedUnsaved(QByteArrayView bytes) {
     QDataStream whole(QByteArray::fromRawData(bytes.data(), bytes.size()));
     whole.setVersion(wireVersion);
     quint32 mark = 0;
@@ -88,13 +94,12 @@ Expected<Unsaved> unarchivedUnsaved(QByteArrayView bytes) {
     if (hasForm) {
         unsaved.form = readForm(stream);
     }
-    QByteArray contents;
-    stream >> contents;
-    unsaved.contents = [contents] { return contents; };
+    ContentsFile contents;
+    stream >> contents.name >> contents.hash;
     if (stream.status() != QDataStream::Ok) {
         return failure(text("Main", "Unsaved work not readable"));
     }
-    return unsaved;
+    return std::pair(std::move(unsaved), std::move(contents));
 }
 
 }  // namespace tavrel

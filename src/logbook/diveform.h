@@ -40,6 +40,8 @@ public:
     bool holdsBeside(const QString& field) const override;
     /// A series of the profile, as numbers with commas.
     Expected<void> enterBeside(const QString& field, const QString& value) override;
+    /// The profile, as a dive that has nothing else.
+    std::function<QByteArray()> entriesBeside() const override;
 
 protected:
     void clear(int count) override;
@@ -52,6 +54,7 @@ protected:
     void entered(int control) override;
     bool differsBeside() const override;
     void rememberBeside() override;
+    void enterBesideAgain(QByteArrayView entries) override;
 
 private:
     void nameDifficulty();

@@ -206,7 +206,7 @@ TEST_F(Documents, askBeforeTheyCloseWithChanges) {
     EXPECT_EQ(question.buttons,
               (QStringList{text("Main", "Save"), text("Main", "Don't save"), text("Main", "Cancel")}));
     EXPECT_TRUE(question.message.contains(u"dives.carnet"));
-    EXPECT_EQ(app.frontWindow()->settled, QList{Settling::leaving});
+    EXPECT_EQ(app.frontWindow()->asked, QList{Settling::leaving});
 
     app.alerts.answerNext(dontSave);
     app.frontWindow()->close();
@@ -224,6 +224,75 @@ TEST_F(Documents, askBeforeTheyCloseWithChanges) {
     app.alerts.answerNext(dontSave);
     EXPECT_TRUE(app.documents.closeAllDocuments());
     EXPECT_TRUE(names().isEmpty());
+}
+
+TEST_F(Documents, stayAsTheyWereWhenTheUserWouldRatherNotLeave) {
+    const QString file = app.savedLogbook(QStringLiteral("first.carnet"), 1);
+    app.documents.openFile(file);
+    TestWindow* first = app.frontWindow();
+    app.documents.openFile(app.savedLogbook(QStringLiteral("second.carnet"), 1));
+    TestWindow* second = app.frontWindow();
+    const QByteArray before = contents(file);
+    // Whatever was answered about the first, nothing has come of it when the second is not to be left.
+    for (const Entries entries : {Entries::dropped, Entries::stored}) {
+        first->entries = entries;
+        first->document().undoStack().setClean();
+        static_cast<Carnet&>(first->document()).addDive();
+        second->entries = std::nullopt;
+        app.alerts.clear();
+        app.alerts.answerNext(save);
+        EXPECT_FALSE(app.documents.closeAllDocuments());
+        EXPECT_EQ(app.alerts.questions.size(), 1U);
+        EXPECT_TRUE(first->settled.isEmpty());
+        EXPECT_EQ(contents(file), before);
+    }
+    // Nor of a document's own: the form's answer holds only once the file's question is answered too.
+    const QString theirs = app.savedLogbook(QStringLiteral("others.carnet"), 5);
+    using Way = bool (MyDocumentController::*)(DocumentWindow&);
+    for (const Way way : {&MyDocumentController::closeDocument, &MyDocumentController::revertDocument,
+                          &MyDocumentController::revertToBackup, &MyDocumentController::saveDocumentAs}) {
+        first->entries = Entries::dropped;
+        app.alerts.answerNext(cancel);
+        EXPECT_FALSE((app.documents.*way)(*first));
+        EXPECT_TRUE(first->settled.isEmpty());
+    }
+    ASSERT_TRUE(QFile::remove(file) && QFile::copy(theirs, file));
+    app.alerts.clear();
+    app.alerts.answerNext(3);
+    EXPECT_FALSE(app.documents.saveDocument(*first));
+    EXPECT_TRUE(first->settled.isEmpty());
+
+    // What is done to one while another asks is asked about again.
+    first->entries = second->entries = Entries::none;
+    app.alerts.clear();
+    static_cast<Carnet&>(second->document()).addDive();
+    first->document().undoStack().setClean();
+    app.alerts.answerNext(dontSave);
+    app.alerts.answerNext(cancel);
+    app.alerts.whileAsked = [&] {
+        if (app.alerts.questions.size() == 1) {
+            static_cast<Carnet&>(first->document()).addDive();
+        }
+    };
+    EXPECT_FALSE(app.documents.closeAllDocuments());
+    ASSERT_EQ(app.alerts.questions.size(), 2U);
+    EXPECT_TRUE(app.alerts.questions[0].message.contains(u"second"));
+    EXPECT_TRUE(app.alerts.questions[1].message.contains(u"first"));
+    app.alerts.whileAsked = {};
+
+    // Entries that are to be added make the document one to save.
+    app.documents.newDocument();
+    app.frontWindow()->entries = Entries::stored;
+    app.alerts.clear();
+    app.alerts.answerNext(save);
+    app.fileDialogs.save = {{app.path(QStringLiteral("third.carnet"))}};
+    TestWindow* third = app.frontWindow();
+    QList<Entries> settled;
+    QObject::connect(&third->document(), &Document::fileChanged, third, [&] { settled = third->settled; });
+    EXPECT_TRUE(app.documents.closeDocument(*third));
+    EXPECT_EQ(app.alerts.questions.size(), 1U);
+    EXPECT_EQ(settled, QList{Entries::stored});
+    EXPECT_EQ(app.documents.windows().size(), 2);
 }
 
 TEST_F(Documents, openAtTheStart) {
@@ -269,7 +338,7 @@ TEST_F(Documents, openWhenDroppedOnAWindow) {
 
 TEST_F(Documents, askBeforeTheySaveOverWhatAnotherProgramWrote) {
     const QString file = app.savedLogbook(QStringLiteral("dives.carnet"), 2);
-    const QByteArray theirs = contents(app.savedLogbook(QStringLiteral("others.carnet"), 5));
+    QByteArray theirs = contents(app.savedLogbook(QStringLiteral("others.carnet"), 5));
     DocumentWindow* window = app.documents.openFile(file);
     const auto countAfter = [&](int answer) {
         app.frontCarnet().addDive();
@@ -287,6 +356,7 @@ TEST_F(Documents, askBeforeTheySaveOverWhatAnotherProgramWrote) {
     EXPECT_EQ(contents(file), theirs);
     EXPECT_EQ(countAfter(reload), std::pair(false, 5));
     EXPECT_FALSE(window->document().isChanged());
+    theirs = contents(app.savedLogbook(QStringLiteral("more.carnet"), 4));
     EXPECT_EQ(countAfter(overwrite), std::pair(true, 6));
     EXPECT_NE(contents(file), theirs);
     const QString elsewhere = app.path(QStringLiteral("elsewhere.carnet"));
@@ -363,9 +433,9 @@ TEST_F(Documents, goBackToTheirBackup) {
 }
 
 /// A run of the program that keeps what is unsaved in a folder that all runs share.
-struct Run {
-    explicit Run(TestApplication& itsApp) : app(itsApp) {}
-    ~Run() = default;
+struct OneRun {
+    explicit OneRun(TestApplication& itsApp) : app(itsApp) {}
+    ~OneRun() = default;
 
     Carnet& carnet() { return static_cast<Carnet&>(documents.windows().back()->document()); }
 
@@ -378,19 +448,20 @@ TEST_F(Documents, bringBackWhatASuddenEndTook) {
     const QString file = app.savedLogbook(QStringLiteral("dives.carnet"), 2);
     const QByteArray before = contents(file);
     {
-        Run run(app);
+        OneRun run(app);
         ASSERT_TRUE(run.documents.openFile(file));
         run.carnet().addDive();
         run.carnet().newRecord();
         DiveForm& form = run.carnet().form();
         form.state().type(form.controls().lieuField.index, QStringLiteral("Bonifacio"));
+        ASSERT_TRUE(form.enterBeside(QStringLiteral("profilProfondeur"), QStringLiteral("0, 12.5, 0")));
         // Asked to end at once, as by a signal; nothing is closed.
         run.documents.keepUnsaved();
     }
     EXPECT_EQ(contents(file), before);
     enum { restore, discard, leave };
     {
-        Run run(app);
+        OneRun run(app);
         app.alerts.answerNext(leave);
         run.documents.offerUnsaved();
         ASSERT_EQ(app.alerts.questions.size(), 1U);
@@ -400,7 +471,7 @@ TEST_F(Documents, bringBackWhatASuddenEndTook) {
         EXPECT_TRUE(run.documents.windows().isEmpty());
     }
     {
-        Run run(app);
+        OneRun run(app);
         ASSERT_TRUE(run.documents.openFile(file));
         app.alerts.answerNext(restore);
         run.documents.offerUnsaved();
@@ -411,11 +482,12 @@ TEST_F(Documents, bringBackWhatASuddenEndTook) {
         EXPECT_TRUE(run.carnet().hasEntries());
         DiveForm& form = run.carnet().form();
         EXPECT_EQ(form.state().text(form.controls().lieuField), u"Bonifacio");
+        EXPECT_EQ(form.profile().profilProfondeur.size(), 3);
         EXPECT_EQ(contents(file), before);
         // Another sudden end before anything is saved.
     }
     {
-        Run run(app);
+        OneRun run(app);
         app.alerts.answerNext(discard);
         run.documents.offerUnsaved();
         EXPECT_EQ(app.alerts.questions.size(), 3U);

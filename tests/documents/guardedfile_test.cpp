@@ -38,6 +38,7 @@ public:
     void typeIntoForm(const QString& text) {
         UnstoredForm form;
         form.row = 3;
+        form.beside = [] { return QByteArray("beside"); };
         form.controls = {{QStringLiteral("field"), text, 7, Date(12.5), {}}, {QStringLiteral("none"), {}, -1, {}, {}}};
         typed = form;
         Q_EMIT touched();
@@ -45,8 +46,10 @@ public:
 
     QByteArray words;
     std::optional<UnstoredForm> typed;
+    std::shared_ptr<const void> version;
 
 protected:
+    std::shared_ptr<const void> contentsVersion() const override { return version; }
     std::function<QByteArray()> contentsLater() const override {
         return [kept = words] { return kept; };
     }
@@ -241,6 +244,8 @@ TEST_F(Journals, keepWhatIsUnsavedForTheNextRun) {
     EXPECT_EQ(unsaved.form->controls[0].tag, 7);
     EXPECT_EQ(unsaved.form->controls[0].date.secondsSince2001(), 12.5);
     EXPECT_TRUE(unsaved.form->controls[1].date.isNull());
+    ASSERT_TRUE(unsaved.form->beside);
+    EXPECT_EQ(unsaved.form->beside(), "beside");
     EXPECT_TRUE(left().empty()) << "another run looks at it";
 
     Leaf again(desktop.desktop());
@@ -256,6 +261,31 @@ TEST_F(Journals, keepWhatIsUnsavedForTheNextRun) {
     found[0].discard();
     EXPECT_TRUE(left().empty());
     EXPECT_TRUE(QDir(parent()).isEmpty());
+}
+
+TEST_F(Journals, writeTheContentsOnlyWhenTheyAreOthers) {
+    JournalFolder folder(parent());
+    Journal journal(folder, leaf, QStringLiteral("Leaf"));
+    const auto files = [&] {
+        const QFileInfo file(journal.file());
+        return file.dir().entryList({QStringLiteral("*.contents")}, QDir::Files);
+    };
+    leaf.version = std::make_shared<int>();
+    leaf.change("first");
+    journal.keepNow();
+    const QStringList first = files();
+    ASSERT_EQ(first.size(), 1);
+    leaf.typeIntoForm(QStringLiteral("typed"));
+    // Were they asked for again, these would be found.
+    leaf.words = "not told of";
+    journal.keepNow();
+    EXPECT_EQ(files(), first);
+    leaf.version = std::make_shared<int>();
+    leaf.change("second");
+    journal.keepNow();
+    ASSERT_EQ(files().size(), 1);
+    EXPECT_NE(files(), first);
+    EXPECT_EQ(contents(QFileInfo(journal.file()).path() + u'/' + files().first()), "second");
 }
 
 TEST_F(Journals, areGoneOnceEverythingIsSaved) {
@@ -289,14 +319,16 @@ TEST_F(Journals, thatAreDamagedAreNoTrouble) {
         leaf.change("changed");
         journal.keepNow();
         const QByteArray bytes = contents(journal.file());
-        ASSERT_TRUE(unarchivedUnsaved(bytes));
+        const auto whole = unarchivedUnsaved(bytes);
+        ASSERT_TRUE(whole);
         for (qsizetype length = 0; length < bytes.size(); ++length) {
             EXPECT_FALSE(unarchivedUnsaved(QByteArrayView(bytes).first(length))) << length;
         }
         QByteArray flipped = bytes;
         flipped[bytes.size() - 1] = static_cast<char>(flipped[bytes.size() - 1] ^ 1);
         EXPECT_FALSE(unarchivedUnsaved(flipped));
-        ASSERT_TRUE(writeFile(journal.file(), flipped));
+        // Nor is a journal whose contents are not its own.
+        ASSERT_TRUE(writeFile(QFileInfo(journal.file()).path() + u'/' + whole->second.name, "chanced"));
     }
     EXPECT_TRUE(left().empty());
     EXPECT_TRUE(QDir(parent()).isEmpty());

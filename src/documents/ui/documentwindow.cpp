@@ -31,8 +31,18 @@ void DocumentWindow::updateTitle() {
     setWindowModified(document_.isChanged());
 }
 
+bool DocumentWindow::leaveEditing(Settling next) {
+    const auto entries = askAboutEntries(next);
+    if (entries) {
+        settleEntries(*entries);
+    }
+    return entries.has_value();
+}
+
 void DocumentWindow::closeWithDocument() {
     mayClose_ = true;
+    // Otherwise the window that holds them would ask.
+    settleEntries(Entries::dropped);
     for (QWidget* window : furtherWindows()) {
         window->close();
     }

@@ -11,6 +11,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 namespace tavrel {
 
 /// What comes next where entries under way are settled first.
@@ -45,7 +47,11 @@ public:
     virtual QList<QWidget*> furtherWindows() { return {}; }
     /// Settles what the user entered and the document does not hold yet; false when the user wants to go on entering,
     /// and everything is to stay as it is.
-    virtual bool leaveEditing(Settling) { return true; }
+    bool leaveEditing(Settling next);
+    /// Its two halves. The first asks what is to become of it, where that needs asking, and changes nothing; nothing
+    /// when the user wants to go on.
+    virtual std::optional<Entries> askAboutEntries(Settling) { return Entries::none; }
+    virtual void settleEntries(Entries) {}
     /// The window's own action for a command of the application's menus ("saveDocument", "printDocument"), which then
     /// show it; null where it has none.
     virtual QAction* commandAction(const QString& name) {
