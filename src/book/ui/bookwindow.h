@@ -35,7 +35,7 @@ public:
     CustomToolBar& toolBar() { return *toolBar_; }
     BookEditWindow& editWindow();
     /// Shows the card of all records.
-    void showCard();
+    virtual void showCard();
     CardWindow& cardWindow();
 
     QString ownMenuTitle() const override;
@@ -48,6 +48,10 @@ public:
     QList<QWidget*> furtherWindows() override;
     std::optional<Entries> askAboutEntries(Settling next) override;
     void settleEntries(Entries entries) override;
+
+Q_SIGNALS:
+    /// The edit window was asked for first and is there.
+    void editWindowMade(tavrel::BookEditWindow& made);
 
 private:
     void addCommands();
