@@ -12,6 +12,23 @@
 
 namespace tavrel {
 
+namespace {
+
+/// What was kept of one document, for the user.
+QString lineOf(const Unsaved& unsaved) {
+    const QString name = shownPath(unsaved.name);
+    const QString place = unsaved.file.isEmpty() ? text("Main", "Unsaved without file") : shownPath(unsaved.file);
+    const QString time = QLocale().toString(unsaved.time, QLocale::ShortFormat);
+    if (!unsaved.isChanged) {
+        return textWith("Main", "Unsaved form", name, place, time);
+    }
+    const QString records = QString::number(unsaved.records);
+    return unsaved.form ? textWith("Main", "Unsaved records and form", name, place, time, records)
+                        : textWith("Main", "Unsaved records", name, place, time, records);
+}
+
+}  // namespace
+
 bool MyDocumentController::saveOverChange(DocumentWindow& window, FileIdentity::State state, Entries entries) {
     enum Answer { overwrite, elsewhere, reload };
     const bool isGone = state == FileIdentity::State::gone;
@@ -76,12 +93,7 @@ void MyDocumentController::offerUnsaved() {
     for (JournalFolder::Left& left : journals_.left()) {
         QStringList lines;
         for (const Unsaved& each : left.documents) {
-            const QString place = each.file.isEmpty() ? text("Main", "Unsaved without file") : shownPath(each.file);
-            const QString time = QLocale().toString(each.time, QLocale::ShortFormat);
-            const Title line = !each.form       ? Title("Main", "Unsaved records")
-                               : each.isChanged ? Title("Main", "Unsaved records and form")
-                                                : Title("Main", "Unsaved form");
-            lines.append(textWith(line, shownPath(each.name), place, time, QString::number(each.records)));
+            lines.append(lineOf(each));
         }
         const QString question = textWith("Main", "Unsaved question", lines.join(u'\n'));
         const int answer = desktop_.alerts.ask(

@@ -61,7 +61,14 @@ MyDocumentController::MyDocumentController(Desktop& desktop, FileDialogs& fileDi
       recentDocuments_(desktop.preferences),
       journals_(journals, times) {}
 
-MyDocumentController::~MyDocumentController() = default;
+MyDocumentController::~MyDocumentController() {
+    // A signal ends the program with its windows open. What their journals keep stays for the next start.
+    for (OpenDocument& each : open_) {
+        each.journal.reset();
+        // Closed while whole: what closing tells others makes them ask the window.
+        each.window->closeWithDocument();
+    }
+}
 
 QList<DocumentWindow*> MyDocumentController::windows() const {
     QList<DocumentWindow*> windows;

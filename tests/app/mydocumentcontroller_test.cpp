@@ -466,7 +466,7 @@ TEST_F(Documents, bringBackWhatASuddenEndTook) {
         run.documents.offerUnsaved();
         ASSERT_EQ(app.alerts.questions.size(), 1U);
         EXPECT_TRUE(app.alerts.questions[0].message.contains(u"dives.carnet"));
-        EXPECT_TRUE(app.alerts.questions[0].message.contains(u"3 records and what was being typed"))
+        EXPECT_TRUE(app.alerts.questions[0].message.contains(u"all records (3) and what was being typed"))
             << app.alerts.questions[0].message.toStdString();
         EXPECT_TRUE(run.documents.windows().isEmpty());
     }
@@ -495,6 +495,22 @@ TEST_F(Documents, bringBackWhatASuddenEndTook) {
         EXPECT_EQ(app.alerts.questions.size(), 3U) << "once discarded there is nothing to offer";
     }
     EXPECT_TRUE(QDir(app.path(QStringLiteral("journal"))).isEmpty());
+    // It says what it holds: the form alone, a document without a file.
+    {
+        OneRun run(app);
+        ASSERT_TRUE(run.documents.openFile(file));
+        run.carnet().form().state().type(DiveControls::table().lieuField.index, QStringLiteral("Bonifacio"));
+        run.documents.newDocument();
+        run.carnet().addDive();
+        run.documents.keepUnsaved();
+    }
+    OneRun run(app);
+    app.alerts.answerNext(discard);
+    run.documents.offerUnsaved();
+    const QStringList lines = app.alerts.questions.back().message.split(u'\n');
+    ASSERT_EQ(lines.size(), 4);
+    EXPECT_TRUE(lines[1].contains(u"dives.carnet") && lines[1].endsWith(u": what was being typed"));
+    EXPECT_TRUE(lines[2].contains(u"never saved") && lines[2].endsWith(u": all records (1)"));
 }
 
 }  // namespace

@@ -151,6 +151,15 @@ TEST_F(Program, asksAboutADiveBeingTypedAndThenAboutItsFile) {
     EXPECT_TRUE(typeAndLeave({discard})) << "the file holds all that is to be kept";
 }
 
+TEST_F(Program, mayEndWithItsWindowsOpen) {
+    auto* window = qobject_cast<LogbookWindow*>(documents.newDocument());
+    ASSERT_TRUE(window);
+    window->actions().action(QStringLiteral("newDive"))->trigger();
+    QTest::keyClicks(window->editWindow().pages().widget(DiveControls::table().bateauField.index),
+                     QStringLiteral("typed"));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window->editWindow()));
+}
+
 TEST_F(Program, isKnownToTheDesktopForEveryTypeOfDocument) {
     const QString entry = contents("resources/desktop/tavrel.desktop");
     const QString package = contents("resources/desktop/tavrel.xml");

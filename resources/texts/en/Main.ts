@@ -252,8 +252,8 @@ Overwriting loses what that program wrote, reloading what you entered.</translat
 <message><source>Unsaved question</source><translation>Tavrel ended without saving:
 %@
 Do you want it back?</translation></message>
-<message><source>Unsaved records</source><translation>“%@” (%@), %@: %@ records</translation></message>
-<message><source>Unsaved records and form</source><translation>“%@” (%@), %@: %@ records and what was being typed</translation></message>
+<message><source>Unsaved records</source><translation>“%@” (%@), %@: all records (%@)</translation></message>
+<message><source>Unsaved records and form</source><translation>“%@” (%@), %@: all records (%@) and what was being typed</translation></message>
 <message><source>Unsaved without file</source><translation>never saved</translation></message>
 <message><source>Unsaved work not readable</source><translation>What was kept of the unsaved work is damaged.</translation></message>
 <message><source>Untitled</source><translation>Untitled</translation></message>

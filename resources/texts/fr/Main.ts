@@ -252,8 +252,8 @@ Remplacer perd ce que ce programme a écrit, recharger ce que vous avez saisi.</
 <message><source>Unsaved question</source><translation>Tavrel s’est arrêté sans enregistrer :
 %@
 Voulez-vous le retrouver ?</translation></message>
-<message><source>Unsaved records</source><translation>« %@ » (%@), %@ : %@ fiches</translation></message>
-<message><source>Unsaved records and form</source><translation>« %@ » (%@), %@ : %@ fiches et la saisie en cours</translation></message>
+<message><source>Unsaved records</source><translation>« %@ » (%@), %@ : toutes les fiches (%@)</translation></message>
+<message><source>Unsaved records and form</source><translation>« %@ » (%@), %@ : toutes les fiches (%@) et la saisie en cours</translation></message>
 <message><source>Unsaved without file</source><translation>jamais enregistré</translation></message>
 <message><source>Unsaved work not readable</source><translation>Ce qui a été conservé du travail non enregistré est endommagé.</translation></message>
 <message><source>Untitled</source><translation>Sans titre</translation></message>
