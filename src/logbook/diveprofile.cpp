@@ -70,6 +70,7 @@ void importProfil(Carnet& carnet, const SeriesTexts& texts) {
         carnet.updateDive();
         carnet.editFields();
     } else {
+        Q_EMIT carnet.form().userEdited();
         carnet.updateUI();
     }
 }
