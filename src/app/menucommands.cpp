@@ -20,7 +20,7 @@ bool canRevert(Context& context) {
 }
 
 bool canExport(Context& context) {
-    return !context.documents.exportFormats(context.window).isEmpty();
+    return static_cast<bool>(context.documents.typeOf(context.window).showExport);
 }
 
 void quit(Context& context) {

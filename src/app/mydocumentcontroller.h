@@ -39,9 +39,12 @@ public:
     /// The new-document action of a type.
     void newDocumentOfType(const DocumentType& type);
 
-    /// Opens a file, or brings its window to the front when it is open; null when it cannot be opened.
+    /// Opens a file, or brings its window to the front when it is open; null when it cannot be opened. One that holds
+    /// records of another program is offered to a document that takes them in.
     DocumentWindow* openFile(const QString& file);
     void openFiles(const QStringList& files);
+    /// Files dropped on a window: records of other programs that its document can take in come into it, others open.
+    void openDropped(DocumentWindow& window, const QStringList& files);
     void openDocument(QWidget* parent);
     /// Start without a document: the memo when the user wants it, then the most recent document, or an untitled
     /// logbook when there is none. Always handled.
@@ -53,15 +56,14 @@ public:
     bool saveDocument(DocumentWindow& window);
     bool saveDocumentAs(DocumentWindow& window);
     bool revertDocument(DocumentWindow& window);
-    bool exportDocument(DocumentWindow& window);
     /// Asks about unsaved changes first.
     bool closeDocument(DocumentWindow& window);
     /// Asks about the unsaved changes of every document, then closes them all, or none after a cancel.
     bool closeAllDocuments();
     /// Asks about the unsaved changes of every document and closes none.
     bool mayQuit();
-    /// The formats that the document can be exported to.
-    QList<ExportFormat> exportFormats(DocumentWindow& window) const;
+    /// Asks how the document is to be exported, beside its file.
+    void exportDocument(DocumentWindow& window);
 
     void showPreferencePanel();
     void showPenseBeteWindow();
@@ -86,6 +88,8 @@ private:
     bool isTaken(const QString& file, const DocumentWindow& window);
     DocumentWindow* addWindow(const DocumentType& type, std::unique_ptr<Document> document);
     void removeWindow(DocumentWindow& window);
+    /// Offers a file to the newest document of a type that takes it in, or to a new one; false when there is none.
+    bool offerIntake(const QString& file);
     void discardUntouched();
     bool mayClose(DocumentWindow& window);
     bool mayLoseChanges(DocumentWindow& window);

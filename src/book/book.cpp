@@ -5,6 +5,8 @@
 #include "desktop/alerts.h"
 
 #include <algorithm>
+#include <iterator>
+#include <set>
 
 namespace tavrel {
 
@@ -371,8 +373,20 @@ void BookBase::showFound(const QList<int>& rows) {
         Q_EMIT rowRevealed(rows.front());
     }
     const int matches = static_cast<int>(rows.size());
+    found_.clear();
+    for (const int row : rows) {
+        found_.push_back(records()[static_cast<std::size_t>(row)]);
+    }
     foundText_ = matches == 1 ? description_.words.oneFound.text() : textWith(description_.words.manyFound, matches);
     Q_EMIT stateChanged();
+}
+
+RecordList BookBase::foundRecords() const {
+    const std::set<RecordPointer> found(found_.begin(), found_.end());
+    RecordList still;
+    std::copy_if(records().begin(), records().end(), std::back_inserter(still),
+                 [&](const RecordPointer& record) { return found.count(record) > 0; });
+    return still;
 }
 
 void BookBase::findInColumns(const QString& searched) {

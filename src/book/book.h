@@ -101,6 +101,8 @@ public:
     void findInColumns(const QString& text);
     /// What the last search found, as text.
     const QString& foundText() const { return foundText_; }
+    /// The records that the last search found, as far as the list still holds them.
+    RecordList foundRecords() const;
 
     // What the windows show.
     /// The count line: one record, or how many there are.
@@ -144,6 +146,7 @@ private:
     QString idColonne_;
     std::map<QString, bool> ascendingDirection_;
     QString foundText_;
+    RecordList found_;
     QString editWindowTitle_;
 };
 

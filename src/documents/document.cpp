@@ -57,17 +57,25 @@ Expected<void> Document::saveAs(const QString& file) {
 }
 
 Expected<void> Document::exportAs(const QString& file, const QString& type) {
-    if (type != type_ && !file_.isEmpty() && canonicalPath(file) == canonicalPath(file_)) {
-        return tl::unexpected(savingFailure(file, {text("Main", "Export onto document"), {}}));
+    if (type != type_) {
+        return isOwnFile(file) ? writeExport(file, {}) : writeExport(file, dataRepresentationOfType(type));
     }
     const auto bytes = dataRepresentationOfType(type);
+    return bytes ? writeFile(file, *bytes) : tl::unexpected(savingFailure(file, bytes.error()));
+}
+
+bool Document::isOwnFile(const QString& file) const {
+    return !file_.isEmpty() && canonicalPath(file) == canonicalPath(file_);
+}
+
+Expected<void> Document::writeExport(const QString& file, const Expected<QByteArray>& bytes) {
+    if (isOwnFile(file)) {
+        return tl::unexpected(savingFailure(file, {text("Main", "Export onto document"), {}}));
+    }
     if (!bytes) {
         return tl::unexpected(savingFailure(file, bytes.error()));
     }
-    if (type != type_ && isOutlet(file)) {
-        return writeToOutlet(file, *bytes);
-    }
-    return writeFile(file, *bytes);
+    return isOutlet(file) ? writeToOutlet(file, *bytes) : writeFile(file, *bytes);
 }
 
 Expected<void> Document::revert() {

@@ -55,6 +55,8 @@ public:
     /// Writes another type (an export) beside; the document's file and change state stay. An export loses what it does
     /// not hold, so it never takes the place of the document's own file.
     Expected<void> exportAs(const QString& file, const QString& type);
+    /// The same with the bytes of an export, or why there are none.
+    Expected<void> writeExport(const QString& file, const Expected<QByteArray>& bytes);
     /// Reads its file again, dropping all changes; a failure without a file.
     Expected<void> revert();
 
@@ -68,6 +70,7 @@ protected:
     void markChanged();
 
 private:
+    bool isOwnFile(const QString& file) const;
     void becomeFile(const QString& file);
     void tellChangedState();
 
