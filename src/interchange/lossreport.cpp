@@ -71,8 +71,14 @@ Expected<std::vector<FieldLoss>> lossesOf(const Carnet& carnet, const LogbookExp
 QString fieldTitle(const QString& field) {
     const auto& table = DiveControls::table();
     const int index = table.find(field.toStdString());
-    const Title label = index < 0 ? Title() : table.controls()[static_cast<std::size_t>(index)].control.label;
-    return label.isEmpty() ? field : text(label) + QStringLiteral(" [") + field + u']';
+    if (index < 0) {
+        return field;
+    }
+    const PlacedControl& placed = table.controls()[static_cast<std::size_t>(index)];
+    const Title& label = placed.control.label;
+    // A control without a label of its own stands under its group's.
+    const Title& title = label.isEmpty() ? table.groups()[static_cast<std::size_t>(placed.group)].title : label;
+    return title.isEmpty() ? field : text(title) + QStringLiteral(" [") + field + u']';
 }
 
 QString lossText(const FieldLoss& loss) {

@@ -53,6 +53,8 @@ public:
     int prints = 0;
     QList<Settling> settled;
     bool leaves = true;  ///< what is being entered, when asked
+    FileTaken isTaken;   ///< given when the export is shown
+    QStringList takenIn;
 };
 
 /// A second kind of document, with records of its own.
