@@ -85,7 +85,6 @@ ExportWindow::ExportWindow(Carnet& carnet, FileDialogs& fileDialogs, FileTaken i
         which_[choice] = new QRadioButton(titles[choice]);
         which_[choice]->setEnabled(choice == allDives || !choices_[choice].empty());
         which->addWidget(which_[choice]);
-        connect(which_[choice], &QRadioButton::toggled, this, [this](bool on) { on ? choicesChanged() : void(); });
     }
     which->addStretch(1);
     which_[allDives]->setChecked(true);
@@ -136,6 +135,9 @@ ExportWindow::ExportWindow(Carnet& carnet, FileDialogs& fileDialogs, FileTaken i
 
     due_.setSingleShot(true);
     connect(&due_, &QTimer::timeout, this, &ExportWindow::report);
+    for (QRadioButton* button : which_) {
+        connect(button, &QRadioButton::toggled, this, [this](bool on) { on ? choicesChanged() : void(); });
+    }
     connect(format_, &QComboBox::currentIndexChanged, this, &ExportWindow::choicesChanged);
     connect(columns_, &QListWidget::itemChanged, this, &ExportWindow::choicesChanged);
     connect(all, &QPushButton::clicked, this, [this] { tickAllColumns(true); });

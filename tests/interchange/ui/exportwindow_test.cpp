@@ -109,7 +109,7 @@ TEST_F(Exporting, writesTheDivesAndColumnsChosen) {
         columns->item(row)->setCheckState(field == u"date" || field == u"lieu" ? Qt::Checked : Qt::Unchecked);
     }
     EXPECT_EQ(losses().filter(QStringLiteral("coeff")).size(), 1);
-    EXPECT_EQ(exported(), "lieu,date\r\nAgay,2020-01-02\r\n");
+    EXPECT_EQ(exported(), "date,lieu\r\n2020-01-02,Agay\r\n");
 }
 
 TEST_F(Exporting, leavesOtherDocumentsAndItsOwnFileAlone) {
