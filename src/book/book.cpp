@@ -5,8 +5,6 @@
 #include "desktop/alerts.h"
 
 #include <algorithm>
-#include <iterator>
-#include <set>
 
 namespace tavrel {
 
@@ -356,40 +354,22 @@ Expected<int> BookBase::findTextWithField(const QString& field, const QString& s
     if (found.isNull() || found.kind() != FieldKind::text) {
         return failure(textWith("Carnet", "No such field", field));
     }
+    search([this, found, searched] { return rowsHolding(found, searched); });
+    return static_cast<int>(selectedRows().size());
+}
+
+QList<int> BookBase::rowsHolding(const Field& field, const QString& searched) const {
     QList<int> rows;
     for (int row = 0; row < count(); ++row) {
-        const QString& value = *found.get<QString>(*records()[static_cast<std::size_t>(row)]);
+        const QString& value = *field.get<QString>(*records()[static_cast<std::size_t>(row)]);
         if (value.isNull() || (!searched.isEmpty() && value.contains(searched, Qt::CaseInsensitive))) {
             rows.append(row);
         }
     }
-    showFound(rows);
-    return static_cast<int>(rows.size());
+    return rows;
 }
 
-void BookBase::showFound(const QList<int>& rows) {
-    selectRows(rows);
-    if (!rows.isEmpty()) {
-        Q_EMIT rowRevealed(rows.front());
-    }
-    const int matches = static_cast<int>(rows.size());
-    found_.clear();
-    for (const int row : rows) {
-        found_.push_back(records()[static_cast<std::size_t>(row)]);
-    }
-    foundText_ = matches == 1 ? description_.words.oneFound.text() : textWith(description_.words.manyFound, matches);
-    Q_EMIT stateChanged();
-}
-
-RecordList BookBase::foundRecords() const {
-    const std::set<RecordPointer> found(found_.begin(), found_.end());
-    RecordList still;
-    std::copy_if(records().begin(), records().end(), std::back_inserter(still),
-                 [&](const RecordPointer& record) { return found.count(record) > 0; });
-    return still;
-}
-
-void BookBase::findInColumns(const QString& searched) {
+QList<int> BookBase::rowsShowing(const QString& searched) const {
     const BookTable table(*this);
     QList<int> rows;
     for (int row = 0; row < count() && !searched.isEmpty(); ++row) {
@@ -400,7 +380,34 @@ void BookBase::findInColumns(const QString& searched) {
             }
         }
     }
-    showFound(rows);
+    return rows;
+}
+
+void BookBase::search(std::function<QList<int>()> matching) {
+    search_ = std::move(matching);
+    const QList<int> rows = search_();
+    selectRows(rows);
+    if (!rows.isEmpty()) {
+        Q_EMIT rowRevealed(rows.front());
+    }
+    const int matches = static_cast<int>(rows.size());
+    foundText_ = matches == 1 ? description_.words.oneFound.text() : textWith(description_.words.manyFound, matches);
+    Q_EMIT stateChanged();
+    Q_EMIT searched();
+}
+
+void BookBase::findInColumns(const QString& searched) {
+    search([this, searched] { return rowsShowing(searched); });
+}
+
+RecordList BookBase::foundRecords() const {
+    RecordList found;
+    if (search_) {
+        for (const int row : search_()) {
+            found.push_back(recordAt(row));
+        }
+    }
+    return found;
 }
 
 void BookBase::find(const QString& field, const QString& searched) {

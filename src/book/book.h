@@ -101,7 +101,7 @@ public:
     void findInColumns(const QString& text);
     /// What the last search found, as text.
     const QString& foundText() const { return foundText_; }
-    /// The records that the last search found, as far as the list still holds them.
+    /// The records that the last search matches as they are now; none before a search.
     RecordList foundRecords() const;
 
     // What the windows show.
@@ -118,6 +118,7 @@ Q_SIGNALS:
     void editWindowTitleChanged();
     void tableReloadRequested();
     void columnsRebuildRequested();
+    void searched();
 
 protected:
     /// Calls the handler for every notification of that name, as long as the document lives.
@@ -133,7 +134,9 @@ private:
     void beginBlank();
     void titleEditWindow();
     void listIsRestored();
-    void showFound(const QList<int>& rows);
+    QList<int> rowsHolding(const Field& field, const QString& searched) const;
+    QList<int> rowsShowing(const QString& searched) const;
+    void search(std::function<QList<int>()> matching);
     bool askAboutEntries(const Title& question, const Title& keep);
 
     const BookDescription& description_;
@@ -146,7 +149,7 @@ private:
     QString idColonne_;
     std::map<QString, bool> ascendingDirection_;
     QString foundText_;
-    RecordList found_;
+    std::function<QList<int>()> search_;  ///< the rows that the last search matches
     QString editWindowTitle_;
 };
 

@@ -35,7 +35,7 @@ public:
     CustomToolBar& toolBar() { return *toolBar_; }
     BookEditWindow& editWindow();
     /// Shows the card of all records.
-    void showCard();
+    virtual void showCard();
     CardWindow& cardWindow();
 
     QString ownMenuTitle() const override;
@@ -47,6 +47,10 @@ public:
     void printDocument() override;
     QList<QWidget*> furtherWindows() override;
     bool leaveEditing(Settling next) override;
+
+Q_SIGNALS:
+    /// The edit window was asked for first and is there.
+    void editWindowMade(tavrel::BookEditWindow& made);
 
 private:
     void addCommands();
