@@ -27,7 +27,7 @@ bool canRevertToBackup(Context& context) {
 }
 
 bool canExport(Context& context) {
-    return !context.documents.exportFormats(context.window).isEmpty();
+    return static_cast<bool>(context.documents.typeOf(context.window).showExport);
 }
 
 void quit(Context& context) {

@@ -90,6 +90,9 @@
 <message><source>Hint usual maximum</source><translation>usually at most %@</translation></message>
 <message><source>Hint usual minimum</source><translation>usually at least %@</translation></message>
 <message><source>Hint usual range</source><translation>usually %@ to %@</translation></message>
+<message><source>Import into</source><translation>“%@” holds dives from elsewhere. Import them into “%@”?</translation></message>
+<message><source>Import into it</source><translation>Import…</translation></message>
+<message><source>Import into new</source><translation>“%@” holds dives from elsewhere. Import them into a new logbook?</translation></message>
 <message><source>Insert</source><translation>Insert</translation></message>
 <message><source>Interventions</source><translation>%d interventions</translation></message>
 <message><source>Loading</source><translation>Loading…</translation></message>
@@ -108,7 +111,7 @@
 <message><source>Menu delete cards</source><translation>Delete Cards…</translation></message>
 <message><source>Menu edit</source><translation>Edit</translation></message>
 <message><source>Menu edit card</source><translation>Edit Card</translation></message>
-<message><source>Menu export</source><translation>Export…</translation></message>
+<message><source>Menu export</source><translation>Export Dives…</translation></message>
 <message><source>Menu file</source><translation>File</translation></message>
 <message><source>Menu find</source><translation>Find</translation></message>
 <message><source>Menu help</source><translation>Help</translation></message>

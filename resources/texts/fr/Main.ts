@@ -90,6 +90,9 @@
 <message><source>Hint usual maximum</source><translation>d’ordinaire %@ au plus</translation></message>
 <message><source>Hint usual minimum</source><translation>d’ordinaire %@ au moins</translation></message>
 <message><source>Hint usual range</source><translation>d’ordinaire de %@ à %@</translation></message>
+<message><source>Import into</source><translation>« %@ » contient des plongées venues d’ailleurs. Les importer dans « %@ » ?</translation></message>
+<message><source>Import into it</source><translation>Importer…</translation></message>
+<message><source>Import into new</source><translation>« %@ » contient des plongées venues d’ailleurs. Les importer dans un nouveau carnet ?</translation></message>
 <message><source>Insert</source><translation>Insérer</translation></message>
 <message><source>Interventions</source><translation>%d interventions</translation></message>
 <message><source>Loading</source><translation>Chargement…</translation></message>
@@ -108,7 +111,7 @@
 <message><source>Menu delete cards</source><translation>Supprimer les fiches…</translation></message>
 <message><source>Menu edit</source><translation>Édition</translation></message>
 <message><source>Menu edit card</source><translation>Modifier la fiche</translation></message>
-<message><source>Menu export</source><translation>Exporter…</translation></message>
+<message><source>Menu export</source><translation>Exporter des plongées…</translation></message>
 <message><source>Menu file</source><translation>Fichier</translation></message>
 <message><source>Menu find</source><translation>Rechercher</translation></message>
 <message><source>Menu help</source><translation>Aide</translation></message>
