@@ -1,6 +1,7 @@
 #include "book/book.h"
 
 #include "base/texts.h"
+#include "book/bookfilter.h"
 #include "book/booktable.h"
 #include "desktop/alerts.h"
 
@@ -11,6 +12,8 @@ namespace tavrel {
 BookBase::BookBase(Desktop& desktop, const BookDescription& description)
     : ListDocument(desktop, description.layout()), description_(description), form_(description.makeForm(desktop)) {
     setType(description.kind.name.text());
+    filter_ = std::make_unique<BookFilter>(*this);
+    connect(filter_.get(), &BookFilter::changed, this, &BookBase::stateChanged);
     connect(form_.get(), &BookForm::userEdited, this, [this] {
         titleEditWindow();
         Q_EMIT stateChanged();
@@ -111,8 +114,10 @@ void BookBase::deleteRecords() {
         return;
     }
     desktop().alerts.beep();
-    if (desktop().alerts.ask(description_.words.eraseQuestion.text(), {QStringLiteral("OK"), text("Main", "Cancel")}) !=
-        0) {
+    const int doomed = static_cast<int>(selectedRows().size());
+    const QString question =
+        doomed == 1 ? description_.words.eraseQuestion.text() : textWith(description_.words.eraseQuestions, doomed);
+    if (desktop().alerts.ask(question, {QStringLiteral("OK"), text("Main", "Cancel")}) != 0) {
         return;
     }
     RecordList list;
@@ -140,8 +145,16 @@ void BookBase::step(int direction) {
     if (!leaveForm(Leaving::stepping)) {
         return;
     }
-    selectLast(row + direction, true);
+    selectLast(rowBeside(direction), true);
     followSelection();
+}
+
+int BookBase::rowBeside(int direction) const {
+    int row = selectedRow() + direction;
+    while (row >= 0 && row < count() && !filter_->isShown(row)) {
+        row += direction;
+    }
+    return row;
 }
 
 void BookBase::selectLast(int index, bool selected) {
@@ -254,6 +267,10 @@ bool BookBase::userSelects(const QList<int>& rows) {
     keepsForm_ = staysInForm;
     selectRows(rows);
     keepsForm_ = false;
+    // The selected row may be selected again while the form is cleared.
+    if (selectedRow() >= 0 && !showsSelectedRecord_) {
+        followSelection();
+    }
     return true;
 }
 
@@ -263,6 +280,7 @@ void BookBase::blankFields() {
     }
     form_->blankFields(count());
     form_->state().requestFocus(form_->state().table().find(description_.numberField));
+    form_->remember();
     showsSelectedRecord_ = false;
     Q_EMIT stateChanged();
 }
@@ -357,7 +375,8 @@ Expected<int> BookBase::findTextWithField(const QString& field, const QString& s
     QList<int> rows;
     for (int row = 0; row < count(); ++row) {
         const QString& value = *found.get<QString>(*records()[static_cast<std::size_t>(row)]);
-        if (value.isNull() || (!searched.isEmpty() && value.contains(searched, Qt::CaseInsensitive))) {
+        if (filter_->isShown(row) &&
+            (value.isNull() || (!searched.isEmpty() && value.contains(searched, Qt::CaseInsensitive)))) {
             rows.append(row);
         }
     }
@@ -375,20 +394,6 @@ void BookBase::showFound(const QList<int>& rows) {
     Q_EMIT stateChanged();
 }
 
-void BookBase::findInColumns(const QString& searched) {
-    const BookTable table(*this);
-    QList<int> rows;
-    for (int row = 0; row < count() && !searched.isEmpty(); ++row) {
-        for (int column = 0; column < static_cast<int>(table.columns().size()); ++column) {
-            if (table.cell(row, column).inWords().contains(searched, Qt::CaseInsensitive)) {
-                rows.append(row);
-                break;
-            }
-        }
-    }
-    showFound(rows);
-}
-
 void BookBase::find(const QString& field, const QString& searched) {
     if (const auto found = findTextWithField(field, searched); !found) {
         desktop().alerts.fail(found.error());
@@ -400,11 +405,11 @@ QString BookBase::countText() const {
 }
 
 bool BookBase::canGoBack() const {
-    return selectedRow() > 0;
+    return selectedRow() > 0 && rowBeside(-1) >= 0;
 }
 
 bool BookBase::canGoForward() const {
-    return count() > 0 && static_cast<quint32>(selectedRow()) < static_cast<quint32>(count() - 1);
+    return selectedRow() >= 0 && rowBeside(+1) < count();
 }
 
 }  // namespace tavrel
