@@ -372,19 +372,25 @@ Expected<int> BookBase::findTextWithField(const QString& field, const QString& s
     if (found.isNull() || found.kind() != FieldKind::text) {
         return failure(textWith("Carnet", "No such field", field));
     }
+    search([this, found, searched] { return rowsHolding(found, searched); });
+    return static_cast<int>(selectedRows().size());
+}
+
+QList<int> BookBase::rowsHolding(const Field& field, const QString& searched) const {
     QList<int> rows;
     for (int row = 0; row < count(); ++row) {
-        const QString& value = *found.get<QString>(*records()[static_cast<std::size_t>(row)]);
+        const QString& value = *field.get<QString>(*records()[static_cast<std::size_t>(row)]);
         if (filter_->isShown(row) &&
             (value.isNull() || (!searched.isEmpty() && value.contains(searched, Qt::CaseInsensitive)))) {
             rows.append(row);
         }
     }
-    showFound(rows);
-    return static_cast<int>(rows.size());
+    return rows;
 }
 
-void BookBase::showFound(const QList<int>& rows) {
+void BookBase::search(std::function<QList<int>()> matching) {
+    search_ = std::move(matching);
+    const QList<int> rows = search_();
     selectRows(rows);
     if (!rows.isEmpty()) {
         Q_EMIT rowRevealed(rows.front());
@@ -392,6 +398,17 @@ void BookBase::showFound(const QList<int>& rows) {
     const int matches = static_cast<int>(rows.size());
     foundText_ = matches == 1 ? description_.words.oneFound.text() : textWith(description_.words.manyFound, matches);
     Q_EMIT stateChanged();
+    Q_EMIT searched();
+}
+
+RecordList BookBase::foundRecords() const {
+    RecordList found;
+    if (search_) {
+        for (const int row : search_()) {
+            found.push_back(recordAt(row));
+        }
+    }
+    return found;
 }
 
 void BookBase::find(const QString& field, const QString& searched) {

@@ -105,6 +105,8 @@ public:
     void find(const QString& field, const QString& text);
     /// What the last search found, as text.
     const QString& foundText() const { return foundText_; }
+    /// The records that the last search matches as they are now; none before a search.
+    RecordList foundRecords() const;
 
     // What the windows show.
     /// The count line: one record, or how many there are.
@@ -120,6 +122,7 @@ Q_SIGNALS:
     void editWindowTitleChanged();
     void tableReloadRequested();
     void columnsRebuildRequested();
+    void searched();
 
 protected:
     /// Calls the handler for every notification of that name, as long as the document lives.
@@ -136,7 +139,8 @@ private:
     void beginBlank();
     void titleEditWindow();
     void listIsRestored();
-    void showFound(const QList<int>& rows);
+    QList<int> rowsHolding(const Field& field, const QString& searched) const;
+    void search(std::function<QList<int>()> matching);
     bool askAboutEntries(const Title& question, const Title& keep);
 
     const BookDescription& description_;
@@ -150,6 +154,7 @@ private:
     QString idColonne_;
     std::map<QString, bool> ascendingDirection_;
     QString foundText_;
+    std::function<QList<int>()> search_;  ///< the rows that the last search matches
     QString editWindowTitle_;
 };
 

@@ -28,7 +28,9 @@ bool canReport(const GasReadings& readings) {
 void GasReadings::readProfile(const ProfileSeries& profile) {
     const Series& depths = profile.profilProfondeur;
     samples = depths.size();
-    averageDepth = summaryOf(profile).average;
+    const ProfileSummary summary = summaryOf(profile);
+    averageDepth = summary.average;
+    deepest = summary.maximum;
     largestSample = samples > 0 ? static_cast<float>(depths.real(0)) : 0;
     for (std::size_t sample = 1; sample < samples; ++sample) {
         largestSample = std::max(largestSample, static_cast<float>(depths.real(sample)));
@@ -67,6 +69,22 @@ QString pressureDropText(qint32 drop) {
     return textWith("Carnet", "Delta pressure", drop);
 }
 
+QString pressureDropExplanation(const GasReadings& readings, std::size_t tank) {
+    const BottleReading& bottle = readings.tanks.at(tank);
+    return textWith("Carnet", "Explain pressure drop", bottle.start, bottle.end, pressureDrop(readings, tank));
+}
+
+namespace {
+
+QString availableExplanation(const BottleReading& bottle, qint32 available) {
+    return textWith("Carnet", "Explain available", bottle.volume, bottle.start, available);
+}
+QString usedExplanation(const BottleReading& bottle, qint32 used) {
+    return textWith("Carnet", "Explain used", bottle.volume, bottle.start, bottle.end, used);
+}
+
+}  // namespace
+
 std::array<std::optional<AuxiliaryGas>, GasReadings::auxiliaryCount> auxiliaryGases(const GasReadings& readings) {
     std::array<std::optional<AuxiliaryGas>, GasReadings::auxiliaryCount> gases;
     if (std::none_of(readings.levels.begin() + 2, readings.levels.end(), [](const auto& level) { return level.on; })) {
@@ -81,6 +99,7 @@ std::array<std::optional<AuxiliaryGas>, GasReadings::auxiliaryCount> auxiliaryGa
         gas.available = wrappedProduct(bottle.volume, bottle.start);
         gas.used = wrappedProduct(wrappedDifference(bottle.start, bottle.end), bottle.volume);
         gas.text = textWith("Carnet", "Auxiliary gas", gas.available, gas.used);
+        gas.explanation = availableExplanation(bottle, gas.available) + u'\n' + usedExplanation(bottle, gas.used);
         gas.maximum = bottle.start;
         gas.value = bottle.end;
         gas.ticks = bottle.start / 10;
@@ -152,8 +171,7 @@ ExplainedFigure explainedAvailable(const GasReadings& readings) {
     }
     const BottleReading& tank = readings.tanks[0];
     const Consumption gas = calculVolumeAirConsomme(readings);
-    return {textWith("Carnet", "Litres", gas._volumeDisponible),
-            textWith("Carnet", "Explain available", tank.volume, tank.start, gas._volumeDisponible)};
+    return {textWith("Carnet", "Litres", gas._volumeDisponible), availableExplanation(tank, gas._volumeDisponible)};
 }
 
 ExplainedFigure explainedUsed(const GasReadings& readings) {
@@ -162,8 +180,7 @@ ExplainedFigure explainedUsed(const GasReadings& readings) {
     }
     const BottleReading& tank = readings.tanks[0];
     const Consumption gas = calculVolumeAirConsomme(readings);
-    return {textWith("Carnet", "Litres", gas._volumeConsomme),
-            textWith("Carnet", "Explain used", tank.volume, tank.start, tank.end, gas._volumeConsomme)};
+    return {textWith("Carnet", "Litres", gas._volumeConsomme), usedExplanation(tank, gas._volumeConsomme)};
 }
 
 ExplainedFigure explainedPerMinute(const GasReadings& readings) {

@@ -28,12 +28,14 @@ QString consumptionReport(const GasReadings& readings, const Consumption& consum
 /// Pressure drop of tank 0 or 1, bar.
 qint32 pressureDrop(const GasReadings& readings, std::size_t tank);
 QString pressureDropText(qint32 drop);
+QString pressureDropExplanation(const GasReadings& readings, std::size_t tank);
 
 /// A stage bottle or bail-out in use.
 struct AuxiliaryGas {
     qint32 available = 0;  ///< litres at the surface
     qint32 used = 0;
     QString text;
+    QString explanation;
     qint32 maximum = 0;  ///< of its gauge: the start pressure, bar
     qint32 value = 0;    ///< of its gauge: the end pressure
     qint32 ticks = 0;    ///< one every 10 bar

@@ -25,8 +25,8 @@ inline constexpr Choice weather[] = {
 inline constexpr Choice windSector[] = {
     {WindSector::north, literal("N")},    {WindSector::northEast, literal("N-E")},
     {WindSector::east, literal("E")},     {WindSector::southEast, literal("S-E")},
-    {WindSector::south, literal("S")},    {WindSector::southWest, literal("S-W")},
-    {WindSector::west, literal("W")},     {WindSector::northWest, literal("N-W")},
+    {WindSector::south, literal("S")},    {WindSector::southWest, {"Carnet", "S-W"}},
+    {WindSector::west, {"Carnet", "W"}},  {WindSector::northWest, {"Carnet", "N-W"}},
     {WindSector::notGiven, literal("-")},
 };
 
@@ -105,9 +105,9 @@ inline constexpr Choice gas[] = {
 
 /// Oxygen set points. Tags 1 to 5 rise from 1.2 to 1.6 bar, 6 to 10 fall from 1.1 to 0.7 bar.
 inline constexpr Choice setPoint[] = {
-    {1, literal("1,2 bar")}, {2, literal("1,3 bar")},  {3, literal("1,4 bar")}, {4, literal("1,5 bar")},
-    {5, literal("1,6 bar")}, {6, literal("1,1 bar")},  {7, literal("1,0 bar")}, {8, literal("0,9 bar")},
-    {9, literal("0,8 bar")}, {10, literal("0,7 bar")}, {0, literal("...")},
+    {1, {"Carnet", "1,2 bar"}}, {2, {"Carnet", "1,3 bar"}},  {3, {"Carnet", "1,4 bar"}}, {4, {"Carnet", "1,5 bar"}},
+    {5, {"Carnet", "1,6 bar"}}, {6, {"Carnet", "1,1 bar"}},  {7, {"Carnet", "1,0 bar"}}, {8, {"Carnet", "0,9 bar"}},
+    {9, {"Carnet", "0,8 bar"}}, {10, {"Carnet", "0,7 bar"}}, {0, literal("...")},
 };
 
 inline constexpr Choice tankMaterial[] = {

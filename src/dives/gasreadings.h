@@ -31,7 +31,7 @@ struct GasReadings {
     static constexpr std::size_t levelCount = 6;
     static constexpr std::size_t auxiliaryCount = 5;
 
-    /// Reads the depths of a profile: averageDepth, largestSample, samples.
+    /// Reads the depths of a profile: averageDepth, deepest, largestSample, samples.
     void readProfile(const ProfileSeries& profile);
     bool hasProfile() const { return samples >= 2; }
 
@@ -44,7 +44,8 @@ struct GasReadings {
     double oxygen = 0;        ///< of the main tank, percent
     std::size_t samples = 0;  ///< depths in the profile
     float averageDepth = 0;   ///< of all samples, metres; not a number without any
-    float largestSample = 0;  ///< metres; 0 without any
+    float deepest = 0;        ///< of all samples and the surface, metres
+    float largestSample = 0;  ///< metres; 0 without any, and negative when all are above the surface
 };
 
 }  // namespace tavrel

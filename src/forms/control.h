@@ -32,6 +32,7 @@ enum class ControlKind {
     progress,  ///< a percentage that the program works out, as a bar
     picture,   ///< an image, chosen from a file, dropped or pasted
     button,    ///< an action of the form; edited() is sent when it is pressed
+    view,      ///< room for a view that the document's window puts there
 };
 
 /// What the text of a control leads to outside the program.

@@ -83,7 +83,7 @@ Expected<void> enterPicture(FormStateBase& form, int index, const QString& path)
 
 bool takesEntries(ControlKind kind) {
     return kind != ControlKind::readOnly && kind != ControlKind::gauge && kind != ControlKind::progress &&
-           kind != ControlKind::button;
+           kind != ControlKind::button && kind != ControlKind::view;
 }
 
 Expected<void> enterValue(FormStateBase& form, int index, const QString& value) {

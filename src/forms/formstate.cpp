@@ -47,9 +47,14 @@ void FormStateBase::setVisible(int index, bool visible) {
     change(index, &ControlState::visible, visible);
 }
 
-void FormStateBase::setGauge(int index, int level, int maximum) {
+void FormStateBase::setGauge(int index, int level, int maximum, int ticks) {
     change(index, &ControlState::tag, level);
     change(index, &ControlState::maximum, maximum);
+    change(index, &ControlState::ticks, ticks);
+}
+
+void FormStateBase::setExplanation(int index, const QString& explanation) {
+    change(index, &ControlState::explanation, explanation);
 }
 
 void FormStateBase::setLevel(int index, double level) {
@@ -101,6 +106,7 @@ void FormStateBase::clear() {
         setImage(index, {});
         setColour(index, {});
         setLevel(index, 0);
+        setExplanation(index, {});
     }
 }
 

@@ -21,9 +21,12 @@ struct ControlState {
     bool enabled = true;
     bool visible = true;
     int maximum = 0;   ///< of a gauge, whose level is its tag
+    int ticks = 0;     ///< of a gauge: marks that part it evenly
     double level = 0;  ///< of a progress bar, percent, as worked out: it may lie outside 0 to 100
     QColor colour;     ///< of a text that the program writes; invalid: the usual one
     Image image;       ///< of a picture
+    /// How a figure that the program works out comes about; empty: there is nothing to tell.
+    QString explanation = QStringLiteral("");
 
     bool operator==(const ControlState&) const = default;
 };
@@ -44,7 +47,8 @@ public:
     void setDate(int index, const Date& date);
     void setEnabled(int index, bool enabled);
     void setVisible(int index, bool visible);
-    void setGauge(int index, int level, int maximum);
+    void setGauge(int index, int level, int maximum, int ticks = 0);
+    void setExplanation(int index, const QString& explanation);
     void setLevel(int index, double percent);
     void setColour(int index, const QColor& colour);
     void setImage(int index, const Image& image);
@@ -104,6 +108,7 @@ public:
     using FormStateBase::setColour;
     using FormStateBase::setDate;
     using FormStateBase::setEnabled;
+    using FormStateBase::setExplanation;
     using FormStateBase::setGauge;
     using FormStateBase::setImage;
     using FormStateBase::setLevel;
@@ -130,7 +135,14 @@ public:
     void setLevel(Id id, double percent) { FormStateBase::setLevel(id.index, percent); }
     void setColour(Id id, const QColor& colour) { FormStateBase::setColour(id.index, colour); }
     void setImage(Id id, const Image& image) { FormStateBase::setImage(id.index, image); }
-    void setGauge(Id id, int level, int maximum) { FormStateBase::setGauge(id.index, level, maximum); }
+    void setGauge(Id id, int level, int maximum, int ticks = 0) {
+        FormStateBase::setGauge(id.index, level, maximum, ticks);
+    }
+    /// A derived text with how it comes about.
+    void setDerived(Id id, const QString& text, const QString& explanation) {
+        FormStateBase::setText(id.index, text);
+        FormStateBase::setExplanation(id.index, explanation);
+    }
     void selectPosition(Id id, int position) { FormStateBase::selectPosition(id.index, position); }
     void requestFocus(Id id) { FormStateBase::requestFocus(id.index); }
 };

@@ -327,6 +327,9 @@ struct DiveControls : ControlTable<DiveControls> {
                                                           .unit = literal("bar"),
                                                           .usualMinimum = 0,
                                                           .usualMaximum = 400});
+    const std::array<Id, 2> deltaPressureField = addEach<2>(
+        tanks,
+        {.name = "deltaPressure%Field", .kind = ControlKind::readOnly, .label = {"Carnet", "Label pressure drop"}});
     const std::array<Id, 2> gazPopUp = addEach<2>(tanks, {.name = "gaz%PopUp",
                                                           .kind = ControlKind::popUp,
                                                           .field = "gaz%",
@@ -368,8 +371,17 @@ struct DiveControls : ControlTable<DiveControls> {
                                     .label = literal("Heliox"),
                                     .tip = {"Carnet", "Tip preset heliox"}});
 
-    // Page 5: stage bottles, bail-outs, the dive computer.
+    const int oxygenGroup = group({4, {"Carnet", "Group consumption"}, GroupLayout::pairs, 1, 1});
+    const Id consommationButton = add({.name = "consommationButton",
+                                       .kind = ControlKind::button,
+                                       .label = {"Carnet", "Menu consumption"},
+                                       .tip = {"Carnet", "Tip consumption"}});
+    const Id sncDrawer = add({.name = "sncDrawer", .kind = ControlKind::readOnly});
+
+    // Page 5: stage bottles, bail-outs, the dive computer and its profile.
     const int poniesGroup = group({5, {"Carnet", "Group stage bottles"}, GroupLayout::columns});
+    const std::array<Id, 3> pony_TitleField =
+        addEach<3>(ponies, {.name = "pony_%_TitleField", .kind = ControlKind::readOnly});
     const std::array<Id, 3> pony_VolumeField = addEach<3>(ponies, {.name = "pony_%_VolumeField",
                                                                    .kind = ControlKind::wholeNumber,
                                                                    .field = "volPony%",
@@ -388,6 +400,11 @@ struct DiveControls : ControlTable<DiveControls> {
                                                                 .label = {"Carnet", "Label end pressure"},
                                                                 .unit = literal("bar"),
                                                                 .clearedText = "0"});
+    const std::array<Id, 3> pony_ConsoField = addEach<3>(
+        ponies,
+        {.name = "consoPony_%Field", .kind = ControlKind::readOnly, .label = {"Carnet", "Consumption"}, .width = 24});
+    const std::array<Id, 3> pony_Progress =
+        addEach<3>(ponies, {.name = "gaz%Progress", .kind = ControlKind::gauge, .width = 10, .beside = true});
 
     const int bailoutsGroup = group({5, {"Carnet", "Group bail-outs"}, GroupLayout::columns});
     const std::array<Id, 2> bailout_VolumeField = addEach<2>(bailouts, {.name = "bailout_%_VolumeField",
@@ -420,8 +437,14 @@ struct DiveControls : ControlTable<DiveControls> {
                                                                     .label = {"Carnet", "Label helium"},
                                                                     .unit = literal("%"),
                                                                     .clearedText = "0"});
+    const std::array<Id, 2> bailout_ConsoField = addEach<2>(bailouts, {.name = "consoBailout_%Field",
+                                                                       .kind = ControlKind::readOnly,
+                                                                       .label = {"Carnet", "Consumption"},
+                                                                       .width = 24});
+    const std::array<Id, 2> bailout_Progress =
+        addEach<2>(bailouts, {.name = "gazBailout%Progress", .kind = ControlKind::gauge, .width = 10, .beside = true});
 
-    const int computerGroup = group({5, {"Carnet", "Group computer"}, GroupLayout::pairs, 2});
+    const int computerGroup = group({5, {"Carnet", "Group computer"}, GroupLayout::pairs, 1, 1});
     const Id fabricantField = add({.name = "fabricantField", .field = "fabricant", .label = {"Carnet", "Label maker"}});
     const Id ordinateurField = add({.name = "ordinateurField",
                                     .kind = ControlKind::combo,
@@ -434,6 +457,12 @@ struct DiveControls : ControlTable<DiveControls> {
                                       .field = "samplingRate",
                                       .label = {"Carnet", "Label sampling interval"},
                                       .choices = choices::samplingRate});
+
+    const int profileGroup = group({5, {"Carnet", "Profile"}, GroupLayout::pairs, 1, 1});
+    const Id profilView = add({.name = "profilView", .kind = ControlKind::view});
+    const Id maxAverageDepthField = add({.name = "maxAverageDepthField", .kind = ControlKind::readOnly});
+    const Id samplingRateField = add({.name = "samplingRateField", .kind = ControlKind::readOnly});
+    const Id recordedPointsField = add({.name = "recordedPointsField", .kind = ControlKind::readOnly});
 
     // Page 6: equipment and notes.
     const int equipmentGroup = group({6, {"Carnet", "Group equipment"}, GroupLayout::pairs, 3});

@@ -32,8 +32,10 @@ GasReadings gasReadingsOf(const Plongee& dive, Desktop& desktop) {
     return form.gasReadings();
 }
 
-std::vector<KeyFigure> keyFigures(const Plongee& dive, Desktop& desktop) {
-    const GasReadings readings = gasReadingsOf(dive, desktop);
+std::vector<KeyFigure> keyFigures(const Plongee& dive, DiveForm& form) {
+    form.editFields(dive);
+    const GasReadings readings = form.gasReadings();
+    const Desktop& desktop = form.desktop();
     DiveTableStyle style(desktop.preferences, desktop.clock);
     style.displayUnits = true;
     const auto cellText = [&](std::string_view field, const QString& plain) {

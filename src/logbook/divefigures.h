@@ -10,6 +10,7 @@
 
 namespace tavrel {
 
+class DiveForm;
 struct Desktop;
 
 /// What the gas figures of a stored dive are worked out from: what the dive form shows of it.
@@ -22,7 +23,8 @@ struct KeyFigure {
     QString explanation;
 };
 
-/// Depths, time, gas, consumption, oxygen clock and temperatures of a dive.
-std::vector<KeyFigure> keyFigures(const Plongee& dive, Desktop& desktop);
+/// Depths, time, gas, consumption, oxygen clock and temperatures of a dive. The form is to read the dive with; what it
+/// held is gone.
+std::vector<KeyFigure> keyFigures(const Plongee& dive, DiveForm& form);
 
 }  // namespace tavrel

@@ -4,6 +4,7 @@
 #include "desktop/clock.h"
 #include "desktop/commonsettings.h"
 #include "desktop/preferences.h"
+#include "dives/consumption.h"
 #include "dives/divecodes.h"
 #include "logbook/logbooksettings.h"
 
@@ -237,15 +238,15 @@ void DiveForm::nameDifficulty() {
 void DiveForm::refresh() {
     FormState<DiveControls>& fields = state();
     const int apparatus = fields.tag(controls_.rebreatherMatrix);
-    // The captions are French in every language; a hybrid rebreather leaves them as they were.
+    // A hybrid rebreather leaves the captions as they were.
     if (apparatus == Apparatus::manualClosed || apparatus == Apparatus::electronicClosed) {
-        fields.setText(controls_.blocField[0], QStringLiteral("OXYGÈNE :"));
-        fields.setText(controls_.blocField[1], QStringLiteral("DILUANT :"));
+        fields.setText(controls_.blocField[0], text("Carnet", "OXYGÈNE :"));
+        fields.setText(controls_.blocField[1], text("Carnet", "DILUANT :"));
         fields.setText(controls_.setPointField, text("Carnet", "high setpoint"));
         fields.setInteger(controls_.o2MixField[0], 100);
     } else if (apparatus == Apparatus::openCircuit || apparatus == Apparatus::semiClosed) {
-        fields.setText(controls_.blocField[0], QStringLiteral("Bloc principal :"));
-        fields.setText(controls_.blocField[1], QStringLiteral("Bloc secondaire :"));
+        fields.setText(controls_.blocField[0], text("Carnet", "Bloc principal :"));
+        fields.setText(controls_.blocField[1], text("Carnet", "Bloc secondaire :"));
         fields.setText(controls_.setPointField, text("Carnet", "PpO2"));
     }
     fields.setEnabled(controls_.flowField, apparatus == Apparatus::semiClosed);
@@ -261,10 +262,53 @@ void DiveForm::refresh() {
         fields.setText(caption, length);
     }
     for (std::size_t tank = 0; tank < 2; ++tank) {
-        const qint64 nitrogen =
-            qint64(100) - fields.integer(controls_.o2MixField[tank]) - fields.integer(controls_.heMixField[tank]);
-        fields.setText(controls_.n2MixField[tank], QString::number(nitrogen));
+        const qint64 oxygen = fields.integer(controls_.o2MixField[tank]);
+        const qint64 helium = fields.integer(controls_.heMixField[tank]);
+        const qint64 nitrogen = 100 - oxygen - helium;
+        fields.setDerived(controls_.n2MixField[tank], QString::number(nitrogen),
+                          textWith("Carnet", "Explain nitrogen", oxygen, helium, nitrogen));
     }
+    refreshGas(gasReadings());
+}
+
+void DiveForm::calcDeltaPressure(const GasReadings& readings) {
+    for (std::size_t tank = 0; tank < readings.tanks.size(); ++tank) {
+        state().setDerived(controls_.deltaPressureField[tank], pressureDropText(pressureDrop(readings, tank)),
+                           pressureDropExplanation(readings, tank));
+    }
+}
+
+void DiveForm::refreshGas(const GasReadings& readings) {
+    FormState<DiveControls>& fields = state();
+    calcDeltaPressure(readings);
+    const auto gases = auxiliaryGases(readings);
+    const auto showGas = [&](const std::optional<AuxiliaryGas>& gas, auto report, auto gauge) {
+        const AuxiliaryGas shown = gas.value_or(AuxiliaryGas());
+        fields.setDerived(report, shown.text, shown.explanation);
+        fields.setVisible(gauge, gas.has_value());
+        fields.setGauge(gauge, shown.value, shown.maximum, shown.ticks);
+        fields.setExplanation(gauge.index, shown.explanation);
+    };
+    constexpr std::size_t ponies = DiveControls::ponies.size();
+    for (std::size_t pony = 0; pony < ponies; ++pony) {
+        fields.setText(controls_.pony_TitleField[pony], ponyTitle(readings, pony));
+        showGas(gases[pony], controls_.pony_ConsoField[pony], controls_.pony_Progress[pony]);
+    }
+    for (std::size_t bailout = 0; bailout < DiveControls::bailouts.size(); ++bailout) {
+        showGas(gases[ponies + bailout], controls_.bailout_ConsoField[bailout], controls_.bailout_Progress[bailout]);
+    }
+    const OxygenExposure oxygen = oxygenExposure(readings);
+    fields.setDerived(controls_.sncDrawer, oxygen.text, oxygen.explanation);
+
+    const bool usUnits = desktop().preferences.get(settings::usUnits);
+    fields.setDerived(
+        controls_.maxAverageDepthField,
+        textWith("Carnet", "Max and average depth", double{readings.deepest}, double{readings.averageDepth}),
+        explainedAverageDepth(readings, usUnits).explanation);
+    fields.setText(controls_.samplingRateField,
+                   textWith("Carnet", "Sampling rate", samplingTitle(fields.tag(controls_.samplingRatePopUp))));
+    fields.setText(controls_.recordedPointsField,
+                   textWith("Carnet", "Recorded points", readings.hasProfile() ? readings.samples : 0));
 }
 
 GasReadings DiveForm::gasReadings() const {
@@ -326,7 +370,9 @@ void DiveForm::razHeliox() {
 }
 
 void DiveForm::entered(int control) {
-    if (control == controls_.razAirButton.index) {
+    if (control == controls_.consommationButton.index) {
+        Q_EMIT consumptionRequested();
+    } else if (control == controls_.razAirButton.index) {
         razAir();
     } else if (control == controls_.razNitroxButton.index) {
         razNitrox();

@@ -27,6 +27,8 @@ public:
 
     /// Sets the difficulty's word from the slider, then refreshes.
     void updateSlider();
+    /// Shows how much pressure the two tanks lost.
+    void calcDeltaPressure() { calcDeltaPressure(gasReadings()); }
     /// What the gas figures are worked out from, as it stands in the form.
     GasReadings gasReadings() const;
     /// Gas presets of the main tank.
@@ -41,13 +43,17 @@ public:
     /// A series of the profile, as numbers with commas.
     Expected<void> enterBeside(const QString& field, const QString& value) override;
 
+Q_SIGNALS:
+    /// The user wants to see the consumption of the dive in the form.
+    void consumptionRequested();
+
 protected:
     void clear(int count) override;
     /// Shows a dive: "-" for what was not given, the usual depths for stops without one.
     void show(const Plongee& dive) override;
     void correct() override;
     void complete(Plongee& dive) override;
-    /// Captions, units, enabling, nitrogen.
+    /// Captions, units, enabling, and what is worked out from the entries.
     void refresh() override;
     void entered(int control) override;
     bool differsBeside() const override;
@@ -55,6 +61,8 @@ protected:
 
 private:
     void nameDifficulty();
+    void calcDeltaPressure(const GasReadings& readings);
+    void refreshGas(const GasReadings& readings);
     bool gainsGas(int endPressure) const;
     void presetGas(qint64 oxygen, qint64 nitrogen, qint64 helium);
 

@@ -22,8 +22,9 @@ using Stroke = ProfileGeometry::Stroke;
 constexpr double column = 0.5;       // points that a line's points are told apart by
 constexpr double tickSpacing = 3;    // ticks nearer to each other are no longer told apart
 constexpr double iconSpacing = 5;    // of icons of one kind
-constexpr double lineHeight = 14;    // of a label
+constexpr double usualHeight = 14;   // of a label
 constexpr double letterWidth = 6.6;  // of a label, on average: texts are not measured, that needs fonts
+constexpr double fontSize = 11;
 
 const QSizeF& iconSize(const QString& name) {
     static const QHash<QString, QSizeF> sizes{{QStringLiteral("alarmeASC"), {8, 16}},
@@ -34,10 +35,6 @@ const QSizeF& iconSize(const QString& name) {
     static const QSizeF none;
     const auto found = sizes.constFind(name);
     return found == sizes.constEnd() ? none : *found;
-}
-
-double widthOf(const QString& text) {
-    return letterWidth * static_cast<double>(text.size());
 }
 
 QPainterPath pathOf(const Stroke& stroke) {
@@ -71,8 +68,12 @@ int everyNth(double step, double room) {
 
 class PictureMaker {
 public:
-    PictureMaker(const ProfileGeometry& geometry, const ProfileStyle& style)
-        : geometry_(geometry), style_(style), drawing_(QSizeF(Space::fullWidth, Space::fullHeight)) {}
+    PictureMaker(const ProfileGeometry& geometry, const ProfileStyle& style, double letters)
+        : geometry_(geometry),
+          style_(style),
+          letters_(letters),
+          lineHeight_(usualHeight * letters),
+          drawing_(QSizeF(Space::fullWidth, Space::fullHeight)) {}
 
     Drawing make() {
         paintBackground();
@@ -88,6 +89,10 @@ private:
         path.addRect(left, bottom, right - left, top - bottom);
         return path;
     }
+
+    double widthOf(const QString& text) const { return letterWidth * letters_ * static_cast<double>(text.size()); }
+    /// Where a label hangs from when its letters are larger than usual: it grows downward.
+    double hanging(double bottom) const { return bottom + usualHeight - lineHeight_; }
 
     void line(Drawing::Line line) {
         if (!line.path.isEmpty()) {
@@ -171,7 +176,7 @@ private:
 
     /// What a label at a height of the plot stands on.
     QColor behind(const QPointF& at) const {
-        const double height = (at.y() + lineHeight / 2 - Space::timeAxis) / (Space::surface - Space::timeAxis);
+        const double height = (at.y() + lineHeight_ / 2 - Space::timeAxis) / (Space::surface - Space::timeAxis);
         QColor ground = style_.paper();
         if (style_.gradientYes && height >= 0 && height <= 1) {
             ground = QColor::fromRgbF(0, 0, static_cast<float>(height));
@@ -180,7 +185,7 @@ private:
     }
 
     void write(const ProfileGeometry::Label& label, const QPointF& at, const QColor& ground) {
-        drawing_.add(Drawing::Text{at, label.text, legible(label.colour, ground)});
+        drawing_.add(Drawing::Text{at, label.text, legible(label.colour, ground), fontSize * letters_});
     }
 
     void paintTexts() {
@@ -198,7 +203,9 @@ private:
                     break;
                 case LabelKind::axis:
                 case LabelKind::limit: {
-                    const QPointF at(std::min(label.at.x(), right - widthOf(label.text)), label.at.y());
+                    const double highest = Space::fullHeight - lineHeight_;
+                    const QPointF at(std::min(label.at.x(), right - widthOf(label.text)),
+                                     std::min(label.at.y(), highest));
                     write(label, at, inPlot ? behind(at) : style_.paper());
                     taken_.push_back(boxOf(label.text, at));
                     break;
@@ -217,20 +224,23 @@ private:
         }
         const bool across = orientation == Qt::Horizontal;
         const auto place = [&](const ProfileGeometry::Label& label) { return across ? label.at.x() : -label.at.y(); };
-        const double room = across ? widthOf(labels.back()->text) + 6 : lineHeight;
+        const double room = across ? widthOf(labels.back()->text) + 6 : lineHeight_;
         const double step = (place(*labels.back()) - place(*labels.front())) /
                             static_cast<double>(std::max<std::size_t>(labels.size() - 1, 1));
         const auto nth = static_cast<std::size_t>(labels.size() > 1 ? everyNth(step, room) : 1);
         for (std::size_t number = 0; number < labels.size(); number += nth) {
             QPointF at = labels[number]->at;
-            if (!across) {  // numbers of many digits stay beside the axis
-                at.setX(std::min(at.x(), Space::left - 2 - widthOf(labels[number]->text)));
+            if (across) {
+                at.setY(hanging(at.y()));
+            } else {  // numbers of many digits stay beside the axis, large ones at the height of their tick
+                at.setX(std::max(std::min(at.x(), Space::left - 2 - widthOf(labels[number]->text)), 0.0));
+                at.setY(at.y() + (usualHeight - lineHeight_) / 2);
             }
             write(*labels[number], at, style_.paper());
         }
     }
 
-    static QRectF boxOf(const QString& text, const QPointF& at) { return {at, QSizeF(widthOf(text), lineHeight)}; }
+    QRectF boxOf(const QString& text, const QPointF& at) const { return {at, QSizeF(widthOf(text), lineHeight_)}; }
 
     void paintFlags() {
         QHash<QString, double> lastOfKind;
@@ -288,7 +298,7 @@ private:
                     drawing_.add(Drawing::Text{{place.left() + flagWidth / 2, place.bottom() - 9.5},
                                                label.text,
                                                Qt::black,
-                                               11,
+                                               fontSize,
                                                Qt::AlignCenter});
                     return;
                 }
@@ -298,6 +308,8 @@ private:
 
     const ProfileGeometry& geometry_;
     const ProfileStyle& style_;
+    double letters_;
+    double lineHeight_;
     Drawing drawing_;
     std::vector<QRectF> taken_;
     std::vector<QRectF> alarms_;
@@ -313,8 +325,9 @@ QString described(const ProfileDive& dive, const ProfileSummary& summary) {
 
 }  // namespace
 
-Drawing profileDrawing(const ProfileGeometry& geometry, const ProfileDive& dive, const ProfileStyle& style) {
-    Drawing drawing = PictureMaker(geometry, style).make();
+Drawing profileDrawing(const ProfileGeometry& geometry, const ProfileDive& dive, const ProfileStyle& style,
+                       double letters) {
+    Drawing drawing = PictureMaker(geometry, style, letters).make();
     drawing.title = text("Profil", "Profile of the dive");
     drawing.description = described(dive, summaryOf(dive.series));
     drawing.table = sampleTable(std::make_shared<const ProfileSamples>(dive));

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace tavrel {
 
 namespace {
@@ -219,16 +221,22 @@ TEST_F(DiveFormTest, showsADiveAndGivesItBack) {
 TEST_F(DiveFormTest, followsTheEntries) {
     const auto captions = [&] { return shown("blocField") + shown("bloc_2Field"); };
     form.updateUI();
-    EXPECT_EQ(captions(), u"Bloc principal :Bloc secondaire :");
+    EXPECT_EQ(captions(), u"Main tank:Second tank:");
     EXPECT_FALSE(form.state().at(indexOf("flowField")).enabled);
     choose("rebreatherMatrix", 1);
     EXPECT_TRUE(form.state().at(indexOf("flowField")).enabled);
     choose("rebreatherMatrix", 3);
-    EXPECT_EQ(captions(), u"OXYGÈNE :DILUANT :");
+    EXPECT_EQ(captions(), u"OXYGEN:DILUENT:");
     EXPECT_EQ(shown("o2MixField"), u"100");
     EXPECT_EQ(shown("setPointField"), text("Carnet", "high setpoint"));
     choose("rebreatherMatrix", 4);
+    EXPECT_EQ(captions(), u"OXYGEN:DILUENT:");
+    setTextLanguage(QStringLiteral("fr"));
+    choose("rebreatherMatrix", 2);
     EXPECT_EQ(captions(), u"OXYGÈNE :DILUANT :");
+    choose("rebreatherMatrix", 1);
+    EXPECT_EQ(captions(), u"Bloc principal :Bloc secondaire :");
+    setTextLanguage(QStringLiteral("en"));
     choose("rebreatherMatrix", 0);
     EXPECT_EQ(shown("setPointField"), text("Carnet", "PpO2"));
 
@@ -253,6 +261,80 @@ TEST_F(DiveFormTest, followsTheEntries) {
     EXPECT_EQ(mix(), u"32/0/68");
     choose("razAirButton", 0);
     EXPECT_EQ(mix(), u"21/79/0");
+}
+
+TEST_F(DiveFormTest, showsWhatFollowsFromTanksAndBottles) {
+    const auto held = [&](const char* name) { return form.state().at(indexOf(name)); };
+    form.blankFields();
+    EXPECT_EQ(shown("deltaPressureField"), u"0 bar used");
+    type("departField", "200");
+    type("finField", "210");
+    type("depart_2Field", "180");
+    EXPECT_EQ(shown("deltaPressureField"), u"-10 bar used");
+    EXPECT_EQ(held("deltaPressureField").explanation, u"Pressure used = 200 bar − 210 bar = -10 bar");
+    EXPECT_EQ(shown("deltaPressure_2Field"), u"180 bar used");
+    type("heMix_2Field", "30");
+    EXPECT_EQ(held("n2Mix_2Field").explanation, u"Nitrogen = 100 % − 21 % O₂ − 30 % He = 49 %");
+
+    // A level's box is named whatever is switched on; reports and gauges take one of the levels 3 to 6.
+    type("depthDeco_Level_2_Field", "6.9");
+    type("decoO2_Level_2_Field", "50");
+    EXPECT_EQ(shown("pony_2_TitleField"), u"Pony 2 : 6 m - 50 % O₂");
+    EXPECT_EQ(shown("pony_3_TitleField"), u"Pony 3 : 0 m - 0 % O₂");
+    type("pony_2_VolumeField", "7");
+    type("pony_2_DepartField", "205");
+    type("pony_2_FinField", "120");
+    type("bailout_2_VolumeField", "5");
+    choose("deco_Level_2_Switch", 1);
+    EXPECT_EQ(shown("consoPony_2Field"), u"");
+    EXPECT_FALSE(held("gaz2Progress").visible);
+    choose("deco_Level_6_Switch", 1);
+    EXPECT_EQ(shown("consoPony_2Field"), u"Gas available: 1435 L\rGas used: 595 L");
+    EXPECT_TRUE(held("consoPony_2Field").explanation.contains(u"7 L × (205 bar − 120 bar) = 595 L"));
+    EXPECT_TRUE(held("gaz2Progress").visible);
+    EXPECT_EQ(std::tuple(held("gaz2Progress").tag, held("gaz2Progress").maximum, held("gaz2Progress").ticks),
+              std::tuple(120, 205, 20));
+    EXPECT_EQ(shown("consoBailout_2Field"), u"Gas available: 0 L\rGas used: 0 L");
+    EXPECT_TRUE(held("gazBailout2Progress").visible);
+    EXPECT_EQ(shown("consoPony_1Field") + shown("consoBailout_1Field"), u"");
+    type("pony_2_VolumeField", "0");
+    EXPECT_EQ(shown("consoPony_2Field"), u"");
+    EXPECT_FALSE(held("gaz2Progress").visible);
+}
+
+TEST_F(DiveFormTest, sumsUpProfileAndOxygen) {
+    form.blankFields();
+    type("profondeurField", "30");
+    type("tempsField", "20");
+    EXPECT_EQ(shown("sncDrawer"), u"ppO₂ 0.84 bar, CNS clock 4.8 %");
+    EXPECT_EQ(shown("maxAverageDepthField"), u"Maximum depth 0.0 m, average 0.0 m");
+    EXPECT_EQ(shown("recordedPointsField"), u"Recorded points: 0");
+
+    Plongee dive;
+    dive.o2Mix = 32;
+    dive.temps = 20;
+    dive.samplingRate = 7;
+    dive.profilProfondeur = Series::ofReals({0, 20, 25.5, 0});
+    form.editFields(dive);
+    EXPECT_EQ(shown("maxAverageDepthField"), u"Maximum depth 25.5 m, average 11.4 m");
+    EXPECT_EQ(form.state().at(indexOf("maxAverageDepthField")).explanation,
+              u"Average depth = mean of 4 samples = 11.4 m");
+    EXPECT_EQ(shown("samplingRateField"), u"Sampling interval: 5 s");
+    EXPECT_EQ(shown("recordedPointsField"), u"Recorded points: 4");
+    // 0.32 × 3.55 bar lies in the band up to 1.14 bar, at 0.43 % a minute.
+    EXPECT_EQ(shown("sncDrawer"), u"ppO₂ 1.14 bar, CNS clock 8.6 %");
+    // A stop at 19 m counts as 2 bar.
+    choose("deco_Level_1_Switch", 1);
+    type("depthDeco_Level_1_Field", "19");
+    type("decoO2_Level_1_Field", "80");
+    EXPECT_TRUE(
+        form.state().at(indexOf("sncDrawer")).explanation.contains(u"ppO₂ = stop 1: 80 % O₂ × 2 bar = 1.60 bar"))
+        << form.state().at(indexOf("sncDrawer")).explanation.toStdString();
+
+    int asked = 0;
+    QObject::connect(&form, &DiveForm::consumptionRequested, [&] { ++asked; });
+    choose("consommationButton", 0);
+    EXPECT_EQ(asked, 1);
 }
 
 TEST_F(DiveFormTest, hintsAtWhatIsNotReadAsTypedOrIsUnlikely) {

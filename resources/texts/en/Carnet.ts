@@ -7,6 +7,16 @@
 <message><source>&#13;   - Shorty</source><translation>&#13;   - Shorty</translation></message>
 <message><source>&#13;   - T-shirt</source><translation>&#13;   - T-shirt</translation></message>
 <message><source> Run Time</source><translation>&#13;Run time, computer: </translation></message>
+<message><source>0,7 bar</source><translation>0.7 bar</translation></message>
+<message><source>0,8 bar</source><translation>0.8 bar</translation></message>
+<message><source>0,9 bar</source><translation>0.9 bar</translation></message>
+<message><source>1,0 bar</source><translation>1.0 bar</translation></message>
+<message><source>1,1 bar</source><translation>1.1 bar</translation></message>
+<message><source>1,2 bar</source><translation>1.2 bar</translation></message>
+<message><source>1,3 bar</source><translation>1.3 bar</translation></message>
+<message><source>1,4 bar</source><translation>1.4 bar</translation></message>
+<message><source>1,5 bar</source><translation>1.5 bar</translation></message>
+<message><source>1,6 bar</source><translation>1.6 bar</translation></message>
 <message><source>Add new dive question</source><translation>The form holds a new dive that is not in the logbook yet.</translation></message>
 <message><source>Air</source><translation>Air</translation></message>
 <message><source>Air tables</source><translation>&#13;Air tables, computer: </translation></message>
@@ -21,6 +31,8 @@
 <message><source>Bar per minute</source><translation>%.2f bar/min</translation></message>
 <message><source>Beaufort</source><translation>Beaufort</translation></message>
 <message><source>Biology</source><translation>Marine biology</translation></message>
+<message><source>Bloc principal :</source><translation>Main tank:</translation></message>
+<message><source>Bloc secondaire :</source><translation>Second tank:</translation></message>
 <message><source>Boat</source><translation>&#13;Boat: </translation></message>
 <message><source>Breathed gas</source><translation>&#13;Gas breathed: </translation></message>
 <message><source>Buddies</source><translation>&#13;Buddies: </translation></message>
@@ -56,6 +68,7 @@
 <message><source>Copying</source><translation>Copying the dives…</translation></message>
 <message><source>Current</source><translation>&#13;Current: </translation></message>
 <message><source>Current dive</source><translation>Current dive</translation></message>
+<message><source>DILUANT :</source><translation>DILUENT:</translation></message>
 <message><source>Datas</source><translation>%d values</translation></message>
 <message><source>Date</source><translation>&#13;Date: </translation></message>
 <message><source>Deco algorythm type</source><translation>&#13;Algorithm: </translation></message>
@@ -95,9 +108,11 @@
 <message><source>Explain mean depth</source><translation>Average depth = %d m / %d dives = %d m</translation></message>
 <message><source>Explain mean temperature</source><translation>Mean = %d° / %d temperatures = %d°</translation></message>
 <message><source>Explain mean time</source><translation>Average time = %d min / %d dives = %d min</translation></message>
+<message><source>Explain nitrogen</source><translation>Nitrogen = 100 %% − %d %% O₂ − %d %% He = %d %%</translation></message>
 <message><source>Explain per minute</source><translation>Pressure per minute = %d bar / %d min = %.2f bar/min</translation></message>
 <message><source>Explain ppO2 of stop</source><translation>ppO₂ = stop %d: %.0f %% O₂ × %d bar = %.2f bar</translation></message>
 <message><source>Explain ppO2 of tank</source><translation>ppO₂ = %.0f %% O₂ × %.2f bar at the deepest point = %.2f bar</translation></message>
+<message><source>Explain pressure drop</source><translation>Pressure used = %d bar − %d bar = %d bar</translation></message>
 <message><source>Explain share</source><translation>Share = %d / %d × 100 = %.1f %%</translation></message>
 <message><source>Explain used</source><translation>Gas used = %d L × (%d bar − %d bar) = %d L</translation></message>
 <message><source>Extreme</source><translation>Extreme</translation></message>
@@ -133,6 +148,7 @@
 <message><source>Group apparatus</source><translation>Breathing apparatus</translation></message>
 <message><source>Group bail-outs</source><translation>Bail-out cylinders</translation></message>
 <message><source>Group computer</source><translation>Dive computer</translation></message>
+<message><source>Group consumption</source><translation>Consumption and oxygen</translation></message>
 <message><source>Group decompression</source><translation>Decompression</translation></message>
 <message><source>Group dive</source><translation>Dive</translation></message>
 <message><source>Group equipment</source><translation>Exposure protection and configuration</translation></message>
@@ -201,6 +217,7 @@
 <message><source>Label oxygen</source><translation>Oxygen</translation></message>
 <message><source>Label place</source><translation>Place</translation></message>
 <message><source>Label position</source><translation>GPS position</translation></message>
+<message><source>Label pressure drop</source><translation>Pressure drop</translation></message>
 <message><source>Label rating</source><translation>Rating</translation></message>
 <message><source>Label sampling interval</source><translation>Sampling interval</translation></message>
 <message><source>Label serial number</source><translation>Serial number</translation></message>
@@ -229,14 +246,18 @@
 <message><source>Low tide</source><translation>Low tide</translation></message>
 <message><source>Max and average depth</source><translation>Maximum depth %.1f m, average %.1f m</translation></message>
 <message><source>Medium</source><translation>Medium</translation></message>
+<message><source>Menu consumption</source><translation>Gas Consumption…</translation></message>
 <message><source>Menu delete dives</source><translation>Delete Dives…</translation></message>
 <message><source>Menu dive</source><translation>Dive</translation></message>
 <message><source>Menu edit dive</source><translation>Edit Dive</translation></message>
+<message><source>Menu graphs</source><translation>Statistics Graphs</translation></message>
 <message><source>Menu insert dive</source><translation>Insert Before Selected Dive</translation></message>
 <message><source>Menu new dive</source><translation>New Dive</translation></message>
+<message><source>Menu previous dives</source><translation>Previous Dives…</translation></message>
 <message><source>Metres</source><translation>%.1f m</translation></message>
 <message><source>Moderate</source><translation>Moderate</translation></message>
 <message><source>Movies</source><translation>Filming</translation></message>
+<message><source>N-W</source><translation>N-W</translation></message>
 <message><source>New dive not added</source><translation>The form holds a new dive that is not in the logbook yet.</translation></message>
 <message><source>Next dive</source><translation>Next dive</translation></message>
 <message><source>Night</source><translation>&#13;Night dive</translation></message>
@@ -253,13 +274,14 @@
 <message><source>None</source><translation>None</translation></message>
 <message><source>Normal</source><translation>Normal</translation></message>
 <message><source>Notes</source><translation>&#13;&#13;Notes</translation></message>
+<message><source>OXYGÈNE :</source><translation>OXYGEN:</translation></message>
 <message><source>One dive</source><translation>One dive</translation></message>
 <message><source>One dive found</source><translation>One dive found</translation></message>
 <message><source>One dive imported</source><translation>One dive was imported.</translation></message>
 <message><source>Open circuit</source><translation>&#13;Open circuit</translation></message>
 <message><source>Other</source><translation>Other</translation></message>
 <message><source>Oxygen</source><translation>&#13;eCCR rebreather</translation></message>
-<message><source>Page bottles</source><translation>Bottles and computer</translation></message>
+<message><source>Page bottles</source><translation>Bottles and profile</translation></message>
 <message><source>Page conditions</source><translation>Conditions</translation></message>
 <message><source>Page decompression</source><translation>Decompression</translation></message>
 <message><source>Page dive</source><translation>Dive</translation></message>
@@ -296,6 +318,7 @@
 <message><source>Renumber title</source><translation>Renumber Dives</translation></message>
 <message><source>Renumbering</source><translation>Renumbering the dives…</translation></message>
 <message><source>Replace dive</source><translation>Replace Dive %d</translation></message>
+<message><source>S-W</source><translation>S-W</translation></message>
 <message><source>SCR rebreather</source><translation>&#13;SCR rebreather</translation></message>
 <message><source>Sampling rate</source><translation>Sampling interval: %@</translation></message>
 <message><source>Scaphander</source><translation>&#13;hCCR rebreather</translation></message>
@@ -364,6 +387,7 @@
 <message><source>Tide coefficient</source><translation>&#13;Tide coefficient: </translation></message>
 <message><source>Time</source><translation>&#13;Dive time: </translation></message>
 <message><source>Tip add</source><translation>Add a dive to the logbook</translation></message>
+<message><source>Tip consumption</source><translation>Show how much gas this dive took</translation></message>
 <message><source>Tip delete</source><translation>Delete the selected dives</translation></message>
 <message><source>Tip import UDCF</source><translation>Import dives from a UDCF file</translation></message>
 <message><source>Tip import UDDF</source><translation>Import dives from a UDDF file</translation></message>
@@ -389,12 +413,12 @@
 <message><source>Undo insert</source><translation>Insert Dive</translation></message>
 <message><source>Undo renumber</source><translation>Renumber Dives</translation></message>
 <message><source>Undo update</source><translation>Edit Dive</translation></message>
-<message><source>Unknown temperature</source><translation>Not known: no temperature was entered.</translation></message>
-<message><source>Unknown with bad samples</source><translation>Not known: the profile holds depths that are no numbers.</translation></message>
-<message><source>Unknown without samples</source><translation>Not known: the dive has no profile, so no average depth.</translation></message>
-<message><source>Unknown without start pressure</source><translation>Not known: the dive has no start pressure.</translation></message>
-<message><source>Unknown without tank volume</source><translation>Not known: the main tank has no volume.</translation></message>
-<message><source>Unknown without time</source><translation>Not known: the dive has no time.</translation></message>
+<message><source>Unknown temperature</source><translation>Not known: no temperature was entered</translation></message>
+<message><source>Unknown with bad samples</source><translation>Not known: the profile holds depths that are no numbers</translation></message>
+<message><source>Unknown without samples</source><translation>Not known: no profile, so no average depth</translation></message>
+<message><source>Unknown without start pressure</source><translation>Not known: no start pressure</translation></message>
+<message><source>Unknown without tank volume</source><translation>Not known: no tank volume</translation></message>
+<message><source>Unknown without time</source><translation>Not known: no dive time</translation></message>
 <message><source>Used gas</source><translation>&#13;Gas: </translation></message>
 <message><source>Used pressure</source><translation>&#13;Pressure used: </translation></message>
 <message><source>Very bad</source><translation>Very bad</translation></message>
@@ -404,6 +428,7 @@
 <message><source>Very strong</source><translation>Very strong</translation></message>
 <message><source>Violent</source><translation>Violent</translation></message>
 <message><source>Visibility</source><translation>&#13;Visibility: </translation></message>
+<message><source>W</source><translation>W</translation></message>
 <message><source>Water temperature</source><translation>&#13;Water temperature: </translation></message>
 <message><source>Weak</source><translation>Weak</translation></message>
 <message><source>Weather</source><translation>&#13;Weather: </translation></message>

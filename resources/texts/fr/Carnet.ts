@@ -7,6 +7,16 @@
 <message><source>&#13;   - Shorty</source><translation>&#13;   - Shorty</translation></message>
 <message><source>&#13;   - T-shirt</source><translation>&#13;   - T-shirt</translation></message>
 <message><source> Run Time</source><translation>&#13;Run time, ordinateur : </translation></message>
+<message><source>0,7 bar</source><translation>0,7 bar</translation></message>
+<message><source>0,8 bar</source><translation>0,8 bar</translation></message>
+<message><source>0,9 bar</source><translation>0,9 bar</translation></message>
+<message><source>1,0 bar</source><translation>1,0 bar</translation></message>
+<message><source>1,1 bar</source><translation>1,1 bar</translation></message>
+<message><source>1,2 bar</source><translation>1,2 bar</translation></message>
+<message><source>1,3 bar</source><translation>1,3 bar</translation></message>
+<message><source>1,4 bar</source><translation>1,4 bar</translation></message>
+<message><source>1,5 bar</source><translation>1,5 bar</translation></message>
+<message><source>1,6 bar</source><translation>1,6 bar</translation></message>
 <message><source>Add new dive question</source><translation>Le formulaire contient une nouvelle plongée qui n’est pas encore dans le carnet.</translation></message>
 <message><source>Air</source><translation>Air</translation></message>
 <message><source>Air tables</source><translation>&#13;Tables à l’air, ordinateur : </translation></message>
@@ -21,6 +31,8 @@
 <message><source>Bar per minute</source><translation>%.2f bar/min</translation></message>
 <message><source>Beaufort</source><translation>Beaufort</translation></message>
 <message><source>Biology</source><translation>Biologie</translation></message>
+<message><source>Bloc principal :</source><translation>Bloc principal :</translation></message>
+<message><source>Bloc secondaire :</source><translation>Bloc secondaire :</translation></message>
 <message><source>Boat</source><translation>&#13;Bateau : </translation></message>
 <message><source>Breathed gas</source><translation>&#13;Gaz consommé : </translation></message>
 <message><source>Buddies</source><translation>&#13;Palanquée : </translation></message>
@@ -56,6 +68,7 @@
 <message><source>Copying</source><translation>Copie des plongées…</translation></message>
 <message><source>Current</source><translation>&#13;Courant : </translation></message>
 <message><source>Current dive</source><translation>Plongée courante</translation></message>
+<message><source>DILUANT :</source><translation>DILUANT :</translation></message>
 <message><source>Datas</source><translation>%d valeurs</translation></message>
 <message><source>Date</source><translation>&#13;Date : </translation></message>
 <message><source>Deco algorythm type</source><translation>&#13;Algorithme : </translation></message>
@@ -95,9 +108,11 @@
 <message><source>Explain mean depth</source><translation>Profondeur moyenne = %d m / %d plongées = %d m</translation></message>
 <message><source>Explain mean temperature</source><translation>Moyenne = %d° / %d températures = %d°</translation></message>
 <message><source>Explain mean time</source><translation>Durée moyenne = %d min / %d plongées = %d min</translation></message>
+<message><source>Explain nitrogen</source><translation>Azote = 100 %% − %d %% O₂ − %d %% He = %d %%</translation></message>
 <message><source>Explain per minute</source><translation>Pression par minute = %d bar / %d min = %.2f bar/min</translation></message>
 <message><source>Explain ppO2 of stop</source><translation>PpO₂ = palier %d : %.0f %% O₂ × %d bar = %.2f bar</translation></message>
 <message><source>Explain ppO2 of tank</source><translation>PpO₂ = %.0f %% O₂ × %.2f bar au point le plus profond = %.2f bar</translation></message>
+<message><source>Explain pressure drop</source><translation>Pression consommée = %d bar − %d bar = %d bar</translation></message>
 <message><source>Explain share</source><translation>Part = %d / %d × 100 = %.1f %%</translation></message>
 <message><source>Explain used</source><translation>Gaz consommé = %d L × (%d bar − %d bar) = %d L</translation></message>
 <message><source>Extreme</source><translation>Extrême</translation></message>
@@ -133,6 +148,7 @@
 <message><source>Group apparatus</source><translation>Appareil respiratoire</translation></message>
 <message><source>Group bail-outs</source><translation>Blocs de secours (bail-out)</translation></message>
 <message><source>Group computer</source><translation>Ordinateur de plongée</translation></message>
+<message><source>Group consumption</source><translation>Consommation et oxygène</translation></message>
 <message><source>Group decompression</source><translation>Décompression</translation></message>
 <message><source>Group dive</source><translation>Plongée</translation></message>
 <message><source>Group equipment</source><translation>Protection et configuration</translation></message>
@@ -189,7 +205,7 @@
 <message><source>Label high GF</source><translation>GF haut</translation></message>
 <message><source>Label immersion</source><translation>Heure d’immersion</translation></message>
 <message><source>Label low GF</source><translation>GF bas</translation></message>
-<message><source>Label low setpoint</source><translation>Setpoint bas (bar)</translation></message>
+<message><source>Label low setpoint</source><translation>Point de consigne bas (bar)</translation></message>
 <message><source>Label maker</source><translation>Fabricant</translation></message>
 <message><source>Label material</source><translation>Matière</translation></message>
 <message><source>Label maximum depth</source><translation>Profondeur max.</translation></message>
@@ -201,6 +217,7 @@
 <message><source>Label oxygen</source><translation>Oxygène</translation></message>
 <message><source>Label place</source><translation>Lieu</translation></message>
 <message><source>Label position</source><translation>Position GPS</translation></message>
+<message><source>Label pressure drop</source><translation>Perte de pression</translation></message>
 <message><source>Label rating</source><translation>Appréciation</translation></message>
 <message><source>Label sampling interval</source><translation>Échantillonnage</translation></message>
 <message><source>Label serial number</source><translation>N° de série</translation></message>
@@ -229,14 +246,18 @@
 <message><source>Low tide</source><translation>Basse mer</translation></message>
 <message><source>Max and average depth</source><translation>Profondeur maximale %.1f m, moyenne %.1f m</translation></message>
 <message><source>Medium</source><translation>Moyenne</translation></message>
+<message><source>Menu consumption</source><translation>Consommation de gaz…</translation></message>
 <message><source>Menu delete dives</source><translation>Supprimer les plongées…</translation></message>
 <message><source>Menu dive</source><translation>Plongée</translation></message>
 <message><source>Menu edit dive</source><translation>Modifier la plongée</translation></message>
+<message><source>Menu graphs</source><translation>Graphiques des statistiques</translation></message>
 <message><source>Menu insert dive</source><translation>Insérer avant la plongée choisie</translation></message>
 <message><source>Menu new dive</source><translation>Nouvelle plongée</translation></message>
+<message><source>Menu previous dives</source><translation>Plongées antérieures…</translation></message>
 <message><source>Metres</source><translation>%.1f m</translation></message>
 <message><source>Moderate</source><translation>Modéré</translation></message>
 <message><source>Movies</source><translation>Vidéo</translation></message>
+<message><source>N-W</source><translation>N-O</translation></message>
 <message><source>New dive not added</source><translation>Le formulaire contient une nouvelle plongée qui n’est pas encore dans le carnet.</translation></message>
 <message><source>Next dive</source><translation>Plongée suivante</translation></message>
 <message><source>Night</source><translation>&#13;Plongée de nuit</translation></message>
@@ -253,13 +274,14 @@
 <message><source>None</source><translation>Nul</translation></message>
 <message><source>Normal</source><translation>Normale</translation></message>
 <message><source>Notes</source><translation>&#13;&#13;Notes</translation></message>
+<message><source>OXYGÈNE :</source><translation>OXYGÈNE :</translation></message>
 <message><source>One dive</source><translation>Une plongée</translation></message>
 <message><source>One dive found</source><translation>Une plongée trouvée</translation></message>
 <message><source>One dive imported</source><translation>Une plongée a été importée.</translation></message>
 <message><source>Open circuit</source><translation>&#13;Circuit ouvert</translation></message>
 <message><source>Other</source><translation>Autre</translation></message>
 <message><source>Oxygen</source><translation>&#13;Recycleur eCCR</translation></message>
-<message><source>Page bottles</source><translation>Relais et ordinateur</translation></message>
+<message><source>Page bottles</source><translation>Relais et profil</translation></message>
 <message><source>Page conditions</source><translation>Conditions</translation></message>
 <message><source>Page decompression</source><translation>Décompression</translation></message>
 <message><source>Page dive</source><translation>Plongée</translation></message>
@@ -296,6 +318,7 @@
 <message><source>Renumber title</source><translation>Renuméroter les plongées</translation></message>
 <message><source>Renumbering</source><translation>Renumérotation des plongées…</translation></message>
 <message><source>Replace dive</source><translation>Remplacer la plongée %d</translation></message>
+<message><source>S-W</source><translation>S-O</translation></message>
 <message><source>SCR rebreather</source><translation>&#13;Recycleur SCR</translation></message>
 <message><source>Sampling rate</source><translation>Intervalle d’échantillonnage : %@</translation></message>
 <message><source>Scaphander</source><translation>&#13;Recycleur hCCR</translation></message>
@@ -364,6 +387,7 @@
 <message><source>Tide coefficient</source><translation>&#13;Coefficient de marée : </translation></message>
 <message><source>Time</source><translation>&#13;Durée : </translation></message>
 <message><source>Tip add</source><translation>Ajouter une plongée au carnet</translation></message>
+<message><source>Tip consumption</source><translation>Afficher le gaz que cette plongée a consommé</translation></message>
 <message><source>Tip delete</source><translation>Supprimer les plongées sélectionnées</translation></message>
 <message><source>Tip import UDCF</source><translation>Importer des plongées d’un fichier UDCF</translation></message>
 <message><source>Tip import UDDF</source><translation>Importer des plongées d’un fichier UDDF</translation></message>
@@ -389,12 +413,12 @@
 <message><source>Undo insert</source><translation>Insérer la plongée</translation></message>
 <message><source>Undo renumber</source><translation>Renuméroter les plongées</translation></message>
 <message><source>Undo update</source><translation>Modifier la plongée</translation></message>
-<message><source>Unknown temperature</source><translation>Inconnu : aucune température n’a été indiquée.</translation></message>
-<message><source>Unknown with bad samples</source><translation>Inconnu : le profil contient des profondeurs qui ne sont pas des nombres.</translation></message>
-<message><source>Unknown without samples</source><translation>Inconnu : la plongée n’a pas de profil, donc pas de profondeur moyenne.</translation></message>
-<message><source>Unknown without start pressure</source><translation>Inconnu : la plongée n’a pas de pression de départ.</translation></message>
-<message><source>Unknown without tank volume</source><translation>Inconnu : le bloc principal n’a pas de volume.</translation></message>
-<message><source>Unknown without time</source><translation>Inconnu : la plongée n’a pas de durée.</translation></message>
+<message><source>Unknown temperature</source><translation>Donnée inconnue : aucune température n’a été indiquée</translation></message>
+<message><source>Unknown with bad samples</source><translation>Donnée inconnue : le profil contient des profondeurs qui ne sont pas des nombres</translation></message>
+<message><source>Unknown without samples</source><translation>Donnée inconnue : pas de profil, donc pas de profondeur moyenne</translation></message>
+<message><source>Unknown without start pressure</source><translation>Donnée inconnue : pas de pression de départ</translation></message>
+<message><source>Unknown without tank volume</source><translation>Donnée inconnue : pas de volume du bloc</translation></message>
+<message><source>Unknown without time</source><translation>Donnée inconnue : pas de durée de plongée</translation></message>
 <message><source>Used gas</source><translation>&#13;Gaz utilisé : </translation></message>
 <message><source>Used pressure</source><translation>&#13;Pression consommée : </translation></message>
 <message><source>Very bad</source><translation>Très mauvaise</translation></message>
@@ -404,6 +428,7 @@
 <message><source>Very strong</source><translation>Très fort</translation></message>
 <message><source>Violent</source><translation>Violent</translation></message>
 <message><source>Visibility</source><translation>&#13;Visibilité : </translation></message>
+<message><source>W</source><translation>O</translation></message>
 <message><source>Water temperature</source><translation>&#13;Température de l’eau : </translation></message>
 <message><source>Weak</source><translation>Faible</translation></message>
 <message><source>Weather</source><translation>&#13;Météo : </translation></message>

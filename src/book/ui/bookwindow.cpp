@@ -120,6 +120,7 @@ void BookWindow::provideCommand(const QString& identifier, std::function<void()>
 BookEditWindow& BookWindow::editWindow() {
     if (!editWindow_) {
         editWindow_ = std::make_unique<BookEditWindow>(book_, *actions_);
+        Q_EMIT editWindowMade(*editWindow_);
     }
     return *editWindow_;
 }

@@ -40,7 +40,7 @@ public:
     CustomToolBar& toolBar() { return *toolBar_; }
     BookEditWindow& editWindow();
     /// Shows the card of all records.
-    void showCard();
+    virtual void showCard();
     CardWindow& cardWindow();
     /// The pictures of the records, in a book that has no card.
     RepertoryWindow& repertoryWindow();
@@ -56,6 +56,10 @@ public:
     void previewDocument();
     QList<QWidget*> furtherWindows() override;
     bool leaveEditing(Settling next) override;
+
+Q_SIGNALS:
+    /// The edit window was asked for first and is there.
+    void editWindowMade(tavrel::BookEditWindow& made);
 
 private:
     void addCommands();

@@ -2,15 +2,14 @@
 
 #include "desktop/notificationcentre.h"
 #include "dives/statgraph.h"
-
-#include <QWidget>
+#include "drawing/ui/drawingview.h"
 
 namespace tavrel {
 
 struct Desktop;
 
 /// The statistics as bars, in the colours of the preferences.
-class Graphes : public QWidget {
+class Graphes : public DrawingView {
     Q_OBJECT
 
 public:
@@ -18,16 +17,9 @@ public:
 
     void setShares(const GraphShares& shares);
     const GraphShares& shares() const { return shares_; }
-    Drawing drawing() const;
-
-    QSize sizeHint() const override { return {870, 480}; }
-    QSize minimumSizeHint() const override { return {435, 240}; }
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
 
 private:
-    void describe();
+    void redraw();
 
     Desktop& desktop_;
     GraphShares shares_;

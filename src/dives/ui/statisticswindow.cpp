@@ -9,19 +9,17 @@
 #include "dives/ui/graphes.h"
 #include "dives/ui/previoustotalswindow.h"
 #include "documents/ui/printing.h"
-#include "drawing/pages.h"
+#include "drawing/ui/printdrawing.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
-#include <QPainter>
 #include <QPrinter>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QTabWidget>
-#include <QTextDocument>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -179,14 +177,10 @@ void StatisticsWindow::printStatistics() {
     if (!runPrintDialog(this, settings, printer)) {
         return;
     }
-    printer.setDocName(windowTitle());
-    if (graphs) {
-        QPainter painter(&printer);
-        graphes_->drawing().paint(painter, painter.viewport());
-    } else {
-        printText(printer, *textDocumentOf(statisticsReport(*statistics_, source_.name())), settings, windowTitle());
-    }
-    if (printer.printerState() == QPrinter::Error) {
+    const bool printed =
+        graphs ? printDrawing(printer, graphes_->drawing())
+               : printStyledText(printer, statisticsReport(*statistics_, source_.name()), settings, windowTitle());
+    if (!printed && printer.printerState() == QPrinter::Error) {
         desktop_.alerts.fail({text("Main", "Printing failed"), printer.outputFileName()});
     }
 }

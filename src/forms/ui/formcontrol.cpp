@@ -383,6 +383,7 @@ std::unique_ptr<FormControl> makeFormControl(FormStateBase& state, int index, QS
         case ControlKind::readOnly:
         case ControlKind::gauge:
         case ControlKind::progress:
+        case ControlKind::view:
             return makeShownControl(state, index);
         case ControlKind::picture:
             return makePictureControl(state, index);

@@ -67,6 +67,10 @@ private:
         }
     }
 
+    static bool takesWholeWidth(ControlKind kind) {
+        return kind == ControlKind::longText || kind == ControlKind::picture || kind == ControlKind::view;
+    }
+
     static bool expands(const Control& control) {
         switch (control.kind) {
             case ControlKind::text:
@@ -77,6 +81,7 @@ private:
             case ControlKind::progress:
             case ControlKind::picture:
             case ControlKind::radio:
+            case ControlKind::view:
                 return true;
             default:
                 return false;
@@ -188,7 +193,7 @@ private:
         for (Cell& cell : cells_) {
             const int first = cell.controls.front();
             nameOfCell(cell);
-            if (control(first).kind == ControlKind::longText || control(first).kind == ControlKind::picture) {
+            if (takesWholeWidth(control(first).kind)) {
                 row += pair > 0 ? 1 : 0;
                 setWidth(first);
                 result_.grid->addWidget(form(first).widget(), row, 0, 1, controlColumn(pairs - 1) + 1);
@@ -257,7 +262,10 @@ private:
         }
         QGridLayout& grid = *result_.grid;
         grid.setHorizontalSpacing(rows ? 14 : 18);
-        for (int place = 0; place < places && !rows; ++place) {
+        // A row of captions that the program writes names the lines; else their numbers do.
+        const Control& front = control(cells_.front().controls.front());
+        const bool captioned = front.kind == ControlKind::readOnly && front.label.isEmpty();
+        for (int place = 0; place < places && !rows && !captioned; ++place) {
             grid.addWidget(label(QString::number(place + 1)), place + 1, 0);
         }
         for (const Cell& cell : cells_) {

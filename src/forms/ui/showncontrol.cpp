@@ -6,7 +6,9 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QProgressBar>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -24,6 +26,13 @@ void colour(QWidget* widget, QPalette::ColorRole role, const QColor& wanted) {
     widget->setPalette(colours);
 }
 
+/// Tells how a derived figure comes about, on the widget and to screen readers.
+void explain(QWidget* widget, const Control& control, const ControlState& held) {
+    const bool isDerived = !held.explanation.isEmpty();
+    widget->setToolTip(isDerived ? held.explanation : control.tip.text());
+    widget->setAccessibleDescription(isDerived ? held.explanation : control.unit.text());
+}
+
 class ReadOnlyControl : public FormControl {
 public:
     ReadOnlyControl(FormStateBase& state, int index) : FormControl(state, index, new QLabel) {
@@ -37,7 +46,8 @@ public:
 
 protected:
     void showState(const ControlState& held) override {
-        label()->setText(held.text);
+        label()->setText(QString(held.text).replace(u'\r', u'\n'));
+        explain(label(), control(), held);
         // Black is the usual colour of text.
         colour(label(), QPalette::WindowText, held.colour == QColor(Qt::black) ? QColor() : held.colour);
     }
@@ -46,11 +56,39 @@ private:
     QLabel* label() const { return static_cast<QLabel*>(widget()); }
 };
 
+/// A level with marks above it that part it evenly.
+class Gauge : public QProgressBar {
+public:
+    Gauge() { setTextVisible(false); }
+
+    void setTicks(int ticks) {
+        ticks_ = ticks;
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        QProgressBar::paintEvent(event);
+        // Marks that would run into each other tell nothing.
+        constexpr int closest = 3;
+        if (ticks_ < 1 || width() / ticks_ < closest) {
+            return;
+        }
+        QPainter painter(this);
+        painter.setPen(palette().color(QPalette::WindowText));
+        const double step = double(width() - 1) / ticks_;
+        for (int tick = 1; tick < ticks_; ++tick) {
+            painter.drawLine(QPointF(tick * step, height() * 0.7), QPointF(tick * step, height() - 1));
+        }
+    }
+
+private:
+    int ticks_ = 0;
+};
+
 class GaugeControl : public FormControl {
 public:
-    GaugeControl(FormStateBase& state, int index) : FormControl(state, index, new QProgressBar) {
-        bar()->setTextVisible(false);
-    }
+    GaugeControl(FormStateBase& state, int index) : FormControl(state, index, new Gauge) {}
 
     QList<QWidget*> focusWidgets() const override { return {}; }
 
@@ -59,10 +97,12 @@ protected:
         bar()->setVisible(bar()->parentWidget() && held.visible && held.maximum > 0);
         bar()->setRange(0, std::max(held.maximum, 1));
         bar()->setValue(std::clamp(held.tag, 0, bar()->maximum()));
+        bar()->setTicks(held.ticks);
+        explain(bar(), control(), held);
     }
 
 private:
-    QProgressBar* bar() const { return static_cast<QProgressBar*>(widget()); }
+    Gauge* bar() const { return static_cast<Gauge*>(widget()); }
 };
 
 /// A percentage as a bar, its own number in it also where the bar can show no more than full or no less than empty.
@@ -125,6 +165,21 @@ private:
     QLabel* word_;
 };
 
+/// Room for a view that the document's window puts into it.
+class ViewControl : public FormControl {
+public:
+    ViewControl(FormStateBase& state, int index) : FormControl(state, index, new QWidget) {
+        auto* layout = new QVBoxLayout(widget());
+        layout->setContentsMargins(0, 0, 0, 0);
+        widget()->setMinimumSize(widthOfCharacters(widget(), 40), 12 * widget()->fontMetrics().lineSpacing());
+    }
+
+    QList<QWidget*> focusWidgets() const override { return {}; }
+
+protected:
+    void showState(const ControlState&) override {}
+};
+
 }  // namespace
 
 std::unique_ptr<FormControl> makeShownControl(FormStateBase& state, int index) {
@@ -135,6 +190,8 @@ std::unique_ptr<FormControl> makeShownControl(FormStateBase& state, int index) {
             return std::make_unique<ProgressControl>(state, index);
         case ControlKind::rating:
             return std::make_unique<RatingControl>(state, index);
+        case ControlKind::view:
+            return std::make_unique<ViewControl>(state, index);
         default:
             return std::make_unique<ReadOnlyControl>(state, index);
     }

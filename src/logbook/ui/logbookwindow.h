@@ -5,31 +5,51 @@
 
 #include <functional>
 
+class QSplitter;
+
 namespace tavrel {
 
+class DiveDetails;
+class DiveWindows;
 class ProfileCommands;
 class RenumberWindow;
 
-/// The window of a logbook: that of a book, with imports, the windows of a dive's profile, and the renumbering window,
-/// which is made when it is asked for first.
+/// The window of a logbook: that of a book, with imports, the details of the selected dive below the table, the windows
+/// of what the dives tell and of a dive's profile, and the renumbering window, which is made when it is asked for
+/// first.
 class LogbookWindow : public BookWindow {
     Q_OBJECT
 
 public:
     LogbookWindow(Carnet& carnet, Desktop& desktop);
+    ~LogbookWindow() override;
 
     /// An import that the toolbars have no item for; the File menu shows it behind theirs.
     void addImport(const QString& title, const std::function<void()>& command);
 
     RenumberWindow& renumberWindow();
     ProfileCommands& profileCommands() { return *profile_; }
+    DiveWindows& diveWindows() { return *dives_; }
+    DiveDetails& details() { return *details_; }
+    /// Asks of which dives, then shows their card.
+    void showCard() override;
 
+    QList<QAction*> ownMenuActions() override;
+    QList<QAction*> viewActions() override;
     QList<QAction*> importActions() override;
     QList<QWidget*> furtherWindows() override;
 
 private:
+    void addDetails();
+    void restoreDetails();
+    void showSelectedDive();
+
     Carnet& carnet_;
     ProfileCommands* profile_;
+    DiveWindows* dives_;
+    QSplitter* panes_;
+    DiveDetails* details_;
+    QAction* detailsShown_ = nullptr;
     RenumberWindow* renumberWindow_ = nullptr;
     QList<QAction*> furtherImports_;
 };

@@ -1,10 +1,15 @@
 #include "logbook/ui/profilecommands.h"
 
+#include "book/ui/bookeditwindow.h"
 #include "desktop/ui/bringtofront.h"
 #include "logbook/diveprofile.h"
 #include "logbook/ui/logbookwindow.h"
 #include "profile/ui/profileeditorwindow.h"
+#include "profile/ui/profileview.h"
 #include "profile/ui/profilewindow.h"
+
+#include <QEvent>
+#include <QLayout>
 
 namespace tavrel {
 
@@ -20,6 +25,7 @@ ProfileCommands::ProfileCommands(Carnet& carnet, LogbookWindow& window, Desktop&
     : QObject(&window), carnet_(carnet), desktop_(desktop) {
     window.provideCommand(QStringLiteral("profil"), [this] { displayProfilWindow(); });
     window.provideCommand(QStringLiteral("profilData"), [this] { profilInfo(); });
+    connect(&window, &LogbookWindow::editWindowMade, this, &ProfileCommands::placeFormView);
     const FormStateBase& state = carnet.form().state();
     connect(&state, &FormStateBase::refreshed, this, &ProfileCommands::scheduleRefresh);
     connect(&state, &FormStateBase::controlChanged, this, &ProfileCommands::scheduleRefresh);
@@ -29,6 +35,20 @@ ProfileCommands::ProfileCommands(Carnet& carnet, LogbookWindow& window, Desktop&
 }
 
 ProfileCommands::~ProfileCommands() = default;
+
+void ProfileCommands::placeFormView(BookEditWindow& window) {
+    formView_ = new ProfileView;
+    QWidget* room = window.pages().widget(carnet_.form().controls().profilView.index);
+    room->layout()->addWidget(formView_);
+    formView_->installEventFilter(this);
+}
+
+bool ProfileCommands::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == formView_ && event->type() == QEvent::Show) {
+        scheduleRefresh();
+    }
+    return QObject::eventFilter(watched, event);
+}
 
 ProfileWindow& ProfileCommands::profileWindow() {
     if (!profileWindow_) {
@@ -85,10 +105,14 @@ void ProfileCommands::scheduleRefresh() {
 
 void ProfileCommands::refresh() {
     const qint32 number = numberIn(carnet_.form());
-    if (profileWindow_ && profileWindow_->isVisible()) {
-        profileWindow_->setProfile(profileDiveOf(carnet_.form()), ProfileStyle::read(desktop_.preferences),
-                                   profileTitle(number));
-    }
+    const auto show = [&](auto* shown) {
+        if (shown && shown->isVisible()) {
+            shown->setProfile(profileDiveOf(carnet_.form()), ProfileStyle::read(desktop_.preferences),
+                              profileTitle(number));
+        }
+    };
+    show(profileWindow_.get());
+    show(formView_);
     if (editorWindow_ && editorWindow_->isVisible()) {
         editorWindow_->followDive(carnet_.form().profile(), number);
     }

@@ -9,14 +9,17 @@ class QWidget;
 
 namespace tavrel {
 
+class BookEditWindow;
 class Carnet;
 struct Desktop;
 class LogbookWindow;
 class ProfileEditorWindow;
+class ProfileView;
 class ProfileWindow;
 
-/// The two windows of a logbook that show the profile of the dive in its form: the picture and the editor of its
-/// series, each made when it is asked for first. They follow the form. Gives the logbook's toolbars their commands.
+/// What shows the profile of the dive in a logbook's form: the view on the form itself, and two windows, the picture
+/// and the editor of its series, each made when it is asked for first. They follow the form. Gives the logbook's
+/// toolbars their commands.
 class ProfileCommands : public QObject {
     Q_OBJECT
 
@@ -24,15 +27,20 @@ public:
     ProfileCommands(Carnet& carnet, LogbookWindow& window, Desktop& desktop);
     ~ProfileCommands() override;
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
     void displayProfilWindow();
     void profilInfo();
 
     ProfileWindow& profileWindow();
     ProfileEditorWindow& editorWindow();
+    /// On the form; null while its window was never opened.
+    ProfileView* formView() const { return formView_; }
     /// Those that were made.
     QList<QWidget*> windows() const;
 
 private:
+    void placeFormView(BookEditWindow& window);
     void scheduleRefresh();
     void refresh();
 
@@ -40,6 +48,7 @@ private:
     Desktop& desktop_;
     std::unique_ptr<ProfileWindow> profileWindow_;
     std::unique_ptr<ProfileEditorWindow> editorWindow_;
+    ProfileView* formView_ = nullptr;
     bool refreshScheduled_ = false;
 };
 

@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tavrel {
@@ -17,14 +18,41 @@ ProfileView::ProfileView(QWidget* parent) : DrawingView(parent) {
 }
 
 void ProfileView::setProfile(const ProfileDive& dive, const ProfileStyle& style, const QString& title) {
-    const ProfileGeometry geometry = profileGeometry(dive, style);
-    scale_ = geometry.scale;
+    geometry_ = profileGeometry(dive, style);
+    dive_ = dive;
+    style_ = style;
+    title_ = title;
+    letters_ = lettersThatFit();
     samples_ = std::make_shared<const ProfileSamples>(dive);
     marked_.reset();
-    Drawing drawing = profileDrawing(geometry, dive, style);
-    drawing.title = title;
-    setDrawing(std::move(drawing));
+    redraw();
     Q_EMIT sampleMarked();
+}
+
+/// As large as it takes to be read in a small view.
+double ProfileView::lettersThatFit() const {
+    constexpr double smallest = 8.5 / 11;  // of their usual size
+    const QSizeF space(ProfileSpace::fullWidth, ProfileSpace::fullHeight);
+    const double scale = std::min(width() / space.width(), height() / space.height());
+    // In steps, so that a view that is drawn larger is not drawn anew all the time.
+    return scale > 0 ? std::clamp(std::ceil(10 * smallest / scale) / 10, 1.0, 2.0) : 1;
+}
+
+void ProfileView::redraw() {
+    Drawing drawing = profileDrawing(geometry_, dive_, style_, letters_);
+    drawing.title = title_;
+    setDrawing(std::move(drawing));
+    if (marked_) {
+        setAccessibleDescription(markedWords());
+    }
+}
+
+void ProfileView::resizeEvent(QResizeEvent* event) {
+    DrawingView::resizeEvent(event);
+    if (const double letters = lettersThatFit(); samples_ && letters != letters_) {
+        letters_ = letters;
+        redraw();
+    }
 }
 
 void ProfileView::markSample(int sample) {
@@ -49,12 +77,12 @@ QString ProfileView::markedWords() const {
 
 void ProfileView::mouseMoveEvent(QMouseEvent* event) {
     const QPointF point = pointAt(event->position());
-    markSample(sampleNear(point, scale_));
+    markSample(sampleNear(point, scale()));
     Q_EMIT pointerMoved(point);
 }
 
 void ProfileView::keyPressEvent(QKeyEvent* event) {
-    const int last = scale_.samples - 1;
+    const int last = geometry_.scale.samples - 1;
     const int step = event->modifiers() & Qt::ControlModifier ? 10 : 1;
     switch (event->key()) {
         case Qt::Key_Right:
@@ -78,8 +106,8 @@ void ProfileView::paintOver(QPainter& painter) {
     if (!marked_) {
         return;
     }
-    const double x = scale_.x(*marked_);
-    const double y = scale_.y(samples_->at(*marked_).depth);
+    const double x = geometry_.scale.x(*marked_);
+    const double y = geometry_.scale.y(samples_->at(*marked_).depth);
     // Dark with a light edge, so that it shows on every background.
     for (const auto& [colour, width] :
          {std::pair(QColor(255, 255, 255, 200), 2.4), std::pair(QColor(Qt::black), 1.0)}) {

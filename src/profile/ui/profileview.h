@@ -1,6 +1,7 @@
 #pragma once
 
 #include "drawing/ui/drawingview.h"
+#include "profile/profilegeometry.h"
 #include "profile/profilereadout.h"
 #include "profile/profilesample.h"
 #include "profile/profilestyle.h"
@@ -21,7 +22,7 @@ public:
     /// Shows a profile. The title stands for it to screen readers.
     void setProfile(const ProfileDive& dive, const ProfileStyle& style, const QString& title);
 
-    const ProfileScale& scale() const { return scale_; }
+    const ProfileScale& scale() const { return geometry_.scale; }
     /// The sample that is marked; nothing while none is, or without a profile.
     std::optional<int> markedSample() const { return marked_; }
     void markSample(int sample);
@@ -37,10 +38,18 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintOver(QPainter& painter) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    double lettersThatFit() const;
+    void redraw();
+
+    ProfileGeometry geometry_;
+    ProfileDive dive_;
+    ProfileStyle style_;
+    QString title_;
+    double letters_ = 1;
     std::shared_ptr<const ProfileSamples> samples_;
-    ProfileScale scale_;
     std::optional<int> marked_;
 };
 

@@ -2,6 +2,7 @@
 
 #include "book/ui/bookactions.h"
 #include "desktop/ui/customtoolbar.h"
+#include "forms/formentry.h"
 #include "forms/ui/datepicker.h"
 #include "forms/ui/listcombo.h"
 #include "logbook/carnet.h"
@@ -145,7 +146,7 @@ TEST_F(BookEditWindowTest, bindsEveryControlOfTheTableOnceAndBothWays) {
         EXPECT_FALSE(bound->accessibleName().isEmpty());
         const int page = controls.groups()[static_cast<std::size_t>(group)].page;
         EXPECT_TRUE(window.pages().page(page)->isAncestorOf(bound));
-        if (control.kind == ControlKind::readOnly || control.kind == ControlKind::button) {
+        if (!takesEntries(control.kind)) {
             continue;
         }
         window.goView(page);
@@ -238,7 +239,7 @@ TEST_F(BookEditWindowTest, leavesValuesAloneThatNobodyChanged) {
     EXPECT_EQ(find<QComboBox>(controls.typePlongeePopUp)->currentIndex(), -1);
     for (int index = 0; index < static_cast<int>(placed().size()); ++index) {
         const auto kind = placed()[static_cast<std::size_t>(index)].control.kind;
-        if (kind == ControlKind::readOnly || kind == ControlKind::button) {
+        if (!takesEntries(kind)) {
             continue;
         }
         window.goView(window.pages().pageOf(index));
