@@ -78,7 +78,7 @@
 <message><source>File permission denied</source><translation>You do not have permission to do so.</translation></message>
 <message><source>File system read-only</source><translation>The disk is write-protected.</translation></message>
 <message><source>Filter</source><translation>Filter</translation></message>
-<message><source>Filter hint</source><translation>Filter: words in any field, or depth&gt;30, date:2023</translation></message>
+<message><source>Filter hint</source><translation>Filter: words in any field, or field:word</translation></message>
 <message><source>Filter menu</source><translation>Kept filters and fields</translation></message>
 <message><source>Filter name</source><translation>Name of the filter:</translation></message>
 <message><source>Filter one field</source><translation>In One Field</translation></message>

@@ -78,7 +78,7 @@
 <message><source>File permission denied</source><translation>Vous n’en avez pas l’autorisation.</translation></message>
 <message><source>File system read-only</source><translation>Le disque est protégé en écriture.</translation></message>
 <message><source>Filter</source><translation>Filtre</translation></message>
-<message><source>Filter hint</source><translation>Filtrer : des mots dans tous les champs, ou profondeur&gt;30, date:2023</translation></message>
+<message><source>Filter hint</source><translation>Filtrer : des mots dans tous les champs, ou champ:mot</translation></message>
 <message><source>Filter menu</source><translation>Filtres conservés et champs</translation></message>
 <message><source>Filter name</source><translation>Nom du filtre :</translation></message>
 <message><source>Filter one field</source><translation>Dans un champ</translation></message>

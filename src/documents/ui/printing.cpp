@@ -88,7 +88,8 @@ QFont inPixels(QFont font) {
 Sheet sheetFor(const QTableView& table, const QPrinter& printer, double scale) {
     constexpr double mostShrunk = 0.6;
     const Sheet sheet(printer, table, scale);
-    const double fitting = sheet.size.width() / std::max(1, table.horizontalHeader()->length());
+    // One pixel more, so that rounding leaves no column over.
+    const double fitting = sheet.size.width() / (table.horizontalHeader()->length() + 1);
     return fitting >= 1 || fitting < mostShrunk ? sheet : Sheet(printer, table, scale * fitting);
 }
 

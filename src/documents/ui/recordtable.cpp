@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <cmath>
 #include <memory>
 #include <utility>
 
@@ -103,7 +104,7 @@ private:
         layout.endLayout();
         painter.save();
         painter.setPen(plain);
-        layout.draw(&painter, QPointF(inside.left(), inside.top() + (inside.height() - only.height()) / 2));
+        layout.draw(&painter, QPointF(inside.left(), inside.top() + std::floor((inside.height() - only.height()) / 2)));
         painter.restore();
     }
 
