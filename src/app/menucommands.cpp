@@ -3,6 +3,7 @@
 #include "app/appdelegate.h"
 #include "app/mydocumentcontroller.h"
 #include "documents/ui/printing.h"
+#include "logbook/ui/convertunitswindow.h"
 
 #include <QApplication>
 
@@ -27,6 +28,10 @@ void quit(Context& context) {
     if (context.documents.closeAllDocuments()) {
         QApplication::quit();
     }
+}
+
+void convertUnits(Context& context) {
+    ConvertUnitsWindow(static_cast<Carnet&>(context.window.document()), &context.window).exec();
 }
 
 const MenuEntry entries[] = {
@@ -60,6 +65,8 @@ const MenuEntry entries[] = {
      true},
     {Menu::edit, Part::separator},
     {Menu::edit, Part::editActions},
+    {Menu::edit, Part::command, "convertUnits", Title("Main", "Menu convert units"), "", "", convertUnits, nullptr,
+     "Plongee"},
     {Menu::edit, Part::separator},
     {Menu::edit, Part::command, "showPreferencePanel", Title("Main", "Menu preferences"), "Ctrl+,",
      "GeneralPreferences", [](Context& context) { context.documents.showPreferencePanel(); }, nullptr, "", true},

@@ -43,13 +43,19 @@
 <message><source>Mixes in color</source><translation>Dives on a mix or a rebreather in colour</translation></message>
 <message><source>Months</source><translation>months</translation></message>
 <message><source>New dives</source><translation>New dives</translation></message>
+<message><source>Note US units</source><translation>The numbers stored are taken to be in these units; switching converts nothing. Edit &gt; Convert Units… converts a logbook.</translation></message>
+<message><source>Off</source><translation>off</translation></message>
+<message><source>On</source><translation>on</translation></message>
 <message><source>Opacity</source><translation>Opacity</translation></message>
 <message><source>Oxygen cells</source><translation>Oxygen cells</translation></message>
 <message><source>Percent</source><translation>%%</translation></message>
 <message><source>Plot color</source><translation>Line</translation></message>
 <message><source>Reset</source><translation>Reset All…</translation></message>
 <message><source>Reset answer</source><translation>Reset</translation></message>
-<message><source>Reset question</source><translation>Give all settings of all pages their standard values?</translation></message>
+<message><source>Reset change</source><translation>%@ – %@: %@ → %@</translation></message>
+<message><source>Reset more</source><translation>and %d more</translation></message>
+<message><source>Reset nothing</source><translation>Every setting has its standard value already.</translation></message>
+<message><source>Reset question</source><translation>Give all settings of all pages their standard values? This changes:</translation></message>
 <message><source>Stop interval</source><translation>Distance between stops</translation></message>
 <message><source>Tank pressure</source><translation>Tank pressure</translation></message>
 <message><source>Tank volume</source><translation>Tank volume</translation></message>

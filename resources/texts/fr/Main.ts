@@ -101,6 +101,7 @@
 <message><source>Menu clear recent</source><translation>Effacer la liste</translation></message>
 <message><source>Menu close</source><translation>Fermer</translation></message>
 <message><source>Menu columns</source><translation>Colonnes</translation></message>
+<message><source>Menu convert units</source><translation>Convertir les unités…</translation></message>
 <message><source>Menu copy</source><translation>Copier</translation></message>
 <message><source>Menu delete cards</source><translation>Supprimer les fiches…</translation></message>
 <message><source>Menu edit</source><translation>Édition</translation></message>

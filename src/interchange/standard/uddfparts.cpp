@@ -2,9 +2,9 @@
 
 #include "base/numbers.h"
 #include "calculators/gps.h"
+#include "calculators/position.h"
 #include "interchange/standard/divetanks.h"
 #include "interchange/standard/gasmix.h"
-#include "interchange/standard/position.h"
 #include "interchange/standard/uddfwords.h"
 
 #include <algorithm>
