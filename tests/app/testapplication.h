@@ -44,16 +44,18 @@ public:
     void printDocument() override { ++prints; }
     QString ownMenuTitle() const override { return QStringLiteral("Dive"); }
     QList<QWidget*> furtherWindows() override { return {&further}; }
-    bool leaveEditing(Settling next) override {
-        settled.append(next);
-        return leaves;
+    std::optional<Entries> askAboutEntries(Settling next) override {
+        asked.append(next);
+        return entries;
     }
+    void settleEntries(Entries entriesSettled) override { settled.append(entriesSettled); }
 
     QWidget further;
     int prints = 0;
-    QList<Settling> settled;
-    bool leaves = true;  ///< what is being entered, when asked
-    FileTaken isTaken;   ///< given when the export is shown
+    QList<Settling> asked;
+    QList<Entries> settled;
+    std::optional<Entries> entries = Entries::none;  ///< the answer about what is being entered
+    FileTaken isTaken;                               ///< given when the export is shown
     QStringList takenIn;
 };
 
