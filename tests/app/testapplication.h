@@ -55,7 +55,7 @@ public:
     QList<Settling> asked;
     QList<Entries> settled;
     std::optional<Entries> entries = Entries::none;  ///< the answer about what is being entered
-    FileTaken isTaken;   ///< given when the export is shown
+    FileTaken isTaken;                               ///< given when the export is shown
     QStringList takenIn;
 };
 
