@@ -4,10 +4,12 @@
 #include "app/recentdocuments.h"
 #include "desktop/ui/filedialogs.h"
 
+#include <QHash>
 #include <QObject>
 #include <QSet>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace tavrel {
@@ -27,6 +29,8 @@ public:
     const DocumentTypes& types() const { return types_; }
     /// The windows of the open documents, in the order in which they were opened.
     QList<DocumentWindow*> windows() const;
+    /// How often the open documents use each entry of a shared list; nothing while none is open.
+    std::optional<QHash<QString, int>> pickListUsage(PickList list) const;
     const DocumentType& typeOf(const DocumentWindow& window) const;
     RecentDocuments& recentDocuments() { return recentDocuments_; }
 

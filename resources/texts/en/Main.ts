@@ -9,11 +9,14 @@
 <message><source>Add</source><translation>Add</translation></message>
 <message><source>Add entry</source><translation>Add</translation></message>
 <message><source>Add item to ComboBox</source><translation>Add “%@” to the list?</translation></message>
+<message><source>Add item to which list</source><translation>The list is “%@”. Its window, in the menu Lists, can settle this once for all.</translation></message>
 <message><source>Add new card question</source><translation>The form holds a new card that is not in the list yet.</translation></message>
 <message><source>Add second</source><translation>Add Second</translation></message>
 <message><source>Add to toolbar</source><translation>Add to the toolbar</translation></message>
 <message><source>All documents</source><translation>All documents</translation></message>
 <message><source>All files</source><translation>All files</translation></message>
+<message><source>Answer no</source><translation>&amp;No</translation></message>
+<message><source>Answer yes</source><translation>&amp;Yes</translation></message>
 <message><source>Brands</source><translation>Brands</translation></message>
 <message><source>Buddies</source><translation>Buddies</translation></message>
 <message><source>Cancel</source><translation>Cancel</translation></message>
@@ -98,7 +101,7 @@
 <message><source>Menu clear recent</source><translation>Clear List</translation></message>
 <message><source>Menu close</source><translation>Close</translation></message>
 <message><source>Menu columns</source><translation>Columns</translation></message>
-<message><source>Menu convert units</source><translation>Convert units…</translation></message>
+<message><source>Menu convert units</source><translation>Convert Units…</translation></message>
 <message><source>Menu copy</source><translation>Copy</translation></message>
 <message><source>Menu delete cards</source><translation>Delete Cards…</translation></message>
 <message><source>Menu edit</source><translation>Edit</translation></message>
@@ -122,7 +125,7 @@
 <message><source>Menu print</source><translation>&amp;Print…</translation></message>
 <message><source>Menu quit</source><translation>Quit</translation></message>
 <message><source>Menu renumber</source><translation>Renumber Dives…</translation></message>
-<message><source>Menu revert</source><translation>Revert to Saved</translation></message>
+<message><source>Menu revert</source><translation>Revert to Saved…</translation></message>
 <message><source>Menu save as</source><translation>Save As…</translation></message>
 <message><source>Menu select all</source><translation>Select All</translation></message>
 <message><source>Menu view</source><translation>View</translation></message>
@@ -130,6 +133,10 @@
 <message><source>Move down</source><translation>Move towards the end</translation></message>
 <message><source>Move up</source><translation>Move towards the front</translation></message>
 <message><source>New entry</source><translation>New entry</translation></message>
+<message><source>New words</source><translation>&amp;When a form meets a new word:</translation></message>
+<message><source>New words always</source><translation>Always add it</translation></message>
+<message><source>New words ask</source><translation>Ask</translation></message>
+<message><source>New words never</source><translation>Never add it</translation></message>
 <message><source>Next</source><translation>Next</translation></message>
 <message><source>No</source><translation>No</translation></message>
 <message><source>No Mac OS Roman</source><translation>This system cannot convert text to Mac OS Roman.</translation></message>
@@ -174,6 +181,7 @@
 <message><source>Redo</source><translation>Redo</translation></message>
 <message><source>Redo step</source><translation>Redo %@</translation></message>
 <message><source>Remove from toolbar</source><translation>Remove from the toolbar</translation></message>
+<message><source>Rename entry hint</source><translation>Double-click or F2 renames an entry.</translation></message>
 <message><source>Revert</source><translation>Revert</translation></message>
 <message><source>Revert question</source><translation>Revert “%@” to the saved version? Your changes will be lost.</translation></message>
 <message><source>Revisions</source><translation>%d services</translation></message>
@@ -229,6 +237,8 @@
 <message><source>Unknown kind of document</source><translation>It is a kind of document that Tavrel does not know.</translation></message>
 <message><source>Untitled</source><translation>Untitled</translation></message>
 <message><source>Update</source><translation>Update</translation></message>
+<message><source>Used in records</source><translation>Used in %d records of the open documents</translation></message>
+<message><source>Used so often</source><translation>%d×</translation></message>
 <message><source>Wreck types</source><translation>Wreck Types</translation></message>
 <message><source>Wrecks</source><translation>Wrecks</translation></message>
 <message><source>XML file beyond limits</source><translation>The XML file nests or grows beyond all reason and was not read.</translation></message>

@@ -124,6 +124,7 @@ int main(int argc, char** argv) {
     SystemFileDialogs fileDialogs;
     MyDocumentController documents(desktop, fileDialogs, tavrelDocuments(fileDialogs));
     AppDelegate delegate(desktop);
+    delegate.countUsageWith([&](PickList list) { return documents.pickListUsage(list); });
     QObject::connect(&documents, &MyDocumentController::windowOpened, &documents,
                      [&](DocumentWindow* window) { new WindowMenus(documents, delegate, *window); });
     QObject::connect(&instances, &InstanceServer::handedOver, &documents,
