@@ -2,6 +2,7 @@
 
 #include "app/documenttypes.h"
 #include "app/recentdocuments.h"
+#include "desktop/picklists.h"
 #include "desktop/ui/filedialogs.h"
 
 #include <QHash>
