@@ -2,6 +2,7 @@
 
 #include "app/appdelegate.h"
 #include "app/mydocumentcontroller.h"
+#include "base/paths.h"
 #include "documents/ui/printing.h"
 #include "logbook/ui/convertunitswindow.h"
 
@@ -18,6 +19,11 @@ using Part = MenuPart;
 bool canRevert(Context& context) {
     const Document& document = context.window.document();
     return !document.file().isEmpty() && document.isChanged();
+}
+
+bool canRevertToBackup(Context& context) {
+    const Document& document = context.window.document();
+    return !document.file().isEmpty() && pathExists(document.backupFile());
 }
 
 bool canExport(Context& context) {
@@ -48,6 +54,8 @@ const MenuEntry entries[] = {
      [](Context& context) { context.documents.saveDocumentAs(context.window); }, nullptr, "", true},
     {Menu::file, Part::command, "revertDocumentToSaved", Title("Main", "Menu revert"), "", "",
      [](Context& context) { context.documents.revertDocument(context.window); }, canRevert},
+    {Menu::file, Part::command, "revertDocumentToBackup", Title("Main", "Menu revert to backup"), "", "",
+     [](Context& context) { context.documents.revertToBackup(context.window); }, canRevertToBackup},
     {Menu::file, Part::separator},
     {Menu::file, Part::imports, "import", Title("Main", "Menu import")},
     {Menu::file, Part::command, "exportDocument", Title("Main", "Menu export"), "", "",

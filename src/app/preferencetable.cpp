@@ -4,6 +4,7 @@
 #include "base/numbers.h"
 #include "desktop/commonsettings.h"
 #include "desktop/preferences.h"
+#include "documents/documentsettings.h"
 #include "logbook/logbooksettings.h"
 #include "profile/profilesettings.h"
 
@@ -24,6 +25,7 @@ constexpr Title none;
 constexpr std::span<const Title> noChoices;
 
 constexpr Title newDives("Preferences", "New dives");
+constexpr Title files("Preferences", "Files");
 constexpr Title units("Preferences", "Units");
 constexpr Title depthAndTime("Preferences", "Depth and time");
 constexpr Title chosenText("Preferences", "Chosen text");
@@ -45,6 +47,7 @@ const PreferenceKey keys[] = {
     {&settings::newDiveFromLast, "newDiveFromLastSwitch", 1, Tell::none, newDives,
      Title("Preferences", "New dive from last"), none, nullptr, noChoices, true,
      Title("Preferences", "Note new dive from last")},
+    {&settings::keepsBackup, "keepBackupSwitch", 1, Tell::none, files, Title("Preferences", "Keep backup")},
     {&settings::usUnits, "usUnitsSwitch", 1, Tell::all, units, Title("Preferences", "US units"), none, nullptr,
      noChoices, true, Title("Preferences", "Note US units")},
     {&settings::displayUnits, "displayUnitsSwitch", 1, Tell::tableView, units,

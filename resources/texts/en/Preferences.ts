@@ -25,6 +25,7 @@
 <message><source>Depth and time</source><translation>Depth and time</translation></message>
 <message><source>Depth and time in color</source><translation>Depths and times in colour</translation></message>
 <message><source>Dives abroad in color</source><translation>Dives abroad in colour</translation></message>
+<message><source>Files</source><translation>Files</translation></message>
 <message><source>Fill color</source><translation>Fill</translation></message>
 <message><source>Fill the curve</source><translation>Fill the area under the profile</translation></message>
 <message><source>Gradient factors</source><translation>Gradient factors of new dives</translation></message>
@@ -32,6 +33,7 @@
 <message><source>Grid</source><translation>Grid</translation></message>
 <message><source>High gradient factor</source><translation>High</translation></message>
 <message><source>Home country code</source><translation>Home country code</translation></message>
+<message><source>Keep backup</source><translation>Keep the previous file as a backup</translation></message>
 <message><source>Kinds of dives</source><translation>Kinds of dives</translation></message>
 <message><source>Litres</source><translation>l</translation></message>
 <message><source>Low gradient factor</source><translation>Low</translation></message>

@@ -25,6 +25,7 @@
 <message><source>Depth and time</source><translation>Profondeur et durée</translation></message>
 <message><source>Depth and time in color</source><translation>Profondeurs et durées en couleur</translation></message>
 <message><source>Dives abroad in color</source><translation>Plongées à l’étranger en couleur</translation></message>
+<message><source>Files</source><translation>Fichiers</translation></message>
 <message><source>Fill color</source><translation>Remplissage</translation></message>
 <message><source>Fill the curve</source><translation>Remplir l’aire sous le profil</translation></message>
 <message><source>Gradient factors</source><translation>Facteurs de gradient des nouvelles plongées</translation></message>
@@ -32,6 +33,7 @@
 <message><source>Grid</source><translation>Grille</translation></message>
 <message><source>High gradient factor</source><translation>Haut</translation></message>
 <message><source>Home country code</source><translation>Code du pays d’origine</translation></message>
+<message><source>Keep backup</source><translation>Conserver le fichier précédent comme copie de secours</translation></message>
 <message><source>Kinds of dives</source><translation>Types de plongées</translation></message>
 <message><source>Litres</source><translation>l</translation></message>
 <message><source>Low gradient factor</source><translation>Bas</translation></message>

@@ -46,7 +46,8 @@ public:
     /// Deselects all records and prints the table, landscape.
     void printDocument() override;
     QList<QWidget*> furtherWindows() override;
-    bool leaveEditing(Settling next) override;
+    std::optional<Entries> askAboutEntries(Settling next) override;
+    void settleEntries(Entries entries) override;
 
 Q_SIGNALS:
     /// The edit window was asked for first and is there.
