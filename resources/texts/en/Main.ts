@@ -103,7 +103,7 @@
 <message><source>Menu clear recent</source><translation>Clear List</translation></message>
 <message><source>Menu close</source><translation>Close</translation></message>
 <message><source>Menu columns</source><translation>Columns</translation></message>
-<message><source>Menu convert units</source><translation>Convert units…</translation></message>
+<message><source>Menu convert units</source><translation>Convert Units…</translation></message>
 <message><source>Menu copy</source><translation>Copy</translation></message>
 <message><source>Menu delete cards</source><translation>Delete Cards…</translation></message>
 <message><source>Menu edit</source><translation>Edit</translation></message>
