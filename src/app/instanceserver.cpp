@@ -1,19 +1,22 @@
 #include "app/instanceserver.h"
 
 #include <QDataStream>
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QLocalSocket>
 #include <QStandardPaths>
+#include <QThread>
 
+#include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace tavrel {
 
 namespace {
 
-constexpr int patience = 3000;  // milliseconds that a program may take to answer
 constexpr QDataStream::Version wireVersion = QDataStream::Qt_6_4;
 constexpr char taken = '+';
 constexpr qint64 longestMessage = 1 << 20;
@@ -26,11 +29,14 @@ QString userSocket() {
 /// Lets programs that start at the same moment look for the one that runs one after the other.
 class StartLock {
 public:
-    explicit StartLock(const QString& socket)
-        : file_(::open(QFile::encodeName(socket + QStringLiteral(".lock")).constData(), O_RDWR | O_CREAT | O_CLOEXEC,
-                       0600)) {
-        if (file_ >= 0) {
-            ::flock(file_, LOCK_EX);
+    /// One that holds it for longer than that hangs, and is waited for no more.
+    StartLock(const QString& socket, int patience)
+        : file_(::open(QFile::encodeName(socket + QStringLiteral(".lock")).constData(),
+                       O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW, 0600)) {
+        const QDeadlineTimer deadline(patience);
+        constexpr unsigned long pause = 20;
+        while (file_ >= 0 && ::flock(file_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK && !deadline.hasExpired()) {
+            QThread::msleep(pause);
         }
     }
     StartLock(const StartLock&) = delete;
@@ -45,32 +51,46 @@ private:
     int file_;
 };
 
+/// The first of a row of names that a socket bears or nothing does: the same one for every program.
+QString freeName(const QString& name) {
+    QString tried = name;
+    for (int number = 2;; ++number) {
+        struct stat status {};
+        if (::lstat(QFile::encodeName(tried).constData(), &status) != 0 || S_ISSOCK(status.st_mode)) {
+            return tried;
+        }
+        tried = name + u'-' + QString::number(number);
+    }
+}
+
 }  // namespace
 
-InstanceServer::InstanceServer(const QString& socket) : socket_(socket.isEmpty() ? userSocket() : socket) {
+InstanceServer::InstanceServer(const QString& socket, StartPatience patience)
+    : socket_(freeName(socket.isEmpty() ? userSocket() : socket)), patience_(patience) {
     server_.setSocketOptions(QLocalServer::UserAccessOption);
     connect(&server_, &QLocalServer::newConnection, this, &InstanceServer::receive);
 }
 
-bool InstanceServer::handOver(const QStringList& files) {
+InstanceServer::HandedOver InstanceServer::handOver(const QStringList& files) {
     QLocalSocket socket;
     socket.connectToServer(socket_);
-    if (!socket.waitForConnected(patience)) {
-        return false;
+    if (!socket.waitForConnected(patience_.forConnection)) {
+        return HandedOver::toNobody;
     }
     QDataStream stream(&socket);
     stream.setVersion(wireVersion);
     stream << files;
     char answer = 0;
-    return socket.waitForReadyRead(patience) && socket.getChar(&answer) && answer == taken;
+    const bool answered = socket.waitForReadyRead(patience_.forAnswer) && socket.getChar(&answer) && answer == taken;
+    return answered ? HandedOver::taken : HandedOver::busy;
 }
 
 bool InstanceServer::listen() {
-    const StartLock oneAtATime(socket_);
+    const StartLock oneAtATime(socket_, patience_.forConnection);
     // Listening would push aside whoever listens already.
     QLocalSocket other;
     other.connectToServer(socket_);
-    if (other.waitForConnected(patience)) {
+    if (other.waitForConnected(patience_.forConnection)) {
         return false;
     }
     return QLocalServer::removeServer(socket_) && server_.listen(socket_);

@@ -2,7 +2,9 @@
 
 #include "app/appdelegate.h"
 #include "app/mydocumentcontroller.h"
+#include "base/paths.h"
 #include "documents/ui/printing.h"
+#include "logbook/ui/convertunitswindow.h"
 
 #include <QApplication>
 
@@ -19,6 +21,11 @@ bool canRevert(Context& context) {
     return !document.file().isEmpty() && document.isChanged();
 }
 
+bool canRevertToBackup(Context& context) {
+    const Document& document = context.window.document();
+    return !document.file().isEmpty() && pathExists(document.backupFile());
+}
+
 bool canExport(Context& context) {
     return !context.documents.exportFormats(context.window).isEmpty();
 }
@@ -27,6 +34,10 @@ void quit(Context& context) {
     if (context.documents.closeAllDocuments()) {
         QApplication::quit();
     }
+}
+
+void convertUnits(Context& context) {
+    ConvertUnitsWindow(static_cast<Carnet&>(context.window.document()), &context.window).exec();
 }
 
 const MenuEntry entries[] = {
@@ -43,6 +54,8 @@ const MenuEntry entries[] = {
      [](Context& context) { context.documents.saveDocumentAs(context.window); }, nullptr, "", true},
     {Menu::file, Part::command, "revertDocumentToSaved", Title("Main", "Menu revert"), "", "",
      [](Context& context) { context.documents.revertDocument(context.window); }, canRevert},
+    {Menu::file, Part::command, "revertDocumentToBackup", Title("Main", "Menu revert to backup"), "", "",
+     [](Context& context) { context.documents.revertToBackup(context.window); }, canRevertToBackup},
     {Menu::file, Part::separator},
     {Menu::file, Part::imports, "import", Title("Main", "Menu import")},
     {Menu::file, Part::command, "exportDocument", Title("Main", "Menu export"), "", "",
@@ -60,6 +73,8 @@ const MenuEntry entries[] = {
      true},
     {Menu::edit, Part::separator},
     {Menu::edit, Part::editActions},
+    {Menu::edit, Part::command, "convertUnits", Title("Main", "Menu convert units"), "", "", convertUnits, nullptr,
+     "Plongee"},
     {Menu::edit, Part::separator},
     {Menu::edit, Part::command, "showPreferencePanel", Title("Main", "Menu preferences"), "Ctrl+,",
      "GeneralPreferences", [](Context& context) { context.documents.showPreferencePanel(); }, nullptr, "", true},

@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QScopeGuard>
 
 #include <algorithm>
 #include <functional>
@@ -52,10 +53,22 @@ bool hasOpenDialog(DocumentWindow& window) {
 
 }  // namespace
 
-MyDocumentController::MyDocumentController(Desktop& desktop, FileDialogs& fileDialogs, DocumentTypes types)
-    : desktop_(desktop), fileDialogs_(fileDialogs), types_(std::move(types)), recentDocuments_(desktop.preferences) {}
+MyDocumentController::MyDocumentController(Desktop& desktop, FileDialogs& fileDialogs, DocumentTypes types,
+                                           const QString& journals, JournalPace::Times times)
+    : desktop_(desktop),
+      fileDialogs_(fileDialogs),
+      types_(std::move(types)),
+      recentDocuments_(desktop.preferences),
+      journals_(journals, times) {}
 
-MyDocumentController::~MyDocumentController() = default;
+MyDocumentController::~MyDocumentController() {
+    // A signal ends the program with its windows open. What their journals keep stays for the next start.
+    for (OpenDocument& each : open_) {
+        each.journal.reset();
+        // Closed while whole: what closing tells others makes them ask the window.
+        each.window->closeWithDocument();
+    }
+}
 
 QList<DocumentWindow*> MyDocumentController::windows() const {
     QList<DocumentWindow*> windows;
@@ -92,11 +105,16 @@ void MyDocumentController::newDocumentOfType(const DocumentType& type) {
 DocumentWindow* MyDocumentController::addWindow(const DocumentType& type, std::unique_ptr<Document> document) {
     auto window = type.makeWindow(*document, desktop_);
     DocumentWindow* added = window.get();
-    open_.push_back({&type, std::move(document), std::move(window)});
+    auto journal = std::make_unique<Journal>(journals_, *document, QString::fromLatin1(type.recordClass));
+    open_.push_back({&type, std::move(document), std::move(window), std::move(journal)});
+    connect(&added->document(), &Document::touched, this, [this, added] { ++touches_[added]; });
     connect(added, &DocumentWindow::closeRequested, this, [this, added] { closeDocument(*added); });
     connect(added, &DocumentWindow::filesDropped, this, &MyDocumentController::openFiles);
     connect(added, &DocumentWindow::saveRequested, this, [this, added] { saveDocument(*added); });
     connect(&added->document(), &Document::fileChanged, this, &MyDocumentController::windowsChanged);
+    connect(&added->document(), &Document::stateOnDiskChanged, added,
+            [this, added](FileIdentity::State state) { tellStateOnDisk(*added, state); });
+    added->document().watchFile();
     Q_EMIT windowOpened(added);
     bringToFront(added);
     Q_EMIT windowsChanged();
@@ -134,6 +152,9 @@ Expected<DocumentWindow*> MyDocumentController::open(const QString& file) {
         return tl::unexpected(type.error());
     }
     auto document = (*type)->makeDocument(desktop_);
+    if (!claim(*document, file)) {
+        return nullptr;
+    }
     const auto opened = withProgress(*document, QApplication::activeWindow(), Title("Main", "Loading"),
                                      [&] { return document->open(file); });
     if (!opened) {
@@ -233,43 +254,74 @@ bool MyDocumentController::isTaken(const QString& file, const DocumentWindow& wi
 }
 
 bool MyDocumentController::saveDocument(DocumentWindow& window) {
-    if (window.document().file().isEmpty()) {
-        return saveDocumentAs(window);
-    }
-    return window.leaveEditing(Settling::saving) && succeeded(window.document().save());
+    const auto entries = window.askAboutEntries(Settling::saving);
+    return entries && save(window, *entries);
 }
 
 bool MyDocumentController::saveDocumentAs(DocumentWindow& window) {
-    if (!window.leaveEditing(Settling::saving)) {
-        return false;
+    const auto entries = window.askAboutEntries(Settling::saving);
+    return entries && saveElsewhere(window, *entries);
+}
+
+bool MyDocumentController::save(DocumentWindow& window, Entries entries) {
+    Document& document = window.document();
+    if (document.file().isEmpty() || document.isReadOnly()) {
+        return saveElsewhere(window, entries);
     }
+    if (const auto state = document.stateOnDisk(); state != FileIdentity::State::same) {
+        return saveOverChange(window, state, entries);
+    }
+    window.settleEntries(entries);
+    return succeeded(document.save());
+}
+
+bool MyDocumentController::saveElsewhere(DocumentWindow& window, Entries entries) {
     Document& document = window.document();
     const DocumentType& type = typeOf(window);
     const QString proposal =
         document.file().isEmpty() ? document.displayName() + u'.' + QLatin1StringView(type.extension) : document.file();
     const auto chosen = fileDialogs_.fileToSave(&window, text("Main", "Save document as"), proposal, {filterOf(type)});
-    if (!chosen) {
+    if (!chosen || isTaken(chosen->file, window)) {
         return false;
     }
-    if (isTaken(chosen->file, window) || !succeeded(document.saveAs(chosen->file))) {
+    window.settleEntries(entries);
+    if (!succeeded(document.saveAs(chosen->file))) {
         return false;
     }
+    window.messageBar().tell({});
+    // Whoever has it open otherwise was written over by the user's choice.
+    static_cast<void>(document.claimFile(document.file()));
     recentDocuments_.note(document.file());
     return true;
 }
 
+bool MyDocumentController::reload(DocumentWindow& window, const QString& question,
+                                  const std::function<Expected<void>()>& read) {
+    const auto entries = window.askAboutEntries(Settling::leaving);
+    if (!entries) {
+        return false;
+    }
+    if (!question.isEmpty()) {
+        desktop_.alerts.beep();
+        if (desktop_.alerts.ask(question, {text("Main", "Revert"), text("Main", "Cancel")}) != 0) {
+            return false;
+        }
+    }
+    window.settleEntries(*entries);
+    const auto done = withProgress(window.document(), &window, Title("Main", "Loading"), read);
+    return done && succeeded(*done);
+}
+
 bool MyDocumentController::revertDocument(DocumentWindow& window) {
-    if (!window.leaveEditing(Settling::leaving)) {
-        return false;
-    }
     Document& document = window.document();
-    const QString question = textWith("Main", "Revert question", document.displayName());
-    desktop_.alerts.beep();
-    if (desktop_.alerts.ask(question, {text("Main", "Revert"), text("Main", "Cancel")}) != 0) {
-        return false;
-    }
-    const auto reverted = withProgress(document, &window, Title("Main", "Loading"), [&] { return document.revert(); });
-    return reverted && succeeded(*reverted);
+    return reload(window, textWith("Main", "Revert question", document.displayName()),
+                  [&] { return document.revert(); });
+}
+
+bool MyDocumentController::revertToBackup(DocumentWindow& window) {
+    Document& document = window.document();
+    return reload(window, textWith("Main", "Revert to backup question", document.displayName()),
+                  [&] { return document.revertToBackup(); });
 }
 
 QList<ExportFormat> MyDocumentController::exportFormats(DocumentWindow& window) const {
@@ -300,33 +352,38 @@ bool MyDocumentController::exportDocument(DocumentWindow& window) {
     return exported && succeeded(*exported);
 }
 
-bool MyDocumentController::mayClose(DocumentWindow& window) {
+std::optional<MyDocumentController::Parting> MyDocumentController::askBeforeClosing(DocumentWindow& window) {
     if (asked_.contains(&window) || hasOpenDialog(window)) {
         // What the user is asked there comes first.
         bringToFront(&window);
-        return false;
+        return std::nullopt;
     }
     asked_.insert(&window);
-    const bool goesOn = window.leaveEditing(Settling::leaving) && mayLoseChanges(window);
-    asked_.remove(&window);
-    return goesOn;
-}
-
-bool MyDocumentController::mayLoseChanges(DocumentWindow& window) {
-    Document& document = window.document();
-    if (!document.isChanged()) {
-        return true;
+    const auto asked = qScopeGuard([&] { asked_.remove(&window); });
+    const auto entries = window.askAboutEntries(Settling::leaving);
+    if (!entries) {
+        return std::nullopt;
+    }
+    const int touches = touches_[&window];
+    const Document& document = window.document();
+    if (!document.isChanged() && *entries != Entries::stored) {
+        return Parting{*entries, false, touches};
     }
     bringToFront(&window);
     desktop_.alerts.beep();
     const QString question = textWith("Main", "Save changes", document.displayName());
+    enum Answer { saveIt, leaveIt };
     const int answer =
         desktop_.alerts.ask(question, {text("Main", "Save"), text("Main", "Don't save"), text("Main", "Cancel")});
-    return answer == 0 ? saveDocument(window) : answer == 1;
+    if (answer != saveIt && answer != leaveIt) {
+        return std::nullopt;
+    }
+    return Parting{*entries, answer == saveIt, touches};
 }
 
 bool MyDocumentController::closeDocument(DocumentWindow& window) {
-    if (!mayClose(window)) {
+    const auto parting = askBeforeClosing(window);
+    if (!parting || (parting->saves && !save(window, parting->entries))) {
         return false;
     }
     removeWindow(window);
@@ -334,10 +391,28 @@ bool MyDocumentController::closeDocument(DocumentWindow& window) {
 }
 
 bool MyDocumentController::mayQuit() {
+    std::map<DocumentWindow*, Parting> partings;
+    const auto isUnanswered = [&](DocumentWindow* window) {
+        const auto found = partings.find(window);
+        return found == partings.end() || found->second.touches != touches_[window];
+    };
+    // While one document asks, others may be closed, opened or changed.
+    for (;;) {
+        const QList<DocumentWindow*> all = windows();
+        const auto next = std::find_if(all.begin(), all.end(), isUnanswered);
+        if (next == all.end()) {
+            break;
+        }
+        const auto parting = askBeforeClosing(**next);
+        if (!parting) {
+            return false;
+        }
+        partings.insert_or_assign(*next, *parting);
+    }
     const QList<DocumentWindow*> all = windows();
-    return std::all_of(all.begin(), all.end(), [this](DocumentWindow* window) {
-        // While one document asks, another may be closed.
-        return !windows().contains(window) || mayClose(*window);
+    return std::all_of(all.begin(), all.end(), [&](DocumentWindow* window) {
+        const Parting& parting = partings.at(window);
+        return !parting.saves || !windows().contains(window) || save(*window, parting.entries);
     });
 }
 
@@ -359,9 +434,14 @@ void MyDocumentController::removeWindow(DocumentWindow& window) {
     }
     OpenDocument closed = std::move(*found);
     open_.erase(found);
+    touches_.erase(&window);
     if (untouched_ == &window) {
         untouched_ = nullptr;
     }
+    closed.journal->drop();
+    closed.journal.reset();
+    // The document itself goes when the event is over, and its file may be opened again before.
+    closed.document->releaseFile();
     closed.window->closeWithDocument();
     // The window may be in the middle of the event that closes it, so it goes later, before its document.
     closed.window.release()->deleteLater();

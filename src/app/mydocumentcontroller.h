@@ -3,11 +3,15 @@
 #include "app/documenttypes.h"
 #include "app/recentdocuments.h"
 #include "desktop/ui/filedialogs.h"
+#include "documents/journal.h"
 
 #include <QObject>
 #include <QSet>
 
+#include <functional>
+#include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace tavrel {
@@ -21,7 +25,9 @@ class MyDocumentController : public QObject {
     Q_OBJECT
 
 public:
-    MyDocumentController(Desktop& desktop, FileDialogs& fileDialogs, DocumentTypes types);
+    /// What is unsaved is kept within the folder journals; without one nothing is.
+    MyDocumentController(Desktop& desktop, FileDialogs& fileDialogs, DocumentTypes types, const QString& journals = {},
+                         JournalPace::Times times = {});
     ~MyDocumentController() override;
 
     const DocumentTypes& types() const { return types_; }
@@ -49,16 +55,24 @@ public:
     /// Start with files, or without: leaves at least one window open.
     void launch(const QStringList& files);
 
+    /// Offers what an earlier run of the program that ended suddenly had not saved.
+    void offerUnsaved();
+    /// Keeps what is unsaved for the next start, now: the program is about to end without asking anyone.
+    void keepUnsaved();
+
     // Each says whether it came to its end; a cancel or a failure stops it.
     bool saveDocument(DocumentWindow& window);
     bool saveDocumentAs(DocumentWindow& window);
     bool revertDocument(DocumentWindow& window);
+    /// Puts the contents back that the file had before this program first wrote it.
+    bool revertToBackup(DocumentWindow& window);
     bool exportDocument(DocumentWindow& window);
     /// Asks about unsaved changes first.
     bool closeDocument(DocumentWindow& window);
-    /// Asks about the unsaved changes of every document, then closes them all, or none after a cancel.
+    /// Does as mayQuit(), then closes all documents.
     bool closeAllDocuments();
-    /// Asks about the unsaved changes of every document and closes none.
+    /// Asks about what every document has unsaved, then saves what is to be saved, and closes none. A cancel leaves
+    /// everything as it was, what other documents were asked about included.
     bool mayQuit();
     /// The formats that the document can be exported to.
     QList<ExportFormat> exportFormats(DocumentWindow& window) const;
@@ -76,6 +90,7 @@ private:
         const DocumentType* type;
         std::unique_ptr<Document> document;
         std::unique_ptr<DocumentWindow> window;
+        std::unique_ptr<Journal> journal;
     };
 
     /// Null without a failure when the user cancelled.
@@ -87,18 +102,37 @@ private:
     DocumentWindow* addWindow(const DocumentType& type, std::unique_ptr<Document> document);
     void removeWindow(DocumentWindow& window);
     void discardUntouched();
-    bool mayClose(DocumentWindow& window);
-    bool mayLoseChanges(DocumentWindow& window);
+    /// What the user answered about a document that is to close, and how often that had been touched by then.
+    struct Parting {
+        Entries entries;
+        bool saves;
+        int touches;
+    };
+    /// Asks, and changes nothing; nothing after a cancel.
+    std::optional<Parting> askBeforeClosing(DocumentWindow& window);
+    // These settle the entries so once nothing is asked any more.
+    bool save(DocumentWindow& window, Entries entries);
+    bool saveElsewhere(DocumentWindow& window, Entries entries);
+    /// Reads the document anew, after a question unless that is empty.
+    bool reload(DocumentWindow& window, const QString& question, const std::function<Expected<void>()>& read);
+    bool restore(const Unsaved& unsaved);
+    /// Asks what to do about a program that has the file open; false when the user would rather not open it.
+    bool claim(Document& document, const QString& file);
+    /// Asks what to do about a file that another program changed or removed.
+    bool saveOverChange(DocumentWindow& window, FileIdentity::State state, Entries entries);
+    void tellStateOnDisk(DocumentWindow& window, FileIdentity::State state);
     bool succeeded(const Expected<void>& result);
 
     Desktop& desktop_;
     FileDialogs& fileDialogs_;
     DocumentTypes types_;
     RecentDocuments recentDocuments_;
+    JournalFolder journals_;
     QString defaultType_;
     std::vector<OpenDocument> open_;
     DocumentWindow* untouched_ = nullptr;  ///< the untitled document of a start, until something else is opened
-    QSet<DocumentWindow*> asked_;          ///< about which the user is being asked
+    std::map<const DocumentWindow*, int> touches_;
+    QSet<DocumentWindow*> asked_;  ///< about which the user is being asked
     std::unique_ptr<PreferencesWindow> preferences_;
     std::unique_ptr<MemoWindow> penseBeteWindow_;
 };

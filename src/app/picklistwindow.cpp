@@ -122,6 +122,7 @@ PickListWindow::PickListWindow(Desktop& desktop, const PickListEditorDescription
         layout->addWidget(new PickListEditor(desktop, *description.second, this));
     }
     new QShortcut(QKeySequence::Close, this, [this] { close(); });
+    new QShortcut(Qt::Key_Escape, this, [this] { close(); });
     new KeptFrame(*this, desktop.preferences, QString::fromLatin1(description.layout));
 }
 

@@ -5,6 +5,7 @@
 #include "desktop/preferences.h"
 #include "desktop/ui/customtoolbar.h"
 #include "desktop/ui/keptframe.h"
+#include "desktop/ui/pagekeys.h"
 #include "logbook/logbooksettings.h"
 
 #include <QActionGroup>
@@ -36,6 +37,9 @@ constexpr std::array<const char*, 6> pageNames{"general", "carnet", "affichage",
 constexpr ToolBarDescription toolBarDescription{"prefsToolbar", pageItems, pageNames, pageNames};
 
 constexpr int columnsPerRow = 3;  // of the group that holds nothing but switches of columns
+
+constexpr int noteWidth = 48;      // characters
+constexpr int listedChanges = 15;  // a longer question would not fit a small screen
 
 bool isOf(const PreferenceKey& key, const AnySetting& setting) {
     return key.setting == setting;
@@ -81,6 +85,11 @@ PreferencesWindow::PreferencesWindow(Desktop& desktop)
     connect(resetButton, &QPushButton::clicked, this, &PreferencesWindow::resetByUser);
     connect(closeButton, &QPushButton::clicked, this, &QWidget::close);
     new QShortcut(QKeySequence::Close, this, [this] { close(); });
+    new QShortcut(Qt::Key_Escape, this, [this] { close(); });
+    addPageKeys(*this, [this](int step) {
+        const int pages = static_cast<int>(pages_.size());
+        goView((page_ - 1 + step + pages) % pages + 1);
+    });
     // A logbook may change its columns too.
     columnsChanged_ = desktop.notifications.subscribe(Notification::updateColumnsTableView, [this] {
         for (const Row& row : rows_) {
@@ -114,6 +123,7 @@ QWidget* PreferencesWindow::newGroup(int page, Title group, QWidget* parent) {
     auto* layout = new QGridLayout(box);
     layout->setColumnStretch(columnsPerRow, 1);
     int place = 0;
+    std::vector<QLabel*> notes;
     for (const PreferenceKey& key : preferenceKeys()) {
         if (key.page != page || !isSame(key.group, group)) {
             continue;
@@ -141,13 +151,31 @@ QWidget* PreferencesWindow::newGroup(int page, Title group, QWidget* parent) {
                 unit->setObjectName(QStringLiteral("temperatureUnit"));
             }
         }
-        if (!key.kept) {
-            control->setToolTip(text("Preferences", "Tip wreck column"));
-        }
         rows_.push_back(std::move(row));
         ++place;
+        if (!key.note.isEmpty()) {
+            control->setToolTip(text(key.note));
+            control->setAccessibleDescription(text(key.note));
+            if (key.notice == PreferenceNotice::columns) {
+                notes.push_back(newNote(key.note, box));
+            } else {
+                layout->addWidget(newNote(key.note, box), place++, 0, 1, columnsPerRow + 1);
+            }
+        }
+    }
+    // Under the switches that stand side by side.
+    for (QLabel* note : notes) {
+        layout->addWidget(note, layout->rowCount(), 0, 1, columnsPerRow + 1);
     }
     return box;
+}
+
+QLabel* PreferencesWindow::newNote(Title note, QWidget* parent) {
+    auto* label = new QLabel(text(note), parent);
+    label->setObjectName(QLatin1StringView(note.key));
+    label->setWordWrap(true);
+    label->setMinimumWidth(fontMetrics().averageCharWidth() * noteWidth);
+    return label;
 }
 
 void PreferencesWindow::setUpToolBar() {
@@ -232,9 +260,29 @@ void PreferencesWindow::resetPreferences() {
     savePrefs();
 }
 
+QStringList PreferencesWindow::resetChanges() {
+    QStringList changes;
+    for (const Row& row : rows_) {
+        const QString now = valueInWords(row.key, row.control->value());
+        const QString then = valueInWords(row.key, resetValue(row.key));
+        if (row.key.kept && now != then) {
+            changes << textWith("Preferences", "Reset change", text(row.key.group), text(row.key.label), now, then);
+        }
+    }
+    return changes;
+}
+
 void PreferencesWindow::resetByUser() {
+    QStringList changes = resetChanges();
+    const auto more = changes.size() - listedChanges;
+    if (more > 0) {
+        changes = changes.first(listedChanges);
+        changes << textWith("Preferences", "Reset more", more);
+    } else if (changes.isEmpty()) {
+        changes << text("Preferences", "Reset nothing");
+    }
     desktop_.alerts.beep();
-    if (desktop_.alerts.ask(text("Preferences", "Reset question"),
+    if (desktop_.alerts.ask(text("Preferences", "Reset question") + QStringLiteral("\n\n") + changes.join(u'\n'),
                             {text("Preferences", "Reset answer"), text("Main", "Cancel")}) == 0) {
         resetPreferences();
         updateColumnsTableViewNotification();

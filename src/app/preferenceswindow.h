@@ -69,6 +69,9 @@ private:
     void tell(PreferenceNotice notice);
     void post(Notification name);
     void resetByUser();
+    /// What a reset would make of each setting that is shown otherwise now, a line each.
+    QStringList resetChanges();
+    QLabel* newNote(Title note, QWidget* parent);
 
     Desktop& desktop_;
     std::vector<Row> rows_;

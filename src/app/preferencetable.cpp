@@ -1,10 +1,16 @@
 #include "app/preferencetable.h"
 
+#include "base/decimalsign.h"
 #include "base/numbers.h"
 #include "desktop/commonsettings.h"
 #include "desktop/preferences.h"
+#include "documents/documentsettings.h"
 #include "logbook/logbooksettings.h"
 #include "profile/profilesettings.h"
+
+#include <QColor>
+
+#include <algorithm>
 
 namespace tavrel {
 
@@ -19,6 +25,7 @@ constexpr Title none;
 constexpr std::span<const Title> noChoices;
 
 constexpr Title newDives("Preferences", "New dives");
+constexpr Title files("Preferences", "Files");
 constexpr Title units("Preferences", "Units");
 constexpr Title depthAndTime("Preferences", "Depth and time");
 constexpr Title chosenText("Preferences", "Chosen text");
@@ -37,7 +44,9 @@ const PreferenceKey keys[] = {
      Title("Preferences", "Litres")},
     {&settings::tankPressure, "pressionBlocField", 1, Tell::none, newDives, Title("Preferences", "Tank pressure"),
      Title("Preferences", "Bar")},
-    {&settings::usUnits, "usUnitsSwitch", 1, Tell::all, units, Title("Preferences", "US units")},
+    {&settings::keepsBackup, "keepBackupSwitch", 1, Tell::none, files, Title("Preferences", "Keep backup")},
+    {&settings::usUnits, "usUnitsSwitch", 1, Tell::all, units, Title("Preferences", "US units"), none, nullptr,
+     noChoices, true, Title("Preferences", "Note US units")},
     {&settings::displayUnits, "displayUnitsSwitch", 1, Tell::tableView, units,
      Title("Preferences", "Units in the table")},
     {&settings::depthTimeInColor, "tableColorSwitch", 2, Tell::tableView, depthAndTime,
@@ -79,7 +88,7 @@ const PreferenceKey keys[] = {
     {&settings::columnVisibilite, "visibiliteColumnSwitch", 3, Tell::columns, columns,
      Title("Carnet", "Column visibility")},
     {&settings::columnEpave, "epaveColumnSwitch", 3, Tell::columns, columns, Title("Carnet", "Column wreck"), none,
-     nullptr, noChoices, false},
+     nullptr, noChoices, false, Title("Preferences", "Tip wreck column")},
     {&settings::columnInoubliable, "inoubliableColumnSwitch", 3, Tell::columns, columns,
      Title("Carnet", "Column rating")},
     {&settings::columnGaz, "gazColumnSwitch", 3, Tell::columns, columns, Title("Carnet", "Column gas")},
@@ -150,6 +159,30 @@ QVariant resetValue(const PreferenceKey& key) {
     };
     const QVariant reset = std::visit(value, key.setting);
     return key.kind() == PreferenceKind::number ? QVariant(reset.toString()) : reset;
+}
+
+QString valueInWords(const PreferenceKey& key, const QVariant& value) {
+    const QString nothing = QStringLiteral("–");
+    switch (key.kind()) {
+        case PreferenceKind::onOff:
+            return value.toBool() ? text("Preferences", "On") : text("Preferences", "Off");
+        case PreferenceKind::color:
+            return value.value<QColor>().name();
+        case PreferenceKind::popUp: {
+            const auto tag = static_cast<std::size_t>(value.toInt());
+            return text(key.choices[std::min(tag, key.choices.size() - 1)]);
+        }
+        case PreferenceKind::opacity:
+            return withDecimalSign(shortestText(value.toDouble()));
+        case PreferenceKind::number:
+        case PreferenceKind::text:
+            break;
+    }
+    const QString words = withDecimalSign(value.toString());
+    if (words.isEmpty()) {
+        return nothing;
+    }
+    return key.unit.isEmpty() ? words : words + u' ' + fillFormat(text(key.unit), {});
 }
 
 void storeValue(Preferences& preferences, const PreferenceKey& key, const QVariant& value) {

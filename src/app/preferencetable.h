@@ -37,6 +37,7 @@ struct PreferenceKey {
     const Setting<bool>* enabledBy = nullptr;
     std::span<const Title> choices = {};  ///< of a pop-up; the tag is the place
     bool kept = true;                     ///< false: its switch neither shows nor stores anything
+    Title note = {};                      ///< said below the control
 
     const char* key() const;
     PreferenceKind kind() const;
@@ -49,6 +50,8 @@ std::span<const PreferenceKey> preferenceKeys();
 /// empty text, a colour that was never stored is the one a reset gives.
 QVariant storedValue(const Preferences& preferences, const PreferenceKey& key);
 QVariant resetValue(const PreferenceKey& key);
+/// A value in words: "on", "15 l", "#0000ff"; a dash for none.
+QString valueInWords(const PreferenceKey& key, const QVariant& value);
 void storeValue(Preferences& preferences, const PreferenceKey& key, const QVariant& value);
 
 }  // namespace tavrel

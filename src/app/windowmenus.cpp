@@ -42,6 +42,11 @@ bool isFirst(const QString&, qsizetype at) {
 bool startsWord(const QString& title, qsizetype at) {
     return at == 0 || title[at - 1].isSpace();
 }
+/// Of "to" and "Backup" the second is what a title is about.
+bool startsTitleWord(const QString& title, qsizetype at) {
+    return startsWord(title, at) && title[at].isUpper();
+}
+
 bool isAny(const QString&, qsizetype) {
     return true;
 }
@@ -54,7 +59,7 @@ void assignMnemonics(const QList<QAction*>& actions) {
         taken.append(accessKeyOf(action->text()));
     }
     // First letters go first, so that no one else takes the only good one of a title.
-    for (const auto fits : {isFirst, startsWord, isAny}) {
+    for (const auto fits : {isFirst, startsTitleWord, startsWord, isAny}) {
         for (QAction* action : actions) {
             const QString title = action->text();
             for (qsizetype at = 0; at < title.size() && accessKeyOf(action->text()).isNull(); ++at) {

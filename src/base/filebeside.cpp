@@ -186,8 +186,8 @@ bool FileBeside::write(QByteArrayView bytes) {
     return true;
 }
 
-bool FileBeside::takeAttributesOf(const struct stat& old) {
-    return copyAttributes(target_, old, descriptor_);
+bool FileBeside::takeAttributesOf(const QByteArray& path, const struct stat& old) {
+    return copyAttributes(path, old, descriptor_);
 }
 
 bool FileBeside::takeUsualMode() {

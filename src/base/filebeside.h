@@ -23,9 +23,9 @@ public:
     bool create(bool named);
     bool isNamed() const { return !name_.isEmpty(); }
     bool write(QByteArrayView bytes);
-    /// Gives the file the owner, group, access lists, user attributes and permissions of the one that it will replace.
+    /// Gives the file the owner, group, access lists, user attributes and permissions of another.
     /// False, too, where its owner would lose an access that cannot be kept.
-    bool takeAttributesOf(const struct stat& old);
+    bool takeAttributesOf(const QByteArray& path, const struct stat& old);
     /// The permissions of any new file.
     bool takeUsualMode();
     bool flush();

@@ -41,20 +41,24 @@ std::future<QByteArray> contentHashAside(QByteArrayView bytes) {
 }
 
 FileIdentity::FileIdentity(const struct stat& status, std::int64_t size, QByteArray hash)
-    : device_(status.st_dev),
-      node_(status.st_ino),
-      size_(size),
-      modified_(nanoseconds(status.st_mtim)),
-      changed_(nanoseconds(status.st_ctim)),
-      settled_(now() - changed_ > coarsestStep),
-      hash_(std::move(hash)) {}
+    : size_(size), hash_(std::move(hash)) {
+    takeStatus(status);
+}
+
+void FileIdentity::takeStatus(const struct stat& status) {
+    device_ = status.st_dev;
+    node_ = status.st_ino;
+    modified_ = nanoseconds(status.st_mtim);
+    changed_ = nanoseconds(status.st_ctim);
+    settled_ = now() - changed_ > coarsestStep;
+}
 
 bool FileIdentity::hasStatus(const struct stat& status) const {
     return status.st_dev == device_ && status.st_ino == node_ && status.st_size == size_ &&
            nanoseconds(status.st_mtim) == modified_ && nanoseconds(status.st_ctim) == changed_;
 }
 
-FileIdentity::State FileIdentity::stateOf(const QByteArray& path) const {
+FileIdentity::State FileIdentity::stateOf(const QByteArray& path) {
     struct stat status {};
     if (::stat(path.constData(), &status) != 0) {
         return errno == ENOENT || errno == ENOTDIR ? State::gone : State::changed;
@@ -66,7 +70,11 @@ FileIdentity::State FileIdentity::stateOf(const QByteArray& path) const {
         return State::changed;
     }
     const auto bytes = FileBytes::open(pathFromBytes(path));
-    return bytes && contentHash(bytes->bytes()) == hash_ ? State::same : State::changed;
+    if (!bytes || contentHash(bytes->bytes()) != hash_) {
+        return State::changed;
+    }
+    takeStatus(bytes->status());
+    return State::same;
 }
 
 }  // namespace tavrel

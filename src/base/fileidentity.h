@@ -19,14 +19,16 @@ public:
     FileIdentity(const struct stat& status, std::int64_t size, QByteArray hash);
 
     enum class State { same, changed, gone };
-    /// What has become of the file that the path means. One that cannot be read has changed.
-    State stateOf(const QByteArray& path) const;
+    /// What has become of the file that the path means. One that cannot be read has changed. Contents that had to be
+    /// looked at and are the same are remembered with their times, so that this is not done again.
+    State stateOf(const QByteArray& path);
 
     std::int64_t size() const { return size_; }
     const QByteArray& hash() const { return hash_; }
 
 private:
     bool hasStatus(const struct stat& status) const;
+    void takeStatus(const struct stat& status);
 
     std::uint64_t device_ = 0;
     std::uint64_t node_ = 0;

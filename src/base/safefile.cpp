@@ -74,7 +74,8 @@ Attempt writeBeside(const QByteArray& target, QByteArrayView bytes, const struct
     if (!beside.create(named)) {
         return named ? Attempt::failed : Attempt::unlinkable;
     }
-    if (!beside.write(bytes) || !(old ? beside.takeAttributesOf(*old) : beside.takeUsualMode()) || !beside.flush()) {
+    if (!beside.write(bytes) || !(old ? beside.takeAttributesOf(target, *old) : beside.takeUsualMode()) ||
+        !beside.flush()) {
         return Attempt::failed;
     }
     if (!beside.replaceTarget()) {
@@ -177,6 +178,28 @@ Expected<FileIdentity> replaceFile(const QString& path, QByteArrayView bytes) {
         }
     }
     return FileIdentity(written, bytes.size(), hash.get());
+}
+
+Expected<void> writePrivateFile(const QString& path, QByteArrayView bytes) {
+    FileBeside beside(pathBytes(path));
+    if (!beside.create(true) || !beside.write(bytes) || !beside.flush() || !beside.replaceTarget()) {
+        return tl::unexpected(writeFailure(errno, path));
+    }
+    return {};
+}
+
+Expected<void> copyFile(const QString& path, const QString& copy) {
+    const auto bytes = FileBytes::open(path);
+    if (!bytes) {
+        return tl::unexpected(bytes.error());
+    }
+    // A link of the copy's name is replaced, not followed.
+    FileBeside beside(pathBytes(absolutePath(copy)));
+    if (!beside.create(true) || !beside.write(bytes->bytes()) ||
+        !beside.takeAttributesOf(pathBytes(path), bytes->status()) || !beside.flush() || !beside.replaceTarget()) {
+        return tl::unexpected(writeFailure(errno, copy));
+    }
+    return {};
 }
 
 bool isOutlet(const QString& path) {

@@ -16,6 +16,7 @@ class FileBytes {
 public:
     static Expected<FileBytes> open(const QString& path);
     QByteArrayView bytes() const { return bytes_; }
+    const struct stat& status() const { return status_; }
     /// What the file is, its contents having that hash.
     FileIdentity identity(QByteArray hash) const { return {status_, bytes_.size(), std::move(hash)}; }
 
@@ -30,6 +31,13 @@ private:
 Expected<void> writeFile(const QString& path, QByteArrayView bytes);
 /// The same, for those who will want to know what becomes of the file.
 Expected<FileIdentity> replaceFile(const QString& path, QByteArrayView bytes);
+
+/// The same for a file that the program keeps for itself: readable by the user alone.
+Expected<void> writePrivateFile(const QString& path, QByteArrayView bytes);
+
+/// Makes a copy of a file, with its owner, permissions, access list and user attributes, in the place of whatever bears
+/// the other name.
+Expected<void> copyFile(const QString& path, const QString& copy);
 
 /// Whether the path means something that bytes only pass through: a pipe, a terminal, an open file's number.
 bool isOutlet(const QString& path);

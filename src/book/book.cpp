@@ -18,6 +18,7 @@ BookBase::BookBase(Desktop& desktop, const BookDescription& description)
         titleEditWindow();
         Q_EMIT stateChanged();
     });
+    connect(form_.get(), &BookForm::userEdited, this, &Document::touched);
     connect(this, &ListDocument::selectionChanged, this, &BookBase::followSelection);
     connect(this, &ListDocument::listChanged, this, &BookBase::stateChanged);
     connect(this, &ListDocument::listRestored, this, &BookBase::listIsRestored);
@@ -216,29 +217,27 @@ void BookBase::duplicateLast() {
     replaceList(std::move(list));
 }
 
-bool BookBase::askAboutEntries(const Title& question, const Title& keep) {
+std::optional<Entries> BookBase::askAboutEntries(const Title& question, const Title& keep) {
     if (asksAboutEntries_) {
-        return false;
+        return std::nullopt;
     }
     asksAboutEntries_ = true;
     const int answer =
         desktop().alerts.ask(question.text(), {keep.text(), text("Main", "Discard"), text("Main", "Cancel")});
     asksAboutEntries_ = false;
-    if (answer == 0) {
-        formShowsSelectedRecord() ? updateRecord() : addRecord();
-    } else if (answer == 1) {
-        if (formShowsSelectedRecord()) {
-            editFields();
-        } else {
-            beginBlank();
-        }
+    switch (answer) {
+        case 0:
+            return Entries::stored;
+        case 1:
+            return Entries::dropped;
+        default:
+            return std::nullopt;
     }
-    return answer == 0 || answer == 1;
 }
 
-bool BookBase::leaveForm(Leaving way) {
+std::optional<Entries> BookBase::askAboutEntries(Leaving way) {
     if (!hasEntries()) {
-        return true;
+        return Entries::none;
     }
     if (!formShowsSelectedRecord()) {
         return askAboutEntries(description_.words.addQuestion, {"Main", "Add"});
@@ -246,8 +245,47 @@ bool BookBase::leaveForm(Leaving way) {
     if (way == Leaving::escaping || way == Leaving::elsewhere) {
         return askAboutEntries(description_.words.storeQuestion, {"Main", "Store"});
     }
-    updateRecord();
-    return true;
+    return Entries::stored;
+}
+
+void BookBase::settleEntries(Entries entries) {
+    switch (entries) {
+        case Entries::none:
+            break;
+        case Entries::stored:
+            formShowsSelectedRecord() ? updateRecord() : addRecord();
+            break;
+        case Entries::dropped:
+            formShowsSelectedRecord() ? editFields() : beginBlank();
+            break;
+    }
+}
+
+bool BookBase::leaveForm(Leaving way) {
+    const auto entries = askAboutEntries(way);
+    if (entries) {
+        settleEntries(*entries);
+    }
+    return entries.has_value();
+}
+
+std::optional<UnstoredForm> BookBase::unstoredForm() const {
+    if (!hasEntries()) {
+        return std::nullopt;
+    }
+    return UnstoredForm{formShowsSelectedRecord() ? selectedRow() : -1, form_->entries(), form_->entriesBeside()};
+}
+
+void BookBase::showUnstored(const UnstoredForm& form) {
+    if (form.row >= 0 && form.row < count()) {
+        selectRows({form.row});
+        followSelection();
+    } else {
+        deselectAll();
+        beginBlank();
+    }
+    form_->enterAgain(form);
+    Q_EMIT editWindowRequested();
 }
 
 bool BookBase::closeEditWindow(Leaving way) {

@@ -10,6 +10,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace tavrel {
@@ -75,10 +76,15 @@ public:
     /// Cancel; for a stored one it is stored, or on the ways that ask, Store, Discard or Cancel. False when the user
     /// cancels: everything is then to stay as it is.
     bool leaveForm(Leaving way);
+    /// Its two halves. The first asks and changes nothing; nothing when the user cancels.
+    std::optional<Entries> askAboutEntries(Leaving way);
+    void settleEntries(Entries entries);
     /// Closes the edit window, entries settled; false when the user would rather go on editing.
     bool closeEditWindow(Leaving way = Leaving::closing);
     /// A selection by the user, who may be asked about entries first; false when it is not to come about.
     bool userSelects(const QList<int>& rows);
+
+    void showUnstored(const UnstoredForm& form) override;
 
     // The form.
     void blankFields();
@@ -129,6 +135,7 @@ protected:
     void listen(Notification name, std::function<void()> handler);
     /// What the form of a new record gets besides its cleared values.
     virtual void proposeNumber() {}
+    std::optional<UnstoredForm> unstoredForm() const override;
     /// The title of the edit window, from what the form shows.
     virtual QString formTitle() const;
 
@@ -141,7 +148,7 @@ private:
     void listIsRestored();
     QList<int> rowsHolding(const Field& field, const QString& searched) const;
     void search(std::function<QList<int>()> matching);
-    bool askAboutEntries(const Title& question, const Title& keep);
+    std::optional<Entries> askAboutEntries(const Title& question, const Title& keep);
 
     const BookDescription& description_;
     std::unique_ptr<BookForm> form_;

@@ -81,6 +81,40 @@ bool BookForm::hasEntries() const {
     return differsBeside();
 }
 
+std::vector<UnstoredForm::Control> BookForm::entries() const {
+    std::vector<UnstoredForm::Control> entries;
+    const auto& controls = state_->table().controls();
+    for (std::size_t index = 0; index < controls.size(); ++index) {
+        if (takesEntries(controls[index].control.kind)) {
+            const ControlState& held = state_->at(static_cast<int>(index));
+            entries.push_back(
+                {QString::fromStdString(controls[index].name), held.text, held.tag, held.date, held.image});
+        }
+    }
+    return entries;
+}
+
+void BookForm::enterAgain(const UnstoredForm& entries) {
+    {
+        const FormStateBase::Batch batch(*state_);
+        for (const UnstoredForm::Control& entry : entries.controls) {
+            const int index = state_->table().find(entry.name.toStdString());
+            if (index >= 0) {
+                state_->setText(index, entry.text);
+                state_->setTag(index, entry.tag);
+                state_->setDate(index, entry.date);
+                state_->setImage(index, entry.image);
+            }
+        }
+        if (entries.beside) {
+            enterBesideAgain(entries.beside());
+        }
+        entered_ = true;
+        refresh();
+    }
+    Q_EMIT userEdited();
+}
+
 void BookForm::endEditing(int control, const QString& typed) {
     if (const auto& list = state_->table().controls()[static_cast<std::size_t>(control)].control.pickList) {
         offerToPickList(desktop_, *list, typed);
@@ -119,5 +153,11 @@ bool BookForm::differsBeside() const {
 }
 
 void BookForm::rememberBeside() {}
+
+std::function<QByteArray()> BookForm::entriesBeside() const {
+    return {};
+}
+
+void BookForm::enterBesideAgain(QByteArrayView) {}
 
 }  // namespace tavrel

@@ -2,12 +2,16 @@
 
 #include "base/failure.h"
 #include "desktop/desktop.h"
+#include "documents/unsaved.h"
 #include "forms/formstate.h"
 #include "forms/recordbinding.h"
 
+#include <QByteArray>
+#include <QByteArrayView>
 #include <QObject>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -43,6 +47,12 @@ public:
     void remember();
     /// Whether the user entered something since, that is still there.
     bool hasEntries() const;
+    /// What the controls hold that the user enters into, by name; what is held beside them and differs from what was
+    /// remembered; and entering it all once more, in the same form or in that of another run of the program, which may
+    /// know other controls.
+    std::vector<UnstoredForm::Control> entries() const;
+    virtual std::function<QByteArray()> entriesBeside() const;
+    void enterAgain(const UnstoredForm& entries);
 
     /// At the end of editing a combo box: offers what was typed, or what it holds, to the control's shared list.
     virtual void endEditing(int control, const QString& typed);
@@ -75,6 +85,8 @@ protected:
     /// Whether something beside the controls differs from what was remembered, and remembering it.
     virtual bool differsBeside() const;
     virtual void rememberBeside();
+    /// Enters again what entriesBeside() worked out; bytes that are none of these are left alone.
+    virtual void enterBesideAgain(QByteArrayView entries);
 
 private:
     Desktop& desktop_;

@@ -74,41 +74,89 @@ constexpr std::array minimumDepthConstants{lowestPpO2, leastHypoxicOxygen, mostH
 constexpr std::array airOxygen{airOxygenPercent};
 constexpr std::array supplyFlows{lowestSupplyFlow, highestSupplyFlow};
 
+// The inputs that make a result useless, named beside their fields.
+
+constexpr Title givesInfinity("Calculators", "Gives infinity");
+constexpr Title givesNegativeDepth("Calculators", "Gives a negative depth");
+constexpr Title isNegative("Calculators", "Is negative");
+constexpr std::array faultWords{givesInfinity, givesNegativeDepth, isNegative};
+
+void nameInfinity(CalculatorResult& result, double figure, std::size_t input) {
+    if (!std::isfinite(figure)) {
+        result.faults.push_back({input, givesInfinity});
+    }
+}
+
+void nameDepth(CalculatorResult& result, double depth, std::size_t input) {
+    nameInfinity(result, depth, input);
+    if (std::isfinite(depth) && depth < 0) {
+        result.faults.push_back({input, givesNegativeDepth});
+    }
+}
+
+void nameNegative(CalculatorResult& result, Values in, std::size_t input) {
+    if (in[input] < 0) {
+        result.faults.push_back({input, isNegative});
+    }
+}
+
+/// Of a mix and the depth it is breathed at: the mix where it gives a negative depth everywhere, else the depth.
+std::size_t mixOrDepth(Values in, std::size_t mix, std::size_t depth) {
+    return in[mix] >= 100 ? mix : depth;
+}
+
 // The evaluations.
 
 CalculatorResult profMax(Values in) {
     const double mod = maximumOperatingDepth(in[0], in[1]);
-    return {fillFormat(QStringLiteral("MOD : %.1f m"), {mod}), {{"mod", mod}}, {}};
+    CalculatorResult result{fillFormat(QStringLiteral("MOD : %.1f m"), {mod}), {{"mod", mod}}, {}};
+    nameDepth(result, mod, 0);
+    return result;
 }
 
 CalculatorResult bestMixPage(Values in) {
     const double oxygen = bestMix(in[0], in[1]);
-    return {textWith(Title("Nitrox", "Best Mix"), oxygen), {{"o2", oxygen}}, {}};
+    CalculatorResult result{textWith(Title("Nitrox", "Best Mix"), oxygen), {{"o2", oxygen}}, {}};
+    nameInfinity(result, oxygen, 0);
+    nameNegative(result, in, 0);
+    return result;
 }
 
 CalculatorResult profEquivalente(Values in) {
     const double ead = equivalentAirDepth(in[0], in[1]);
-    return {fillFormat(QStringLiteral("EAD : %.1f m"), {ead}), {{"ead", ead}}, {}};
+    CalculatorResult result{fillFormat(QStringLiteral("EAD : %.1f m"), {ead}), {{"ead", ead}}, {}};
+    nameDepth(result, ead, mixOrDepth(in, 0, 1));
+    return result;
 }
 
 CalculatorResult oxygenWindowPage(Values in) {
     const OxygenWindow window = oxygenWindow(in[0], in[1]);
-    return {textWith(Title("Nitrox", "Oxygen window"), window.deepest, window.shallowest, window.nitrogenNeutral),
-            {{"a", window.deepest}, {"b", window.shallowest}, {"c", window.nitrogenNeutral}},
-            {}};
+    CalculatorResult result{
+        textWith(Title("Nitrox", "Oxygen window"), window.deepest, window.shallowest, window.nitrogenNeutral),
+        {{"a", window.deepest}, {"b", window.shallowest}, {"c", window.nitrogenNeutral}},
+        {}};
+    nameDepth(result, window.deepest, 0);
+    if (result.faults.empty()) {
+        nameDepth(result, window.shallowest, 1);
+    }
+    return result;
 }
 
 CalculatorResult blendNitrox(Values in) {
     const Blend result = blend(in[0], in[1], in[2], in[3]);
-    return {textWith(Title("Nitrox", "Oxygen to transfer"), result.oxygen, result.topUp),
-            {{"oxygen", result.oxygen}, {"topUp", result.topUp}},
-            {}};
+    CalculatorResult shown{textWith(Title("Nitrox", "Oxygen to transfer"), result.oxygen, result.topUp),
+                           {{"oxygen", result.oxygen}, {"topUp", result.topUp}},
+                           {}};
+    nameInfinity(shown, result.topUp, 2);
+    return shown;
 }
 
 CalculatorResult calcEadEnd(Values in) {
     const EquivalentDepths depths = trimixEquivalentDepths(in[0], in[1], in[2]);
-    return {
+    CalculatorResult result{
         textWith(Title("Trimix", "EAD END"), depths.ead, depths.end), {{"ead", depths.ead}, {"end", depths.end}}, {}};
+    nameDepth(result, depths.end, mixOrDepth(in, 1, 2));
+    return result;
 }
 
 CalculatorResult profMin(Values in) {
@@ -121,14 +169,21 @@ CalculatorResult profMin(Values in) {
 
 CalculatorResult calcBestTx(Values in) {
     const TrimixShares mix = bestTrimix(in[0], in[1], in[2]);
-    return {textWith(Title("Trimix", "Best Tx"), mix.oxygen, mix.helium), {{"o2", mix.oxygen}, {"he", mix.helium}}, {}};
+    CalculatorResult result{
+        textWith(Title("Trimix", "Best Tx"), mix.oxygen, mix.helium), {{"o2", mix.oxygen}, {"he", mix.helium}}, {}};
+    nameInfinity(result, mix.oxygen, 0);
+    nameNegative(result, in, 0);
+    nameNegative(result, in, 1);
+    return result;
 }
 
 CalculatorResult calcSodaTime(Values in) {
     const SodaTime time = sodaTime(in[0], in[1], in[2]);
-    return {textWith(Title("Rebreather", "Soda time"), time.hours, time.minutes),
-            {{"hours", time.hours}, {"minutes", time.minutes}},
-            {}};
+    CalculatorResult result{textWith(Title("Rebreather", "Soda time"), time.hours, time.minutes),
+                            {{"hours", time.hours}, {"minutes", time.minutes}},
+                            {}};
+    nameInfinity(result, in[0] * in[1] / in[2], 2);
+    return result;
 }
 
 CalculatorRow tableRow(Title format, double consumption, double value, RowColour colour) {
@@ -143,6 +198,7 @@ CalculatorResult calcBreathedFracO2(Values in) {
         result.rows.push_back(
             tableRow(Title("Rebreather", "Table breathed frac"), consumption, value, breathedFractionColour(value)));
     }
+    nameInfinity(result, fraction, 1);
     return result;
 }
 
@@ -153,6 +209,7 @@ CalculatorResult calcIdealFlow(Values in) {
         const double value = idealFlow(in[0], consumption, in[2]);
         result.rows.push_back(tableRow(Title("Rebreather", "Table flow"), consumption, value, idealFlowColour(value)));
     }
+    nameInfinity(result, flow, 2);
     return result;
 }
 
@@ -199,6 +256,10 @@ const CalculatorPage* calculatorPage(CalculatorId id) {
     const auto page =
         std::find_if(pages.begin(), pages.end(), [&](const CalculatorPage& each) { return each.id == id; });
     return page == pages.end() ? nullptr : &*page;
+}
+
+std::span<const Title> inputFaultWords() {
+    return faultWords;
 }
 
 QString formulaLine(const CalculatorPage& page) {

@@ -37,10 +37,17 @@ struct CalculatorRow {
     QString text;
 };
 
+/// What an input does to a result that no diver can use.
+struct InputFault {
+    std::size_t input;  ///< its place among the page's inputs
+    Title words;
+};
+
 struct CalculatorResult {
     QString text;  ///< as shown, lines parted by line feeds
     std::vector<CalculatorFigure> figures;
-    std::vector<CalculatorRow> rows;  ///< empty on pages without a table
+    std::vector<CalculatorRow> rows;      ///< empty on pages without a table
+    std::vector<InputFault> faults = {};  ///< inputs that give infinity or a negative depth
 };
 
 /// A page that computes one result text from a few inputs. The windows, the command line and its JSON are made from it.
@@ -60,6 +67,9 @@ struct CalculatorPage {
 std::span<const CalculatorPage> calculatorPages();
 /// The page of a calculator; null for the conversions and the GPS window, which have forms of their own.
 const CalculatorPage* calculatorPage(CalculatorId id);
+
+/// All words that a fault may be told in.
+std::span<const Title> inputFaultWords();
 
 /// The formula line and the legend with their constants filled in.
 QString formulaLine(const CalculatorPage& page);

@@ -70,12 +70,12 @@ JsonWriter jsonOf(const CalculatorPage& page, const CalculatorResult& result) {
 }
 
 /// The partial pressures of the menu, for help.
-std::string ppO2Choices() {
+QString ppO2Choices() {
     QStringList titles;
     for (const double ppO2 : ppO2Menu) {
         titles << ppO2Title(ppO2);
     }
-    return titles.join(QStringLiteral(", ")).toStdString();
+    return titles.join(QStringLiteral(", "));
 }
 
 double inputValue(const CalculatorInput& input, const std::string& argument) {
@@ -99,7 +99,7 @@ void addPage(CLI::App& calc, const CalculatorPage& page, Console& console) {
         const CalculatorInput& input = page.inputs[position];
         std::string help = withoutMnemonic(text(input.label)).toStdString() + ", " + input.unit;
         if (input.kind == CalculatorInputKind::PpO2Menu) {
-            help += ", usually " + ppO2Choices() + " [" + ppO2Title(ppO2OfMenuIndex(-1)).toStdString() + "]";
+            help += toArgument(textWith("Cli", "Usual values", ppO2Choices(), ppO2Title(ppO2OfMenuIndex(-1))));
         }
         command->add_option("--" + std::string(input.option), arguments->inputs[position], help)->type_name("NUMBER");
     }
@@ -141,7 +141,8 @@ void addConversions(CLI::App& calc, Console& console) {
     const auto check = [known](const std::string& argument) {
         return conversionUnit(fromArgument(argument)).tab ? std::string() : "not one of " + known;
     };
-    command->add_option("--from", arguments->from, "Unit of the value: " + known)
+    command
+        ->add_option("--from", arguments->from, toArgument(textWith("Cli", "Unit of the value", fromArgument(known))))
         ->type_name("")
         ->required()
         ->check(CLI::Validator(check, ""));

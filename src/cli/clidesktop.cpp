@@ -1,5 +1,6 @@
 #include "cli/clidesktop.h"
 
+#include "base/printable.h"
 #include "desktop/defaults.h"
 
 #include <QJsonDocument>
@@ -15,7 +16,7 @@ int ConsoleAlerts::ask(const QString&, const QStringList&) {
 }
 
 void ConsoleAlerts::tell(const QString& message) {
-    console_.error << toArgument(message) << '\n';
+    console_.error << toArgument(printable(message)) << '\n';
 }
 
 void ConsoleAlerts::fail(const Failure& failure) {

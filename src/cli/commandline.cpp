@@ -1,5 +1,6 @@
 #include "cli/commandline.h"
 
+#include "base/printable.h"
 #include "base/texts.h"
 
 #include <CLI/CLI.hpp>
@@ -29,7 +30,7 @@ JsonWriter jsonOn(Console& console) {
 }
 
 void fail(Console& console, const Failure& failure) {
-    console.error << toArgument(failure.message()) << '\n';
+    console.error << toArgument(printable(failure.message())) << '\n';
     console.exitCode = exitFailed;
 }
 

@@ -32,6 +32,7 @@ struct Arguments {
     std::string searched;
     std::vector<std::string> columns;
     bool json = false;
+    bool force = false;
 };
 
 QString fileArgument(const Arguments& arguments) {
@@ -42,12 +43,13 @@ QString fileArgument(const Arguments& arguments) {
 template <class Work>
 void changeFile(const Arguments& arguments, Console& console, Work work) {
     Session session(console);
-    Expected<void> done = session.open(fileArgument(arguments));
+    session.byForce = arguments.force;
+    Expected<void> done = session.openToChange(fileArgument(arguments));
     if (done) {
         done = work(session);
     }
     if (done) {
-        done = session.book->save();
+        done = session.save();
         console.fileSaved = done.has_value();
     }
     if (!done) {
@@ -221,6 +223,8 @@ void addDocumentCommands(CLI::App& app, Console& console) {
         return command->add_option("ENTRIES", arguments->entries, "field=value, by the field's or the control's name");
     };
 
+    const auto addForce = [&](CLI::App* command) { command->add_flag("--force", arguments->force, forceHelp); };
+
     CLI::App* show = add("show", "Lists the records of a document", runShow);
     addFile(show);
     CLI::Option* json = show->add_flag("--json", arguments->json, "Everything, as one JSON object");
@@ -236,23 +240,28 @@ void addDocumentCommands(CLI::App& app, Console& console) {
 
     CLI::App* append = add("add", "Adds a record through the document's form", runAdd);
     addFile(append);
+    addForce(append);
     addEntries(append);
 
     CLI::App* set = add("set", "Changes a record through the document's form", runSet);
     addFile(set);
+    addForce(set);
     set->add_option("ROW", arguments->row, "The record's row, from 0")->required();
     addEntries(set)->required();
 
     CLI::App* erase = add("delete", "Removes records", runDelete);
     addFile(erase);
+    addForce(erase);
     erase->add_option("ROW", arguments->rows, "The records' rows, from 0")->required();
 
     CLI::App* renumber = add("renumber", "Numbers all records in their order", runRenumber);
     addFile(renumber);
+    addForce(renumber);
     renumber->add_option("FIRST", arguments->number, "The first number")->required();
 
     CLI::App* sort = add("sort", "Sorts as clicks on the headers of these columns do, and saves the order", runSort);
     addFile(sort);
+    addForce(sort);
     sort->add_option("COLUMN", arguments->columns, "The columns' fields, in the order of the clicks")->required();
 
     CLI::App* find = add("find", "Lists the records whose field holds a text, case aside", runFind);

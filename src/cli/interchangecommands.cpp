@@ -32,6 +32,7 @@ struct Arguments {
     bool byDate = false;
     bool keepTexts = false;
     bool report = false;
+    bool force = false;
 };
 
 /// How a file is read: by one of the prescribed formats, or found first whatever it is.
@@ -165,7 +166,7 @@ Expected<void> previewInto(Carnet& carnet, const Arguments& arguments, Console& 
 }
 
 /// Saves the dives that came in also when one of them stopped the import; the stop still is a failure.
-Expected<void> importInto(Carnet& carnet, const Arguments& arguments, Console& console) {
+Expected<void> importInto(Session& session, Carnet& carnet, const Arguments& arguments, Console& console) {
     if (arguments.dryRun) {
         return previewInto(carnet, arguments, console);
     }
@@ -182,7 +183,7 @@ Expected<void> importInto(Carnet& carnet, const Arguments& arguments, Console& c
         return tl::unexpected(result.error());
     }
     if (result->taken > 0) {
-        if (auto saved = carnet.save(); !saved) {
+        if (auto saved = session.save(); !saved) {
             return saved;
         }
         console.fileSaved = true;
@@ -215,11 +216,13 @@ Expected<void> exportFrom(Carnet& carnet, const Arguments& arguments, Console& c
 }
 
 template <class Work>
-void withLogbook(const Arguments& arguments, Console& console, Work work) {
+void withLogbook(const Arguments& arguments, Console& console, Expected<void> (Session::*open)(const QString&),
+                 Work work) {
     Session session(console);
-    const auto done = session.open(pathArgument(arguments.file))
+    session.byForce = arguments.force;
+    const auto done = (session.*open)(pathArgument(arguments.file))
                           .and_then([&] { return session.logbook(); })
-                          .and_then([&](Carnet* carnet) { return work(*carnet); });
+                          .and_then([&](Carnet* carnet) { return work(session, *carnet); });
     if (!done) {
         fail(console, done.error());
     }
@@ -240,6 +243,7 @@ void addInterchangeCommands(CLI::App& app, Console& console) {
         "dives before it are kept and saved, the reason is told, and the exit code is 1.");
     addFile(importing);
     importing->add_option("SOURCE", arguments->other, "The file with the dives")->required();
+    importing->add_flag("--force", arguments->force, forceHelp);
     std::vector<std::string> roads;
     for (const auto& [name, format] : readers()) {
         roads.push_back(name);
@@ -256,7 +260,8 @@ void addInterchangeCommands(CLI::App& app, Console& console) {
     importing->add_flag("--keep-texts", arguments->keepTexts,
                         "Adds words that have no field of their own to the notes");
     importing->callback([arguments, &console] {
-        withLogbook(*arguments, console, [&](Carnet& carnet) { return importInto(carnet, *arguments, console); });
+        withLogbook(*arguments, console, &Session::openToChange,
+                    [&](Session& session, Carnet& carnet) { return importInto(session, carnet, *arguments, console); });
     });
 
     std::vector<std::string> formats;
@@ -271,7 +276,8 @@ void addInterchangeCommands(CLI::App& app, Console& console) {
     exporting->add_flag("--report", arguments->report,
                         "Prints which fields the format would lose, and of how many dives; writes nothing");
     exporting->callback([arguments, &console] {
-        withLogbook(*arguments, console, [&](Carnet& carnet) { return exportFrom(carnet, *arguments, console); });
+        withLogbook(*arguments, console, &Session::open,
+                    [&](Session&, Carnet& carnet) { return exportFrom(carnet, *arguments, console); });
     });
 }
 

@@ -3,6 +3,7 @@
 #include "cli/commandline.h"
 #include "cli/divecommands.h"
 #include "cli/documentcommands.h"
+#include "cli/helptexts.h"
 #include "cli/inspectcommand.h"
 #include "cli/interchangecommands.h"
 #include "cli/picturecommand.h"
@@ -41,6 +42,7 @@ int main(int argc, char** argv) try {
     tavrel::addCalcCommand(app, console);
     tavrel::addProfileCommand(app, console);
     tavrel::addShellFileCommand(app, console);
+    tavrel::translateHelp(app);
     return tavrel::runCommandLine(app, argc, argv, console);
 } catch (const std::exception& error) {
     std::fprintf(stderr, "tavrel-cli: %s\n", error.what());

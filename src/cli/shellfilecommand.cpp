@@ -1,5 +1,7 @@
 #include "cli/shellfilecommand.h"
 
+#include "base/texts.h"
+
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
@@ -70,6 +72,11 @@ std::string roff(std::string text) {
     text = CLI::detail::find_and_replace(text, "-", "\\-");
     text = CLI::detail::find_and_replace(text, "\n", "\n\\&");
     return "\\&" + text;
+}
+
+/// The start of a section, named in the language of the page.
+std::string heading(const char* name) {
+    return ".SH " + text("Help", name).toStdString() + '\n';
 }
 
 std::string placeholder(const CLI::Option& option) {
@@ -158,13 +165,12 @@ std::string manualPage(const CLI::App& app) {
                    [](unsigned char letter) { return static_cast<char>(std::toupper(letter)); });
     std::ostringstream page;
     page << ".TH " << roff(upper) << " 1\n"
-         << ".SH NAME\n"
-         << roff(program) << " \\- " << roff(app.get_description()) << '\n'
-         << ".SH SYNOPSIS\n.B " << roff(program) << '\n'
+         << heading("NAME") << roff(program) << " \\- " << roff(app.get_description()) << '\n'
+         << heading("SYNOPSIS") << ".B " << roff(program) << '\n'
          << roff(synopsis(app)) << '\n'
-         << ".SH OPTIONS\n";
+         << heading("OPTIONS");
     describeOptions(app, page);
-    page << ".SH COMMANDS\n";
+    page << heading("COMMANDS");
     forEachCommand(app, {}, [&](const std::string& path, const CLI::App& command) {
         if (&command != &app) {
             page << ".SS " << roff(program + path + synopsis(command)) << '\n'
@@ -173,7 +179,7 @@ std::string manualPage(const CLI::App& app) {
         }
     });
     if (const std::string footer = app.get_footer(); !footer.empty()) {
-        page << ".SH NOTES\n" << roff(footer) << '\n';
+        page << heading("NOTES") << roff(footer) << '\n';
     }
     return page.str();
 }

@@ -5,14 +5,21 @@
 #include "base/texts.h"
 #include "desktop/alerts.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <cmath>
+#include <fcntl.h>
 #include <limits>
 #include <optional>
+#include <sys/stat.h>
 #include <type_traits>
+#include <unistd.h>
 
 namespace tavrel {
 
@@ -135,17 +142,56 @@ QString windowKey(const QString& name) {
     return QStringLiteral("windows/") + name;
 }
 
-QSettings openStore(const QString& file) {
-    if (file.isEmpty()) {
-        return {QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Tavrel"), QStringLiteral("tavrel")};
+QString userFile() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/Tavrel/tavrel.ini");
+}
+
+constexpr qint64 longestFile = 4 << 20;  ///< bytes; a thousand times what the settings take
+
+/// Whether the file can be read without hanging or filling the memory, or is not there yet.
+bool isReadable(const QByteArray& file) {
+    struct stat status {};
+    return ::stat(file.constData(), &status) != 0 || (S_ISREG(status.st_mode) && status.st_size <= longestFile);
+}
+
+/// The settings name files and people: nobody else reads them. A file that is replaced keeps its permissions.
+void keepPrivate(const QString& file) {
+    const QByteArray name = QFile::encodeName(file);
+    QDir().mkpath(QFileInfo(file).path());
+    const int made = ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    if (made >= 0) {
+        ::close(made);
+    } else {
+        struct stat status {};
+        if (::stat(name.constData(), &status) == 0 && (status.st_mode & 0077U) != 0) {
+            ::chmod(name.constData(), status.st_mode & 07700U);
+        }
     }
-    return {file, QSettings::IniFormat};
+}
+
+/// A name under which there never is a file, for a store that stands apart from all files.
+QString noFile() {
+    return QStringLiteral("/proc/self/fdinfo/tavrel.ini");
 }
 
 }  // namespace
 
-Preferences::Preferences(const QString& file, Keeping keeping) : store_(openStore(file)) {
+Preferences::Preferences(const QString& file, Keeping keeping)
+    : Preferences(file.isEmpty() ? userFile() : file, keeping,
+                  isReadable(QFile::encodeName(file.isEmpty() ? userFile() : file))) {}
+
+Preferences::Preferences(const QString& file, Keeping keeping, bool isReadable)
+    : store_(isReadable ? file : noFile(), QSettings::IniFormat) {
     store_.setFallbacksEnabled(false);
+    if (!isReadable) {
+        unreadable_ = file;
+        thisRun_.emplace();
+        return;
+    }
+    if (keeping == Keeping::onDisk) {
+        keepPrivate(file);
+    }
     if (keeping == Keeping::thisRun) {
         thisRun_.emplace();
         for (const QString& key : store_.allKeys()) {
@@ -269,6 +315,12 @@ Expected<void> Preferences::synchronize() {
 }
 
 void Preferences::synchronize(Alerts& alerts) {
+    if (!unreadable_.isEmpty()) {
+        alerts.fail({textWith("Main", "Preferences not saved", Fallback{QStringLiteral("Preferences not saved: %@")},
+                              unreadable_),
+                     text("Main", "File is not regular")});
+        unreadable_.clear();
+    }
     if (thisRun_ || troubleTold_) {
         return;
     }

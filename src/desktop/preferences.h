@@ -19,7 +19,8 @@ class Alerts;
 /// or that holds a value of another kind, reads as its registered default; without one as no, 0, "" or an empty list.
 ///
 /// The file is an INI file, where numbers are texts and a list of one entry is that entry, so a kind is what a value
-/// can be read as. A store that cannot be written keeps its values for the life of the program.
+/// can be read as. A store that cannot be written, or whose place is taken by something else than a file of sane size,
+/// keeps its values for the life of the program.
 class Preferences {
 public:
     enum class Keeping {
@@ -79,12 +80,15 @@ public:
     void setWindowState(const QString& name, const QByteArray& state);
 
 private:
+    Preferences(const QString& file, Keeping keeping, bool isReadable);
+
     template <class Reader>
     auto find(const QString& key, Reader reader) const;
     void write(const QString& key, const QVariant& value);
     QVariant stored(const QString& key) const;
 
     QSettings store_;
+    QString unreadable_;                  ///< a file that is no settings file, until that was told
     std::optional<QVariantMap> thisRun_;  ///< stands in for the store once it was read
     QVariantMap defaults_;
     int together_ = 0;

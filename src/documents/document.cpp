@@ -3,6 +3,9 @@
 #include "base/paths.h"
 #include "base/safefile.h"
 #include "base/texts.h"
+#include "desktop/clock.h"
+#include "desktop/preferences.h"
+#include "documents/documentsettings.h"
 
 #include <utility>
 
@@ -10,6 +13,7 @@ namespace tavrel {
 
 Document::Document(Desktop& desktop) : desktop_(desktop) {
     connect(&undoStack_, &QUndoStack::cleanChanged, this, &Document::tellChangedState);
+    connect(&undoStack_, &QUndoStack::indexChanged, this, &Document::touched);
 }
 
 Document::~Document() {
@@ -30,34 +34,45 @@ Expected<void> Document::open(const QString& file) {
     if (!bytes) {
         return tl::unexpected(bytes.error());
     }
+    auto hash = contentHashAside(bytes->bytes());
     if (const auto loaded = loadDataRepresentation(bytes->bytes(), type_); !loaded) {
         return tl::unexpected(openingFailure(file, loaded.error()));
     }
-    becomeFile(file);
+    becomeFile(file, bytes->identity(hash.get()));
     undoStack_.clear();
     tellChangedState();
     return {};
 }
 
-Expected<void> Document::save() {
+Expected<void> Document::save(Overwriting overwriting) {
     if (file_.isEmpty()) {
         return failure(text("Main", "Document has no file"));
     }
-    return saveAs(file_);
+    return saveAs(file_, overwriting);
 }
 
-Expected<void> Document::saveAs(const QString& file) {
-    if (auto written = exportAs(file, type_); !written) {
-        return written;
+Expected<void> Document::saveAs(const QString& file, Overwriting overwriting) {
+    const auto bytes = dataRepresentationOfType(type_);
+    if (!bytes) {
+        return tl::unexpected(savingFailure(file, bytes.error()));
     }
-    becomeFile(file);
+    if (overwriting == Overwriting::no && isFile(file) && stateOnDisk() != FileIdentity::State::same) {
+        return tl::unexpected(savingFailure(file, {text("Main", "File changed by another"), {}}));
+    }
+    keepBackup(file);
+    auto written = replaceFile(file, *bytes);
+    if (!written) {
+        return tl::unexpected(written.error());
+    }
+    becomeFile(file, std::move(*written));
+    setReadOnly(false);
     undoStack_.setClean();
     tellChangedState();
     return {};
 }
 
 Expected<void> Document::exportAs(const QString& file, const QString& type) {
-    if (type != type_ && !file_.isEmpty() && canonicalPath(file) == canonicalPath(file_)) {
+    if (type != type_ && isFile(file)) {
         return tl::unexpected(savingFailure(file, {text("Main", "Export onto document"), {}}));
     }
     const auto bytes = dataRepresentationOfType(type);
@@ -77,14 +92,116 @@ Expected<void> Document::revert() {
     return open(file_);
 }
 
+Expected<void> Document::revertToBackup() {
+    const auto bytes = FileBytes::open(backupFile());
+    if (!bytes) {
+        return tl::unexpected(bytes.error());
+    }
+    if (const auto loaded = loadDataRepresentation(bytes->bytes(), type_); !loaded) {
+        return tl::unexpected(openingFailure(backupFile(), loaded.error()));
+    }
+    undoStack_.clear();
+    markChanged();
+    return {};
+}
+
+FileIdentity::State Document::stateOnDisk() {
+    return file_.isEmpty() ? FileIdentity::State::same : identity_.stateOf(pathBytes(file_));
+}
+
+void Document::watchFile() {
+    watch_ = std::make_unique<FileWatch>();
+    connect(watch_.get(), &FileWatch::stateChanged, this, &Document::stateOnDiskChanged);
+    watch_->watch(file_, identity_);
+}
+
+std::optional<LockHolder> Document::claimFile(const QString& file, std::chrono::milliseconds patience) {
+    auto lock = std::make_unique<FileLock>(file);
+    if (lock_ && lock_->file() == lock->file()) {
+        return std::nullopt;
+    }
+    auto holder = lock->take(patience);
+    if (!holder) {
+        lock_ = std::move(lock);
+    }
+    return holder;
+}
+
+void Document::releaseFile() {
+    lock_.reset();
+    watch_.reset();
+}
+
+void Document::setReadOnly(bool readOnly) {
+    if (std::exchange(readOnly_, readOnly) != readOnly) {
+        Q_EMIT fileChanged();
+    }
+}
+
+std::optional<Unsaved> Document::unsaved() const {
+    Unsaved kept;
+    kept.isChanged = isChanged();
+    kept.form = unstoredForm();
+    kept.contents = contentsLater();
+    if (!kept.contents || (!kept.isChanged && !kept.form)) {
+        return std::nullopt;
+    }
+    kept.version = contentsVersion();
+    kept.name = displayName();
+    kept.file = file_;
+    kept.fileHash = identity_.hash();
+    kept.fileSize = identity_.size();
+    kept.records = recordCount();
+    kept.time = desktop_.clock.now();
+    return kept;
+}
+
+Expected<void> Document::restore(const Unsaved& unsaved) {
+    if (auto loaded = loadDataRepresentation(unsaved.contents(), type_); !loaded) {
+        return loaded;
+    }
+    if (!unsaved.file.isEmpty()) {
+        becomeFile(unsaved.file, FileIdentity({}, unsaved.fileSize, unsaved.fileHash));
+    }
+    undoStack_.clear();
+    if (unsaved.isChanged) {
+        markChanged();
+    }
+    return {};
+}
+
 void Document::markChanged() {
     changedBesideStack_ = true;
+    Q_EMIT touched();
     tellChangedState();
 }
 
-void Document::becomeFile(const QString& file) {
+/// Whether the name means the document's own file, also where that is gone.
+bool Document::isFile(const QString& file) const {
+    const QString real = canonicalPath(file);
+    return !file_.isEmpty() && (real.isEmpty() ? absolutePath(file) == file_ : real == canonicalPath(file_));
+}
+
+/// Keeps what a file holds before it is written for the first time. A backup that cannot be made stops no save, which
+/// leaves the file whole by itself.
+void Document::keepBackup(const QString& file) {
+    const QString path = absolutePath(file);
+    if (backedUp_ != path && pathExists(path) && desktop_.preferences.get(settings::keepsBackup)) {
+        static_cast<void>(copyFile(path, path + u'~'));
+    }
+    backedUp_ = path;
+}
+
+void Document::becomeFile(const QString& file, FileIdentity identity) {
     changedBesideStack_ = false;
     const QString path = absolutePath(file);
+    identity_ = std::move(identity);
+    if (lock_ && lock_->file() != FileLock::lockedFile(path)) {
+        lock_.reset();
+    }
+    if (watch_) {
+        watch_->watch(path, identity_);
+    }
     if (std::exchange(file_, path) != path) {
         Q_EMIT fileChanged();
     }

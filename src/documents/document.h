@@ -1,8 +1,12 @@
 #pragma once
 
 #include "base/failure.h"
+#include "base/fileidentity.h"
 #include "base/progress.h"
 #include "desktop/desktop.h"
+#include "documents/filelock.h"
+#include "documents/filewatch.h"
+#include "documents/unsaved.h"
 
 #include <QByteArray>
 #include <QByteArrayView>
@@ -10,6 +14,9 @@
 #include <QString>
 #include <QUndoStack>
 
+#include <chrono>
+#include <memory>
+#include <optional>
 #include <utility>
 
 namespace tavrel {
@@ -48,27 +55,69 @@ public:
     /// Reads the file as the document's type; its steps can then no longer be undone. On failure the document is as it
     /// was.
     Expected<void> open(const QString& file);
-    /// Writes the document under its own type, atomically, to its file or to the one given, which becomes its file. On
-    /// failure the document, its change state and the file on the disk are as they were.
-    Expected<void> save();
-    Expected<void> saveAs(const QString& file);
+    enum class Overwriting { no, yes };
+    /// Writes the document under its own type, atomically, to its file or to the one given, which becomes its file. The
+    /// first time a file is written its contents before are kept beside it, as the user wishes. On failure the
+    /// document, its change state and the file on the disk are as they were. A file of its own that another program has
+    /// changed since is a failure, unless it is to be written over.
+    Expected<void> save(Overwriting overwriting = Overwriting::no);
+    Expected<void> saveAs(const QString& file, Overwriting overwriting = Overwriting::no);
     /// Writes another type (an export) beside; the document's file and change state stay. An export loses what it does
     /// not hold, so it never takes the place of the document's own file.
     Expected<void> exportAs(const QString& file, const QString& type);
     /// Reads its file again, dropping all changes; a failure without a file.
     Expected<void> revert();
+    /// The file's contents before this program first wrote it, kept beside it under its name and "~".
+    QString backupFile() const { return file_ + u'~'; }
+    /// Reads the backup in the place of the contents, which then differ from the file's.
+    Expected<void> revertToBackup();
+
+    /// What would be lost if the program ended now; nothing when the file and the records hold it all.
+    std::optional<Unsaved> unsaved() const;
+    /// Becomes what was kept so, its form apart: it has the file and differs from it as it did. A file that was changed
+    /// meanwhile is found to be so when it is saved.
+    Expected<void> restore(const Unsaved& unsaved);
+    /// Shows again what was typed in the form.
+    virtual void showUnstored(const UnstoredForm& form) { static_cast<void>(form); }
+
+    /// What has become of the file since it was read or written.
+    FileIdentity::State stateOnDisk();
+    /// From now on says what other programs do to its file.
+    void watchFile();
+    /// Tells other programs that a file, which is to be the document's, is open here, until it is closed or another
+    /// file takes its place. Who has it open already, waited for that long; nobody when the file could be taken.
+    std::optional<LockHolder> claimFile(const QString& file, std::chrono::milliseconds patience = {});
+    /// The document is closed: its file is anyone's.
+    void releaseFile();
+    /// Whether the user opened a file to look at it only, because another program has it open. It can be saved
+    /// elsewhere.
+    bool isReadOnly() const { return readOnly_; }
+    void setReadOnly(bool readOnly);
 
 Q_SIGNALS:
     void fileChanged();
     void changedStateChanged(bool changed);
+    /// Something was changed in the document, or typed in its form.
+    void touched();
+    /// Another program changed or removed the file, or put things right again; told once for each.
+    void stateOnDiskChanged(tavrel::FileIdentity::State state);
 
 protected:
     void setType(const QString& type) { type_ = type; }
+    /// What works out the file's contents as they are now, in another thread; null when the document cannot do that.
+    virtual std::function<QByteArray()> contentsLater() const { return {}; }
+    /// What stays the same as long as these contents do; null when nothing tells.
+    virtual std::shared_ptr<const void> contentsVersion() const { return nullptr; }
+    virtual int recordCount() const { return 0; }
+    /// What is typed in the form and stored nowhere.
+    virtual std::optional<UnstoredForm> unstoredForm() const { return std::nullopt; }
     /// For changes that no undo step carries.
     void markChanged();
 
 private:
-    void becomeFile(const QString& file);
+    bool isFile(const QString& file) const;
+    void keepBackup(const QString& file);
+    void becomeFile(const QString& file, FileIdentity identity);
     void tellChangedState();
 
     Desktop& desktop_;
@@ -76,6 +125,11 @@ private:
     QString file_;
     QUndoStack undoStack_;
     Progress progress_;
+    FileIdentity identity_;  ///< of the file as it was read or written last
+    std::unique_ptr<FileWatch> watch_;
+    std::unique_ptr<FileLock> lock_;
+    QString backedUp_;  ///< the file whose contents before were kept already
+    bool readOnly_ = false;
     bool changedBesideStack_ = false;
     bool toldChanged_ = false;
 };

@@ -130,6 +130,11 @@ QByteArray ListDocument::archive() const {
     return writeRecords(*list_, layout_);
 }
 
+/// The records never change, so another thread may read them while the list goes on to be another one.
+std::function<QByteArray()> ListDocument::contentsLater() const {
+    return [list = list_, &layout = layout_] { return writeRecords(*list, layout); };
+}
+
 Expected<RecordList> ListDocument::unarchive(QByteArrayView data) const {
     return readRecords(data, layout_, progress()).map([](auto&& file) { return std::move(file.records); });
 }

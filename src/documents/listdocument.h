@@ -5,6 +5,7 @@
 
 #include <QList>
 
+#include <functional>
 #include <memory>
 
 namespace tavrel {
@@ -59,6 +60,9 @@ Q_SIGNALS:
 protected:
     QByteArray archive() const;
     Expected<RecordList> unarchive(QByteArrayView data) const;
+    std::function<QByteArray()> contentsLater() const override;
+    std::shared_ptr<const void> contentsVersion() const override { return list_; }
+    int recordCount() const override { return count(); }
 
 private:
     class Step;

@@ -172,6 +172,17 @@ bool Carnet::renumDives(qint32 first, const Progress& progress) {
     return true;
 }
 
+void Carnet::convertUnits(UnitSystem to) {
+    RecordList dives = records();
+    for (RecordPointer& dive : dives) {
+        dive = std::make_shared<const Plongee>(convertedDive(static_cast<const Plongee&>(*dive), to));
+    }
+    const QList<int> selected = selectedRows();
+    changeList(text("Carnet", "Undo convert units"), std::move(dives));
+    selectRows(selected);
+    followSelection();
+}
+
 void Carnet::appendDives(const QString& step, std::vector<Plongee> taken) {
     RecordList dives;
     dives.reserve(taken.size());

@@ -4,6 +4,7 @@
 #include "book/book.h"
 #include "dives/plongee.h"
 #include "logbook/diveform.h"
+#include "logbook/unitconversion.h"
 
 #include <functional>
 #include <vector>
@@ -54,6 +55,9 @@ public:
     /// Numbers all dives from first on, each through the form, whose corrections apply. Whether it came to its end;
     /// cancelled, no dive is changed.
     bool renumDives(qint32 first, const Progress& progress = {});
+    /// Takes the numbers of all dives from the other system of units into this one, as one undo step. The selection
+    /// stays.
+    void convertUnits(UnitSystem to);
     /// The number a new dive gets: that of the last dive by position, and one.
     qint32 nextDiveNumber() const;
     static qint32 numberAfter(const Plongee& dive);

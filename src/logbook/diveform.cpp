@@ -1,5 +1,6 @@
 #include "logbook/diveform.h"
 
+#include "archive/recordarchive.h"
 #include "base/texts.h"
 #include "desktop/clock.h"
 #include "desktop/commonsettings.h"
@@ -121,6 +122,24 @@ bool DiveForm::differsBeside() const {
 
 void DiveForm::rememberBeside() {
     remembered_ = _plg;
+}
+
+std::function<QByteArray()> DiveForm::entriesBeside() const {
+    if (!differsBeside()) {
+        return {};
+    }
+    return [profile = _plg] {
+        const auto dive = std::make_shared<Plongee>();
+        static_cast<ProfileSeries&>(*dive) = profile;
+        return writeRecords({dive}, Plongee::layout());
+    };
+}
+
+void DiveForm::enterBesideAgain(QByteArrayView entries) {
+    const auto read = readRecords(entries, Plongee::layout());
+    if (read && read->records.size() == 1) {
+        _plg = static_cast<const Plongee&>(*read->records.front());
+    }
 }
 
 void DiveForm::clear(int) {

@@ -42,6 +42,8 @@ public:
     bool holdsBeside(const QString& field) const override;
     /// A series of the profile, as numbers with commas.
     Expected<void> enterBeside(const QString& field, const QString& value) override;
+    /// The profile, as a dive that has nothing else.
+    std::function<QByteArray()> entriesBeside() const override;
 
 Q_SIGNALS:
     /// The user wants to see the consumption of the dive in the form.
@@ -58,6 +60,7 @@ protected:
     void entered(int control) override;
     bool differsBeside() const override;
     void rememberBeside() override;
+    void enterBesideAgain(QByteArrayView entries) override;
 
 private:
     void nameDifficulty();

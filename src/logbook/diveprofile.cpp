@@ -72,6 +72,7 @@ void importProfil(Carnet& carnet, const SeriesTexts& texts) {
         carnet.updateDive();
         carnet.editFields();
     } else {
+        Q_EMIT carnet.form().userEdited();
         carnet.updateUI();
     }
 }

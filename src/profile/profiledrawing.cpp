@@ -242,6 +242,16 @@ private:
 
     QRectF boxOf(const QString& text, const QPointF& at) const { return {at, QSizeF(widthOf(text), lineHeight_)}; }
 
+    /// Where an icon comes to stand, as large as the letters: what marks its sample stays there, the foot of a flag and
+    /// the middle of an alarm.
+    QRectF boxOf(const ProfileGeometry::Icon& icon) const {
+        const QSizeF size = iconSize(icon.name);
+        const double grown = letters_ - 1;
+        const double left = icon.label >= 0 ? size.width() * grown : size.width() * grown / 2;
+        const double down = icon.name == u"alarmeASC" ? size.height() * grown / 2 : 0;
+        return {icon.at - QPointF(left, down), size * letters_};
+    }
+
     void paintFlags() {
         QHash<QString, double> lastOfKind;
         std::vector<const ProfileGeometry::Icon*> gases;
@@ -257,11 +267,12 @@ private:
                 gases.push_back(&icon);
                 continue;
             }
-            const QSizeF size = iconSize(icon.name);
-            QPointF at = icon.at;
+            const QRectF usual = boxOf(icon);
+            const QSizeF size = usual.size();
+            QPointF at = usual.topLeft();
             // An alarm of another kind at the same sample stands above the first.
             while (std::any_of(alarms_.begin(), alarms_.end(), [&](const QRectF& other) {
-                return std::abs(other.left() - at.x()) < iconSpacing && std::abs(other.top() - at.y()) < 8;
+                return std::abs(other.left() - at.x()) < iconSpacing && std::abs(other.top() - at.y()) < 8 * letters_;
             })) {
                 at.ry() += size.height();
             }
@@ -276,14 +287,15 @@ private:
     /// A gas switch with its words, beside its place when that is taken or out of view. Where there is no room at all
     /// it is left out.
     void paintGas(const ProfileGeometry::Icon& icon) {
-        const QSizeF size = iconSize(icon.name);
-        if (!std::isfinite(icon.at.y())) {
+        const QRectF usual = boxOf(icon);
+        const QSizeF size = usual.size();
+        if (!std::isfinite(usual.y())) {
             return;
         }
         const QRectF view(Space::left + 4, Space::timeAxis, Space::fullWidth - Space::left - 8,
                           Space::fullHeight - Space::timeAxis);
         const ProfileGeometry::Label& label = geometry_.labels[static_cast<std::size_t>(icon.label)];
-        const QPointF wanted(std::max(icon.at.x(), view.left()), icon.at.y());
+        const QPointF wanted(std::max(usual.x(), view.left()), usual.y());
         for (const double up : {0.0, 1.0, -1.0, 2.0, 3.0}) {
             for (const double across : {0.0, 1.0, 2.0}) {
                 const QRectF place(wanted + QPointF(across * (size.width() + 4), up * (size.height() + 2)), size);
@@ -294,11 +306,11 @@ private:
                     taken_.push_back(place);
                     drawing_.add(Drawing::Icon{place.topLeft(), size, icon.name});
                     // The words stand in the flag, which is the upper part of the icon.
-                    const double flagWidth = icon.name == u"alarmeGAZO2" ? 25 : size.width();
-                    drawing_.add(Drawing::Text{{place.left() + flagWidth / 2, place.bottom() - 9.5},
+                    const double flagWidth = icon.name == u"alarmeGAZO2" ? 25 * letters_ : size.width();
+                    drawing_.add(Drawing::Text{{place.left() + flagWidth / 2, place.bottom() - 9.5 * letters_},
                                                label.text,
                                                Qt::black,
-                                               fontSize,
+                                               fontSize * letters_,
                                                Qt::AlignCenter});
                     return;
                 }

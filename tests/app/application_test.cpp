@@ -5,13 +5,18 @@
 #include "app/windowmenus.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QLineEdit>
 #include <QMenu>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <thread>
+#include <unistd.h>
 
 namespace tavrel {
 
@@ -104,12 +109,12 @@ TEST(InstanceServer, takesTheFilesOfALaterStart) {
     QTemporaryDir folder;
     const QString socket = folder.filePath(QStringLiteral("socket"));
     InstanceServer first(socket);
-    EXPECT_FALSE(first.handOver({}));
+    EXPECT_EQ(first.handOver({}), InstanceServer::HandedOver::toNobody);
     ASSERT_TRUE(first.listen());
     QSignalSpy handedOver(&first, &InstanceServer::handedOver);
     const QStringList files{QStringLiteral("/tmp/plongées 1.carnet"), QStringLiteral("/tmp/2.carnet")};
     bool taken = false;
-    std::thread later([&] { taken = InstanceServer(socket).handOver(files); });
+    std::thread later([&] { taken = InstanceServer(socket).handOver(files) == InstanceServer::HandedOver::taken; });
     EXPECT_TRUE(handedOver.wait());
     later.join();
     EXPECT_TRUE(taken);
@@ -125,8 +130,27 @@ TEST(InstanceServer, takesOverAPlaceThatWasLeft) {
     ASSERT_TRUE(left.open(QIODevice::WriteOnly));
     left.close();
     InstanceServer server(socket);
-    EXPECT_FALSE(server.handOver({}));
+    EXPECT_EQ(server.handOver({}), InstanceServer::HandedOver::toNobody);
     EXPECT_TRUE(server.listen());
+}
+
+TEST(InstanceServer, isNotHeldUpByWhatIsInItsWay) {
+    QTemporaryDir folder;
+    const QString socket = folder.filePath(QStringLiteral("socket"));
+    constexpr StartPatience brief{50, 50};
+    // A folder bears the name, and a start that hangs has the lock of the name beside it.
+    ASSERT_TRUE(QDir().mkdir(socket));
+    const QByteArray lock = QFile::encodeName(socket + QStringLiteral("-2.lock"));
+    const int held = ::open(lock.constData(), O_RDWR | O_CREAT, 0600);
+    ASSERT_EQ(::flock(held, LOCK_EX), 0);
+    InstanceServer first(socket, brief);
+    EXPECT_EQ(first.handOver({}), InstanceServer::HandedOver::toNobody);
+    EXPECT_TRUE(first.listen());
+    // The one that listens is in the middle of something: no second program, but no endless wait either.
+    InstanceServer second(socket, brief);
+    EXPECT_EQ(second.handOver({}), InstanceServer::HandedOver::busy);
+    EXPECT_FALSE(second.listen());
+    ::close(held);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <QDropEvent>
 #include <QFile>
 #include <QMimeData>
+#include <QTest>
 #include <QUrl>
 #include <gtest/gtest.h>
 
@@ -205,7 +206,7 @@ TEST_F(Documents, askBeforeTheyCloseWithChanges) {
     EXPECT_EQ(question.buttons,
               (QStringList{text("Main", "Save"), text("Main", "Don't save"), text("Main", "Cancel")}));
     EXPECT_TRUE(question.message.contains(u"dives.carnet"));
-    EXPECT_EQ(app.frontWindow()->settled, QList{Settling::leaving});
+    EXPECT_EQ(app.frontWindow()->asked, QList{Settling::leaving});
 
     app.alerts.answerNext(dontSave);
     app.frontWindow()->close();
@@ -223,6 +224,75 @@ TEST_F(Documents, askBeforeTheyCloseWithChanges) {
     app.alerts.answerNext(dontSave);
     EXPECT_TRUE(app.documents.closeAllDocuments());
     EXPECT_TRUE(names().isEmpty());
+}
+
+TEST_F(Documents, stayAsTheyWereWhenTheUserWouldRatherNotLeave) {
+    const QString file = app.savedLogbook(QStringLiteral("first.carnet"), 1);
+    app.documents.openFile(file);
+    TestWindow* first = app.frontWindow();
+    app.documents.openFile(app.savedLogbook(QStringLiteral("second.carnet"), 1));
+    TestWindow* second = app.frontWindow();
+    const QByteArray before = contents(file);
+    // Whatever was answered about the first, nothing has come of it when the second is not to be left.
+    for (const Entries entries : {Entries::dropped, Entries::stored}) {
+        first->entries = entries;
+        first->document().undoStack().setClean();
+        static_cast<Carnet&>(first->document()).addDive();
+        second->entries = std::nullopt;
+        app.alerts.clear();
+        app.alerts.answerNext(save);
+        EXPECT_FALSE(app.documents.closeAllDocuments());
+        EXPECT_EQ(app.alerts.questions.size(), 1U);
+        EXPECT_TRUE(first->settled.isEmpty());
+        EXPECT_EQ(contents(file), before);
+    }
+    // Nor of a document's own: the form's answer holds only once the file's question is answered too.
+    const QString theirs = app.savedLogbook(QStringLiteral("others.carnet"), 5);
+    using Way = bool (MyDocumentController::*)(DocumentWindow&);
+    for (const Way way : {&MyDocumentController::closeDocument, &MyDocumentController::revertDocument,
+                          &MyDocumentController::revertToBackup, &MyDocumentController::saveDocumentAs}) {
+        first->entries = Entries::dropped;
+        app.alerts.answerNext(cancel);
+        EXPECT_FALSE((app.documents.*way)(*first));
+        EXPECT_TRUE(first->settled.isEmpty());
+    }
+    ASSERT_TRUE(QFile::remove(file) && QFile::copy(theirs, file));
+    app.alerts.clear();
+    app.alerts.answerNext(3);
+    EXPECT_FALSE(app.documents.saveDocument(*first));
+    EXPECT_TRUE(first->settled.isEmpty());
+
+    // What is done to one while another asks is asked about again.
+    first->entries = second->entries = Entries::none;
+    app.alerts.clear();
+    static_cast<Carnet&>(second->document()).addDive();
+    first->document().undoStack().setClean();
+    app.alerts.answerNext(dontSave);
+    app.alerts.answerNext(cancel);
+    app.alerts.whileAsked = [&] {
+        if (app.alerts.questions.size() == 1) {
+            static_cast<Carnet&>(first->document()).addDive();
+        }
+    };
+    EXPECT_FALSE(app.documents.closeAllDocuments());
+    ASSERT_EQ(app.alerts.questions.size(), 2U);
+    EXPECT_TRUE(app.alerts.questions[0].message.contains(u"second"));
+    EXPECT_TRUE(app.alerts.questions[1].message.contains(u"first"));
+    app.alerts.whileAsked = {};
+
+    // Entries that are to be added make the document one to save.
+    app.documents.newDocument();
+    app.frontWindow()->entries = Entries::stored;
+    app.alerts.clear();
+    app.alerts.answerNext(save);
+    app.fileDialogs.save = {{app.path(QStringLiteral("third.carnet"))}};
+    TestWindow* third = app.frontWindow();
+    QList<Entries> settled;
+    QObject::connect(&third->document(), &Document::fileChanged, third, [&] { settled = third->settled; });
+    EXPECT_TRUE(app.documents.closeDocument(*third));
+    EXPECT_EQ(app.alerts.questions.size(), 1U);
+    EXPECT_EQ(settled, QList{Entries::stored});
+    EXPECT_EQ(app.documents.windows().size(), 2);
 }
 
 TEST_F(Documents, openAtTheStart) {
@@ -264,6 +334,183 @@ TEST_F(Documents, openWhenDroppedOnAWindow) {
     QApplication::sendEvent(app.frontWindow(), &drop);
     QApplication::processEvents();
     EXPECT_EQ(names(), (QStringList{QStringLiteral("Untitled"), QStringLiteral("dives #1.carnet")}));
+}
+
+TEST_F(Documents, askBeforeTheySaveOverWhatAnotherProgramWrote) {
+    const QString file = app.savedLogbook(QStringLiteral("dives.carnet"), 2);
+    QByteArray theirs = contents(app.savedLogbook(QStringLiteral("others.carnet"), 5));
+    DocumentWindow* window = app.documents.openFile(file);
+    const auto countAfter = [&](int answer) {
+        app.frontCarnet().addDive();
+        write(file, theirs);
+        app.alerts.clear();
+        app.alerts.answerNext(answer);
+        const bool saved = app.documents.saveDocument(*window);
+        EXPECT_EQ(app.alerts.questions.size(), 1U);
+        EXPECT_EQ(app.alerts.questions[0].buttons, (QStringList{QStringLiteral("Overwrite"), QStringLiteral("Save As…"),
+                                                                QStringLiteral("Reload"), QStringLiteral("Cancel")}));
+        return std::pair(saved, app.frontCarnet().count());
+    };
+    enum { overwrite, saveElsewhere, reload, leave };
+    EXPECT_EQ(countAfter(leave), std::pair(false, 3));
+    EXPECT_EQ(contents(file), theirs);
+    EXPECT_EQ(countAfter(reload), std::pair(false, 5));
+    EXPECT_FALSE(window->document().isChanged());
+    theirs = contents(app.savedLogbook(QStringLiteral("more.carnet"), 4));
+    EXPECT_EQ(countAfter(overwrite), std::pair(true, 6));
+    EXPECT_NE(contents(file), theirs);
+    const QString elsewhere = app.path(QStringLiteral("elsewhere.carnet"));
+    app.fileDialogs.save = {{elsewhere}};
+    EXPECT_EQ(countAfter(saveElsewhere), std::pair(true, 7));
+    EXPECT_EQ(window->document().file(), elsewhere);
+    EXPECT_EQ(contents(file), theirs);
+
+    ASSERT_TRUE(QFile::remove(elsewhere));
+    app.alerts.clear();
+    app.alerts.answerNext(0);
+    EXPECT_TRUE(app.documents.saveDocument(*window));
+    EXPECT_EQ(app.alerts.questions[0].buttons.size(), 3) << "there is nothing to reload";
+    EXPECT_TRUE(QFile::exists(elsewhere));
+}
+
+TEST_F(Documents, tellInTheirWindowWhatAnotherProgramDoes) {
+    const QString file = app.savedLogbook(QStringLiteral("dives.carnet"), 2);
+    const QByteArray theirs = contents(app.savedLogbook(QStringLiteral("others.carnet"), 5));
+    DocumentWindow* window = app.documents.openFile(file);
+    MessageBar& bar = window->messageBar();
+    EXPECT_TRUE(bar.isHidden());
+    write(file, theirs);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !bar.isHidden(); }));
+    EXPECT_EQ(bar.message(), u"Another program has changed the file.");
+    bar.findChild<QAction*>(QStringLiteral("messageCommand"))->trigger();
+    EXPECT_EQ(app.frontCarnet().count(), 5);
+    EXPECT_TRUE(bar.isHidden());
+    ASSERT_TRUE(QFile::remove(file));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !bar.isHidden(); }));
+    EXPECT_EQ(bar.message(), u"Another program has removed or renamed the file.");
+    EXPECT_TRUE(app.alerts.questions.empty() && app.alerts.failures.empty());
+}
+
+TEST_F(Documents, thatAnotherProgramHasOpenAreOpenedToBeLookedAt) {
+    const QString file = app.savedLogbook(QStringLiteral("dives.carnet"), 2);
+    FileLock other(file);
+    ASSERT_FALSE(other.take({}));
+    enum { readOnly, anyway, leave };
+    app.alerts.answerNext(leave);
+    EXPECT_FALSE(app.documents.openFile(file));
+    EXPECT_TRUE(app.alerts.questions[0].message.contains(u"dives.carnet"));
+    app.alerts.answerNext(readOnly);
+    DocumentWindow* window = app.documents.openFile(file);
+    ASSERT_TRUE(window);
+    EXPECT_EQ(window->windowTitle(), u"dives.carnet (read-only)[*]");
+    const QByteArray before = contents(file);
+    app.frontCarnet().addDive();
+    EXPECT_FALSE(app.documents.saveDocument(*window));
+    EXPECT_EQ(app.fileDialogs.proposed, file) << "it is saved elsewhere";
+    EXPECT_EQ(contents(file), before);
+    app.fileDialogs.save = {{app.path(QStringLiteral("copy.carnet"))}};
+    EXPECT_TRUE(app.documents.saveDocument(*window));
+    EXPECT_EQ(window->windowTitle(), u"copy.carnet[*]");
+    app.alerts.answerNext(anyway);
+    window = app.documents.openFile(file);
+    ASSERT_TRUE(window);
+    app.frontCarnet().addDive();
+    EXPECT_TRUE(app.documents.saveDocument(*window));
+}
+
+TEST_F(Documents, goBackToTheirBackup) {
+    const QString file = app.savedLogbook(QStringLiteral("dives.carnet"), 2);
+    DocumentWindow* window = app.documents.openFile(file);
+    app.frontCarnet().addDive();
+    ASSERT_TRUE(app.documents.saveDocument(*window));
+    app.alerts.answerNext(1);
+    EXPECT_FALSE(app.documents.revertToBackup(*window));
+    EXPECT_EQ(app.frontCarnet().count(), 3);
+    app.alerts.answerNext(0);
+    EXPECT_TRUE(app.documents.revertToBackup(*window));
+    EXPECT_EQ(app.frontCarnet().count(), 2);
+    EXPECT_TRUE(window->document().isChanged());
+}
+
+/// A run of the program that keeps what is unsaved in a folder that all runs share.
+struct OneRun {
+    explicit OneRun(TestApplication& itsApp) : app(itsApp) {}
+    ~OneRun() = default;
+
+    Carnet& carnet() { return static_cast<Carnet&>(documents.windows().back()->document()); }
+
+    TestApplication& app;
+    MyDocumentController documents{app.desktop(), app.fileDialogs, testDocumentTypes(),
+                                   app.path(QStringLiteral("journal"))};
+};
+
+TEST_F(Documents, bringBackWhatASuddenEndTook) {
+    const QString file = app.savedLogbook(QStringLiteral("dives.carnet"), 2);
+    const QByteArray before = contents(file);
+    {
+        OneRun run(app);
+        ASSERT_TRUE(run.documents.openFile(file));
+        run.carnet().addDive();
+        run.carnet().newRecord();
+        DiveForm& form = run.carnet().form();
+        form.state().type(form.controls().lieuField.index, QStringLiteral("Bonifacio"));
+        ASSERT_TRUE(form.enterBeside(QStringLiteral("profilProfondeur"), QStringLiteral("0, 12.5, 0")));
+        // Asked to end at once, as by a signal; nothing is closed.
+        run.documents.keepUnsaved();
+    }
+    EXPECT_EQ(contents(file), before);
+    enum { restore, discard, leave };
+    {
+        OneRun run(app);
+        app.alerts.answerNext(leave);
+        run.documents.offerUnsaved();
+        ASSERT_EQ(app.alerts.questions.size(), 1U);
+        EXPECT_TRUE(app.alerts.questions[0].message.contains(u"dives.carnet"));
+        EXPECT_TRUE(app.alerts.questions[0].message.contains(u"all records (3) and what was being typed"))
+            << app.alerts.questions[0].message.toStdString();
+        EXPECT_TRUE(run.documents.windows().isEmpty());
+    }
+    {
+        OneRun run(app);
+        ASSERT_TRUE(run.documents.openFile(file));
+        app.alerts.answerNext(restore);
+        run.documents.offerUnsaved();
+        ASSERT_EQ(run.documents.windows().size(), 1);
+        EXPECT_EQ(run.carnet().file(), file);
+        EXPECT_EQ(run.carnet().count(), 3);
+        EXPECT_TRUE(run.carnet().isChanged());
+        EXPECT_TRUE(run.carnet().hasEntries());
+        DiveForm& form = run.carnet().form();
+        EXPECT_EQ(form.state().text(form.controls().lieuField), u"Bonifacio");
+        EXPECT_EQ(form.profile().profilProfondeur.size(), 3);
+        EXPECT_EQ(contents(file), before);
+        // Another sudden end before anything is saved.
+    }
+    {
+        OneRun run(app);
+        app.alerts.answerNext(discard);
+        run.documents.offerUnsaved();
+        EXPECT_EQ(app.alerts.questions.size(), 3U);
+        run.documents.offerUnsaved();
+        EXPECT_EQ(app.alerts.questions.size(), 3U) << "once discarded there is nothing to offer";
+    }
+    EXPECT_TRUE(QDir(app.path(QStringLiteral("journal"))).isEmpty());
+    // It says what it holds: the form alone, a document without a file.
+    {
+        OneRun run(app);
+        ASSERT_TRUE(run.documents.openFile(file));
+        run.carnet().form().state().type(DiveControls::table().lieuField.index, QStringLiteral("Bonifacio"));
+        run.documents.newDocument();
+        run.carnet().addDive();
+        run.documents.keepUnsaved();
+    }
+    OneRun run(app);
+    app.alerts.answerNext(discard);
+    run.documents.offerUnsaved();
+    const QStringList lines = app.alerts.questions.back().message.split(u'\n');
+    ASSERT_EQ(lines.size(), 4);
+    EXPECT_TRUE(lines[1].contains(u"dives.carnet") && lines[1].endsWith(u": what was being typed"));
+    EXPECT_TRUE(lines[2].contains(u"never saved") && lines[2].endsWith(u": all records (1)"));
 }
 
 }  // namespace

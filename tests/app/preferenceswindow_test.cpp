@@ -11,9 +11,11 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
+#include <QToolButton>
 #include <gtest/gtest.h>
 
 namespace tavrel {
@@ -315,6 +317,51 @@ TEST_F(PreferencesTest, pagesAndResetButton) {
     find<QPushButton>("resetPreferences").click();
     EXPECT_FALSE(find<QCheckBox>("gazColumnSwitch").isChecked());
     EXPECT_EQ(takePosted().size(), 6);
+}
+
+TEST_F(PreferencesTest, theResetSaysWhatItChanges) {
+    // At a first start the registered defaults and the reset values differ.
+    const auto question = [&] {
+        desktop.alerts.answerNext(1);
+        find<QPushButton>("resetPreferences").click();
+        return desktop.alerts.questions.back().message.split(u'\n');
+    };
+    EXPECT_TRUE(question().contains(QStringLiteral("New dives – Tank volume: – → 15 l")));
+    EXPECT_TRUE(question().contains(QStringLiteral("Depth and time – Depths: #0000ff → #800080")))
+        << "blue, then purple";
+    EXPECT_FALSE(question().join(u' ').contains(u"Show units in")) << "it is on and stays on";
+    EXPECT_TRUE(question().last().startsWith(u"and ")) << "the list is cut to fit the screen";
+    window().resetPreferences();
+    type("volumeBlocField", "12");
+    find<QCheckBox>("gazColumnSwitch").click();
+    EXPECT_EQ(question().mid(2), (QStringList{QStringLiteral("New dives – Tank volume: 12 l → 15 l"),
+                                              QStringLiteral("Columns of the logbook – Gas: on → off")}));
+}
+
+TEST_F(PreferencesTest, saysWhatASwitchDoesBesideIt) {
+    EXPECT_TRUE(find<QLabel>("Note US units").text().contains(u"converts nothing"));
+    EXPECT_TRUE(find<QLabel>("Tip wreck column").text().contains(u"does not keep a choice"));
+    EXPECT_FALSE(find<QLabel>("Note US units").isHidden());
+}
+
+TEST_F(PreferencesTest, isUsedFromTheKeyboard) {
+    window().show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
+        QTest::keyClick(&window(), key, modifiers);
+        return window().page();
+    };
+    EXPECT_EQ(press(Qt::Key_PageDown), 2);
+    EXPECT_EQ(press(Qt::Key_Tab), 3);
+    EXPECT_EQ(press(Qt::Key_PageUp), 2);
+    EXPECT_EQ(press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier), 1);
+    EXPECT_EQ(press(Qt::Key_PageUp), 6) << "around the end";
+    for (QToolButton* button : find<CustomToolBar>("prefsToolbar").findChildren<QToolButton*>()) {
+        EXPECT_TRUE(button->objectName() == u"qt_toolbar_ext_button" || (button->focusPolicy() & Qt::TabFocus))
+            << button->text().toStdString();
+    }
+    press(Qt::Key_Escape, Qt::NoModifier);
+    EXPECT_TRUE(window().isHidden());
 }
 
 }  // namespace

@@ -3,14 +3,19 @@
 #include "app/tavreldocuments.h"
 #include "app/testapplication.h"
 #include "app/windowmenus.h"
+#include "book/ui/bookactions.h"
+#include "book/ui/bookeditwindow.h"
+#include "book/ui/booktableview.h"
 #include "desktop/commonsettings.h"
 #include "logbook/logbooksettings.h"
+#include "logbook/ui/logbookwindow.h"
 
 #include <QAbstractButton>
 #include <QFile>
 #include <QMenuBar>
 #include <QRegularExpression>
 #include <QTableView>
+#include <QTest>
 #include <gtest/gtest.h>
 
 namespace tavrel {
@@ -100,6 +105,59 @@ TEST_F(Program, importsExportsAndFollowsThePreferences) {
     EXPECT_TRUE(shownDepth().endsWith(u" ft"));
     static_cast<QAbstractButton*>(preferences.control(&settings::displayUnits).widget())->click();
     EXPECT_FALSE(shownDepth().endsWith(u"t"));
+}
+
+TEST_F(Program, asksAboutADiveBeingTypedAndThenAboutItsFile) {
+    const QString file = desktop.path(QStringLiteral("dives.carnet"));
+    ASSERT_TRUE(QFile::copy(QStringLiteral(TAVREL_SOURCE_FOLDER "/samples/sample.carnet"), file));
+    auto* window = qobject_cast<LogbookWindow*>(documents.openFile(file));
+    ASSERT_TRUE(window);
+    auto* carnet = &static_cast<Carnet&>(window->document());
+    const int before = carnet->count();
+    QTest::mouseClick(window->table().viewport(), Qt::LeftButton, {},
+                      window->table().visualRect(window->table().model()->index(1, 0)).center());
+    window->actions().action(QStringLiteral("newDive"))->trigger();
+    const int boat = DiveControls::table().bateauField.index;
+    const auto typeAndLeave = [&](const std::vector<int>& answers) {
+        QTest::keyClicks(window->editWindow().pages().widget(boat), QStringLiteral("Bonifacio"));
+        desktop.alerts.clear();
+        for (const int answer : answers) {
+            desktop.alerts.answerNext(answer);
+        }
+        const bool left = documents.closeAllDocuments();
+        EXPECT_EQ(desktop.alerts.questions.size(), answers.size());
+        return left;
+    };
+    enum { add, discard, cancel };
+    enum { save, dontSave };
+    // Whatever was answered before, a cancel leaves the dive as it is being typed.
+    for (const auto& answers : {std::vector<int>{cancel}, std::vector<int>{add, cancel}}) {
+        EXPECT_FALSE(typeAndLeave(answers));
+        EXPECT_TRUE(window->isVisible() && window->editWindow().isVisible());
+        EXPECT_TRUE(carnet->form().state().text(DiveControls::table().bateauField).endsWith(u"Bonifacio"));
+        EXPECT_EQ(carnet->count(), before);
+        EXPECT_FALSE(carnet->isChanged());
+    }
+    carnet->form().state().setText(DiveControls::table().bateauField, {});
+    EXPECT_TRUE(typeAndLeave({add, save}));
+    EXPECT_TRUE(documents.windows().isEmpty());
+
+    window = qobject_cast<LogbookWindow*>(documents.openFile(file));
+    ASSERT_TRUE(window);
+    carnet = &static_cast<Carnet&>(window->document());
+    ASSERT_EQ(carnet->count(), before + 1);
+    EXPECT_EQ(carnet->record(before).bateau, u"Bonifacio");
+    window->actions().action(QStringLiteral("newDive"))->trigger();
+    EXPECT_TRUE(typeAndLeave({discard})) << "the file holds all that is to be kept";
+}
+
+TEST_F(Program, mayEndWithItsWindowsOpen) {
+    auto* window = qobject_cast<LogbookWindow*>(documents.newDocument());
+    ASSERT_TRUE(window);
+    window->actions().action(QStringLiteral("newDive"))->trigger();
+    QTest::keyClicks(window->editWindow().pages().widget(DiveControls::table().bateauField.index),
+                     QStringLiteral("typed"));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window->editWindow()));
 }
 
 TEST_F(Program, isKnownToTheDesktopForEveryTypeOfDocument) {

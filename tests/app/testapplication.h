@@ -44,15 +44,17 @@ public:
     void printDocument() override { ++prints; }
     QString ownMenuTitle() const override { return QStringLiteral("Dive"); }
     QList<QWidget*> furtherWindows() override { return {&further}; }
-    bool leaveEditing(Settling next) override {
-        settled.append(next);
-        return leaves;
+    std::optional<Entries> askAboutEntries(Settling next) override {
+        asked.append(next);
+        return entries;
     }
+    void settleEntries(Entries entriesSettled) override { settled.append(entriesSettled); }
 
     QWidget further;
     int prints = 0;
-    QList<Settling> settled;
-    bool leaves = true;  ///< what is being entered, when asked
+    QList<Settling> asked;
+    QList<Entries> settled;
+    std::optional<Entries> entries = Entries::none;  ///< the answer about what is being entered
 };
 
 /// A second kind of document, with records of its own.

@@ -381,6 +381,32 @@ TEST(RecordArchive, BoundsNestingAndMemory) {
               as<Card>(file->records[1]).numbers.block<double>().data());
 }
 
+TEST(RecordArchive, WritesASharedSeriesOnceAndRefusesWhatUnfoldsWithoutEnd) {
+    auto first = std::make_shared<Sample>();
+    first->numbers = Series::ofReals(std::vector<double>(100'000, 0.5));
+    first->place = QString(100'000, u'a');
+    const Samples many(300, first);
+    Samples apart;
+    for (const RecordPointer& each : many) {
+        apart.push_back(std::make_shared<Sample>(static_cast<const Sample&>(*each)));
+    }
+    apart.resize(20);
+    const QByteArray bytes = writeRecords(apart, sampleLayout);
+    EXPECT_LT(bytes.size(), 2 * writeRecords({first}, sampleLayout).size());
+    const auto read = readRecords(bytes, sampleLayout);
+    ASSERT_TRUE(read) << read.error().message().toStdString();
+    EXPECT_EQ(static_cast<const Sample&>(*read->records[19]), *first);
+    EXPECT_EQ(writeRecords(read->records, sampleLayout), bytes);
+
+    apart.clear();
+    for (const RecordPointer& each : many) {
+        apart.push_back(std::make_shared<Sample>(static_cast<const Sample&>(*each)));
+    }
+    const auto refused = readRecords(writeRecords(apart, sampleLayout), sampleLayout);
+    ASSERT_FALSE(refused);
+    EXPECT_EQ(refused.error().sentence, u"The file unfolds to far more than it could mean.");
+}
+
 // Each once made a reader fall.
 TEST(RecordArchive, SurvivesHostileFiles) {
     const QDir folder(QStringLiteral(TAVREL_TEST_DATA "/hostile"));

@@ -284,7 +284,7 @@ TEST_F(SafeFile, tellsWhatBecameOfAFile) {
     ASSERT_TRUE(written);
     const auto read = FileBytes::open(file);
     ASSERT_TRUE(read);
-    for (const FileIdentity& identity : {*written, read->identity(contentHash("one"))}) {
+    for (FileIdentity identity : {*written, read->identity(contentHash("one"))}) {
         ASSERT_TRUE(writeFile(file, "one"));
         EXPECT_EQ(identity.stateOf(name), State::same) << "another file of the same contents";
         const struct stat before = statusOf(file);

@@ -8,6 +8,7 @@
 #include <QButtonGroup>
 #include <QClipboard>
 #include <QComboBox>
+#include <QGraphicsEffect>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -40,6 +41,10 @@ void pressEnter(QWidget& widget) {
         QKeyEvent event(kind, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
         QApplication::sendEvent(&widget, &event);
     }
+}
+
+bool isDimmed(const QWidget& widget) {
+    return widget.graphicsEffect() && widget.graphicsEffect()->isEnabled();
 }
 
 QString shown(const QWidget& window, const char* field) {
@@ -172,13 +177,29 @@ TEST(GpsWindow, reportsInThreeColoursAndLogsEachStep) {
         EXPECT_EQ(document->blockCount(), 37) << "a blank line, then the report, whole and once";
         const QTextBlock title = document->findBlockByNumber(1);
         EXPECT_EQ(title.text(), u"----- ED50 -----");
-        EXPECT_EQ(title.begin().fragment().charFormat().foreground().color(), QColor(Qt::red));
+        EXPECT_EQ(title.begin().fragment().charFormat().foreground().color(), QColor(200, 0, 0));
         auto pieces = document->findBlockByNumber(4).begin();
         EXPECT_EQ(pieces.fragment().charFormat().foreground().color(), QColor(Qt::black));
         EXPECT_EQ((++pieces).fragment().text(), u"30.00 m");
         EXPECT_EQ(pieces.fragment().charFormat().foreground().color(), QColor(Qt::blue));
     }
     EXPECT_TRUE(named<QLineEdit>(window, "longitude_outField").text().startsWith(u"WGS84 -1° 29' "));
+    EXPECT_TRUE(named<QLineEdit>(window, "positionOut").text().startsWith(u"N 47° 59.9"))
+        << named<QLineEdit>(window, "positionOut").text().toStdString();
+    EXPECT_TRUE(named<QLineEdit>(window, "positionOut").text().contains(u"W 000° 30."));
+
+    // On dark paper the three colours stay readable.
+    QPalette dark;
+    dark.setColor(QPalette::Base, QColor(30, 30, 30));
+    dark.setColor(QPalette::Text, Qt::white);
+    window.setPalette(dark);
+    for (QTextBlock line = named<QTextEdit>(window, "gpsDataField").document()->begin(); line.isValid();
+         line = line.next()) {
+        for (auto piece = line.begin(); !piece.atEnd(); ++piece) {
+            EXPECT_GT(piece.fragment().charFormat().foreground().color().lightnessF(), 0.6F);
+        }
+    }
+    window.setPalette({});
 
     named<QComboBox>(window, "geodesiePopUp").setCurrentIndex(1);
     type(window, "longitude_inField", "2.35");
@@ -198,6 +219,130 @@ TEST(GpsWindow, reportsInThreeColoursAndLogsEachStep) {
     EXPECT_EQ(loggedLines.value(2), u"lng WGS -> ED = 2.350000");
     EXPECT_EQ(named<QLineEdit>(window, "longitude_outField").text(), u"2.351285");
     EXPECT_TRUE(named<QLineEdit>(window, "altitude_outField").text().startsWith(u"Altitude : "));
+    EXPECT_FALSE(isDimmed(named<QLineEdit>(window, "latitude_outField")));
+    type(window, "latitude_inField", "48.9");
+    EXPECT_TRUE(isDimmed(named<QLineEdit>(window, "latitude_outField")));
+}
+
+TEST(GpsWindow, readsAPositionAsDiversWriteIt) {
+    GpsController window;
+    const auto field = [&](const char* name) { return named<QLineEdit>(window, name).text(); };
+    window.readPosition(QStringLiteral("43° 12.345' N 5° 20.7' W"));
+    EXPECT_EQ(field("latitude_in_degreeField"), u"43");
+    EXPECT_EQ(field("latitude_in_minutesField"), u"12.345");
+    EXPECT_EQ(field("latitude_in_secondsField"), u"0");
+    // West: each part takes its minus sign, as the converter adds them.
+    EXPECT_EQ(field("longitude_in_degreeField"), u"-5");
+    EXPECT_EQ(field("longitude_in_minutesField"), u"-20.7");
+    EXPECT_EQ(field("latitude_inField"), u"43.20575");
+    EXPECT_EQ(field("longitude_inField"), u"-5.345");
+    EXPECT_TRUE(shown(window, "positionNote").contains(u"N 43° 12.345'"));
+    // What is no position leaves the fields alone.
+    window.readPosition(QStringLiteral("43° 12.3'"));
+    EXPECT_EQ(field("latitude_inField"), u"43.20575");
+    window.readPosition(QStringLiteral("S 8° 30,5' O 115°"));
+    EXPECT_EQ(field("latitude_in_degreeField"), u"-8");
+    EXPECT_EQ(field("latitude_in_minutesField"), u"-30.5");
+    EXPECT_EQ(field("longitude_inField"), u"-115");
+}
+
+TEST(NitroxWindow, saysWhenItsResultIsOfOtherInputs) {
+    CalculatorWindow window(CalculatorId::ProfMax);
+    const auto& result = named<QLabel>(window, "resultatField");
+    const auto& note = named<QLabel>(window, "staleNote");
+    type(window, "fracO2Field", "32");
+    EXPECT_FALSE(isDimmed(result)) << "there is no result yet";
+    window.calculate();
+    EXPECT_FALSE(isDimmed(result));
+    type(window, "fracO2Field", "36");
+    EXPECT_TRUE(isDimmed(result));
+    EXPECT_FALSE(note.isHidden());
+    EXPECT_EQ(result.text(), u"MOD : 33.8 m") << "it stays to be read";
+    type(window, "fracO2Field", "32");
+    EXPECT_FALSE(isDimmed(result));
+    EXPECT_TRUE(note.isHidden());
+    named<QComboBox>(window, "ppO2PopUp").setCurrentIndex(4);
+    EXPECT_TRUE(isDimmed(result));
+    window.calculate();
+    EXPECT_FALSE(isDimmed(result));
+}
+
+TEST(CalculatorWindows, nameTheInputThatGivesInfinityOrANegativeDepth) {
+    struct Case {
+        CalculatorId id;
+        std::vector<std::pair<const char*, const char*>> inputs;
+        const char* named;  ///< the field with words beside it; null: none
+        const char* words;
+    };
+    const Case cases[] = {
+        {CalculatorId::ProfMax, {{"fracO2Field", "32"}}, nullptr, ""},
+        {CalculatorId::ProfMax, {{"fracO2Field", "0"}}, "fracO2Field", "gives infinity"},
+        {CalculatorId::ProfMax, {{"fracO2Field", "150"}}, "fracO2Field", "gives a negative depth"},
+        {CalculatorId::BestMix,
+         {{"profondeurMaxField", "-10"}},
+         "profondeurMaxField",
+         "gives infinity, is a negative depth"},
+        {CalculatorId::EquivalentDepth,
+         {{"fracO2Field", "40"}, {"profondeurField", "0"}},
+         "profondeurField",
+         "gives a negative depth"},
+        {CalculatorId::EquivalentDepth,
+         {{"fracO2Field", "100"}, {"profondeurField", "30"}},
+         "fracO2Field",
+         "gives a negative depth"},
+        {CalculatorId::EquivalentDepth, {{"fracO2Field", "21"}, {"profondeurField", "30"}}, nullptr, ""},
+        {CalculatorId::OxygenWindow,
+         {{"winFO2", "32"}, {"winMinPpO2", "0.16"}},
+         "winMinPpO2",
+         "gives a negative depth"},
+        {CalculatorId::OxygenWindow, {{"winFO2", "10"}, {"winMinPpO2", "0.16"}}, nullptr, ""},
+        {CalculatorId::BlendNitrox,
+         {{"pressionInitialeField", "50"}, {"pressionFinaleField", "50"}, {"fracO2FinaleField", "32"}},
+         "pressionFinaleField",
+         "gives infinity"},
+        {CalculatorId::TrimixEadEnd,
+         {{"fracHeTxField", "70"}, {"profondeurMaxField", "0"}},
+         "profondeurMaxField",
+         "gives a negative depth"},
+        {CalculatorId::BestTrimix,
+         {{"depthTxField", "60"}, {"ENDField", "-3"}, {"ppO2Field", "1.4"}},
+         "ENDField",
+         "is a negative depth"},
+        {CalculatorId::SodaTime,
+         {{"sodaWeightField", "2.5"}, {"sodaCapacityField", "100"}},
+         "metabolicProductionField",
+         "gives infinity"},
+        {CalculatorId::BreathedFraction,
+         {{"brEanxField", "40"}, {"brFlowField", "1"}, {"brMetabolicField", "1"}},
+         "brFlowField",
+         "gives infinity"},
+        {CalculatorId::IdealFlow,
+         {{"idEanxField", "40"}, {"idMetabolicField", "1"}, {"idRealFracO2Field", "40"}},
+         "idRealFracO2Field",
+         "gives infinity"},
+    };
+    for (const Case& it : cases) {
+        CalculatorWindow window(it.id);
+        for (const auto& [field, words] : it.inputs) {
+            type(window, field, words);
+        }
+        window.calculate();
+        for (const CalculatorInput& input : calculatorPage(it.id)->inputs) {
+            const bool isNamed = it.named && qstrcmp(it.named, input.field) == 0;
+            const QString words = shown(window, (QByteArray(input.field) + "Fault").constData());
+            EXPECT_EQ(words, isNamed ? QString::fromLatin1(it.words) : QString())
+                << calculator(it.id).windowLayout << ' ' << input.field;
+        }
+    }
+}
+
+TEST(CalculatorWindows, showADecimalCommaInFrench) {
+    setTextLanguage(QStringLiteral("fr"));
+    CalculatorWindow window(CalculatorId::ProfMax);
+    type(window, "fracO2Field", "32,0");
+    window.calculate();
+    EXPECT_EQ(shown(window, "resultatField"), u"MOD : 33,8 m");
+    setTextLanguage(QStringLiteral("en"));
 }
 
 }  // namespace

@@ -155,7 +155,7 @@ TEST_F(CommandLine, endsWithTheReasonAndChangesNothing) {
     EXPECT_TRUE(again.error.contains(logbook));
     EXPECT_EQ(contentsOf(path(logbook)), before);
     EXPECT_EQ(QDir(path(QString())).entryList(QDir::Files | QDir::Hidden),
-              (QStringList{logbook, QStringLiteral("cut.carnet")}));
+              (QStringList{logbook, logbook + u'~', QStringLiteral("cut.carnet")}));
 }
 
 TEST_F(CommandLine, readsTheSettingsAndLeavesThemAlone) {

@@ -7,6 +7,8 @@
 #include <QFile>
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 namespace tavrel {
 
 namespace {
@@ -252,6 +254,41 @@ TEST(PickLists, defaultToWhatIsStoredAndTheActivitiesToTheServices) {
     next.store.set(QStringLiteral("activite"), QStringList());
     lists.reload(PickList::tableauDesActivites);
     EXPECT_TRUE(lists[PickList::tableauDesActivites].isEmpty());
+}
+
+TEST(Preferences, areReadFromSaneFilesOnly) {
+    TestDesktop desktop;
+    const QString pipe = desktop.path(QStringLiteral("pipe"));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    const QString large = desktop.path(QStringLiteral("large"));
+    QFile file(large);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.resize(50 << 20));
+    for (const QString& path : {pipe, large, QStringLiteral("/dev/zero"), desktop.path(QString())}) {
+        Preferences preferences(path);
+        preferences.set(key, 5);
+        EXPECT_EQ(preferences.integer(key), 5) << path.toStdString();
+        desktop.alerts.clear();
+        preferences.synchronize(desktop.alerts);
+        preferences.synchronize(desktop.alerts);
+        ASSERT_EQ(desktop.alerts.failures.size(), 1U) << path.toStdString();
+        EXPECT_TRUE(desktop.alerts.failures[0].sentence.contains(path));
+    }
+    EXPECT_EQ(file.size(), 50 << 20);
+}
+
+TEST(Preferences, areReadByTheirUserAlone) {
+    TestDesktop desktop;
+    const QString path = desktop.path(QStringLiteral("own/settings.ini"));
+    const auto mode = [&] {
+        struct stat status {};
+        EXPECT_EQ(::stat(QFile::encodeName(path).constData(), &status), 0);
+        return status.st_mode & 07777U;
+    };
+    Preferences(path).set(key, 5);
+    EXPECT_EQ(mode(), 0600U);
+    ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), 0644), 0);
+    Preferences(path).set(key, 6);
+    EXPECT_EQ(mode(), 0600U);
 }
 
 }  // namespace

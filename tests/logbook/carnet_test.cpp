@@ -138,6 +138,42 @@ TEST_F(CarnetTest, renumbersThroughTheForm) {
     EXPECT_TRUE(empty.isChanged());
 }
 
+TEST_F(CarnetTest, convertsUnitsOnceAsOneStep) {
+    Plongee dive{.noPlongee = 1, .profondeur = 32.5F, .altitude = 250, .tempEau = 14, .tempAir = -50};
+    dive.decoDepth_Level_1 = 3;
+    dive.decoDepth_Level_6 = 18;
+    dive.pressionDepart = 200;
+    dive.volumeBloc = 15;
+    dive.lestage = 4;
+    dive.profilProfondeur = Series::ofReals({0, 10, 32.5});
+    hold({dive, {.noPlongee = 2}});
+    carnet.selectRows({0});
+    carnet.convertUnits(UnitSystem::us);
+    const Plongee& feet = carnet.record(0);
+    EXPECT_FLOAT_EQ(feet.profondeur, 106.63F);
+    EXPECT_EQ(feet.altitude, 820);
+    EXPECT_EQ(feet.tempEau, 57);
+    EXPECT_EQ(feet.tempAir, -50) << "none given";
+    EXPECT_FLOAT_EQ(feet.decoDepth_Level_1, 9.84F);
+    EXPECT_FLOAT_EQ(feet.decoDepth_Level_6, 59.06F);
+    EXPECT_EQ(feet.profilProfondeur, Series::ofReals({0, 32.81, 106.63}));
+    EXPECT_EQ(feet.pressionDepart, 200);
+    EXPECT_EQ(feet.volumeBloc, 15);
+    EXPECT_FLOAT_EQ(feet.lestage, 4);
+    EXPECT_EQ(carnet.record(1).profondeur, 0.0F);
+    EXPECT_EQ(carnet.selectedRows(), QList<int>({0}));
+    EXPECT_EQ(shown(controls.profondeurField), u"106.63");
+
+    carnet.convertUnits(UnitSystem::metric);
+    EXPECT_FLOAT_EQ(carnet.record(0).profondeur, 32.5F);
+    EXPECT_FLOAT_EQ(carnet.record(0).decoDepth_Level_1, 3);
+    EXPECT_EQ(carnet.record(0).tempEau, 14);
+    carnet.undoStack().undo();
+    carnet.undoStack().undo();
+    EXPECT_FLOAT_EQ(carnet.record(0).profondeur, 32.5F);
+    EXPECT_EQ(carnet.record(0).altitude, 250);
+}
+
 TEST_F(CarnetTest, goesFromDiveToDiveStoringTheForm) {
     holdNumbers({1, 2, 3});
     carnet.selectRows({1});

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tavrel {
@@ -96,6 +97,41 @@ TEST(ProfileDrawing, staysLegibleWhereFlagsAndLabelsCrowd) {
     ASSERT_GT(times.size(), 3U);
     for (std::size_t label = 1; label < times.size(); ++label) {
         EXPECT_GT(times[label] - times[label - 1], 28);
+    }
+}
+
+TEST(ProfileDrawing, lettersOfASmallPictureGrowWithoutLeavingTheirPlaces) {
+    ProfileDive dive = diveOf(std::vector<double>(200, 48), 0);
+    std::vector<qint32> flags(200);
+    flags[100] = 1;
+    dive.series.SLOW_Flag = dive.series.GAZ_Flag = Series::ofIntegers(flags);
+    const ProfileGeometry geometry = profileGeometry(dive, plainStyle());
+    const Drawing usual = profileDrawing(geometry, dive, plainStyle());
+    const Drawing large = profileDrawing(geometry, dive, plainStyle(), 2);
+    std::vector<QRectF> boxes;
+    for (const auto& text : all<Drawing::Text>(large)) {
+        EXPECT_EQ(text.size, 22);
+        if (text.alignment == (Qt::AlignLeft | Qt::AlignBottom)) {
+            // A letter of 11 points is taken as 6.6 wide; what may touch is the empty part of the line.
+            const QRectF box(text.at.x(), text.at.y() + 4, 13.2 * static_cast<double>(text.text.size()), 20);
+            EXPECT_TRUE(QRectF(QPointF(), large.size()).contains(box)) << text.text.toStdString();
+            for (const QRectF& other : boxes) {
+                EXPECT_FALSE(other.intersects(box)) << text.text.toStdString();
+            }
+            boxes.push_back(box);
+        }
+    }
+    EXPECT_GT(boxes.size(), 10U);
+    // The foot of the flag and the middle of the alarm stay at their sample.
+    for (const auto& icon : all<Drawing::Icon>(large)) {
+        const auto same = all<Drawing::Icon>(usual);
+        const auto before =
+            std::find_if(same.begin(), same.end(), [&](const auto& other) { return other.name == icon.name; });
+        ASSERT_NE(before, same.end());
+        EXPECT_EQ(icon.size, before->size * 2);
+        const double part = icon.name == u"alarmeGAZ" ? 1 : 0.5;
+        EXPECT_DOUBLE_EQ(icon.at.x() + part * icon.size.width(), before->at.x() + part * before->size.width());
+        EXPECT_DOUBLE_EQ(icon.at.y(), before->at.y());
     }
 }
 

@@ -28,7 +28,10 @@
 <message><source>Feet</source><translation>&amp;Feet</translation></message>
 <message><source>Formula</source><translation>Formula</translation></message>
 <message><source>GPS datum conversion</source><translation>GPS datum conversion</translation></message>
+<message><source>Gives a negative depth</source><translation>gives a negative depth</translation></message>
+<message><source>Gives infinity</source><translation>gives infinity</translation></message>
 <message><source>Inputs</source><translation>Inputs</translation></message>
+<message><source>Is negative</source><translation>is a negative depth</translation></message>
 <message><source>Kelvin</source><translation>&amp;Kelvin</translation></message>
 <message><source>Kilograms</source><translation>&amp;Kilograms</translation></message>
 <message><source>Latitude</source><translation>Latitude</translation></message>
@@ -41,6 +44,11 @@
 <message><source>Metres</source><translation>&amp;Metres</translation></message>
 <message><source>Minutes</source><translation>minutes</translation></message>
 <message><source>Nitrox</source><translation>Nitrox</translation></message>
+<message><source>Position as typed</source><translation>Position, latitude first</translation></message>
+<message><source>Position hint</source><translation>As on a chart or a receiver: 43° 12.345' N 5° 20.7' W, or 43.2057, -5.345. It fills the fields of both converters.</translation></message>
+<message><source>Position hint short</source><translation>Degrees with decimals or with minutes; N, S, E, W or signs</translation></message>
+<message><source>Position not read</source><translation>No position yet: latitude, then longitude</translation></message>
+<message><source>Position read</source><translation>Read as %@</translation></message>
 <message><source>Pounds (US)</source><translation>&amp;Pounds (US)</translation></message>
 <message><source>Pounds per square inch</source><translation>&amp;Pounds per square inch</translation></message>
 <message><source>Pressure</source><translation>Pressure</translation></message>
@@ -48,12 +56,15 @@
 <message><source>Report</source><translation>Report</translation></message>
 <message><source>Result</source><translation>Result</translation></message>
 <message><source>Resulting altitude</source><translation>Altitude</translation></message>
+<message><source>Resulting position</source><translation>Position</translation></message>
 <message><source>Seconds</source><translation>seconds</translation></message>
 <message><source>Sexagesimal converter</source><translation>Degrees, minutes and seconds: ED50 → WGS84</translation></message>
 <message><source>Signs hint</source><translation>The three parts are added: west of Greenwich or
 south of the equator each takes its minus sign.</translation></message>
+<message><source>Stale result</source><translation>This result belongs to what was typed before.</translation></message>
 <message><source>Temperature</source><translation>Temperature</translation></message>
 <message><source>Trimix</source><translation>Trimix</translation></message>
+<message><source>Typed position</source><translation>&amp;Position</translation></message>
 <message><source>Unit conversions</source><translation>Unit conversions</translation></message>
 <message><source>Volume</source><translation>Volume</translation></message>
 </context>

@@ -65,6 +65,18 @@
 <message><source>Configuration</source><translation>&#13;Configuration: </translation></message>
 <message><source>Consumption</source><translation>Consumption</translation></message>
 <message><source>Consumption of</source><translation>Gas consumption: %@</translation></message>
+<message><source>Convert altitudes</source><translation>Dives with an altitude beyond 4000 afterwards: %d. When such a dive is edited, the form sets its altitude to 0.</translation></message>
+<message><source>Convert depth now</source><translation>Depth now</translation></message>
+<message><source>Convert depth then</source><translation>Depth then</translation></message>
+<message><source>Convert explanation</source><translation>The depths, stops, altitudes, temperatures and profiles of all dives are calculated anew and stored. Pressures, volumes and weights stay as they are. Undo takes it back.</translation></message>
+<message><source>Convert first dives</source><translation>The first %d of %d dives</translation></message>
+<message><source>Convert preview</source><translation>Dives before and after</translation></message>
+<message><source>Convert title</source><translation>Convert units</translation></message>
+<message><source>Convert to feet</source><translation>From &amp;metres and degrees Celsius to feet and degrees Fahrenheit</translation></message>
+<message><source>Convert to metres</source><translation>From &amp;feet and degrees Fahrenheit to metres and degrees Celsius</translation></message>
+<message><source>Convert units</source><translation>&amp;Convert</translation></message>
+<message><source>Convert water now</source><translation>Water now</translation></message>
+<message><source>Convert water then</source><translation>Water then</translation></message>
 <message><source>Copying</source><translation>Copying the dives…</translation></message>
 <message><source>Current</source><translation>&#13;Current: </translation></message>
 <message><source>Current dive</source><translation>Current dive</translation></message>
@@ -408,6 +420,7 @@
 <message><source>UDDF files</source><translation>UDDF files</translation></message>
 <message><source>Under ice</source><translation>Under ice</translation></message>
 <message><source>Undo add</source><translation>Add Dive</translation></message>
+<message><source>Undo convert units</source><translation>Convert Units</translation></message>
 <message><source>Undo delete</source><translation>Delete Dives</translation></message>
 <message><source>Undo import</source><translation>Import</translation></message>
 <message><source>Undo insert</source><translation>Insert Dive</translation></message>

@@ -47,6 +47,7 @@
 <message><source>Delete</source><translation>Delete</translation></message>
 <message><source>Delete entries</source><translation>Delete</translation></message>
 <message><source>Discard</source><translation>Discard</translation></message>
+<message><source>Dismiss</source><translation>Dismiss</translation></message>
 <message><source>Display</source><translation>Display</translation></message>
 <message><source>Dive computers</source><translation>Dive Computers</translation></message>
 <message><source>Divers documents</source><translation>Miscellaneous documents</translation></message>
@@ -69,13 +70,16 @@
 <message><source>Export document</source><translation>Export</translation></message>
 <message><source>Export onto document</source><translation>An export cannot take the place of the document’s own file.</translation></message>
 <message><source>Exporting</source><translation>Exporting…</translation></message>
+<message><source>File changed by another</source><translation>Another program has changed the file.</translation></message>
 <message><source>File is a folder</source><translation>It is a folder, not a file.</translation></message>
 <message><source>File is not regular</source><translation>It is not a regular file.</translation></message>
 <message><source>File is open</source><translation>It is open in another window.</translation></message>
 <message><source>File missing</source><translation>There is no such file.</translation></message>
 <message><source>File not readable</source><translation>The file cannot be read.</translation></message>
 <message><source>File not writable</source><translation>The file cannot be written.</translation></message>
+<message><source>File open elsewhere</source><translation>It is open in %@.</translation></message>
 <message><source>File permission denied</source><translation>You do not have permission to do so.</translation></message>
+<message><source>File removed by another</source><translation>Another program has removed or renamed the file.</translation></message>
 <message><source>File system read-only</source><translation>The disk is write-protected.</translation></message>
 <message><source>Filter</source><translation>Filter</translation></message>
 <message><source>Filter hint</source><translation>Filter: words in any field, or field:word</translation></message>
@@ -101,6 +105,7 @@
 <message><source>Keep filter</source><translation>Keep Filter…</translation></message>
 <message><source>Keep filter title</source><translation>Keep Filter</translation></message>
 <message><source>Loading</source><translation>Loading…</translation></message>
+<message><source>Lock holder</source><translation>%@, process %@ on %@</translation></message>
 <message><source>Logbook</source><translation>Logbook</translation></message>
 <message><source>Materiel</source><translation>Equipment</translation></message>
 <message><source>Memo</source><translation>Memo</translation></message>
@@ -110,6 +115,7 @@
 <message><source>Menu clear recent</source><translation>Clear List</translation></message>
 <message><source>Menu close</source><translation>Close</translation></message>
 <message><source>Menu columns</source><translation>Columns</translation></message>
+<message><source>Menu convert units</source><translation>Convert Units…</translation></message>
 <message><source>Menu copy</source><translation>Copy</translation></message>
 <message><source>Menu delete cards</source><translation>Delete Cards…</translation></message>
 <message><source>Menu edit</source><translation>Edit</translation></message>
@@ -136,6 +142,7 @@
 <message><source>Menu quit</source><translation>Quit</translation></message>
 <message><source>Menu renumber</source><translation>Renumber Dives…</translation></message>
 <message><source>Menu revert</source><translation>Revert to Saved</translation></message>
+<message><source>Menu revert to backup</source><translation>Revert to Backup…</translation></message>
 <message><source>Menu save as</source><translation>Save As…</translation></message>
 <message><source>Menu select all</source><translation>Select All</translation></message>
 <message><source>Menu view</source><translation>View</translation></message>
@@ -156,7 +163,12 @@
 <message><source>One card found</source><translation>1 card found</translation></message>
 <message><source>One intervention</source><translation>One intervention</translation></message>
 <message><source>One revision</source><translation>One service</translation></message>
+<message><source>Open anyway</source><translation>Open Anyway</translation></message>
 <message><source>Open document</source><translation>Open</translation></message>
+<message><source>Open elsewhere question</source><translation>“%@” is open in %@.
+Two programs that save the same document undo each other’s changes.</translation></message>
+<message><source>Open read-only</source><translation>Open Read-Only</translation></message>
+<message><source>Overwrite</source><translation>Overwrite</translation></message>
 <message><source>Page number</source><translation>%d / %d</translation></message>
 <message><source>Page of pages</source><translation>Page %d of %d</translation></message>
 <message><source>Pages</source><translation>Pages of the form</translation></message>
@@ -185,17 +197,27 @@
 <message><source>Printing</source><translation>Printing…</translation></message>
 <message><source>Printing failed</source><translation>The document could not be printed.</translation></message>
 <message><source>Profile</source><translation>Profile</translation></message>
+<message><source>Program is busy</source><translation>Tavrel is running already, but is busy and does not answer.</translation></message>
+<message><source>Read-only title</source><translation>%@ (read-only)</translation></message>
 <message><source>Rebreather</source><translation>Rebreather</translation></message>
 <message><source>Redo</source><translation>Redo</translation></message>
 <message><source>Redo step</source><translation>Redo %@</translation></message>
 <message><source>Remove filter</source><translation>Remove Filter</translation></message>
+<message><source>Reload</source><translation>Reload</translation></message>
 <message><source>Remove from toolbar</source><translation>Remove from the toolbar</translation></message>
+<message><source>Restore</source><translation>Restore</translation></message>
 <message><source>Revert</source><translation>Revert</translation></message>
 <message><source>Revert question</source><translation>Revert “%@” to the saved version? Your changes will be lost.</translation></message>
+<message><source>Revert to backup question</source><translation>Do you want to go back to what “%@” held before it was first saved in this session or the last?
+Everything entered since is lost, unless you do not save.</translation></message>
 <message><source>Revisions</source><translation>%d services</translation></message>
 <message><source>Save</source><translation>Save</translation></message>
 <message><source>Save changes</source><translation>Save the changes made to “%@”?</translation></message>
 <message><source>Save document as</source><translation>Save as</translation></message>
+<message><source>Save elsewhere</source><translation>Save As…</translation></message>
+<message><source>Save over change</source><translation>Another program has changed “%@” since it was opened.
+Overwriting loses what that program wrote, reloading what you entered.</translation></message>
+<message><source>Save over removal</source><translation>Another program has removed or renamed “%@” since it was opened.</translation></message>
 <message><source>Separator</source><translation>Separator</translation></message>
 <message><source>Services</source><translation>Services</translation></message>
 <message><source>Shops</source><translation>Shops</translation></message>
@@ -244,6 +266,15 @@
 <message><source>Undo update card</source><translation>Change Card</translation></message>
 <message><source>Unknown document type</source><translation>Tavrel knows no document type "%@".</translation></message>
 <message><source>Unknown kind of document</source><translation>It is a kind of document that Tavrel does not know.</translation></message>
+<message><source>Unsaved form</source><translation>“%@” (%@), %@: what was being typed</translation></message>
+<message><source>Unsaved later</source><translation>Later</translation></message>
+<message><source>Unsaved question</source><translation>Tavrel ended without saving:
+%@
+Do you want it back?</translation></message>
+<message><source>Unsaved records</source><translation>“%@” (%@), %@: all records (%@)</translation></message>
+<message><source>Unsaved records and form</source><translation>“%@” (%@), %@: all records (%@) and what was being typed</translation></message>
+<message><source>Unsaved without file</source><translation>never saved</translation></message>
+<message><source>Unsaved work not readable</source><translation>What was kept of the unsaved work is damaged.</translation></message>
 <message><source>Untitled</source><translation>Untitled</translation></message>
 <message><source>Update</source><translation>Update</translation></message>
 <message><source>Wreck types</source><translation>Wreck Types</translation></message>

@@ -25,6 +25,7 @@
 <message><source>Depth and time</source><translation>Depth and time</translation></message>
 <message><source>Depth and time in color</source><translation>Depths and times in colour</translation></message>
 <message><source>Dives abroad in color</source><translation>Dives abroad in colour</translation></message>
+<message><source>Files</source><translation>Files</translation></message>
 <message><source>Fill color</source><translation>Fill</translation></message>
 <message><source>Fill the curve</source><translation>Fill the area under the profile</translation></message>
 <message><source>Gradient factors</source><translation>Gradient factors of new dives</translation></message>
@@ -32,6 +33,7 @@
 <message><source>Grid</source><translation>Grid</translation></message>
 <message><source>High gradient factor</source><translation>High</translation></message>
 <message><source>Home country code</source><translation>Home country code</translation></message>
+<message><source>Keep backup</source><translation>Keep the previous file as a backup</translation></message>
 <message><source>Kinds of dives</source><translation>Kinds of dives</translation></message>
 <message><source>Litres</source><translation>l</translation></message>
 <message><source>Low gradient factor</source><translation>Low</translation></message>
@@ -43,13 +45,19 @@
 <message><source>Mixes in color</source><translation>Dives on a mix or a rebreather in colour</translation></message>
 <message><source>Months</source><translation>months</translation></message>
 <message><source>New dives</source><translation>New dives</translation></message>
+<message><source>Note US units</source><translation>The numbers stored are taken to be in these units; switching converts nothing. Edit &gt; Convert Units… converts a logbook.</translation></message>
+<message><source>Off</source><translation>off</translation></message>
+<message><source>On</source><translation>on</translation></message>
 <message><source>Opacity</source><translation>Opacity</translation></message>
 <message><source>Oxygen cells</source><translation>Oxygen cells</translation></message>
 <message><source>Percent</source><translation>%%</translation></message>
 <message><source>Plot color</source><translation>Line</translation></message>
 <message><source>Reset</source><translation>Reset All…</translation></message>
 <message><source>Reset answer</source><translation>Reset</translation></message>
-<message><source>Reset question</source><translation>Give all settings of all pages their standard values?</translation></message>
+<message><source>Reset change</source><translation>%@ – %@: %@ → %@</translation></message>
+<message><source>Reset more</source><translation>and %d more</translation></message>
+<message><source>Reset nothing</source><translation>Every setting has its standard value already.</translation></message>
+<message><source>Reset question</source><translation>Give all settings of all pages their standard values? This changes:</translation></message>
 <message><source>Stop interval</source><translation>Distance between stops</translation></message>
 <message><source>Tank pressure</source><translation>Tank pressure</translation></message>
 <message><source>Tank volume</source><translation>Tank volume</translation></message>

@@ -28,7 +28,10 @@
 <message><source>Feet</source><translation>&amp;Pieds</translation></message>
 <message><source>Formula</source><translation>Formule</translation></message>
 <message><source>GPS datum conversion</source><translation>Conversion de repère GPS</translation></message>
+<message><source>Gives a negative depth</source><translation>donne une profondeur négative</translation></message>
+<message><source>Gives infinity</source><translation>donne l’infini</translation></message>
 <message><source>Inputs</source><translation>Données</translation></message>
+<message><source>Is negative</source><translation>est une profondeur négative</translation></message>
 <message><source>Kelvin</source><translation>&amp;Kelvin</translation></message>
 <message><source>Kilograms</source><translation>&amp;Kilogrammes</translation></message>
 <message><source>Latitude</source><translation>Latitude</translation></message>
@@ -41,6 +44,11 @@
 <message><source>Metres</source><translation>&amp;Mètres</translation></message>
 <message><source>Minutes</source><translation>minutes</translation></message>
 <message><source>Nitrox</source><translation>Nitrox</translation></message>
+<message><source>Position as typed</source><translation>Position, latitude d’abord</translation></message>
+<message><source>Position hint</source><translation>Comme sur une carte ou un récepteur : 43° 12,345' N 5° 20,7' W, ou 43.2057, -5.345. Elle remplit les champs des deux convertisseurs.</translation></message>
+<message><source>Position hint short</source><translation>Degrés décimaux ou avec minutes ; N, S, E, O ou signes</translation></message>
+<message><source>Position not read</source><translation>Pas encore une position : la latitude, puis la longitude</translation></message>
+<message><source>Position read</source><translation>Lu : %@</translation></message>
 <message><source>Pounds (US)</source><translation>&amp;Livres (US)</translation></message>
 <message><source>Pounds per square inch</source><translation>&amp;Livres par pouce carré</translation></message>
 <message><source>Pressure</source><translation>Pression</translation></message>
@@ -48,12 +56,15 @@
 <message><source>Report</source><translation>Compte rendu</translation></message>
 <message><source>Result</source><translation>Résultat</translation></message>
 <message><source>Resulting altitude</source><translation>Altitude</translation></message>
+<message><source>Resulting position</source><translation>Position</translation></message>
 <message><source>Seconds</source><translation>secondes</translation></message>
 <message><source>Sexagesimal converter</source><translation>Degrés, minutes et secondes : ED50 → WGS84</translation></message>
 <message><source>Signs hint</source><translation>Les trois parties s’additionnent : à l’ouest ou
 au sud, chacune prend son signe moins.</translation></message>
+<message><source>Stale result</source><translation>Ce résultat correspond à la saisie précédente.</translation></message>
 <message><source>Temperature</source><translation>Température</translation></message>
 <message><source>Trimix</source><translation>Trimix</translation></message>
+<message><source>Typed position</source><translation>&amp;Position</translation></message>
 <message><source>Unit conversions</source><translation>Conversions d’unités</translation></message>
 <message><source>Volume</source><translation>Volume</translation></message>
 </context>

@@ -65,6 +65,18 @@
 <message><source>Configuration</source><translation>&#13;Configuration : </translation></message>
 <message><source>Consumption</source><translation>Consommation</translation></message>
 <message><source>Consumption of</source><translation>Consommation de gaz : %@</translation></message>
+<message><source>Convert altitudes</source><translation>Plongées dont l’altitude dépasse alors 4000 : %d. Si l’une d’elles est modifiée, le formulaire remet son altitude à 0.</translation></message>
+<message><source>Convert depth now</source><translation>Prof. actuelle</translation></message>
+<message><source>Convert depth then</source><translation>Prof. ensuite</translation></message>
+<message><source>Convert explanation</source><translation>Les profondeurs, paliers, altitudes, températures et profils de toutes les plongées sont recalculés et enregistrés. Pressions, volumes et poids restent tels quels. Annuler rétablit les valeurs.</translation></message>
+<message><source>Convert first dives</source><translation>Les %d premières plongées sur %d</translation></message>
+<message><source>Convert preview</source><translation>Plongées avant et après</translation></message>
+<message><source>Convert title</source><translation>Convertir les unités</translation></message>
+<message><source>Convert to feet</source><translation>De &amp;mètres et degrés Celsius en pieds et degrés Fahrenheit</translation></message>
+<message><source>Convert to metres</source><translation>De &amp;pieds et degrés Fahrenheit en mètres et degrés Celsius</translation></message>
+<message><source>Convert units</source><translation>&amp;Convertir</translation></message>
+<message><source>Convert water now</source><translation>Eau actuelle</translation></message>
+<message><source>Convert water then</source><translation>Eau ensuite</translation></message>
 <message><source>Copying</source><translation>Copie des plongées…</translation></message>
 <message><source>Current</source><translation>&#13;Courant : </translation></message>
 <message><source>Current dive</source><translation>Plongée courante</translation></message>
@@ -408,6 +420,7 @@
 <message><source>UDDF files</source><translation>Fichiers UDDF</translation></message>
 <message><source>Under ice</source><translation>Sous glace</translation></message>
 <message><source>Undo add</source><translation>Ajouter la plongée</translation></message>
+<message><source>Undo convert units</source><translation>la conversion des unités</translation></message>
 <message><source>Undo delete</source><translation>Supprimer les plongées</translation></message>
 <message><source>Undo import</source><translation>Importation</translation></message>
 <message><source>Undo insert</source><translation>Insérer la plongée</translation></message>

@@ -47,6 +47,7 @@
 <message><source>Delete</source><translation>Supprimer</translation></message>
 <message><source>Delete entries</source><translation>Supprimer</translation></message>
 <message><source>Discard</source><translation>Abandonner</translation></message>
+<message><source>Dismiss</source><translation>Fermer</translation></message>
 <message><source>Display</source><translation>Affichage</translation></message>
 <message><source>Dive computers</source><translation>Ordinateurs de plongée</translation></message>
 <message><source>Divers documents</source><translation>Documents divers</translation></message>
@@ -69,13 +70,16 @@
 <message><source>Export document</source><translation>Exporter</translation></message>
 <message><source>Export onto document</source><translation>Une exportation ne peut pas remplacer le fichier du document lui-même.</translation></message>
 <message><source>Exporting</source><translation>Exportation…</translation></message>
+<message><source>File changed by another</source><translation>Un autre programme a modifié le fichier.</translation></message>
 <message><source>File is a folder</source><translation>C’est un dossier et non un fichier.</translation></message>
 <message><source>File is not regular</source><translation>Ce n’est pas un fichier ordinaire.</translation></message>
 <message><source>File is open</source><translation>Il est ouvert dans une autre fenêtre.</translation></message>
 <message><source>File missing</source><translation>Ce fichier n’existe pas.</translation></message>
 <message><source>File not readable</source><translation>Le fichier ne peut pas être lu.</translation></message>
 <message><source>File not writable</source><translation>Le fichier ne peut pas être écrit.</translation></message>
+<message><source>File open elsewhere</source><translation>Il est ouvert dans %@.</translation></message>
 <message><source>File permission denied</source><translation>Vous n’en avez pas l’autorisation.</translation></message>
+<message><source>File removed by another</source><translation>Un autre programme a supprimé ou renommé le fichier.</translation></message>
 <message><source>File system read-only</source><translation>Le disque est protégé en écriture.</translation></message>
 <message><source>Filter</source><translation>Filtre</translation></message>
 <message><source>Filter hint</source><translation>Filtrer : des mots dans tous les champs, ou champ:mot</translation></message>
@@ -101,6 +105,7 @@
 <message><source>Keep filter</source><translation>Conserver le filtre…</translation></message>
 <message><source>Keep filter title</source><translation>Conserver le filtre</translation></message>
 <message><source>Loading</source><translation>Chargement…</translation></message>
+<message><source>Lock holder</source><translation>%@, processus %@ sur %@</translation></message>
 <message><source>Logbook</source><translation>Carnet</translation></message>
 <message><source>Materiel</source><translation>Matériel</translation></message>
 <message><source>Memo</source><translation>Pense-bête</translation></message>
@@ -110,6 +115,7 @@
 <message><source>Menu clear recent</source><translation>Effacer la liste</translation></message>
 <message><source>Menu close</source><translation>Fermer</translation></message>
 <message><source>Menu columns</source><translation>Colonnes</translation></message>
+<message><source>Menu convert units</source><translation>Convertir les unités…</translation></message>
 <message><source>Menu copy</source><translation>Copier</translation></message>
 <message><source>Menu delete cards</source><translation>Supprimer les fiches…</translation></message>
 <message><source>Menu edit</source><translation>Édition</translation></message>
@@ -136,6 +142,7 @@
 <message><source>Menu quit</source><translation>Quitter</translation></message>
 <message><source>Menu renumber</source><translation>Renuméroter les plongées…</translation></message>
 <message><source>Menu revert</source><translation>Revenir à la version enregistrée</translation></message>
+<message><source>Menu revert to backup</source><translation>Revenir à la copie de secours…</translation></message>
 <message><source>Menu save as</source><translation>Enregistrer sous…</translation></message>
 <message><source>Menu select all</source><translation>Tout sélectionner</translation></message>
 <message><source>Menu view</source><translation>Affichage</translation></message>
@@ -156,7 +163,12 @@
 <message><source>One card found</source><translation>1 fiche trouvée</translation></message>
 <message><source>One intervention</source><translation>Une intervention</translation></message>
 <message><source>One revision</source><translation>Une révision</translation></message>
+<message><source>Open anyway</source><translation>Ouvrir quand même</translation></message>
 <message><source>Open document</source><translation>Ouvrir</translation></message>
+<message><source>Open elsewhere question</source><translation>« %@ » est ouvert dans %@.
+Deux programmes qui enregistrent le même document défont chacun les modifications de l’autre.</translation></message>
+<message><source>Open read-only</source><translation>Ouvrir en lecture seule</translation></message>
+<message><source>Overwrite</source><translation>Remplacer</translation></message>
 <message><source>Page number</source><translation>%d / %d</translation></message>
 <message><source>Page of pages</source><translation>Page %d sur %d</translation></message>
 <message><source>Pages</source><translation>Pages du formulaire</translation></message>
@@ -185,17 +197,27 @@
 <message><source>Printing</source><translation>Impression…</translation></message>
 <message><source>Printing failed</source><translation>Le document n’a pas pu être imprimé.</translation></message>
 <message><source>Profile</source><translation>Profil</translation></message>
+<message><source>Program is busy</source><translation>Tavrel est déjà ouvert, mais il est occupé et ne répond pas.</translation></message>
+<message><source>Read-only title</source><translation>%@ (lecture seule)</translation></message>
 <message><source>Rebreather</source><translation>Recycleur</translation></message>
 <message><source>Redo</source><translation>Rétablir</translation></message>
 <message><source>Redo step</source><translation>Rétablir : %@</translation></message>
 <message><source>Remove filter</source><translation>Supprimer le filtre</translation></message>
+<message><source>Reload</source><translation>Recharger</translation></message>
 <message><source>Remove from toolbar</source><translation>Retirer de la barre d’outils</translation></message>
+<message><source>Restore</source><translation>Restaurer</translation></message>
 <message><source>Revert</source><translation>Revenir</translation></message>
 <message><source>Revert question</source><translation>Revenir à la version enregistrée de « %@ » ? Les modifications seront perdues.</translation></message>
+<message><source>Revert to backup question</source><translation>Voulez-vous revenir à ce que « %@ » contenait avant son premier enregistrement de cette session ou de la précédente ?
+Tout ce qui a été saisi depuis est perdu, à moins de ne pas enregistrer.</translation></message>
 <message><source>Revisions</source><translation>%d révisions</translation></message>
 <message><source>Save</source><translation>Enregistrer</translation></message>
 <message><source>Save changes</source><translation>Enregistrer les modifications de « %@ » ?</translation></message>
 <message><source>Save document as</source><translation>Enregistrer sous</translation></message>
+<message><source>Save elsewhere</source><translation>Enregistrer sous…</translation></message>
+<message><source>Save over change</source><translation>Un autre programme a modifié « %@ » depuis son ouverture.
+Remplacer perd ce que ce programme a écrit, recharger ce que vous avez saisi.</translation></message>
+<message><source>Save over removal</source><translation>Un autre programme a supprimé ou renommé « %@ » depuis son ouverture.</translation></message>
 <message><source>Separator</source><translation>Séparateur</translation></message>
 <message><source>Services</source><translation>Prestations</translation></message>
 <message><source>Shops</source><translation>Magasins</translation></message>
@@ -244,6 +266,15 @@
 <message><source>Undo update card</source><translation>Modifier la fiche</translation></message>
 <message><source>Unknown document type</source><translation>Tavrel ne connaît pas de type de document « %@ ».</translation></message>
 <message><source>Unknown kind of document</source><translation>Tavrel ne connaît pas ce genre de document.</translation></message>
+<message><source>Unsaved form</source><translation>« %@ » (%@), %@ : la saisie en cours</translation></message>
+<message><source>Unsaved later</source><translation>Plus tard</translation></message>
+<message><source>Unsaved question</source><translation>Tavrel s’est arrêté sans enregistrer :
+%@
+Voulez-vous le retrouver ?</translation></message>
+<message><source>Unsaved records</source><translation>« %@ » (%@), %@ : toutes les fiches (%@)</translation></message>
+<message><source>Unsaved records and form</source><translation>« %@ » (%@), %@ : toutes les fiches (%@) et la saisie en cours</translation></message>
+<message><source>Unsaved without file</source><translation>jamais enregistré</translation></message>
+<message><source>Unsaved work not readable</source><translation>Ce qui a été conservé du travail non enregistré est endommagé.</translation></message>
 <message><source>Untitled</source><translation>Sans titre</translation></message>
 <message><source>Update</source><translation>Valider</translation></message>
 <message><source>Wreck types</source><translation>Types d’épaves</translation></message>

@@ -25,6 +25,7 @@
 <message><source>Depth and time</source><translation>Profondeur et durée</translation></message>
 <message><source>Depth and time in color</source><translation>Profondeurs et durées en couleur</translation></message>
 <message><source>Dives abroad in color</source><translation>Plongées à l’étranger en couleur</translation></message>
+<message><source>Files</source><translation>Fichiers</translation></message>
 <message><source>Fill color</source><translation>Remplissage</translation></message>
 <message><source>Fill the curve</source><translation>Remplir l’aire sous le profil</translation></message>
 <message><source>Gradient factors</source><translation>Facteurs de gradient des nouvelles plongées</translation></message>
@@ -32,6 +33,7 @@
 <message><source>Grid</source><translation>Grille</translation></message>
 <message><source>High gradient factor</source><translation>Haut</translation></message>
 <message><source>Home country code</source><translation>Code du pays d’origine</translation></message>
+<message><source>Keep backup</source><translation>Conserver le fichier précédent comme copie de secours</translation></message>
 <message><source>Kinds of dives</source><translation>Types de plongées</translation></message>
 <message><source>Litres</source><translation>l</translation></message>
 <message><source>Low gradient factor</source><translation>Bas</translation></message>
@@ -43,13 +45,19 @@
 <message><source>Mixes in color</source><translation>Plongées au mélange ou en recycleur en couleur</translation></message>
 <message><source>Months</source><translation>mois</translation></message>
 <message><source>New dives</source><translation>Nouvelles plongées</translation></message>
+<message><source>Note US units</source><translation>Les nombres enregistrés sont pris pour exprimés dans ces unités ; ce réglage ne convertit rien. Édition &gt; Convertir les unités… convertit un carnet.</translation></message>
+<message><source>Off</source><translation>non</translation></message>
+<message><source>On</source><translation>oui</translation></message>
 <message><source>Opacity</source><translation>Opacité</translation></message>
 <message><source>Oxygen cells</source><translation>Cellules d’oxygène</translation></message>
 <message><source>Percent</source><translation>%%</translation></message>
 <message><source>Plot color</source><translation>Ligne</translation></message>
 <message><source>Reset</source><translation>Tout réinitialiser…</translation></message>
 <message><source>Reset answer</source><translation>Réinitialiser</translation></message>
-<message><source>Reset question</source><translation>Rétablir les valeurs standard de tous les réglages de toutes les pages ?</translation></message>
+<message><source>Reset change</source><translation>%@ – %@ : %@ → %@</translation></message>
+<message><source>Reset more</source><translation>et %d autres</translation></message>
+<message><source>Reset nothing</source><translation>Tous les réglages ont déjà leur valeur standard.</translation></message>
+<message><source>Reset question</source><translation>Donner à tous les réglages de toutes les pages leurs valeurs standard ? Voici ce qui change :</translation></message>
 <message><source>Stop interval</source><translation>Écart entre les paliers</translation></message>
 <message><source>Tank pressure</source><translation>Pression du bloc</translation></message>
 <message><source>Tank volume</source><translation>Volume du bloc</translation></message>

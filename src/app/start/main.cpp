@@ -1,4 +1,5 @@
 #include "app/appdelegate.h"
+#include "app/endsignals.h"
 #include "app/instanceserver.h"
 #include "app/mydocumentcontroller.h"
 #include "app/tavreldocuments.h"
@@ -25,6 +26,7 @@ namespace {
 
 using namespace tavrel;
 
+constexpr int failed = 1;
 constexpr int wrongUsage = 2;
 
 void describe(QCommandLineParser& parser) {
@@ -109,9 +111,21 @@ int main(int argc, char** argv) {
     }
     const QStringList files = absolutePaths(parser.positionalArguments());
     InstanceServer instances;
+    using HandedOver = InstanceServer::HandedOver;
     // Of two that start at the same moment, the one that does not get to listen hands over after all.
-    if (instances.handOver(files) || (!instances.listen() && instances.handOver(files))) {
+    auto handedOver = instances.handOver(files);
+    if (handedOver == HandedOver::toNobody && !instances.listen()) {
+        handedOver = instances.handOver(files);
+    }
+    if (handedOver == HandedOver::taken) {
         return 0;
+    }
+    if (handedOver == HandedOver::busy) {
+        // A second program would open the same files.
+        const Failure busy{text("Main", "Program is busy"), {}};
+        print(stderr, busy.message() + u'\n');
+        DialogAlerts().fail(busy);
+        return failed;
     }
 
     Preferences preferences;
@@ -122,7 +136,9 @@ int main(int argc, char** argv) {
     const Clock clock;
     Desktop desktop{preferences, notifications, pickLists, alerts, clock};
     SystemFileDialogs fileDialogs;
-    MyDocumentController documents(desktop, fileDialogs, tavrelDocuments(fileDialogs));
+    const QString state = stateFolder();
+    MyDocumentController documents(desktop, fileDialogs, tavrelDocuments(fileDialogs),
+                                   state.isEmpty() ? QString() : state + QStringLiteral("/journal"));
     AppDelegate delegate(desktop);
     QObject::connect(&documents, &MyDocumentController::windowOpened, &documents,
                      [&](DocumentWindow* window) { new WindowMenus(documents, delegate, *window); });
@@ -130,9 +146,18 @@ int main(int argc, char** argv) {
                      [&](const QStringList& others) { openHandedOver(documents, others); });
     // Leaving the session asks as closing does.
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &documents, [&](QSessionManager& session) {
-        if (session.allowsInteraction() && !documents.mayQuit()) {
+        if (!session.allowsInteraction()) {
+            documents.keepUnsaved();
+        } else if (!documents.mayQuit()) {
             session.cancel();
         }
+        session.release();
+    });
+    // Nobody can be asked: the next start offers what was not saved.
+    EndSignals endSignals;
+    QObject::connect(&endSignals, &EndSignals::received, &documents, [&](int signal) {
+        documents.keepUnsaved();
+        QApplication::exit(128 + signal);
     });
 
     if (files.isEmpty()) {
@@ -140,5 +165,6 @@ int main(int argc, char** argv) {
     } else {
         documents.launch(files);
     }
+    QMetaObject::invokeMethod(&documents, &MyDocumentController::offerUnsaved, Qt::QueuedConnection);
     return QApplication::exec();
 }

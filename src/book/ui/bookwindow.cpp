@@ -160,9 +160,13 @@ void BookWindow::finishEntry() {
     }
 }
 
-bool BookWindow::leaveEditing(Settling next) {
+std::optional<Entries> BookWindow::askAboutEntries(Settling next) {
     finishEntry();
-    return book_.leaveForm(next == Settling::saving ? Leaving::saving : Leaving::elsewhere);
+    return book_.askAboutEntries(next == Settling::saving ? Leaving::saving : Leaving::elsewhere);
+}
+
+void BookWindow::settleEntries(Entries entries) {
+    book_.settleEntries(entries);
 }
 
 void BookWindow::open() {

@@ -55,7 +55,8 @@ public:
     /// Shows the pages of that before they are printed.
     void previewDocument();
     QList<QWidget*> furtherWindows() override;
-    bool leaveEditing(Settling next) override;
+    std::optional<Entries> askAboutEntries(Settling next) override;
+    void settleEntries(Entries entries) override;
 
 Q_SIGNALS:
     /// The edit window was asked for first and is there.

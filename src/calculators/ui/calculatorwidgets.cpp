@@ -1,6 +1,7 @@
 #include "calculators/ui/calculatorwidgets.h"
 
 #include <QClipboard>
+#include <QGraphicsOpacityEffect>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QLabel>
@@ -13,7 +14,39 @@ namespace {
 
 constexpr double resultFontScale = 1.35;
 
+// Plainly fainter than a result that counts, and still read without effort.
+constexpr double dimmedOpacity = 0.55;
+
+bool isDark(const QPalette& palette) {
+    return palette.color(QPalette::Base).lightnessF() < 0.5F;
+}
+
 }  // namespace
+
+QGraphicsEffect* newDimming(QWidget* widget) {
+    auto* effect = new QGraphicsOpacityEffect(widget);
+    effect->setOpacity(dimmedOpacity);
+    effect->setEnabled(false);
+    return effect;
+}
+
+QLabel* newStaleNote(QWidget* parent) {
+    auto* note = new QLabel(text(Title("Calculators", "Stale result")), parent);
+    note->setObjectName(QStringLiteral("staleNote"));
+    QSizePolicy policy = note->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    note->setSizePolicy(policy);
+    note->hide();
+    return note;
+}
+
+QColor readableRed(const QPalette& palette) {
+    return isDark(palette) ? QColor(255, 112, 112) : QColor(200, 0, 0);
+}
+
+QColor readableBlue(const QPalette& palette) {
+    return isDark(palette) ? QColor(130, 170, 255) : QColor(Qt::blue);
+}
 
 QLineEdit* newNumberField(const char* name, QWidget* parent, int digits) {
     auto* field = new QLineEdit(parent);

@@ -2,11 +2,14 @@
 
 #include "base/texts.h"
 
+#include <QColor>
+#include <QPalette>
 #include <QString>
 #include <Qt>
 
 #include <functional>
 
+class QGraphicsEffect;
 class QGridLayout;
 class QLabel;
 class QLineEdit;
@@ -26,6 +29,16 @@ void addFieldRow(QGridLayout* grid, const QString& label, QWidget* field, const 
 
 /// A result: prominent, selectable with mouse and keyboard, empty at first.
 QLabel* newResultLabel(const char* name, QWidget* parent);
+
+/// Dims a widget while it is enabled; at first it is not.
+QGraphicsEffect* newDimming(QWidget* widget);
+/// The hidden note "staleNote" that a result belongs to what was typed before. Its room is kept, so that nothing moves.
+QLabel* newStaleNote(QWidget* parent);
+
+/// Red that reads on the palette's base: the plain one is too dark on dark and too glaring on white.
+QColor readableRed(const QPalette& palette);
+/// Blue that does.
+QColor readableBlue(const QPalette& palette);
 
 /// The line that says where a result comes from.
 QLabel* newFormulaLabel(const QString& formula, QWidget* parent);

@@ -1,8 +1,10 @@
 #include "calculators/ui/calculatorwindow.h"
 
+#include "base/decimalsign.h"
 #include "base/numbers.h"
 #include "calculators/nitrox.h"
 #include "calculators/ui/calculatorwidgets.h"
+#include "calculators/ui/resultmark.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -14,6 +16,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace tavrel {
 
 namespace {
@@ -21,14 +25,12 @@ namespace {
 /// Inputs whose results are about as long as results get; they size a window that has none yet.
 constexpr std::array ordinaryInputs{61.7, 47.3, 203.9, 82.1};
 
+// Label, field and unit stand before it.
+constexpr int faultColumn = 3;
+
 // What a row says before the first calculation.
 QString emptyRow(double consumption) {
-    return QString::number(consumption, 'f', 1) + QStringLiteral(" l/min : –");
-}
-
-// Red that reads on the palette's base: the plain one is too dark on dark and too glaring on white.
-QColor rowRed(const QPalette& palette) {
-    return palette.color(QPalette::Base).lightnessF() < 0.5F ? QColor(255, 112, 112) : QColor(200, 0, 0);
+    return withDecimalSign(QString::number(consumption, 'f', 1)) + QStringLiteral(" l/min : –");
 }
 
 QComboBox* newPpO2Menu(const char* name, QWidget* parent) {
@@ -43,7 +45,8 @@ QComboBox* newPpO2Menu(const char* name, QWidget* parent) {
 
 }  // namespace
 
-CalculatorWindow::CalculatorWindow(CalculatorId id, QWidget* parent) : QDialog(parent), page_(*calculatorPage(id)) {
+CalculatorWindow::CalculatorWindow(CalculatorId id, QWidget* parent)
+    : QDialog(parent), page_(*calculatorPage(id)), mark_(new ResultMark(this)) {
     rowColours_.fill(RowColour::Black);
     setObjectName(QLatin1StringView(calculator(id).windowLayout));
     setWindowTitle(text(calculator(id).title));
@@ -56,7 +59,7 @@ CalculatorWindow::CalculatorWindow(CalculatorId id, QWidget* parent) : QDialog(p
     connect(button, &QPushButton::clicked, this, &CalculatorWindow::calculate);
     left->addWidget(button, 0, Qt::AlignRight);
     left->addWidget(newResult());
-    left->addWidget(newFormulaLabel(formulaLine(page_), this));
+    left->addWidget(newFormulaLabel(withDecimalSign(formulaLine(page_)), this));
     left->addStretch();
     auto* layout = new QHBoxLayout(this);
     layout->addLayout(left, 1);
@@ -81,7 +84,17 @@ QGroupBox* CalculatorWindow::newInputs() {
             field = newNumberField(input.field, group);
         }
         addFieldRow(grid, text(input.label), field, QLatin1StringView(input.unit));
+        mark_->watch(field);
+        faultLabels_.push_back(new QLabel(group));
+        faultLabels_.back()->setObjectName(QLatin1StringView(input.field) + QStringLiteral("Fault"));
+        grid->addWidget(faultLabels_.back(), grid->rowCount() - 1, faultColumn);
     }
+    int width = 0;
+    for (const Title& words : inputFaultWords()) {
+        width = std::max(width, fontMetrics().horizontalAdvance(text(words)));
+    }
+    grid->setColumnMinimumWidth(faultColumn, width);
+    mark_->whenChanged([this](bool) { showFaults(); });
     return group;
 }
 
@@ -93,6 +106,8 @@ QGroupBox* CalculatorWindow::newResult() {
     grid->addWidget(label, 0, 0);
     const QSize ordinary = label->fontMetrics().size(0, ordinaryResult().text + QStringLiteral("00"));
     grid->addItem(new QSpacerItem(ordinary.width(), ordinary.height()), 0, 0);
+    mark_->dim(label);
+    grid->addWidget(mark_->note(), 1, 0, 1, 2);
     grid->addWidget(newCopyButton(
                         Title("Calculators", "Copy"), [this] { return resultText(); }, group),
                     0, 1, Qt::AlignBottom);
@@ -119,9 +134,10 @@ QGroupBox* CalculatorWindow::newTable() {
         label->setTextInteractionFlags(Qt::TextSelectableByMouse);
         rows->addWidget(label);
     }
+    mark_->dim(paper);
     auto* layout = new QVBoxLayout(group);
     layout->addWidget(paper, 1);
-    layout->addWidget(new QLabel(rowLegend(page_), group));
+    layout->addWidget(new QLabel(withDecimalSign(rowLegend(page_)), group));
     return group;
 }
 
@@ -149,8 +165,27 @@ void CalculatorWindow::calculate() {
         values.push_back(inputValue(input));
     }
     const CalculatorResult result = page_.evaluate(values);
-    findChild<QLabel*>(QLatin1StringView(page_.resultField))->setText(result.text);
+    findChild<QLabel*>(QLatin1StringView(page_.resultField))->setText(withDecimalSign(result.text));
     showRows(result.rows);
+    faults_ = result.faults;
+    mark_->calculated();
+}
+
+void CalculatorWindow::showFaults() {
+    for (std::size_t input = 0; input < faultLabels_.size(); ++input) {
+        QStringList words;
+        for (const InputFault& fault : faults_) {
+            if (fault.input == input && !mark_->isStale()) {
+                words << text(fault.words);
+            }
+        }
+        QLabel* label = faultLabels_[input];
+        label->setText(words.join(QStringLiteral(", ")));
+        QPalette colours = palette();
+        colours.setColor(QPalette::WindowText, readableRed(palette()));
+        label->setPalette(colours);
+        findChild<QWidget*>(QLatin1StringView(page_.inputs[input].field))->setAccessibleDescription(label->text());
+    }
 }
 
 double CalculatorWindow::inputValue(const CalculatorInput& input) const {
@@ -162,7 +197,7 @@ double CalculatorWindow::inputValue(const CalculatorInput& input) const {
 
 void CalculatorWindow::showRows(const std::vector<CalculatorRow>& rows) {
     for (std::size_t row = 0; row < rows.size(); ++row) {
-        findChild<QLabel*>(rowField(page_, row))->setText(rows[row].text);
+        findChild<QLabel*>(rowField(page_, row))->setText(withDecimalSign(rows[row].text));
         if (rows[row].colour != RowColour::Unchanged) {
             rowColours_[row] = rows[row].colour;
         }
@@ -185,11 +220,11 @@ void CalculatorWindow::colourRows() {
         QPalette colours;
         QFont font;
         if (red) {
-            colours.setColor(QPalette::Text, rowRed(palette()));
+            colours.setColor(QPalette::Text, readableRed(palette()));
             font.setBold(true);
         }
         label->setPalette(colours);
-        label->setAccessibleDescription(red ? rowLegend(page_) : QString());
+        label->setAccessibleDescription(red ? withDecimalSign(rowLegend(page_)) : QString());
         label->setFont(font);
     }
 }
@@ -198,6 +233,7 @@ void CalculatorWindow::changeEvent(QEvent* event) {
     QDialog::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) {
         colourRows();
+        showFaults();
     }
 }
 

@@ -1,8 +1,11 @@
 #include "calculators/ui/gpscontroller.h"
 
+#include "base/decimalsign.h"
 #include "base/numbers.h"
 #include "calculators/calculators.h"
+#include "calculators/position.h"
 #include "calculators/ui/calculatorwidgets.h"
+#include "calculators/ui/resultmark.h"
 
 #include <QComboBox>
 #include <QFontDatabase>
@@ -18,6 +21,8 @@
 #include <QVBoxLayout>
 
 #include <array>
+#include <cmath>
+#include <initializer_list>
 #include <utility>
 
 namespace tavrel {
@@ -26,20 +31,22 @@ namespace {
 
 Q_LOGGING_CATEGORY(gpsLog, "tavrel.gps")
 
-// The report's colours are its own, on white paper in every theme.
-const QColor paper(Qt::white);
-
-QColor colourOf(ReportRole role) {
+// Red, blue and black as they read on the palette's base.
+QColor colourOf(ReportRole role, const QPalette& palette) {
     switch (role) {
         case ReportRole::Title:
-            return Qt::red;
+            return readableRed(palette);
         case ReportRole::Value:
-            return Qt::blue;
+            return readableBlue(palette);
         case ReportRole::Label:
             break;
     }
-    return Qt::black;
+    return palette.color(QPalette::Text);
 }
+
+// Minutes to a hundred-thousandth and degrees to a ten-millionth: two centimetres and one.
+constexpr double minutesFraction = 1e5;
+constexpr double degreesFraction = 1e7;
 
 QLineEdit* newOutputField(const char* name, QWidget* parent) {
     auto* field = new QLineEdit(parent);
@@ -59,7 +66,7 @@ QPushButton* newConvertButton(const QString& title, QWidget* parent) {
 
 }  // namespace
 
-GpsController::GpsController(QWidget* parent) : QDialog(parent) {
+GpsController::GpsController(QWidget* parent) : QDialog(parent), mark_(new ResultMark(this)) {
     const Calculator& known = calculator(CalculatorId::Gps);
     setObjectName(QLatin1StringView(known.windowLayout));
     setWindowTitle(text(known.title));
@@ -70,6 +77,7 @@ GpsController::GpsController(QWidget* parent) : QDialog(parent) {
     addFieldRow(altitudeGrid, text(Title("Calculators", "Altitude")), altitude_inField, QStringLiteral("m"));
 
     auto* left = new QVBoxLayout;
+    left->addWidget(newTypedPosition());
     left->addWidget(altitude);
     left->addWidget(newSexagesimal());
     left->addWidget(newDecimal());
@@ -78,7 +86,63 @@ GpsController::GpsController(QWidget* parent) : QDialog(parent) {
     auto* layout = new QHBoxLayout(this);
     layout->addLayout(left);
     layout->addWidget(newReport(), 1);
+    for (QWidget* input :
+         std::initializer_list<QWidget*>{longitude_in_degreeField, longitude_in_minutesField, longitude_in_secondsField,
+                                         latitude_in_degreeField, latitude_in_minutesField, latitude_in_secondsField,
+                                         geodesiePopUp, longitude_inField, latitude_inField, altitude_inField}) {
+        mark_->watch(input);
+    }
     longitude_in_degreeField->setFocus();
+}
+
+void GpsController::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        showReport();
+    }
+}
+
+QGroupBox* GpsController::newTypedPosition() {
+    auto* group = new QGroupBox(text(Title("Calculators", "Position as typed")), this);
+    auto* grid = new QGridLayout;
+    positionField_ = new QLineEdit(group);
+    positionField_->setObjectName(QStringLiteral("positionField"));
+    positionField_->setPlaceholderText(QStringLiteral("43° 12.345' N  5° 20.7' W"));
+    positionField_->setToolTip(text(Title("Calculators", "Position hint")));
+    addFieldRow(grid, text(Title("Calculators", "Typed position")), positionField_, {});
+    grid->setColumnStretch(0, 0);
+    grid->setColumnStretch(1, 1);
+    positionNote_ = new QLabel(group);
+    positionNote_->setObjectName(QStringLiteral("positionNote"));
+    auto* layout = new QVBoxLayout(group);
+    layout->addLayout(grid);
+    layout->addWidget(positionNote_);
+    readPosition({});
+    connect(positionField_, &QLineEdit::textEdited, this, &GpsController::readPosition);
+    return group;
+}
+
+void GpsController::readPosition(const QString& typed) {
+    const auto position = positionOf(typed);
+    if (!position) {
+        positionNote_->setText(text(typed.trimmed().isEmpty() ? Title("Calculators", "Position hint short")
+                                                              : Title("Calculators", "Position not read")));
+        return;
+    }
+    positionNote_->setText(withDecimalSign(textWith("Calculators", "Position read", positionText(*position))));
+    // Each part takes the sign, as the converter adds them.
+    const auto fill = [](double angle, const std::array<QLineEdit*, 3>& parts, QLineEdit* decimal) {
+        const double whole = std::trunc(angle);
+        const double minutes = std::round((angle - whole) * minutesFraction * 60) / minutesFraction;
+        parts[0]->setText(shortestText(whole + 0.0));
+        parts[1]->setText(shortestText(minutes + 0.0));
+        parts[2]->setText(QStringLiteral("0"));
+        decimal->setText(shortestText(std::round(angle * degreesFraction) / degreesFraction));
+    };
+    fill(position->longitude, {longitude_in_degreeField, longitude_in_minutesField, longitude_in_secondsField},
+         longitude_inField);
+    fill(position->latitude, {latitude_in_degreeField, latitude_in_minutesField, latitude_in_secondsField},
+         latitude_inField);
 }
 
 void GpsController::keyPressEvent(QKeyEvent* event) {
@@ -161,13 +225,19 @@ QGroupBox* GpsController::newOutput() {
     longitude_outField = newOutputField("longitude_outField", resultatField);
     latitude_outField = newOutputField("latitude_outField", resultatField);
     altitude_outField = newOutputField("altitude_outField", resultatField);
+    positionOut_ = newOutputField("positionOut", resultatField);
     addFieldRow(grid, text(Title("Calculators", "Longitude")), longitude_outField, {});
     addFieldRow(grid, text(Title("Calculators", "Latitude")), latitude_outField, {});
     addFieldRow(grid, text(Title("Calculators", "Resulting altitude")), altitude_outField, {});
+    addFieldRow(grid, text(Title("Calculators", "Resulting position")), positionOut_, {});
+    for (QLineEdit* field : {longitude_outField, latitude_outField, altitude_outField, positionOut_}) {
+        mark_->dim(field);
+    }
     grid->setColumnStretch(0, 0);
     grid->setColumnStretch(1, 1);
     auto* layout = new QVBoxLayout(resultatField);
     layout->addLayout(grid);
+    layout->addWidget(mark_->note());
     const auto lines = [this] {
         return longitude_outField->text() + u'\n' + latitude_outField->text() + u'\n' + altitude_outField->text();
     };
@@ -183,10 +253,6 @@ QGroupBox* GpsController::newReport() {
     gpsDataField->setReadOnly(true);
     gpsDataField->setTabChangesFocus(true);
     gpsDataField->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    QPalette colours = gpsDataField->palette();
-    colours.setColor(QPalette::Base, paper);
-    colours.setColor(QPalette::Text, colourOf(ReportRole::Label));
-    gpsDataField->setPalette(colours);
     // Room for the whole report and its longest line, a geocentric coordinate.
     const QFontMetrics metrics = gpsDataField->fontMetrics();
     const auto lines = static_cast<int>(reportLines(gpsReport({})).size()) + 1;
@@ -220,8 +286,9 @@ void GpsController::convertCoordonatesWithLng_in_degrees(double lng_in_degrees, 
     decimalLast_ = false;
     const SexagesimalConversion conversion = convertSexagesimal(
         {lng_in_degrees, lng_in_minutes, lng_in_seconds}, {lat_in_degrees, lat_in_minutes, lat_in_seconds}, altitude);
-    showOutput(outputOf(conversion));
-    showReport(gpsReport(conversion));
+    report_ = gpsReport(conversion);
+    showReport();
+    showOutput(outputOf(conversion), conversion.wgs84);
 }
 
 void GpsController::convertLongitude(double longitude, double latitude, double altitude) {
@@ -233,22 +300,25 @@ void GpsController::convertLongitude(double longitude, double latitude, double a
     for (const QString& line : conversion.log) {
         qCInfo(gpsLog).noquote() << line;
     }
-    showOutput(outputOf(conversion));
+    showOutput(outputOf(conversion), conversion.position);
 }
 
-void GpsController::showOutput(const GpsOutput& output) {
-    longitude_outField->setText(output.longitude);
-    latitude_outField->setText(output.latitude);
-    altitude_outField->setText(output.altitude);
+void GpsController::showOutput(const GpsOutput& output, const GeographicPosition& position) {
+    longitude_outField->setText(withDecimalSign(output.longitude));
+    latitude_outField->setText(withDecimalSign(output.latitude));
+    altitude_outField->setText(withDecimalSign(output.altitude));
+    const bool known = std::isfinite(position.latitude) && std::isfinite(position.longitude);
+    positionOut_->setText(known ? withDecimalSign(positionText({position.latitude, position.longitude})) : QString());
+    mark_->calculated();
 }
 
-void GpsController::showReport(const std::vector<ReportRun>& report) {
+void GpsController::showReport() {
     gpsDataField->clear();
     QTextCursor cursor(gpsDataField->document());
     QTextCharFormat format;
-    for (const ReportRun& run : report) {
-        format.setForeground(colourOf(run.role));
-        cursor.insertText(run.text, format);
+    for (const ReportRun& run : report_) {
+        format.setForeground(colourOf(run.role, palette()));
+        cursor.insertText(withDecimalSign(run.text), format);
     }
 }
 

@@ -7,10 +7,13 @@
 
 class QComboBox;
 class QGroupBox;
+class QLabel;
 class QLineEdit;
 class QTextEdit;
 
 namespace tavrel {
+
+class ResultMark;
 
 /// Two converters of positions between ED50 and WGS84: one from degrees, minutes and seconds with a report of every
 /// step, one from decimal degrees in either direction. They share the altitude and the output fields. Enter runs the
@@ -33,16 +36,22 @@ public:
     /// In the direction of the menu; writes the output fields and the diagnostic log (category "tavrel.gps").
     void convertLongitude(double longitude, double latitude, double altitude);
 
+    /// Reads a position as divers write one, latitude first, with letters for the sides, into the fields of both
+    /// converters.
+    void readPosition(const QString& typed);
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    QGroupBox* newTypedPosition();
     QGroupBox* newSexagesimal();
     QGroupBox* newDecimal();
     QGroupBox* newOutput();
     QGroupBox* newReport();
-    void showOutput(const GpsOutput& output);
-    void showReport(const std::vector<ReportRun>& report);
+    void showOutput(const GpsOutput& output, const GeographicPosition& position);
+    void showReport();
 
     QLineEdit* longitude_in_degreeField;
     QLineEdit* longitude_in_minutesField;
@@ -59,6 +68,11 @@ private:
     QLineEdit* altitude_outField;
     QGroupBox* resultatField;  ///< the area that holds the output fields
     QTextEdit* gpsDataField;
+    QLineEdit* positionField_;
+    QLabel* positionNote_;
+    QLineEdit* positionOut_;  ///< the result with decimal minutes and letters
+    ResultMark* mark_;
+    std::vector<ReportRun> report_;
     QGroupBox* sexagesimal_;
     QGroupBox* decimal_;
     bool decimalLast_ = false;

@@ -1,10 +1,12 @@
 #include "calculators/ui/physiquecontroller.h"
 
+#include "base/decimalsign.h"
 #include "base/numbers.h"
 #include "calculators/calculators.h"
 #include "calculators/ui/calculatorwidgets.h"
 
 #include <QButtonGroup>
+#include <QGraphicsEffect>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -77,7 +79,11 @@ QWidget* PhysiqueController::newTab(const ConversionTab& tab) {
         choice->addButton(radio, unit.tag);
         QLineEdit* field = newNumberField(unit.field, group, unroundedDigits);
         field->setAccessibleName(withoutMnemonic(radio->text()));
-        connect(field, &QLineEdit::textEdited, radio, [radio] { radio->setChecked(true); });
+        field->setGraphicsEffect(newDimming(field));
+        connect(field, &QLineEdit::textEdited, this, [this, radio] {
+            radio->setChecked(true);
+            dimOthers(true);
+        });
         connect(radio, &QRadioButton::clicked, field, [field] {
             field->setFocus();
             field->selectAll();
@@ -89,7 +95,8 @@ QWidget* PhysiqueController::newTab(const ConversionTab& tab) {
     }
     auto* layout = new QVBoxLayout(page);
     layout->addWidget(group);
-    layout->addWidget(newFormulaLabel(tab.formula(), page));
+    layout->addWidget(newStaleNote(page));
+    layout->addWidget(newFormulaLabel(withDecimalSign(tab.formula()), page));
     layout->addStretch();
     return page;
 }
@@ -110,9 +117,24 @@ void PhysiqueController::convertir() {
     const std::vector<double> values = tab->convert(tag, doubleValue(fieldOf(page, *source)->text()));
     for (std::size_t unit = 0; unit < values.size(); ++unit) {
         if (unit != position) {
-            fieldOf(page, tab->units[unit])->setText(shortestText(values[unit]));
+            fieldOf(page, tab->units[unit])->setText(withDecimalSign(shortestText(values[unit])));
         }
     }
+    dimOthers(false);
+}
+
+void PhysiqueController::dimOthers(bool stale) {
+    QWidget* page = conversionsTabView->currentWidget();
+    const int source =
+        page->findChild<QButtonGroup*>(QLatin1StringView(tabNamed(page->objectName())->radioGroup))->checkedId();
+    bool anything = false;
+    for (const ConversionUnit& unit : tabNamed(page->objectName())->units) {
+        QLineEdit* field = fieldOf(page, unit);
+        const bool dimmed = stale && unit.tag != source && !field->text().isEmpty();
+        field->graphicsEffect()->setEnabled(dimmed);
+        anything = anything || dimmed;
+    }
+    page->findChild<QLabel*>(QStringLiteral("staleNote"))->setVisible(anything);
 }
 
 QString PhysiqueController::resultText() const {

@@ -22,6 +22,8 @@ public:
 private:
     QWidget* newTab(const ConversionTab& tab);
     QString resultText() const;
+    /// Dims the figures of the tab in front that no longer belong to the one typed, and says so.
+    void dimOthers(bool stale);
 
     QTabWidget* conversionsTabView;
 };

@@ -9,6 +9,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QMenu>
+#include <QToolButton>
 #include <QWidgetAction>
 
 #include <algorithm>
@@ -187,6 +188,9 @@ void CustomToolBar::rebuild() {
         } else if (QAction* shown = action(identifier)) {
             addAction(shown);
             separated = false;
+            if (auto* button = qobject_cast<QToolButton*>(widgetForAction(shown))) {
+                button->setFocusPolicy(Qt::TabFocus);
+            }
         }
     }
 }

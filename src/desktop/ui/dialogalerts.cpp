@@ -1,6 +1,9 @@
 #include "desktop/ui/dialogalerts.h"
 
+#include "base/printable.h"
+
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -12,9 +15,18 @@ namespace {
 class AlertBox : public QMessageBox {
 public:
     AlertBox(Icon icon, const QString& message)
-        : QMessageBox(icon, QApplication::applicationDisplayName(), message, NoButton, QApplication::activeWindow()) {
+        : QMessageBox(icon, QApplication::applicationDisplayName(), printable(message), NoButton,
+                      QApplication::activeWindow()) {
         setTextFormat(Qt::PlainText);
         setWindowModality(parentWidget() ? Qt::WindowModal : Qt::ApplicationModal);
+    }
+
+    /// The format of the box is that of its first text only.
+    void setDetail(const QString& detail) {
+        setInformativeText(printable(detail));
+        for (QLabel* label : findChildren<QLabel*>()) {
+            label->setTextFormat(Qt::PlainText);
+        }
     }
 };
 
@@ -48,7 +60,7 @@ void DialogAlerts::tell(const QString& message) {
 
 void DialogAlerts::fail(const Failure& failure) {
     AlertBox box(QMessageBox::Warning, failure.sentence);
-    box.setInformativeText(failure.detail);
+    box.setDetail(failure.detail);
     box.exec();
 }
 

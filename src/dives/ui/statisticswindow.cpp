@@ -68,6 +68,7 @@ void StatisticsWindow::buildToolBar() {
     previousDivesNoSwitch_ = new QCheckBox(text("Carnet", "Without previous dives"));
     previousDivesNoSwitch_->setObjectName(QStringLiteral("previousDivesNoSwitch"));
     connect(previousDivesNoSwitch_, &QCheckBox::toggled, this, &StatisticsWindow::refresh);
+    bar->addSeparator();
     bar->addWidget(previousDivesNoSwitch_);
     for (const auto& keys : {QKeySequence(QKeySequence::Close), QKeySequence(Qt::Key_Escape)}) {
         connect(new QShortcut(keys, this), &QShortcut::activated, this, &QWidget::close);

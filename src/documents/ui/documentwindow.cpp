@@ -1,6 +1,7 @@
 #include "documents/ui/documentwindow.h"
 
 #include "base/paths.h"
+#include "base/texts.h"
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
@@ -9,7 +10,10 @@
 
 namespace tavrel {
 
-DocumentWindow::DocumentWindow(Document& document, Desktop& desktop) : desktop_(desktop), document_(document) {
+DocumentWindow::DocumentWindow(Document& document, Desktop& desktop)
+    : desktop_(desktop), document_(document), messageBar_(new MessageBar(this)) {
+    addToolBar(messageBar_);
+    addToolBarBreak();
     setAcceptDrops(true);
     connect(&document, &Document::fileChanged, this, &DocumentWindow::updateTitle);
     connect(&document, &Document::changedStateChanged, this, &DocumentWindow::updateTitle);
@@ -20,12 +24,25 @@ void DocumentWindow::updateTitle() {
     // A file name may itself hold the marker that stands for the change mark; doubled it stands for itself.
     QString name = document_.displayName();
     name.replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+    if (document_.isReadOnly()) {
+        name = textWith("Main", "Read-only title", name);
+    }
     setWindowTitle(name + QStringLiteral("[*]"));
     setWindowModified(document_.isChanged());
 }
 
+bool DocumentWindow::leaveEditing(Settling next) {
+    const auto entries = askAboutEntries(next);
+    if (entries) {
+        settleEntries(*entries);
+    }
+    return entries.has_value();
+}
+
 void DocumentWindow::closeWithDocument() {
     mayClose_ = true;
+    // Otherwise the window that holds them would ask.
+    settleEntries(Entries::dropped);
     for (QWidget* window : furtherWindows()) {
         window->close();
     }

@@ -2,6 +2,7 @@
 
 #include "desktop/desktop.h"
 #include "documents/document.h"
+#include "documents/ui/messagebar.h"
 
 #include <QAction>
 #include <QList>
@@ -9,6 +10,8 @@
 #include <QMimeData>
 #include <QString>
 #include <QStringList>
+
+#include <optional>
 
 namespace tavrel {
 
@@ -27,6 +30,8 @@ public:
     DocumentWindow(Document& document, Desktop& desktop);
 
     Document& document() { return document_; }
+    /// Tells what needs no answer at once.
+    MessageBar& messageBar() { return *messageBar_; }
 
     /// The menu of the document's own commands, as "Dive" in a logbook; null actions are separators.
     virtual QString ownMenuTitle() const { return {}; }
@@ -42,7 +47,11 @@ public:
     virtual QList<QWidget*> furtherWindows() { return {}; }
     /// Settles what the user entered and the document does not hold yet; false when the user wants to go on entering,
     /// and everything is to stay as it is.
-    virtual bool leaveEditing(Settling) { return true; }
+    bool leaveEditing(Settling next);
+    /// Its two halves. The first asks what is to become of it, where that needs asking, and changes nothing; nothing
+    /// when the user wants to go on.
+    virtual std::optional<Entries> askAboutEntries(Settling) { return Entries::none; }
+    virtual void settleEntries(Entries) {}
     /// The window's own action for a command of the application's menus ("saveDocument", "printDocument"), which then
     /// show it; null where it has none.
     virtual QAction* commandAction(const QString& name) {
@@ -71,6 +80,7 @@ private:
     void updateTitle();
 
     Document& document_;
+    MessageBar* messageBar_;
     bool mayClose_ = false;
 };
 

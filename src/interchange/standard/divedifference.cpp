@@ -1,6 +1,6 @@
 #include "interchange/standard/divedifference.h"
 
-#include "interchange/standard/position.h"
+#include "calculators/position.h"
 
 #include <algorithm>
 #include <cmath>

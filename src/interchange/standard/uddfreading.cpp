@@ -1,9 +1,9 @@
 #include "interchange/standard/uddfreading.h"
 
+#include "calculators/position.h"
 #include "interchange/standard/divetanks.h"
 #include "interchange/standard/filetime.h"
 #include "interchange/standard/filevalues.h"
-#include "interchange/standard/position.h"
 #include "interchange/standard/uddfdocument.h"
 #include "interchange/standard/uddfprofile.h"
 #include "interchange/standard/uddftanks.h"

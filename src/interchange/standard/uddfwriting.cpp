@@ -3,10 +3,10 @@
 #include "base/numbers.h"
 #include "base/texts.h"
 #include "calculators/gps.h"
+#include "calculators/position.h"
 #include "interchange/standard/divetanks.h"
 #include "interchange/standard/founddive.h"
 #include "interchange/standard/gasmix.h"
-#include "interchange/standard/position.h"
 #include "interchange/standard/uddfwords.h"
 #include "interchange/xml/xmlwriter.h"
 

@@ -1,6 +1,7 @@
 #include "desktop/ui/dialogalerts.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -58,6 +59,23 @@ TEST(DialogAlerts, tellFailuresWithTheirDetail) {
         box.close();
     });
     alerts.fail({QStringLiteral("It failed."), QStringLiteral("at byte 12")});
+}
+
+TEST(DialogAlerts, takeNothingForMarkup) {
+    DialogAlerts alerts;
+    withNextBox([](QMessageBox& box) {
+        int texts = 0;
+        for (const QLabel* label : box.findChildren<QLabel*>()) {
+            if (label->text().contains(u"<a ")) {
+                ++texts;
+                EXPECT_EQ(label->textFormat(), Qt::PlainText);
+                EXPECT_TRUE(label->text().endsWith(u"\u2407\uFFFD")) << label->text().toStdString();
+            }
+        }
+        EXPECT_EQ(texts, 2);
+        box.close();
+    });
+    alerts.fail({QStringLiteral("<a href='x'>1</a>\a\u202E"), QStringLiteral("<a href='x'>2</a>\a\u202E")});
 }
 
 }  // namespace

@@ -1,10 +1,14 @@
 #include "logbook/ui/logbookwindow.h"
 
+#include "logbook/ui/convertunitswindow.h"
 #include "logbook/ui/renumberwindow.h"
 #include "support/testdesktop.h"
 
+#include <QLabel>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSpinBox>
+#include <QTableWidget>
 #include <gtest/gtest.h>
 
 namespace tavrel {
@@ -33,6 +37,36 @@ TEST(LogbookWindow, renumbersFromTheNumberGiven) {
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(carnet.record(2).noPlongee, 12);
     EXPECT_EQ(carnet.count(), 3);
+}
+
+TEST(ConvertUnitsWindow, showsWhatBecomesOfTheDivesBeforeItConvertsThem) {
+    TestDesktop desktop;
+    Carnet carnet(desktop.desktop());
+    LogbookWindow window(carnet, desktop.desktop());
+    std::vector<Plongee> dives(2);
+    dives[0].noPlongee = 5;
+    dives[0].profondeur = 100;
+    dives[0].tempEau = -50;
+    dives[1].altitude = 1500;
+    carnet.appendDives(QStringLiteral("Add"), std::move(dives));
+    desktop.preferences.set(QStringLiteral("us units"), false);
+    ConvertUnitsWindow dialog(carnet, &window);
+    const auto* preview = dialog.findChild<QTableWidget*>(QStringLiteral("preview"));
+    const auto cell = [&](int row, int column) { return preview->item(row, column)->text(); };
+    EXPECT_EQ(preview->rowCount(), 2);
+    // The user's numbers are in metres, so these are taken to be in feet.
+    EXPECT_EQ(cell(0, 0), u"5");
+    EXPECT_EQ(cell(0, 2), u"100");
+    EXPECT_EQ(cell(0, 3), u"30.48");
+    EXPECT_EQ(cell(0, 5), u"–");
+    EXPECT_TRUE(dialog.findChild<QLabel*>(QStringLiteral("altitudeWarning"))->isHidden());
+    dialog.findChild<QRadioButton*>(QStringLiteral("toFeet"))->setChecked(true);
+    EXPECT_EQ(cell(0, 3), u"328.08");
+    EXPECT_FALSE(dialog.findChild<QLabel*>(QStringLiteral("altitudeWarning"))->isHidden())
+        << "4921 ft is more than the form takes";
+    EXPECT_FLOAT_EQ(carnet.record(0).profondeur, 100);
+    dialog.accept();
+    EXPECT_FLOAT_EQ(carnet.record(0).profondeur, 328.08F);
 }
 
 TEST(LogbookWindow, keepsItsImportsInAMenuOfTheirOwn) {

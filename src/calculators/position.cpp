@@ -1,4 +1,4 @@
-#include "interchange/standard/position.h"
+#include "calculators/position.h"
 
 #include <QRegularExpression>
 
@@ -18,7 +18,7 @@ struct Angle {
 std::vector<Angle> anglesOf(const QString& text) {
     static const QRegularExpression angle(
         QStringLiteral(
-            R"(([NSEWO])?\s*([-+]?\d+(?:\.\d+)?)\s*°?\s*(?:(\d+(?:\.\d+)?)\s*['′]\s*(?:(\d+(?:\.\d+)?)\s*["″]\s*)?)?([NSEWO])?)"),
+            R"(([NSEWO])?\s*([-+]?\d+(?:\.\d+)?)\s*°?\s*(?:(\d+(?:[.,]\d+)?)\s*['′]\s*(?:(\d+(?:[.,]\d+)?)\s*["″]\s*)?)?([NSEWO])?)"),
         QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
     std::vector<Angle> angles;
     bool sidesBefore = false;
@@ -29,7 +29,8 @@ std::vector<Angle> anglesOf(const QString& text) {
             sidesBefore = !before.isEmpty();
         }
         const double degrees = match.captured(2).toDouble();
-        const double parts = match.captured(3).toDouble() / 60 + match.captured(4).toDouble() / 3600;
+        const auto part = [&](int group) { return match.captured(group).replace(u',', u'.').toDouble(); };
+        const double parts = part(3) / 60 + part(4) / 3600;
         const QString side = sidesBefore ? before : match.captured(5);
         const bool negative = match.captured(2).startsWith(u'-');
         angles.push_back({negative ? degrees - parts : degrees + parts, side.isEmpty() ? QChar() : side[0].toUpper()});

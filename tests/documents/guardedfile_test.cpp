@@ -1,0 +1,345 @@
+#include "base/paths.h"
+#include "base/safefile.h"
+#include "documents/document.h"
+#include "documents/documentsettings.h"
+#include "documents/journal.h"
+#include "support/testdesktop.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace tavrel {
+
+namespace {
+
+using State = FileIdentity::State;
+
+/// A document of one text, with a form of one control.
+class Leaf : public Document {
+public:
+    explicit Leaf(Desktop& desktop) : Document(desktop) { setType(QStringLiteral("Leaf")); }
+
+    Expected<QByteArray> dataRepresentationOfType(const QString&) override { return words; }
+    Expected<void> loadDataRepresentation(QByteArrayView data, const QString&) override {
+        words = data.toByteArray();
+        return {};
+    }
+    void change(const QByteArray& newWords) {
+        words = newWords;
+        markChanged();
+    }
+    void typeIntoForm(const QString& text) {
+        UnstoredForm form;
+        form.row = 3;
+        form.beside = [] { return QByteArray("beside"); };
+        form.controls = {{QStringLiteral("field"), text, 7, Date(12.5), {}}, {QStringLiteral("none"), {}, -1, {}, {}}};
+        typed = form;
+        Q_EMIT touched();
+    }
+
+    QByteArray words;
+    std::optional<UnstoredForm> typed;
+    std::shared_ptr<const void> version;
+
+protected:
+    std::shared_ptr<const void> contentsVersion() const override { return version; }
+    std::function<QByteArray()> contentsLater() const override {
+        return [kept = words] { return kept; };
+    }
+    int recordCount() const override { return static_cast<int>(words.size()); }
+    std::optional<UnstoredForm> unstoredForm() const override { return typed; }
+};
+
+class GuardedFile : public testing::Test {
+protected:
+    QString path(const char* name) { return desktop.path(QString::fromUtf8(name)); }
+    static QByteArray contents(const QString& file) {
+        const auto bytes = FileBytes::open(file);
+        return bytes ? bytes->bytes().toByteArray() : QByteArray("unreadable");
+    }
+
+    TestDesktop desktop;
+    Leaf leaf{desktop.desktop()};
+};
+
+TEST_F(GuardedFile, isNotSavedOverWhatAnotherProgramWrote) {
+    const QString file = path("leaf");
+    leaf.words = "one";
+    ASSERT_TRUE(leaf.saveAs(file));
+    // One that only touches the file, or writes the same again, has changed nothing.
+    ASSERT_TRUE(writeFile(file, "one"));
+    leaf.change("two");
+    ASSERT_TRUE(leaf.save());
+
+    ASSERT_TRUE(writeFile(file, "owt"));
+    leaf.change("three");
+    EXPECT_EQ(leaf.stateOnDisk(), State::changed);
+    const auto refused = leaf.save();
+    ASSERT_FALSE(refused);
+    EXPECT_EQ(refused.error().sentence, u"“leaf” could not be saved: Another program has changed the file.");
+    EXPECT_FALSE(leaf.saveAs(path("../") + QFileInfo(file).dir().dirName() + QStringLiteral("/leaf")));
+    EXPECT_EQ(contents(file), "owt");
+    EXPECT_TRUE(leaf.isChanged());
+    ASSERT_TRUE(leaf.save(Document::Overwriting::yes));
+    EXPECT_EQ(contents(file), "three");
+    EXPECT_TRUE(leaf.save());
+
+    ASSERT_TRUE(QFile::remove(file));
+    EXPECT_EQ(leaf.stateOnDisk(), State::gone);
+    EXPECT_FALSE(leaf.save());
+    EXPECT_FALSE(pathExists(file));
+    EXPECT_TRUE(leaf.saveAs(path("elsewhere")));
+}
+
+TEST_F(GuardedFile, isWatchedWhileItIsOpen) {
+    const QString file = path("leaf");
+    ASSERT_TRUE(leaf.saveAs(file));
+    leaf.watchFile();
+    QSignalSpy states(&leaf, &Document::stateOnDiskChanged);
+    const auto next = [&] {
+        return states.isEmpty() && !states.wait() ? State::same : states.takeFirst()[0].value<State>();
+    };
+    // Replaced, then changed in place, which is no news; removed; put back.
+    ASSERT_TRUE(writeFile(file, "another"));
+    EXPECT_EQ(next(), State::changed);
+    QFile changed(file);
+    ASSERT_TRUE(changed.open(QIODevice::WriteOnly) && changed.write("in place") > 0);
+    changed.close();
+    ASSERT_TRUE(QFile::remove(file));
+    EXPECT_EQ(next(), State::gone);
+    ASSERT_TRUE(writeFile(file, ""));
+    EXPECT_TRUE(states.wait());
+    EXPECT_EQ(states.takeFirst()[0].value<State>(), State::same);
+    // Its own saves are no news.
+    leaf.change("saved");
+    ASSERT_TRUE(leaf.save());
+    ASSERT_TRUE(writeFile(file, "another"));
+    EXPECT_EQ(next(), State::changed);
+    EXPECT_TRUE(states.isEmpty());
+}
+
+TEST_F(GuardedFile, isClaimedByOneProgram) {
+    const QString file = path("leaf");
+    ASSERT_TRUE(leaf.saveAs(file));
+    ASSERT_FALSE(leaf.claimFile(file));
+    EXPECT_FALSE(leaf.claimFile(file)) << "its own already";
+    Leaf other(desktop.desktop());
+    const QString link = path("link");
+    ASSERT_TRUE(QFile::link(file, link));
+    const auto holder = other.claimFile(link);
+    ASSERT_TRUE(holder);
+    EXPECT_EQ(holder->process, QCoreApplication::applicationPid());
+    EXPECT_TRUE(holder->name().contains(QString::number(holder->process))) << holder->name().toStdString();
+    // It goes with the file.
+    ASSERT_TRUE(leaf.saveAs(path("elsewhere")));
+    EXPECT_FALSE(other.claimFile(file));
+    // One that died is no holder.
+    const pid_t child = ::fork();
+    if (child == 0) {
+        FileLock lock(path("orphan"));
+        ::_exit(lock.take({}) ? 1 : 0);
+    }
+    int status = -1;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    ASSERT_EQ(status, 0);
+    ASSERT_TRUE(pathExists(path(".orphan.lock")));
+    EXPECT_FALSE(leaf.claimFile(path("orphan")));
+    // A folder that is not there takes no lock; the file is opened all the same.
+    EXPECT_FALSE(leaf.claimFile(path("missing/file")));
+}
+
+TEST_F(GuardedFile, keepsWhatItWasBeforeTheFirstSave) {
+    const QString file = path("leaf");
+    ASSERT_TRUE(writeFile(file, "yesterday"));
+    ASSERT_EQ(::chmod(pathBytes(file).constData(), 0600), 0);
+    ASSERT_TRUE(leaf.open(file));
+    for (const char* words : {"morning", "evening"}) {
+        leaf.change(words);
+        ASSERT_TRUE(leaf.save());
+    }
+    EXPECT_EQ(contents(leaf.backupFile()), "yesterday");
+    struct stat status {};
+    ASSERT_EQ(::stat(pathBytes(leaf.backupFile()).constData(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777U, 0600U);
+    ASSERT_TRUE(leaf.revertToBackup());
+    EXPECT_EQ(leaf.words, "yesterday");
+    EXPECT_TRUE(leaf.isChanged());
+    EXPECT_EQ(contents(file), "evening") << "until it is saved";
+    ASSERT_TRUE(leaf.save());
+    EXPECT_EQ(contents(file), "yesterday");
+
+    desktop.preferences.set(settings::keepsBackup, false);
+    ASSERT_TRUE(QFile::remove(leaf.backupFile()));
+    Leaf without(desktop.desktop());
+    ASSERT_TRUE(without.open(file) && without.save());
+    EXPECT_FALSE(pathExists(without.backupFile()));
+    EXPECT_FALSE(without.revertToBackup());
+}
+
+TEST(JournalPace, waitsForAPauseButNotForLong) {
+    constexpr JournalPace::Times times;
+    JournalPace pace(times);
+    EXPECT_FALSE(pace.isWaiting());
+    pace.touch(1000);
+    EXPECT_EQ(pace.wait(1000), 2000);
+    pace.touch(2500);
+    EXPECT_EQ(pace.wait(2500), 2000);
+    EXPECT_EQ(pace.wait(4500), 0);
+    for (qint64 now = 3000; now <= 30'000; now += 500) {
+        pace.touch(now);
+    }
+    EXPECT_EQ(pace.wait(20'500), 500);
+    EXPECT_EQ(pace.wait(30'000), 0);
+    pace.taken();
+    EXPECT_FALSE(pace.isWaiting());
+    // What the user is promised: five seconds after the last key, and never more than thirty behind.
+    EXPECT_LT(times.pause, 5000);
+    EXPECT_LT(times.longest, 30'000);
+}
+
+class Journals : public GuardedFile {
+protected:
+    QString parent() { return path("journal"); }
+    std::vector<JournalFolder::Left> left() { return JournalFolder(parent()).left(); }
+};
+
+TEST_F(Journals, keepWhatIsUnsavedForTheNextRun) {
+    const QString file = path("leaf");
+    leaf.words = "saved";
+    ASSERT_TRUE(leaf.saveAs(file));
+    {
+        JournalFolder folder(parent());
+        Journal journal(folder, leaf, QStringLiteral("Leaf"));
+        journal.keepNow();
+        EXPECT_TRUE(journal.file().isEmpty()) << "nothing is unsaved";
+        leaf.change("changed");
+        leaf.typeIntoForm(QStringLiteral("é ß"));
+        journal.keepNow();
+        struct stat status {};
+        ASSERT_EQ(::stat(pathBytes(journal.file()).constData(), &status), 0);
+        EXPECT_EQ(status.st_mode & 07777U, 0600U);
+        EXPECT_TRUE(left().empty()) << "the program is alive";
+    }
+    auto found = left();
+    ASSERT_EQ(found.size(), 1U);
+    ASSERT_EQ(found[0].documents.size(), 1U);
+    const Unsaved& unsaved = found[0].documents[0];
+    EXPECT_EQ(unsaved.recordClass, u"Leaf");
+    EXPECT_EQ(unsaved.name, u"leaf");
+    EXPECT_EQ(unsaved.file, file);
+    EXPECT_EQ(unsaved.records, 7);
+    EXPECT_EQ(unsaved.time, desktop.clock.moment);
+    ASSERT_TRUE(unsaved.form);
+    EXPECT_EQ(unsaved.form->row, 3);
+    ASSERT_EQ(unsaved.form->controls.size(), 2U);
+    EXPECT_EQ(unsaved.form->controls[0].name, u"field");
+    EXPECT_EQ(unsaved.form->controls[0].text, u"é ß");
+    EXPECT_EQ(unsaved.form->controls[0].tag, 7);
+    EXPECT_EQ(unsaved.form->controls[0].date.secondsSince2001(), 12.5);
+    EXPECT_TRUE(unsaved.form->controls[1].date.isNull());
+    ASSERT_TRUE(unsaved.form->beside);
+    EXPECT_EQ(unsaved.form->beside(), "beside");
+    EXPECT_TRUE(left().empty()) << "another run looks at it";
+
+    Leaf again(desktop.desktop());
+    ASSERT_TRUE(again.restore(unsaved));
+    EXPECT_EQ(again.words, "changed");
+    EXPECT_TRUE(again.isChanged());
+    EXPECT_EQ(again.file(), file);
+    EXPECT_EQ(contents(file), "saved");
+    EXPECT_EQ(again.stateOnDisk(), State::same);
+    ASSERT_TRUE(writeFile(file, "by another"));
+    EXPECT_EQ(again.stateOnDisk(), State::changed);
+
+    found[0].discard();
+    EXPECT_TRUE(left().empty());
+    EXPECT_TRUE(QDir(parent()).isEmpty());
+}
+
+TEST_F(Journals, writeTheContentsOnlyWhenTheyAreOthers) {
+    JournalFolder folder(parent());
+    Journal journal(folder, leaf, QStringLiteral("Leaf"));
+    const auto files = [&] {
+        const QFileInfo file(journal.file());
+        return file.dir().entryList({QStringLiteral("*.contents")}, QDir::Files);
+    };
+    leaf.version = std::make_shared<int>();
+    leaf.change("first");
+    journal.keepNow();
+    const QStringList first = files();
+    ASSERT_EQ(first.size(), 1);
+    leaf.typeIntoForm(QStringLiteral("typed"));
+    // Were they asked for again, these would be found.
+    leaf.words = "not told of";
+    journal.keepNow();
+    EXPECT_EQ(files(), first);
+    leaf.version = std::make_shared<int>();
+    leaf.change("second");
+    journal.keepNow();
+    ASSERT_EQ(files().size(), 1);
+    EXPECT_NE(files(), first);
+    EXPECT_EQ(contents(QFileInfo(journal.file()).path() + u'/' + files().first()), "second");
+}
+
+TEST_F(Journals, areGoneOnceEverythingIsSaved) {
+    JournalFolder folder(parent());
+    Journal journal(folder, leaf, QStringLiteral("Leaf"));
+    leaf.change("changed");
+    journal.keepNow();
+    ASSERT_TRUE(pathExists(journal.file()));
+    ASSERT_TRUE(leaf.saveAs(path("leaf")));
+    folder.work().waitForDone();
+    EXPECT_FALSE(pathExists(journal.file()));
+    leaf.change("again");
+    journal.keepNow();
+    ASSERT_TRUE(pathExists(journal.file()));
+    journal.drop();
+    folder.work().waitForDone();
+    EXPECT_FALSE(pathExists(journal.file()));
+}
+
+TEST_F(Journals, areKeptByThemselvesAfterAChange) {
+    JournalFolder folder(parent());
+    Journal journal(folder, leaf, QStringLiteral("Leaf"));
+    leaf.typeIntoForm(QStringLiteral("x"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !journal.file().isEmpty() && pathExists(journal.file()); }, 20'000));
+}
+
+TEST_F(Journals, thatAreDamagedAreNoTrouble) {
+    {
+        JournalFolder folder(parent());
+        Journal journal(folder, leaf, QStringLiteral("Leaf"));
+        leaf.change("changed");
+        journal.keepNow();
+        const QByteArray bytes = contents(journal.file());
+        const auto whole = unarchivedUnsaved(bytes);
+        ASSERT_TRUE(whole);
+        for (qsizetype length = 0; length < bytes.size(); ++length) {
+            EXPECT_FALSE(unarchivedUnsaved(QByteArrayView(bytes).first(length))) << length;
+        }
+        QByteArray flipped = bytes;
+        flipped[bytes.size() - 1] = static_cast<char>(flipped[bytes.size() - 1] ^ 1);
+        EXPECT_FALSE(unarchivedUnsaved(flipped));
+        // Nor is a journal whose contents are not its own.
+        ASSERT_TRUE(writeFile(QFileInfo(journal.file()).path() + u'/' + whole->second.name, "chanced"));
+    }
+    EXPECT_TRUE(left().empty());
+    EXPECT_TRUE(QDir(parent()).isEmpty());
+    // Nowhere to keep anything.
+    JournalFolder nowhere{QString()};
+    Journal journal(nowhere, leaf, QStringLiteral("Leaf"));
+    leaf.change("more");
+    journal.keepNow();
+    EXPECT_TRUE(journal.file().isEmpty());
+}
+
+}  // namespace
+
+}  // namespace tavrel

@@ -1,0 +1,56 @@
+// Whether a desktop that has the program's description of file types tells its documents by what they hold.
+
+#include <QDir>
+#include <QFile>
+#include <QMimeDatabase>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+class FileTypes : public testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        folder = new QTemporaryDir;
+        const QString packages = folder->filePath(QStringLiteral("mime/packages"));
+        ASSERT_TRUE(QDir().mkpath(packages));
+        ASSERT_TRUE(QFile::copy(QStringLiteral(TAVREL_SOURCE_FOLDER "/resources/desktop/tavrel.xml"),
+                                packages + QStringLiteral("/tavrel.xml")));
+        qputenv("XDG_DATA_HOME", folder->path().toUtf8());
+    }
+    static void TearDownTestSuite() { delete folder; }
+
+    static QByteArray sample(const QString& ending) {
+        QFile file(QStringLiteral(TAVREL_SOURCE_FOLDER "/samples/sample.") + ending);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << ending.toStdString();
+        return file.read(4096);
+    }
+
+    static inline QTemporaryDir* folder = nullptr;
+};
+
+TEST_F(FileTypes, areToldByTheirContents) {
+    const QMimeDatabase types;
+    for (const char* kind : {"carnet", "materiel", "epaves", "compresseur", "rebreather", "consommables", "budget",
+                             "entreprises", "structures", "documents"}) {
+        const QString name = QString::fromLatin1(kind);
+        const QString type = QStringLiteral("application/x-tavrel-") + name;
+        QByteArray bytes = sample(name);
+        EXPECT_EQ(types.mimeTypeForData(bytes).name(), type);
+        EXPECT_EQ(types.mimeTypeForFileNameAndData(QStringLiteral("no-ending"), bytes).name(), type);
+        EXPECT_EQ(types.mimeTypeForFile(QStringLiteral("empty.") + name, QMimeDatabase::MatchExtension).name(), type);
+        EXPECT_TRUE(types.mimeTypeForName(type).iconName().endsWith(name));
+        EXPECT_EQ(types.mimeTypeForData(bytes.replace("streamtyped", "typedstream")).name(), type) << "big-endian";
+    }
+}
+
+TEST_F(FileTypes, ofOthersAreNotClaimed) {
+    const QMimeDatabase types;
+    QByteArray bytes = sample(QStringLiteral("carnet"));
+    for (const QByteArray& other : {bytes.replace("Plongee", "Voyages"), QByteArray("\x04\x0bstreamtyped"),
+                                    QByteArray("Plongee\nBudget\nEpaves\n")}) {
+        EXPECT_FALSE(types.mimeTypeForData(other).name().startsWith(QStringLiteral("application/x-tavrel")));
+    }
+}
+
+}  // namespace
