@@ -441,10 +441,8 @@ void BookBase::search(std::function<QList<int>()> matching) {
 
 RecordList BookBase::foundRecords() const {
     RecordList found;
-    if (search_) {
-        for (const int row : search_()) {
-            found.push_back(recordAt(row));
-        }
+    for (const int row : filter_->isActive() ? filter_->shownRows() : search_ ? search_() : std::vector<int>()) {
+        found.push_back(recordAt(row));
     }
     return found;
 }

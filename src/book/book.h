@@ -111,7 +111,7 @@ public:
     void find(const QString& field, const QString& text);
     /// What the last search found, as text.
     const QString& foundText() const { return foundText_; }
-    /// The records that the last search matches as they are now; none before a search.
+    /// The records that the filter shows or, without one, that the last search matches as they are now; none before.
     RecordList foundRecords() const;
 
     // What the windows show.

@@ -210,7 +210,8 @@ TEST_F(PickListEditors, remembersFramesUnderTheirNames) {
     window.resize(511, 433);
     window.hide();
     EXPECT_FALSE(desktop.preferences.windowState(QStringLiteral("ComboSacDePlongee")).isEmpty());
-    PickListWindow again(desktop.desktop(), editorOf("showSacWindow"));
+    const PickListUsage unknown = [](PickList) { return std::nullopt; };
+    PickListWindow again(desktop.desktop(), editorOf("showSacWindow"), unknown);
     EXPECT_EQ(again.size(), QSize(511, 433));
 }
 

@@ -92,7 +92,7 @@ TEST_F(Exporting, saysWhatIsLostBeforeItWrites) {
 }
 
 TEST_F(Exporting, writesTheDivesAndColumnsChosen) {
-    carnet.findInColumns(QStringLiteral("Agay"));
+    carnet.filter().setText(QStringLiteral("Agay"));
     carnet.selectRows({2, 0});
     show();
     const auto choices = window->findChildren<QRadioButton*>();
