@@ -441,8 +441,14 @@ void BookBase::search(std::function<QList<int>()> matching) {
 
 RecordList BookBase::foundRecords() const {
     RecordList found;
-    for (const int row : filter_->isActive() ? filter_->shownRows() : search_ ? search_() : std::vector<int>()) {
-        found.push_back(recordAt(row));
+    if (filter_->isActive()) {
+        for (const int row : filter_->shownRows()) {
+            found.push_back(recordAt(row));
+        }
+    } else if (search_) {
+        for (const int row : search_()) {
+            found.push_back(recordAt(row));
+        }
     }
     return found;
 }
