@@ -50,6 +50,7 @@ public:
     void startFrom(const Plongee& previous);
 
     /// A site that was dived fills place, country and position where these are empty.
+    using BookForm::endEditing;
     void endEditing(int control, const QString& typed) override;
     QStringList ownList(int list) const override;
     /// Also a day to come, and a tank or bottle with more gas at the end than at the start.

@@ -53,7 +53,7 @@ protected:
             }
         }
         documents.showPreferencePanel();
-        for (int id = 0; id < calculatorCount; ++id) {
+        for (std::size_t id = 0; id < calculatorCount; ++id) {
             delegate.showCalculator(static_cast<CalculatorId>(id));
         }
         for (const auto& editor : pickListEditors) {
