@@ -111,9 +111,10 @@ void DiveForm::countSurfaceInterval() {
                           fields.date(controls_.heureField).toDateTime().time());
     const qint64 minutes = surfaced_->secsTo(start) / 60;
     const bool counts = minutes >= 0 && minutes <= longest;
-    state().setText(controls_.surfaceField,
-                    counts ? QStringLiteral("%1:%2").arg(minutes / 60, 2, 10, QLatin1Char('0')).arg(minutes % 60, 2, 10, QLatin1Char('0'))
-                           : QStringLiteral("--:--"));
+    state().setText(controls_.surfaceField, counts ? QStringLiteral("%1:%2")
+                                                         .arg(minutes / 60, 2, 10, QLatin1Char('0'))
+                                                         .arg(minutes % 60, 2, 10, QLatin1Char('0'))
+                                                   : QStringLiteral("--:--"));
 }
 
 QString DiveForm::hint(int control) const {
