@@ -45,10 +45,10 @@
 <message><source>Minutes</source><translation>minutes</translation></message>
 <message><source>Nitrox</source><translation>Nitrox</translation></message>
 <message><source>Position as typed</source><translation>Position, latitude d’abord</translation></message>
-<message><source>Position hint</source><translation>Comme sur une carte ou un récepteur : 43° 12,345' N 5° 20,7' W, ou 43.2057, -5.345. Elle remplit les champs des deux convertisseurs.</translation></message>
-<message><source>Position hint short</source><translation>Degrés décimaux ou avec minutes ; N, S, E, O ou signes</translation></message>
+<message><source>Position hint</source><translation>Comme sur une carte ou un récepteur : 43° 12,345' N 5° 20,7' W, ou 43.2057, -5.345. Elle remplit les champs des deux convertisseurs.</translation></message>
+<message><source>Position hint short</source><translation>Degrés décimaux ou avec minutes ; N, S, E, O ou signes</translation></message>
 <message><source>Position not read</source><translation>Pas encore une position : la latitude, puis la longitude</translation></message>
-<message><source>Position read</source><translation>Lu : %@</translation></message>
+<message><source>Position read</source><translation>Lu : %@</translation></message>
 <message><source>Pounds (US)</source><translation>&amp;Livres (US)</translation></message>
 <message><source>Pounds per square inch</source><translation>&amp;Livres par pouce carré</translation></message>
 <message><source>Pressure</source><translation>Pression</translation></message>

@@ -8,7 +8,7 @@
 <message><source>Adds a record through the document's form</source><translation>Ajoute une fiche par le formulaire du document</translation></message>
 <message><source>Adds words that have no field of their own to the notes</source><translation>Ajoute aux notes les mots qui n’ont pas de champ à eux</translation></message>
 <message><source>Any typed stream</source><translation>N’importe quel flux typé</translation></message>
-<message><source>Appends the dives of a file to a logbook: UDDF 3, another logbook and, with --format standard, anything that holds dives are read by their meaning. In the other formats a dive that cannot be taken ends the import: the dives before it are kept and saved, the reason is told, and the exit code is 1.</source><translation>Ajoute les plongées d’un fichier à un carnet : UDDF 3, un autre carnet et, avec --format standard, tout ce qui contient des plongées sont lus selon leur sens. Dans les autres formats, une plongée qui ne peut être prise arrête l’importation : les plongées qui la précèdent sont gardées et enregistrées, la raison est dite, et le code de retour est 1.</translation></message>
+<message><source>Appends the dives of a file to a logbook: UDDF 3, another logbook and, with --format standard, anything that holds dives are read by their meaning. In the other formats a dive that cannot be taken ends the import: the dives before it are kept and saved, the reason is told, and the exit code is 1.</source><translation>Ajoute les plongées d’un fichier à un carnet : UDDF 3, un autre carnet et, avec --format standard, tout ce qui contient des plongées sont lus selon leur sens. Dans les autres formats, une plongée qui ne peut être prise arrête l’importation : les plongées qui la précèdent sont gardées et enregistrées, la raison est dite, et le code de retour est 1.</translation></message>
 <message><source>As one JSON object</source><translation>En un objet JSON</translation></message>
 <message><source>COMMANDS</source><translation>COMMANDES</translation></message>
 <message><source>Changes a record through the document's form</source><translation>Modifie une fiche par le formulaire du document</translation></message>
@@ -18,7 +18,7 @@
 <message><source>Draws what the windows print into a PDF, SVG or PNG</source><translation>Dessine en PDF, SVG ou PNG ce que les fenêtres impriment</translation></message>
 <message><source>ED50 to WGS84 from "degrees minutes seconds", with a report; the parts are added, so west and south each takes its minus sign</source><translation>De ED50 vers WGS84 à partir de « degrés minutes secondes », avec un rapport ; les parties s’additionnent : à l’ouest et au sud, chacune prend son signe moins</translation></message>
 <message><source>Everything, as one JSON object</source><translation>Tout, en un objet JSON</translation></message>
-<message><source>Exit codes: 0 done, 1 failed (the reason on standard error, the file as it was), 2 wrong usage.</source><translation>Codes de retour : 0 réussi, 1 échec (la raison sur la sortie d’erreur, le fichier inchangé), 2 appel incorrect.</translation></message>
+<message><source>Exit codes: 0 done, 1 failed (the reason on standard error, the file as it was), 2 wrong usage.</source><translation>Codes de retour : 0 réussi, 1 échec (la raison sur la sortie d’erreur, le fichier inchangé), 2 appel incorrect.</translation></message>
 <message><source>Gas consumption and oxygen clock of a dive</source><translation>Consommation de gaz et horloge à oxygène d’une plongée</translation></message>
 <message><source>Height above the ellipsoid, m</source><translation>Hauteur au-dessus de l’ellipsoïde, m</translation></message>
 <message><source>How SOURCE is read; told by its contents when not given</source><translation>Comment SOURCE est lu ; reconnu par son contenu par défaut</translation></message>
@@ -44,7 +44,7 @@
 <message><source>Print this help message and exit</source><translation>Affiche cette aide et se termine</translation></message>
 <message><source>Prints the dives that SOURCE holds and changes nothing</source><translation>Affiche les plongées que contient SOURCE et ne change rien</translation></message>
 <message><source>Prints them as JSON</source><translation>Les affiche en JSON</translation></message>
-<message><source>Prints which fields the format would lose, and of how many dives; writes nothing</source><translation>Dit quels champs le format perdrait, et pour combien de plongées ; n’écrit rien</translation></message>
+<message><source>Prints which fields the format would lose, and of how many dives; writes nothing</source><translation>Dit quels champs le format perdrait, et pour combien de plongées ; n’écrit rien</translation></message>
 <message><source>REQUIRED</source><translation>OBLIGATOIRE</translation></message>
 <message><source>Removes records</source><translation>Supprime des fiches</translation></message>
 <message><source>SERIES=TEXTFILE: replaces a series by the lines of a file, and saves the logbook</source><translation>SÉRIE=FICHIER : remplace une série par les lignes d’un fichier, et enregistre le carnet</translation></message>

@@ -45,7 +45,7 @@
 <message><source>Mixes in color</source><translation>Plongées au mélange ou en recycleur en couleur</translation></message>
 <message><source>Months</source><translation>mois</translation></message>
 <message><source>New dives</source><translation>Nouvelles plongées</translation></message>
-<message><source>Note US units</source><translation>Les nombres enregistrés sont pris pour exprimés dans ces unités ; ce réglage ne convertit rien. Édition &gt; Convertir les unités… convertit un carnet.</translation></message>
+<message><source>Note US units</source><translation>Les nombres enregistrés sont pris pour exprimés dans ces unités ; ce réglage ne convertit rien. Édition &gt; Convertir les unités… convertit un carnet.</translation></message>
 <message><source>Off</source><translation>non</translation></message>
 <message><source>On</source><translation>oui</translation></message>
 <message><source>Opacity</source><translation>Opacité</translation></message>
@@ -54,10 +54,10 @@
 <message><source>Plot color</source><translation>Ligne</translation></message>
 <message><source>Reset</source><translation>Tout réinitialiser…</translation></message>
 <message><source>Reset answer</source><translation>Réinitialiser</translation></message>
-<message><source>Reset change</source><translation>%@ – %@ : %@ → %@</translation></message>
+<message><source>Reset change</source><translation>%@ – %@ : %@ → %@</translation></message>
 <message><source>Reset more</source><translation>et %d autres</translation></message>
 <message><source>Reset nothing</source><translation>Tous les réglages ont déjà leur valeur standard.</translation></message>
-<message><source>Reset question</source><translation>Donner à tous les réglages de toutes les pages leurs valeurs standard ? Voici ce qui change :</translation></message>
+<message><source>Reset question</source><translation>Donner à tous les réglages de toutes les pages leurs valeurs standard ? Voici ce qui change :</translation></message>
 <message><source>Stop interval</source><translation>Écart entre les paliers</translation></message>
 <message><source>Tank pressure</source><translation>Pression du bloc</translation></message>
 <message><source>Tank volume</source><translation>Volume du bloc</translation></message>
