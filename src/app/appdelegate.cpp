@@ -1,6 +1,5 @@
 #include "app/appdelegate.h"
 
-#include "app/picklistwindow.h"
 #include "base/texts.h"
 #include "desktop/notificationcentre.h"
 #include "desktop/ui/bringtofront.h"
@@ -16,7 +15,7 @@ QWidget* AppDelegate::showEditor(const PickListEditorDescription& editor) {
     }
     auto& window = editors_[&editor];
     if (!window) {
-        window = std::make_unique<PickListWindow>(desktop_, editor);
+        window = std::make_unique<PickListWindow>(desktop_, editor, usage_);
     }
     bringToFront(window.get());
     return window.get();

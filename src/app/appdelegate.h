@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/picklisteditors.h"
+#include "app/picklistwindow.h"
 #include "calculators/ui/calculatorwindows.h"
 #include "desktop/desktop.h"
 
@@ -26,11 +26,15 @@ public:
     QWidget* showEditor(const PickListEditorDescription& editor);
 
     /// Asks every open logbook for its renumbering window.
+    /// Tells the editors how often the open documents use an entry; before the first of them is shown.
+    void countUsageWith(PickListUsage usage) { usage_ = std::move(usage); }
+
     void sendRenumDivesNotification();
     void showAbout(QWidget* parent);
 
 private:
     Desktop& desktop_;
+    PickListUsage usage_;
     CalculatorWindows calculators_;
     std::map<const PickListEditorDescription*, std::unique_ptr<QWidget>> editors_;
 };

@@ -5,6 +5,7 @@
 #include "base/paths.h"
 #include "base/safefile.h"
 #include "base/texts.h"
+#include "book/picklistusage.h"
 #include "desktop/alerts.h"
 #include "desktop/preferences.h"
 #include "desktop/ui/bringtofront.h"
@@ -76,6 +77,21 @@ QList<DocumentWindow*> MyDocumentController::windows() const {
         windows.append(each.window.get());
     }
     return windows;
+}
+
+std::optional<QHash<QString, int>> MyDocumentController::pickListUsage(PickList list) const {
+    if (open_.empty()) {
+        return std::nullopt;
+    }
+    QHash<QString, int> total;
+    for (const auto& each : open_) {
+        const auto* book = qobject_cast<const BookBase*>(each.document.get());
+        const auto usage = book ? tavrel::pickListUsage(*book, list) : QHash<QString, int>();
+        for (const auto& [entry, uses] : usage.asKeyValueRange()) {
+            total[entry] += uses;
+        }
+    }
+    return total;
 }
 
 const DocumentType& MyDocumentController::typeOf(const DocumentWindow& window) const {

@@ -2,9 +2,11 @@
 
 #include "app/documenttypes.h"
 #include "app/recentdocuments.h"
+#include "desktop/picklists.h"
 #include "desktop/ui/filedialogs.h"
 #include "documents/journal.h"
 
+#include <QHash>
 #include <QObject>
 #include <QSet>
 
@@ -33,6 +35,8 @@ public:
     const DocumentTypes& types() const { return types_; }
     /// The windows of the open documents, in the order in which they were opened.
     QList<DocumentWindow*> windows() const;
+    /// How often the open documents use each entry of a shared list; nothing while none is open.
+    std::optional<QHash<QString, int>> pickListUsage(PickList list) const;
     const DocumentType& typeOf(const DocumentWindow& window) const;
     RecentDocuments& recentDocuments() { return recentDocuments_; }
 

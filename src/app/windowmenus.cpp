@@ -214,7 +214,7 @@ void WindowMenus::addNewDocuments(QMenu& menu) {
 
 void WindowMenus::addEditors(QMenu& menu) {
     for (const PickListEditorDescription& editor : pickListEditors) {
-        QAction* action = menu.addAction(text(editor.first.title));
+        QAction* action = menu.addAction(text(editor.first.title()));
         action->setObjectName(QLatin1StringView(editor.action));
         connect(action, &QAction::triggered, this, [this, &editor] { context_.delegate.showEditor(editor); });
     }

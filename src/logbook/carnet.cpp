@@ -104,6 +104,14 @@ Carnet::Carnet(Desktop& desktop, const std::vector<ExportType>& exportTypes)
         Q_EMIT synthesisRefillRequested();
     });
     listen(Notification::updateDeco, [this] { updateUI(); });
+    form().findSitesWith([this](const QString& site) -> Pointer {
+        for (int row = count() - 1; row >= 0; --row) {
+            if (record(row).site.compare(site, Qt::CaseInsensitive) == 0) {
+                return recordAt(row);
+            }
+        }
+        return nullptr;
+    });
     listen(Notification::renumDives, [this] { Q_EMIT renumberWindowRequested(); });
     setUpFirstRunColumns();
 
@@ -146,6 +154,9 @@ qint32 Carnet::numberAfter(const Plongee& dive) {
 
 void Carnet::proposeNumber() {
     form().state().setInteger(form().controls().noPlongeeField, nextDiveNumber());
+    if (desktop().preferences.get(settings::newDiveFromLast) && count() > 0) {
+        form().startFrom(record(count() - 1));
+    }
 }
 
 QString Carnet::formTitle() const {

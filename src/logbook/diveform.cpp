@@ -41,7 +41,85 @@ QStringList DiveForm::ownList(int list) const {
     return lists[static_cast<std::size_t>(list)];
 }
 
+void DiveForm::endEditing(int control, const QString& typed) {
+    RecordForm::endEditing(control, typed);
+    if (control == controls_.siteField.index) {
+        fillFromSite(typed);
+    }
+}
+
+void DiveForm::fillFromSite(const QString& site) {
+    const auto known = lastDiveAt_ && !site.trimmed().isEmpty() ? lastDiveAt_(site) : nullptr;
+    if (!known) {
+        return;
+    }
+    FormState<DiveControls>& fields = state();
+    QStringList filled;
+    const auto fill = [&](DiveControls::Id control, const QString& value, const QString& none = {}) {
+        const QString held = fields.text(control).trimmed();
+        if ((held.isEmpty() || held == none.trimmed()) && !value.trimmed().isEmpty() && value != none) {
+            fields.type(control.index, value);
+            filled << text(fields.table().controls()[static_cast<std::size_t>(control.index)].control.label);
+        }
+    };
+    fill(controls_.lieuField, known->lieu);
+    fill(controls_.paysField, known->pays);
+    const auto before = filled.size();
+    fill(controls_.gpsField, known->gps, text("Carnet", "GPS template"));
+    if (filled.size() > before) {
+        fields.choose(controls_.gpsSystemPopUp.index, known->gpsSystem);
+    }
+    if (!filled.isEmpty()) {
+        filledFrom_ = textWith("Carnet", "Filled from site", known->noPlongee, filled.join(QStringLiteral(", ")));
+        updateUI();
+    }
+}
+
+void DiveForm::startFrom(const Plongee& previous) {
+    FormState<DiveControls>& fields = state();
+    DiveForm shown(desktop());
+    shown.editFields(previous);
+    const auto take = [&](DiveControls::Id control) {
+        fields.setText(control, shown.state().text(control));
+        fields.setTag(control, shown.state().tag(control));
+    };
+    for (const auto control :
+         {controls_.lieuField, controls_.paysField, controls_.countryCodeField, controls_.partenairesField,
+          controls_.rebreatherMatrix, controls_.lestageField, controls_.combinaisonPopUp}) {
+        take(control);
+    }
+    for (std::size_t tank = 0; tank < 2; ++tank) {
+        for (const auto control :
+             {controls_.volumeBlocField[tank], controls_.pressionBlocField[tank], controls_.alliageBlocPopUp[tank],
+              controls_.gazPopUp[tank], controls_.o2MixField[tank], controls_.heMixField[tank]}) {
+            take(control);
+        }
+    }
+    for (const auto control : controls_.equipement_Field) {
+        take(control);
+    }
+    const QDateTime day = previous.date.toDateTime();
+    const QDateTime start(day.date(), previous.heure.toDateTime().time());
+    surfaced_ = start.isValid() ? std::optional(start.addSecs(qint64(previous.temps) * 60)) : std::nullopt;
+    countSurfaceInterval();
+}
+
+void DiveForm::countSurfaceInterval() {
+    constexpr qint64 longest = 48 * 60;
+    const FormState<DiveControls>& fields = state();
+    const QDateTime start(fields.date(controls_.dateField).toDateTime().date(),
+                          fields.date(controls_.heureField).toDateTime().time());
+    const qint64 minutes = surfaced_->secsTo(start) / 60;
+    const bool counts = minutes >= 0 && minutes <= longest;
+    state().setText(controls_.surfaceField,
+                    counts ? QStringLiteral("%1:%2").arg(minutes / 60, 2, 10, QLatin1Char('0')).arg(minutes % 60, 2, 10, QLatin1Char('0'))
+                           : QStringLiteral("--:--"));
+}
+
 QString DiveForm::hint(int control) const {
+    if (control == controls_.siteField.index && !filledFrom_.isEmpty()) {
+        return filledFrom_;
+    }
     if (control == controls_.dateField.index &&
         state().date(controls_.dateField).toDateTime() > desktop().clock.now()) {
         return text("Carnet", "Hint future day");
@@ -163,6 +241,8 @@ void DiveForm::clear(int) {
     fields.setText(controls_.ordinateurField, preferences.get(settings::ordinateur));
     fields.setText(controls_.serieField, preferences.get(settings::serie));
     _plg.reset();
+    filledFrom_.clear();
+    surfaced_.reset();
     nameDifficulty();
     fields.requestFocus(controls_.noPlongeeField);
 }
@@ -189,6 +269,8 @@ void DiveForm::show(const Plongee& dive) {
         }
     }
     _plg = dive;
+    filledFrom_.clear();
+    surfaced_.reset();
     nameDifficulty();
 }
 
@@ -389,6 +471,13 @@ void DiveForm::razHeliox() {
 }
 
 void DiveForm::entered(int control) {
+    if (control == controls_.siteField.index) {
+        filledFrom_.clear();
+    } else if (control == controls_.surfaceField.index) {
+        surfaced_.reset();  // the user knows better
+    } else if (surfaced_ && (control == controls_.dateField.index || control == controls_.heureField.index)) {
+        countSurfaceInterval();
+    }
     if (control == controls_.consommationButton.index) {
         Q_EMIT consumptionRequested();
     } else if (control == controls_.razAirButton.index) {

@@ -5,7 +5,12 @@
 #include "dives/plongee.h"
 #include "logbook/divecontrols.h"
 
+#include <QDateTime>
 #include <QStringList>
+
+#include <functional>
+#include <memory>
+#include <optional>
 
 namespace tavrel {
 
@@ -36,6 +41,16 @@ public:
     void razNitrox();
     void razHeliox();
 
+    /// Where the form finds the last dive at a site; null where there is none.
+    void findSitesWith(std::function<std::shared_ptr<const Plongee>(const QString& site)> lastDiveAt) {
+        lastDiveAt_ = std::move(lastDiveAt);
+    }
+    /// Takes tanks, gas, equipment, buddies and place of a new dive from the one before it, after whose end the surface
+    /// interval is counted, up to two days.
+    void startFrom(const Plongee& previous);
+
+    /// A site that was dived fills place, country and position where these are empty.
+    void endEditing(int control, const QString& typed) override;
     QStringList ownList(int list) const override;
     /// Also a day to come, and a tank or bottle with more gas at the end than at the start.
     QString hint(int control) const override;
@@ -64,6 +79,8 @@ protected:
 
 private:
     void nameDifficulty();
+    void fillFromSite(const QString& site);
+    void countSurfaceInterval();
     void calcDeltaPressure(const GasReadings& readings);
     void refreshGas(const GasReadings& readings);
     bool gainsGas(int endPressure) const;
@@ -72,6 +89,9 @@ private:
     const DiveControls& controls_;
     ProfileSeries _plg;
     ProfileSeries remembered_;
+    std::function<std::shared_ptr<const Plongee>(const QString&)> lastDiveAt_;
+    QString filledFrom_;                 ///< what the hint beside the site says
+    std::optional<QDateTime> surfaced_;  ///< the end of the dive before a new one
 };
 
 }  // namespace tavrel

@@ -21,6 +21,9 @@ inline constexpr Setting<QString> fabricant{"fabricant"};
 inline constexpr Setting<QString> ordinateur{"ordinateur"};
 inline constexpr Setting<QString> serie{"serie"};
 
+/// A new dive takes tanks, gas, equipment, buddies and place from the last, and its surface interval is worked out.
+inline constexpr Setting<bool> newDiveFromLast{"new dive from last", false, false};
+
 // What the table's cells say and how they are coloured.
 
 inline constexpr Setting<bool> displayUnits{"display units", true, true};

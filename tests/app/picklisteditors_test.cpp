@@ -1,7 +1,9 @@
 #include "app/appdelegate.h"
 #include "app/picklistwindow.h"
+#include "forms/picklistentry.h"
 #include "support/testdesktop.h"
 
+#include <QComboBox>
 #include <QPushButton>
 #include <QSet>
 #include <QTest>
@@ -79,7 +81,9 @@ TEST_F(PickListEditors, keepWhatIsTypedSortedAndDeleteSeveralAtOnce) {
         add(window, places, QString::fromUtf8(entry));
     }
     const QString accented = QStringLiteral("é");
-    EXPECT_EQ(entries(window, places).join(u'|'), QStringLiteral("| a |B|b|b|") + accented);
+    EXPECT_EQ(entries(window, places).join(u'|'), QStringLiteral("| a |b|b|B|") + accented);
+    // Stored by the plain comparison of strings.
+    EXPECT_EQ(stored("lieux").join(u'|'), QStringLiteral("| a |B|b|b|") + accented);
     EXPECT_EQ(total->text(), textWith("Carnet", "Entries", 6));
 
     auto* field = window.findChild<QLineEdit*>(QLatin1StringView(places.field));
@@ -117,7 +121,59 @@ TEST_F(PickListEditors, keepWhatIsTypedSortedAndDeleteSeveralAtOnce) {
         desktop.pickLists.sort(PickList::tableauDesLieux);
     };
     deleteButton->click();
-    EXPECT_EQ(entries(window, places).join(u'|'), QStringLiteral(" a |B|b|") + accented);
+    EXPECT_EQ(entries(window, places).join(u'|'), QStringLiteral(" a |b|B|") + accented);
+}
+
+TEST_F(PickListEditors, sortAsTheLanguageDoesRenameAndCount) {
+    delegate.countUsageWith([](PickList list) -> std::optional<QHash<QString, int>> {
+        return list == PickList::tableauDesSites ? QHash<QString, int>{{QStringLiteral("Épave"), 7}}
+                                                 : QHash<QString, int>();
+    });
+    QWidget& window = show("showSiteWindow");
+    const EditedList& sites = editorOf("showSiteWindow").first;
+    for (const char* entry : {"Zoo", "\xc3\x89pave", "abri", "Est"}) {
+        add(window, sites, QString::fromUtf8(entry));
+    }
+    EXPECT_EQ(entries(window, sites).join(u'|'), QStringLiteral("abri|Épave|Est|Zoo"));
+    window.hide();
+    show("showSiteWindow");
+    auto* model = window.findChild<QListView*>(QLatin1StringView(sites.tableView))->model();
+    const auto uses = [&](int row) { return model->index(row, 0).data(Qt::AccessibleDescriptionRole).toString(); };
+    EXPECT_TRUE(uses(1).contains(u'7')) << uses(1).toStdString();
+    EXPECT_TRUE(uses(2).contains(u'0')) << uses(2).toStdString();
+    EXPECT_TRUE(model->setData(model->index(0, 0), QStringLiteral("Tombant")));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return entries(window, sites).contains(QStringLiteral("Tombant")); }));
+    EXPECT_EQ(entries(window, sites).join(u'|'), QStringLiteral("Épave|Est|Tombant|Zoo"));
+    EXPECT_TRUE(stored("sites").contains(QStringLiteral("Tombant")));
+    EXPECT_FALSE(stored("sites").contains(QStringLiteral("abri")));
+}
+
+TEST_F(PickListEditors, decideOnceForAllAboutNewWords) {
+    QWidget& window = show("showLieuWindow");
+    auto* choice = window.findChild<QComboBox*>(QStringLiteral("lieuFieldNewWords"));
+    ASSERT_TRUE(choice);
+    EXPECT_EQ(choice->currentIndex(), 0) << "asks, until someone chooses";
+    const auto choose = [&](int row) {
+        choice->setCurrentIndex(row);
+        Q_EMIT choice->activated(row);
+    };
+    choose(1);
+    offerToPickList(desktop.desktop(), PickList::tableauDesLieux, QStringLiteral("Malta"));
+    EXPECT_EQ(stored("lieux"), QStringList{QStringLiteral("Malta")});
+    choose(2);
+    offerToPickList(desktop.desktop(), PickList::tableauDesLieux, QStringLiteral("Gozo"));
+    EXPECT_EQ(stored("lieux"), QStringList{QStringLiteral("Malta")});
+    EXPECT_TRUE(desktop.alerts.questions.empty());
+    EXPECT_EQ(desktop.alerts.beeps, 0);
+    // Each list has its own choice.
+    desktop.alerts.answerNext(0);
+    offerToPickList(desktop.desktop(), PickList::tableauDesSites, QStringLiteral("Wall"));
+    EXPECT_EQ(desktop.alerts.questions.size(), 1U);
+    EXPECT_TRUE(desktop.alerts.questions[0].message.contains(u"Sites"));
+    choose(0);
+    desktop.alerts.answerNext(1);
+    offerToPickList(desktop.desktop(), PickList::tableauDesLieux, QStringLiteral("Gozo"));
+    EXPECT_EQ(desktop.alerts.questions.size(), 2U);
 }
 
 TEST_F(PickListEditors, showTheSharedListsAndReloadTheLastSeven) {

@@ -138,6 +138,85 @@ TEST_F(CarnetTest, renumbersThroughTheForm) {
     EXPECT_TRUE(empty.isChanged());
 }
 
+TEST_F(CarnetTest, aSiteDivedBeforeFillsWhatIsEmpty) {
+    hold({{.noPlongee = 1, .lieu = QStringLiteral("Old"), .site = QStringLiteral("Arche")},
+          {.noPlongee = 2,
+           .lieu = QStringLiteral("Marseille"),
+           .site = QStringLiteral("Arche"),
+           .pays = QStringLiteral("France"),
+           .gps = QStringLiteral("N 43° 12.345'  E 005° 20.700'"),
+           .gpsSystem = 0},
+          {.noPlongee = 3, .site = QStringLiteral("Mur")}});
+    desktop.pickLists.append(PickList::tableauDesSites, QStringLiteral("arche"));
+    carnet.newDive();
+    type(controls.siteField, "arche");
+    type(controls.paysField, "Malta");
+    carnet.form().endEditing(controls.siteField.index);
+    EXPECT_EQ(shown(controls.lieuField), u"Marseille") << "of the last dive there";
+    EXPECT_EQ(shown(controls.paysField), u"Malta") << "what is typed stays";
+    EXPECT_EQ(shown(controls.gpsField), u"N 43° 12.345'  E 005° 20.700'");
+    EXPECT_EQ(carnet.form().state().tag(controls.gpsSystemPopUp), 0);
+    EXPECT_EQ(carnet.form().hint(controls.siteField.index), u"From dive no. 2: Place, GPS position");
+    carnet.addDive();
+    EXPECT_EQ(carnet.record(3).lieu, u"Marseille");
+    EXPECT_EQ(carnet.form().hint(controls.siteField.index), QString());
+    carnet.undoStack().undo();
+    EXPECT_EQ(carnet.count(), 3) << "the dive and what was filled in are one step";
+    carnet.newDive();
+    type(controls.siteField, "Elsewhere");
+    desktop.alerts.answerNext(1);
+    carnet.form().endEditing(controls.siteField.index);
+    EXPECT_EQ(shown(controls.lieuField), QString());
+}
+
+TEST_F(CarnetTest, aNewDiveStartsFromTheLastWhenAsked) {
+    Plongee last{.noPlongee = 8,
+                 .lieu = QStringLiteral("Marseille"),
+                 .site = QStringLiteral("Arche"),
+                 .pays = QStringLiteral("France"),
+                 .partenaires = QStringLiteral("Anna")};
+    last.date = Date::fromDateTime(QDateTime(QDate(2024, 6, 14), QTime(0, 0)));
+    last.heure = Date::fromDateTime(QDateTime(QDate(2001, 1, 1), QTime(20, 30)));
+    last.temps = 45;
+    last.volumeBloc = 12;
+    last.gaz = 1;
+    last.o2Mix = 32;
+    last.volumeBloc_2 = 7;
+    last.equip_12 = QStringLiteral("Torch");
+    last.notes = QStringLiteral("Cold");
+    last.pressionDepart = 210;
+    last.profondeur = 30;
+    hold({last});
+    carnet.newDive();
+    EXPECT_EQ(shown(controls.lieuField), QString()) << "off at first";
+    desktop.preferences.set(QStringLiteral("new dive from last"), true);
+    carnet.newDive();
+    EXPECT_EQ(shown(controls.noPlongeeField), u"9");
+    EXPECT_EQ(shown(controls.lieuField), u"Marseille");
+    EXPECT_EQ(shown(controls.paysField), u"France");
+    EXPECT_EQ(shown(controls.partenairesField), u"Anna");
+    EXPECT_EQ(shown(controls.volumeBlocField[0]), u"12");
+    EXPECT_EQ(shown(controls.volumeBlocField[1]), u"7");
+    EXPECT_EQ(carnet.form().state().tag(controls.gazPopUp[0]), 1);
+    EXPECT_EQ(shown(controls.o2MixField[0]), u"32");
+    EXPECT_EQ(shown(controls.equipement_Field[11]), u"Torch");
+    for (const auto& control : {controls.siteField, controls.profondeurField, controls.departField[0]}) {
+        EXPECT_EQ(shown(control), QString()) << "of this dive alone";
+    }
+    EXPECT_FALSE(carnet.hasEntries());
+    // Out of the water at 21:15 the evening before; the clock stands at the 15th of June, the time is still 00:00.
+    EXPECT_EQ(shown(controls.surfaceField), u"02:45");
+    const auto enterTime = [&](int hour, int minute) {
+        carnet.form().state().pick(controls.heureField.index,
+                                   Date::fromDateTime(QDateTime(QDate(2001, 1, 1), QTime(hour, minute))));
+    };
+    enterTime(9, 20);
+    EXPECT_EQ(shown(controls.surfaceField), u"12:05");
+    type(controls.surfaceField, "12:00");
+    enterTime(9, 30);
+    EXPECT_EQ(shown(controls.surfaceField), u"12:00") << "what is typed stays";
+}
+
 TEST_F(CarnetTest, convertsUnitsOnceAsOneStep) {
     Plongee dive{.noPlongee = 1, .profondeur = 32.5F, .altitude = 250, .tempEau = 14, .tempAir = -50};
     dive.decoDepth_Level_1 = 3;

@@ -264,8 +264,8 @@ TEST_F(MaterielTest, asksWithTheTypeWhicheverListIsAddedTo) {
     desktop.alerts.answerNext(0);
     book->form().endEditing(indexOf("marqueMatosField"), QStringLiteral("  Aqua "));
     ASSERT_EQ(desktop.alerts.questions.size(), 1U);
-    EXPECT_EQ(desktop.alerts.questions[0].message, u"Add “Regulator” to the list?");
-    EXPECT_EQ(desktop.alerts.questions[0].buttons, QStringList({QStringLiteral("Yes"), QStringLiteral("No")}));
+    EXPECT_TRUE(desktop.alerts.questions[0].message.startsWith(u"Add “Regulator” to the list?\n"));
+    EXPECT_EQ(desktop.alerts.questions[0].buttons, QStringList({QStringLiteral("&Yes"), QStringLiteral("&No")}));
     EXPECT_EQ(desktop.alerts.beeps, 1);
     EXPECT_EQ(desktop.pickLists[PickList::tableauDesMarques],
               QStringList({QStringLiteral("Aqua"), QStringLiteral("Zeta")}));

@@ -137,6 +137,7 @@
 <message><source>Figure oxygen clock</source><translation>Oxygen clock (CNS)</translation></message>
 <message><source>Figure pressure per minute</source><translation>Pressure per minute</translation></message>
 <message><source>Figure water</source><translation>Water temperature</translation></message>
+<message><source>Filled from site</source><translation>From dive no. %d: %@</translation></message>
 <message><source>Find</source><translation>Find</translation></message>
 <message><source>Find boats</source><translation>Boats</translation></message>
 <message><source>Find buddies</source><translation>Buddies</translation></message>

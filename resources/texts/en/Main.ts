@@ -9,11 +9,14 @@
 <message><source>Add</source><translation>Add</translation></message>
 <message><source>Add entry</source><translation>Add</translation></message>
 <message><source>Add item to ComboBox</source><translation>Add “%@” to the list?</translation></message>
+<message><source>Add item to which list</source><translation>The list is “%@”. Its window, in the menu Lists, can settle this once for all.</translation></message>
 <message><source>Add new card question</source><translation>The form holds a new card that is not in the list yet.</translation></message>
 <message><source>Add second</source><translation>Add Second</translation></message>
 <message><source>Add to toolbar</source><translation>Add to the toolbar</translation></message>
 <message><source>All documents</source><translation>All documents</translation></message>
 <message><source>All files</source><translation>All files</translation></message>
+<message><source>Answer no</source><translation>&amp;No</translation></message>
+<message><source>Answer yes</source><translation>&amp;Yes</translation></message>
 <message><source>Brands</source><translation>Brands</translation></message>
 <message><source>Buddies</source><translation>Buddies</translation></message>
 <message><source>Cancel</source><translation>Cancel</translation></message>
@@ -141,6 +144,7 @@
 <message><source>Menu print preview</source><translation>Print Preview…</translation></message>
 <message><source>Menu quit</source><translation>Quit</translation></message>
 <message><source>Menu renumber</source><translation>Renumber Dives…</translation></message>
+<message><source>Menu revert</source><translation>Revert to Saved…</translation></message>
 <message><source>Menu revert</source><translation>Revert to Saved</translation></message>
 <message><source>Menu revert to backup</source><translation>Revert to Backup…</translation></message>
 <message><source>Menu save as</source><translation>Save As…</translation></message>
@@ -150,6 +154,10 @@
 <message><source>Move down</source><translation>Move towards the end</translation></message>
 <message><source>Move up</source><translation>Move towards the front</translation></message>
 <message><source>New entry</source><translation>New entry</translation></message>
+<message><source>New words</source><translation>&amp;When a form meets a new word:</translation></message>
+<message><source>New words always</source><translation>Always add it</translation></message>
+<message><source>New words ask</source><translation>Ask</translation></message>
+<message><source>New words never</source><translation>Never add it</translation></message>
 <message><source>Next</source><translation>Next</translation></message>
 <message><source>No</source><translation>No</translation></message>
 <message><source>No Mac OS Roman</source><translation>This system cannot convert text to Mac OS Roman.</translation></message>
@@ -205,6 +213,7 @@ Two programs that save the same document undo each other’s changes.</translati
 <message><source>Remove filter</source><translation>Remove Filter</translation></message>
 <message><source>Reload</source><translation>Reload</translation></message>
 <message><source>Remove from toolbar</source><translation>Remove from the toolbar</translation></message>
+<message><source>Rename entry hint</source><translation>Double-click or F2 renames an entry.</translation></message>
 <message><source>Restore</source><translation>Restore</translation></message>
 <message><source>Revert</source><translation>Revert</translation></message>
 <message><source>Revert question</source><translation>Revert “%@” to the saved version? Your changes will be lost.</translation></message>
@@ -277,6 +286,8 @@ Do you want it back?</translation></message>
 <message><source>Unsaved work not readable</source><translation>What was kept of the unsaved work is damaged.</translation></message>
 <message><source>Untitled</source><translation>Untitled</translation></message>
 <message><source>Update</source><translation>Update</translation></message>
+<message><source>Used in records</source><translation>Used in %d records of the open documents</translation></message>
+<message><source>Used so often</source><translation>%d×</translation></message>
 <message><source>Wreck types</source><translation>Wreck Types</translation></message>
 <message><source>Wrecks</source><translation>Wrecks</translation></message>
 <message><source>XML file beyond limits</source><translation>The XML file nests or grows beyond all reason and was not read.</translation></message>

@@ -44,8 +44,10 @@
 <message><source>Minor ticks of time</source><translation>Minor ticks on the time axis</translation></message>
 <message><source>Mixes in color</source><translation>Dives on a mix or a rebreather in colour</translation></message>
 <message><source>Months</source><translation>months</translation></message>
+<message><source>New dive from last</source><translation>A new dive starts from the last one</translation></message>
 <message><source>New dives</source><translation>New dives</translation></message>
 <message><source>Note US units</source><translation>The numbers stored are taken to be in these units; switching converts nothing. Edit &gt; Convert Units… converts a logbook.</translation></message>
+<message><source>Note new dive from last</source><translation>Tanks, gas, equipment, buddies and place are taken over; the surface interval follows from the times.</translation></message>
 <message><source>Off</source><translation>off</translation></message>
 <message><source>On</source><translation>on</translation></message>
 <message><source>Opacity</source><translation>Opacity</translation></message>

@@ -137,6 +137,7 @@
 <message><source>Figure oxygen clock</source><translation>Horloge de l’oxygène (SNC)</translation></message>
 <message><source>Figure pressure per minute</source><translation>Pression par minute</translation></message>
 <message><source>Figure water</source><translation>Température de l’eau</translation></message>
+<message><source>Filled from site</source><translation>De la plongée n° %d : %@</translation></message>
 <message><source>Find</source><translation>Rechercher</translation></message>
 <message><source>Find boats</source><translation>Bateaux</translation></message>
 <message><source>Find buddies</source><translation>Équipiers</translation></message>

@@ -9,11 +9,14 @@
 <message><source>Add</source><translation>Ajouter</translation></message>
 <message><source>Add entry</source><translation>Ajouter</translation></message>
 <message><source>Add item to ComboBox</source><translation>Ajouter « %@ » à la liste ?</translation></message>
+<message><source>Add item to which list</source><translation>La liste est « %@ ». Sa fenêtre, dans le menu Listes, peut en décider une fois pour toutes.</translation></message>
 <message><source>Add new card question</source><translation>Le formulaire contient une nouvelle fiche qui n’est pas encore dans la liste.</translation></message>
 <message><source>Add second</source><translation>Ajouter en double</translation></message>
 <message><source>Add to toolbar</source><translation>Ajouter à la barre d’outils</translation></message>
 <message><source>All documents</source><translation>Tous les documents</translation></message>
 <message><source>All files</source><translation>Tous les fichiers</translation></message>
+<message><source>Answer no</source><translation>&amp;Non</translation></message>
+<message><source>Answer yes</source><translation>&amp;Oui</translation></message>
 <message><source>Brands</source><translation>Marques</translation></message>
 <message><source>Buddies</source><translation>Palanquées</translation></message>
 <message><source>Cancel</source><translation>Annuler</translation></message>
@@ -141,6 +144,7 @@
 <message><source>Menu print preview</source><translation>Aperçu avant impression…</translation></message>
 <message><source>Menu quit</source><translation>Quitter</translation></message>
 <message><source>Menu renumber</source><translation>Renuméroter les plongées…</translation></message>
+<message><source>Menu revert</source><translation>Revenir à la version enregistrée…</translation></message>
 <message><source>Menu revert</source><translation>Revenir à la version enregistrée</translation></message>
 <message><source>Menu revert to backup</source><translation>Revenir à la copie de secours…</translation></message>
 <message><source>Menu save as</source><translation>Enregistrer sous…</translation></message>
@@ -150,6 +154,10 @@
 <message><source>Move down</source><translation>Déplacer vers la fin</translation></message>
 <message><source>Move up</source><translation>Déplacer vers le début</translation></message>
 <message><source>New entry</source><translation>Nouvelle entrée</translation></message>
+<message><source>New words</source><translation>&amp;Mot nouveau dans un formulaire :</translation></message>
+<message><source>New words always</source><translation>Toujours l’ajouter</translation></message>
+<message><source>New words ask</source><translation>Demander</translation></message>
+<message><source>New words never</source><translation>Ne jamais l’ajouter</translation></message>
 <message><source>Next</source><translation>Suivante</translation></message>
 <message><source>No</source><translation>Non</translation></message>
 <message><source>No Mac OS Roman</source><translation>Ce système ne sait pas convertir du texte en Mac OS Roman.</translation></message>
@@ -205,6 +213,7 @@ Deux programmes qui enregistrent le même document défont chacun les modificati
 <message><source>Remove filter</source><translation>Supprimer le filtre</translation></message>
 <message><source>Reload</source><translation>Recharger</translation></message>
 <message><source>Remove from toolbar</source><translation>Retirer de la barre d’outils</translation></message>
+<message><source>Rename entry hint</source><translation>Un double-clic ou F2 renomme une entrée.</translation></message>
 <message><source>Restore</source><translation>Restaurer</translation></message>
 <message><source>Revert</source><translation>Revenir</translation></message>
 <message><source>Revert question</source><translation>Revenir à la version enregistrée de « %@ » ? Les modifications seront perdues.</translation></message>
@@ -277,6 +286,8 @@ Voulez-vous le retrouver ?</translation></message>
 <message><source>Unsaved work not readable</source><translation>Ce qui a été conservé du travail non enregistré est endommagé.</translation></message>
 <message><source>Untitled</source><translation>Sans titre</translation></message>
 <message><source>Update</source><translation>Valider</translation></message>
+<message><source>Used in records</source><translation>Utilisé dans %d fiches des documents ouverts</translation></message>
+<message><source>Used so often</source><translation>%d×</translation></message>
 <message><source>Wreck types</source><translation>Types d’épaves</translation></message>
 <message><source>Wrecks</source><translation>Épaves</translation></message>
 <message><source>XML file beyond limits</source><translation>Le fichier XML s’imbrique ou s’étend au-delà de toute mesure et n’a pas été lu.</translation></message>

@@ -44,7 +44,10 @@
 <message><source>Minor ticks of time</source><translation>Graduations fines du temps</translation></message>
 <message><source>Mixes in color</source><translation>Plongées au mélange ou en recycleur en couleur</translation></message>
 <message><source>Months</source><translation>mois</translation></message>
+<message><source>New dive from last</source><translation>Une nouvelle plongée part de la précédente</translation></message>
 <message><source>New dives</source><translation>Nouvelles plongées</translation></message>
+<message><source>Note US units</source><translation>Les nombres enregistrés sont pris pour exprimés dans ces unités ; ce réglage ne convertit rien. Édition &gt; Convertir les unités… convertit un carnet.</translation></message>
+<message><source>Note new dive from last</source><translation>Blocs, gaz, équipement, équipiers et lieu sont repris ; l’intervalle de surface découle des heures.</translation></message>
 <message><source>Note US units</source><translation>Les nombres enregistrés sont pris pour exprimés dans ces unités ; ce réglage ne convertit rien. Édition &gt; Convertir les unités… convertit un carnet.</translation></message>
 <message><source>Off</source><translation>non</translation></message>
 <message><source>On</source><translation>oui</translation></message>

@@ -140,6 +140,7 @@ int main(int argc, char** argv) {
     MyDocumentController documents(desktop, fileDialogs, tavrelDocuments(fileDialogs),
                                    state.isEmpty() ? QString() : state + QStringLiteral("/journal"));
     AppDelegate delegate(desktop);
+    delegate.countUsageWith([&](PickList list) { return documents.pickListUsage(list); });
     QObject::connect(&documents, &MyDocumentController::windowOpened, &documents,
                      [&](DocumentWindow* window) { new WindowMenus(documents, delegate, *window); });
     QObject::connect(&instances, &InstanceServer::handedOver, &documents,

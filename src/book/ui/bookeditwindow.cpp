@@ -1,6 +1,7 @@
 #include "book/ui/bookeditwindow.h"
 
 #include "base/texts.h"
+#include "book/picklistusage.h"
 #include "book/ui/bookactions.h"
 #include "desktop/ui/bringtofront.h"
 #include "desktop/ui/customtoolbar.h"
@@ -43,7 +44,8 @@ BookEditWindow::BookEditWindow(BookBase& book, BookActions& actions, QWidget* pa
       actions_(actions),
       pages_(
           book.form().state(), book.desktop(), [&book](int list) { return book.form().ownList(list); },
-          [&book](int control) { return book.form().hint(control); }),
+          [&book](int control) { return book.form().hint(control); },
+          [&book](int control) { return heldTexts(book, control); }),
       toolBar_(new CustomToolBar(book.description().editToolBar, book.desktop().preferences, this)) {
     setObjectName(QStringLiteral("editWindow"));
     buildToolBar();

@@ -2,6 +2,7 @@
 
 #include "desktop/picklists.h"
 #include "forms/ui/grouplayout.h"
+#include "forms/ui/listcombo.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -50,13 +51,16 @@ void alignPairs(const std::vector<LaidOutGroup>& groups) {
 
 }  // namespace
 
-FormPages::FormPages(FormStateBase& state, Desktop& desktop, OwnList ownList, Hint hint)
+FormPages::FormPages(FormStateBase& state, Desktop& desktop, OwnList ownList, Hint hint, HeldTexts heldTexts)
     : state_(state), desktop_(desktop), ownList_(std::move(ownList)), hint_(std::move(hint)) {
     const auto& controls = state.table().controls();
     for (int index = 0; index < static_cast<int>(controls.size()); ++index) {
         const Control& control = controls[static_cast<std::size_t>(index)].control;
         controls_.push_back(makeFormControl(state, index, listOf(control)));
         connect(controls_.back().get(), &FormControl::editingFinished, this, &FormPages::editingFinished);
+        if (auto* combo = qobject_cast<ListCombo*>(controls_.back()->widget()); combo && heldTexts) {
+            combo->proposeAlso([heldTexts, index] { return heldTexts(index); });
+        }
     }
     showAll();  // before the layout measures the captions that the state holds
     for (int number = 1; number <= state.table().pageCount(); ++number) {

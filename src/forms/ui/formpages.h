@@ -27,7 +27,10 @@ public:
     /// The entries of a list that the document owns, by its number in the table.
     using OwnList = std::function<QStringList(int list)>;
 
-    FormPages(FormStateBase& state, Desktop& desktop, OwnList ownList = {}, Hint hint = {});
+    /// The texts that the document holds already in the field of a combo, to be proposed with its list.
+    using HeldTexts = std::function<QStringList(int control)>;
+
+    FormPages(FormStateBase& state, Desktop& desktop, OwnList ownList = {}, Hint hint = {}, HeldTexts heldTexts = {});
     ~FormPages() override;
 
     int pageCount() const { return static_cast<int>(pages_.size()); }

@@ -1,9 +1,12 @@
 #include "forms/ui/listcombo.h"
 
+#include "base/texts.h"
 #include "forms/ui/wheelguard.h"
 
 #include <QAbstractItemView>
+#include <QCollator>
 #include <QCompleter>
+#include <QEvent>
 #include <QLineEdit>
 #include <QScreen>
 #include <QSignalBlocker>
@@ -19,7 +22,8 @@ constexpr int measuredEntries = 500;
 
 }  // namespace
 
-ListCombo::ListCombo(QStringListModel* list, QWidget* parent) : QComboBox(parent) {
+ListCombo::ListCombo(QStringListModel* list, QWidget* parent)
+    : QComboBox(parent), list_(list), proposals_(new QStringListModel(this)) {
     setEditable(true);
     setInsertPolicy(NoInsert);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
@@ -27,7 +31,7 @@ ListCombo::ListCombo(QStringListModel* list, QWidget* parent) : QComboBox(parent
     setModel(list);
     guardAgainstWheel(this);
 
-    auto* proposals = new QCompleter(list, this);
+    auto* proposals = new QCompleter(proposals_, this);
     proposals->setCaseSensitivity(Qt::CaseInsensitive);
     proposals->setFilterMode(Qt::MatchContains);
     setCompleter(proposals);
@@ -38,6 +42,25 @@ ListCombo::ListCombo(QStringListModel* list, QWidget* parent) : QComboBox(parent
     connect(lineEdit(), &QLineEdit::editingFinished, this, &ListCombo::finished);
     connect(this, &QComboBox::activated, this, [this](int row) { Q_EMIT entered(itemText(row)); });
     connect(list, &QAbstractItemModel::modelReset, this, &ListCombo::listReset);
+    connect(list, &QAbstractItemModel::modelReset, this, &ListCombo::gatherProposals);
+    lineEdit()->installEventFilter(this);
+    gatherProposals();
+}
+
+bool ListCombo::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn) {
+        gatherProposals();
+    }
+    return QComboBox::eventFilter(watched, event);
+}
+
+void ListCombo::gatherProposals() {
+    QStringList all = list_->stringList() + (held_ && lineEdit()->hasFocus() ? held_() : QStringList());
+    all.removeDuplicates();
+    QCollator order;
+    order.setLocale(QLocale(textLanguage()));
+    std::stable_sort(all.begin(), all.end(), order);
+    proposals_->setStringList(all);
 }
 
 void ListCombo::showText(const QString& text) {

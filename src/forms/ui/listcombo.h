@@ -3,6 +3,8 @@
 #include <QComboBox>
 #include <QStringListModel>
 
+#include <functional>
+
 namespace tavrel {
 
 /// A text that is typed or taken from a list. What is typed stays as it is typed, capitals included; the list only
@@ -16,6 +18,13 @@ public:
     /// Shows a text without telling anyone; the cursor keeps its place.
     void showText(const QString& text);
     void showPopup() override;
+    /// Texts to propose besides those of the list; asked each time the field is entered.
+    void proposeAlso(std::function<QStringList()> held) { held_ = std::move(held); }
+    /// What is proposed now.
+    QStringList proposals() const { return proposals_->stringList(); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
     /// The user typed, or took an entry.
@@ -24,6 +33,13 @@ Q_SIGNALS:
     void finished();
     /// The list is another one and the text shown has gone with the old one.
     void listReset();
+
+private:
+    void gatherProposals();
+
+    QStringListModel* list_;
+    QStringListModel* proposals_;
+    std::function<QStringList()> held_;
 };
 
 }  // namespace tavrel

@@ -205,6 +205,18 @@ TEST_F(BookEditWindowTest, combosFollowTheSharedListsAndKeepWhatIsTyped) {
     EXPECT_EQ(combo->currentText(), u"nice");
     EXPECT_EQ(find<ListCombo>(controls.volumeBlocField[1])->count(), 16);
 
+    // What the document holds is proposed along with the list, each once, in the order of the language.
+    carnet.appendDives(QStringLiteral("Add"), {Plongee(), Plongee(), Plongee()});
+    for (int row = 0; row < 3; ++row) {
+        ASSERT_TRUE(carnet.setValue(row, QStringLiteral("lieu"), QStringLiteral(u"Élbe")));
+    }
+    combo->lineEdit()->clearFocus();
+    combo->lineEdit()->setFocus();
+    EXPECT_EQ(combo->proposals().join(u'|'), QStringLiteral("Calvi|Élbe|Nice"));
+    EXPECT_EQ(combo->count(), 2) << "the list itself stays as it is";
+    carnet.undoStack().clear();
+    carnet.replaceList({});
+
     // The words come up for the list once they are finished, however the editing ends, and differing capitals stay.
     combo->lineEdit()->selectAll();
     QTest::keyClicks(combo->lineEdit(), QStringLiteral("CALVI"));
