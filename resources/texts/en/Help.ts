@@ -12,6 +12,7 @@
 <message><source>As one JSON object</source><translation>As one JSON object</translation></message>
 <message><source>COMMANDS</source><translation>COMMANDS</translation></message>
 <message><source>Changes a record through the document's form</source><translation>Changes a record through the document's form</translation></message>
+<message><source>Changes the file although another program has it open or changes it meanwhile</source><translation>Changes the file although another program has it open or changes it meanwhile</translation></message>
 <message><source>Decimal degrees: ed50-wgs84 (default) or wgs84-ed50</source><translation>Decimal degrees: ed50-wgs84 (default) or wgs84-ed50</translation></message>
 <message><source>Display program version information and exit</source><translation>Display program version information and exit</translation></message>
 <message><source>Diving calculators</source><translation>Diving calculators</translation></message>
@@ -65,6 +66,7 @@
 <message><source>The decimal converter's steps on standard error</source><translation>The decimal converter's steps on standard error</translation></message>
 <message><source>The dive's row, from 0</source><translation>The dive's row, from 0</translation></message>
 <message><source>The document</source><translation>The document</translation></message>
+<message><source>The fields that a table gets columns for; all of them else</source><translation>The fields that a table gets columns for; all of them else</translation></message>
 <message><source>The fields to list, separated by commas</source><translation>The fields to list, separated by commas</translation></message>
 <message><source>The file to write, ending in .pdf, .svg or .png</source><translation>The file to write, ending in .pdf, .svg or .png</translation></message>
 <message><source>The file to write; - is the standard output</source><translation>The file to write; - is the standard output</translation></message>

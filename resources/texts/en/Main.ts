@@ -148,7 +148,6 @@
 <message><source>Menu quit</source><translation>Quit</translation></message>
 <message><source>Menu renumber</source><translation>Renumber Dives…</translation></message>
 <message><source>Menu revert</source><translation>Revert to Saved…</translation></message>
-<message><source>Menu revert</source><translation>Revert to Saved</translation></message>
 <message><source>Menu revert to backup</source><translation>Revert to Backup…</translation></message>
 <message><source>Menu save as</source><translation>Save As…</translation></message>
 <message><source>Menu select all</source><translation>Select All</translation></message>

@@ -12,6 +12,7 @@
 <message><source>As one JSON object</source><translation>En un objet JSON</translation></message>
 <message><source>COMMANDS</source><translation>COMMANDES</translation></message>
 <message><source>Changes a record through the document's form</source><translation>Modifie une fiche par le formulaire du document</translation></message>
+<message><source>Changes the file although another program has it open or changes it meanwhile</source><translation>Modifie le fichier même si un autre programme l’a ouvert ou le modifie entre-temps</translation></message>
 <message><source>Decimal degrees: ed50-wgs84 (default) or wgs84-ed50</source><translation>Degrés décimaux : ed50-wgs84 (par défaut) ou wgs84-ed50</translation></message>
 <message><source>Display program version information and exit</source><translation>Affiche la version du programme et se termine</translation></message>
 <message><source>Diving calculators</source><translation>Calculateurs de plongée</translation></message>
@@ -65,6 +66,7 @@
 <message><source>The decimal converter's steps on standard error</source><translation>Les étapes du convertisseur décimal sur la sortie d’erreur</translation></message>
 <message><source>The dive's row, from 0</source><translation>La ligne de la plongée, à partir de 0</translation></message>
 <message><source>The document</source><translation>Le document</translation></message>
+<message><source>The fields that a table gets columns for; all of them else</source><translation>Les champs qui ont leur colonne dans un tableau ; tous sinon</translation></message>
 <message><source>The fields to list, separated by commas</source><translation>Les champs à lister, séparés par des virgules</translation></message>
 <message><source>The file to write, ending in .pdf, .svg or .png</source><translation>Le fichier à écrire, terminé par .pdf, .svg ou .png</translation></message>
 <message><source>The file to write; - is the standard output</source><translation>Le fichier à écrire ; - est la sortie standard</translation></message>

@@ -148,7 +148,6 @@
 <message><source>Menu quit</source><translation>Quitter</translation></message>
 <message><source>Menu renumber</source><translation>Renuméroter les plongées…</translation></message>
 <message><source>Menu revert</source><translation>Revenir à la version enregistrée…</translation></message>
-<message><source>Menu revert</source><translation>Revenir à la version enregistrée</translation></message>
 <message><source>Menu revert to backup</source><translation>Revenir à la copie de secours…</translation></message>
 <message><source>Menu save as</source><translation>Enregistrer sous…</translation></message>
 <message><source>Menu select all</source><translation>Tout sélectionner</translation></message>

@@ -48,7 +48,6 @@
 <message><source>New dives</source><translation>Nouvelles plongées</translation></message>
 <message><source>Note US units</source><translation>Les nombres enregistrés sont pris pour exprimés dans ces unités ; ce réglage ne convertit rien. Édition &gt; Convertir les unités… convertit un carnet.</translation></message>
 <message><source>Note new dive from last</source><translation>Blocs, gaz, équipement, équipiers et lieu sont repris ; l’intervalle de surface découle des heures.</translation></message>
-<message><source>Note US units</source><translation>Les nombres enregistrés sont pris pour exprimés dans ces unités ; ce réglage ne convertit rien. Édition &gt; Convertir les unités… convertit un carnet.</translation></message>
 <message><source>Off</source><translation>non</translation></message>
 <message><source>On</source><translation>oui</translation></message>
 <message><source>Opacity</source><translation>Opacité</translation></message>
