@@ -67,8 +67,13 @@ TEST_F(GuardedFiles, mayHaveNamesOfAnyBytes) {
 TEST_F(GuardedFiles, exportToPipesAndDevices) {
     done(add(1));
     const QString file = path(QStringLiteral("dives.csv"));
-    const QStringList command{QStringLiteral("export"), logbook, QString(), QStringLiteral("--format"),
-                              QStringLiteral("udcf")};
+    const QStringList command{QStringLiteral("export"),
+                              logbook,
+                              QString(),
+                              QStringLiteral("--format"),
+                              QStringLiteral("udcf"),
+                              QStringLiteral("--now"),
+                              QStringLiteral("2024-05-03T10:30:00")};
     const auto to = [&](const QString& target) {
         QStringList arguments = command;
         arguments[2] = target;

@@ -264,6 +264,9 @@
 <message><source>Menu dive</source><translation>Dive</translation></message>
 <message><source>Menu edit dive</source><translation>Edit Dive</translation></message>
 <message><source>Menu graphs</source><translation>Statistics Graphs</translation></message>
+<message><source>Menu import UDCF</source><translation>Import UDCF…</translation></message>
+<message><source>Menu import UDDF</source><translation>Import UDDF…</translation></message>
+<message><source>Menu import handheld</source><translation>Import from Handheld…</translation></message>
 <message><source>Menu insert dive</source><translation>Insert Before Selected Dive</translation></message>
 <message><source>Menu new dive</source><translation>New Dive</translation></message>
 <message><source>Menu previous dives</source><translation>Previous Dives…</translation></message>

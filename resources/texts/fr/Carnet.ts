@@ -264,6 +264,9 @@
 <message><source>Menu dive</source><translation>Plongée</translation></message>
 <message><source>Menu edit dive</source><translation>Modifier la plongée</translation></message>
 <message><source>Menu graphs</source><translation>Graphiques des statistiques</translation></message>
+<message><source>Menu import UDCF</source><translation>Importer UDCF…</translation></message>
+<message><source>Menu import UDDF</source><translation>Importer UDDF…</translation></message>
+<message><source>Menu import handheld</source><translation>Importer du carnet de poche…</translation></message>
 <message><source>Menu insert dive</source><translation>Insérer avant la plongée choisie</translation></message>
 <message><source>Menu new dive</source><translation>Nouvelle plongée</translation></message>
 <message><source>Menu previous dives</source><translation>Plongées antérieures…</translation></message>

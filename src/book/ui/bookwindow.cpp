@@ -113,8 +113,8 @@ void BookWindow::buildToolBar() {
     actions_->fill(*toolBar_);
 }
 
-void BookWindow::provideCommand(const QString& identifier, std::function<void()> run) {
-    actions_->addTool(identifier, std::move(run));
+void BookWindow::provideCommand(const QString& identifier, std::function<void()> run, const Title& menuTitle) {
+    actions_->addTool(identifier, std::move(run), menuTitle);
 }
 
 BookEditWindow& BookWindow::editWindow() {

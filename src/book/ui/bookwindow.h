@@ -30,7 +30,7 @@ public:
 
     /// Gives the toolbars' item of that identifier, of which the book alone knows nothing, what it does. Until then it
     /// does not show.
-    void provideCommand(const QString& identifier, std::function<void()> command);
+    void provideCommand(const QString& identifier, std::function<void()> command, const Title& menuTitle = {});
 
     BookActions& actions() { return *actions_; }
     BookTableView& table() { return *table_; }

@@ -54,6 +54,7 @@ CustomToolBar::CustomToolBar(const ToolBarDescription& description, Preferences&
     toggleViewAction()->setVisible(false);
 
     auto* customise = new QAction(iconNamed(QLatin1StringView(toolCustomise)), text("Main", "Customise"), this);
+    customise->setObjectName(QStringLiteral("customise"));
     customise->setToolTip(text("Main", "Tip customise"));
     connect(customise, &QAction::triggered, this, &CustomToolBar::runCustomisation);
     actions_[QLatin1StringView(toolCustomise)] = customise;

@@ -43,15 +43,12 @@ ListCombo::ListCombo(QStringListModel* list, QWidget* parent)
     connect(this, &QComboBox::activated, this, [this](int row) { Q_EMIT entered(itemText(row)); });
     connect(list, &QAbstractItemModel::modelReset, this, &ListCombo::listReset);
     connect(list, &QAbstractItemModel::modelReset, this, &ListCombo::gatherProposals);
-    lineEdit()->installEventFilter(this);
     gatherProposals();
 }
 
-bool ListCombo::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusIn) {
-        gatherProposals();
-    }
-    return QComboBox::eventFilter(watched, event);
+void ListCombo::focusInEvent(QFocusEvent* event) {
+    QComboBox::focusInEvent(event);
+    gatherProposals();
 }
 
 void ListCombo::gatherProposals() {

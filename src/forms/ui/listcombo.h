@@ -24,7 +24,7 @@ public:
     QStringList proposals() const { return proposals_->stringList(); }
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
 
 Q_SIGNALS:
     /// The user typed, or took an entry.

@@ -45,9 +45,9 @@ const FormatCommand& commandOf(ImportFormat format) {
 
 ImportCommands::ImportCommands(Carnet& carnet, LogbookWindow& window, Desktop& desktop, FileDialogs& fileDialogs)
     : QObject(&window), carnet_(carnet), window_(window), desktop_(desktop), fileDialogs_(fileDialogs) {
-    window.provideCommand(QStringLiteral("importUDCF"), [this] { importUDCF(); });
-    window.provideCommand(QStringLiteral("importUDDF"), [this] { importUDDF(); });
-    window.addImport(text("Carnet", "Import handheld"), [this] { importHandheld(); });
+    window.provideCommand(QStringLiteral("importUDCF"), [this] { importUDCF(); }, {"Carnet", "Menu import UDCF"});
+    window.provideCommand(QStringLiteral("importUDDF"), [this] { importUDDF(); }, {"Carnet", "Menu import UDDF"});
+    window.addImport(text("Carnet", "Menu import handheld"), [this] { importHandheld(); });
     window.addImport(text("Interchange", "Import dives command"), [this] { importDives(); });
     window.importActions().constLast()->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_I));
 }
