@@ -182,6 +182,7 @@ Two programs that save the same document undo each other’s changes.</translati
 <message><source>Page number</source><translation>%d / %d</translation></message>
 <message><source>Page of pages</source><translation>Page %d of %d</translation></message>
 <message><source>Pages</source><translation>Pages of the form</translation></message>
+<message><source>Picture</source><translation>Picture</translation></message>
 <message><source>Picture cannot be made</source><translation>The picture could not be made.</translation></message>
 <message><source>Picture choose</source><translation>Choose…</translation></message>
 <message><source>Picture copy</source><translation>Copy</translation></message>

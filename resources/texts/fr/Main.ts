@@ -182,6 +182,7 @@ Deux programmes qui enregistrent le même document défont chacun les modificati
 <message><source>Page number</source><translation>%d / %d</translation></message>
 <message><source>Page of pages</source><translation>Page %d sur %d</translation></message>
 <message><source>Pages</source><translation>Pages du formulaire</translation></message>
+<message><source>Picture</source><translation>Image</translation></message>
 <message><source>Picture cannot be made</source><translation>L’image n’a pas pu être produite.</translation></message>
 <message><source>Picture choose</source><translation>Choisir…</translation></message>
 <message><source>Picture copy</source><translation>Copier</translation></message>

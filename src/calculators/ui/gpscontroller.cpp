@@ -252,7 +252,9 @@ QGroupBox* GpsController::newReport() {
     gpsDataField->setAccessibleName(text(Title("Calculators", "Report")));
     gpsDataField->setReadOnly(true);
     gpsDataField->setTabChangesFocus(true);
-    gpsDataField->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    fixed.setPointSizeF(font().pointSizeF());
+    gpsDataField->setFont(fixed);
     // Room for the whole report and its longest line, a geocentric coordinate.
     const QFontMetrics metrics = gpsDataField->fontMetrics();
     const auto lines = static_cast<int>(reportLines(gpsReport({})).size()) + 1;

@@ -19,7 +19,8 @@ MessageBar::MessageBar(QWidget* parent) : QToolBar(parent), label_(new QLabel(th
     label_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     label_->setContentsMargins(8, 4, 8, 4);
     addWidget(label_);
-    command_ = addAction(QString(), this, [this] {
+    // Hidden until a message brings a command with its own words.
+    command_ = addAction(text("Main", "Dismiss"), this, [this] {
         hide();
         if (run_) {
             run_();
@@ -32,7 +33,9 @@ MessageBar::MessageBar(QWidget* parent) : QToolBar(parent), label_(new QLabel(th
 
 void MessageBar::tell(const QString& message, const QString& command, std::function<void()> run) {
     label_->setText(message);
-    command_->setText(command);
+    if (!command.isEmpty()) {
+        command_->setText(command);
+    }
     command_->setVisible(!command.isEmpty());
     run_ = std::move(run);
     setVisible(!message.isEmpty());

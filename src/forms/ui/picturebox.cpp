@@ -60,6 +60,7 @@ public:
     PictureControl(FormStateBase& state, int index) : FormControl(state, index, new QWidget) {
         view_ = new PictureView;
         view_->setObjectName(QStringLiteral("pictureView"));
+        view_->setAccessibleName(text("Main", "Picture"));
         message_ = new QLabel;
         message_->setObjectName(QStringLiteral("pictureMessage"));
         message_->setWordWrap(true);

@@ -65,7 +65,9 @@ ProfileEditorWindow::Column ProfileEditorWindow::newColumn(const EditedSeries& e
     auto* text = new QPlainTextEdit;
     text->setObjectName(QLatin1StringView(edited.textField));
     text->setAccessibleName(edited.title.text());
-    text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    fixed.setPointSizeF(text->font().pointSizeF());
+    text->setFont(fixed);
     text->setLineWrapMode(QPlainTextEdit::NoWrap);
     text->setTabChangesFocus(true);
     auto* count = new QLabel;

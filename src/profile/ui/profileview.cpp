@@ -1,5 +1,6 @@
 #include "profile/ui/profileview.h"
 
+#include "base/texts.h"
 #include "profile/profiledrawing.h"
 
 #include <QAccessible>
@@ -14,6 +15,7 @@ namespace tavrel {
 
 ProfileView::ProfileView(QWidget* parent) : DrawingView(parent) {
     setObjectName(QStringLiteral("profileView"));
+    setAccessibleName(text("Profil", "Profile of the dive"));
     setMouseTracking(true);
 }
 

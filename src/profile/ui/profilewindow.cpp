@@ -29,6 +29,7 @@ ProfileWindow::ProfileWindow(Preferences& preferences, Alerts& alerts)
     setObjectName(QStringLiteral("GraphProfileWindow"));
     readOut_->setObjectName(QStringLiteral("readOutField"));
     sample_->setObjectName(QStringLiteral("sampleField"));
+    sample_->setAccessibleName(text("Profil", "Values of the sample"));
     for (QLabel* label : {readOut_, sample_}) {
         label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     }

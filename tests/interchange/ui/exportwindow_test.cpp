@@ -37,7 +37,8 @@ protected:
             setStart(dive, QDate(2020, 1, number), QTime(10, 0));
             dive.noPlongee = number;
             dive.coeff = 80;
-            dive.lieu = number == 2 ? QStringLiteral("Agay") : QStringLiteral("Nice");
+            dive.partenaires = number == 2 ? QStringLiteral("Ann") : QStringLiteral("Bo");
+            dive.lieu = number == 2 ? QStringLiteral("Agay") : QString();
             carnet.appendDives(QStringLiteral("add"), {dive});
         }
     }
@@ -92,7 +93,7 @@ TEST_F(Exporting, saysWhatIsLostBeforeItWrites) {
 }
 
 TEST_F(Exporting, writesTheDivesAndColumnsChosen) {
-    carnet.find(QStringLiteral("lieu"), QStringLiteral("Agay"));
+    carnet.find(QStringLiteral("partenaires"), QStringLiteral("Ann"));
     carnet.selectRows({2, 0});
     show();
     const auto choices = window->findChildren<QRadioButton*>();
