@@ -2,6 +2,7 @@
 #include "benchmarks/ratio.h"
 #include "interchange/exports.h"
 #include "interchange/imports.h"
+#include "interchange/standardimport.h"
 #include "support/testdesktop.h"
 
 #include <benchmark/benchmark.h>
@@ -103,6 +104,41 @@ void importUddf(benchmark::State& state) {
     importAgainstParsing(state, standardUddf(), ImportFormat::uddf);
 }
 
+/// The road that reads a file by its meaning, up to the dives that a logbook takes.
+void importStandard(benchmark::State& state) {
+    const QByteArray file = *exportStandardUddf(logbook().carnet);
+    againstReference(
+        state,
+        [&] {
+            TestDesktop desktop;
+            Carnet carnet(desktop.desktop());
+            auto source = findDives(carnet, file);
+            if (!source || takeDives(carnet, std::move(source->found), {}).taken != diveCount) {
+                state.SkipWithError("not all dives came in");
+            }
+        },
+        [&] { parseAlone(file); });
+}
+
+/// One dive of a million waypoints, which takes no more than many short ones.
+void importMillionWaypoints(benchmark::State& state) {
+    QByteArray file = "<uddf version='3.2.0'><profiledata><repetitiongroup><dive><samples>";
+    for (int second = 0; second < 1'000'000; ++second) {
+        file += "<waypoint><depth>" + QByteArray::number(second % 300 * 0.1, 'f', 1) + "</depth><divetime>" +
+                QByteArray::number(second) + "</divetime></waypoint>";
+    }
+    file += "</samples></dive></repetitiongroup></profiledata></uddf>";
+    againstReference(
+        state,
+        [&] {
+            const auto source = readSource(file);
+            if (!source || source->found.dives.size() != 1) {
+                state.SkipWithError("the dive did not come in");
+            }
+        },
+        [&] { parseAlone(file); });
+}
+
 void exportAgainstSerialising(benchmark::State& state, Expected<QByteArray> (*produce)(Carnet&)) {
     const QByteArray file = *produce(logbook().carnet);
     xmlDocPtr tree =
@@ -136,6 +172,12 @@ BENCHMARK_CAPTURE(exportAgainstSerialising, udcf, exportUDCFFormat)
     ->UseManualTime()
     ->MinTime(3);
 BENCHMARK_CAPTURE(exportAgainstSerialising, uddf, exportUDDFFormat)
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime()
+    ->MinTime(3);
+BENCHMARK(importStandard)->Unit(benchmark::kMillisecond)->UseManualTime()->MinTime(3);
+BENCHMARK(importMillionWaypoints)->Unit(benchmark::kMillisecond)->UseManualTime()->MinTime(3);
+BENCHMARK_CAPTURE(exportAgainstSerialising, uddf3, exportStandardUddf)
     ->Unit(benchmark::kMillisecond)
     ->UseManualTime()
     ->MinTime(3);

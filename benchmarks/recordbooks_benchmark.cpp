@@ -1,6 +1,7 @@
 #include "archive/recordarchive.h"
 #include "benchmarks/ratio.h"
 #include "book/book.h"
+#include "book/filterindex.h"
 #include "recordbooks/materiel.h"
 #include "recordbooks/recordbooks.h"
 #include "support/testdesktop.h"
@@ -17,7 +18,7 @@
 
 // A record book of 100,000 items. Opening it from its bytes is held against zlib's crc32 over them, sorting it through
 // the document against std::stable_sort of pointers to the same records by the same key, finding against a plain loop
-// over the same texts.
+// over the same texts, filtering against zlib's crc32 over as many bytes as it looks through.
 
 namespace tavrel {
 namespace {
@@ -117,10 +118,47 @@ void find(benchmark::State& state) {
         });
 }
 
+/// What a key typed into the filter costs: two words, of which one is in a field of its own.
+void filterByWords(benchmark::State& state) {
+    TestDesktop desktop;
+    const auto book = invMateriel().make(desktop.desktop());
+    const auto fields = std::make_shared<const std::vector<FilterField>>(filterFieldsOf(*book));
+    const FilterIndex index(asRecords(benchmarkItems()), fields, *invMateriel().tableStyle(desktop.desktop()));
+    const RecordFilter filter(QStringLiteral("\"shelf 17\" type:regulator"), *fields);
+    const QByteArray bytes(static_cast<qsizetype>(index.size()), 'x');
+    againstReference(
+        state, [&] { benchmark::DoNotOptimize(index.matches(filter)); },
+        [&] {
+            benchmark::DoNotOptimize(
+                crc32_z(0, reinterpret_cast<const Bytef*>(bytes.constData()), static_cast<z_size_t>(bytes.size())));
+        });
+    state.counters["index_MB"] = static_cast<double>(index.size()) / 1e6;
+}
+
+/// What makes the keys cheap: every word of every record folded once, against folding a text of each by the toolkit.
+void makeFilterIndex(benchmark::State& state) {
+    TestDesktop desktop;
+    const auto book = invMateriel().make(desktop.desktop());
+    const auto fields = std::make_shared<const std::vector<FilterField>>(filterFieldsOf(*book));
+    const auto style = invMateriel().tableStyle(desktop.desktop());
+    const RecordList records = asRecords(benchmarkItems());
+    againstReference(
+        state, [&] { benchmark::DoNotOptimize(FilterIndex(records, fields, *style).size()); },
+        [&] {
+            qsizetype size = 0;
+            for (const auto& each : benchmarkItems()) {
+                size += each->notesMatos.normalized(QString::NormalizationForm_KD).toCaseFolded().size();
+            }
+            benchmark::DoNotOptimize(size);
+        });
+}
+
 BENCHMARK(open)->Unit(benchmark::kMillisecond)->UseManualTime();
 BENCHMARK(sortByText)->Unit(benchmark::kMillisecond)->UseManualTime();
 BENCHMARK(sortByDay)->Unit(benchmark::kMillisecond)->UseManualTime();
 BENCHMARK(find)->Unit(benchmark::kMillisecond)->UseManualTime();
+BENCHMARK(filterByWords)->Unit(benchmark::kMillisecond)->UseManualTime();
+BENCHMARK(makeFilterIndex)->Unit(benchmark::kMillisecond)->UseManualTime();
 
 }  // namespace
 }  // namespace tavrel

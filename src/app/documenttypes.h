@@ -5,7 +5,6 @@
 #include "documents/documentkind.h"
 #include "documents/ui/documentwindow.h"
 
-#include <QList>
 #include <QString>
 
 #include <functional>
@@ -14,11 +13,8 @@
 
 namespace tavrel {
 
-/// A format that a document can be exported to: its type name, and the extension of its files.
-struct ExportFormat {
-    QString name;
-    QString extension;
-};
+/// Whether a file is that of another open document; the user is then told.
+using FileTaken = std::function<bool(const QString& file)>;
 
 /// A type of document that the application creates and opens.
 struct DocumentType : DocumentKind {
@@ -26,7 +22,12 @@ struct DocumentType : DocumentKind {
     const char* newAction;  ///< the new-document action
     std::function<std::unique_ptr<Document>(Desktop&)> makeDocument;
     std::function<std::unique_ptr<DocumentWindow>(Document&, Desktop&)> makeWindow;
-    std::function<QList<ExportFormat>(Document&)> exports = {};  ///< empty: it has none
+    /// Asks what to export and how, and does it; empty where there is nothing to export to.
+    std::function<void(DocumentWindow&, const FileTaken&)> showExport = {};
+    /// Whether a file that is no document holds records that a document of this type can take in, and how that begins;
+    /// both empty where there is no such file.
+    std::function<bool(const QString& file)> takesIn = {};
+    std::function<void(DocumentWindow&, const QString& file)> takeIn = {};
 };
 
 /// The types in the order of the menu; the first is the one a plain new document gets.

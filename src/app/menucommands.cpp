@@ -27,7 +27,7 @@ bool canRevertToBackup(Context& context) {
 }
 
 bool canExport(Context& context) {
-    return !context.documents.exportFormats(context.window).isEmpty();
+    return static_cast<bool>(context.documents.typeOf(context.window).showExport);
 }
 
 void quit(Context& context) {
@@ -62,7 +62,7 @@ const MenuEntry entries[] = {
      [](Context& context) { context.documents.exportDocument(context.window); }, canExport},
     {Menu::file, Part::separator},
     {Menu::file, Part::command, "runPageLayout", Title("Main", "Menu page setup"), "Ctrl+Shift+P", "",
-     [](Context& context) { runPageLayout(&context.window); }},
+     [](Context& context) { runPageLayout(&context.window, QPageLayout::Landscape); }},
     {Menu::file, Part::command, "printDocument", Title("Main", "Menu print"), "Ctrl+P", "imprimante",
      [](Context& context) { context.window.printDocument(); }},
     {Menu::file, Part::separator},

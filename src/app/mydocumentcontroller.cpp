@@ -109,7 +109,8 @@ DocumentWindow* MyDocumentController::addWindow(const DocumentType& type, std::u
     open_.push_back({&type, std::move(document), std::move(window), std::move(journal)});
     connect(&added->document(), &Document::touched, this, [this, added] { ++touches_[added]; });
     connect(added, &DocumentWindow::closeRequested, this, [this, added] { closeDocument(*added); });
-    connect(added, &DocumentWindow::filesDropped, this, &MyDocumentController::openFiles);
+    connect(added, &DocumentWindow::filesDropped, this,
+            [this, added](const QStringList& files) { openDropped(*added, files); });
     connect(added, &DocumentWindow::saveRequested, this, [this, added] { saveDocument(*added); });
     connect(&added->document(), &Document::fileChanged, this, &MyDocumentController::windowsChanged);
     connect(&added->document(), &Document::stateOnDiskChanged, added,
@@ -174,7 +175,9 @@ Expected<DocumentWindow*> MyDocumentController::open(const QString& file) {
 DocumentWindow* MyDocumentController::openFile(const QString& file) {
     const auto window = open(file);
     if (!window) {
-        desktop_.alerts.fail(window.error());
+        if (!offerIntake(file)) {
+            desktop_.alerts.fail(window.error());
+        }
         return nullptr;
     }
     return *window;
@@ -184,6 +187,41 @@ void MyDocumentController::openFiles(const QStringList& files) {
     for (const QString& file : files) {
         openFile(file);
     }
+}
+
+void MyDocumentController::openDropped(DocumentWindow& window, const QStringList& files) {
+    const DocumentType& type = typeOf(window);
+    for (const QString& file : files) {
+        const bool isRecords = type.takesIn && !windowOf(file) && !typeOfFile(file) && type.takesIn(file);
+        if (isRecords) {
+            type.takeIn(window, file);
+        } else {
+            openFile(file);
+        }
+    }
+}
+
+bool MyDocumentController::offerIntake(const QString& file) {
+    const auto type = std::find_if(types_.begin(), types_.end(),
+                                   [&](const DocumentType& each) { return each.takesIn && each.takesIn(file); });
+    if (type == types_.end()) {
+        return false;
+    }
+    const auto open = std::find_if(open_.rbegin(), open_.rend(), [&](const auto& each) { return each.type == &*type; });
+    const QString name = QFileInfo(file).fileName();
+    const QString question = open == open_.rend()
+                                 ? textWith("Main", "Import into new", name)
+                                 : textWith("Main", "Import into", name, open->document->displayName());
+    if (desktop_.alerts.ask(question, {text("Main", "Import into it"), text("Main", "Cancel")}) != 0) {
+        return true;
+    }
+    DocumentWindow* window = open == open_.rend() ? nullptr : open->window.get();
+    if (!window) {
+        newDocumentOfType(*type);
+        window = open_.back().window.get();
+    }
+    type->takeIn(*window, file);
+    return true;
 }
 
 void MyDocumentController::openDocument(QWidget* parent) {
@@ -209,19 +247,21 @@ bool MyDocumentController::applicationOpenUntitledFile() {
 }
 
 void MyDocumentController::launch(const QStringList& files) {
-    std::vector<Failure> failures;
+    std::vector<std::pair<QString, Failure>> failures;
     for (const QString& file : files) {
         if (auto window = open(file); !window) {
-            failures.push_back(window.error());
+            failures.emplace_back(file, window.error());
         }
     }
     if (open_.empty()) {
         newDocumentOfType(types_.front());
         untouched_ = open_.back().window.get();
     }
-    // Told last, over a window.
-    for (const Failure& failure : failures) {
-        desktop_.alerts.fail(failure);
+    // Told and asked last, over a window.
+    for (const auto& [file, failure] : failures) {
+        if (!offerIntake(file)) {
+            desktop_.alerts.fail(failure);
+        }
     }
 }
 
@@ -324,32 +364,10 @@ bool MyDocumentController::revertToBackup(DocumentWindow& window) {
                   [&] { return document.revertToBackup(); });
 }
 
-QList<ExportFormat> MyDocumentController::exportFormats(DocumentWindow& window) const {
-    const DocumentType& type = typeOf(window);
-    return type.exports ? type.exports(window.document()) : QList<ExportFormat>();
-}
-
-bool MyDocumentController::exportDocument(DocumentWindow& window) {
-    if (!window.leaveEditing(Settling::saving)) {
-        return false;
+void MyDocumentController::exportDocument(DocumentWindow& window) {
+    if (typeOf(window).showExport && window.leaveEditing(Settling::saving)) {
+        typeOf(window).showExport(window, [this, &window](const QString& file) { return isTaken(file, window); });
     }
-    const QList<ExportFormat> formats = exportFormats(window);
-    QList<FileFilter> filters;
-    for (const ExportFormat& format : formats) {
-        filters.append({format.name, {format.extension}});
-    }
-    Document& document = window.document();
-    const QFileInfo file(document.file());
-    const QString name = document.file().isEmpty() ? document.displayName() : file.completeBaseName();
-    const QString proposal = document.file().isEmpty() ? name : file.absolutePath() + u'/' + name;
-    const auto chosen = fileDialogs_.fileToSave(&window, text("Main", "Export document"), proposal, filters);
-    if (!chosen || isTaken(chosen->file, window)) {
-        return false;
-    }
-    const auto exported = withProgress(document, &window, Title("Main", "Exporting"), [&] {
-        return document.exportAs(chosen->file, formats.value(chosen->filter).name);
-    });
-    return exported && succeeded(*exported);
 }
 
 std::optional<MyDocumentController::Parting> MyDocumentController::askBeforeClosing(DocumentWindow& window) {

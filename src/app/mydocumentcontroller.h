@@ -45,9 +45,12 @@ public:
     /// The new-document action of a type.
     void newDocumentOfType(const DocumentType& type);
 
-    /// Opens a file, or brings its window to the front when it is open; null when it cannot be opened.
+    /// Opens a file, or brings its window to the front when it is open; null when it cannot be opened. One that holds
+    /// records of another program is offered to a document that takes them in.
     DocumentWindow* openFile(const QString& file);
     void openFiles(const QStringList& files);
+    /// Files dropped on a window: records of other programs that its document can take in come into it, others open.
+    void openDropped(DocumentWindow& window, const QStringList& files);
     void openDocument(QWidget* parent);
     /// Start without a document: the memo when the user wants it, then the most recent document, or an untitled
     /// logbook when there is none. Always handled.
@@ -66,7 +69,6 @@ public:
     bool revertDocument(DocumentWindow& window);
     /// Puts the contents back that the file had before this program first wrote it.
     bool revertToBackup(DocumentWindow& window);
-    bool exportDocument(DocumentWindow& window);
     /// Asks about unsaved changes first.
     bool closeDocument(DocumentWindow& window);
     /// Does as mayQuit(), then closes all documents.
@@ -74,8 +76,8 @@ public:
     /// Asks about what every document has unsaved, then saves what is to be saved, and closes none. A cancel leaves
     /// everything as it was, what other documents were asked about included.
     bool mayQuit();
-    /// The formats that the document can be exported to.
-    QList<ExportFormat> exportFormats(DocumentWindow& window) const;
+    /// Asks how the document is to be exported, beside its file.
+    void exportDocument(DocumentWindow& window);
 
     void showPreferencePanel();
     void showPenseBeteWindow();
@@ -101,6 +103,8 @@ private:
     bool isTaken(const QString& file, const DocumentWindow& window);
     DocumentWindow* addWindow(const DocumentType& type, std::unique_ptr<Document> document);
     void removeWindow(DocumentWindow& window);
+    /// Offers a file to the newest document of a type that takes it in, or to a new one; false when there is none.
+    bool offerIntake(const QString& file);
     void discardUntouched();
     /// What the user answered about a document that is to close, and how often that had been touched by then.
     struct Parting {

@@ -9,6 +9,7 @@
 
 #include <cstring>
 #include <memory>
+#include <mutex>
 #include <string>
 #include <utility>
 #include <vector>
@@ -43,6 +44,7 @@ public:
     const QString& language() const { return language_; }
 
     void choose(const QString& localeName) {
+        const std::lock_guard lock(mutex_);
         language_ = languageOf(localeName);
         tables_.clear();
         toolkit_.reset();
@@ -56,6 +58,7 @@ public:
     }
 
     QString find(const char* table, const char* key) {
+        const std::lock_guard lock(mutex_);
         const TextTable& texts = tableNamed(table);
         QString found = texts.preferred.translate(table, key);
         return found.isNull() ? texts.fallback.translate(table, key) : found;
@@ -93,6 +96,7 @@ private:
         return *tables_.back();
     }
 
+    std::recursive_mutex mutex_;  ///< cells are worked out on other threads too
     QString language_;
     std::vector<std::unique_ptr<TextTable>> tables_;
     std::unique_ptr<QTranslator> toolkit_;

@@ -1,6 +1,7 @@
 #include "book/book.h"
 
 #include "base/texts.h"
+#include "book/bookfilter.h"
 #include "book/booktable.h"
 #include "desktop/alerts.h"
 
@@ -11,6 +12,8 @@ namespace tavrel {
 BookBase::BookBase(Desktop& desktop, const BookDescription& description)
     : ListDocument(desktop, description.layout()), description_(description), form_(description.makeForm(desktop)) {
     setType(description.kind.name.text());
+    filter_ = std::make_unique<BookFilter>(*this);
+    connect(filter_.get(), &BookFilter::changed, this, &BookBase::stateChanged);
     connect(form_.get(), &BookForm::userEdited, this, [this] {
         titleEditWindow();
         Q_EMIT stateChanged();
@@ -112,8 +115,10 @@ void BookBase::deleteRecords() {
         return;
     }
     desktop().alerts.beep();
-    if (desktop().alerts.ask(description_.words.eraseQuestion.text(), {QStringLiteral("OK"), text("Main", "Cancel")}) !=
-        0) {
+    const int doomed = static_cast<int>(selectedRows().size());
+    const QString question =
+        doomed == 1 ? description_.words.eraseQuestion.text() : textWith(description_.words.eraseQuestions, doomed);
+    if (desktop().alerts.ask(question, {QStringLiteral("OK"), text("Main", "Cancel")}) != 0) {
         return;
     }
     RecordList list;
@@ -141,8 +146,16 @@ void BookBase::step(int direction) {
     if (!leaveForm(Leaving::stepping)) {
         return;
     }
-    selectLast(row + direction, true);
+    selectLast(rowBeside(direction), true);
     followSelection();
+}
+
+int BookBase::rowBeside(int direction) const {
+    int row = selectedRow() + direction;
+    while (row >= 0 && row < count() && !filter_->isShown(row)) {
+        row += direction;
+    }
+    return row;
 }
 
 void BookBase::selectLast(int index, bool selected) {
@@ -292,6 +305,10 @@ bool BookBase::userSelects(const QList<int>& rows) {
     keepsForm_ = staysInForm;
     selectRows(rows);
     keepsForm_ = false;
+    // The selected row may be selected again while the form is cleared.
+    if (selectedRow() >= 0 && !showsSelectedRecord_) {
+        followSelection();
+    }
     return true;
 }
 
@@ -301,6 +318,7 @@ void BookBase::blankFields() {
     }
     form_->blankFields(count());
     form_->state().requestFocus(form_->state().table().find(description_.numberField));
+    form_->remember();
     showsSelectedRecord_ = false;
     Q_EMIT stateChanged();
 }
@@ -400,22 +418,9 @@ QList<int> BookBase::rowsHolding(const Field& field, const QString& searched) co
     QList<int> rows;
     for (int row = 0; row < count(); ++row) {
         const QString& value = *field.get<QString>(*records()[static_cast<std::size_t>(row)]);
-        if (value.isNull() || (!searched.isEmpty() && value.contains(searched, Qt::CaseInsensitive))) {
+        if (filter_->isShown(row) &&
+            (value.isNull() || (!searched.isEmpty() && value.contains(searched, Qt::CaseInsensitive)))) {
             rows.append(row);
-        }
-    }
-    return rows;
-}
-
-QList<int> BookBase::rowsShowing(const QString& searched) const {
-    const BookTable table(*this);
-    QList<int> rows;
-    for (int row = 0; row < count() && !searched.isEmpty(); ++row) {
-        for (int column = 0; column < static_cast<int>(table.columns().size()); ++column) {
-            if (table.cell(row, column).inWords().contains(searched, Qt::CaseInsensitive)) {
-                rows.append(row);
-                break;
-            }
         }
     }
     return rows;
@@ -432,10 +437,6 @@ void BookBase::search(std::function<QList<int>()> matching) {
     foundText_ = matches == 1 ? description_.words.oneFound.text() : textWith(description_.words.manyFound, matches);
     Q_EMIT stateChanged();
     Q_EMIT searched();
-}
-
-void BookBase::findInColumns(const QString& searched) {
-    search([this, searched] { return rowsShowing(searched); });
 }
 
 RecordList BookBase::foundRecords() const {
@@ -459,11 +460,11 @@ QString BookBase::countText() const {
 }
 
 bool BookBase::canGoBack() const {
-    return selectedRow() > 0;
+    return selectedRow() > 0 && rowBeside(-1) >= 0;
 }
 
 bool BookBase::canGoForward() const {
-    return count() > 0 && static_cast<quint32>(selectedRow()) < static_cast<quint32>(count() - 1);
+    return selectedRow() >= 0 && rowBeside(+1) < count();
 }
 
 }  // namespace tavrel

@@ -15,6 +15,8 @@
 
 namespace tavrel {
 
+class BookFilter;
+
 /// A way out of the edit form, on which entries that are not stored are asked about or stored.
 enum class Leaving {
     closing,    ///< the edit window closes: a stored record is stored without a question
@@ -54,7 +56,7 @@ public:
     void updateRecord();
     /// Removes the selected records after a question.
     void deleteRecords();
-    /// Stores the form into the selected record and goes to the one before or behind it.
+    /// Stores the form into the selected record and goes to the one before or behind it, among those shown.
     void previousRecord() { step(-1); }
     void nextRecord() { step(+1); }
     /// Selects the row alone and scrolls to it; when it is not to stay selected, only scrolls.
@@ -98,13 +100,15 @@ public:
     void sortBy(const QString& field);
     bool sortedAscending() const;
 
-    // The search. It selects the matching records; one without the field's text counts as a match.
+    /// What the windows show of the list.
+    BookFilter& filter() { return *filter_; }
+    const BookFilter& filter() const { return *filter_; }
+
+    // The search. It selects the matching records that are shown; one without the field's text counts as a match.
     /// How many records hold the text, case aside, or a failure when they have no such field.
     Expected<int> findTextWithField(const QString& field, const QString& text);
     /// The same, telling the user of a failure.
     void find(const QString& field, const QString& text);
-    /// Selects the records of which any column shows the text, case aside; none for an empty text.
-    void findInColumns(const QString& text);
     /// What the last search found, as text.
     const QString& foundText() const { return foundText_; }
     /// The records that the last search matches as they are now; none before a search.
@@ -137,17 +141,18 @@ protected:
 
 private:
     void step(int direction);
+    int rowBeside(int direction) const;
     void putAt(int row, bool replacing);
     void beginBlank();
     void titleEditWindow();
     void listIsRestored();
     QList<int> rowsHolding(const Field& field, const QString& searched) const;
-    QList<int> rowsShowing(const QString& searched) const;
     void search(std::function<QList<int>()> matching);
     std::optional<Entries> askAboutEntries(const Title& question, const Title& keep);
 
     const BookDescription& description_;
     std::unique_ptr<BookForm> form_;
+    std::unique_ptr<BookFilter> filter_;
     std::vector<NotificationCentre::Subscription> subscriptions_;
     int currentIndex_ = -1;
     bool keepsForm_ = false;

@@ -37,8 +37,9 @@ struct BookWords {
     Title emptyTable;              ///< a format that takes the keys of the command for a new record
     Title oneRecord, manyRecords;  ///< the count line; the second is a format
     Title oneFound = {"Main", "One card found"}, manyFound = {"Main", "Found cards"};
-    Title eraseQuestion = {"Main", "Erase card"};
-    Title formOfRecord = {"Main", "Form of card"};  ///< a format: place and count
+    Title eraseQuestion = {"Main", "Erase card"};    ///< of one record
+    Title eraseQuestions = {"Main", "Erase cards"};  ///< of several: a format
+    Title formOfRecord = {"Main", "Form of card"};   ///< a format: place and count
     Title formOfNew = {"Main", "Form of new card"};
     Title undoAdd = {"Main", "Undo add card"}, undoInsert = {"Main", "Undo insert card"};
     Title undoUpdate = {"Main", "Undo update card"}, undoDelete = {"Main", "Undo delete card"};

@@ -6,6 +6,7 @@
 #include "cli/session.h"
 #include "interchange/exports.h"
 #include "interchange/lossreport.h"
+#include "interchange/standard/csvtext.h"
 #include "interchange/standardimport.h"
 
 #include <CLI/CLI.hpp>
@@ -32,6 +33,7 @@ struct Arguments {
     bool byDate = false;
     bool keepTexts = false;
     bool report = false;
+    std::vector<std::string> columns;
     bool force = false;
 };
 
@@ -82,7 +84,10 @@ Expected<Reading> readingOf(Carnet& carnet, const Arguments& arguments) {
                 return openingFailure(path, reason);
             });
         })
-        .map([&](Source&& source) {
+        .and_then([&](Source&& source) -> Expected<Reading> {
+            if (!source.columns.empty() && !holdsDay(source.columns)) {
+                return failure(textWith("Interchange", "Table without date", path));
+            }
             const auto format = forced ? std::nullopt : prescribedFor(source.kind);
             return Reading{format, format ? FoundDives() : std::move(source.found)};
         });
@@ -199,20 +204,33 @@ Expected<void> exportFrom(Carnet& carnet, const Arguments& arguments, Console& c
     const auto& exports = logbookExports();
     const auto chosen = std::find_if(exports.begin(), exports.end(),
                                      [&](const LogbookExport& it) { return it.name == arguments.format; });
+    QStringList columns;
+    for (const std::string& column : arguments.columns) {
+        columns.append(QString::fromStdString(column));
+    }
+    if (!columns.isEmpty() && !chosen->hasColumns) {
+        return failure(text("Interchange", "No columns to choose"), QLatin1String(chosen->name));
+    }
+    const auto missing =
+        std::find_if(columns.begin(), columns.end(), [](const QString& column) { return !csvItem(column); });
+    if (missing != columns.end()) {
+        return failure(textWith("Interchange", "No such column", *missing));
+    }
     if (arguments.report) {
-        return lossesOf(carnet, *chosen, carnet.records()).map([&](const std::vector<FieldLoss>& losses) {
+        return lossesOf(carnet, *chosen, carnet.records(), columns).map([&](const std::vector<FieldLoss>& losses) {
             for (const QString& line : lossLines(losses)) {
                 print(console, line);
             }
         });
     }
-    const QString type = QString::fromLatin1(chosen->typeName);
     const QString target = pathArgument(arguments.other);
-    if (target == u"-" || target == u"/dev/stdout") {
-        return carnet.dataRepresentationOfType(type).map(
-            [&](const QByteArray& bytes) { console.out.write(bytes.data(), bytes.size()); });
+    const auto bytes =
+        columns.isEmpty() ? chosen->produce(carnet) : chosen->produceFrom(carnet, carnet.records(), columns);
+    if (bytes && (target == u"-" || target == u"/dev/stdout")) {
+        console.out.write(bytes->data(), bytes->size());
+        return {};
     }
-    return carnet.exportAs(target, type);
+    return carnet.writeExport(target, bytes);
 }
 
 template <class Work>
@@ -273,6 +291,8 @@ void addInterchangeCommands(CLI::App& app, Console& console) {
     addFile(exporting);
     exporting->add_option("TARGET", arguments->other, "The file to write; - is the standard output")->required();
     exporting->add_option("--format", arguments->format, "The format")->required()->check(CLI::IsMember(formats));
+    exporting->add_option("--columns", arguments->columns, "The fields that a table gets columns for; all of them else")
+        ->delimiter(',');
     exporting->add_flag("--report", arguments->report,
                         "Prints which fields the format would lose, and of how many dives; writes nothing");
     exporting->callback([arguments, &console] {

@@ -65,6 +65,8 @@ public:
     /// Writes another type (an export) beside; the document's file and change state stay. An export loses what it does
     /// not hold, so it never takes the place of the document's own file.
     Expected<void> exportAs(const QString& file, const QString& type);
+    /// The same with the bytes of an export, or why there are none.
+    Expected<void> writeExport(const QString& file, const Expected<QByteArray>& bytes);
     /// Reads its file again, dropping all changes; a failure without a file.
     Expected<void> revert();
     /// The file's contents before this program first wrote it, kept beside it under its name and "~".

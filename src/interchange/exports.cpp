@@ -24,7 +24,11 @@ constexpr std::array<std::string_view, 8> profileFields{"noPlongee", "profilProf
 
 }  // namespace
 
-Expected<QByteArray> LogbookExport::produceFrom(const Carnet& carnet, const RecordList& dives) const {
+Expected<QByteArray> LogbookExport::produceFrom(const Carnet& carnet, const RecordList& dives,
+                                                const QStringList& columns) const {
+    if (hasColumns) {
+        return writeCsv(dives, columns, carnet.progress());
+    }
     Carnet chosen(carnet.desktop());
     chosen.replaceList(dives);
     chosen.setProgress(carnet.progress());
@@ -41,18 +45,38 @@ Expected<QByteArray> exportStandardUddf(Carnet& carnet) {
 
 const std::vector<LogbookExport>& logbookExports() {
     static const std::vector<LogbookExport> exports{
-        {"csv-semicolon", "Export Carnet CSV (Point-virgule)", "csv",
-         [](Carnet& carnet) { return exportTextCSVFormat(carnet, "\";\"", "\""); }, listedFields},
-        {"csv-comma", "Export Carnet CSV (Virgule)", "csv",
-         [](Carnet& carnet) { return exportTextCSVFormat(carnet, ",", ""); }, listedFields},
-        {"tsv", "Export Carnet TXT (Tabulation)", "txt",
-         [](Carnet& carnet) { return exportTextCSVFormat(carnet, "\t", ""); }, listedFields},
-        {"profiles-csv", "Export Profils CSV (Virgule)", "csv",
-         [](Carnet& carnet) { return exportProfileCSVFormat(carnet, ","); }, profileFields},
-        {"udcf", "Export UDCF (Universal Dive Computer Format)", "udcf", exportUDCFFormat},
-        {"uddf", "Export UDDF (Universal Dive Data Format)", "uddf", exportUDDFFormat},
-        {"csv", "Export CSV (UTF-8)", "csv", exportTable},
-        {"uddf-3.2", "Export UDDF 3.2", "uddf", exportStandardUddf},
+        {"csv-semicolon",
+         "Export Carnet CSV (Point-virgule)",
+         {"Interchange", "Format semicolons"},
+         "csv",
+         [](Carnet& carnet) { return exportTextCSVFormat(carnet, "\";\"", "\""); },
+         listedFields},
+        {"csv-comma",
+         "Export Carnet CSV (Virgule)",
+         {"Interchange", "Format commas"},
+         "csv",
+         [](Carnet& carnet) { return exportTextCSVFormat(carnet, ",", ""); },
+         listedFields},
+        {"tsv",
+         "Export Carnet TXT (Tabulation)",
+         {"Interchange", "Format tabs"},
+         "txt",
+         [](Carnet& carnet) { return exportTextCSVFormat(carnet, "\t", ""); },
+         listedFields},
+        {"profiles-csv",
+         "Export Profils CSV (Virgule)",
+         {"Interchange", "Format profiles"},
+         "csv",
+         [](Carnet& carnet) { return exportProfileCSVFormat(carnet, ","); },
+         profileFields},
+        {"udcf",
+         "Export UDCF (Universal Dive Computer Format)",
+         {"Interchange", "Format UDCF"},
+         "udcf",
+         exportUDCFFormat},
+        {"uddf", "Export UDDF (Universal Dive Data Format)", {"Interchange", "Format UDDF"}, "uddf", exportUDDFFormat},
+        {"csv", "Export CSV (UTF-8)", {"Interchange", "Format table"}, "csv", exportTable, {}, true},
+        {"uddf-3.2", "Export UDDF 3.2", {"Interchange", "Format UDDF 3"}, "uddf", exportStandardUddf},
     };
     return exports;
 }

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "base/texts.h"
 #include "logbook/carnet.h"
+
+#include <QStringList>
 
 #include <span>
 #include <string_view>
@@ -39,13 +42,17 @@ Expected<QByteArray> exportTable(Carnet& carnet);
 struct LogbookExport {
     const char* name;       ///< "csv-semicolon"
     const char* typeName;   ///< the document type
+    Title title;            ///< for a choice among them
     const char* extension;  ///< of new files, without a dot
     Expected<QByteArray> (*produce)(Carnet& carnet);
     /// The fields of a dive that the format has a place for, where its files cannot be read back; else empty.
     std::span<const std::string_view> heldFields = {};
+    bool hasColumns = false;  ///< one for each field, of which some may be chosen
 
-    /// The bytes for these dives alone, in the order given.
-    Expected<QByteArray> produceFrom(const Carnet& carnet, const RecordList& dives) const;
+    /// The bytes for these dives alone, in the order given, with the columns chosen or all. The progress is the
+    /// logbook's.
+    Expected<QByteArray> produceFrom(const Carnet& carnet, const RecordList& dives,
+                                     const QStringList& columns = {}) const;
 };
 
 /// The exports in the order in which their types are tried.

@@ -71,7 +71,7 @@ public:
         }
         takeDives(source, dives);
         result_.leftOut = static_cast<int>(source.allDives(tree->root()) - dives.count());
-        result_.readsBetter = *format == ImportFormat::uddf && kindOfTree(tree->root()) == SourceKind::uddf;
+        result_.readsBetter = *format == ImportFormat::uddf && kindOfRoot(tree->root()) == SourceKind::uddf;
         return result_;
     }
 

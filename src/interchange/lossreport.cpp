@@ -39,7 +39,14 @@ std::vector<FieldLoss> missingFields(const RecordList& dives, std::span<const st
 
 }  // namespace
 
-Expected<std::vector<FieldLoss>> lossesOf(Carnet& carnet, const LogbookExport& format, const RecordList& dives) {
+Expected<std::vector<FieldLoss>> lossesOf(const Carnet& carnet, const LogbookExport& format, const RecordList& dives,
+                                          const QStringList& columns) {
+    if (!columns.isEmpty()) {
+        std::vector<std::string> chosen;
+        std::transform(columns.begin(), columns.end(), std::back_inserter(chosen),
+                       [](const QString& column) { return column.toStdString(); });
+        return missingFields(dives, std::vector<std::string_view>(chosen.begin(), chosen.end()));
+    }
     if (!format.heldFields.empty()) {
         return missingFields(dives, format.heldFields);
     }
@@ -47,12 +54,13 @@ Expected<std::vector<FieldLoss>> lossesOf(Carnet& carnet, const LogbookExport& f
     if (!bytes) {
         return tl::unexpected(bytes.error());
     }
-    return readSource(*bytes).map([&](const Source& source) {
+    return readSource(*bytes, carnet.progress()).map([&](const Source& source) {
         std::map<std::string_view, int> counts;
+        const Plongee unknown = unknownDive();
         for (std::size_t index = 0; index < dives.size(); ++index) {
             const bool isThere = index < source.found.dives.size();
             for (const std::string_view key :
-                 differingFields(asDive(dives[index]), isThere ? source.found.dives[index].dive : unknownDive())) {
+                 differingFields(asDive(dives[index]), isThere ? source.found.dives[index].dive : unknown)) {
                 ++counts[key];
             }
         }
@@ -60,20 +68,23 @@ Expected<std::vector<FieldLoss>> lossesOf(Carnet& carnet, const LogbookExport& f
     });
 }
 
-QString lossText(const FieldLoss& loss) {
+QString fieldTitle(const QString& field) {
     const auto& table = DiveControls::table();
-    const int index = table.find(loss.field.toStdString());
-    QString name = loss.field;
-    if (index >= 0) {
-        const PlacedControl& control = table.controls()[static_cast<std::size_t>(index)];
-        if (!control.control.label.isEmpty()) {
-            name = control.control.label.text();
-        }
+    const int index = table.find(field.toStdString());
+    if (index < 0) {
+        return field;
     }
-    if (name != loss.field) {
-        name += QStringLiteral(" [") + loss.field + QStringLiteral("]");
-    }
-    return textWith("Interchange", "Lost of dives", name, loss.dives);
+    const PlacedControl& placed = table.controls()[static_cast<std::size_t>(index)];
+    const Title& label = placed.control.label;
+    // A control without a label of its own stands under its group's.
+    const Title& title = label.isEmpty() ? table.groups()[static_cast<std::size_t>(placed.group)].title : label;
+    return title.isEmpty() ? field : text(title) + QStringLiteral(" [") + field + u']';
+}
+
+QString lossText(const FieldLoss& loss) {
+    const QString field = fieldTitle(loss.field);
+    return loss.dives == 1 ? textWith("Interchange", "Loss of one dive", field)
+                           : textWith("Interchange", "Loss of dives", field, loss.dives);
 }
 
 QStringList lossLines(const std::vector<FieldLoss>& losses) {

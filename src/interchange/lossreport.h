@@ -16,7 +16,12 @@ struct FieldLoss {
 
 /// What an export of these dives would lose: it is tried, read back by its meaning and compared field by field. Of a
 /// format that cannot be read back, the fields that it has no place for count where they say something.
-Expected<std::vector<FieldLoss>> lossesOf(Carnet& carnet, const LogbookExport& format, const RecordList& dives);
+/// The columns are those chosen; none stand for all.
+Expected<std::vector<FieldLoss>> lossesOf(const Carnet& carnet, const LogbookExport& format, const RecordList& dives,
+                                          const QStringList& columns = {});
+
+/// What the dive form calls a field, with its key.
+QString fieldTitle(const QString& field);
 
 /// The field as the dive form labels it, and the count.
 QString lossText(const FieldLoss& loss);

@@ -2,6 +2,9 @@
 
 #include "base/safefile.h"
 #include "desktop/clock.h"
+#include "desktop/preferences.h"
+#include "interchange/standard/csvtext.h"
+#include "logbook/divecontrols.h"
 
 #include <algorithm>
 
@@ -10,6 +13,9 @@ namespace tavrel {
 namespace {
 
 using List = RecordList;
+
+/// The setting with the fields of table columns by their headings.
+constexpr const char* columnsKey = "tableColumns";
 
 /// Whether the numbers that the dives bring go on from those of the logbook.
 bool numbersGoOn(const Carnet& carnet, const std::vector<Plongee>& dives) {
@@ -94,10 +100,39 @@ Expected<ImportResult> readPrescribed(Carnet& carnet, const QString& file, Impor
 }  // namespace
 
 Expected<Source> findDives(const Carnet& carnet, QByteArrayView bytes, const Progress& progress) {
-    return readSource(bytes, progress).map([&](Source&& source) {
+    return readSource(bytes, progress, tableColumns(carnet.desktop().preferences)).map([&](Source&& source) {
         judge(carnet, source.found);
         return std::move(source);
     });
+}
+
+TableColumns tableColumns(const Preferences& preferences) {
+    std::map<QString, QStringList> byTitle;
+    for (const PlacedControl& placed : DiveControls::table().controls()) {
+        const QString field = QString::fromStdString(placed.field);
+        if (!placed.control.label.isEmpty() && csvItem(field)) {
+            byTitle[text(placed.control.label)].append(field);
+        }
+    }
+    TableColumns columns;
+    for (const auto& [title, fields] : byTitle) {
+        if (fields.size() == 1) {
+            columns[title] = fields.front();
+        }
+    }
+    const QVariantMap chosen = preferences.dictionary(QLatin1String(columnsKey));
+    for (auto it = chosen.begin(); it != chosen.end(); ++it) {
+        columns[it.key()] = it.value().toString();
+    }
+    return columns;
+}
+
+void rememberTableColumns(Preferences& preferences, const TableColumns& chosen) {
+    QVariantMap known = preferences.dictionary(QLatin1String(columnsKey));
+    for (const auto& [heading, field] : chosen) {
+        known[heading] = field;
+    }
+    preferences.set(QLatin1String(columnsKey), known);
 }
 
 void judge(const Carnet& carnet, FoundDives& found) {

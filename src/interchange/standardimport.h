@@ -11,9 +11,14 @@ namespace tavrel {
 // The front door: a file's dives are found first, with what is doubtful about them, and taken over when the user has
 // chosen. Nothing in the logbook changes before.
 
-/// The dives of a file, with their doubts, and those marked that the logbook holds already. The progress is in
-/// thousandths; cancelled, the reading fails.
+/// The dives of a file, with their doubts, and those marked that the logbook holds already. A table's columns mean what
+/// its headings mean. The progress is in thousandths; cancelled, the reading fails.
 Expected<Source> findDives(const Carnet& carnet, QByteArrayView bytes, const Progress& progress = {});
+
+/// What the headings of tables mean: the titles of the form where one stands for one field alone, and before them what
+/// the user chose, which is remembered by heading.
+TableColumns tableColumns(const Preferences& preferences);
+void rememberTableColumns(Preferences& preferences, const TableColumns& chosen);
 
 /// Notes the doubts of found dives and marks those that the logbook holds already.
 void judge(const Carnet& carnet, FoundDives& found);

@@ -46,6 +46,7 @@ constexpr BookWords words{
     .oneFound = {"Carnet", "One dive found"},
     .manyFound = {"Carnet", "Found dives"},
     .eraseQuestion = {"Main", "Erase dive"},
+    .eraseQuestions = {"Main", "Erase dives"},
     .formOfRecord = {"Carnet", "Form of dive"},
     .formOfNew = {"Carnet", "Form of new dive"},
     .undoAdd = {"Carnet", "Undo add"},

@@ -348,9 +348,6 @@ constexpr BookCommands commands{"newPrestation", "addPrestation", "insertPrestat
 constexpr RecordBookTools tools(commands);
 
 constexpr Title pages[] = {{"Budget", "Page service"}, {"Budget", "Page cards"}, {"Budget", "Page supplier"}};
-constexpr BookSearch searches[] = {{{"Budget", "Find service"}, "prestation"},
-                                   {{"Budget", "Find supplier"}, "entreprise"},
-                                   {{"Budget", "Find notes"}, "notes"}};
 
 }  // namespace
 
@@ -383,7 +380,6 @@ const BookDescription& previBudget() {
         .editToolBar = tools.editToolBar("prestationEditWindowToolbar"),
         .commands = commands,
         .words = recordBookWords({"Budget", "Edit window"}, {"Budget", "Menu services"}, {"Budget", "Services"}),
-        .searches = searches,
         .print = recordBookPrint,
         .card = &cardOf,
         .makeForm = &makeRecordBookForm<BudgetForm>,

@@ -263,7 +263,7 @@ constexpr Column columns[] = {
     {"temps", {"Compresseur", "Label running time"}, 9, Qt::AlignRight, cellHook<runningTimeCell>},
     {"cumulTemps", {"Compresseur", "Label sum time"}, 9, Qt::AlignRight},
     {"vidange", {"Compresseur", "Label oil change"}, 8, Qt::AlignHCenter, cellHook<oilChangeCell>},
-    {"operationFiltre", {"Compresseur", "Label air filter"}, 12, Qt::AlignLeft, cellHook<filterCell>},
+    {"operationFiltre", {"Compresseur", "Label air filter"}, 14, Qt::AlignLeft, cellHook<filterCell>},
     {"intSoupape", {"Compresseur", "Label valves"}, 12, Qt::AlignLeft, cellHook<valveCell>},
     {"anHuile", {"Compresseur", "Label oil content"}, 8, Qt::AlignRight, cellHook<oilContentCell>},
     {"anCO2", {"Compresseur", "Label carbon dioxide"}, 10, Qt::AlignRight, cellHook<carbonDioxideCell>},
@@ -352,6 +352,7 @@ constexpr BookWords words() {
         recordBookWords({"Compresseur", "Edit window title"}, {"Compresseur", "Menu"}, {"Compresseur", "Table name"});
     words.oneRecord = {"Main", "One revision"};
     words.manyRecords = {"Main", "Revisions"};
+    words.eraseQuestions = {"Main", "Erase revisions"};
     return words;
 }
 

@@ -109,9 +109,6 @@ constexpr BookCommands commands{"newDoc", "addDoc", "insertDoc", "updateDoc", "d
 constexpr RecordBookTools tools(commands);
 
 constexpr Title pages[] = {{"Documents", "Page document"}, {"Documents", "Page copy"}, {"Documents", "Page notes"}};
-constexpr BookSearch searches[] = {{{"Documents", "Find title"}, "titre"},
-                                   {{"Documents", "Find issuer"}, "emetteur"},
-                                   {{"Documents", "Find notes"}, "notes"}};
 
 }  // namespace
 
@@ -135,7 +132,6 @@ const BookDescription& diversDocuments() {
         .commands = commands,
         .words =
             recordBookWords({"Documents", "Edit window"}, {"Documents", "Menu documents"}, {"Documents", "Documents"}),
-        .searches = searches,
         .print = recordBookPrint,
         .makeForm = &makeRecordBookForm<DiversDocsForm>,
         .make = &makeRecordBook<DiversDocs, diversDocuments>,

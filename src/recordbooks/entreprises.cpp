@@ -66,10 +66,13 @@ struct EntreprisesControls : OpeningHoursControls<EntreprisesControls> {
                                    .label = {"Entreprises", "Label telephone"},
                                    .opens = Opens::phone});
     const Id faxField = add({.name = "faxField", .field = "fax", .label = {"Entreprises", "Label fax"}});
-    const Id emailField =
-        add({.name = "emailField", .field = "email", .label = {"Entreprises", "Label e-mail"}, .opens = Opens::mail});
-    const Id urlField =
-        add({.name = "urlField", .field = "url", .label = {"Entreprises", "Label web"}, .opens = Opens::web});
+    const Id emailField = add({.name = "emailField",
+                               .field = "email",
+                               .label = {"Entreprises", "Label e-mail"},
+                               .width = 26,
+                               .opens = Opens::mail});
+    const Id urlField = add(
+        {.name = "urlField", .field = "url", .label = {"Entreprises", "Label web"}, .width = 26, .opens = Opens::web});
 
     // Page 2: the week.
     const int hoursGroup = group({2, {"Entreprises", "Group hours"}, GroupLayout::rows});
@@ -145,9 +148,9 @@ constexpr Column columns[] = {
     {"activite", {"Entreprises", "Column activity"}, 18},
     {"codePostal", {"Entreprises", "Column postal code"}, 8},
     {"ville", {"Entreprises", "Column town"}, 16},
-    {"pays", {"Entreprises", "Column country"}, 12},
+    {"pays", {"Entreprises", "Column country"}, 14},
     {"telephone", {"Entreprises", "Column telephone"}, 16},
-    {"email", {"Entreprises", "Column e-mail"}, 22},
+    {"email", {"Entreprises", "Column e-mail"}, 26},
     {"cotation", {"Entreprises", "Column rating"}, 12, Qt::AlignLeft, cellHook<ratingCell>},
     {"miseAJour", {"Entreprises", "Column update"}, 12, Qt::AlignRight, cellHook<updateCell>},
 };
@@ -186,10 +189,6 @@ constexpr RecordBookTools tools(commands);
 
 constexpr Title pages[] = {
     {"Entreprises", "Page company"}, {"Entreprises", "Page hours"}, {"Entreprises", "Page remarks"}};
-constexpr BookSearch searches[] = {{{"Entreprises", "Find name"}, "entreprise"},
-                                   {{"Entreprises", "Find town"}, "ville"},
-                                   {{"Entreprises", "Find activity"}, "activite"},
-                                   {{"Entreprises", "Find remarks"}, "remarques"}};
 
 }  // namespace
 
@@ -214,7 +213,6 @@ const BookDescription& adressesEts() {
         .commands = commands,
         .words = recordBookWords({"Entreprises", "Edit window"}, {"Entreprises", "Menu companies"},
                                  {"Entreprises", "Companies"}),
-        .searches = searches,
         .print = recordBookPrint,
         .card = &cardOf,
         .makeForm = &makeRecordBookForm<EntreprisesForm>,

@@ -333,7 +333,7 @@ constexpr Column columns[] = {
     {"type", {"Epaves", "Label type"}, 14},
     {"nationalite", {"Epaves", "Label nationality"}, 12},
     {"longueur", {"Epaves", "Label length"}, 9, Qt::AlignRight, cellHook<lengthCell>},
-    {"propulsion", {"Epaves", "Label propulsion"}, 12, Qt::AlignLeft, cellHook<propulsionCell>},
+    {"propulsion", {"Epaves", "Label propulsion"}, 15, Qt::AlignLeft, cellHook<propulsionCell>},
     {"dateNaufrage", {"Epaves", "Label sinking date"}, 12, Qt::AlignRight},
     {"causeNaufrage", {"Epaves", "Label sinking cause"}, 14},
     {"pointHaut", {"Epaves", "Label shallowest point"}, 9, Qt::AlignRight, cellHook<depthCell>},

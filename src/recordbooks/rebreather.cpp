@@ -267,12 +267,19 @@ void addCells(CardBuilder& card, const Rebreather& intervention) {
     }
 }
 
+/// The text is the format of a calculator's result too; the words before its numbers are the label.
+QString sodaTimeLabel() {
+    const QString format = text("Rebreather", "Soda time");
+    return format.left(format.indexOf(u'%'));
+}
+
 void addHistory(CardBuilder& card, const Rebreather& intervention) {
     card.entry({"Rebreather", "Date"}, intervention.date);
     card.heading({"Rebreather", "Rebreather history"});
     card.entry({"Rebreather", "Rebreather time"}, intervention.rebreatherTime);
-    card.entry({"Rebreather", "Card soda time"},
-               intervention.sofnoTime.toDateTime().time().toString(u"HH:mm") + QStringLiteral(" h"));
+    card.add(QStringLiteral("\r"), plaincolour::black);
+    card.add(sodaTimeLabel(), plaincolour::black);
+    card.add(intervention.sofnoTime.toDateTime().time().toString(u"HH:mm") + QStringLiteral(" h"), plaincolour::blue);
     const auto addWhenDone = [&card](qint32 done, const Title& label) {
         if (done != 0) {
             card.heading(label);
@@ -320,6 +327,7 @@ constexpr BookWords words() {
         recordBookWords({"Rebreather", "Edit window title"}, {"Rebreather", "Menu"}, {"Rebreather", "Table name"});
     words.oneRecord = {"Main", "One intervention"};
     words.manyRecords = {"Main", "Interventions"};
+    words.eraseQuestions = {"Main", "Erase interventions"};
     return words;
 }
 

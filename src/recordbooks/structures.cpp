@@ -102,10 +102,13 @@ struct StructuresControls : OpeningHoursControls<StructuresControls> {
     const Id portableField = add(
         {.name = "portableField", .field = "portable", .label = {"Structures", "Label mobile"}, .opens = Opens::phone});
     const Id faxField = add({.name = "faxField", .field = "fax", .label = {"Structures", "Label fax"}});
-    const Id emailField =
-        add({.name = "emailField", .field = "email", .label = {"Structures", "Label e-mail"}, .opens = Opens::mail});
-    const Id urlField =
-        add({.name = "urlField", .field = "url", .label = {"Structures", "Label web"}, .opens = Opens::web});
+    const Id emailField = add({.name = "emailField",
+                               .field = "email",
+                               .label = {"Structures", "Label e-mail"},
+                               .width = 26,
+                               .opens = Opens::mail});
+    const Id urlField = add(
+        {.name = "urlField", .field = "url", .label = {"Structures", "Label web"}, .width = 26, .opens = Opens::web});
 
     // Page 2: prices.
     const int tryDiveGroup = group({2, {"Structures", "Group try-dive"}});
@@ -167,12 +170,12 @@ void ratingCell(const Structures& club, const TableStyle&, Cell& cell) {
 
 constexpr Column columns[] = {
     {"nom", {"Structures", "Column name"}, 24},
-    {"affiliation", {"Structures", "Column affiliation"}, 14},
+    {"affiliation", {"Structures", "Column affiliation"}, 22},
     {"codePostal", {"Structures", "Column postal code"}, 8, Qt::AlignRight},
     {"ville", {"Structures", "Column town"}, 16},
-    {"pays", {"Structures", "Column country"}, 12},
+    {"pays", {"Structures", "Column country"}, 14},
     {"telephone", {"Structures", "Column telephone"}, 16},
-    {"email", {"Structures", "Column e-mail"}, 22},
+    {"email", {"Structures", "Column e-mail"}, 26},
     {"cotation", {"Structures", "Column rating"}, 12, Qt::AlignLeft, cellHook<ratingCell>},
     {"nbPlongees", {"Structures", "Column dives made"}, 8, Qt::AlignRight},
     {"miseAJour", {"Structures", "Column update"}, 12, Qt::AlignRight},
@@ -239,10 +242,6 @@ constexpr BookCommands commands{"newStructure", "addStructure", "insertStructure
 constexpr RecordBookTools tools(commands);
 
 constexpr Title pages[] = {{"Structures", "Page club"}, {"Structures", "Page prices"}, {"Structures", "Page hours"}};
-constexpr BookSearch searches[] = {{{"Structures", "Find name"}, "nom"},
-                                   {{"Structures", "Find affiliation"}, "affiliation"},
-                                   {{"Structures", "Find town"}, "ville"},
-                                   {{"Structures", "Find remarks"}, "remarques"}};
 
 }  // namespace
 
@@ -266,7 +265,6 @@ const BookDescription& adressesStruct() {
         .editToolBar = tools.editToolBar("structureEditWindowToolbar"),
         .commands = commands,
         .words = recordBookWords({"Structures", "Edit window"}, {"Structures", "Menu clubs"}, {"Structures", "Clubs"}),
-        .searches = searches,
         .print = recordBookPrint,
         .card = &cardOf,
         .makeForm = &makeRecordBookForm<StructuresForm>,

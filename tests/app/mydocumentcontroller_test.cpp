@@ -161,26 +161,21 @@ TEST_F(Documents, areSavedUnderANameAndReverted) {
     EXPECT_EQ(app.alerts.failures.size(), 2U);
 }
 
-TEST_F(Documents, areExportedBeside) {
-    DocumentWindow* window = app.documents.openFile(app.savedLogbook(QStringLiteral("dives.carnet"), 3));
-    const QString file = app.path(QStringLiteral("dives.txt"));
-    app.fileDialogs.save = {{file, 0}};
-    EXPECT_TRUE(app.documents.exportDocument(*window));
-    EXPECT_EQ(app.fileDialogs.proposed, app.path(QStringLiteral("dives")));
-    EXPECT_EQ(contents(file), "3");
-    EXPECT_EQ(window->document().displayName(), u"dives.carnet");
-
-    // Never over an open document, its own included.
+TEST_F(Documents, areExportedOverNoOpenDocument) {
+    app.documents.openFile(app.savedLogbook(QStringLiteral("dives.carnet"), 3));
+    TestWindow* window = app.frontWindow();
+    window->entries = std::nullopt;
+    app.documents.exportDocument(*window);
+    EXPECT_FALSE(window->isTaken) << "going on editing";
+    window->entries = Entries::none;
+    app.documents.exportDocument(*window);
+    ASSERT_TRUE(window->isTaken);
     const QString other = app.savedLogbook(QStringLiteral("other.carnet"), 1);
     app.documents.openFile(other);
-    for (const QString& taken : {window->document().file(), other}) {
-        const QByteArray before = contents(taken);
-        app.alerts.clear();
-        app.fileDialogs.save = {{taken, 0}};
-        EXPECT_FALSE(app.documents.exportDocument(*window));
-        EXPECT_EQ(app.alerts.failures.size(), 1U);
-        EXPECT_EQ(contents(taken), before);
-    }
+    EXPECT_TRUE(window->isTaken(other));
+    EXPECT_EQ(app.alerts.failures.size(), 1U);
+    EXPECT_FALSE(window->isTaken(app.path(QStringLiteral("dives.txt"))));
+    EXPECT_EQ(app.alerts.failures.size(), 1U);
 }
 
 TEST_F(Documents, askBeforeTheyCloseWithChanges) {
@@ -334,6 +329,38 @@ TEST_F(Documents, openWhenDroppedOnAWindow) {
     QApplication::sendEvent(app.frontWindow(), &drop);
     QApplication::processEvents();
     EXPECT_EQ(names(), (QStringList{QStringLiteral("Untitled"), QStringLiteral("dives #1.carnet")}));
+}
+
+TEST_F(Documents, takeInFilesOfOtherPrograms) {
+    const auto written = [&](const QString& name) {
+        QFile file(app.path(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("dives of another program");
+        return file.fileName();
+    };
+    const QString log = written(QStringLiteral("dives.log"));
+    const QString notes = written(QStringLiteral("notes.txt"));
+
+    // Opened without a logbook they go to a new one, if the user wants it.
+    app.alerts.answerNext(1);
+    EXPECT_FALSE(app.documents.openFile(log));
+    EXPECT_TRUE(app.documents.windows().isEmpty());
+    app.alerts.answerNext(0);
+    app.documents.openFile(log);
+    ASSERT_EQ(app.documents.windows().size(), 1);
+    EXPECT_EQ(app.frontWindow()->takenIn, QStringList{log});
+    app.alerts.answerNext(0);
+    app.documents.launch({log});
+    EXPECT_EQ(app.frontWindow()->takenIn, (QStringList{log, log}));
+    EXPECT_EQ(app.alerts.questions.size(), 3U);
+
+    // Dropped on a logbook they need no question; what is neither is refused, and documents open.
+    app.documents.openDropped(*app.frontWindow(), {log, notes});
+    EXPECT_EQ(app.frontWindow()->takenIn.size(), 3);
+    EXPECT_EQ(app.alerts.failures.size(), 1U);
+    app.documents.openDropped(*app.frontWindow(), {app.savedLogbook(QStringLiteral("dives.carnet"), 1)});
+    EXPECT_EQ(names().last(), u"dives.carnet");
+    EXPECT_TRUE(app.frontWindow()->takenIn.isEmpty());
 }
 
 TEST_F(Documents, askBeforeTheySaveOverWhatAnotherProgramWrote) {

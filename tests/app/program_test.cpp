@@ -7,12 +7,16 @@
 #include "book/ui/bookeditwindow.h"
 #include "book/ui/booktableview.h"
 #include "desktop/commonsettings.h"
+#include "interchange/ui/exportwindow.h"
+#include "interchange/ui/importwindow.h"
 #include "logbook/logbooksettings.h"
 #include "logbook/ui/logbookwindow.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QFile>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QTableView>
 #include <QTest>
@@ -82,13 +86,22 @@ TEST_F(Program, importsExportsAndFollowsThePreferences) {
     window->findChild<QAction*>(QStringLiteral("undo"))->trigger();
     EXPECT_EQ(carnet.count(), before);
 
-    for (int format = 0; format < 6; ++format) {
+    for (int format = 0; format < 8; ++format) {
         const QString file = desktop.path(QStringLiteral("export %1").arg(format));
-        fileDialogs.save = {{file, format}};
-        EXPECT_TRUE(documents.exportDocument(*window)) << format;
+        fileDialogs.save = {{file}};
+        documents.exportDocument(*window);
+        auto* dialog = window->findChild<ExportWindow*>();
+        ASSERT_TRUE(dialog);
+        dialog->findChild<QComboBox*>(QStringLiteral("exportFormat"))->setCurrentIndex(format);
+        dialog->findChild<QPushButton*>(QStringLiteral("exportChosen"))->click();
         EXPECT_GT(QFile(file).size(), 1000) << format;
+        delete dialog;
     }
-    EXPECT_EQ(fileDialogs.offered.size(), 8);
+
+    // A file of another program that is dropped on the logbook shows its dives.
+    documents.openDropped(*window, {QStringLiteral(TAVREL_SOURCE_FOLDER "/samples/sample-3.uddf")});
+    EXPECT_TRUE(window->findChild<ImportWindow*>());
+    delete window->findChild<ImportWindow*>();
 
     const auto* table = window->findChild<QTableView*>();
     const auto shownDepth = [&] {

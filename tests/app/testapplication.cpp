@@ -16,12 +16,16 @@ DocumentTypes testDocumentTypes() {
     };
     const auto produce = [](Carnet& carnet) -> Expected<QByteArray> { return QByteArray::number(carnet.count()); };
     const ExportType counted{QStringLiteral("Counted"), produce};
-    const auto exports = [](Document&) {
-        return QList<ExportFormat>{{QStringLiteral("Counted"), QStringLiteral("txt")}};
+    const auto showExport = [](DocumentWindow& window, const FileTaken& isTaken) {
+        static_cast<TestWindow&>(window).isTaken = isTaken;
+    };
+    const auto takesIn = [](const QString& file) { return file.endsWith(QStringLiteral(".log")); };
+    const auto takeIn = [](DocumentWindow& window, const QString& file) {
+        static_cast<TestWindow&>(window).takenIn.append(file);
     };
     return {{carnetDescription().kind, Title("Main", "Carnet de plongee"), "newCarnetDocumentMenuAction",
              [=](Desktop& desktop) { return std::make_unique<Carnet>(desktop, std::vector{counted}); }, makeWindow,
-             exports},
+             showExport, takesIn, takeIn},
             {{literal("Budget"), "Coin", "budget"},
              Title("Main", "Materiel"),
              "newBudgetDocumentMenuAction",

@@ -55,6 +55,8 @@ public:
     QList<Settling> asked;
     QList<Entries> settled;
     std::optional<Entries> entries = Entries::none;  ///< the answer about what is being entered
+    FileTaken isTaken;                               ///< given when the export is shown
+    QStringList takenIn;
 };
 
 /// A second kind of document, with records of its own.

@@ -7,7 +7,6 @@
 #include "support/testdesktop.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <gtest/gtest.h>
 
 namespace tavrel {
@@ -259,8 +258,6 @@ TEST_F(Imports, surviveHostileFilesAndReadNoOther) {
     const QDir folder(QStringLiteral(TAVREL_TEST_DATA "/hostile"));
     const QStringList files = folder.entryList({QStringLiteral("import-*.xml")});
     EXPECT_GE(files.size(), 13);
-    QElapsedTimer timer;
-    timer.start();
     for (const QString& file : files) {
         for (const auto read : {readUDCF, readUDDF, readFromiPhoneFile}) {
             const auto result = read(carnet, folder.filePath(file), {});
@@ -269,7 +266,6 @@ TEST_F(Imports, surviveHostileFilesAndReadNoOther) {
             }
         }
     }
-    EXPECT_LT(timer.elapsed(), 10'000);
     for (const auto& taken : allAs<Plongee>(carnet.records())) {
         EXPECT_FALSE(taken->lieu.contains(u"root:") || taken->lieu.contains(u"deep")) << taken->lieu.toStdString();
         const double deepest = static_cast<double>(taken->profondeur);

@@ -6,6 +6,7 @@
 #include "book/card.h"
 #include "forms/formentry.h"
 #include "recordbooks/bookcase.h"
+#include "recordbooks/recordbooks.h"
 #include "records/nodate.h"
 #include "support/testdesktop.h"
 
@@ -14,6 +15,7 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <tuple>
 
 namespace tavrel {
 
@@ -259,6 +261,13 @@ TEST_P(RecordBook, offersItsCommandsInTwoToolbars) {
     }
 }
 
+TEST_P(RecordBook, printsWithinNarrowMargins) {
+    const PrintSettings& print = description.print;
+    EXPECT_EQ(std::tuple(print.top, print.bottom, print.left, print.right, print.scale),
+              std::tuple(24.8, 25.0, 10.0, 10.0, 0.7));
+    EXPECT_FALSE(print.centredHorizontally || print.centredVertically);
+}
+
 TEST_P(RecordBook, addsChangesDeletesAndTakesItBack) {
     book->newRecord();
     book->addRecord();
@@ -299,6 +308,8 @@ TEST_P(RecordBook, namesEverythingInBothLanguages) {
             EXPECT_NE(title.text(), missingText()) << title.key;
         }
         EXPECT_EQ(formatPlaceholders(words.windowTitle.text()), u"@");
+        EXPECT_NE(words.eraseQuestion.text(), missingText());
+        EXPECT_EQ(formatPlaceholders(words.eraseQuestions.text()), u"d");
         for (const auto& placed : controls) {
             const Control& control = placed.control;
             for (const Title& title : {control.label, control.unit, control.tip}) {
@@ -312,6 +323,17 @@ TEST_P(RecordBook, namesEverythingInBothLanguages) {
             EXPECT_NE(group.title.text(), missingText()) << group.title.key;
         }
     }
+}
+
+TEST(RecordBooks, areMadeByActionsOfTheirOwn) {
+    QStringList actions;
+    for (const auto& book : recordBooks) {
+        actions << QString::fromUtf8(book().newAction).remove(QStringLiteral("DocumentMenuAction"));
+    }
+    EXPECT_EQ(
+        actions.join(u' '),
+        u"newMateriel newEpaves newCompresseur newRebreather newConsommables newBudget newEntreprise newStructure "
+        u"newDocument");
 }
 
 INSTANTIATE_TEST_SUITE_P(All, RecordBook, testing::ValuesIn(bookCases),

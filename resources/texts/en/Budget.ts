@@ -17,9 +17,6 @@
 <message><source>Discount price</source><translation>%.2f € per unit</translation></message>
 <message><source>Edit window</source><translation>Service: %@</translation></message>
 <message><source>Entreprise</source><translation>&#13;Company: </translation></message>
-<message><source>Find notes</source><translation>Remarks</translation></message>
-<message><source>Find service</source><translation>Service</translation></message>
-<message><source>Find supplier</source><translation>Company</translation></message>
 <message><source>Good</source><translation>Good</translation></message>
 <message><source>Group cards</source><translation>Cards</translation></message>
 <message><source>Group discount</source><translation>Discount</translation></message>

@@ -11,9 +11,6 @@
 <message><source>Column type</source><translation>Kind</translation></message>
 <message><source>Documents</source><translation>Documents</translation></message>
 <message><source>Edit window</source><translation>Document: %@</translation></message>
-<message><source>Find issuer</source><translation>Issuer</translation></message>
-<message><source>Find notes</source><translation>Remarks</translation></message>
-<message><source>Find title</source><translation>Title</translation></message>
 <message><source>Group copy</source><translation>Copy</translation></message>
 <message><source>Group document</source><translation>Document</translation></message>
 <message><source>Group notes</source><translation>Remarks</translation></message>

@@ -18,10 +18,6 @@
 <message><source>E-mail</source><translation>&#13;E-mail: </translation></message>
 <message><source>Edit window</source><translation>Company: %@</translation></message>
 <message><source>Fax</source><translation>&#13;Fax: </translation></message>
-<message><source>Find activity</source><translation>Activity</translation></message>
-<message><source>Find name</source><translation>Name</translation></message>
-<message><source>Find remarks</source><translation>Remarks</translation></message>
-<message><source>Find town</source><translation>Town</translation></message>
 <message><source>Friday</source><translation>&#13;   Friday: </translation></message>
 <message><source>Group address</source><translation>Address</translation></message>
 <message><source>Group company</source><translation>Company</translation></message>

@@ -60,8 +60,12 @@
 <message><source>Empty record book</source><translation>There are no cards yet. %@ makes a new one.</translation></message>
 <message><source>Equipment types</source><translation>Equipment Types</translation></message>
 <message><source>Erase</source><translation>Clear</translation></message>
-<message><source>Erase card</source><translation>Delete the selected cards?</translation></message>
-<message><source>Erase dive</source><translation>Delete the selected dives?</translation></message>
+<message><source>Erase card</source><translation>Delete the selected card?</translation></message>
+<message><source>Erase cards</source><translation>Delete %d cards?</translation></message>
+<message><source>Erase dive</source><translation>Delete the selected dive?</translation></message>
+<message><source>Erase dives</source><translation>Delete %d dives?</translation></message>
+<message><source>Erase interventions</source><translation>Delete %d interventions?</translation></message>
+<message><source>Erase revisions</source><translation>Delete %d services?</translation></message>
 <message><source>Erase selection</source><translation>Delete the selected entries?</translation></message>
 <message><source>Export document</source><translation>Export</translation></message>
 <message><source>Export onto document</source><translation>An export cannot take the place of the document’s own file.</translation></message>
@@ -77,8 +81,14 @@
 <message><source>File permission denied</source><translation>You do not have permission to do so.</translation></message>
 <message><source>File removed by another</source><translation>Another program has removed or renamed the file.</translation></message>
 <message><source>File system read-only</source><translation>The disk is write-protected.</translation></message>
+<message><source>Filter</source><translation>Filter</translation></message>
+<message><source>Filter hint</source><translation>Filter: words in any field, or field:word</translation></message>
+<message><source>Filter menu</source><translation>Kept filters and fields</translation></message>
+<message><source>Filter name</source><translation>Name of the filter:</translation></message>
+<message><source>Filter one field</source><translation>In One Field</translation></message>
+<message><source>Filter tip</source><translation>Words in any field, accents and case aside; all of them must be found. A field’s name narrows: name:text, number&gt;30, date&gt;=2023-05. Words in quotation marks belong together. Escape shows everything again.</translation></message>
+<message><source>Filtering</source><translation>Filtering…</translation></message>
 <message><source>Find in</source><translation>Find in: %@</translation></message>
-<message><source>Find in all columns</source><translation>Find in all columns</translation></message>
 <message><source>Find where</source><translation>Choose what to search</translation></message>
 <message><source>Flexible space</source><translation>Flexible space</translation></message>
 <message><source>Folder missing</source><translation>The folder does not exist.</translation></message>
@@ -90,8 +100,13 @@
 <message><source>Hint usual maximum</source><translation>usually at most %@</translation></message>
 <message><source>Hint usual minimum</source><translation>usually at least %@</translation></message>
 <message><source>Hint usual range</source><translation>usually %@ to %@</translation></message>
+<message><source>Import into</source><translation>“%@” holds dives from elsewhere. Import them into “%@”?</translation></message>
+<message><source>Import into it</source><translation>Import…</translation></message>
+<message><source>Import into new</source><translation>“%@” holds dives from elsewhere. Import them into a new logbook?</translation></message>
 <message><source>Insert</source><translation>Insert</translation></message>
 <message><source>Interventions</source><translation>%d interventions</translation></message>
+<message><source>Keep filter</source><translation>Keep Filter…</translation></message>
+<message><source>Keep filter title</source><translation>Keep Filter</translation></message>
 <message><source>Loading</source><translation>Loading…</translation></message>
 <message><source>Lock holder</source><translation>%@, process %@ on %@</translation></message>
 <message><source>Logbook</source><translation>Logbook</translation></message>
@@ -108,8 +123,9 @@
 <message><source>Menu delete cards</source><translation>Delete Cards…</translation></message>
 <message><source>Menu edit</source><translation>Edit</translation></message>
 <message><source>Menu edit card</source><translation>Edit Card</translation></message>
-<message><source>Menu export</source><translation>Export…</translation></message>
+<message><source>Menu export</source><translation>Export Dives…</translation></message>
 <message><source>Menu file</source><translation>File</translation></message>
+<message><source>Menu filter</source><translation>Filter</translation></message>
 <message><source>Menu find</source><translation>Find</translation></message>
 <message><source>Menu help</source><translation>Help</translation></message>
 <message><source>Menu import</source><translation>Import</translation></message>
@@ -125,6 +141,7 @@
 <message><source>Menu preferences</source><translation>Preferences…</translation></message>
 <message><source>Menu previous card</source><translation>Previous Card</translation></message>
 <message><source>Menu print</source><translation>&amp;Print…</translation></message>
+<message><source>Menu print preview</source><translation>Print Preview…</translation></message>
 <message><source>Menu quit</source><translation>Quit</translation></message>
 <message><source>Menu renumber</source><translation>Renumber Dives…</translation></message>
 <message><source>Menu revert</source><translation>Revert to Saved</translation></message>
@@ -144,6 +161,7 @@
 <message><source>No such value</source><translation>“%@” cannot be “%@”.</translation></message>
 <message><source>No valid datas</source><translation>The values are not valid.</translation></message>
 <message><source>Not a picture format</source><translation>“%@” does not end in .png, .svg or .pdf.</translation></message>
+<message><source>Nothing matches</source><translation>No card matches the filter.\nEscape in its field shows all of them again.</translation></message>
 <message><source>One card</source><translation>One card</translation></message>
 <message><source>One card found</source><translation>1 card found</translation></message>
 <message><source>One intervention</source><translation>One intervention</translation></message>
@@ -178,6 +196,7 @@ Two programs that save the same document undo each other’s changes.</translati
 <message><source>Preferences not saved</source><translation>The preferences could not be saved to “%@”.</translation></message>
 <message><source>Previous</source><translation>Previous</translation></message>
 <message><source>Print</source><translation>Print</translation></message>
+<message><source>Print preview title</source><translation>Print Preview</translation></message>
 <message><source>Printing</source><translation>Printing…</translation></message>
 <message><source>Printing failed</source><translation>The document could not be printed.</translation></message>
 <message><source>Profile</source><translation>Profile</translation></message>
@@ -186,6 +205,7 @@ Two programs that save the same document undo each other’s changes.</translati
 <message><source>Rebreather</source><translation>Rebreather</translation></message>
 <message><source>Redo</source><translation>Redo</translation></message>
 <message><source>Redo step</source><translation>Redo %@</translation></message>
+<message><source>Remove filter</source><translation>Remove Filter</translation></message>
 <message><source>Reload</source><translation>Reload</translation></message>
 <message><source>Remove from toolbar</source><translation>Remove from the toolbar</translation></message>
 <message><source>Restore</source><translation>Restore</translation></message>
@@ -205,6 +225,7 @@ Overwriting loses what that program wrote, reloading what you entered.</translat
 <message><source>Services</source><translation>Services</translation></message>
 <message><source>Shops</source><translation>Shops</translation></message>
 <message><source>Show data</source><translation>Show Data…</translation></message>
+<message><source>Shown of all</source><translation>%d of %d</translation></message>
 <message><source>Sites</source><translation>Sites</translation></message>
 <message><source>Space</source><translation>Space</translation></message>
 <message><source>Store</source><translation>Store</translation></message>

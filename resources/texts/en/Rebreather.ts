@@ -12,7 +12,6 @@
 <message><source>Breathed fraction legend</source><extracomment>oxygen of air, percent</extracomment><translation>Red: below %@ %%,
 the oxygen of air</translation></message>
 <message><source>Carbon dioxide production</source><translation>CO₂ &amp;production (M)</translation></message>
-<message><source>Card soda time</source><translation>&#13;Absorbent time: </translation></message>
 <message><source>Cell 1</source><translation>&#13;Cell 1: </translation></message>
 <message><source>Cell 2</source><translation>&#13;Cell 2: </translation></message>
 <message><source>Cell 3</source><translation>&#13;Cell 3: </translation></message>
@@ -69,7 +68,7 @@ or above %@ l/min</translation></message>
 <message><source>SCR ideal flow</source><translation>SCR ideal supply flow</translation></message>
 <message><source>Scrubber</source><translation>&#13;- Scrubber</translation></message>
 <message><source>Soda formula</source><translation>t = W × K / M  (minutes)</translation></message>
-<message><source>Soda time</source><extracomment>hours, minutes</extracomment><translation>Absorbent lasts %d h %d min</translation></message>
+<message><source>Soda time</source><translation>Absorbent time: %d h %d min</translation></message>
 <message><source>Sofnolime</source><translation>&#13;- Absorbent replaced</translation></message>
 <message><source>Supply flow</source><translation>&amp;Supply flow (Q)</translation></message>
 <message><source>Table breathed frac</source><extracomment>oxygen consumption, l/min; oxygen breathed, percent</extracomment><translation>%.1f l/min : %.2f %%</translation></message>

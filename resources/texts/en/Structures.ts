@@ -22,10 +22,6 @@
 <message><source>E-mail</source><translation>&#13;E-mail: </translation></message>
 <message><source>Edit window</source><translation>Club: %@</translation></message>
 <message><source>Fax</source><translation>&#13;Fax: </translation></message>
-<message><source>Find affiliation</source><translation>Affiliation</translation></message>
-<message><source>Find name</source><translation>Name</translation></message>
-<message><source>Find remarks</source><translation>Remarks</translation></message>
-<message><source>Find town</source><translation>Town</translation></message>
 <message><source>Friday</source><translation>&#13;   Friday: </translation></message>
 <message><source>Gerant</source><translation>&#13;Manager: </translation></message>
 <message><source>Group address</source><translation>Address</translation></message>

@@ -17,9 +17,6 @@
 <message><source>Discount price</source><translation>%.2f € l’unité</translation></message>
 <message><source>Edit window</source><translation>Prestation : %@</translation></message>
 <message><source>Entreprise</source><translation>&#13;Entreprise : </translation></message>
-<message><source>Find notes</source><translation>Remarques</translation></message>
-<message><source>Find service</source><translation>Prestation</translation></message>
-<message><source>Find supplier</source><translation>Entreprise</translation></message>
 <message><source>Good</source><translation>Bon</translation></message>
 <message><source>Group cards</source><translation>Cartes</translation></message>
 <message><source>Group discount</source><translation>Tarif dégressif</translation></message>

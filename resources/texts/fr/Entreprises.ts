@@ -18,10 +18,6 @@
 <message><source>E-mail</source><translation>&#13;Courriel : </translation></message>
 <message><source>Edit window</source><translation>Entreprise : %@</translation></message>
 <message><source>Fax</source><translation>&#13;Fax : </translation></message>
-<message><source>Find activity</source><translation>Activité</translation></message>
-<message><source>Find name</source><translation>Nom</translation></message>
-<message><source>Find remarks</source><translation>Remarques</translation></message>
-<message><source>Find town</source><translation>Ville</translation></message>
 <message><source>Friday</source><translation>&#13;   Vendredi : </translation></message>
 <message><source>Group address</source><translation>Adresse</translation></message>
 <message><source>Group company</source><translation>Entreprise</translation></message>

@@ -60,8 +60,12 @@
 <message><source>Empty record book</source><translation>Il n’y a pas encore de fiche. %@ en crée une.</translation></message>
 <message><source>Equipment types</source><translation>Types de matériel</translation></message>
 <message><source>Erase</source><translation>Effacer</translation></message>
-<message><source>Erase card</source><translation>Supprimer les fiches sélectionnées ?</translation></message>
-<message><source>Erase dive</source><translation>Supprimer les plongées sélectionnées ?</translation></message>
+<message><source>Erase card</source><translation>Supprimer la fiche sélectionnée ?</translation></message>
+<message><source>Erase cards</source><translation>Supprimer %d fiches ?</translation></message>
+<message><source>Erase dive</source><translation>Supprimer la plongée sélectionnée ?</translation></message>
+<message><source>Erase dives</source><translation>Supprimer %d plongées ?</translation></message>
+<message><source>Erase interventions</source><translation>Supprimer %d interventions ?</translation></message>
+<message><source>Erase revisions</source><translation>Supprimer %d révisions ?</translation></message>
 <message><source>Erase selection</source><translation>Supprimer les éléments sélectionnés ?</translation></message>
 <message><source>Export document</source><translation>Exporter</translation></message>
 <message><source>Export onto document</source><translation>Une exportation ne peut pas remplacer le fichier du document lui-même.</translation></message>
@@ -77,8 +81,14 @@
 <message><source>File permission denied</source><translation>Vous n’en avez pas l’autorisation.</translation></message>
 <message><source>File removed by another</source><translation>Un autre programme a supprimé ou renommé le fichier.</translation></message>
 <message><source>File system read-only</source><translation>Le disque est protégé en écriture.</translation></message>
+<message><source>Filter</source><translation>Filtre</translation></message>
+<message><source>Filter hint</source><translation>Filtrer : des mots dans tous les champs, ou champ:mot</translation></message>
+<message><source>Filter menu</source><translation>Filtres conservés et champs</translation></message>
+<message><source>Filter name</source><translation>Nom du filtre :</translation></message>
+<message><source>Filter one field</source><translation>Dans un champ</translation></message>
+<message><source>Filter tip</source><translation>Des mots dans tous les champs, sans égard aux accents ni à la casse ; tous doivent être trouvés. Le nom d’un champ restreint : nom:texte, nombre&gt;30, date&gt;=2023-05. Les mots entre guillemets vont ensemble. Échap montre de nouveau tout.</translation></message>
+<message><source>Filtering</source><translation>Filtrage…</translation></message>
 <message><source>Find in</source><translation>Chercher dans : %@</translation></message>
-<message><source>Find in all columns</source><translation>Chercher dans toutes les colonnes</translation></message>
 <message><source>Find where</source><translation>Choisir où chercher</translation></message>
 <message><source>Flexible space</source><translation>Espace variable</translation></message>
 <message><source>Folder missing</source><translation>Le dossier n’existe pas.</translation></message>
@@ -90,8 +100,13 @@
 <message><source>Hint usual maximum</source><translation>d’ordinaire %@ au plus</translation></message>
 <message><source>Hint usual minimum</source><translation>d’ordinaire %@ au moins</translation></message>
 <message><source>Hint usual range</source><translation>d’ordinaire de %@ à %@</translation></message>
+<message><source>Import into</source><translation>« %@ » contient des plongées venues d’ailleurs. Les importer dans « %@ » ?</translation></message>
+<message><source>Import into it</source><translation>Importer…</translation></message>
+<message><source>Import into new</source><translation>« %@ » contient des plongées venues d’ailleurs. Les importer dans un nouveau carnet ?</translation></message>
 <message><source>Insert</source><translation>Insérer</translation></message>
 <message><source>Interventions</source><translation>%d interventions</translation></message>
+<message><source>Keep filter</source><translation>Conserver le filtre…</translation></message>
+<message><source>Keep filter title</source><translation>Conserver le filtre</translation></message>
 <message><source>Loading</source><translation>Chargement…</translation></message>
 <message><source>Lock holder</source><translation>%@, processus %@ sur %@</translation></message>
 <message><source>Logbook</source><translation>Carnet</translation></message>
@@ -108,8 +123,9 @@
 <message><source>Menu delete cards</source><translation>Supprimer les fiches…</translation></message>
 <message><source>Menu edit</source><translation>Édition</translation></message>
 <message><source>Menu edit card</source><translation>Modifier la fiche</translation></message>
-<message><source>Menu export</source><translation>Exporter…</translation></message>
+<message><source>Menu export</source><translation>Exporter des plongées…</translation></message>
 <message><source>Menu file</source><translation>Fichier</translation></message>
+<message><source>Menu filter</source><translation>Filtrer</translation></message>
 <message><source>Menu find</source><translation>Rechercher</translation></message>
 <message><source>Menu help</source><translation>Aide</translation></message>
 <message><source>Menu import</source><translation>Importer</translation></message>
@@ -125,6 +141,7 @@
 <message><source>Menu preferences</source><translation>Préférences…</translation></message>
 <message><source>Menu previous card</source><translation>Fiche précédente</translation></message>
 <message><source>Menu print</source><translation>&amp;Imprimer…</translation></message>
+<message><source>Menu print preview</source><translation>Aperçu avant impression…</translation></message>
 <message><source>Menu quit</source><translation>Quitter</translation></message>
 <message><source>Menu renumber</source><translation>Renuméroter les plongées…</translation></message>
 <message><source>Menu revert</source><translation>Revenir à la version enregistrée</translation></message>
@@ -144,6 +161,7 @@
 <message><source>No such value</source><translation>« %@ » ne peut pas valoir « %@ ».</translation></message>
 <message><source>No valid datas</source><translation>Les valeurs ne sont pas valables.</translation></message>
 <message><source>Not a picture format</source><translation>« %@ » ne se termine pas par .png, .svg ou .pdf.</translation></message>
+<message><source>Nothing matches</source><translation>Aucune fiche ne correspond au filtre.\nÉchap dans son champ les montre de nouveau toutes.</translation></message>
 <message><source>One card</source><translation>Une fiche</translation></message>
 <message><source>One card found</source><translation>1 fiche trouvée</translation></message>
 <message><source>One intervention</source><translation>Une intervention</translation></message>
@@ -178,6 +196,7 @@ Deux programmes qui enregistrent le même document défont chacun les modificati
 <message><source>Preferences not saved</source><translation>Impossible d’enregistrer les préférences dans « %@ ».</translation></message>
 <message><source>Previous</source><translation>Précédente</translation></message>
 <message><source>Print</source><translation>Imprimer</translation></message>
+<message><source>Print preview title</source><translation>Aperçu avant impression</translation></message>
 <message><source>Printing</source><translation>Impression…</translation></message>
 <message><source>Printing failed</source><translation>Le document n’a pas pu être imprimé.</translation></message>
 <message><source>Profile</source><translation>Profil</translation></message>
@@ -186,6 +205,7 @@ Deux programmes qui enregistrent le même document défont chacun les modificati
 <message><source>Rebreather</source><translation>Recycleur</translation></message>
 <message><source>Redo</source><translation>Rétablir</translation></message>
 <message><source>Redo step</source><translation>Rétablir : %@</translation></message>
+<message><source>Remove filter</source><translation>Supprimer le filtre</translation></message>
 <message><source>Reload</source><translation>Recharger</translation></message>
 <message><source>Remove from toolbar</source><translation>Retirer de la barre d’outils</translation></message>
 <message><source>Restore</source><translation>Restaurer</translation></message>
@@ -205,6 +225,7 @@ Remplacer perd ce que ce programme a écrit, recharger ce que vous avez saisi.</
 <message><source>Services</source><translation>Prestations</translation></message>
 <message><source>Shops</source><translation>Magasins</translation></message>
 <message><source>Show data</source><translation>Afficher les données…</translation></message>
+<message><source>Shown of all</source><translation>%d sur %d</translation></message>
 <message><source>Sites</source><translation>Sites</translation></message>
 <message><source>Space</source><translation>Espace</translation></message>
 <message><source>Store</source><translation>Enregistrer</translation></message>

@@ -12,7 +12,6 @@
 <message><source>Breathed fraction legend</source><extracomment>oxygen of air, percent</extracomment><translation>Rouge : moins de %@ %%,
 l’oxygène de l’air</translation></message>
 <message><source>Carbon dioxide production</source><translation>&amp;Production de CO₂ (M)</translation></message>
-<message><source>Card soda time</source><translation>&#13;Durée de la chaux : </translation></message>
 <message><source>Cell 1</source><translation>&#13;Cellule 1 : </translation></message>
 <message><source>Cell 2</source><translation>&#13;Cellule 2 : </translation></message>
 <message><source>Cell 3</source><translation>&#13;Cellule 3 : </translation></message>
@@ -69,7 +68,7 @@ ou plus de %@ l/min</translation></message>
 <message><source>SCR ideal flow</source><translation>Débit d’alimentation idéal en SCR</translation></message>
 <message><source>Scrubber</source><translation>&#13;- Cartouche épuratrice</translation></message>
 <message><source>Soda formula</source><translation>t = W × K / M  (minutes)</translation></message>
-<message><source>Soda time</source><extracomment>hours, minutes</extracomment><translation>Autonomie de la chaux : %d h %d min</translation></message>
+<message><source>Soda time</source><translation>Durée de la chaux : %d h %d min</translation></message>
 <message><source>Sofnolime</source><translation>&#13;- Chaux remplacée</translation></message>
 <message><source>Supply flow</source><translation>&amp;Débit d’alimentation (Q)</translation></message>
 <message><source>Table breathed frac</source><extracomment>oxygen consumption, l/min; oxygen breathed, percent</extracomment><translation>%.1f l/min : %.2f %%</translation></message>

@@ -22,10 +22,6 @@
 <message><source>E-mail</source><translation>&#13;Courriel : </translation></message>
 <message><source>Edit window</source><translation>Structure : %@</translation></message>
 <message><source>Fax</source><translation>&#13;Fax : </translation></message>
-<message><source>Find affiliation</source><translation>Affiliation</translation></message>
-<message><source>Find name</source><translation>Nom</translation></message>
-<message><source>Find remarks</source><translation>Remarques</translation></message>
-<message><source>Find town</source><translation>Ville</translation></message>
 <message><source>Friday</source><translation>&#13;   Vendredi : </translation></message>
 <message><source>Gerant</source><translation>&#13;Gérant : </translation></message>
 <message><source>Group address</source><translation>Adresse</translation></message>

@@ -39,7 +39,12 @@ void BookActions::addBookCommands() {
     addTool(
         QLatin1StringView(commands.deleteRecord), [this] { book_.deleteRecords(); }, words.deleteRecords,
         QKeySequence::Delete);
-    addTool(QLatin1StringView(commands.blank), [this] { book_.blankFields(); });
+    addTool(QLatin1StringView(commands.blank), [this] {
+        // What was typed for a new record goes, that is what the command is for; a stored one is asked about.
+        if (!book_.formShowsSelectedRecord() || book_.leaveForm(Leaving::elsewhere)) {
+            book_.blankFields();
+        }
+    });
     add(QStringLiteral("editWindow"), words.editRecord.text(), "texte", Qt::CTRL | Qt::Key_E, withSelection,
         [this] { book_.editWindow(); });
     add(QStringLiteral("previousRecord"), words.previousRecord.text(), "precedent", Qt::CTRL | Qt::Key_PageUp, backward,

@@ -14,13 +14,7 @@ BookSearchField::BookSearchField(BookBase& book, QWidget* parent) : QLineEdit(pa
     setClearButtonEnabled(true);
     setFixedWidth(fontMetrics().averageCharWidth() * 34);
     connect(this, &QLineEdit::returnPressed, this, &BookSearchField::search);
-    if (book.description().searches.empty()) {
-        addAction(iconNamed(QStringLiteral("chercher")), LeadingPosition);
-        setPlaceholderText(tavrel::text("Main", "Find in all columns"));
-        setAccessibleName(placeholderText());
-    } else {
-        buildMenu();
-    }
+    buildMenu();
 }
 
 QString BookSearchField::chosenState() const {
@@ -69,11 +63,7 @@ void BookSearchField::search() {
     if (!book_.leaveForm(Leaving::elsewhere)) {
         return;
     }
-    if (menu_) {
-        book_.find(QLatin1StringView(book_.description().searches[static_cast<std::size_t>(chosen_)].field), text());
-    } else {
-        book_.findInColumns(text());
-    }
+    book_.find(QLatin1StringView(book_.description().searches[static_cast<std::size_t>(chosen_)].field), text());
 }
 
 }  // namespace tavrel

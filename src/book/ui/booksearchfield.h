@@ -8,15 +8,15 @@ class QMenu;
 
 namespace tavrel {
 
-/// The search field of a book: Return selects the records that hold the text, in the field chosen in its menu where the
-/// description names searches, else in any column. The choice is remembered.
+/// The search field of a book whose description names searches: Return selects the records that hold the text in the
+/// field chosen in its menu. The choice is remembered.
 class BookSearchField : public QLineEdit {
     Q_OBJECT
 
 public:
     explicit BookSearchField(BookBase& book, QWidget* parent = nullptr);
 
-    /// The searches by their place in the description; null where there is one for all columns.
+    /// The searches by their place in the description.
     QMenu* menu() const { return menu_; }
 
 Q_SIGNALS:

@@ -1,6 +1,9 @@
 #include "book/ui/booktablemodel.h"
 
+#include "book/bookfilter.h"
 #include "desktop/ui/icons.h"
+
+#include <algorithm>
 
 namespace tavrel {
 
@@ -9,10 +12,24 @@ BookTableModel::BookTableModel(BookBase& book, QObject* parent)
     bold_.setBold(true);
     connect(&book, &ListDocument::listChanged, this, &BookTableModel::follow);
     connect(&book, &BookBase::tableReloadRequested, this, &BookTableModel::reload);
+    connect(&book.filter(), &BookFilter::changed, this, &BookTableModel::reload);
+}
+
+int BookTableModel::recordOf(int row) const {
+    return book_.filter().isActive() ? book_.filter().shownRows()[static_cast<std::size_t>(row)] : row;
+}
+
+int BookTableModel::rowOf(int record) const {
+    if (!book_.filter().isActive()) {
+        return record;
+    }
+    const std::vector<int>& shown = book_.filter().shownRows();
+    const auto found = std::lower_bound(shown.begin(), shown.end(), record);
+    return found != shown.end() && *found == record ? static_cast<int>(found - shown.begin()) : -1;
 }
 
 int BookTableModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : table_.rowCount();
+    return parent.isValid() ? 0 : book_.filter().shownCount();
 }
 
 int BookTableModel::columnCount(const QModelIndex& parent) const {
@@ -21,6 +38,9 @@ int BookTableModel::columnCount(const QModelIndex& parent) const {
 
 void BookTableModel::follow(const ListChange& change) {
     row_ = -1;
+    if (book_.filter().isActive()) {
+        return;  // the filter says itself what has become of its rows
+    }
     if (change.removed != change.inserted) {
         reload();
     } else if (change.inserted > 0) {
@@ -37,7 +57,7 @@ void BookTableModel::reload() {
 
 const Cell& BookTableModel::cellAt(const QModelIndex& index) const {
     if (index.row() != row_ || index.column() != column_) {
-        cell_ = table_.cell(index.row(), index.column());
+        cell_ = table_.cell(recordOf(index.row()), index.column());
         row_ = index.row();
         column_ = index.column();
     }

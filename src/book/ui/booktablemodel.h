@@ -1,21 +1,25 @@
 #pragma once
 
 #include "book/booktable.h"
+#include "documents/ui/shownrecords.h"
 
 #include <QAbstractTableModel>
 #include <QFont>
 
 namespace tavrel {
 
-/// The records of a book as rows, every column of its description as a column. A cell is worked out once while a view
-/// asks for its text, colours and font one after the other; nothing is kept per row.
-class BookTableModel : public QAbstractTableModel {
+/// The records of a book that its filter shows as rows, every column of its description as a column. A cell is worked
+/// out once while a view asks for its text, colours and font one after the other; nothing is kept per row.
+class BookTableModel : public QAbstractTableModel, public ShownRecords {
     Q_OBJECT
 
 public:
     explicit BookTableModel(BookBase& book, QObject* parent = nullptr);
 
     const BookTable& table() const { return table_; }
+
+    int recordOf(int row) const override;
+    int rowOf(int record) const override;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;

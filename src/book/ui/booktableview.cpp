@@ -1,5 +1,6 @@
 #include "book/ui/booktableview.h"
 
+#include "book/bookfilter.h"
 #include "desktop/preferences.h"
 
 #include <QDragEnterEvent>
@@ -9,6 +10,7 @@
 #include <QHideEvent>
 #include <QMenu>
 #include <QMimeData>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -17,17 +19,22 @@ namespace tavrel {
 BookTableView::BookTableView(BookBase& book, QWidget* parent) : BookTableView(book, new BookTableModel(book), parent) {}
 
 BookTableView::BookTableView(BookBase& book, BookTableModel* tableModel, QWidget* parent)
-    : RecordTable(tableModel, book, parent), book_(book), model_(tableModel) {
+    : RecordTable(tableModel, book, *tableModel, parent), book_(book), model_(tableModel) {
     model_->setParent(this);
     setAccessibleName(book.description().words.tableName.text());
     fitColumns();
     if (const QByteArray state = book.desktop().preferences.windowState(columnsState()); !state.isEmpty()) {
         horizontalHeader()->restoreState(state);
     }
+    // A day or a number at the far right of the window would stand away from its row.
+    horizontalHeader()->setStretchLastSection(column(model_->columnCount() - 1).alignment == Qt::AlignLeft);
     horizontalHeader()->setSortIndicatorShown(false);
     buildColumnsMenu();
     displayColumnsInTableView();
 
+    setMarks([this](const QModelIndex& cell, const QString& shown) {
+        return book_.filter().marksIn(column(cell.column()), shown);
+    });
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &BookTableView::sortBy);
     connect(&book, &BookBase::columnsRebuildRequested, this, [this] {
         displayColumnsInTableView();
@@ -46,8 +53,11 @@ QString BookTableView::columnsState() const {
 void BookTableView::fitColumns() {
     const auto* header = horizontalHeader();
     const int character = fontMetrics().horizontalAdvance(u'0');
+    // Words and the arrow of the sorted column stand beside each other.
+    const int margin = header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header);
+    const int arrow = header->sizeHint().height() / 2 + 2 * margin;
     for (int place = 0; place < model_->columnCount(); ++place) {
-        setColumnWidth(place, std::max(character * column(place).width, header->sectionSizeHint(place)));
+        setColumnWidth(place, std::max(character * column(place).width, header->sectionSizeHint(place) + arrow));
     }
 }
 

@@ -2,9 +2,11 @@
 
 #include "base/texts.h"
 #include "book/ui/bookeditwindow.h"
+#include "book/ui/bookfilterbar.h"
 #include "book/ui/booksearchfield.h"
 #include "book/ui/booktableview.h"
 #include "book/ui/cardwindow.h"
+#include "book/ui/repertorywindow.h"
 #include "desktop/alerts.h"
 #include "desktop/preferences.h"
 #include "desktop/ui/customtoolbar.h"
@@ -17,28 +19,27 @@
 #include <QMenu>
 #include <QPrinter>
 #include <QStatusBar>
-
-#include <algorithm>
+#include <QVBoxLayout>
 
 namespace tavrel {
-
-namespace {
-
-constexpr const char* searchTool = "rechercher";
-
-}  // namespace
 
 BookWindow::BookWindow(BookBase& book, Desktop& desktop)
     : DocumentWindow(book, desktop),
       book_(book),
       actions_(new BookActions(book, this)),
       table_(new BookTableView(book)),
-      search_(new BookSearchField(book)),
+      filter_(new BookFilterBar(book)),
       toolBar_(new CustomToolBar(book.description().tableToolBar, desktop.preferences, this)),
       count_(new QLabel),
       found_(new QLabel) {
     setObjectName(QStringLiteral("bookWindow"));
-    setCentralWidget(table_);
+    auto* contents = new QWidget;
+    auto* layout = new QVBoxLayout(contents);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(filter_);
+    layout->addWidget(table_, 1);
+    setCentralWidget(contents);
     table_->setFrameShape(QFrame::NoFrame);
     statusBar()->addWidget(count_);
     statusBar()->addPermanentWidget(found_);
@@ -55,7 +56,7 @@ BookWindow::BookWindow(BookBase& book, Desktop& desktop)
     table_->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(table_, &QWidget::customContextMenuRequested, this, &BookWindow::showRowMenu);
     connect(table_, &RecordTable::opened, this, &BookWindow::open);
-    connect(search_, &BookSearchField::aboutToSearch, this, &BookWindow::finishEntry);
+    connect(filter_, &BookFilterBar::left, this, [this] { table_->setFocus(); });
     connect(&book, &BookBase::stateChanged, this, &BookWindow::updateState);
     connect(&book, &BookBase::editWindowRequested, this, &BookWindow::showEditWindow);
     updateState();
@@ -82,38 +83,34 @@ void BookWindow::addCommands() {
     actions_->addTool(QStringLiteral("saveDocument"), [this] { Q_EMIT saveRequested(); });
     actions_->addTool(QLatin1StringView(description.commands.print), [this] { printDocument(); },
                       {"Main", "Menu print"});
-    if (description.card) {
-        actions_->addTool(QLatin1StringView(description.commands.card), [this] { showCard(); });
-    }
+    actions_->addTool(QLatin1StringView(description.commands.card),
+                      [this] { book_.description().card ? showCard() : repertoryWindow().bringToFront(); });
     actions_->add(QStringLiteral("copy"), text("Main", "Menu copy"), "", QKeySequence::Copy, BookActions::withSelection,
                   [this] { copySelection(); });
     actions_->add(QStringLiteral("selectAll"), text("Main", "Menu select all"), "", QKeySequence::SelectAll,
                   BookActions::withRecords, [this] { table_->selectAll(); });
-    actions_->add(QStringLiteral("find"), text("Main", "Menu find"), "chercher", QKeySequence::Find,
-                  BookActions::always, [this] {
-                      search_->setFocus(Qt::ShortcutFocusReason);
-                      search_->selectAll();
-                  });
+    actions_->add(QStringLiteral("printPreview"), text("Main", "Menu print preview"), "", {}, BookActions::withRecords,
+                  [this] { previewDocument(); });
+    actions_->add(QStringLiteral("filter"), text("Main", "Menu filter"), "chercher", QKeySequence::Find,
+                  BookActions::always, [this] { filter_->edit(); });
+    if (!description.searches.empty()) {
+        actions_->add(QStringLiteral("find"), text("Main", "Menu find"), "chercher", Qt::CTRL | Qt::SHIFT | Qt::Key_F,
+                      BookActions::always, [this] {
+                          search_->setFocus(Qt::ShortcutFocusReason);
+                          search_->selectAll();
+                      });
+    }
 }
 
 void BookWindow::buildToolBar() {
     addToolBar(toolBar_);
     setContextMenuPolicy(Qt::NoContextMenu);
-    const auto items = book_.description().tableToolBar.items;
-    const bool offersSearch = std::any_of(items.begin(), items.end(), [](const ToolItem& each) {
-        return QLatin1StringView(each.identifier) == QLatin1StringView(searchTool);
-    });
-    if (offersSearch) {
-        toolBar_->setWidget(QLatin1StringView(searchTool), search_);
-    } else {
-        auto* searchBar = addToolBar(search_->placeholderText());
-        searchBar->setObjectName(QStringLiteral("searchBar"));
-        searchBar->setMovable(false);
-        searchBar->addWidget(search_);
+    if (!book_.description().searches.empty()) {
+        search_ = new BookSearchField(book_);
+        toolBar_->setWidget(search_->objectName(), search_);
+        connect(search_, &BookSearchField::aboutToSearch, this, &BookWindow::finishEntry);
     }
     actions_->fill(*toolBar_);
-    const QString keys = command(book_.description().commands.newRecord)->shortcut().toString(QKeySequence::NativeText);
-    table_->setPlaceholder(textWith(book_.description().words.emptyTable, keys));
 }
 
 void BookWindow::provideCommand(const QString& identifier, std::function<void()> run) {
@@ -150,6 +147,13 @@ void BookWindow::showCard() {
     cardWindow().bringToFront();
 }
 
+RepertoryWindow& BookWindow::repertoryWindow() {
+    if (!repertoryWindow_) {
+        repertoryWindow_ = std::make_unique<RepertoryWindow>(book_);
+    }
+    return *repertoryWindow_;
+}
+
 void BookWindow::finishEntry() {
     if (editWindow_) {
         editWindow_->finishEditing();
@@ -175,17 +179,40 @@ void BookWindow::open() {
 }
 
 void BookWindow::printDocument() {
-    finishEntry();
-    if (!book_.userSelects({})) {
-        return;
-    }
+    const PrintSettings settings = landscapeSettings();
+    printDeselected([this, &settings] {
+        QPrinter printer;
+        if (runPrintDialog(this, settings, printer) && !printTable(printer, *table_, settings, book_.displayName()) &&
+            printer.printerState() == QPrinter::Error) {
+            desktop_.alerts.fail({text("Main", "Printing failed"), printer.outputFileName()});
+        }
+    });
+}
+
+void BookWindow::previewDocument() {
+    const PrintSettings settings = landscapeSettings();
+    printDeselected([this, &settings] {
+        runPrintPreview(this, settings, [this, &settings](QPrinter& printer) {
+            printTable(printer, *table_, settings, book_.displayName());
+        });
+    });
+}
+
+PrintSettings BookWindow::landscapeSettings() const {
     PrintSettings settings = book_.description().print;
     settings.landscape = true;
-    QPrinter printer;
-    if (runPrintDialog(this, settings, printer) && !printTable(printer, *table_, settings, book_.displayName()) &&
-        printer.printerState() == QPrinter::Error) {
-        desktop_.alerts.fail({text("Main", "Printing failed"), printer.outputFileName()});
+    return settings;
+}
+
+void BookWindow::printDeselected(const std::function<void()>& print) {
+    finishEntry();
+    if (!book_.leaveForm(Leaving::elsewhere)) {
+        return;
     }
+    const QList<int> selected = book_.selectedRows();
+    book_.deselectAll();
+    print();
+    book_.selectRows(selected);
 }
 
 void BookWindow::copySelection() {
@@ -207,6 +234,9 @@ void BookWindow::showRowMenu(const QPoint& place) {
 }
 
 void BookWindow::updateState() {
+    const QString keys = command(book_.description().commands.newRecord)->shortcut().toString(QKeySequence::NativeText);
+    table_->setPlaceholder(book_.count() > 0 ? text("Main", "Nothing matches")
+                                             : textWith(book_.description().words.emptyTable, keys));
     count_->setText(book_.countText());
     found_->setText(book_.foundText());
 }
@@ -242,7 +272,7 @@ QList<QAction*> BookWindow::ownMenuActions() {
 }
 
 QList<QAction*> BookWindow::viewActions() {
-    QList<QAction*> actions{toolBar_->action(QLatin1StringView(toolCustomise))};
+    QList<QAction*> actions{toolBar_->action(QLatin1StringView(toolCustomise)), command("printPreview")};
     if (table_->columnsMenu()) {
         actions.prepend(table_->columnsMenu()->menuAction());
     }
@@ -250,7 +280,11 @@ QList<QAction*> BookWindow::viewActions() {
 }
 
 QList<QAction*> BookWindow::editActions() {
-    return {command("copy"), command("selectAll"), nullptr, command("find")};
+    QList<QAction*> actions{command("copy"), command("selectAll"), nullptr, command("filter")};
+    if (search_) {
+        actions.append(command("find"));
+    }
+    return actions;
 }
 
 QAction* BookWindow::commandAction(const QString& name) {
@@ -266,6 +300,9 @@ QList<QWidget*> BookWindow::furtherWindows() {
     }
     if (cardWindow_) {
         windows.append(cardWindow_.get());
+    }
+    if (repertoryWindow_) {
+        windows.append(repertoryWindow_.get());
     }
     return windows;
 }

@@ -11,12 +11,15 @@ class QLabel;
 namespace tavrel {
 
 class BookEditWindow;
+class BookFilterBar;
 class BookSearchField;
 class BookTableView;
 class CardWindow;
 class CustomToolBar;
+class RepertoryWindow;
 
-/// The window of a book: the table of its records, the search, and every command on them, all as its description says.
+/// The window of a book: the table of its records under their filter, the searches, and every command on them, all as
+/// its description says.
 /// The edit window and the card are made when they are asked for first.
 class BookWindow : public DocumentWindow {
     Q_OBJECT
@@ -31,20 +34,26 @@ public:
 
     BookActions& actions() { return *actions_; }
     BookTableView& table() { return *table_; }
-    BookSearchField& searchField() { return *search_; }
+    BookFilterBar& filterBar() { return *filter_; }
+    /// Null where the description names no searches.
+    BookSearchField* searchField() { return search_; }
     CustomToolBar& toolBar() { return *toolBar_; }
     BookEditWindow& editWindow();
     /// Shows the card of all records.
     virtual void showCard();
     CardWindow& cardWindow();
+    /// The pictures of the records, in a book that has no card.
+    RepertoryWindow& repertoryWindow();
 
     QString ownMenuTitle() const override;
     QList<QAction*> ownMenuActions() override;
     QList<QAction*> viewActions() override;
     QList<QAction*> editActions() override;
     QAction* commandAction(const QString& name) override;
-    /// Deselects all records and prints the table, landscape.
+    /// Prints the table, landscape, with nothing selected; the selection comes back afterwards.
     void printDocument() override;
+    /// Shows the pages of that before they are printed.
+    void previewDocument();
     QList<QWidget*> furtherWindows() override;
     std::optional<Entries> askAboutEntries(Settling next) override;
     void settleEntries(Entries entries) override;
@@ -61,6 +70,8 @@ private:
     void showRowMenu(const QPoint& place);
     void open();
     void copySelection();
+    PrintSettings landscapeSettings() const;
+    void printDeselected(const std::function<void()>& print);
     void updateState();
     QAction* command(const char* name) const { return actions_->action(QLatin1StringView(name)); }
     QString layoutName() const { return QLatin1StringView(book_.description().layoutName); }
@@ -68,12 +79,14 @@ private:
     BookBase& book_;
     BookActions* actions_;
     BookTableView* table_;
-    BookSearchField* search_;
+    BookFilterBar* filter_;
+    BookSearchField* search_ = nullptr;
     CustomToolBar* toolBar_;
     QLabel* count_;
     QLabel* found_;
     std::unique_ptr<BookEditWindow> editWindow_;
     std::unique_ptr<CardWindow> cardWindow_;
+    std::unique_ptr<RepertoryWindow> repertoryWindow_;
 };
 
 }  // namespace tavrel

@@ -4,16 +4,21 @@
 #include "desktop/ui/progresswindow.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QDate>
 #include <QFontInfo>
 #include <QHeaderView>
+#include <QLocale>
 #include <QPageSetupDialog>
 #include <QPainter>
 #include <QPrintDialog>
+#include <QPrintPreviewDialog>
 #include <QTableView>
 #include <QTextDocument>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
+#include <numeric>
 #include <optional>
 #include <vector>
 
@@ -79,6 +84,15 @@ QFont inPixels(QFont font) {
     return font;
 }
 
+/// The sheet of a table: smaller than the scale says where all columns then stand beside each other.
+Sheet sheetFor(const QTableView& table, const QPrinter& printer, double scale) {
+    constexpr double mostShrunk = 0.6;
+    const Sheet sheet(printer, table, scale);
+    // One pixel more, so that rounding leaves no column over.
+    const double fitting = sheet.size.width() / (table.horizontalHeader()->length() + 1);
+    return fitting >= 1 || fitting < mostShrunk ? sheet : Sheet(printer, table, scale * fitting);
+}
+
 /// A run of columns or rows that stands on one page: the first, and how many.
 struct Run {
     int first = 0;
@@ -99,7 +113,7 @@ std::vector<Run> fittingRuns(const std::vector<int>& lengths, double available) 
     return runs;
 }
 
-/// The room below the contents of a page for its title and number, in the units of the sheet.
+/// The room below the contents of a page for its title, day and number, in the units of the sheet.
 int footHeight(const QFont& font) {
     return QFontMetrics(font).height() * 3 / 2;
 }
@@ -107,12 +121,14 @@ int footHeight(const QFont& font) {
 void paintFoot(QPainter& painter, const QSizeF& sheet, const QFont& font, const QString& title, int page, int pages) {
     const int height = footHeight(font);
     const QRectF foot(0, sheet.height() - height, sheet.width(), height);
+    const QString day = QLocale().toString(QDate::currentDate(), QLocale::ShortFormat);
     const QString number = textWith("Main", "Page number", page + 1, pages);
+    const QString right = QStringLiteral("%1  ·  %2").arg(day, number);
     painter.setFont(font);
     painter.setPen(Qt::black);
-    painter.drawText(foot, Qt::AlignRight | Qt::AlignBottom | Qt::TextSingleLine, number);
+    painter.drawText(foot, Qt::AlignRight | Qt::AlignBottom | Qt::TextSingleLine, right);
     const QFontMetrics metrics(font);
-    const int room = static_cast<int>(sheet.width()) - metrics.horizontalAdvance(number) - 3 * cellMargin;
+    const int room = static_cast<int>(sheet.width()) - metrics.horizontalAdvance(right) - 3 * cellMargin;
     painter.drawText(foot, Qt::AlignLeft | Qt::AlignBottom | Qt::TextSingleLine,
                      metrics.elidedText(title, Qt::ElideMiddle, room));
 }
@@ -122,21 +138,21 @@ public:
     TablePages(const QTableView& table, const Sheet& sheet, const PrintSettings& settings)
         : table_(table), model_(*table.model()), sheet_(sheet), settings_(settings), font_(inPixels(table.font())) {
         const QHeaderView& header = *table.horizontalHeader();
-        std::vector<int> widths;
         for (int place = 0; place < header.count(); ++place) {
             const int column = header.logicalIndex(place);
             if (!header.isSectionHidden(column)) {
                 columns_.push_back(column);
-                widths.push_back(header.sectionSize(column));
+                widths_.push_back(header.sectionSize(column));
             }
         }
+        spread(sheet.size.width());
         std::vector<int> heights;
         heights.reserve(static_cast<std::size_t>(model_.rowCount()));
         for (int row = 0; row < model_.rowCount(); ++row) {
             heights.push_back(table.rowHeight(row));
         }
         headerHeight_ = header.isHidden() ? header.sizeHint().height() : header.height();
-        across_ = fittingRuns(widths, sheet.size.width());
+        across_ = fittingRuns(widths_, sheet.size.width());
         down_ = fittingRuns(heights, sheet.size.height() - headerHeight_);
         if (down_.empty()) {
             down_.push_back({});
@@ -165,12 +181,23 @@ public:
     }
 
 private:
+    /// Widens columns that leave a part of the width free.
+    void spread(double width) {
+        constexpr double mostWidened = 1.5;
+        const int taken = std::accumulate(widths_.begin(), widths_.end(), 0);
+        if (taken > 0 && taken < width) {
+            for (int& each : widths_) {
+                each = static_cast<int>(each * std::min(mostWidened, width / taken));
+            }
+        }
+    }
+
     void paintRow(QPainter& painter, const Run& columns, int y, int height,
                   const std::function<void(int column, const QRect& box)>& paintBox) const {
         int x = 0;
         for (int place = columns.first; place < columns.first + columns.count; ++place) {
             const int column = columns_[static_cast<std::size_t>(place)];
-            const QRect box(x, y, table_.columnWidth(column), height);
+            const QRect box(x, y, widths_[static_cast<std::size_t>(place)], height);
             if (box.height() > 0) {
                 paintBox(column, box);
                 painter.setPen(QPen(Qt::lightGray, 0));
@@ -232,6 +259,7 @@ private:
     PrintSettings settings_;
     QFont font_;
     std::vector<int> columns_;
+    std::vector<int> widths_;  ///< of columns_, as printed
     int headerHeight_ = 0;
     std::vector<Run> across_;
     std::vector<Run> down_;
@@ -253,7 +281,7 @@ void applyPrintSettings(QPrinter& printer, const PrintSettings& settings) {
 
 bool printTable(QPrinter& printer, const QTableView& table, const PrintSettings& settings, const QString& title) {
     printer.setDocName(title);
-    const Sheet sheet(printer, table, settings.scale);
+    const Sheet sheet = sheetFor(table, printer, settings.scale);
     const QFont font = inPixels(table.font());
     Sheet contents = sheet;
     contents.size.rheight() -= footHeight(font);
@@ -293,11 +321,23 @@ bool runPrintDialog(QWidget* parent, const PrintSettings& settings, QPrinter& pr
     return dialog.exec() == QDialog::Accepted;
 }
 
-void runPageLayout(QWidget* parent) {
+void runPrintPreview(QWidget* parent, const PrintSettings& settings, const std::function<void(QPrinter&)>& print) {
+    QPrinter printer;
+    applyPrintSettings(printer, settings);
+    QPrintPreviewDialog dialog(&printer, parent);
+    dialog.setWindowModality(Qt::WindowModal);
+    dialog.setWindowTitle(text("Main", "Print preview title"));
+    dialog.resize(parent->size().expandedTo(QSize(720, 560)));
+    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, parent,
+                     [&print](QPrinter* paper) { print(*paper); });
+    dialog.exec();
+}
+
+void runPageLayout(QWidget* parent, QPageLayout::Orientation described) {
     PageSetup& setup = sessionPageSetup();
     QPrinter printer;
     printer.setPageSize(setup.paper.value_or(printer.pageLayout().pageSize()));
-    printer.setPageOrientation(setup.orientation.value_or(QPageLayout::Portrait));
+    printer.setPageOrientation(setup.orientation.value_or(described));
     printer.setPageMargins(setup.margins.value_or(printer.pageLayout().margins(QPageLayout::Point)),
                            QPageLayout::Point);
     const QPageLayout before = printer.pageLayout();

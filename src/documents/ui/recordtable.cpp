@@ -6,18 +6,24 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <QTextLayout>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <cmath>
 #include <memory>
 #include <utility>
 
 namespace tavrel {
 
 namespace {
+
+/// Behind what was searched for; black can be read on it, in light and dark windows alike.
+const QColor markGround(0xff, 0xd5, 0x4a);
 
 /// The style of the program with some air between the columns, in cells and headers alike.
 class AiryStyle : public QProxyStyle {
@@ -29,10 +35,27 @@ public:
     }
 };
 
+}  // namespace
+
 class CellDelegate : public QStyledItemDelegate {
 public:
     CellDelegate(const RowSelectionModel& selection, QObject* parent)
         : QStyledItemDelegate(parent), selection_(selection) {}
+
+    void setMarks(CellMarks marks) { marks_ = std::move(marks); }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        QStyleOptionViewItem cell = option;
+        initStyleOption(&cell, index);
+        const QList<TextRange> marks = marks_ ? marks_(index, cell.text) : QList<TextRange>();
+        const QString text = std::exchange(cell.text, marks.isEmpty() ? cell.text : QString());
+        const QStyle& style = *cell.widget->style();
+        style.drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
+        if (!marks.isEmpty()) {
+            cell.text = text;
+            paintMarked(*painter, cell, style.subElementRect(QStyle::SE_ItemViewItemText, &cell, cell.widget), marks);
+        }
+    }
 
 protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
@@ -53,18 +76,51 @@ protected:
     }
 
 private:
+    /// The text of a cell with a ground of their own behind its marked parts.
+    static void paintMarked(QPainter& painter, const QStyleOptionViewItem& cell, const QRect& place,
+                            const QList<TextRange>& marks) {
+        const int margin = cell.widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, cell.widget) + 1;
+        const QRect inside = place.adjusted(margin, 0, -margin, 0);
+        const QString shown = cell.fontMetrics.elidedText(cell.text, cell.textElideMode, inside.width());
+        const bool isSelected = cell.state & QStyle::State_Selected;
+        const QColor plain = cell.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text);
+        QList<QTextLayout::FormatRange> formats;
+        for (const TextRange& mark : marks) {
+            QTextCharFormat format;
+            format.setBackground(markGround);
+            format.setForeground(Qt::black);
+            formats.append({static_cast<int>(mark.start),
+                            static_cast<int>(std::min(mark.length, shown.size() - mark.start)), format});
+        }
+        formats.removeIf([](const QTextLayout::FormatRange& each) { return each.length <= 0; });
+        QTextLayout layout(shown, cell.font);
+        QTextOption line(cell.displayAlignment);
+        line.setWrapMode(QTextOption::NoWrap);
+        layout.setTextOption(line);
+        layout.setFormats(formats);
+        layout.beginLayout();
+        QTextLine only = layout.createLine();
+        only.setLineWidth(inside.width());
+        layout.endLayout();
+        painter.save();
+        painter.setPen(plain);
+        layout.draw(&painter, QPointF(inside.left(), inside.top() + std::floor((inside.height() - only.height()) / 2)));
+        painter.restore();
+    }
+
     const RowSelectionModel& selection_;
+    CellMarks marks_;
 };
 
-}  // namespace
-
-RecordTable::RecordTable(QAbstractItemModel* tableModel, ListDocument& document, QWidget* parent)
-    : QTableView(parent), document_(document), placeholder_(new QLabel(viewport())) {
+RecordTable::RecordTable(QAbstractItemModel* tableModel, ListDocument& document, const ShownRecords& shown,
+                         QWidget* parent)
+    : QTableView(parent), document_(document), shown_(shown), placeholder_(new QLabel(viewport())) {
     setModel(tableModel);
     const std::unique_ptr<QItemSelectionModel> unused(selectionModel());
-    selection_ = new RowSelectionModel(tableModel, document, this);
+    selection_ = new RowSelectionModel(tableModel, document, shown, this);
     setSelectionModel(selection_);
-    setItemDelegate(new CellDelegate(*selection_, this));
+    cells_ = new CellDelegate(*selection_, this);
+    setItemDelegate(cells_);
 
     auto* airy = new AiryStyle;
     airy->setParent(this);
@@ -98,7 +154,7 @@ RecordTable::RecordTable(QAbstractItemModel* tableModel, ListDocument& document,
 
     connect(this, &QAbstractItemView::doubleClicked, this, [this](const QModelIndex& index) {
         if (selection_->isRowSelected(index.row())) {
-            Q_EMIT opened(index.row());
+            Q_EMIT opened();
         }
     });
     connect(tableModel, &QAbstractItemModel::modelReset, this, &RecordTable::updatePlaceholder);
@@ -115,11 +171,19 @@ void RecordTable::setPlaceholder(const QString& text) {
     placeholder_->setText(text);
 }
 
+void RecordTable::setMarks(CellMarks marks) {
+    cells_->setMarks(std::move(marks));
+}
+
 void RecordTable::updatePlaceholder() {
     placeholder_->setVisible(model()->rowCount() == 0);
 }
 
-void RecordTable::reveal(int row) {
+void RecordTable::reveal(int record) {
+    const int row = shown_.rowOf(record);
+    if (row < 0) {
+        return;
+    }
     const auto* header = horizontalHeader();
     for (int place = 0; place < header->count(); ++place) {
         const int column = header->logicalIndex(place);
@@ -141,14 +205,17 @@ QString RecordTable::selectionAsText(const Progress& progress) const {
         }
     }
     constexpr qsizetype rowsPerReport = 256;
-    const QList<int> rows = document_.selectedRows();
+    const QList<int> records = document_.selectedRows();
     QString result;
-    for (qsizetype place = 0; place < rows.size(); ++place) {
+    for (qsizetype place = 0; place < records.size(); ++place) {
         if (progress && place % rowsPerReport == 0 &&
-            !progress(static_cast<std::size_t>(place), static_cast<std::size_t>(rows.size()))) {
+            !progress(static_cast<std::size_t>(place), static_cast<std::size_t>(records.size()))) {
             return {};
         }
-        const int row = rows[place];
+        const int row = shown_.rowOf(records[place]);
+        if (row < 0) {
+            continue;
+        }
         for (const int column : columns) {
             QString words = model()->index(row, column).data(Qt::AccessibleTextRole).toString();
             for (const QChar separator : {u'\t', u'\n', u'\r'}) {
@@ -182,7 +249,7 @@ void RecordTable::keyPressEvent(QKeyEvent* event) {
     if (enter && event->modifiers().testFlag(Qt::NoModifier)) {
         // The row that was current last is another's when none is selected.
         if (document_.selectedRow() >= 0) {
-            Q_EMIT opened(document_.selectedRow());
+            Q_EMIT opened();
         }
         return;
     }

@@ -12,18 +12,6 @@ namespace {
 /// Beyond so many ranges of rows, painting and changing a selection would slow down.
 constexpr int mostRanges = 500;
 
-QList<int> rowsOf(const QItemSelection& selection) {
-    QList<int> rows;
-    for (const auto& range : selection) {
-        for (int row = range.top(); row <= range.bottom(); ++row) {
-            rows.append(row);
-        }
-    }
-    std::sort(rows.begin(), rows.end());
-    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-    return rows;
-}
-
 QList<int> combine(const QList<int>& rows, const QList<int>& gesture, QItemSelectionModel::SelectionFlags operation) {
     QList<int> result;
     const auto add = std::back_inserter(result);
@@ -41,8 +29,10 @@ QList<int> combine(const QList<int>& rows, const QList<int>& gesture, QItemSelec
 
 }  // namespace
 
-RowSelectionModel::RowSelectionModel(QAbstractItemModel* model, ListDocument& document, QObject* parent)
-    : QItemSelectionModel(model, parent), document_(document) {
+RowSelectionModel::RowSelectionModel(QAbstractItemModel* model, ListDocument& document, const ShownRecords& shown,
+                                     QObject* parent)
+    : QItemSelectionModel(model, parent), document_(document), shown_(shown) {
+    connect(model, &QAbstractItemModel::modelReset, this, &RowSelectionModel::mirror);
     connect(&document, &ListDocument::listChanged, this, &RowSelectionModel::mirror);
     connect(&document, &ListDocument::selectionChanged, this, &RowSelectionModel::mirror);
     mirror();
@@ -50,7 +40,29 @@ RowSelectionModel::RowSelectionModel(QAbstractItemModel* model, ListDocument& do
 
 bool RowSelectionModel::isRowSelected(int row) const {
     const QList<int>& rows = document_.selectedRows();
-    return std::binary_search(rows.begin(), rows.end(), row);
+    return std::binary_search(rows.begin(), rows.end(), shown_.recordOf(row));
+}
+
+QList<int> RowSelectionModel::recordsOf(const QItemSelection& selection) const {
+    QList<int> records;
+    for (const auto& range : selection) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            records.append(shown_.recordOf(row));
+        }
+    }
+    std::sort(records.begin(), records.end());
+    records.erase(std::unique(records.begin(), records.end()), records.end());
+    return records;
+}
+
+QList<int> RowSelectionModel::selectedRowsShown() const {
+    QList<int> rows;
+    for (const int record : document_.selectedRows()) {
+        if (const int row = shown_.rowOf(record); row >= 0) {
+            rows.append(row);
+        }
+    }
+    return rows;
 }
 
 void RowSelectionModel::markSelected(QStyleOptionViewItem& option, const QModelIndex& index) const {
@@ -79,7 +91,7 @@ void RowSelectionModel::select(const QItemSelection& selection, SelectionFlags c
     }
     if (command & (Select | Deselect | Toggle)) {
         operation_ = command & (Select | Deselect | Toggle);
-        gesture_ = rowsOf(selection);
+        gesture_ = recordsOf(selection);
     }
     combined_ = combine(settled_, gesture_, operation_);
 
@@ -113,7 +125,7 @@ void RowSelectionModel::mirror() {
     const int lastRow = model()->rowCount() - 1;
     const int lastColumn = model()->columnCount() - 1;
     QItemSelection ranges;
-    const QList<int>& rows = document_.selectedRows();
+    const QList<int> rows = selectedRowsShown();
     for (qsizetype first = 0; first < rows.size() && rows[first] <= lastRow;) {
         qsizetype last = first;
         while (last + 1 < rows.size() && rows[last + 1] == rows[last] + 1 && rows[last + 1] <= lastRow) {
@@ -133,7 +145,7 @@ void RowSelectionModel::mirror() {
         QItemSelectionModel::select(ranges, ClearAndSelect);
     }
     if (!answering_ || refused_) {
-        makeCurrent(document_.selectedRow());
+        makeCurrent(shown_.rowOf(document_.selectedRow()));
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "documents/listdocument.h"
+#include "documents/ui/shownrecords.h"
 
 #include <QItemSelectionModel>
 #include <QStyleOptionViewItem>
@@ -10,7 +11,7 @@
 
 namespace tavrel {
 
-/// The selection of a table whose rows are a document's records. The document holds the selection: what the user
+/// The selection of a table whose rows show a document's records. The document holds the selection: what the user
 /// selects goes there, and what the document selects shows here.
 ///
 /// Views search a selection range by range for every cell, and compare two selections range by range with each other.
@@ -20,8 +21,8 @@ class RowSelectionModel : public QItemSelectionModel {
     Q_OBJECT
 
 public:
-    /// The model's rows are the document's; construct after what resets the model when the list changes.
-    RowSelectionModel(QAbstractItemModel* model, ListDocument& document, QObject* parent);
+    /// The model's rows show those records; construct after what resets the model when the list changes.
+    RowSelectionModel(QAbstractItemModel* model, ListDocument& document, const ShownRecords& shown, QObject* parent);
 
     bool isRowSelected(int row) const;
     /// Marks a cell's option as selected when its row is; for a delegate's initStyleOption().
@@ -55,7 +56,11 @@ private:
     void mirror();
     void makeCurrent(int row);
 
+    QList<int> recordsOf(const QItemSelection& selection) const;
+    QList<int> selectedRowsShown() const;
+
     ListDocument& document_;
+    const ShownRecords& shown_;
     std::function<bool(const QList<int>& rows)> choose_;
     /// What the user's present gesture (a drag, a growing Shift selection) started from, the rows it spans now, and
     /// what it does with them.

@@ -2,16 +2,13 @@
 
 #include "base/failure.h"
 #include "base/progress.h"
-#include "interchange/standard/founddive.h"
+#include "dives/plongee.h"
 
 #include <QByteArray>
-#include <QByteArrayView>
 #include <QStringList>
 
 #include <array>
-#include <optional>
 #include <string_view>
-#include <vector>
 
 namespace tavrel {
 
@@ -45,14 +42,12 @@ inline constexpr std::array<ListColumnName, 20> listColumns{{
 
 /// The fields that a table of dives may have columns for, in archive order.
 QStringList csvFields();
+/// The item of such a field; null for a name that is none.
+const Item* csvItem(const QString& field);
 
 /// The dives as a table in UTF-8: a heading of field names, a line for each dive, quoted as RFC 4180 says, days and
 /// times as ISO 8601 writes them, numbers with a point, series as numbers with blanks between. All fields without a
 /// choice of columns. Fails for a column that dives do not have, and when the progress cancels.
 Expected<QByteArray> writeCsv(const RecordList& dives, const QStringList& columns = {}, const Progress& progress = {});
-
-/// The dives of such a table, with commas, semicolons or tabs, whose headings are names of fields or those of the older
-/// exports; columns of other names are named as lost. Nothing when no heading is known or there is no day among them.
-std::optional<FoundDives> readCsv(QByteArrayView bytes);
 
 }  // namespace tavrel

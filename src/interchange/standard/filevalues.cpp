@@ -2,6 +2,8 @@
 
 #include "base/numbers.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <cctype>
 #include <cmath>
@@ -74,6 +76,24 @@ std::optional<qint32> celsius(std::optional<double> kelvin) {
     }
     const double degrees = *kelvin < coldestKelvin ? *kelvin : *kelvin - zeroCelsius;
     return degrees > -50 && degrees <= 100 ? std::optional(rounded(degrees)) : std::nullopt;
+}
+
+std::optional<qint32> waterCelsius(std::optional<double> kelvin) {
+    constexpr qint32 coldestWater = -5;
+    const auto degrees = celsius(kelvin);
+    return degrees && *degrees >= coldestWater ? degrees : std::nullopt;
+}
+
+std::optional<double> secondsOf(XmlElement element) {
+    static const QRegularExpression clock(QStringLiteral(R"(^(?:(\d{1,3}):)?(\d{1,4}):(\d\d)(?:[.,]\d+)?$)"));
+    const auto number = numberOf(element);
+    if (!number) {
+        return number;
+    }
+    const auto match = clock.match(wordsOf(element));
+    return match.hasMatch()
+               ? match.captured(1).toInt() * 3600.0 + match.captured(2).toInt() * 60.0 + match.captured(3).toInt()
+               : number;
 }
 
 std::optional<double> bars(std::optional<double> pascal) {

@@ -28,6 +28,10 @@ qint32 rounded(double value);
 /// Kelvin to whole degrees Celsius; what is too cold for kelvin counts as degrees Celsius. Nothing for 0, which stands
 /// for none, and for what no diver meets.
 std::optional<qint32> celsius(std::optional<double> kelvin);
+/// The same for water, which no diver meets below 5 degrees of frost.
+std::optional<qint32> waterCelsius(std::optional<double> kelvin);
+/// The seconds of a duration, also of one that is written as "52:30" (minutes and seconds) or "0:52:30".
+std::optional<double> secondsOf(XmlElement element);
 /// Pascal to bar, to a millionth; what is too little for pascal counts as bar. Nothing for what is not above 0.
 std::optional<double> bars(std::optional<double> pascal);
 /// Cubic metres to litres; what is too much for a tank counts as litres.

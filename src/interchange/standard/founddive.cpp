@@ -58,6 +58,12 @@ private:
     std::unordered_multimap<qint64, Known> slots_;
 };
 
+/// Whether two dives of a file are one: two computers of one diver tell the same dive differently, and are two.
+bool isSame(const Plongee& one, const Plongee& other) {
+    return one.profondeur == other.profondeur && one.temps == other.temps &&
+           one.profilProfondeur == other.profilProfondeur;
+}
+
 struct DoubtWords {
     const char* name;
     Title text;
@@ -173,9 +179,17 @@ void markDuplicates(FoundDives& found, const RecordList& held) {
     for (const RecordPointer& record : held) {
         known.add(asDive(record));
     }
+    std::unordered_multimap<qint64, const Plongee*> before;
     for (FoundDive& it : found.dives) {
+        const QDateTime start = startOf(it.dive);
         it.duplicate = known.holds(it.dive);
-        known.add(it.dive);
+        if (!start.isValid()) {
+            continue;
+        }
+        const auto [first, last] = before.equal_range(start.toSecsSinceEpoch());
+        it.duplicate =
+            it.duplicate || std::any_of(first, last, [&](const auto& entry) { return isSame(*entry.second, it.dive); });
+        before.emplace(start.toSecsSinceEpoch(), &it.dive);
     }
 }
 

@@ -71,8 +71,9 @@ inline constexpr double implausibleDepth = 350;
 /// after `now` (in local time), no samples.
 void doubt(FoundDives& found, const QDateTime& now);
 
-/// Marks the dives that are in the list already or stand twice in the file: the same start within two minutes, the
-/// depth within a metre or 5 %, the time within two minutes or 10 %. Dives without a date are never the same.
+/// Marks the dives that are in the list already: the same start within two minutes, the depth within a metre or 5 %,
+/// the time within two minutes or 10 %; and those that the file names twice, with the same start, depth, time and
+/// profile. Dives without a date are never the same.
 void markDuplicates(FoundDives& found, const RecordList& held);
 
 /// The gas that a dive was made on, percent: that of the first tank, with a closed rebreather the diluent.

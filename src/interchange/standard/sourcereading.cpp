@@ -2,7 +2,6 @@
 
 #include "archive/recordarchive.h"
 #include "base/texts.h"
-#include "interchange/standard/csvtext.h"
 #include "interchange/standard/filevalues.h"
 #include "interchange/standard/udcfreading.h"
 #include "interchange/standard/uddfreading.h"
@@ -50,7 +49,17 @@ FoundDives readTree(SourceKind kind, XmlElement root, const Progress& progress) 
 
 }  // namespace
 
-std::optional<SourceKind> kindOfTree(XmlElement root) {
+std::optional<SourceKind> kindOfTree(XmlTree& tree) {
+    const XmlElement root = tree.root();
+    if (isUdcf(root) || !isNamed(root, "uddf")) {
+        return kindOfRoot(root);
+    }
+    // UDDF is written in small letters, but not by everyone.
+    tree.lowerNames();
+    return kindOfRoot(tree.root());
+}
+
+std::optional<SourceKind> kindOfRoot(XmlElement root) {
     if (isUdcf(root)) {
         const bool upperCase = root.first("repgroup").isNull();
         return upperCase ? SourceKind::udcf : SourceKind::handheld;
@@ -66,16 +75,31 @@ std::optional<SourceKind> kindOfTree(XmlElement root) {
     return dive.first("informationbeforedive").isNull() ? SourceKind::olderUddf : SourceKind::uddf;
 }
 
-Expected<Source> readSource(QByteArrayView bytes, const Progress& progress) {
+std::optional<SourceKind> kindOfStart(QByteArrayView bytes) {
+    constexpr qsizetype enough = 1 << 16;
+    if (isTypedStream(bytes)) {
+        const auto recordClass = recordClassOf(bytes);
+        return recordClass && *recordClass == QLatin1StringView("Plongee") ? std::optional(SourceKind::logbook)
+                                                                           : std::nullopt;
+    }
+    const QByteArrayView start = bytes.first(std::min(bytes.size(), enough));
+    if (!looksLikeXml(bytes)) {
+        return readTable(start) ? std::optional(SourceKind::table) : std::nullopt;
+    }
+    auto tree = XmlTree::parse(start, {}, uddfMarkup);
+    return tree ? kindOfTree(*tree) : std::nullopt;
+}
+
+Expected<Source> readSource(QByteArrayView bytes, const Progress& progress, const TableColumns& chosen) {
     if (isTypedStream(bytes)) {
         return readLogbook(bytes, progress);
     }
     if (!looksLikeXml(bytes)) {
-        if (auto table = readCsv(bytes)) {
-            if (table->tooMany) {
+        if (auto table = readTable(bytes, chosen, progress)) {
+            if (table->found.tooMany) {
                 return failure(text("Main", "XML file beyond limits"));
             }
-            return Source{SourceKind::table, std::move(*table)};
+            return Source{SourceKind::table, std::move(table->found), std::move(table->columns)};
         }
     }
     bool cancelled = false;
@@ -85,13 +109,13 @@ Expected<Source> readSource(QByteArrayView bytes, const Progress& progress) {
         }
         return !cancelled;
     };
-    const auto tree = XmlTree::parse(
+    auto tree = XmlTree::parse(
         bytes, [&](std::size_t done, std::size_t total) { return advance(done, total, 0, thousandthsOfParsing); },
         uddfMarkup);
     if (!tree) {
         return tl::unexpected(tree.error());
     }
-    const auto kind = kindOfTree(tree->root());
+    const auto kind = kindOfTree(*tree);
     if (!kind) {
         return failure(text("Carnet", "Import format unknown"),
                        QString::fromStdString(std::string(tree->root().name())));

@@ -3,6 +3,7 @@
 #include "base/failure.h"
 #include "base/progress.h"
 #include "interchange/standard/founddive.h"
+#include "interchange/standard/tablereading.h"
 #include "interchange/xml/xmltree.h"
 
 #include <QByteArrayView>
@@ -21,15 +22,23 @@ enum class SourceKind {
     table,      ///< a text of cells with a heading
 };
 
-/// What the tree of a file is; nothing when it holds none of these.
-std::optional<SourceKind> kindOfTree(XmlElement root);
+/// What the tree of a root is; nothing when it holds none of these.
+std::optional<SourceKind> kindOfRoot(XmlElement root);
+/// The same of a whole tree, where that of a UDDF file gets its names in small letters.
+std::optional<SourceKind> kindOfTree(XmlTree& tree);
 
-/// The dives of a file as they were found, whatever it is. Fails when it is nothing that holds dives, or cannot be
-/// read.
+/// What a file seems to be by its beginning, which is enough to offer an import; nothing when it holds no dives.
+std::optional<SourceKind> kindOfStart(QByteArrayView bytes);
+
+/// The dives of a file as they were found, whatever it is.
 struct Source {
     SourceKind kind;
     FoundDives found;
+    std::vector<TableColumn> columns = {};  ///< of a table
 };
-Expected<Source> readSource(QByteArrayView bytes, const Progress& progress = {});
+
+/// Fails when the file is nothing that holds dives, or cannot be read. The columns of a table are taken for what was
+/// chosen; one of which none holds the day comes without dives.
+Expected<Source> readSource(QByteArrayView bytes, const Progress& progress = {}, const TableColumns& chosen = {});
 
 }  // namespace tavrel

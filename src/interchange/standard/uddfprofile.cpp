@@ -13,8 +13,9 @@ namespace tavrel {
 
 namespace {
 
-constexpr double deepestThinkable = 12'000;  // metres; deeper is no number of a depth
-constexpr double latestStart = 86'400;       // seconds; a first waypoint behind it counts from another moment
+constexpr double latestMoment = 1e9;  // seconds
+constexpr double unknownMoment = -1;
+constexpr double latestStart = 86'400;  // seconds; a first waypoint behind it counts from another moment
 
 template <class Item>
 void sortByTime(std::vector<Item>& items, double (*timeOf)(const Item&)) {
@@ -46,17 +47,13 @@ class WaypointReader {
 public:
     WaypointReader(UddfProfile& profile, FoundDive& found) : profile_(profile), found_(found) {}
 
-    void read(XmlElement waypoint, double fallbackMoment) {
-        moment_ = numberOf(waypoint.first("divetime")).value_or(fallbackMoment);
-        if (!(moment_ >= 0) || moment_ > 1e9) {
-            moment_ = fallbackMoment;
-        }
+    void read(XmlElement waypoint, double moment) {
+        moment_ = moment;
         profile_.lastMoment = std::max(profile_.lastMoment, moment_);
         for (XmlElement it = waypoint.firstElement(); !it.isNull(); it = it.nextElement()) {
             take(it, it.name());
         }
     }
-    double moment() const { return moment_; }
 
     /// Names what the waypoints held beyond the profile.
     void tellLost() {
@@ -77,7 +74,7 @@ private:
             }
         } else if (name == "temperature") {
             const auto kelvin = numberOf(it);
-            if (kelvin && *kelvin > 0) {
+            if (waterCelsius(kelvin)) {
                 profile_.lowestTemperature = std::min(profile_.lowestTemperature.value_or(*kelvin), *kelvin);
                 unknown_.insert(name);
             }
@@ -90,12 +87,15 @@ private:
         } else if (name == "alarm") {
             takeAlarm(it);
         } else if (name == "setpo2") {
-            if (const auto point = numberOf(it)) {
+            if (const auto point = numberOf(it); point && *point > 0) {
                 profile_.setPoints.push_back(*point > 10 ? *point / 100'000 : *point);
             }
         } else if (name == "divemode") {
             const std::string_view type = it.attribute("type");
-            profile_.mode = type.empty() ? wordsOf(it).toStdString() : std::string(type);
+            const std::string mode = type.empty() ? wordsOf(it).toStdString() : std::string(type);
+            if (profile_.modes.empty() || profile_.modes.back() != mode) {
+                profile_.modes.push_back(mode);
+            }
         } else {
             unknown_.insert(name);
         }
@@ -122,6 +122,33 @@ private:
     double moment_ = 0;
     std::set<std::string_view> unknown_;
 };
+
+/// Gives each waypoint a moment: what lies between two known ones is spread evenly, what comes after goes on in the
+/// last step.
+void fillMoments(std::vector<double>& moments) {
+    constexpr double stepWithoutTimes = 10;  // seconds
+    double step = stepWithoutTimes;
+    double before = 0;
+    auto at = moments.begin();
+    while (at != moments.end()) {
+        if (*at != unknownMoment) {
+            step = at != moments.begin() && *at > before ? *at - before : step;
+            before = *at++;
+            continue;
+        }
+        const auto next = std::find_if(at, moments.end(), [](double moment) { return moment != unknownMoment; });
+        const bool atStart = at == moments.begin();
+        double between = step;
+        if (next != moments.end()) {
+            const auto steps = static_cast<double>(next - at) + (atStart ? 0 : 1);
+            between = std::max(0.0, *next - before) / steps;
+        }
+        double moment = atStart ? 0 : before + between;
+        for (; at != next; ++at, moment += between) {
+            *at = before = moment;
+        }
+    }
+}
 
 /// Moves everything to the start of the dive where the waypoints count from another moment.
 void moveToStart(UddfProfile& profile) {
@@ -174,15 +201,28 @@ std::string UddfProfile::mixAt(double seconds) const {
     return mix;
 }
 
+std::string UddfProfile::mode() const {
+    const auto closed = std::find_if(modes.begin(), modes.end(), [](const std::string& mode) {
+        return mode.find("closed") != std::string::npos || mode.find("rebreather") != std::string::npos;
+    });
+    return closed != modes.end() ? *closed : modes.empty() ? std::string() : modes.front();
+}
+
 UddfProfile readUddfProfile(XmlElement dive, FoundDive& found) {
-    constexpr double secondsWithoutTimes = 10;
-    UddfProfile profile;
-    WaypointReader reader(profile, found);
+    std::vector<XmlElement> waypoints;
+    std::vector<double> moments;
     for (const XmlElement samples : dive.children("samples")) {
         for (const XmlElement waypoint : samples.children("waypoint")) {
-            reader.read(waypoint, profile.waypoints == 0 ? 0 : reader.moment() + secondsWithoutTimes);
-            ++profile.waypoints;
+            const double moment = numberOf(waypoint.first("divetime")).value_or(-1);
+            waypoints.push_back(waypoint);
+            moments.push_back(moment >= 0 && moment <= latestMoment ? moment : unknownMoment);
         }
+    }
+    fillMoments(moments);
+    UddfProfile profile;
+    WaypointReader reader(profile, found);
+    for (std::size_t index = 0; index < waypoints.size(); ++index) {
+        reader.read(waypoints[index], moments[index]);
     }
     reader.tellLost();
     uniteMoments(profile.depths);

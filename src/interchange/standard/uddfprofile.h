@@ -11,6 +11,9 @@
 
 namespace tavrel {
 
+/// Metres; deeper is no number of a depth.
+inline constexpr double deepestThinkable = 12'000;
+
 /// What the waypoints of a dive hold, in the order of their times.
 struct UddfProfile {
     enum class Alarm { ascent, slow, surface, ceiling };
@@ -26,17 +29,19 @@ struct UddfProfile {
     std::vector<double> setPoints;            ///< bar
     std::optional<double> lowestTemperature;  ///< kelvin, or what the file has for it
     double lastMoment = 0;                    ///< seconds
-    std::string mode;                         ///< of the last dive mode that the file names
-    std::size_t waypoints = 0;
+    std::vector<std::string> modes;           ///< the dive modes that the file names, one after the other
 
     double deepest() const;
     /// The gas in use at a moment: that of the last switch before it; empty before the first.
     std::string mixAt(double seconds) const;
+    /// The dive mode that tells what the diver carried: a closed one before an open one, which a bail-out may be.
+    std::string mode() const;
     /// When the diver was deepest.
     double deepestMoment() const;
 };
 
-/// Reads the waypoints of one or more samples elements, naming in the dive what they hold beyond a profile.
+/// Reads the waypoints of one or more samples elements, naming in the dive what they hold beyond a profile. Waypoints
+/// without a time lie evenly between those beside them that have one, and go on in the last step.
 UddfProfile readUddfProfile(XmlElement dive, FoundDive& found);
 
 }  // namespace tavrel

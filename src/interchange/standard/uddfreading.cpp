@@ -2,10 +2,10 @@
 
 #include "calculators/position.h"
 #include "interchange/standard/divetanks.h"
-#include "interchange/standard/filetime.h"
 #include "interchange/standard/filevalues.h"
 #include "interchange/standard/uddfdocument.h"
 #include "interchange/standard/uddfprofile.h"
+#include "interchange/standard/uddfstart.h"
 #include "interchange/standard/uddftanks.h"
 #include "interchange/standard/uddfwords.h"
 
@@ -82,7 +82,7 @@ public:
         }
         finishWords();
         std::optional<Resampled> samples = readSamples(profile);
-        giveUddfTanks(document_, dive_, profile, namedMix_, samples, found_);
+        giveUddfTanks(document_, parts_, profile, namedMix_, samples, found_);
         nameLost();
         return std::move(found_);
     }
@@ -101,66 +101,20 @@ private:
     }
     std::optional<double> number(const char* name) const { return numberOf(element(name)); }
 
-    /// A part of a date or a time: a child or an attribute.
-    static std::optional<int> partOf(XmlElement element, const char* name) {
-        auto value = numberOf(element.first(name));
-        value = value ? value : numberOf(element.attribute(name));
-        return value && *value >= 0 && *value < 10'000 ? std::optional(static_cast<int>(*value)) : std::nullopt;
-    }
-
     void readStart() {
-        for (const char* name : {"datetime", "date"}) {
-            for (const XmlElement part : parts_) {
-                for (const XmlElement it : part.children(name)) {
-                    const auto start = startOf(it, part);
-                    if (start) {
-                        setStart(found_.dive, start->day, start->time);
-                        return;
-                    }
-                }
-            }
+        if (const auto start = uddfStart(parts_)) {
+            setStart(found_.dive, start->day, start->time);
         }
-    }
-
-    static std::optional<FileTime> startOf(XmlElement moment, XmlElement part) {
-        const auto year = partOf(moment, "year");
-        const auto month = partOf(moment, "month");
-        const auto day = partOf(moment, "day");
-        std::optional<FileTime> start;
-        if (year && month && day) {
-            if (const auto date = fileDay(*year, *month, *day)) {
-                start = FileTime{*date, clockOf(moment)};
-            }
-        } else {
-            start = fileTime(wordsOf(moment));
-        }
-        if (start && !start->time.isValid()) {
-            start->time = clockOf(part.first("time"));
-        }
-        return start;
-    }
-
-    static QTime clockOf(XmlElement element) {
-        const auto hour = partOf(element, "hour");
-        if (!hour) {
-            const QString words = element.firstElement().isNull() ? wordsOf(element) : QString();
-            return words.contains(u'T') ? fileTime(words).value_or(FileTime()).time : fileClock(words);
-        }
-        const auto minute = partOf(element, "minute");
-        return {*hour == 24 ? 0 : *hour, minute.value_or(0), std::min(partOf(element, "second").value_or(0), 59)};
     }
 
     void readNumbers(const UddfProfile& profile) {
         Plongee& dive = found_.dive;
         dive.noPlongee = rounded(std::clamp(number("divenumber").value_or(0), 0.0, 1e9));
-        const double depth = number("greatestdepth").value_or(0);
+        const double depth = greatestDepth();
         dive.profondeur = static_cast<float>(depth > 0 ? depth : profile.deepest());
         dive.temps = minutes(profile);
-        auto coldest = celsius(number("lowesttemperature"));
-        dive.tempEau = (coldest ? coldest : celsius(profile.lowestTemperature)).value_or(temperatureNotGiven);
-        if (dive.tempEau < -5) {
-            dive.tempEau = temperatureNotGiven;
-        }
+        const auto coldest = waterCelsius(number("lowesttemperature"));
+        dive.tempEau = (coldest ? coldest : waterCelsius(profile.lowestTemperature)).value_or(temperatureNotGiven);
         dive.tempAir = celsius(number("airtemperature")).value_or(temperatureNotGiven);
         dive.altitude = altitude();
         const double lead =
@@ -168,9 +122,15 @@ private:
         dive.lestage = static_cast<float>(lead > 0 && lead < 1000 ? lead : 0);
     }
 
+    /// A depth of no sense is none.
+    double greatestDepth() const {
+        const double depth = number("greatestdepth").value_or(0);
+        return depth < deepestThinkable ? depth : 0;
+    }
+
     /// Seconds as whole minutes; a duration that only makes sense as minutes is taken for them.
     qint32 minutes(const UddfProfile& profile) const {
-        double seconds = number("diveduration").value_or(0);
+        double seconds = secondsOf(element("diveduration")).value_or(0);
         if (!(seconds > 0)) {
             seconds = profile.lastMoment;
         } else if (profile.lastMoment > 20 * seconds && std::abs(seconds * 60 - profile.lastMoment) < 300) {
@@ -224,17 +184,20 @@ private:
 
     void readApparatus(const UddfProfile& profile) {
         Plongee& dive = found_.dive;
-        const QString words = wordsOf(element("apparatus")) + u' ' + QString::fromStdString(profile.mode) + u' ' +
+        const QString words = wordsOf(element("apparatus")) + u' ' + QString::fromStdString(profile.mode()) + u' ' +
                               wordsOf(element("divemode")) + u' ' +
                               QString::fromStdString(std::string(element("divemode").attribute("type")));
         if (words.contains(QLatin1String("semiclosed"), Qt::CaseInsensitive)) {
             dive.rebreather = Apparatus::semiClosed;
         } else if (words.contains(QLatin1String("closedcircuit"), Qt::CaseInsensitive)) {
             dive.rebreather = Apparatus::electronicClosed;
-        } else if (words.contains(QLatin1String("rebreather"), Qt::CaseInsensitive) && profile.mode != "opencircuit") {
+        } else if (words.contains(QLatin1String("rebreather"), Qt::CaseInsensitive) &&
+                   profile.mode() != "opencircuit") {
             dive.rebreather = Apparatus::electronicClosed;
         }
-        if (profile.setPoints.empty()) {
+        // Some computers write a set point of the gas in use for an open circuit, too.
+        const bool isOpen = dive.rebreather == Apparatus::openCircuit && profile.mode() == "opencircuit";
+        if (profile.setPoints.empty() || isOpen) {
             return;
         }
         const auto [low, high] = std::minmax_element(profile.setPoints.begin(), profile.setPoints.end());
@@ -462,7 +425,14 @@ private:
 FoundDives readUddf(XmlElement root, const Progress& progress) {
     const UddfDocument document(root);
     std::vector<XmlElement> dives;
+    std::vector<XmlElement> holders;
     for (const XmlElement data : root.children("profiledata")) {
+        holders.push_back(data);
+    }
+    if (holders.empty()) {
+        holders.push_back(root);
+    }
+    for (const XmlElement data : holders) {
         for (XmlElement group = data.firstElement(); !group.isNull(); group = group.nextElement()) {
             if (group.name() == "dive") {
                 dives.push_back(group);

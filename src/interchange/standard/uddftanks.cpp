@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
 
 namespace tavrel {
 
@@ -59,14 +60,25 @@ bool isAside(const Tank& tank) {
     return tank.role == Role::stage || tank.role == Role::bailout;
 }
 
+/// The pressures that waypoints give under one of the names; null for none.
+const std::vector<TimedValue>* pressuresOf(const UddfProfile& profile, const std::vector<std::string>& names) {
+    for (const std::string& name : names) {
+        if (const auto own = profile.pressures.find(name); own != profile.pressures.end()) {
+            return &own->second;
+        }
+    }
+    return nullptr;
+}
+
 class TankReader {
 public:
-    TankReader(const UddfDocument& document, FoundDive& found) : document_(document), found_(found) {}
+    TankReader(const UddfDocument& document, const UddfProfile& profile, FoundDive& found)
+        : document_(document), profile_(profile), found_(found) {}
 
-    std::vector<Tank> read(XmlElement dive) {
-        for (XmlElement it = dive.firstElement(); !it.isNull(); it = it.nextElement()) {
-            if (it.name() == "tankdata") {
-                add(it);
+    std::vector<Tank> read(const std::vector<XmlElement>& parts) {
+        for (const XmlElement part : parts) {
+            for (const XmlElement data : part.children("tankdata")) {
+                add(data);
             }
         }
         return std::move(tanks_);
@@ -108,6 +120,7 @@ private:
         }
         tank.volume = rounded(volume.value_or(0));
         tank.role = roleOf(tank.title);
+        takeSampled(tank);
         tanks_.push_back(std::move(tank));
     }
 
@@ -131,7 +144,17 @@ private:
         }
     }
 
+    /// What the tank's own data lack, the first and the last of its pressures tell.
+    void takeSampled(Tank& tank) const {
+        const std::vector<TimedValue>* values = pressuresOf(profile_, tank.names);
+        if (values && !values->empty()) {
+            tank.start = tank.start == 0 ? rounded(values->front().value) : tank.start;
+            tank.end = tank.end == 0 ? rounded(values->back().value) : tank.end;
+        }
+    }
+
     const UddfDocument& document_;
+    const UddfProfile& profile_;
     FoundDive& found_;
     std::vector<Tank> tanks_;
 };
@@ -146,8 +169,16 @@ public:
     std::string bottomMix() const { return bottom_; }
     /// What the waypoints call the first tank.
     const std::vector<std::string>& firstNames() const { return firstNames_; }
+    /// Whether the name is that of a tank beside the first.
+    bool isOfOther(const std::string& name) const {
+        return allNames_.count(name) > 0 &&
+               std::find(firstNames_.begin(), firstNames_.end(), name) == firstNames_.end();
+    }
 
     void assign(std::vector<Tank> tanks) {
+        for (const Tank& tank : tanks) {
+            allNames_.insert(tank.names.begin(), tank.names.end());
+        }
         bottom_ = bottomOf(tanks);
         for (Tank& tank : tanks) {
             // A tank whose gas nobody names holds the gas of the dive, if it is the only one.
@@ -355,14 +386,20 @@ private:
     FoundDive& found_;
     std::string bottom_;
     std::vector<std::string> firstNames_;
+    std::set<std::string> allNames_;
     std::array<bool, stageFields.size()> stagesGiven_{};
     std::array<bool, bailoutFields.size()> bailoutsGiven_{};
 };
 
 /// The stops that a plan names, in its order.
-void giveStops(const UddfDocument& document, XmlElement dive, Assignment& assignment, FoundDive& found) {
+void giveStops(const UddfDocument& document, const std::vector<XmlElement>& parts, Assignment& assignment,
+               FoundDive& found) {
     std::size_t level = 0;
-    for (const XmlElement waypoint : dive.first("informationbeforedive").first("plannedprofile").children("waypoint")) {
+    XmlElement plan;
+    for (const XmlElement part : parts) {
+        plan = plan.isNull() ? part.first("plannedprofile") : plan;
+    }
+    for (const XmlElement waypoint : plan.children("waypoint")) {
         const XmlElement stop = waypoint.first("decostop");
         if (stop.isNull()) {
             continue;
@@ -423,14 +460,12 @@ void markSwitches(const UddfDocument& document, const UddfProfile& profile, cons
 }
 
 /// The pressures of the first tank, or where none refer to it of the tank with the most.
-void givePressures(const UddfProfile& profile, const std::vector<std::string>& firstNames,
-                   const std::optional<Resampled>& samples, FoundDive& found) {
-    const std::vector<TimedValue>* chosen = nullptr;
-    for (const std::string& name : firstNames) {
-        if (const auto own = profile.pressures.find(name); own != profile.pressures.end() && !chosen) {
-            chosen = &own->second;
-        }
-    }
+void givePressures(const UddfProfile& profile, const Assignment& assignment, const std::optional<Resampled>& samples,
+                   FoundDive& found) {
+    const std::vector<std::string>& firstNames = assignment.firstNames();
+    const std::vector<TimedValue>* chosen = pressuresOf(profile, firstNames);
+    const bool isOfFirst =
+        chosen || (profile.pressures.size() == 1 && !assignment.isOfOther(profile.pressures.begin()->first));
     for (const auto& [name, values] : profile.pressures) {
         const bool better = !chosen || (firstNames.empty() && values.size() > chosen->size());
         chosen = better ? &values : chosen;
@@ -441,8 +476,8 @@ void givePressures(const UddfProfile& profile, const std::vector<std::string>& f
     if (profile.pressures.size() > 1) {
         found.lose(QStringLiteral("waypoint/tankpressure"));
     }
-    // What the tank's own data lack, the first and the last of its pressures tell.
-    if (found.dive.pressionDepart == 0 && found.dive.pressionFin == 0) {
+    // A tank that the dive does not describe still has its pressures.
+    if (isOfFirst && found.dive.pressionDepart == 0 && found.dive.pressionFin == 0) {
         found.dive.pressionDepart = rounded(chosen->front().value);
         found.dive.pressionFin = rounded(chosen->back().value);
     }
@@ -453,15 +488,15 @@ void givePressures(const UddfProfile& profile, const std::vector<std::string>& f
 
 }  // namespace
 
-void giveUddfTanks(const UddfDocument& document, XmlElement dive, const UddfProfile& profile,
+void giveUddfTanks(const UddfDocument& document, const std::vector<XmlElement>& parts, const UddfProfile& profile,
                    const std::string& namedMix, const std::optional<Resampled>& samples, FoundDive& found) {
     Assignment assignment(document, profile, namedMix, found);
-    assignment.assign(TankReader(document, found).read(dive));
-    giveStops(document, dive, assignment, found);
+    assignment.assign(TankReader(document, profile, found).read(parts));
+    giveStops(document, parts, assignment, found);
     if (samples) {
         markSwitches(document, profile, *samples, assignment, found);
     }
-    givePressures(profile, assignment.firstNames(), samples, found);
+    givePressures(profile, assignment, samples, found);
 }
 
 }  // namespace tavrel

@@ -53,12 +53,12 @@ ImportCommands::ImportCommands(Carnet& carnet, LogbookWindow& window, Desktop& d
 }
 
 void ImportCommands::importDives() {
-    const QStringList files =
-        fileDialogs_.filesToOpen(&window_, text("Interchange", "Import dives"),
-                                 {{text("Interchange", "Dive files"),
-                                   {QStringLiteral("uddf"), QStringLiteral("udcf"), QStringLiteral("xml"),
-                                    QStringLiteral("txt"), QString::fromLatin1(carnetDescription().kind.extension)}}},
-                                 false);
+    const QStringList files = fileDialogs_.filesToOpen(
+        &window_, text("Interchange", "Import dives"),
+        {{text("Interchange", "Dive files"),
+          {QStringLiteral("uddf"), QStringLiteral("udcf"), QStringLiteral("xml"), QStringLiteral("csv"),
+           QStringLiteral("tsv"), QStringLiteral("txt"), QString::fromLatin1(carnetDescription().kind.extension)}}},
+        false);
     if (!files.isEmpty()) {
         showDivesOf(files.constLast());
     }

@@ -5,6 +5,7 @@
 #include "base/texts.h"
 #include "desktop/alerts.h"
 #include "interchange/standard/gasmix.h"
+#include "interchange/ui/tablecolumnspage.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -95,14 +96,17 @@ ImportWindow::ImportWindow(Carnet& carnet, Desktop& desktop, const QString& file
     : QWidget(parent, Qt::Window),
       carnet_(carnet),
       desktop_(desktop),
+      file_(file),
       state_(std::make_shared<Reading>()),
       heading_(new QLabel(textWith("Interchange", "Reading file", QFileInfo(file).fileName()))),
       progress_(new QProgressBar),
+      tableColumns_(new TableColumnsPage),
       list_(new QTreeWidget),
       lost_(new QLabel),
       byDate_(new QCheckBox(text("Interchange", "Renumber by date"))),
       keepTexts_(new QCheckBox(text("Interchange", "Texts to notes"))),
       chosen_(new QLabel),
+      columns_(new QPushButton(text("Interchange", "Table columns"))),
       import_(new QPushButton(text("Interchange", "Import"))) {
     setObjectName(QStringLiteral("importWindow"));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -130,6 +134,10 @@ ImportWindow::ImportWindow(Carnet& carnet, Desktop& desktop, const QString& file
     ticks->addWidget(all);
     ticks->addWidget(none);
     ticks->addWidget(chosen_, 1);
+    ticks->addWidget(columns_);
+    columns_->setCheckable(true);
+    columns_->hide();
+    tableColumns_->hide();
     auto* buttons = new QHBoxLayout;
     buttons->addStretch(1);
     buttons->addWidget(cancel);
@@ -137,6 +145,7 @@ ImportWindow::ImportWindow(Carnet& carnet, Desktop& desktop, const QString& file
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(heading_);
     layout->addWidget(progress_);
+    layout->addWidget(tableColumns_, 1);
     layout->addWidget(list_, 1);
     layout->addLayout(ticks);
     layout->addWidget(lost_);
@@ -150,20 +159,34 @@ ImportWindow::ImportWindow(Carnet& carnet, Desktop& desktop, const QString& file
     connect(cancel, &QPushButton::clicked, this, &QWidget::close);
     connect(import_, &QPushButton::clicked, this, &ImportWindow::importChosen);
     connect(list_, &QTreeWidget::itemChanged, this, &ImportWindow::updateChosen);
-    startReading(file);
+    connect(columns_, &QPushButton::toggled, tableColumns_, &QWidget::setVisible);
+    connect(tableColumns_, &TableColumnsPage::chosenChanged, this, [this] {
+        rememberTableColumns(desktop_.preferences, tableColumns_->chosen());
+        stopReading();
+        startReading();
+    });
+    startReading();
 }
 
 ImportWindow::~ImportWindow() {
+    stopReading();
+}
+
+void ImportWindow::stopReading() {
     state_->cancelled = true;
     if (thread_) {
+        thread_->disconnect(this);
         thread_->wait();
+        thread_->deleteLater();
+        thread_ = nullptr;
     }
 }
 
-void ImportWindow::startReading(const QString& file) {
+void ImportWindow::startReading() {
     reading_ = true;
+    state_ = std::make_shared<Reading>();
     const auto state = state_;
-    thread_ = QThread::create([this, state, file] {
+    thread_ = QThread::create([this, state, file = file_, columns = tableColumns(desktop_.preferences)] {
         const auto bytes = FileBytes::open(file);
         if (!bytes) {
             state->source = tl::unexpected(bytes.error());
@@ -171,15 +194,18 @@ void ImportWindow::startReading(const QString& file) {
         }
         // The window outlives the thread, which its end waits for.
         int told = 0;
-        state->source = readSource(bytes->bytes(), [this, state, &told](std::size_t done, std::size_t total) {
-            const int thousandths = static_cast<int>(done * 1000 / std::max<std::size_t>(total, 1));
-            if (thousandths >= told + 10) {
-                told = thousandths;
-                QMetaObject::invokeMethod(
-                    this, [this, thousandths] { advance(thousandths); }, Qt::QueuedConnection);
-            }
-            return !state->cancelled;
-        });
+        state->source = readSource(
+            bytes->bytes(),
+            [this, state, &told](std::size_t done, std::size_t total) {
+                const int thousandths = static_cast<int>(done * 1000 / std::max<std::size_t>(total, 1));
+                if (thousandths >= told + 10) {
+                    told = thousandths;
+                    QMetaObject::invokeMethod(
+                        this, [this, thousandths] { advance(thousandths); }, Qt::QueuedConnection);
+                }
+                return !state->cancelled;
+            },
+            columns);
         if (!state->source) {
             state->source = tl::unexpected(openingFailure(file, state->source.error()));
         }
@@ -203,10 +229,12 @@ void ImportWindow::showFound() {
         return;
     }
     found_ = std::move(state_->source->found);
+    showTable();
     judge(carnet_, found_);
     heading_->setText(textWith("Interchange", "Dives found", static_cast<int>(found_.dives.size())));
     {
         const QSignalBlocker quiet(list_);
+        list_->clear();
         for (int index = 0; index < static_cast<int>(found_.dives.size()); ++index) {
             addRow(index);
         }
@@ -220,6 +248,18 @@ void ImportWindow::showFound() {
     keepTexts_->setVisible(!lost.isEmpty());
     updateChosen();
     Q_EMIT readingEnded();
+}
+
+void ImportWindow::showTable() {
+    const std::vector<TableColumn>& columns = state_->source->columns;
+    if (columns.empty()) {
+        return;
+    }
+    tableColumns_->showColumns(columns);
+    columns_->show();
+    if (!holdsDay(columns)) {
+        columns_->setChecked(true);
+    }
 }
 
 void ImportWindow::addRow(int index) {

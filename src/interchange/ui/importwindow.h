@@ -17,6 +17,8 @@ class QTreeWidget;
 
 namespace tavrel {
 
+class TableColumnsPage;
+
 /// The dives of a file before any of them is taken: a list with ticks, where what the logbook holds already is not
 /// ticked, with what is doubtful about each and a small profile. The file is read in a thread of its own; the
 /// logbook stays in use, and nothing in it changes before the user imports, which is one undo step.
@@ -40,7 +42,9 @@ private:
     /// What the reading thread leaves, and how it is told to stop.
     struct Reading;
 
-    void startReading(const QString& file);
+    void startReading();
+    void stopReading();
+    void showTable();
     void advance(int thousandths);
     void showFound();
     void addRow(int index);
@@ -49,6 +53,7 @@ private:
 
     Carnet& carnet_;
     Desktop& desktop_;
+    QString file_;
     FoundDives found_;
     std::shared_ptr<Reading> state_;
     QThread* thread_ = nullptr;
@@ -56,11 +61,13 @@ private:
 
     QLabel* heading_;
     QProgressBar* progress_;
+    TableColumnsPage* tableColumns_;
     QTreeWidget* list_;
     QLabel* lost_;
     QCheckBox* byDate_;
     QCheckBox* keepTexts_;
     QLabel* chosen_;
+    QPushButton* columns_;
     QPushButton* import_;
 };
 

@@ -461,6 +461,29 @@ void XmlTree::Free::operator()(void* names) const {
     xmlDictFree(static_cast<xmlDictPtr>(names));
 }
 
+void XmlTree::lowerNames() {
+    const auto isUpper = [](char sign) { return sign >= 'A' && sign <= 'Z'; };
+    const auto lower = [&](const char*& name) {
+        const std::string_view own = name ? name : "";
+        if (std::none_of(own.begin(), own.end(), isUpper)) {
+            return;
+        }
+        std::string lowered(own);
+        for (char& sign : lowered) {
+            sign = isUpper(sign) ? static_cast<char>(sign - 'A' + 'a') : sign;
+        }
+        const xmlChar* kept =
+            xmlDictLookup(static_cast<xmlDictPtr>(names_.get()), reinterpret_cast<const xmlChar*>(lowered.c_str()), -1);
+        name = kept ? reinterpret_cast<const char*>(kept) : name;
+    };
+    for (XmlNodes::Node& node : nodes_->nodes) {
+        lower(node.name);
+    }
+    for (XmlNodes::Attribute& attribute : nodes_->attributes) {
+        lower(attribute.name);
+    }
+}
+
 Expected<XmlTree> XmlTree::parse(QByteArrayView bytes, const Progress& progress, XmlMarkup markup) {
     const std::unique_ptr<xmlParserCtxt, FreeParser> parser(xmlNewParserCtxt());
     if (bytes.size() > std::numeric_limits<int>::max() || !parser) {

@@ -135,6 +135,9 @@ public:
 
     XmlElement root() const { return nodes_->nodes.empty() ? XmlElement() : XmlElement(nodes_.get(), 0); }
 
+    /// Turns the names of all elements and attributes into lower case, for files that do not keep to their format's.
+    void lowerNames();
+
 private:
     struct Free {
         void operator()(void* names) const;

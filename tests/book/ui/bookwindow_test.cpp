@@ -229,7 +229,7 @@ TEST_F(BookWindowTest, deletesAfterAConfirmation) {
 
 TEST_F(BookWindowTest, searchesTheFieldThatWasChosenLast) {
     hold(40);
-    auto& field = window->searchField();
+    auto& field = *window->searchField();
     EXPECT_EQ(field.placeholderText(), u"Find in: Buddies");
     ASSERT_TRUE(carnet.setValue(30, QStringLiteral("notes"), QStringLiteral("a turtle")));
     for (int row = 0; row < carnet.count(); ++row) {
@@ -252,7 +252,7 @@ TEST_F(BookWindowTest, searchesTheFieldThatWasChosenLast) {
 
     window.reset();
     open();
-    EXPECT_EQ(window->searchField().placeholderText(), u"Find in: Computers");
+    EXPECT_EQ(window->searchField()->placeholderText(), u"Find in: Computers");
 }
 
 TEST_F(BookWindowTest, opensTheEditWindowAndStoresItsEntries) {

@@ -3,7 +3,7 @@
 #include "base/texts.h"
 #include "book/card.h"
 #include "book/ui/bookeditwindow.h"
-#include "book/ui/booksearchfield.h"
+#include "book/ui/bookfilterbar.h"
 #include "book/ui/booktableview.h"
 #include "book/ui/bookwindow.h"
 #include "book/ui/cardwindow.h"
@@ -21,6 +21,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMimeData>
 #include <QProgressBar>
 #include <QSignalSpy>
@@ -98,11 +99,6 @@ TEST_F(RecordBookTest, asksOnceWhateverTheWayOutOfANewRecord) {
         {"saving", [&] { EXPECT_FALSE(window.leaveEditing(Settling::saving)); }},
         {"leaving", [&] { EXPECT_FALSE(window.leaveEditing(Settling::leaving)); }},
         {"printing", [&] { command("imprimer")->trigger(); }},
-        {"a search",
-         [&] {
-             window.searchField().setText(QStringLiteral("b"));
-             QTest::keyClick(&window.searchField(), Qt::Key_Return);
-         }},
     };
     for (const auto& way : ways) {
         SCOPED_TRACE(way.what);
@@ -196,22 +192,66 @@ TEST_F(RecordBookTest, showsColoursOnlyWhereTheyAreNotThatOfText) {
     EXPECT_EQ(model->index(1, 1).data(Qt::ForegroundRole).value<QColor>(), QColor(255, 0, 0));
 }
 
-TEST_F(RecordBookTest, searchesAllColumns) {
+TEST_F(RecordBookTest, filtersAsOneTypes) {
     hold({QStringLiteral("Regulator"), QStringLiteral("Lamp 7"), QStringLiteral("Knife")});
     ASSERT_TRUE(book.setValue(2, QStringLiteral("price"), 17.5F));
-    auto& field = window.searchField();
-    EXPECT_EQ(field.menu(), nullptr);
-    EXPECT_TRUE(window.isAncestorOf(&field));
-    const auto search = [&](const char* words) {
-        field.setText(QString::fromUtf8(words));
-        QTest::keyClick(&field, Qt::Key_Return);
-        return book.selectedRows();
+    QLineEdit& field = window.filterBar().field();
+    const auto* count = window.filterBar().findChild<QLabel*>(QStringLiteral("filterCount"));
+    const auto shown = [&] {
+        QStringList names;
+        for (int row = 0; row < window.table().model()->rowCount(); ++row) {
+            names.append(window.table().model()->index(row, 0).data().toString());
+        }
+        return names.join(u'|');
     };
-    EXPECT_EQ(search("7"), QList<int>({1, 2}));
-    EXPECT_EQ(book.foundText(), textWith("Main", "Found cards", 2));
-    EXPECT_EQ(search("LAMP"), QList<int>({1}));
-    EXPECT_EQ(book.foundText(), text("Main", "One card found"));
-    EXPECT_TRUE(search("").isEmpty());
+    EXPECT_EQ(window.searchField(), nullptr);
+    EXPECT_EQ(count->text(), QString());
+    command("filter")->trigger();
+    EXPECT_TRUE(field.hasFocus());
+    QTest::keyClicks(&field, QStringLiteral("7"));
+    EXPECT_EQ(shown(), u"Lamp 7|Knife");
+    EXPECT_EQ(count->text(), u"2 of 3");
+
+    click(1);
+    EXPECT_EQ(book.selectedRows(), QList<int>({2})) << "the record that the second row shows";
+    EXPECT_EQ(window.table().selectionAsText(), u"Knife\t17.5\t0\n");
+    command("selectAll")->trigger();
+    EXPECT_EQ(book.selectedRows(), QList<int>({1, 2}));
+    desktop.alerts.answerNext(0);
+    command("deleteThing")->trigger();
+    EXPECT_EQ(desktop.alerts.questions.front().message, u"Delete 2 cards?");
+    EXPECT_EQ(names(), QStringList{QStringLiteral("Regulator")});
+    EXPECT_EQ(window.table().model()->rowCount(), 0);
+
+    window.filterBar().keep(QStringLiteral("Sevens & such"));
+    QTest::keyClick(&field, Qt::Key_Escape);
+    EXPECT_EQ(shown(), u"Regulator");
+    const auto kept = window.filterBar().menu().actions().front();
+    EXPECT_EQ(kept->text(), u"Sevens && such");
+    kept->trigger();
+    EXPECT_EQ(field.text(), u"7");
+    window.filterBar().forget(QStringLiteral("Sevens & such"));
+    EXPECT_TRUE(window.filterBar().menu().actions().front()->isSeparator());
+    QTest::keyClick(&field, Qt::Key_Escape);
+    QTest::keyClick(&field, Qt::Key_Escape);
+    EXPECT_TRUE(window.table().hasFocus());
+}
+
+TEST_F(RecordBookTest, bringsBackTheRecordOfTheSelectedRow) {
+    hold({QStringLiteral("a"), QStringLiteral("b")});
+    click(0);
+    command("editWindow")->trigger();
+    type(controls.nameField, QStringLiteral("changed"));
+    desktop.alerts.answerNext(cancel);
+    command("blankFields")->trigger();
+    EXPECT_EQ(typedName(), u"changed");
+    desktop.alerts.answerNext(discard);
+    command("blankFields")->trigger();
+    EXPECT_EQ(typedName(), QString());
+    book.selectRows({0});
+    book.blankFields();
+    click(0);
+    EXPECT_EQ(typedName(), u"a");
 }
 
 TEST_F(RecordBookTest, takesADroppedRowAsACopyOfTheLast) {
@@ -248,7 +288,7 @@ TEST_F(RecordBookTest, showsOneActionForACommandEverywhere) {
     EXPECT_EQ(window.commandAction(QStringLiteral("saveDocument")), command("saveDocument"));
     EXPECT_EQ(window.commandAction(QStringLiteral("printDocument")), command("imprimer"));
     EXPECT_FALSE(window.ownMenuActions().contains(command("imprimer")));
-    EXPECT_EQ(window.viewActions().size(), 1) << "no columns to choose";
+    EXPECT_EQ(window.viewActions().size(), 2) << "no columns to choose";
 
     command("deleteThing")->trigger();  // nothing selected
     EXPECT_EQ(desktop.alerts.questions.size(), 0U);

@@ -72,22 +72,29 @@ TEST_F(Printing, takesMarginsInPointsAndTheOrientation) {
 
 TEST_F(Printing, breaksTablesIntoPages) {
     applyPrintSettings(printer, settings);
-    // Below the rows stand the title and the page's number.
+    // Below the rows stand the title, the day and the page's number.
     const double foot = QFontMetrics(table.font()).height() * 1.5;
     const auto rowsPerPage = static_cast<int>((fitting(595 - 23.2 - 25) - 25 - foot) / 20);
     const auto columnsPerPage = static_cast<int>(fitting(842 - 20) / 200);
     const struct {
         int rows, columns, pages;
     } cases[] = {
-        {0, 1, 1}, {rowsPerPage, 1, 1}, {rowsPerPage + 1, columnsPerPage, 2}, {3 * rowsPerPage, columnsPerPage + 1, 6}};
+        {0, 1, 1},
+        {rowsPerPage, 1, 1},
+        {rowsPerPage + 1, columnsPerPage, 2},
+        {1, columnsPerPage + 1, 1},  // made smaller
+        {3 * rowsPerPage, 2 * columnsPerPage, 6},
+    };
     for (const auto& it : cases) {
         fill(it.rows, it.columns);
         EXPECT_TRUE(printTable(printer, table, settings, QStringLiteral("Dives")));
         EXPECT_EQ(printedPages(), it.pages) << it.rows << " rows, " << it.columns << " columns";
     }
     // Hidden columns take no room.
-    fill(1, columnsPerPage + 1);
-    table.setColumnHidden(1, true);
+    fill(1, 2 * columnsPerPage);
+    for (int column = 0; column < columnsPerPage; ++column) {
+        table.setColumnHidden(column, true);
+    }
     EXPECT_TRUE(printTable(printer, table, settings, QStringLiteral("Dives")));
     EXPECT_EQ(printedPages(), 1);
 }

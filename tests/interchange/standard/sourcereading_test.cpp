@@ -3,7 +3,6 @@
 #include "base/safefile.h"
 #include "support/printing.h"
 
-#include <QElapsedTimer>
 #include <gtest/gtest.h>
 
 #include <array>
@@ -166,6 +165,10 @@ TEST(Uddf, readsTheClockHoweverItIsWritten) {
         {"<datetime/><date>2010-08-14</date><time>10:02:59Z</time>", u"2010-08-14 10:02:59"},
         {"<date year='2010' month='8' day='14'/><time hour='7' minute='5'/>", u"2010-08-14 07:05:00"},
         {"<date><year>2010</year><month>8</month><day>14</day></date>", u"2010-08-14 00:00:00"},
+        {"<date>2010-08-14</date></informationbeforedive><time>10:02</time><informationbeforedive>",
+         u"2010-08-14 10:02:00"},
+        {"<datetime><date><year>2010</year><month>8</month><day>4</day></date><time><hour>9</hour></time></datetime>",
+         u"2010-08-04 09:00:00"},
         {"<datetime>0001-01-01T00:00:00</datetime>", u""},
         {"<datetime>2010-02-30T10:00:00</datetime>", u""},
         {"<datetime>yesterday</datetime>", u""},
@@ -206,6 +209,76 @@ TEST(Uddf, takesNumbersOfNoSenseForNone) {
     EXPECT_EQ(it.profondeur, 7.0F);
     EXPECT_EQ(it.profilProfondeur.size(), 4U) << "from the start on";
     EXPECT_EQ(it.PRESS_Data.size(), 1U);
+}
+
+TEST(Uddf, spreadsWaypointsWithoutATime) {
+    const FoundDives found = read(dive({}, R"(<samples>
+        <waypoint><depth>0</depth></waypoint>
+        <waypoint><depth>4</depth><divetime>5</divetime></waypoint>
+        <waypoint><depth>8</depth></waypoint>
+        <waypoint><depth>12</depth><divetime>15</divetime></waypoint>
+        <waypoint><divetime>20</divetime></waypoint>
+        <waypoint><depth/></waypoint>
+        <waypoint><depth>2</depth></waypoint>
+        <waypoint><depth>1</depth></waypoint></samples>)"));
+    const Plongee& it = found.dives.at(0).dive;
+    EXPECT_EQ(it.samplingRate, 7) << "5 s";
+    const std::array expected{0.0, 4.0, 8.0, 12.0, 12 - 10.0 / 3, 12 - 20.0 / 3, 2.0, 1.0};
+    ASSERT_EQ(it.profilProfondeur.size(), expected.size());
+    for (std::size_t sample = 0; sample < expected.size(); ++sample) {
+        EXPECT_NEAR(it.profilProfondeur.real(sample), expected[sample], 1e-9) << sample;
+    }
+}
+
+TEST(Uddf, sortsWaypointsByTheirTimes) {
+    const FoundDives found = read(dive({}, R"(<samples>
+        <waypoint><divetime>20</divetime><depth>9</depth></waypoint>
+        <waypoint><divetime>0</divetime><depth>1</depth></waypoint>
+        <waypoint><divetime>10</divetime><depth>5</depth></waypoint></samples>)"));
+    EXPECT_EQ(found.dives.at(0).dive.profilProfondeur, Series::ofReals({1, 5, 9}));
+}
+
+TEST(Uddf, takesWhatTheDiveLacksFromItsWaypoints) {
+    const QByteArray file = R"(<UDDF version="3.0.1"><gasDefinitions><mix ID="a"><o2>0.32</o2></mix>
+        <mix id="b"><o2>0.5</o2></mix></gasDefinitions><profileData><repetitionGroup><Dive><informationBeforeDive>
+        <tankData><link ref="a"/><tankPressureBegin>20500000</tankPressureBegin></tankData>
+        <tankdata><link ref="b"/></tankdata></informationBeforeDive><samples>
+        <waypoint><depth>0</depth><divetime>0</divetime><temperature>255.4</temperature>
+          <tankpressure ref="a">2.0e7</tankpressure><tankpressure ref="b">15000000</tankpressure></waypoint>
+        <waypoint><depth>20</depth><divetime>600</divetime><temperature>285.15</temperature>
+          <tankpressure ref="a">9000000</tankpressure><tankpressure ref="b">12000000</tankpressure></waypoint>
+        </samples><informationAfterDive><greatestDepth>1e32</greatestDepth><lowestTemperature>255.4</lowestTemperature>
+        <diveDuration>0:42:40</diveDuration></informationAfterDive></Dive></repetitionGroup></profileData></UDDF>)";
+    const Plongee it = read(file, SourceKind::uddf).dives.at(0).dive;
+    EXPECT_EQ(it.profondeur, 20.0F);
+    EXPECT_EQ((std::array{it.temps, it.tempEau, it.o2Mix}), (std::array{43, 12, 32}));
+    EXPECT_EQ((std::array{it.pressionDepart, it.pressionFin}), (std::array{205, 90}));
+    EXPECT_EQ((std::array{it.pressDepartPony1, it.pressFinPony1}), (std::array{150, 120})) << "richer, so a stage";
+    EXPECT_EQ(it.PRESS_Data.real(0), 200.0);
+}
+
+TEST(Uddf, tellsARebreatherFromASetPointOfOpenCircuit) {
+    struct Case {
+        const char* samples;
+        qint32 apparatus, setPoint;
+    };
+    const Case cases[] = {
+        {"<waypoint><divemode type='opencircuit'/><setpo2>130000</setpo2></waypoint>", 0, 0},
+        {"<waypoint><setpo2>0</setpo2></waypoint>", 0, 0},
+        {"<waypoint><setpo2>1.3</setpo2></waypoint>", 3, 2},
+        // A bail-out at the end.
+        {"<waypoint><divemode type='closedcircuit'/></waypoint><waypoint><divemode type='opencircuit'/></waypoint>", 3,
+         0},
+    };
+    for (const Case& it : cases) {
+        const Plongee found = read(dive({}, "<samples>" + QByteArray(it.samples) + "</samples>")).dives.at(0).dive;
+        EXPECT_EQ(found.rebreather, it.apparatus) << it.samples;
+        EXPECT_EQ(found.ppO2, it.setPoint) << it.samples;
+    }
+}
+
+TEST(Uddf, findsDivesOutsideOfProfileData) {
+    EXPECT_EQ(read("<uddf version='2.0'><repetitiongroup><dive/><dive/></repetitiongroup></uddf>").dives.size(), 2U);
 }
 
 TEST(Uddf, boundsTheSamplesOfADive) {
@@ -255,8 +328,11 @@ TEST(Sources, areToldByTheirContents) {
         {"<carnet><repgroup/></carnet>", SourceKind::handheld},
         {"<html><body/></html>", std::nullopt},
         {"just words", std::nullopt},
+        {"<Uddf version='3.1'/>", SourceKind::uddf},
+        {"date,profondeur\n2020-05-01,20\n", SourceKind::table},
     };
     for (const auto& [bytes, kind] : cases) {
+        EXPECT_EQ(kindOfStart(bytes), kind) << bytes;
         const auto source = readSource(bytes);
         EXPECT_EQ(source ? std::optional(source->kind) : std::nullopt, kind) << bytes;
     }
@@ -299,6 +375,14 @@ TEST(FoundDives, areRecognisedWithinTwoMinutesAndLikeDepthAndLength) {
         EXPECT_EQ(found.dives[0].duplicate, it.duplicate)
             << it.time.toString().toStdString() << ' ' << it.depth << ' ' << it.minutes;
     }
+    // In one file only the very same dive is there twice; two computers tell it differently.
+    FoundDives twins;
+    twins.dives.resize(3);
+    twins.dives[0].dive = twins.dives[1].dive = twins.dives[2].dive = held;
+    twins.dives[1].dive.profondeur = 20.1F;
+    markDuplicates(twins, {});
+    EXPECT_FALSE(twins.dives[0].duplicate || twins.dives[1].duplicate);
+    EXPECT_TRUE(twins.dives[2].duplicate);
     FoundDives undated;
     undated.dives.resize(2);
     markDuplicates(undated, {});

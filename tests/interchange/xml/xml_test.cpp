@@ -1,8 +1,8 @@
+#include "base/texts.h"
 #include "interchange/xml/xmltree.h"
 #include "interchange/xml/xmlwriter.h"
 #include "support/printing.h"
 
-#include <QElapsedTimer>
 #include <gtest/gtest.h>
 
 namespace tavrel {
@@ -88,14 +88,18 @@ TEST(XmlTree, refusesWhatHasNoEndOrNoElement) {
         const QByteArray below = "&#37;a" + QByteArray::number(level - 1) + ";";
         parameters += "<!ENTITY % a" + QByteArray::number(level) + " \"" + below.repeated(10) + "\">";
     }
-    QElapsedTimer timer;
-    timer.start();
+    const auto refusal = [](const QByteArray& file) {
+        const auto tree = XmlTree::parse(file);
+        return tree ? QString() : tree.error().message();
+    };
+    // Given up for what they ask for, not for what the parser made of it.
     for (const QByteArray& file : {bomb + "]><p><a>&a9;</a></p>", bomb + "]><p><a b='&a9;'>x</a></p>", longEntity,
-                                   parameters + "%a11;]><p><a/></p>", nested(100'000), QByteArray(),
-                                   QByteArray("no markup"), QByteArray("\x04\x0bstreamtyped", 13)}) {
-        EXPECT_FALSE(XmlTree::parse(file)) << file.left(60).toStdString();
+                                   parameters + "%a11;]><p><a/></p>", nested(100'000)}) {
+        EXPECT_TRUE(refusal(file).startsWith(text("Main", "XML file beyond limits"))) << file.left(60).toStdString();
     }
-    EXPECT_LT(timer.elapsed(), 5000);
+    for (const QByteArray& file : {QByteArray(), QByteArray("no markup"), QByteArray("\x04\x0bstreamtyped", 13)}) {
+        EXPECT_TRUE(refusal(file).startsWith(text("Main", "XML file without elements"))) << file.toStdString();
+    }
     EXPECT_TRUE(XmlTree::parse(nested(200)));
 }
 

@@ -69,7 +69,7 @@ TEST_F(DiveWindowsTest, statisticsFollowTheSelectionAndTheSearch) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return statistics.statistics().total() == 2; }));
     choose(DiveChoice::found);
     EXPECT_EQ(statistics.statistics().total(), 0);
-    carnet.findInColumns(QStringLiteral("lake"));
+    ASSERT_TRUE(carnet.findTextWithField(QStringLiteral("lieu"), QStringLiteral("lake")));
     EXPECT_TRUE(QTest::qWaitFor([&] { return statistics.statistics().total() == 2; }));
     // What matches counts, not what happened to be there at the time of the search.
     ASSERT_TRUE(carnet.setValue(1, QStringLiteral("lieu"), QStringLiteral("Mountain lake")));

@@ -1,0 +1,116 @@
+#include "interchange/standard/tablereading.h"
+
+#include "interchange/standard/csvtext.h"
+#include "interchange/standard/divedifference.h"
+#include "support/printing.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace tavrel {
+
+namespace {
+
+Table read(const QByteArray& bytes, const TableColumns& chosen = {}) {
+    const auto table = readTable(bytes, chosen);
+    EXPECT_TRUE(table) << bytes.left(80).toStdString();
+    return table ? *table : Table();
+}
+
+QString startText(const FoundDive& found) {
+    return startOf(found.dive).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+}
+
+TEST(TableReading, takesCellsWhateverSeparatesAndQuotesThem) {
+    for (const char* file :
+         {"date,heure,lieu,notes,profondeur,temps\r\n2021-07-01,09:30,\"Port, \"\"Vieux\"\"\",\"a\nb\",12.5,40\r\n",
+          "date;heure;lieu;notes;profondeur;temps\n01.07.2021;9:30;\"Port, \"\"Vieux\"\"\";\"a\nb\";12,5;40",
+          "\xEF\xBB\xBF"
+          "date\theure\tlieu\tnotes\tprofondeur\ttemps\r2021-07-01 09:30:00\t\tPort, "
+          "\"Vieux\"\t\"a\nb\"\t12.5\t40\r\r"}) {
+        const Table table = read(file);
+        ASSERT_EQ(table.found.dives.size(), 1U) << file;
+        const Plongee& dive = table.found.dives[0].dive;
+        EXPECT_EQ(startText(table.found.dives[0]), u"2021-07-01 09:30:00") << file;
+        EXPECT_EQ((QStringList{dive.lieu, dive.notes}),
+                  (QStringList{QStringLiteral("Port, \"Vieux\""), QStringLiteral("a\nb")}));
+        EXPECT_EQ(dive.profondeur, 12.5F) << file;
+        EXPECT_EQ(dive.temps, 40) << file;
+        EXPECT_EQ(dive.tempEau, unknownDive().tempEau) << "not given";
+        EXPECT_TRUE(table.found.dives[0].lost.empty());
+    }
+}
+
+TEST(TableReading, readsTheOlderExportsWithTheirWords) {
+    const Table table = read(
+        "\"Dive #\";\"Date\";\"Location\";\"Start time\";\"Depth\";\"Weather\";\"Current\";\"Visibility\"\r"
+        "\"7\";\"14/08/2010\";\"Agay\";\"10:02\";\"31.4\";\"Rainy\";\"N/A\";\"Exceptional\"\n");
+    const Plongee& dive = table.found.dives.at(0).dive;
+    EXPECT_EQ(startText(table.found.dives[0]), u"2010-08-14 10:02:00");
+    EXPECT_EQ((std::array{dive.noPlongee, dive.meteo, dive.courant, dive.visibilite}), (std::array{7, 3, 6, 8}));
+}
+
+TEST(TableReading, namesWhatIsNoValueOfADive) {
+    const Table table = read("date,Mood,temps\n2020-01-01,fine,long\nnever,,3\n");
+    ASSERT_EQ(table.found.dives.size(), 2U);
+    const FoundDive& first = table.found.dives[0];
+    ASSERT_EQ(first.lost.size(), 2U);
+    EXPECT_EQ((QStringList{first.lost[0].name, first.lost[0].text, first.lost[1].name}),
+              (QStringList{QStringLiteral("Mood"), QStringLiteral("fine"), QStringLiteral("temps")}));
+    EXPECT_FALSE(startOf(table.found.dives[1].dive).isValid());
+    EXPECT_EQ(table.found.dives[1].lost.size(), 1U);
+}
+
+TEST(TableReading, followsTheColumnsThatWereChosen) {
+    const QByteArray file = "When,Max,temps\n,,\n3/4/2022 14:05,18.2,33\n";
+    const Table plain = read(file);
+    EXPECT_FALSE(holdsDay(plain.columns));
+    EXPECT_TRUE(plain.found.dives.empty()) << "nothing is read before the day is known";
+    ASSERT_EQ(plain.columns.size(), 3U);
+    EXPECT_EQ((QStringList{plain.columns[0].heading, plain.columns[0].field, plain.columns[0].example}),
+              (QStringList{QStringLiteral("When"), QString(), QStringLiteral("3/4/2022 14:05")}));
+    EXPECT_EQ(plain.columns[2].field, u"temps");
+
+    const Table chosen = read(file, {{QStringLiteral("When"), QStringLiteral("date")},
+                                     {QStringLiteral("Max"), QStringLiteral("profondeur")},
+                                     {QStringLiteral("temps"), QString()},
+                                     {QStringLiteral("Other"), QStringLiteral("lieu")}});
+    ASSERT_EQ(chosen.found.dives.size(), 2U);
+    const FoundDive& dive = chosen.found.dives[1];
+    EXPECT_EQ(startText(dive), u"2022-04-03 14:05:00");
+    EXPECT_EQ(dive.dive.profondeur, 18.2F);
+    EXPECT_EQ(dive.dive.temps, 0) << "left out";
+}
+
+TEST(TableReading, refusesWhatIsNoTable) {
+    for (const char* file :
+         {"", "one column\nalone\n", "Dear John, how are you\nI am fine, thanks, and you\n", "a,b\n"}) {
+        EXPECT_FALSE(readTable(file)) << file;
+    }
+    EXPECT_FALSE(readTable(QByteArray("d\0a,te\n1,2\n", 12)));
+    EXPECT_FALSE(readTable(QByteArray(2000, ',') + "\n1\n")) << "more columns than anyone has";
+}
+
+TEST(TableReading, bringsBackWhatWasWritten) {
+    Plongee dive = unknownDive();
+    setStart(dive, QDate(1998, 12, 31), QTime(23, 59, 58));
+    dive.lieu = QStringLiteral(" \"é\" ");
+    dive.notes = QStringLiteral("1;2,3\t4\r\n\n");
+    dive.profondeur = 33.35F;
+    dive.profilProfondeur = Series::ofReals({0, 12.125, 3});
+    dive.ASC_Flag = Series::ofIntegers({0, 1, 0});
+    const auto bytes = writeCsv({std::make_shared<const Plongee>(dive)});
+    ASSERT_TRUE(bytes);
+    const Table table = read(*bytes);
+    ASSERT_EQ(table.found.dives.size(), 1U);
+    EXPECT_TRUE(differingFields(dive, table.found.dives[0].dive).empty());
+    const auto some =
+        writeCsv({std::make_shared<const Plongee>(dive)}, {QStringLiteral("date"), QStringLiteral("lieu")});
+    EXPECT_EQ(*some, "date,lieu\r\n1998-12-31,\" \"\"é\"\" \"\r\n");
+    EXPECT_FALSE(writeCsv({}, {QStringLiteral("mood")}));
+}
+
+}  // namespace
+
+}  // namespace tavrel

@@ -1,0 +1,215 @@
+// The filter, over books as they are.
+
+#include "base/texts.h"
+#include "book/bookfilter.h"
+#include "book/booktable.h"
+#include "forms/formentry.h"
+#include "recordbooks/compresseur.h"
+#include "recordbooks/epaves.h"
+#include "recordbooks/materiel.h"
+#include "recordbooks/recordbooks.h"
+#include "records/nodate.h"
+#include "support/testdesktop.h"
+
+#include <QSignalSpy>
+#include <gtest/gtest.h>
+
+namespace tavrel {
+namespace {
+
+class FilterTest : public testing::Test {
+protected:
+    FilterTest() {
+        setTextLanguage(QStringLiteral("en"));
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
+    }
+    ~FilterTest() override { QLocale::setDefault(QLocale::c()); }
+
+    template <class Class>
+    static void hold(BookBase& book, std::initializer_list<Class> items) {
+        RecordList list;
+        for (const Class& item : items) {
+            list.push_back(std::make_shared<Class>(item));
+        }
+        book.replaceList(std::move(list));
+    }
+
+    static std::vector<int> shown(BookBase& book, const char* typed) {
+        book.filter().setText(QString::fromUtf8(typed));
+        return book.filter().shownRows();
+    }
+
+    TestDesktop desktop;
+};
+
+Materiel item(const char* kind, const char* notes, const char* price, QDate bought, qint32 quantity) {
+    Materiel made;
+    made.typeMatos = QString::fromUtf8(kind);
+    made.notesMatos = QString::fromUtf8(notes);
+    made.prixMatos = QString::fromUtf8(price);
+    made.dateAchat = Date::ofLocalTime(bought, QTime(12, 0));
+    made.lastRevision = made.nextRevision = made.nextRequalification = noDate();
+    made.quantiteMatos = quantity;
+    return made;
+}
+
+class EquipmentFilterTest : public FilterTest {
+protected:
+    EquipmentFilterTest() {
+        Materiel tank = item("Tank", "Peinte à l’école\nen jaune", "265.00", {2016, 6, 30}, 1);
+        tank.capaciteBloc = 12.2F;
+        tank.equipState = 1;
+        Materiel lamp = item("Lamp", "the 2016 model", "9,5", {2018, 12, 31}, 2);
+        lamp.factureMatos = 1;
+        const Materiel fins = item("Fins", "Tank room, shelf 12", "as new", {1900, 1, 1}, 30);
+        hold(*book, {tank, lamp, fins});
+    }
+
+    std::vector<int> shown(const char* typed) { return FilterTest::shown(*book, typed); }
+    std::unique_ptr<BookBase> book = invMateriel().make(desktop.desktop());
+
+    static const std::vector<int> none;
+};
+const std::vector<int> EquipmentFilterTest::none;
+
+TEST_F(EquipmentFilterTest, findsAllWordsInAnyFieldAsTheUserSeesIt) {
+    EXPECT_EQ(shown("TANK"), (std::vector{0, 2}));
+    EXPECT_EQ(shown("tank ecole"), (std::vector{0}));
+    EXPECT_EQ(shown("l'école en"), (std::vector{0})) << "over a line end, whatever the apostrophe";
+    EXPECT_EQ(shown("\"ecole en\""), (std::vector{0}));
+    EXPECT_EQ(shown("\"en ecole\""), none);
+    EXPECT_EQ(shown("2016"), (std::vector{0, 1})) << "a date and a text";
+    EXPECT_EQ(shown("30/06"), (std::vector{0}));
+    EXPECT_EQ(shown("12.2"), (std::vector{0}));
+    EXPECT_EQ(shown("repair"), (std::vector{0})) << "the word of a choice";
+    EXPECT_EQ(shown("1900"), none) << "no date is empty";
+}
+
+TEST_F(EquipmentFilterTest, asksOneFieldByItsKeyOrItsWordsCutShort) {
+    EXPECT_EQ(shown("notesMatos:tank"), (std::vector{2}));
+    EXPECT_EQ(shown("Remarks:12"), none) << "the remarks have no words of their own in the form";
+    EXPECT_EQ(shown("type:tank"), (std::vector{0}));
+    EXPECT_EQ(shown("purchasedate:2016"), (std::vector{0}));
+    EXPECT_EQ(shown("purch:2016 type:t"), (std::vector{0}));
+    EXPECT_EQ(shown("type:\"ta nk\""), none);
+    EXPECT_EQ(shown("state:repair"), (std::vector{0}));
+    EXPECT_EQ(shown("type:"), none) << "nothing asked yet, nothing filtered";
+    EXPECT_FALSE(book->filter().isActive());
+    EXPECT_EQ(shown("room,:x"), none) << "no field of that name: a text";
+    EXPECT_TRUE(book->filter().isActive());
+}
+
+TEST_F(EquipmentFilterTest, comparesNumbersDaysAndSwitches) {
+    EXPECT_EQ(shown("quantity>1"), (std::vector{1, 2}));
+    EXPECT_EQ(shown("quantity>=2 quantity<30"), (std::vector{1}));
+    EXPECT_EQ(shown("quantity≤2"), (std::vector{0, 1}));
+    EXPECT_EQ(shown("quantity=30"), (std::vector{2}));
+    EXPECT_EQ(shown("capacity=12,2"), (std::vector{0})) << "as the field holds it, decimal comma or point";
+    EXPECT_EQ(shown("price<10"), (std::vector{1})) << "a number kept as typed; texts without one never";
+    EXPECT_EQ(shown("purchasedate>2016"), (std::vector{1}));
+    EXPECT_EQ(shown("purchasedate>=2016-06 purchasedate<2018-12"), (std::vector{0}));
+    EXPECT_EQ(shown("purchasedate<=2018-12-31"), (std::vector{0, 1})) << "no date is before nothing";
+    EXPECT_EQ(shown("purchasedate=30/06/2016"), (std::vector{0}));
+    EXPECT_EQ(shown("invoice:yes"), (std::vector{1}));
+    EXPECT_EQ(shown("invoice:no"), (std::vector{0, 2}));
+    EXPECT_EQ(shown("type>m"), none) << "texts are not compared";
+}
+
+TEST_F(FilterTest, comparesTimesOfDay) {
+    const auto book = maintComp().make(desktop.desktop());
+    const auto service = [](QTime lasted) {
+        Compresseur made;
+        made.temps = Date::ofLocalTime({2020, 5, 1}, lasted);
+        return made;
+    };
+    Compresseur without;
+    without.temps = noDate();
+    hold(*book, {service({6, 40}), service({11, 15}), without});
+    EXPECT_EQ(shown(*book, "temps>6:40"), (std::vector{1}));
+    EXPECT_EQ(shown(*book, "temps<=11h15"), (std::vector{0, 1}));
+    EXPECT_EQ(shown(*book, "06:40"), (std::vector{0}));
+}
+
+TEST_F(EquipmentFilterTest, marksWhatMatchesInTheFieldsAskedFor) {
+    const BookTable table(*book);
+    const auto marks = [&](const char* field, QStringView text) {
+        return book->filter().marksIn(*table.columns()[static_cast<std::size_t>(table.columnOf(field))].column,
+                                      text.toString());
+    };
+    static_cast<void>(shown("tank state:repair quantity>0"));
+    EXPECT_EQ(marks("typeMatos", u"Tank, tank"), (QList<TextRange>{{0, 4}, {6, 4}}));
+    EXPECT_EQ(marks("equipState", u"To repair"), (QList<TextRange>{{3, 6}}));
+    EXPECT_TRUE(marks("lieuAchatMatos", u"repair shop").isEmpty());
+    EXPECT_TRUE(marks("quantiteMatos", u"0").isEmpty());
+    static_cast<void>(shown(""));
+    EXPECT_TRUE(marks("typeMatos", u"Tank").isEmpty());
+}
+
+TEST_F(EquipmentFilterTest, selectsOnlyWhatIsShown) {
+    book->selectRows({0, 1});
+    static_cast<void>(shown("tank"));
+    EXPECT_EQ(book->selectedRows(), QList<int>({0}));
+    EXPECT_FALSE(book->canGoBack());
+    EXPECT_TRUE(book->canGoForward());
+    book->nextRecord();
+    EXPECT_EQ(book->selectedRow(), 2);
+    EXPECT_FALSE(book->canGoForward());
+    EXPECT_EQ(book->findTextWithField(QStringLiteral("notesMatos"), QStringLiteral("model")), 0);
+    static_cast<void>(shown(""));
+    EXPECT_EQ(book->findTextWithField(QStringLiteral("notesMatos"), QStringLiteral("model")), 1);
+}
+
+TEST_F(EquipmentFilterTest, keepsInSightWhatIsEditedAddedOrBroughtBack) {
+    book->selectRows({1});
+    FormStateBase& form = book->form().state();
+    ASSERT_TRUE(enterValue(form, form.table().find("typeMatosField"), QStringLiteral("Torch")));
+    EXPECT_EQ(shown("tank"), (std::vector{0, 1, 2})) << "the form holds entries";
+    book->updateRecord();
+    EXPECT_EQ(book->filter().shownRows(), (std::vector{0, 1, 2})) << "until something else is typed";
+    EXPECT_EQ(shown("tank "), (std::vector{0, 2}));
+    book->addRecord();
+    EXPECT_EQ(book->filter().shownRows(), (std::vector{0, 2, 3}));
+    EXPECT_EQ(shown("torch"), (std::vector{1, 3}));
+    book->sortBy(QStringLiteral("quantiteMatos"));
+    for (const int row : book->filter().shownRows()) {
+        EXPECT_EQ(static_cast<const Materiel&>(*book->recordAt(row)).typeMatos, u"Torch");
+    }
+    EXPECT_EQ(book->filter().shownCount(), 2);
+    RecordList all;
+    for (const RecordPointer& each : book->records()) {
+        auto copy = std::make_shared<Materiel>(static_cast<const Materiel&>(*each));
+        copy->marqueMatos = QStringLiteral("Other");
+        all.push_back(std::move(copy));
+    }
+    book->changeList(QStringLiteral("All"), std::move(all));
+    EXPECT_EQ(book->filter().shownCount(), 2) << "many at once are filtered again";
+    EXPECT_EQ(shown(""), none);
+    EXPECT_EQ(book->filter().shownCount(), 4);
+}
+
+TEST_F(FilterTest, searchesLongBooksOnAnotherThreadForTheLatestText) {
+    const auto book = repEpaves().make(desktop.desktop());
+    RecordList list;
+    for (int place = 0; place < 5000; ++place) {
+        auto wreck = std::make_shared<Epaves>();
+        wreck->nom = QStringLiteral("Wreck %1").arg(place);
+        wreck->propulsion = place % 2;
+        list.push_back(std::move(wreck));
+    }
+    book->replaceList(std::move(list));
+    QSignalSpy changed(&book->filter(), &BookFilter::changed);
+    book->filter().setText(QStringLiteral("wreck"));
+    EXPECT_TRUE(book->filter().isBusy());
+    EXPECT_FALSE(book->filter().isActive());
+    book->filter().setText(QStringLiteral("wreck 49 petrol"));
+    ASSERT_TRUE(changed.wait());
+    EXPECT_EQ(changed.count(), 1) << "what was typed over is not shown";
+    EXPECT_EQ(std::count_if(book->filter().shownRows().begin(), book->filter().shownRows().end(),
+                            [](int row) { return row % 2 == 1 && QString::number(row).contains(u"49"); }),
+              static_cast<std::ptrdiff_t>(book->filter().shownRows().size()));
+    EXPECT_EQ(book->filter().shownRows().size(), 124U);
+    book->filter().setText(QStringLiteral("wreck"));  // closing the book in the middle of it does no harm
+}
+
+}  // namespace
+}  // namespace tavrel
