@@ -328,7 +328,7 @@ TEST_F(Journals, knowASaveThatTheyDidNotOutlive) {
                 ASSERT_TRUE(QFile::copy(kept.filePath(name), copy + u'/' + name));
             }
         });
-        ASSERT_TRUE(leaf.save());
+        ASSERT_TRUE(leaf.save(Document::Overwriting::yes));
         QObject::disconnect(copying);
     };
     endWhileSaving(true);
