@@ -205,8 +205,8 @@ Two programs that save the same document undo each other’s changes.</translati
 <message><source>Rebreather</source><translation>Rebreather</translation></message>
 <message><source>Redo</source><translation>Redo</translation></message>
 <message><source>Redo step</source><translation>Redo %@</translation></message>
-<message><source>Remove filter</source><translation>Remove Filter</translation></message>
 <message><source>Reload</source><translation>Reload</translation></message>
+<message><source>Remove filter</source><translation>Remove Filter</translation></message>
 <message><source>Remove from toolbar</source><translation>Remove from the toolbar</translation></message>
 <message><source>Restore</source><translation>Restore</translation></message>
 <message><source>Revert</source><translation>Revert</translation></message>

@@ -205,8 +205,8 @@ Deux programmes qui enregistrent le même document défont chacun les modificati
 <message><source>Rebreather</source><translation>Recycleur</translation></message>
 <message><source>Redo</source><translation>Rétablir</translation></message>
 <message><source>Redo step</source><translation>Rétablir : %@</translation></message>
-<message><source>Remove filter</source><translation>Supprimer le filtre</translation></message>
 <message><source>Reload</source><translation>Recharger</translation></message>
+<message><source>Remove filter</source><translation>Supprimer le filtre</translation></message>
 <message><source>Remove from toolbar</source><translation>Retirer de la barre d’outils</translation></message>
 <message><source>Restore</source><translation>Restaurer</translation></message>
 <message><source>Revert</source><translation>Revenir</translation></message>

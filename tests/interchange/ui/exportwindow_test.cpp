@@ -37,6 +37,7 @@ protected:
             setStart(dive, QDate(2020, 1, number), QTime(10, 0));
             dive.noPlongee = number;
             dive.coeff = 80;
+            dive.partenaires = number == 2 ? QStringLiteral("Ann") : QStringLiteral("Bo");
             dive.lieu = number == 2 ? QStringLiteral("Agay") : QString();
             carnet.appendDives(QStringLiteral("add"), {dive});
         }
@@ -92,7 +93,7 @@ TEST_F(Exporting, saysWhatIsLostBeforeItWrites) {
 }
 
 TEST_F(Exporting, writesTheDivesAndColumnsChosen) {
-    carnet.findInColumns(QStringLiteral("Agay"));
+    carnet.find(QStringLiteral("partenaires"), QStringLiteral("Ann"));
     carnet.selectRows({2, 0});
     show();
     const auto choices = window->findChildren<QRadioButton*>();
