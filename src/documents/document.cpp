@@ -60,6 +60,7 @@ Expected<void> Document::saveAs(const QString& file, Overwriting overwriting) {
         return tl::unexpected(savingFailure(file, {text("Main", "File changed by another"), {}}));
     }
     keepBackup(file);
+    Q_EMIT aboutToWrite(absolutePath(file), *bytes);
     auto written = replaceFile(file, *bytes);
     if (!written) {
         return tl::unexpected(written.error());

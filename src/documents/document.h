@@ -101,6 +101,8 @@ Q_SIGNALS:
     void changedStateChanged(bool changed);
     /// Something was changed in the document, or typed in its form.
     void touched();
+    /// These bytes are about to take the place of a file, which is then the document's.
+    void aboutToWrite(const QString& file, const QByteArray& bytes);
     /// Another program changed or removed the file, or put things right again; told once for each.
     void stateOnDiskChanged(tavrel::FileIdentity::State state);
 

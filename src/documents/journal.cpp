@@ -4,6 +4,7 @@
 #include "base/safefile.h"
 #include "base/texts.h"
 
+#include <QDataStream>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
@@ -26,6 +27,52 @@ qint64 now() {
 
 const QString contentsEnding = QStringLiteral(".contents");
 
+/// Beside a journal: a save that was begun when the document had been kept so many times.
+struct BegunSave {
+    qint64 number = 0;
+    QString file;
+    QByteArray hash;  ///< of what the file was to hold
+};
+
+QString begunSaveBeside(const QString& journal) {
+    return journal + QStringLiteral(".save");
+}
+
+QByteArray archived(const BegunSave& save) {
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream.setVersion(QDataStream::Qt_6_4);
+    stream << save.number << save.file << save.hash;
+    return bytes;
+}
+
+BegunSave readBegunSave(const QString& journal) {
+    BegunSave save;
+    if (const auto bytes = FileBytes::open(begunSaveBeside(journal))) {
+        QDataStream stream(bytes->bytes().toByteArray());
+        stream.setVersion(QDataStream::Qt_6_4);
+        stream >> save.number >> save.file >> save.hash;
+    }
+    return save;
+}
+
+/// Takes the records from the file where the journal is older than that, because the program ended when it had saved
+/// and not yet kept what was left. Only the form can be unsaved then.
+void takeBegunSave(Unsaved& unsaved, const BegunSave& save) {
+    if (save.hash.isEmpty() || unsaved.number > save.number) {
+        return;
+    }
+    const auto bytes = FileBytes::open(save.file);
+    if (!bytes || contentHash(bytes->bytes()) != save.hash) {
+        return;
+    }
+    unsaved.file = save.file;
+    unsaved.fileHash = save.hash;
+    unsaved.fileSize = bytes->bytes().size();
+    unsaved.isChanged = false;
+    unsaved.contents = [held = bytes->bytes().toByteArray()] { return held; };
+}
+
 /// What was kept in a file, its contents included.
 Expected<Unsaved> readUnsaved(const QString& file) {
     return FileBytes::open(file)
@@ -38,6 +85,7 @@ Expected<Unsaved> readUnsaved(const QString& file) {
                 return failure(text("Main", "Unsaved work not readable"));
             }
             unsaved.contents = [held = bytes->bytes().toByteArray()] { return held; };
+            takeBegunSave(unsaved, readBegunSave(file));
             return std::move(unsaved);
         });
 }
@@ -119,7 +167,7 @@ std::vector<JournalFolder::Left> JournalFolder::left() const {
         }
         const QDir folder(left.folder);
         for (const QString& file : folder.entryList({QStringLiteral("*.journal")}, QDir::Files, QDir::Name)) {
-            if (auto unsaved = readUnsaved(folder.filePath(file))) {
+            if (auto unsaved = readUnsaved(folder.filePath(file)); unsaved && (unsaved->isChanged || unsaved->form)) {
                 left.documents.push_back(std::move(*unsaved));
             }
         }
@@ -141,6 +189,7 @@ Journal::Journal(JournalFolder& folder, Document& document, const QString& recor
     timer_.setSingleShot(true);
     connect(&timer_, &QTimer::timeout, this, &Journal::keepWhenDue);
     connect(&document, &Document::touched, this, &Journal::touch);
+    connect(&document, &Document::aboutToWrite, this, &Journal::noteSave);
     connect(&document, &Document::changedStateChanged, this, [this](bool changed) {
         // What was saved needs no journal, and the next start should not hear of it.
         changed ? touch() : keep();
@@ -178,6 +227,7 @@ void Journal::keep() {
         return;
     }
     unsaved->recordClass = recordClass_;
+    unsaved->number = ++keptTimes_;
     isKept_ = true;
     if (!unsaved->version || version_.lock() != unsaved->version) {
         ++contentsNumber_;
@@ -210,12 +260,20 @@ void Journal::keepNow() {
     folder_.work().waitForDone();
 }
 
+void Journal::noteSave(const QString& file, const QByteArray& bytes) {
+    if (isKept_) {
+        static_cast<void>(
+            writePrivateFile(begunSaveBeside(file_), archived(BegunSave{keptTimes_, file, contentHash(bytes)})));
+    }
+}
+
 void Journal::drop() {
     timer_.stop();
     pace_.taken();
     if (std::exchange(isKept_, false)) {
         folder_.work().start([file = file_, last = kept_] {
             QFile::remove(file);
+            QFile::remove(begunSaveBeside(file));
             QFile::remove(QFileInfo(file).path() + u'/' + last->file.name);
             *last = {};
         });

@@ -99,6 +99,8 @@ private:
     void touch();
     void keepWhenDue();
     void keep();
+    /// Should the program end in the middle of a save, the journal is older than the file, and tells so.
+    void noteSave(const QString& file, const QByteArray& bytes);
 
     JournalFolder& folder_;
     Document& document_;
@@ -107,6 +109,7 @@ private:
     JournalPace pace_;
     QTimer timer_;
     bool isKept_ = false;
+    qint64 keptTimes_ = 0;
     // The contents are written only when they are others than before. The number names their file.
     std::weak_ptr<const void> version_;
     int contentsNumber_ = 0;

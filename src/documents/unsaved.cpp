@@ -57,7 +57,8 @@ QByteArray archived(const Unsaved& unsaved, const ContentsFile& contents) {
     QDataStream stream(&body, QIODevice::WriteOnly);
     stream.setVersion(wireVersion);
     stream << unsaved.recordClass << unsaved.name << unsaved.file << unsaved.fileHash << unsaved.fileSize
-           << unsaved.isChanged << unsaved.records << unsaved.time.toMSecsSinceEpoch() << unsaved.form.has_value();
+           << unsaved.isChanged << unsaved.records << unsaved.time.toMSecsSinceEpoch() << unsaved.number
+           << unsaved.form.has_value();
     if (unsaved.form) {
         writeForm(stream, *unsaved.form);
     }
@@ -89,7 +90,7 @@ Expected<std::pair<Unsaved, ContentsFile>> unarchivedUnsaved(QByteArrayView byte
     qint64 time = 0;
     bool hasForm = false;
     stream >> unsaved.recordClass >> unsaved.name >> unsaved.file >> unsaved.fileHash >> unsaved.fileSize >>
-        unsaved.isChanged >> unsaved.records >> time >> hasForm;
+        unsaved.isChanged >> unsaved.records >> time >> unsaved.number >> hasForm;
     unsaved.time = QDateTime::fromMSecsSinceEpoch(time);
     if (hasForm) {
         unsaved.form = readForm(stream);

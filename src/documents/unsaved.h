@@ -50,6 +50,7 @@ struct Unsaved {
     bool isChanged = true;  ///< the records differ from the file's
     qint32 records = 0;
     QDateTime time;
+    qint64 number = 0;  ///< of the times that the document was kept
     std::optional<UnstoredForm> form;
     /// As long as this is the same, the contents are; null: they may be others each time.
     std::shared_ptr<const void> version;

@@ -305,6 +305,52 @@ TEST_F(Journals, areGoneOnceEverythingIsSaved) {
     EXPECT_FALSE(pathExists(journal.file()));
 }
 
+TEST_F(Journals, knowASaveThatTheyDidNotOutlive) {
+    const QString file = path("leaf");
+    leaf.words = "first";
+    ASSERT_TRUE(leaf.saveAs(file));
+    // What is beside the file when it is written, and stays when the program ends there and then.
+    const auto endWhileSaving = [&](bool types) {
+        JournalFolder folder(parent());
+        Journal journal(folder, leaf, QStringLiteral("Leaf"));
+        leaf.change("second");
+        if (types) {
+            leaf.typeIntoForm(QStringLiteral("typed"));
+        }
+        journal.keepNow();
+        leaf.typed.reset();
+        leaf.change("third");
+        const QString copy = parent() + QStringLiteral("/ended");
+        const auto copying = QObject::connect(&leaf, &Document::aboutToWrite, &leaf, [&] {
+            const QDir kept = QFileInfo(journal.file()).dir();
+            ASSERT_TRUE(QDir().mkdir(copy));
+            for (const QString& name : kept.entryList({QStringLiteral("1*")}, QDir::Files)) {
+                ASSERT_TRUE(QFile::copy(kept.filePath(name), copy + u'/' + name));
+            }
+        });
+        ASSERT_TRUE(leaf.save(Document::Overwriting::yes));
+        QObject::disconnect(copying);
+    };
+    endWhileSaving(true);
+    auto found = left();
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_FALSE(found[0].documents[0].isChanged);
+    EXPECT_EQ(found[0].documents[0].contents(), "third");
+    ASSERT_TRUE(found[0].documents[0].form);
+    found.clear();
+    // The save did not come about: the journal is what there is.
+    ASSERT_TRUE(writeFile(file, "first"));
+    found = left();
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_TRUE(found[0].documents[0].isChanged);
+    EXPECT_EQ(found[0].documents[0].contents(), "second");
+    found[0].discard();
+    // Without a form there is nothing to offer.
+    endWhileSaving(false);
+    EXPECT_TRUE(left().empty());
+    EXPECT_TRUE(QDir(parent()).isEmpty());
+}
+
 TEST_F(Journals, areKeptByThemselvesAfterAChange) {
     JournalFolder folder(parent());
     Journal journal(folder, leaf, QStringLiteral("Leaf"));
