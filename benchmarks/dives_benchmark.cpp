@@ -100,5 +100,3 @@ BENCHMARK(card)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace tavrel
-
-BENCHMARK_MAIN();

@@ -193,5 +193,3 @@ BENCHMARK_CAPTURE(exportText, profiles, "Export Profils CSV (Virgule)")
 }  // namespace
 
 }  // namespace tavrel
-
-BENCHMARK_MAIN();

@@ -3,8 +3,6 @@
 #include "logbook/carnet.h"
 #include "support/testdesktop.h"
 
-#include <QApplication>
-#include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -79,13 +77,3 @@ BENCHMARK(longestKeyAgainstFrame)->UseManualTime()->Unit(benchmark::kMillisecond
 }  // namespace
 
 }  // namespace tavrel
-
-int main(int argc, char** argv) {
-    QTemporaryDir home;
-    qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -141,5 +141,3 @@ BENCHMARK_CAPTURE(save, numbers_literal, Numbers::literal)->Unit(benchmark::kMil
 
 }  // namespace
 }  // namespace tavrel
-
-BENCHMARK_MAIN();

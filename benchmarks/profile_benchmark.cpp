@@ -2,7 +2,6 @@
 #include "profile/profiledrawing.h"
 #include "profile/seriestext.h"
 
-#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <benchmark/benchmark.h>
@@ -84,11 +83,3 @@ BENCHMARK(painting)->Arg(100)->Arg(1000)->Arg(10000)->UseManualTime()->Unit(benc
 }  // namespace
 
 }  // namespace tavrel
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -6,7 +6,6 @@
 #include "recordbooks/recordbooks.h"
 #include "support/testdesktop.h"
 
-#include <QGuiApplication>
 #include <benchmark/benchmark.h>
 #include <zlib.h>
 
@@ -162,11 +161,3 @@ BENCHMARK(makeFilterIndex)->Unit(benchmark::kMillisecond)->UseManualTime();
 
 }  // namespace
 }  // namespace tavrel
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

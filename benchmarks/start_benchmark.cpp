@@ -3,7 +3,6 @@
 #include "logbook/carnet.h"
 #include "support/testdesktop.h"
 
-#include <QApplication>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -82,11 +81,3 @@ BENCHMARK(startWithManyDives)->UseManualTime()->Iterations(5)->Unit(benchmark::k
 }  // namespace
 
 }  // namespace tavrel
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

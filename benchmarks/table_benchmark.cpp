@@ -4,9 +4,7 @@
 #include "logbook/carnet.h"
 #include "support/testdesktop.h"
 
-#include <QApplication>
 #include <QImage>
-#include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 
 #include <random>
@@ -143,13 +141,3 @@ BENCHMARK(sortTheShownTable)->UseManualTime()->Unit(benchmark::kMillisecond)->Mi
 }  // namespace
 
 }  // namespace tavrel
-
-int main(int argc, char** argv) {
-    QTemporaryDir home;
-    qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -58,6 +58,7 @@ struct Control {
     bool beside = false;                    ///< stands behind the control before it instead of under a label
     bool emptyAt1900 = false;               ///< of a date: 1 January 1900 stands for none and shows as empty
     Opens opens = Opens::nothing;           ///< what a text opens on a click with the control key
+    bool fixedPitch = false;                ///< of a long text: a table of figures
     bool alignRight = false;                ///< of a text: numbers kept as typed, prices and quantities
 };
 

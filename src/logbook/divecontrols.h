@@ -264,7 +264,8 @@ struct DiveControls : ControlTable<DiveControls> {
                                                                      .usualMaximum = 100});
 
     const int runtimeGroup = group({3, {"Carnet", "Group run time"}, GroupLayout::pairs, 1, 1});
-    const Id runtimeField = add({.name = "runtimeField", .kind = ControlKind::longText, .field = "runtime"});
+    const Id runtimeField =
+        add({.name = "runtimeField", .kind = ControlKind::longText, .field = "runtime", .fixedPitch = true});
 
     // Page 4: apparatus, tanks and gas.
     const int apparatusGroup = group({4, {"Carnet", "Group apparatus"}, GroupLayout::pairs, 2, wholeWidth});
@@ -379,7 +380,7 @@ struct DiveControls : ControlTable<DiveControls> {
     const Id sncDrawer = add({.name = "sncDrawer", .kind = ControlKind::readOnly});
 
     // Page 5: stage bottles, bail-outs, the dive computer and its profile.
-    const int poniesGroup = group({5, {"Carnet", "Group stage bottles"}, GroupLayout::columns});
+    const int poniesGroup = group({5, {"Carnet", "Group stage bottles"}, GroupLayout::columns, 1, wholeWidth});
     const std::array<Id, 3> pony_TitleField =
         addEach<3>(ponies, {.name = "pony_%_TitleField", .kind = ControlKind::readOnly});
     const std::array<Id, 3> pony_VolumeField = addEach<3>(ponies, {.name = "pony_%_VolumeField",
@@ -406,7 +407,7 @@ struct DiveControls : ControlTable<DiveControls> {
     const std::array<Id, 3> pony_Progress =
         addEach<3>(ponies, {.name = "gaz%Progress", .kind = ControlKind::gauge, .width = 10, .beside = true});
 
-    const int bailoutsGroup = group({5, {"Carnet", "Group bail-outs"}, GroupLayout::columns});
+    const int bailoutsGroup = group({5, {"Carnet", "Group bail-outs"}, GroupLayout::columns, 1, wholeWidth});
     const std::array<Id, 2> bailout_VolumeField = addEach<2>(bailouts, {.name = "bailout_%_VolumeField",
                                                                         .kind = ControlKind::wholeNumber,
                                                                         .field = "volBailout%",
@@ -444,7 +445,7 @@ struct DiveControls : ControlTable<DiveControls> {
     const std::array<Id, 2> bailout_Progress =
         addEach<2>(bailouts, {.name = "gazBailout%Progress", .kind = ControlKind::gauge, .width = 10, .beside = true});
 
-    const int computerGroup = group({5, {"Carnet", "Group computer"}, GroupLayout::pairs, 1, 1});
+    const int computerGroup = group({5, {"Carnet", "Group computer"}, GroupLayout::pairs});
     const Id fabricantField = add({.name = "fabricantField", .field = "fabricant", .label = {"Carnet", "Label maker"}});
     const Id ordinateurField = add({.name = "ordinateurField",
                                     .kind = ControlKind::combo,

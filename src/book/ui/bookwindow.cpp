@@ -18,6 +18,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPrinter>
+#include <QScreen>
 #include <QStatusBar>
 #include <QVBoxLayout>
 
@@ -61,7 +62,7 @@ BookWindow::BookWindow(BookBase& book, Desktop& desktop)
     connect(&book, &BookBase::editWindowRequested, this, &BookWindow::showEditWindow);
     updateState();
 
-    resize(1200, 680);
+    resize(QSize(1200, 680).boundedTo(screen()->availableSize()));
     restoreGeometry(desktop.preferences.windowState(layoutName()));
     table_->setFocus();
     table_->reveal(book.selectedRow() >= 0 ? book.selectedRow() : book.count() - 1);

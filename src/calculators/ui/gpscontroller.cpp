@@ -6,9 +6,9 @@
 #include "calculators/position.h"
 #include "calculators/ui/calculatorwidgets.h"
 #include "calculators/ui/resultmark.h"
+#include "desktop/ui/fixedpitch.h"
 
 #include <QComboBox>
-#include <QFontDatabase>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -81,11 +81,13 @@ GpsController::GpsController(QWidget* parent) : QDialog(parent), mark_(new Resul
     left->addWidget(altitude);
     left->addWidget(newSexagesimal());
     left->addWidget(newDecimal());
-    left->addWidget(newOutput());
     left->addStretch();
+    auto* right = new QVBoxLayout;
+    right->addWidget(newOutput());
+    right->addWidget(newReport(), 1);
     auto* layout = new QHBoxLayout(this);
     layout->addLayout(left);
-    layout->addWidget(newReport(), 1);
+    layout->addLayout(right, 1);
     for (QWidget* input :
          std::initializer_list<QWidget*>{longitude_in_degreeField, longitude_in_minutesField, longitude_in_secondsField,
                                          latitude_in_degreeField, latitude_in_minutesField, latitude_in_secondsField,
@@ -252,9 +254,7 @@ QGroupBox* GpsController::newReport() {
     gpsDataField->setAccessibleName(text(Title("Calculators", "Report")));
     gpsDataField->setReadOnly(true);
     gpsDataField->setTabChangesFocus(true);
-    QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    fixed.setPointSizeF(font().pointSizeF());
-    gpsDataField->setFont(fixed);
+    gpsDataField->setFont(fixedPitch(font()));
     // Room for the whole report and its longest line, a geocentric coordinate.
     const QFontMetrics metrics = gpsDataField->fontMetrics();
     const auto lines = static_cast<int>(reportLines(gpsReport({})).size()) + 1;

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QScreen>
 #include <QWidget>
 
 namespace tavrel {
@@ -11,6 +12,7 @@ namespace tavrel {
 KeptFrame::KeptFrame(QWidget& window, Preferences& preferences, const QString& name)
     : QObject(&window), window_(window), preferences_(preferences), name_(name) {
     window.restoreGeometry(preferences.windowState(name));
+    window.resize(window.size().boundedTo(window.screen()->availableSize()));
     window.installEventFilter(this);
     // A window that is still open at the end is not hidden before it goes.
     connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, [this] {

@@ -9,7 +9,8 @@ namespace tavrel {
 
 class Preferences;
 
-/// Gives a window the place and size it had when it was hidden last, under a name in the preferences.
+/// Gives a window the place and size it had when it was hidden last, under a name in the preferences, and no more than
+/// the screen holds.
 class KeptFrame : public QObject {
 public:
     /// Becomes a child of the window.

@@ -1,6 +1,7 @@
 #include "forms/ui/formcontrol.h"
 
 #include "base/texts.h"
+#include "desktop/ui/fixedpitch.h"
 #include "desktop/ui/readablecolour.h"
 #include "forms/ui/datepicker.h"
 #include "forms/ui/listcombo.h"
@@ -231,6 +232,9 @@ private:
 class LongTextControl : public FormControl {
 public:
     LongTextControl(FormStateBase& state, int index) : FormControl(state, index, new QPlainTextEdit) {
+        if (control().fixedPitch) {
+            edit()->setFont(fixedPitch(edit()->font()));
+        }
         edit()->setTabChangesFocus(true);
         edit()->setMinimumHeight(6 * edit()->fontMetrics().lineSpacing());
         edit()->setMinimumWidth(widthOfCharacters(edit(), 24));

@@ -1,10 +1,10 @@
 #include "profile/ui/profileeditorwindow.h"
 
+#include "desktop/ui/fixedpitch.h"
 #include "desktop/ui/keptframe.h"
 
 #include <QAction>
 #include <QCheckBox>
-#include <QFontDatabase>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -65,9 +65,7 @@ ProfileEditorWindow::Column ProfileEditorWindow::newColumn(const EditedSeries& e
     auto* text = new QPlainTextEdit;
     text->setObjectName(QLatin1StringView(edited.textField));
     text->setAccessibleName(edited.title.text());
-    QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    fixed.setPointSizeF(text->font().pointSizeF());
-    text->setFont(fixed);
+    text->setFont(fixedPitch(text->font()));
     text->setLineWrapMode(QPlainTextEdit::NoWrap);
     text->setTabChangesFocus(true);
     auto* count = new QLabel;
