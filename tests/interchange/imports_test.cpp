@@ -38,10 +38,9 @@ protected:
         EXPECT_TRUE(result) << (result ? "" : result.error().message().toStdString());
         return result.value_or(ImportResult());
     }
-    const Plongee& dive(int row) { return *carnet.recordAt(row); }
     const Plongee& taken(const QByteArray& bytes) {
         EXPECT_TRUE(take(bytes).isWhole());
-        return dive(carnet.count() - 1);
+        return *carnet.recordAt(carnet.count() - 1);
     }
 
     TestDesktop desktop;
@@ -88,26 +87,19 @@ TEST_F(Imports, typeADiveOfUDCFIntoTheForm) {
 }
 
 TEST_F(Imports, tellGasesByTheirFractions) {
-    struct Case {
-        const char *oxygen, *helium;
-        int gas, o2Mix, heMix;
-    };
     // The cleared form says air; percentages are truncated, and those out of range corrected by the form.
-    const Case cases[] = {
-        {"0.21", "0", 0, 21, 0},     {"0.32", "0.00", 1, 32, 0},  {"0.29", "0", 1, 28, 0},
-        {"0.18", "0.45", 2, 18, 45}, {"0.20", "0.80", 3, 20, 80}, {"0.19", "0", 0, 19, 0},
-        {"0", "0", 0, 21, 0},        {"0.10", "0.90", 3, 10, 0},  {"1.00", "0", 1, 100, 0},
-        {"0,5", "none", 0, 21, 0},   {"0.25", "0.25", 2, 25, 25},
+    const std::tuple<QByteArray, QByteArray, std::array<qint32, 3>> cases[] = {
+        {"0.21", "0", {0, 21, 0}},     {"0.32", "0.00", {1, 32, 0}},  {"0.29", "0", {1, 28, 0}},
+        {"0.18", "0.45", {2, 18, 45}}, {"0.20", "0.80", {3, 20, 80}}, {"0.19", "0", {0, 19, 0}},
+        {"0", "0", {0, 21, 0}},        {"0.10", "0.90", {3, 10, 0}},  {"1.00", "0", {1, 100, 0}},
+        {"0,5", "none", {0, 21, 0}},   {"0.25", "0.25", {2, 25, 25}},
     };
-    for (const Case& it : cases) {
-        const QByteArray oxygen = it.oxygen;
-        const QByteArray helium = it.helium;
+    for (const auto& [oxygen, helium, gas] : cases) {
         for (const QByteArray& file : {udcf(udcfDive({}, "<O2>" + oxygen + "</O2><HE>" + helium + "</HE><TANK/>")),
                                        handheld("<dive><gases><mix><o2>" + oxygen + "</o2><he>" + helium +
                                                 "</he><tank/></mix></gases></dive>")}) {
             const Plongee& dive = taken(file);
-            EXPECT_EQ((std::array{dive.gaz, dive.o2Mix, dive.heMix}), (std::array{it.gas, it.o2Mix, it.heMix}))
-                << it.oxygen << '/' << it.helium;
+            EXPECT_EQ((std::array{dive.gaz, dive.o2Mix, dive.heMix}), gas) << file.toStdString();
         }
     }
 }
@@ -116,9 +108,9 @@ TEST_F(Imports, tellTheSamplingCodeByTheInterval) {
     const std::pair<const char*, int> cases[] = {{"10.0", 0}, {"20", 1},  {"30", 2}, {"60.0", 3}, {"120", 4},
                                                  {"4", 5},    {"1.0", 6}, {"5", 7},  {"7", 0},    {"", 0}};
     for (const auto& [delta, code] : cases) {
-        EXPECT_EQ(taken(udcf(udcfDive({}, "<TANK/>", QByteArray("<DELTA>") + delta + "</DELTA>"))).samplingRate, code)
-            << delta;
-        EXPECT_EQ(dive(carnet.count() - 1).profilProfondeur.size(), 1U) << "no depth is no profile";
+        const Plongee& dive = taken(udcf(udcfDive({}, "<TANK/>", QByteArray("<DELTA>") + delta + "</DELTA>")));
+        EXPECT_EQ(dive.samplingRate, code) << delta;
+        EXPECT_EQ(dive.profilProfondeur.size(), 1U) << "no depth is no profile";
     }
 }
 
@@ -217,8 +209,8 @@ TEST_F(Imports, numberOnFromTheLastDiveAndUndoAsOneStep) {
     carnet.appendDives(QStringLiteral("add"), {last});
     carnet.selectRows({0});
     EXPECT_EQ(take(udcf(udcfDive({}) + udcfDive({}))).message(), u"2 dives were imported. Without a date: 2.");
-    EXPECT_EQ(dive(1).noPlongee, 58);
-    EXPECT_EQ(dive(2).noPlongee, 59);
+    EXPECT_EQ(carnet.recordAt(1)->noPlongee, 58);
+    EXPECT_EQ(carnet.recordAt(2)->noPlongee, 59);
     EXPECT_TRUE(carnet.isChanged());
     EXPECT_TRUE(carnet.selectedRows().isEmpty()) << "the form no longer shows the dive that was selected";
     carnet.undoStack().undo();

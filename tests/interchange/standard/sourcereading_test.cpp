@@ -30,6 +30,10 @@ QByteArray dive(const QByteArray& before, const QByteArray& rest = {}) {
            "</informationbeforedive>" + rest + "</dive></repetitiongroup></profiledata></uddf>";
 }
 
+Plongee diveRead(const QByteArray& before, const QByteArray& rest = {}) {
+    return read(dive(before, rest)).dives.at(0).dive;
+}
+
 QString startText(const Plongee& dive) {
     return startOf(dive).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
 }
@@ -174,37 +178,35 @@ TEST(Uddf, readsTheClockHoweverItIsWritten) {
         {"<datetime>yesterday</datetime>", u""},
     };
     for (const auto& [before, start] : cases) {
-        EXPECT_EQ(startText(read(dive(before)).dives.at(0).dive), QStringView(start)) << before;
+        EXPECT_EQ(startText(diveRead(before)), QStringView(start)) << before;
     }
 }
 
 TEST(Uddf, keepsTheDayOfATimeThatNoClockShowed) {
     const QByteArray zone = qgetenv("TZ");
-    struct Case {
-        const char *zone, *moment;
-    };
-    for (const Case& it :
-         {Case{"Europe/Paris", "2019-03-31T02:30:00"}, Case{"America/Sao_Paulo", "2018-11-04T00:10:00"},
-          Case{"America/Santiago", "2019-09-08T00:00:00"}, Case{"America/Havana", "2019-03-10T00:45:00"}}) {
-        qputenv("TZ", it.zone);
+    const std::pair<const char*, QByteArray> cases[] = {{"Europe/Paris", "2019-03-31T02:30:00"},
+                                                        {"America/Sao_Paulo", "2018-11-04T00:10:00"},
+                                                        {"America/Santiago", "2019-09-08T00:00:00"},
+                                                        {"America/Havana", "2019-03-10T00:45:00"}};
+    for (const auto& [name, moment] : cases) {
+        qputenv("TZ", name);
         tzset();
-        const Plongee skipped = read(dive("<datetime>" + QByteArray(it.moment) + "</datetime>")).dives.at(0).dive;
-        EXPECT_EQ(startOf(skipped).toString(Qt::ISODate), QLatin1String(it.moment) + u'Z') << it.zone;
+        const Plongee skipped = diveRead("<datetime>" + moment + "</datetime>");
+        EXPECT_EQ(startOf(skipped).toString(Qt::ISODate), QLatin1String(moment) + u'Z') << name;
     }
     zone.isNull() ? qunsetenv("TZ") : qputenv("TZ", zone);
     tzset();
 }
 
 TEST(Uddf, takesNumbersOfNoSenseForNone) {
-    const FoundDives found = read(dive("<altitude>-3</altitude><divenumber>-2</divenumber>",
-                                       R"(<samples>
+    const Plongee it = diveRead("<altitude>-3</altitude><divenumber>-2</divenumber>",
+                                R"(<samples>
         <waypoint><depth>nan</depth><divetime>0</divetime></waypoint>
         <waypoint><depth>1e32</depth><divetime>10</divetime></waypoint>
         <waypoint><depth>5</depth><divetime>1e18</divetime><tankpressure>-1</tankpressure></waypoint>
         <waypoint><depth>7</depth></waypoint>
         </samples><informationafterdive><greatestdepth>-4</greatestdepth><diveduration>0</diveduration>
-        <lowesttemperature>9999</lowesttemperature></informationafterdive>)"));
-    const Plongee& it = found.dives.at(0).dive;
+        <lowesttemperature>9999</lowesttemperature></informationafterdive>)");
     EXPECT_EQ((std::array{it.altitude, it.noPlongee, it.tempEau}), (std::array{0, 0, -50}));
     EXPECT_EQ(it.profondeur, 7.0F);
     EXPECT_EQ(it.profilProfondeur.size(), 4U) << "from the start on";
@@ -212,7 +214,7 @@ TEST(Uddf, takesNumbersOfNoSenseForNone) {
 }
 
 TEST(Uddf, spreadsWaypointsWithoutATime) {
-    const FoundDives found = read(dive({}, R"(<samples>
+    const Plongee it = diveRead({}, R"(<samples>
         <waypoint><depth>0</depth></waypoint>
         <waypoint><depth>4</depth><divetime>5</divetime></waypoint>
         <waypoint><depth>8</depth></waypoint>
@@ -220,8 +222,7 @@ TEST(Uddf, spreadsWaypointsWithoutATime) {
         <waypoint><divetime>20</divetime></waypoint>
         <waypoint><depth/></waypoint>
         <waypoint><depth>2</depth></waypoint>
-        <waypoint><depth>1</depth></waypoint></samples>)"));
-    const Plongee& it = found.dives.at(0).dive;
+        <waypoint><depth>1</depth></waypoint></samples>)");
     EXPECT_EQ(it.samplingRate, 7) << "5 s";
     const std::array expected{0.0, 4.0, 8.0, 12.0, 12 - 10.0 / 3, 12 - 20.0 / 3, 2.0, 1.0};
     ASSERT_EQ(it.profilProfondeur.size(), expected.size());
@@ -231,11 +232,11 @@ TEST(Uddf, spreadsWaypointsWithoutATime) {
 }
 
 TEST(Uddf, sortsWaypointsByTheirTimes) {
-    const FoundDives found = read(dive({}, R"(<samples>
+    const Plongee it = diveRead({}, R"(<samples>
         <waypoint><divetime>20</divetime><depth>9</depth></waypoint>
         <waypoint><divetime>0</divetime><depth>1</depth></waypoint>
-        <waypoint><divetime>10</divetime><depth>5</depth></waypoint></samples>)"));
-    EXPECT_EQ(found.dives.at(0).dive.profilProfondeur, Series::ofReals({1, 5, 9}));
+        <waypoint><divetime>10</divetime><depth>5</depth></waypoint></samples>)");
+    EXPECT_EQ(it.profilProfondeur, Series::ofReals({1, 5, 9}));
 }
 
 TEST(Uddf, takesWhatTheDiveLacksFromItsWaypoints) {
@@ -258,11 +259,7 @@ TEST(Uddf, takesWhatTheDiveLacksFromItsWaypoints) {
 }
 
 TEST(Uddf, tellsARebreatherFromASetPointOfOpenCircuit) {
-    struct Case {
-        const char* samples;
-        qint32 apparatus, setPoint;
-    };
-    const Case cases[] = {
+    const std::tuple<QByteArray, qint32, qint32> cases[] = {
         {"<waypoint><divemode type='opencircuit'/><setpo2>130000</setpo2></waypoint>", 0, 0},
         {"<waypoint><setpo2>0</setpo2></waypoint>", 0, 0},
         {"<waypoint><setpo2>1.3</setpo2></waypoint>", 3, 2},
@@ -270,10 +267,10 @@ TEST(Uddf, tellsARebreatherFromASetPointOfOpenCircuit) {
         {"<waypoint><divemode type='closedcircuit'/></waypoint><waypoint><divemode type='opencircuit'/></waypoint>", 3,
          0},
     };
-    for (const Case& it : cases) {
-        const Plongee found = read(dive({}, "<samples>" + QByteArray(it.samples) + "</samples>")).dives.at(0).dive;
-        EXPECT_EQ(found.rebreather, it.apparatus) << it.samples;
-        EXPECT_EQ(found.ppO2, it.setPoint) << it.samples;
+    for (const auto& [samples, apparatus, setPoint] : cases) {
+        const Plongee found = diveRead({}, "<samples>" + samples + "</samples>");
+        EXPECT_EQ(found.rebreather, apparatus) << samples.toStdString();
+        EXPECT_EQ(found.ppO2, setPoint) << samples.toStdString();
     }
 }
 
@@ -287,15 +284,11 @@ TEST(Uddf, boundsTheSamplesOfADive) {
         samples += "<waypoint><depth>" + QByteArray::number(second % 40) + "</depth><divetime>" +
                    QByteArray::number(second) + "</divetime></waypoint>";
     }
-    const FoundDives found = read(dive({}, samples + "</samples>"));
-    EXPECT_EQ(found.dives.at(0).dive.profilProfondeur.size(), 100'000U);
+    EXPECT_EQ(diveRead({}, samples + "</samples>").profilProfondeur.size(), 100'000U);
     // A few points that would come to more samples than a dive may have.
-    const Plongee endless = read(dive({},
-                                      "<samples><waypoint><depth>1</depth><divetime>0</divetime></waypoint>"
-                                      "<waypoint><depth>1</depth><divetime>999999999</divetime></waypoint></samples>"))
-                                .dives.at(0)
-                                .dive;
-    EXPECT_FALSE(endless.hasProfile());
+    EXPECT_FALSE(diveRead({}, R"(<samples><waypoint><depth>1</depth><divetime>0</divetime></waypoint>
+        <waypoint><depth>1</depth><divetime>999999999</divetime></waypoint></samples>)")
+                     .hasProfile());
 }
 
 TEST(Udcf, isReadAsItWasMeant) {
@@ -349,31 +342,26 @@ TEST(FoundDives, areDoubtedWithAReason) {
 }
 
 TEST(FoundDives, areRecognisedWithinTwoMinutesAndLikeDepthAndLength) {
-    Plongee held = unknownDive();
-    setStart(held, QDate(2020, 5, 1), QTime(10, 0));
-    held.profondeur = 20;
-    held.temps = 40;
-    struct Case {
-        QTime time;
-        float depth;
-        int minutes;
-        bool duplicate;
+    const auto diveAt = [](const QTime& time, float depth, int minutes) {
+        Plongee dive = unknownDive();
+        setStart(dive, QDate(2020, 5, 1), time);
+        dive.profondeur = depth;
+        dive.temps = minutes;
+        return dive;
     };
-    const Case cases[] = {
+    const Plongee held = diveAt(QTime(10, 0), 20, 40);
+    const std::tuple<QTime, float, int, bool> cases[] = {
         {QTime(10, 0), 20, 40, true},      {QTime(10, 2), 20.9F, 43, true},  {QTime(9, 58), 19.1F, 38, true},
         {QTime(10, 2, 1), 20, 40, false},  {QTime(10, 0), 21.2F, 40, false}, {QTime(10, 0), 20, 46, false},
         {QTime(9, 57, 59), 20, 40, false},
     };
-    for (const Case& it : cases) {
+    for (const auto& [time, depth, minutes, isDuplicate] : cases) {
         FoundDives found;
         found.dives.resize(1);
-        found.dives[0].dive = held;
-        setStart(found.dives[0].dive, QDate(2020, 5, 1), it.time);
-        found.dives[0].dive.profondeur = it.depth;
-        found.dives[0].dive.temps = it.minutes;
+        found.dives[0].dive = diveAt(time, depth, minutes);
         markDuplicates(found, {std::make_shared<const Plongee>(held)});
-        EXPECT_EQ(found.dives[0].duplicate, it.duplicate)
-            << it.time.toString().toStdString() << ' ' << it.depth << ' ' << it.minutes;
+        EXPECT_EQ(found.dives[0].duplicate, isDuplicate)
+            << time.toString().toStdString() << ' ' << depth << ' ' << minutes;
     }
     // In one file only the very same dive is there twice; two computers tell it differently.
     FoundDives twins;

@@ -1,9 +1,11 @@
 #include "interchange/standard/uddfwriting.h"
 
 #include "base/safefile.h"
+#include "interchange/standard/csvtext.h"
 #include "interchange/standard/divedifference.h"
 #include "interchange/standard/founddive.h"
 #include "interchange/standard/sourcereading.h"
+#include "interchange/standard/tablereading.h"
 #include "support/printing.h"
 
 #include <gtest/gtest.h>
@@ -243,6 +245,12 @@ TEST(UddfWriting, bringsBackRandomDives) {
         dive.ASC_Flag = Series::ofIntegers(flags);
         dive.CEIL_Flag = Series::ofIntegers(flags);
         EXPECT_EQ(lostFields(dive), std::set<std::string_view>()) << round;
+        // A table holds every field as it is.
+        dive.profondeur = static_cast<float>(below(900)) / 7;
+        dive.partenaires = QStringLiteral("Ann,  Bo , ");
+        const auto table = readTable(*writeCsv({shared(dive)}));
+        ASSERT_TRUE(table && table->found.dives.size() == 1);
+        EXPECT_EQ(differingFields(dive, table->found.dives[0].dive), std::vector<std::string_view>()) << round;
     }
 }
 
