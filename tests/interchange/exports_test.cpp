@@ -4,6 +4,7 @@
 #include "interchange/xml/xmltree.h"
 #include "support/files.h"
 #include "support/printing.h"
+#include "support/records.h"
 #include "support/testdesktop.h"
 
 #include <gtest/gtest.h>
@@ -18,36 +19,17 @@ Date localDate(int year, int month, int day, int hour, int minute) {
 
 Plongee wreckDive() {
     Plongee dive;
-    dive.noPlongee = 57;
+    setFields(dive, Plongee::layout(), R"(noPlongee=57; lieu=Étretat; site=A & <B>; pays=France; coeff=95;
+        surface=--:--; profondeur=18.75; temps=42; pressionDepart=200; pressionFin=55; volumeBloc=15; o2Mix=32; gaz=1;
+        altitude=4; tempEau=-50; tempAir=21; meteo=6; courant=5; visibilite=8; partenaires=Zoé, "Max";
+        samplingRate=6; profilProfondeur=0.25 18.75 6; PRESS_Data=0)");
     dive.date = localDate(2014, 7, 5, 9, 0);
     dive.heure = localDate(2001, 1, 1, 9, 5);
-    dive.lieu = QStringLiteral("Étretat");
-    dive.site = QStringLiteral("A & <B>");
-    dive.pays = QStringLiteral("France");
-    dive.coeff = 95;
-    dive.surface = QStringLiteral("--:--");
-    dive.profondeur = 18.75F;
-    dive.temps = 42;
-    dive.pressionDepart = 200;
-    dive.pressionFin = 55;
-    dive.volumeBloc = 15;
-    dive.o2Mix = 32;
-    dive.gaz = 1;
-    dive.altitude = 4;
-    dive.tempEau = -50;
-    dive.tempAir = 21;
-    dive.meteo = 6;
-    dive.courant = 5;
-    dive.visibilite = 8;
-    dive.partenaires = QStringLiteral("Zoé, \"Max\"");
-    dive.samplingRate = 6;
-    dive.profilProfondeur = Series::ofReals({0.25, 18.75, 6});
     dive.ASC_Flag = Series::ofIntegers({0, 1, 2});
     dive.SLOW_Flag = Series::ofIntegers({0, 1, 0});
     dive.SURF_Flag = Series::ofIntegers({0, 1, 1});
     dive.CEIL_Flag = Series::ofIntegers({0, 1});
     dive.GAZ_Flag = Series::ofIntegers({1, 0, 3});
-    dive.PRESS_Data = Series::ofReals({0});
     return dive;
 }
 
@@ -249,10 +231,7 @@ std::string withSeparator(std::string line, const std::string& separator) {
 TEST_F(Exports, writeTheDiveListAsMacRomanText) {
     const FrenchLocale french;
     Plongee coded;
-    coded.meteo = 7;
-    coded.courant = -1;
-    coded.visibilite = 7;
-    coded.profondeur = 12;
+    setFields(coded, Plongee::layout(), "meteo=7; courant=-1; visibilite=7; profondeur=12");
     add({wreckDive(), coded});
     // The text's own comma and quotes stand as they are.
     const std::string buddies = "Zo\x8e, \"Max\"";

@@ -31,6 +31,11 @@ QByteArray udcfDive(const QByteArray& elements, const QByteArray& mix = "<TANK/>
     return "<DIVE>" + elements + "<GASES><MIX>" + mix + "</MIX></GASES><SAMPLES>" + samples + "</SAMPLES></DIVE>";
 }
 
+/// What fields of the dive hold.
+QString in(const Plongee& dive, const char* names) {
+    return fieldsOf(dive, Plongee::layout(), names);
+}
+
 class Imports : public testing::Test {
 protected:
     ImportResult take(const QByteArray& bytes, const Progress& progress = {}) {
@@ -62,20 +67,13 @@ TEST_F(Imports, typeADiveOfUDCFIntoTheForm) {
         <TANK><TANKVOLUME>12</TANKVOLUME><TANKVOLUME>15</TANKVOLUME><PSTART>200</PSTART><PEND>210</PEND></TANK><TANK/>)",
                                               R"(<DELTA>20</DELTA><DELTA>4.9</DELTA><SWITCH>1</SWITCH><D>0.0</D>
         <D>12.7</D><ALARM>deco</ALARM><D>12.9</D><D>13,5</D><D>-40</D><D>deep</D>)")));
-    EXPECT_EQ(dive.noPlongee, 1);
-    EXPECT_EQ(dive.lieu, QStringLiteral("Étretat - A & B"));
-    EXPECT_EQ(dive.site, u"");
+    EXPECT_EQ(in(dive, "noPlongee lieu site surface"), u"1; Étretat - A & B; ; --:--");
     EXPECT_EQ(localText(dive.date), u"2014-08-01 09:05:00");
     EXPECT_EQ(dive.heure.toDateTime().time(), QTime(9, 5));
-    EXPECT_EQ(dive.surface, u"--:--");
-    EXPECT_EQ(dive.tempEau, -4);
-    EXPECT_EQ(dive.altitude, 0);
-    EXPECT_EQ((std::array{dive.meteo, dive.courant, dive.visibilite, dive.typePlongee}), (std::array{7, 6, 7, 8}));
-    EXPECT_EQ(dive.temps, 4) << "the interval";
-    EXPECT_EQ(dive.samplingRate, 5);
+    EXPECT_EQ(in(dive, "tempEau altitude meteo courant visibilite typePlongee"), u"-4; 0; 7; 6; 7; 8");
+    EXPECT_EQ(in(dive, "temps samplingRate"), u"4; 5") << "the interval";
     EXPECT_EQ(dive.profondeur, 13.0F) << "the greatest depth without its fraction";
-    EXPECT_EQ((std::array{dive.gaz, dive.o2Mix, dive.heMix}), (std::array{2, 18, 45}));
-    EXPECT_EQ((std::array{dive.volumeBloc, dive.pressionDepart, dive.pressionFin}), (std::array{15, 200, 210}));
+    EXPECT_EQ(in(dive, "gaz o2Mix heMix volumeBloc pressionDepart pressionFin"), u"2; 18; 45; 15; 200; 210");
     Series depths;
     depths.append(std::array{0.0F, 12.7F, 12.9F, 13.0F, -40.0F, 0.0F});
     EXPECT_EQ(dive.profilProfondeur, depths);
@@ -131,19 +129,16 @@ TEST_F(Imports, typeADiveOfUDDFIntoTheForm) {
         </samples></dive>)"));
     EXPECT_EQ(localText(dive.date), u"2019-12-24 23:59:00");
     EXPECT_EQ(dive.heure.toDateTime().time(), QTime(23, 59));
-    EXPECT_EQ(dive.tempAir, 0);
-    EXPECT_EQ(dive.tempEau, 27);
-    EXPECT_EQ(dive.profondeur, 31.4F);
+    EXPECT_EQ(in(dive, "tempAir tempEau profondeur temps"), u"0; 27; 31.4; 49");
     EXPECT_EQ(dive.notes, u"Deux raies & un congre");
-    EXPECT_EQ(dive.temps, 49);
     Series depths;
     depths.append(std::array{12.36F, 120.5F, 3.2592999F});
     EXPECT_EQ(dive.profilProfondeur, depths);
-    EXPECT_EQ((std::array{dive.meteo, dive.courant, dive.visibilite, dive.typePlongee}), (std::array{7, 6, 7, 8}));
+    EXPECT_EQ(in(dive, "meteo courant visibilite typePlongee"), u"7; 6; 7; 8");
 
     // Nothing but a dive: the temperatures of nothing lie outside what the form takes.
     const Plongee& bare = taken(uddf("<dive><lowesttemperature>250</lowesttemperature></dive>"));
-    EXPECT_EQ((std::array{bare.noPlongee, bare.tempAir, bare.tempEau, bare.temps}), (std::array{2, -50, -50, 0}));
+    EXPECT_EQ(in(bare, "noPlongee tempAir tempEau temps"), u"2; -50; -50; 0");
     EXPECT_EQ(taken(uddf("<dive><airtemperature>250</airtemperature></dive>")).tempAir, -23);
 }
 
@@ -156,18 +151,14 @@ TEST_F(Imports, typeADiveOfTheHandheldIntoTheForm) {
         <watertemperature>19</watertemperature><airrtemperature>25</airrtemperature><altitude>10</altitude>
         <surfaceinterval>2:30</surfaceinterval>)" +
                                          gases + "</dive>"));
-    EXPECT_EQ(dive.lieu, u"Gozo");
-    EXPECT_EQ(dive.site, u"Blue Hole");
+    EXPECT_EQ(in(dive, "lieu site surface"), u"Gozo; Blue Hole; --:--");
     EXPECT_EQ(localText(dive.date), u"2011-05-03 10:00:00");
-    EXPECT_EQ((std::array{dive.meteo, dive.courant, dive.visibilite, dive.typePlongee}), (std::array{3, 2, 8, 0}));
-    EXPECT_EQ(dive.profondeur, 32.0F);
-    EXPECT_EQ((std::array{dive.temps, dive.tempEau, dive.tempAir, dive.altitude}), (std::array{41, 19, 25, 10}));
-    EXPECT_EQ(dive.surface, u"--:--");
-    EXPECT_EQ(dive.volumeBloc, 12);
+    EXPECT_EQ(in(dive, "meteo courant visibilite typePlongee"), u"3; 2; 8; 0");
+    EXPECT_EQ(in(dive, "profondeur temps tempEau tempAir altitude volumeBloc"), u"32; 41; 19; 25; 10; 12");
     EXPECT_EQ(dive.profilProfondeur, Series::ofReals({0}));
 
     const Plongee& bare = taken(handheld("<dive><airtemperature>25</airtemperature>" + gases + "</dive>"));
-    EXPECT_EQ((std::array{bare.meteo, bare.visibilite, bare.tempEau, bare.tempAir}), (std::array{7, 7, -50, -50}));
+    EXPECT_EQ(in(bare, "meteo visibilite tempEau tempAir"), u"7; 7; -50; -50");
     EXPECT_EQ(bare.date.toIso().left(13), bare.heure.toIso().left(13));
 }
 
@@ -281,20 +272,14 @@ TEST_F(Imports, canBeCancelledAndKeepWhatWasTaken) {
 
 TEST_F(Imports, takeBackWhatTheExportsWrite) {
     Plongee dive;
-    dive.lieu = QStringLiteral("Bonifacio");
-    dive.site = QStringLiteral("Mérouville");
-    dive.profilProfondeur = Series::ofReals({3.14, 20});
+    setFields(dive, Plongee::layout(),
+              "lieu=Bonifacio; site=Mérouville; profilProfondeur=3.14 20; samplingRate=6; temps=33; o2Mix=21");
     dive.ASC_Flag = Series::ofIntegers({1, 1});
-    dive.samplingRate = 6;
-    dive.temps = 33;
-    dive.o2Mix = 21;
     dive.date = Date::fromDateTime(QDateTime(QDate(2020, 2, 29), QTime(0, 0)));
     dive.heure = Date::fromDateTime(QDateTime(QDate(2020, 2, 29), QTime(14, 45)));
     carnet.appendDives(QStringLiteral("add"), {dive});
     const Plongee& again = taken(*exportUDCFFormat(carnet));
-    EXPECT_EQ(again.lieu, QStringLiteral("Bonifacio - Mérouville"));
-    EXPECT_EQ(again.samplingRate, 7);
-    EXPECT_EQ(again.temps, 5);
+    EXPECT_EQ(in(again, "lieu samplingRate temps"), u"Bonifacio - Mérouville; 7; 5");
     EXPECT_EQ(localText(again.date), u"2020-02-29 14:45:00");
     Series depths;
     depths.append(std::array{0.0F, 3.1F, 20.0F, 0.0F});

@@ -2,6 +2,7 @@
 
 #include "base/safefile.h"
 #include "support/printing.h"
+#include "support/records.h"
 
 #include <gtest/gtest.h>
 
@@ -38,6 +39,11 @@ QString startText(const Plongee& dive) {
     return startOf(dive).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
 }
 
+/// What fields of the dive hold.
+QString in(const Plongee& dive, const char* names) {
+    return fieldsOf(dive, Plongee::layout(), names);
+}
+
 bool loses(const FoundDive& found, const char* name) {
     return std::any_of(found.lost.begin(), found.lost.end(),
                        [&](const LostItem& item) { return item.name == QLatin1String(name); });
@@ -47,27 +53,14 @@ TEST(Uddf, givesADiveEverythingThatItsLinksTell) {
     const FoundDives found = readFixture("two-seconds.uddf", SourceKind::uddf);
     ASSERT_EQ(found.dives.size(), 1U);
     const Plongee& dive = found.dives[0].dive;
-    EXPECT_EQ(dive.noPlongee, 7);
     EXPECT_EQ(startText(dive), u"2021-06-30 09:41:30") << "as the clock on the boat showed it";
-    EXPECT_EQ(dive.lieu, QStringLiteral("Port-Cros"));
-    EXPECT_EQ(dive.site, QStringLiteral("La Gabinière"));
-    EXPECT_EQ(dive.pays, u"France");
-    EXPECT_EQ(dive.gps, QStringLiteral("N 42° 59.298'  E 006° 23.550'"));
-    EXPECT_EQ(dive.epaves, u"Le Donator");
-    EXPECT_EQ(dive.structure, u"Club du Port");
-    EXPECT_EQ(dive.partenaires, QStringLiteral("Zoé Martin, Max"));
-    EXPECT_EQ(dive.surface, u"1:31");
-    EXPECT_EQ(dive.profondeur, 6.47F);
-    EXPECT_EQ((std::array{dive.temps, dive.tempEau, dive.tempAir}), (std::array{45, 15, 26}));
-    EXPECT_EQ((std::array{dive.gaz, dive.o2Mix, dive.heMix}), (std::array{1, 32, 0}));
-    EXPECT_EQ((std::array{dive.alliageBloc, dive.volumeBloc, dive.pressionDepart, dive.pressionFin}),
-              (std::array{2, 12, 201, 70}));
-    EXPECT_EQ((std::array{dive.visibilite, dive.courant, dive.typePlongee, dive.combinaison, dive.inoubliable}),
-              (std::array{1, 3, 3, 1, 1}));
-    EXPECT_EQ(dive.lestage, 4.5F);
-    EXPECT_EQ((QStringList{dive.fabricant, dive.ordinateur, dive.serie, dive.equip_1, dive.equip_2}),
-              (QStringList{QStringLiteral("Reef"), QStringLiteral("Two"), QStringLiteral("0042"),
-                           QStringLiteral("Red fins"), QString()}));
+    EXPECT_EQ(in(dive, "noPlongee lieu site pays"), u"7; Port-Cros; La Gabinière; France");
+    EXPECT_EQ(in(dive, "gps epaves structure"), u"N 42° 59.298'  E 006° 23.550'; Le Donator; Club du Port");
+    EXPECT_EQ(in(dive, "partenaires surface profondeur"), u"Zoé Martin, Max; 1:31; 6.47");
+    EXPECT_EQ(in(dive, "temps tempEau tempAir gaz o2Mix heMix"), u"45; 15; 26; 1; 32; 0");
+    EXPECT_EQ(in(dive, "alliageBloc volumeBloc pressionDepart pressionFin"), u"2; 12; 201; 70");
+    EXPECT_EQ(in(dive, "visibilite courant typePlongee combinaison inoubliable lestage"), u"1; 3; 3; 1; 1; 4.5");
+    EXPECT_EQ(in(dive, "fabricant ordinateur serie equip_1 equip_2"), u"Reef; Two; 0042; Red fins; ");
     EXPECT_EQ(dive.notes, u"First line\nSecond line");
     for (const char* name : {"waypoint/heartrate", "waypoint/temperature", "alarm rbt", "problems", "site/notes"}) {
         EXPECT_TRUE(loses(found.dives[0], name)) << name;
@@ -105,13 +98,12 @@ TEST(Uddf, givesTanksTheirPlacesByTheUseOfTheirGas) {
     ASSERT_EQ(found.dives.size(), 2U) << "of both groups, whatever the prefix";
     const Plongee& dive = found.dives[0].dive;
     EXPECT_EQ(startText(dive), u"2019-08-01 07:05:00");
-    EXPECT_EQ((std::array{dive.gaz, dive.o2Mix, dive.heMix}), (std::array{2, 18, 45})) << "breathed at the bottom";
-    EXPECT_EQ((std::array{dive.volumeBloc, dive.pressionDepart, dive.pressionFin}), (std::array{24, 230, 80}));
-    EXPECT_EQ((std::array{dive.gaz_2, dive.o2Mix_2, dive.volumeBloc_2, dive.pressionDepart_2, dive.pressionFin_2}),
-              (std::array{1, 30, 11, 210, 150}));
-    EXPECT_EQ((std::array{dive.volPony1, dive.pressDepartPony1, dive.pressFinPony1}), (std::array{11, 200, 110}));
-    EXPECT_EQ((std::array{dive.volPony2, dive.pressDepartPony2, dive.pressFinPony2}), (std::array{7, 190, 120}));
-    EXPECT_EQ((std::array{dive.decoO2_Level_1, dive.decoO2_Level_2, dive.decoO2_Level_3}), (std::array{30, 50, 100}));
+    EXPECT_EQ(in(dive, "gaz o2Mix heMix"), u"2; 18; 45") << "breathed at the bottom";
+    EXPECT_EQ(in(dive, "volumeBloc pressionDepart pressionFin"), u"24; 230; 80");
+    EXPECT_EQ(in(dive, "gaz_2 o2Mix_2 volumeBloc_2 pressionDepart_2 pressionFin_2"), u"1; 30; 11; 210; 150");
+    EXPECT_EQ(in(dive, "volPony1 pressDepartPony1 pressFinPony1"), u"11; 200; 110");
+    EXPECT_EQ(in(dive, "volPony2 pressDepartPony2 pressFinPony2"), u"7; 190; 120");
+    EXPECT_EQ(in(dive, "decoO2_Level_1 decoO2_Level_2 decoO2_Level_3"), u"30; 50; 100");
     const int seconds = 60;
     EXPECT_EQ(dive.GAZ_Flag.integer(120 / seconds), 1);
     EXPECT_EQ(dive.GAZ_Flag.integer(1800 / seconds), 3);
@@ -127,16 +119,12 @@ TEST(Uddf, readsARebreather) {
     const FoundDives found = readFixture("rebreather.uddf", SourceKind::uddf);
     ASSERT_EQ(found.dives.size(), 1U);
     const Plongee& dive = found.dives[0].dive;
-    EXPECT_EQ(dive.rebreather, 3);
-    EXPECT_EQ((std::array{dive.ppO2, dive.lowSetpoint}), (std::array{2, 10})) << "1.3 and 0.7 bar";
-    EXPECT_EQ((std::array{dive.o2Mix, dive.volumeBloc, dive.pressionDepart}), (std::array{100, 2, 180}));
-    EXPECT_EQ((std::array{dive.o2Mix_2, dive.heMix_2, dive.volumeBloc_2, dive.pressionFin_2}),
-              (std::array{18, 45, 3, 160}));
-    EXPECT_EQ((std::array{dive.O2Bailout1, dive.volBailout1, dive.pressDepartBailout1, dive.pressFinBailout1}),
-              (std::array{50, 11, 210, 205}))
+    EXPECT_EQ(in(dive, "rebreather ppO2 lowSetpoint"), u"3; 2; 10") << "1.3 and 0.7 bar";
+    EXPECT_EQ(in(dive, "o2Mix volumeBloc pressionDepart"), u"100; 2; 180");
+    EXPECT_EQ(in(dive, "o2Mix_2 heMix_2 volumeBloc_2 pressionFin_2"), u"18; 45; 3; 160");
+    EXPECT_EQ(in(dive, "O2Bailout1 volBailout1 pressDepartBailout1 pressFinBailout1"), u"50; 11; 210; 205")
         << "litres and bar where pascal and cubic metres make no sense";
-    EXPECT_EQ(dive.profondeur, 40.5F) << "the deepest waypoint";
-    EXPECT_EQ((std::array{dive.temps, dive.tempEau}), (std::array{15, 12}));
+    EXPECT_EQ(in(dive, "profondeur temps tempEau"), u"40.5; 15; 12") << "the deepest waypoint";
     // 80 000 Pa stand for 1950 m in the standard atmosphere.
     EXPECT_EQ(dive.altitude, 1950);
     EXPECT_EQ(breathedGas(dive).helium, 45);
@@ -147,10 +135,8 @@ TEST(Uddf, readsTheOlderPlacesOfValues) {
     ASSERT_EQ(found.dives.size(), 3U);
     const Plongee& dive = found.dives[0].dive;
     EXPECT_EQ(startText(dive), u"2009-05-09 08:07:00");
-    EXPECT_EQ(dive.profondeur, 31.4F);
-    EXPECT_EQ((std::array{dive.tempEau, dive.gaz, dive.o2Mix}), (std::array{16, 0, 21}));
-    EXPECT_EQ((QStringList{dive.lieu, dive.site, dive.notes}),
-              (QStringList{QStringLiteral("Gozo"), QStringLiteral("Blue Hole"), QStringLiteral("Old times")}));
+    EXPECT_EQ(in(dive, "profondeur tempEau gaz o2Mix"), u"31.4; 16; 0; 21");
+    EXPECT_EQ(in(dive, "lieu site notes"), u"Gozo; Blue Hole; Old times");
     EXPECT_EQ(dive.samplingRate, 0);
     EXPECT_EQ(dive.profilProfondeur, Series::ofReals({4.0, 4.0, 9.5, 14.0}));
     EXPECT_EQ(startText(found.dives[1].dive), u"2009-05-10 16:30:00");
@@ -207,8 +193,7 @@ TEST(Uddf, takesNumbersOfNoSenseForNone) {
         <waypoint><depth>7</depth></waypoint>
         </samples><informationafterdive><greatestdepth>-4</greatestdepth><diveduration>0</diveduration>
         <lowesttemperature>9999</lowesttemperature></informationafterdive>)");
-    EXPECT_EQ((std::array{it.altitude, it.noPlongee, it.tempEau}), (std::array{0, 0, -50}));
-    EXPECT_EQ(it.profondeur, 7.0F);
+    EXPECT_EQ(in(it, "altitude noPlongee tempEau profondeur"), u"0; 0; -50; 7");
     EXPECT_EQ(it.profilProfondeur.size(), 4U) << "from the start on";
     EXPECT_EQ(it.PRESS_Data.size(), 1U);
 }
@@ -251,10 +236,8 @@ TEST(Uddf, takesWhatTheDiveLacksFromItsWaypoints) {
         </samples><informationAfterDive><greatestDepth>1e32</greatestDepth><lowestTemperature>255.4</lowestTemperature>
         <diveDuration>0:42:40</diveDuration></informationAfterDive></Dive></repetitionGroup></profileData></UDDF>)";
     const Plongee it = read(file, SourceKind::uddf).dives.at(0).dive;
-    EXPECT_EQ(it.profondeur, 20.0F);
-    EXPECT_EQ((std::array{it.temps, it.tempEau, it.o2Mix}), (std::array{43, 12, 32}));
-    EXPECT_EQ((std::array{it.pressionDepart, it.pressionFin}), (std::array{205, 90}));
-    EXPECT_EQ((std::array{it.pressDepartPony1, it.pressFinPony1}), (std::array{150, 120})) << "richer, so a stage";
+    EXPECT_EQ(in(it, "profondeur temps tempEau o2Mix pressionDepart pressionFin"), u"20; 43; 12; 32; 205; 90");
+    EXPECT_EQ(in(it, "pressDepartPony1 pressFinPony1"), u"150; 120") << "richer, so a stage";
     EXPECT_EQ(it.PRESS_Data.real(0), 200.0);
 }
 
@@ -295,14 +278,11 @@ TEST(Udcf, isReadAsItWasMeant) {
     const FoundDives found = readFixture("plain.udcf", SourceKind::udcf);
     ASSERT_EQ(found.dives.size(), 2U) << "of both groups";
     const Plongee& dive = found.dives[0].dive;
-    EXPECT_EQ((QStringList{dive.lieu, dive.site, dive.surface}),
-              (QStringList{QStringLiteral("Agay"), QStringLiteral("La Chrétienne"), QStringLiteral("2:30")}));
     EXPECT_EQ(startText(dive), u"2012-07-14 10:45:00");
-    EXPECT_EQ(dive.profondeur, 32.8F);
-    EXPECT_EQ((std::array{dive.temps, dive.tempEau}), (std::array{41, 18}));
-    EXPECT_EQ((std::array{dive.gaz, dive.o2Mix, dive.volumeBloc, dive.pressionDepart, dive.pressionFin}),
-              (std::array{1, 36, 15, 200, 60}));
-    EXPECT_EQ((std::array{dive.o2Mix_2, dive.volumeBloc_2}), (std::array{100, 7}));
+    EXPECT_EQ(in(dive, "lieu site surface"), u"Agay; La Chrétienne; 2:30");
+    EXPECT_EQ(in(dive, "profondeur temps tempEau"), u"32.8; 41; 18");
+    EXPECT_EQ(in(dive, "gaz o2Mix volumeBloc pressionDepart pressionFin"), u"1; 36; 15; 200; 60");
+    EXPECT_EQ(in(dive, "o2Mix_2 volumeBloc_2"), u"100; 7");
     EXPECT_EQ(dive.samplingRate, 1);
     EXPECT_EQ(dive.profilProfondeur, Series::ofReals({0, 12.75, 3.5}));
     EXPECT_EQ(dive.SLOW_Flag.integer(1), 1);
