@@ -16,7 +16,6 @@
 #include <optional>
 #include <sched.h>
 #include <sys/mount.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <sys/xattr.h>
@@ -97,18 +96,6 @@ TEST_F(SafeFile, leavesEverythingAsItWasWhenItFails) {
         EXPECT_EQ(read.error().sentence, QStringLiteral("“%1” could not be opened: %2").arg(name, reason.second));
         EXPECT_TRUE(written.error().detail.contains(path(file)));
     }
-
-    // A write that breaks off in the middle, as on a full disk.
-    rlimit limit{};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &limit), 0);
-    const rlimit small{1000, limit.rlim_max};
-    const auto signal = std::signal(SIGXFSZ, SIG_IGN);
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
-    const auto result = writeFile(path("file"), QByteArray(5000, 'x'));
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-    std::signal(SIGXFSZ, signal);
-    EXPECT_FALSE(result);
-    EXPECT_EQ(contentsOf(path("file")), "old");
     EXPECT_EQ(names(), (QStringList{QStringLiteral("file"), QStringLiteral("folder"), QStringLiteral("pipe")}));
 }
 
