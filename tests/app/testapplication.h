@@ -1,40 +1,13 @@
 #pragma once
 
 #include "app/mydocumentcontroller.h"
-#include "desktop/ui/filedialogs.h"
 #include "logbook/carnet.h"
+#include "support/queuedfiledialogs.h"
 #include "support/testdesktop.h"
 
 #include <QCoreApplication>
 
-#include <deque>
-
 namespace tavrel {
-
-/// Answers with the names queued for it, as a user who chooses them; cancels when there are none.
-class QueuedFileDialogs : public FileDialogs {
-public:
-    QStringList filesToOpen(QWidget*, const QString&, const QList<FileFilter>& filters, bool) override {
-        offered = filters;
-        return open.empty() ? QStringList() : std::exchange(open, {});
-    }
-    std::optional<FileToSave> fileToSave(QWidget*, const QString&, const QString& proposal,
-                                         const QList<FileFilter>& filters) override {
-        proposed = proposal;
-        offered = filters;
-        if (save.empty()) {
-            return std::nullopt;
-        }
-        const FileToSave next = save.front();
-        save.pop_front();
-        return next;
-    }
-
-    QStringList open;
-    std::deque<FileToSave> save;
-    QString proposed;
-    QList<FileFilter> offered;
-};
 
 /// A document's window with one more window that edits.
 class TestWindow : public DocumentWindow {

@@ -3,14 +3,15 @@
 #include "archive/colorarchive.h"
 #include "archive/typedstreamfault.h"
 #include "archive/typedstreamtree.h"
+#include "support/files.h"
+#include "support/printing.h"
 #include "support/records.h"
 #include "support/streambytes.h"
 
 #include <QDir>
-#include <QFile>
 #include <gtest/gtest.h>
 
-#include <array>
+#include <algorithm>
 #include <bit>
 #include <limits>
 #include <string>
@@ -243,31 +244,23 @@ TEST(RecordArchive, ReadsTheLayoutOfEveryVersion) {
         return file ? as<Card>(file->records.at(0)) : Card();
     };
     const Card oldest = read(cardFile("01", "9505 9512 9581db01 9285 9285 86 86"));
-    EXPECT_EQ(oldest.number, 5);
-    EXPECT_EQ(oldest.later, 0);
-    EXPECT_EQ(oldest.kept, 100);
-    EXPECT_EQ(oldest.length, 18.0F);
-    EXPECT_EQ(oldest.code, QStringLiteral("475"));
+    EXPECT_EQ(fieldsOf(oldest, cardLayout, "number later kept length code"), u"5; 0; 100; 18; 475");
 
     // The name of a wreck's third mark is read where its first one is written.
     const Card middle =
         read(cardFile("02", R"(9505 9506 9512 9285 92 8484 84"NSString"01 94 84"+" "x" 86 9285 86 86)"));
-    EXPECT_EQ(middle.later, 6);
-    EXPECT_EQ(middle.kept, 7);
+    EXPECT_EQ(fieldsOf(middle, cardLayout, "later kept"), u"6; 7");
     EXPECT_EQ(middle.mark, QString());
-    EXPECT_EQ(middle.thirdMark, QStringLiteral("x"));
-    EXPECT_EQ(std::get<QString>(cardLayout.field("thirdMark").value(middle)), QStringLiteral("x"));
+    EXPECT_EQ(middle.thirdMark, u"x");
+    EXPECT_EQ(fieldsOf(middle, cardLayout, "thirdMark"), u"x");
 
     // A later version adds groups that this one does not know; integers come in other widths; objects of unknown
     // classes stand for nothing, yet count: the text within the first one is object 7.
     const Card newest = read(cardFile("09", R"(84"q"05 84"s"06 84"d"12
         92 84 8484"Odd"00 94 84"{S=[2c]f}" 0102 03 84"+" 85 92 84 8484"NSString"01 94 9c "deep" 86 86
         92 99 92 84 98 86 92 85 95 00 86 86)"));
-    EXPECT_EQ(newest.number, 5);
-    EXPECT_EQ(newest.later, 6);
-    EXPECT_EQ(newest.length, 18.0F);
+    EXPECT_EQ(fieldsOf(newest, cardLayout, "number later length thirdMark"), u"5; 6; 18; deep");
     EXPECT_TRUE(newest.code.isNull());
-    EXPECT_EQ(newest.thirdMark, QStringLiteral("deep"));
     EXPECT_TRUE(newest.numbers.isNull());
 }
 
@@ -382,27 +375,22 @@ TEST(RecordArchive, BoundsNestingAndMemory) {
 }
 
 TEST(RecordArchive, WritesASharedSeriesOnceAndRefusesWhatUnfoldsWithoutEnd) {
-    auto first = std::make_shared<Sample>();
-    first->numbers = Series::ofReals(std::vector<double>(100'000, 0.5));
-    first->place = QString(100'000, u'a');
-    const Samples many(300, first);
-    Samples apart;
-    for (const RecordPointer& each : many) {
-        apart.push_back(std::make_shared<Sample>(static_cast<const Sample&>(*each)));
-    }
-    apart.resize(20);
-    const QByteArray bytes = writeRecords(apart, sampleLayout);
-    EXPECT_LT(bytes.size(), 2 * writeRecords({first}, sampleLayout).size());
+    Sample first;
+    first.numbers = Series::ofReals(std::vector<double>(100'000, 0.5));
+    first.place = QString(100'000, u'a');
+    const auto copies = [&](int count) {
+        Samples list;
+        std::generate_n(std::back_inserter(list), count, [&] { return std::make_shared<Sample>(first); });
+        return list;
+    };
+    const QByteArray bytes = writeRecords(copies(20), sampleLayout);
+    EXPECT_LT(bytes.size(), 2 * writeRecords(copies(1), sampleLayout).size());
     const auto read = readRecords(bytes, sampleLayout);
     ASSERT_TRUE(read) << read.error().message().toStdString();
-    EXPECT_EQ(static_cast<const Sample&>(*read->records[19]), *first);
+    EXPECT_EQ(as<Sample>(read->records[19]), first);
     EXPECT_EQ(writeRecords(read->records, sampleLayout), bytes);
 
-    apart.clear();
-    for (const RecordPointer& each : many) {
-        apart.push_back(std::make_shared<Sample>(static_cast<const Sample&>(*each)));
-    }
-    const auto refused = readRecords(writeRecords(apart, sampleLayout), sampleLayout);
+    const auto refused = readRecords(writeRecords(copies(300), sampleLayout), sampleLayout);
     ASSERT_FALSE(refused);
     EXPECT_EQ(refused.error().sentence, u"The file unfolds to far more than it could mean.");
 }
@@ -413,9 +401,7 @@ TEST(RecordArchive, SurvivesHostileFiles) {
     const QStringList names = folder.entryList({QStringLiteral("stream-*")}, QDir::Files);
     ASSERT_FALSE(names.isEmpty());
     for (const QString& name : names) {
-        QFile file(folder.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        const QByteArray bytes = file.readAll();
+        const QByteArray bytes = contentsOf(folder.filePath(name));
         EXPECT_FALSE(unarchivedColor(bytes).isValid()) << name.toStdString();  // walks all objects
         EXPECT_FALSE(readRecords(bytes, sampleLayout)) << name.toStdString();
         static_cast<void>(inspectStream(bytes));

@@ -13,23 +13,11 @@ namespace tavrel {
 namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
+constexpr qint32 least = std::numeric_limits<qint32>::min();
+constexpr qint32 greatest = std::numeric_limits<qint32>::max();
 
 TEST(Numbers, readTheLeadingNumberOfAText) {
-    struct Case {
-        const char16_t* text;
-        qint32 integer;
-        double real;
-    };
-    const Case cases[] = {
-        {u"", 0, 0},
-        {u"-", 0, 0},
-        {u"-.", 0, 0},
-        {u"abc", 0, 0},
-        {u"inf", 0, 0},
-        {u"nan", 0, 0},
-        {u"+-5", 0, 0},
-        {u"0x10", 0, 0},
-        {u"１２", 0, 0},
+    const std::tuple<const char16_t*, qint32, double> cases[] = {
         {u"12.7 m", 12, 12.7},
         {u" \t\u00a0+12", 12, 12},
         {u"-5", -5, -5},
@@ -42,8 +30,8 @@ TEST(Numbers, readTheLeadingNumberOfAText) {
         {u"1e", 1, 1},
         {u"2e+x", 2, 2},
         {u"25E-1m", 25, 2.5},
-        {u"2147483648", std::numeric_limits<qint32>::max(), 2147483648.0},
-        {u"-99999999999999999999", std::numeric_limits<qint32>::min(), -1e20},
+        {u"2147483648", greatest, 2147483648.0},
+        {u"-99999999999999999999", least, -1e20},
         {u"1e999", 1, infinity},
         {u"-1e999", -1, -infinity},
         {u"0.0001e400", 0, infinity},
@@ -51,9 +39,13 @@ TEST(Numbers, readTheLeadingNumberOfAText) {
         {u"0e99999999999999999999", 0, 0},
         {u"4.9e-324", 4, 4.9e-324},
     };
-    for (const Case& it : cases) {
-        EXPECT_EQ(integerValue(it.text), it.integer) << QString::fromUtf16(it.text).toStdString();
-        EXPECT_EQ(doubleValue(it.text), it.real) << QString::fromUtf16(it.text).toStdString();
+    for (const auto& [text, integer, real] : cases) {
+        EXPECT_EQ(integerValue(text), integer) << QString::fromUtf16(text).toStdString();
+        EXPECT_EQ(doubleValue(text), real) << QString::fromUtf16(text).toStdString();
+    }
+    for (const char16_t* text : {u"", u"-", u"-.", u"abc", u"inf", u"nan", u"+-5", u"0x10", u"１２"}) {
+        EXPECT_EQ(integerValue(text), 0) << QString::fromUtf16(text).toStdString();
+        EXPECT_EQ(doubleValue(text), 0) << QString::fromUtf16(text).toStdString();
     }
     EXPECT_TRUE(startsWithNumber(u" 0"));
     EXPECT_FALSE(startsWithNumber(u"m 0"));
@@ -76,7 +68,7 @@ TEST(Numbers, ofFilesTakeOnlyAPoint) {
         EXPECT_EQ(floatInFile(text), static_cast<float>(real)) << text;
     }
     EXPECT_EQ(integerInFile(" 10.0"), 10);
-    EXPECT_EQ(integerInFile("-3000000000"), std::numeric_limits<qint32>::min());
+    EXPECT_EQ(integerInFile("-3000000000"), least);
 }
 
 TEST(Numbers, areWrittenWithFixedDecimals) {
@@ -91,7 +83,7 @@ TEST(Numbers, areWrittenWithFixedDecimals) {
         EXPECT_EQ(written, text);
     }
     EXPECT_EQ(truncated(-23.9), -23);
-    EXPECT_EQ(truncated(1e300), std::numeric_limits<qint32>::max());
+    EXPECT_EQ(truncated(1e300), greatest);
     EXPECT_EQ(truncated(std::nan("")), 0);
 }
 

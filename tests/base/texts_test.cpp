@@ -47,15 +47,10 @@ TEST_F(Texts, thatAreMissingShowTheFallback) {
 }
 
 TEST_F(Texts, fillFormatsWithoutRegardToTheLocale) {
-    struct Case {
-        const char* format;
-        Arguments arguments;
-        const char* result;
-    };
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const QString words = QStringLiteral("Épave");
     const qint64 large = 5000000000;
-    const Case cases[] = {
+    const std::tuple<const char*, Arguments, const char*> cases[] = {
         {"no placeholder", {}, "no placeholder"},
         {"%d %i|%ld|%lld", {qint64(1), qint64(-2), large, large}, "1 -2|5000000000|5000000000"},
         {"%5d|%-5d|%05d|%+d|%.3d",
@@ -70,25 +65,28 @@ TEST_F(Texts, fillFormatsWithoutRegardToTheLocale) {
         {"[%7@][%-7s][%.2s]", {words, words, words}, "[  Épave][Épave  ][Ép]"},
         {"100 %% O₂ (%d%%)", {qint64(1)}, "100 % O₂ (1%)"},
         {"%@", {QStringLiteral("%d %@")}, "%d %@"},
-        // What does not fit.
-        {"%d", {1.5}, "?"},
-        {"%d", {words}, "?"},
-        {"%u", {qint64(-1)}, "?"},
-        {"%f", {words}, "?"},
-        {"%d", {}, "?"},
-        {"%d", {qint64(1), qint64(2)}, "?"},
-        {"%", {}, "?"},
-        {"50 % of", {}, "?"},
-        {"%5", {qint64(1)}, "?"},
-        {"%n", {qint64(1)}, "?"},
-        {"%*d", {qint64(5), qint64(1)}, "?"},
-        {"%1$d", {qint64(1)}, "?"},
-        {"%99999999999d", {qint64(1)}, "?"},
     };
-    for (const Case& it : cases) {
-        EXPECT_EQ(fillFormat(QString::fromUtf8(it.format), it.arguments, QStringLiteral("?")),
-                  QString::fromUtf8(it.result))
-            << it.format;
+    for (const auto& [format, arguments, result] : cases) {
+        EXPECT_EQ(fillFormat(QString::fromUtf8(format), arguments, QStringLiteral("?")), QString::fromUtf8(result))
+            << format;
+    }
+    const std::pair<const char*, Arguments> unfit[] = {
+        {"%d", {1.5}},
+        {"%d", {words}},
+        {"%u", {qint64(-1)}},
+        {"%f", {words}},
+        {"%d", {}},
+        {"%d", {qint64(1), qint64(2)}},
+        {"%", {}},
+        {"50 % of", {}},
+        {"%5", {qint64(1)}},
+        {"%n", {qint64(1)}},
+        {"%*d", {qint64(5), qint64(1)}},
+        {"%1$d", {qint64(1)}},
+        {"%99999999999d", {qint64(1)}},
+    };
+    for (const auto& [format, arguments] : unfit) {
+        EXPECT_EQ(fillFormat(QString::fromUtf8(format), arguments, QStringLiteral("?")), u"?") << format;
     }
     setTextLanguage(QStringLiteral("fr"));
     EXPECT_EQ(textWith("Carnet", "Found dives", 3), u"3 plongées trouvées");

@@ -15,33 +15,20 @@ namespace {
 constexpr double degree = std::numbers::pi / 180;
 constexpr double metresPerDegree = 111'320;
 
-/// ED50 to WGS84 by the standard Molodensky formulas with the published mean shift (-87, -98, -121) and the differences
-/// of the ellipsoids: another way to the same place, good to a metre.
-GeographicPosition molodensky(const GeographicPosition& ed50) {
-    const double a = 6378388, f = 1 / 297.0, da = -251, df = -0.000014192702;
-    const double dx = -87, dy = -98, dz = -121, e2 = 2 * f - f * f;
-    const double sinLat = std::sin(ed50.latitude * degree), cosLat = std::cos(ed50.latitude * degree);
-    const double sinLng = std::sin(ed50.longitude * degree), cosLng = std::cos(ed50.longitude * degree);
-    const double root = std::sqrt(1 - e2 * sinLat * sinLat);
-    const double n = a / root, m = a * (1 - e2) / (root * root * root);
-    const double north = -dx * sinLat * cosLng - dy * sinLat * sinLng + dz * cosLat +
-                         da * n * e2 * sinLat * cosLat / a + df * (m / (1 - f) + n * (1 - f)) * sinLat * cosLat;
-    const double up =
-        dx * cosLat * cosLng + dy * cosLat * sinLng + dz * sinLat - da * a / n + df * (1 - f) * n * sinLat * sinLat;
-    return {ed50.longitude + (-dx * sinLng + dy * cosLng) / (n * cosLat) / degree, ed50.latitude + north / m / degree,
-            ed50.altitude + up};
-}
-
 double horizontalMetres(const GeographicPosition& a, const GeographicPosition& b) {
     return std::hypot((a.longitude - b.longitude) * std::cos(a.latitude * degree), a.latitude - b.latitude) *
            metresPerDegree;
 }
 
 TEST(Gps, shiftsByThePublishedParameters) {
-    const GeographicPosition places[] = {
-        {-4.49, 48.38, 30}, {2.35, 48.85, 35}, {4.3, 50.8, 0}, {7.3, 43.7, 0}, {-6.2, 36.5, 12}};
-    for (const GeographicPosition& ed50 : places) {
-        const GeographicPosition expected = molodensky(ed50);
+    // ED50, and WGS84 by the standard Molodensky formulas with the published mean shift (-87, -98, -121) and the
+    // differences of the ellipsoids: another way to the same place, good to a metre.
+    const std::pair<GeographicPosition, GeographicPosition> places[] = {
+        {{-4.49, 48.38, 30}, {-4.4914108, 48.3789925, 87.05}}, {{2.35, 48.85, 35}, {2.3487145, 48.8490853, 83.31}},
+        {{4.3, 50.8, 0}, {4.2987064, 50.7991630, 42.96}},      {{7.3, 43.7, 0}, {7.2989313, 43.6990053, 52.48}},
+        {{-6.2, 36.5, 12}, {-6.2011923, 36.4987437, 97.75}},
+    };
+    for (const auto& [ed50, expected] : places) {
         const auto wgs84 = convertSexagesimal({ed50.longitude, 0, 0}, {ed50.latitude, 0, 0}, ed50.altitude).wgs84;
         // The seven parameters are not the mean's: they leave it by a sixth of the whole shift.
         EXPECT_LT(horizontalMetres(wgs84, expected), 26) << ed50.latitude;
@@ -50,9 +37,8 @@ TEST(Gps, shiftsByThePublishedParameters) {
         // One radius for all latitudes costs up to two metres sideways for every degree.
         EXPECT_LT(horizontalMetres(decimal, expected), 1 + std::abs(ed50.latitude - 50.8) * 2) << ed50.latitude;
     }
-    const GeographicPosition radiusHolds{4.3, 50.80024, 0};
-    EXPECT_NEAR(convertDecimal(DatumDirection::Ed50ToWgs84, radiusHolds).position.altitude,
-                molodensky(radiusHolds).altitude, 1);
+    // Where the radius holds.
+    EXPECT_NEAR(convertDecimal(DatumDirection::Ed50ToWgs84, {4.3, 50.80024, 0}).position.altitude, 42.96, 1);
 }
 
 TEST(Gps, closedFormAgreesWithAnIteration) {
@@ -61,15 +47,6 @@ TEST(Gps, closedFormAgreesWithAnIteration) {
     EXPECT_NEAR(nice.longitude, 7.29923088515193, 1e-11);
     EXPECT_NEAR(nice.latitude, 43.69897968948247, 1e-11);
     EXPECT_NEAR(nice.altitude, 60.816405612, 1e-6);
-}
-
-TEST(Gps, theWayThereAndBackIsCloseButNotClosed) {
-    const GeographicPosition start{-3.25, 47.5, 10};
-    const auto ed50 = convertDecimal(DatumDirection::Wgs84ToEd50, start).position;
-    const auto back = convertDecimal(DatumDirection::Ed50ToWgs84, ed50).position;
-    EXPECT_GT(horizontalMetres(start, ed50), 100);
-    EXPECT_LT(horizontalMetres(start, back), 25);
-    EXPECT_NE(start.latitude, back.latitude);
 }
 
 TEST(Gps, typedPartsAreAddedAndNegativeResultsAreFloored) {

@@ -270,68 +270,42 @@ TEST(NitroxWindow, saysWhenItsResultIsOfOtherInputs) {
 TEST(CalculatorWindows, nameTheInputThatGivesInfinityOrANegativeDepth) {
     struct Case {
         CalculatorId id;
-        std::vector<std::pair<const char*, const char*>> inputs;
-        const char* named;  ///< the field with words beside it; null: none
-        const char* words;
+        const char *inputs, *field, *words;  ///< the words beside the field, beside all others none
     };
     const Case cases[] = {
-        {CalculatorId::ProfMax, {{"fracO2Field", "32"}}, nullptr, ""},
-        {CalculatorId::ProfMax, {{"fracO2Field", "0"}}, "fracO2Field", "gives infinity"},
-        {CalculatorId::ProfMax, {{"fracO2Field", "150"}}, "fracO2Field", "gives a negative depth"},
-        {CalculatorId::BestMix,
-         {{"profondeurMaxField", "-10"}},
-         "profondeurMaxField",
-         "gives infinity, is a negative depth"},
-        {CalculatorId::EquivalentDepth,
-         {{"fracO2Field", "40"}, {"profondeurField", "0"}},
-         "profondeurField",
+        {CalculatorId::ProfMax, "fracO2Field=32", "", ""},
+        {CalculatorId::ProfMax, "fracO2Field=0", "fracO2Field", "gives infinity"},
+        {CalculatorId::ProfMax, "fracO2Field=150", "fracO2Field", "gives a negative depth"},
+        {CalculatorId::BestMix, "profondeurMaxField=-10", "profondeurMaxField", "gives infinity, is a negative depth"},
+        {CalculatorId::EquivalentDepth, "fracO2Field=40 profondeurField=0", "profondeurField",
          "gives a negative depth"},
-        {CalculatorId::EquivalentDepth,
-         {{"fracO2Field", "100"}, {"profondeurField", "30"}},
-         "fracO2Field",
+        {CalculatorId::EquivalentDepth, "fracO2Field=100 profondeurField=30", "fracO2Field", "gives a negative depth"},
+        {CalculatorId::EquivalentDepth, "fracO2Field=21 profondeurField=30", "", ""},
+        {CalculatorId::OxygenWindow, "winFO2=32 winMinPpO2=0.16", "winMinPpO2", "gives a negative depth"},
+        {CalculatorId::OxygenWindow, "winFO2=10 winMinPpO2=0.16", "", ""},
+        {CalculatorId::BlendNitrox, "pressionInitialeField=50 pressionFinaleField=50 fracO2FinaleField=32",
+         "pressionFinaleField", "gives infinity"},
+        {CalculatorId::TrimixEadEnd, "fracHeTxField=70 profondeurMaxField=0", "profondeurMaxField",
          "gives a negative depth"},
-        {CalculatorId::EquivalentDepth, {{"fracO2Field", "21"}, {"profondeurField", "30"}}, nullptr, ""},
-        {CalculatorId::OxygenWindow,
-         {{"winFO2", "32"}, {"winMinPpO2", "0.16"}},
-         "winMinPpO2",
-         "gives a negative depth"},
-        {CalculatorId::OxygenWindow, {{"winFO2", "10"}, {"winMinPpO2", "0.16"}}, nullptr, ""},
-        {CalculatorId::BlendNitrox,
-         {{"pressionInitialeField", "50"}, {"pressionFinaleField", "50"}, {"fracO2FinaleField", "32"}},
-         "pressionFinaleField",
+        {CalculatorId::BestTrimix, "depthTxField=60 ENDField=-3 ppO2Field=1.4", "ENDField", "is a negative depth"},
+        {CalculatorId::SodaTime, "sodaWeightField=2.5 sodaCapacityField=100", "metabolicProductionField",
          "gives infinity"},
-        {CalculatorId::TrimixEadEnd,
-         {{"fracHeTxField", "70"}, {"profondeurMaxField", "0"}},
-         "profondeurMaxField",
-         "gives a negative depth"},
-        {CalculatorId::BestTrimix,
-         {{"depthTxField", "60"}, {"ENDField", "-3"}, {"ppO2Field", "1.4"}},
-         "ENDField",
-         "is a negative depth"},
-        {CalculatorId::SodaTime,
-         {{"sodaWeightField", "2.5"}, {"sodaCapacityField", "100"}},
-         "metabolicProductionField",
+        {CalculatorId::BreathedFraction, "brEanxField=40 brFlowField=1 brMetabolicField=1", "brFlowField",
          "gives infinity"},
-        {CalculatorId::BreathedFraction,
-         {{"brEanxField", "40"}, {"brFlowField", "1"}, {"brMetabolicField", "1"}},
-         "brFlowField",
-         "gives infinity"},
-        {CalculatorId::IdealFlow,
-         {{"idEanxField", "40"}, {"idMetabolicField", "1"}, {"idRealFracO2Field", "40"}},
-         "idRealFracO2Field",
+        {CalculatorId::IdealFlow, "idEanxField=40 idMetabolicField=1 idRealFracO2Field=40", "idRealFracO2Field",
          "gives infinity"},
     };
     for (const Case& it : cases) {
         CalculatorWindow window(it.id);
-        for (const auto& [field, words] : it.inputs) {
-            type(window, field, words);
+        for (const QByteArray& input : QByteArray(it.inputs).split(' ')) {
+            const QList<QByteArray> parts = input.split('=');
+            type(window, parts[0], parts[1]);
         }
         window.calculate();
         for (const CalculatorInput& input : calculatorPage(it.id)->inputs) {
-            const bool isNamed = it.named && qstrcmp(it.named, input.field) == 0;
-            const QString words = shown(window, (QByteArray(input.field) + "Fault").constData());
-            EXPECT_EQ(words, isNamed ? QString::fromLatin1(it.words) : QString())
-                << calculator(it.id).windowLayout << ' ' << input.field;
+            const QByteArray field(input.field);
+            EXPECT_EQ(shown(window, field + "Fault"), QLatin1String(field == it.field ? it.words : ""))
+                << it.inputs << ": " << input.field;
         }
     }
 }

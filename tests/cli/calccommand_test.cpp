@@ -17,6 +17,7 @@ namespace {
 struct Outcome {
     int code;
     std::string out, error;
+    QJsonObject json() const { return QJsonDocument::fromJson(QByteArray::fromStdString(out)).object(); }
 };
 
 Outcome calc(std::vector<const char*> arguments) {
@@ -30,17 +31,14 @@ Outcome calc(std::vector<const char*> arguments) {
 }
 
 TEST(CalcCommand, printsTheResultTextOrOneJsonObject) {
-    struct Case {
-        std::vector<const char*> arguments;
-        const char* out;
-    };
-    const Case cases[] = {
-        {{"mod", "--o2", "32", "--ppo2", "1.4"}, "MOD : 33.8 m\n"},
+    const std::pair<std::vector<const char*>, const char*> cases[] = {
         {{"mod", "--o2", "32"}, "MOD : 33.8 m\n"},
         {{"mod", "--o2=32", "--ppo2", "1,60"}, "MOD : 40.0 m\n"},
         {{"mod", "--o2", "32", "--ppo2", "1.45"}, "MOD : 35.3 m\n"},
         {{"mod", "--o2", "32", "--ppo2", ""}, "MOD : 33.8 m\n"},
         {{"mod", "--o2=", "--ppo2=1.4"}, "MOD : inf m\n"},
+        {{"ead", "--o2", "40"}, "EAD : -2.4 m\n"},
+        {{"trimix-min-depth", "--o2", "17"}, "The values are not valid.\n"},
         {{"cns", "--ppo2", "1.6", "--time", "30"}, "ppO₂ 1.60 bar, CNS clock 66.6 %\n"},
         {{"cns", "--ppo2", "0,7", "--time", "100", "--json"}, "{\"cns\": 18}\n"},
         {{"cns", "--time=", "--ppo2=1.6", "--json"}, "{\"cns\": 0}\n"},
@@ -54,10 +52,10 @@ TEST(CalcCommand, printsTheResultTextOrOneJsonObject) {
         {{"convert", "--from", "kelvin", "--value", "-.5", "--json"},
          "{\"celsius\": -273.65, \"fahrenheit\": -460.57, \"kelvin\": -0.5}\n"},
     };
-    for (const Case& it : cases) {
-        const Outcome outcome = calc(it.arguments);
-        EXPECT_EQ(outcome.code, 0) << it.arguments[0] << outcome.error;
-        EXPECT_EQ(outcome.out, it.out);
+    for (const auto& [arguments, out] : cases) {
+        const Outcome outcome = calc(arguments);
+        EXPECT_EQ(outcome.code, 0) << arguments[0] << outcome.error;
+        EXPECT_EQ(outcome.out, out);
     }
 }
 
@@ -69,17 +67,13 @@ TEST(CalcCommand, everyCalculatorAnswersInJson) {
         }
         const Outcome outcome = calc(arguments);
         EXPECT_EQ(outcome.code, 0) << each.command << outcome.error;
-        EXPECT_FALSE(QJsonDocument::fromJson(QByteArray::fromStdString(outcome.out)).object().isEmpty()) << outcome.out;
+        EXPECT_FALSE(outcome.json().isEmpty()) << outcome.out;
     }
 }
 
 TEST(CalcCommand, rowsCarryTheirColour) {
-    const auto rows = [](std::vector<const char*> arguments) {
-        arguments.push_back("--json");
-        const std::string out = calc(std::move(arguments)).out;
-        return QJsonDocument::fromJson(QByteArray::fromStdString(out)).object()[u"rows"].toArray();
-    };
-    const auto flows = rows({"scr-flow", "--o2", "5", "--consumption", "1", "--fraction", "0"});
+    const Outcome outcome = calc({"scr-flow", "--o2", "5", "--consumption", "1", "--fraction", "0", "--json"});
+    const QJsonArray flows = outcome.json()[u"rows"].toArray();
     ASSERT_EQ(flows.size(), 11);
     EXPECT_EQ(flows[0][u"colour"].toString().toStdString(), "black");
     EXPECT_EQ(flows[2][u"colour"].toString().toStdString(), "unchanged");
@@ -92,8 +86,7 @@ TEST(CalcCommand, gpsConvertsEitherWay) {
     EXPECT_EQ(decimal.code, 0);
     EXPECT_EQ(decimal.out.substr(0, decimal.out.find('\n')), "-2.348617");
     EXPECT_NE(decimal.error.find("lng WGS -> ED = -2.350000\n"), std::string::npos);
-    const Outcome sexagesimal = calc({"gps", "--sexagesimal", "--lon", "-1 30 0", "--lat", "48 50 12.5", "--json"});
-    const auto object = QJsonDocument::fromJson(QByteArray::fromStdString(sexagesimal.out)).object();
+    const auto object = calc({"gps", "--sexagesimal", "--lon", "-1 30 0", "--lat", "48 50 12.5", "--json"}).json();
     EXPECT_NEAR(object[u"longitude"].toDouble(), -0.50103, 1e-5);
     EXPECT_EQ(object[u"text"][1].toString().toStdString(), "WGS84 48° 50' 9.044''");
     EXPECT_EQ(object[u"report"][2].toString().toStdString(), "  longitude : -1 ° 30 ' 0.000 ''");

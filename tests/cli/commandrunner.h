@@ -3,35 +3,31 @@
 #include "archive/recordarchive.h"
 #include "cli/fieldtext.h"
 #include "dives/plongee.h"
+#include "support/files.h"
 #include "support/printing.h"
 #include "support/records.h"
 
-#include <QByteArray>
 #include <QDir>
-#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include <string_view>
+#include <initializer_list>
 #include <vector>
 
 namespace tavrel {
 
-inline QByteArray contentsOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+/// The words of a command, of which those in double quotes may hold blanks.
+inline QStringList words(const char* command) {
+    return QProcess::splitCommand(QString::fromUtf8(command));
 }
 
-inline void writeContents(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
-/// Runs the command line in a folder of its own, in UTC and English, with settings of its own.
+/// Runs the command line in a folder of its own, in UTC and English, with settings of its own. Its logbook is a.carnet.
 class CommandLine : public testing::Test {
 protected:
     struct Outcome {
@@ -39,8 +35,22 @@ protected:
         QString out;
         QString error;
     };
+    struct Refusal {
+        const char* command;
+        int code;
+        const char* reason;  ///< is in what the command says
+    };
+    struct Value {
+        std::size_t row;
+        const char *field, *value;
+    };
 
     QString path(const QString& name) const { return folder_.filePath(name); }
+
+    void writeSettings(const QByteArray& bytes) const {
+        ASSERT_TRUE(QDir(path(QString())).mkpath(QStringLiteral("config/Tavrel")));
+        writeContents(path(QStringLiteral("config/Tavrel/tavrel.ini")), bytes);
+    }
 
     Outcome run(const QStringList& arguments, const QString& program = QStringLiteral(TAVREL_CLI)) const {
         QProcess process;
@@ -59,26 +69,47 @@ protected:
                 QString::fromUtf8(process.readAllStandardError())};
     }
 
-    /// Runs a command given as words that must succeed silently; what it prints.
+    Outcome run(const char* command) const { return run(words(command)); }
+
+    /// Runs a command that must succeed silently; what it prints.
     QString done(const QStringList& arguments) const {
         const Outcome outcome = run(arguments);
         EXPECT_EQ(outcome.code, 0) << arguments.join(u' ').toStdString() << ": " << outcome.error.toStdString();
         EXPECT_EQ(outcome.error, QString()) << arguments.join(u' ').toStdString();
         return outcome.out;
     }
-    QString done(const char* words) const { return done(QString::fromUtf8(words).split(u' ')); }
+    QString done(const char* command) const { return done(words(command)); }
+    QJsonObject json(const char* command) const {
+        const QString out = done(command);
+        EXPECT_TRUE(out.endsWith(u"}\n")) << command << ": " << out.toStdString();
+        return QJsonDocument::fromJson(out.toUtf8()).object();
+    }
 
-    /// The dives of a logbook, read without the command line.
-    std::vector<DivePointer> dives(const QString& file) const {
-        const auto read = readRecords(contentsOf(path(file)), Plongee::layout());
-        EXPECT_TRUE(read.has_value()) << file.toStdString();
+    void expectRefusals(std::initializer_list<Refusal> refusals) const {
+        for (const auto& [command, code, reason] : refusals) {
+            const Outcome outcome = run(command);
+            EXPECT_EQ(outcome.code, code) << command;
+            EXPECT_TRUE(outcome.error.contains(QString::fromUtf8(reason)))
+                << command << ": " << outcome.error.toStdString();
+            EXPECT_EQ(outcome.out, QString()) << command;
+        }
+    }
+
+    QByteArray bytes() const { return contentsOf(path(QStringLiteral("a.carnet"))); }
+    /// The dives of the logbook, read without the command line.
+    std::vector<DivePointer> dives() const {
+        const auto read = readRecords(bytes(), Plongee::layout());
+        EXPECT_TRUE(read.has_value());
         return read ? allAs<Plongee>(read->records) : std::vector<DivePointer>();
     }
-    /// A field of a dive, as the command line would take it.
-    QString value(const QString& file, std::size_t row, std::string_view field) const {
-        const auto held = dives(file);
-        const Field found = Plongee::layout().field(field);
-        return row < held.size() && !found.isNull() ? fieldText(found.value(*held[row])) : QStringLiteral("?");
+    /// Fields of its dives, as the command line would take them.
+    void expectValues(std::initializer_list<Value> values) const {
+        const auto held = dives();
+        for (const auto& [row, name, expected] : values) {
+            const Field field = Plongee::layout().field(name);
+            ASSERT_TRUE(row < held.size() && !field.isNull()) << row << ' ' << name;
+            EXPECT_EQ(fieldText(field.value(*held[row])), QString::fromUtf8(expected)) << row << ' ' << name;
+        }
     }
 
     QString language = QStringLiteral("C.UTF-8");

@@ -1,25 +1,12 @@
 #include "cli/commandrunner.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-
 namespace tavrel {
 
 namespace {
 
 class DiveCommands : public CommandLine {
 protected:
-    QJsonObject json(const char* words) {
-        const Outcome outcome = run(QString::fromUtf8(words).split(u' '));
-        EXPECT_EQ(outcome.code, 0) << outcome.error.toStdString();
-        const auto document = QJsonDocument::fromJson(outcome.out.toUtf8());
-        EXPECT_TRUE(document.isObject()) << outcome.out.toStdString();
-        return document.object();
-    }
-    void SetUp() override {
-        done({QStringLiteral("new"), QStringLiteral("Carnet de plongee"), QStringLiteral("a.carnet")});
-    }
+    void SetUp() override { done("new Plongee a.carnet"); }
 };
 
 TEST_F(DiveCommands, gasTellsConsumptionBottlesAndOxygen) {
@@ -48,22 +35,17 @@ TEST_F(DiveCommands, gasTellsConsumptionBottlesAndOxygen) {
     EXPECT_NEAR(closed[u"cns"][u"ppO2"].toDouble(), 1.8, 1e-6);
     EXPECT_EQ(closed[u"available"].toInt(), 0);
 
-    const Outcome text = run(QStringLiteral("gas a.carnet --row 0").split(u' '));
-    EXPECT_TRUE(text.out.contains(u"Surface consumption: 15.0 L/min, 1.25 bar/min\n"));
-    EXPECT_TRUE(text.out.contains(u"Tank 2: 100 bar used\n"));
-    EXPECT_EQ(run(QStringLiteral("gas a.carnet --row 2").split(u' ')).code, 1);
-    EXPECT_EQ(run(QStringLiteral("gas a.carnet").split(u' ')).code, 2);
+    const QString text = done("gas a.carnet --row 0");
+    EXPECT_TRUE(text.contains(u"Surface consumption: 15.0 L/min, 1.25 bar/min\n"));
+    EXPECT_TRUE(text.contains(u"Tank 2: 100 bar used\n"));
+    expectRefusals({{"gas a.carnet --row 2", 1, "2"}, {"gas a.carnet", 2, "--row"}});
 }
 
 TEST_F(DiveCommands, statsCountAllDivesAndThoseBefore) {
     EXPECT_EQ(json("stats a.carnet --without-previous --json")[u"temperature min"].toInt(), 10000);
     done("add a.carnet profondeur=35 temps=50 gaz=Nitrox tempEau=18");
     done("add a.carnet profondeur=9.9 temps=45 tempEau=-");
-    QFile settings(path(QStringLiteral("config/Tavrel/tavrel.ini")));
-    ASSERT_TRUE(QDir().mkpath(path(QStringLiteral("config/Tavrel"))));
-    ASSERT_TRUE(settings.open(QIODevice::Append));
-    settings.write("\n[General]\nstatistics%20values=\"{\\\"total plongees\\\":2,\\\"air\\\":1}\"\n");
-    settings.close();
+    writeSettings("[General]\nstatistics%20values=\"{\\\"total plongees\\\":2,\\\"air\\\":1}\"\n");
 
     const QJsonObject with = json("stats a.carnet --json");
     EXPECT_EQ(with[u"total"].toInt(), 4);
@@ -79,7 +61,7 @@ TEST_F(DiveCommands, statsCountAllDivesAndThoseBefore) {
     EXPECT_EQ(alone[u"average time"].toInt(), 47);
     EXPECT_EQ(alone[u"temperature mean"].toInt(), 18);
     EXPECT_EQ(alone[u"texts"][u"statP_NitroxField"].toString(), u"50.0 %");
-    EXPECT_TRUE(run(QStringLiteral("stats a.carnet").split(u' ')).out.contains(u"\n   Deepest dive: 35 m\n"));
+    EXPECT_TRUE(done("stats a.carnet").contains(u"\n   Deepest dive: 35 m\n"));
 }
 
 }  // namespace

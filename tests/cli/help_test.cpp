@@ -1,7 +1,5 @@
 #include "cli/commandrunner.h"
 
-#include <QRegularExpression>
-
 namespace tavrel {
 
 namespace {
@@ -18,29 +16,26 @@ QStringList descriptions(const QString& page) {
     return found;
 }
 
-class Help : public CommandLine {};
+class Help : public CommandLine {
+protected:
+    void SetUp() override { language = QStringLiteral("fr_FR.UTF-8"); }
+};
 
 TEST_F(Help, speaksTheUsersLanguage) {
-    const QString english = run({QStringLiteral("show"), QStringLiteral("--help")}).out;
-    EXPECT_TRUE(english.contains(u"Lists the records of a document")) << english.toStdString();
-    language = QStringLiteral("fr_FR.UTF-8");
-    const QString french = run({QStringLiteral("show"), QStringLiteral("--help")}).out;
-    for (const char* words : {"Liste les fiches d’un document", "Utilisation", "Affiche cette aide", "Le document"}) {
-        EXPECT_TRUE(french.contains(QString::fromUtf8(words))) << words << '\n' << french.toStdString();
+    const QString help = done("show --help") + done("--help");
+    for (const char* words : {"Liste les fiches d’un document", "Utilisation", "Affiche cette aide", "Commandes:"}) {
+        EXPECT_TRUE(help.contains(QString::fromUtf8(words))) << words << '\n' << help.toStdString();
     }
-    for (const char* words : {"Usage", "Print this", "The document"}) {
-        EXPECT_FALSE(french.contains(QString::fromUtf8(words))) << words << '\n' << french.toStdString();
+    for (const char* words : {"Usage", "Print this", "The document", "Subcommands"}) {
+        EXPECT_FALSE(help.contains(QString::fromUtf8(words))) << words << '\n' << help.toStdString();
     }
-    const QString program = run({QStringLiteral("--help")}).out;
-    EXPECT_TRUE(program.contains(u"Commandes:")) << program.toStdString();
-    EXPECT_FALSE(program.contains(u"Subcommands")) << program.toStdString();
 }
 
 TEST_F(Help, leavesNothingInAnotherLanguage) {
-    const QStringList manual{QStringLiteral("shell-file"), QStringLiteral("man")};
-    const QStringList english = descriptions(run(manual).out);
-    language = QStringLiteral("fr_FR.UTF-8");
-    const QStringList french = descriptions(run(manual).out);
+    const QStringList french = descriptions(done("shell-file man"));
+    language = QStringLiteral("C.UTF-8");
+    const QStringList english = descriptions(done("shell-file man"));
+    EXPECT_TRUE(english.join(u'\n').contains(u"Lists the records of a document"));
     ASSERT_EQ(english.size(), french.size());
     EXPECT_GT(english.size(), 60);
     for (qsizetype place = 0; place < english.size(); ++place) {

@@ -1,133 +1,115 @@
 #include "cli/commandrunner.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-
 namespace tavrel {
 
 namespace {
 
 class ViewCommands : public CommandLine {
 protected:
-    QJsonObject json(const QStringList& arguments) const {
+    using CommandLine::json;
+    /// With preferences of this run.
+    QJsonObject json(const char* command, std::initializer_list<const char*> preferences) const {
+        QStringList arguments = words(command);
+        for (const char* preference : preferences) {
+            arguments << QStringLiteral("--preference") << QString::fromUtf8(preference);
+        }
         return QJsonDocument::fromJson(done(arguments).toUtf8()).object();
-    }
-    QJsonObject json(const char* words) const { return json(QString::fromUtf8(words).split(u' ')); }
-    QJsonObject control(const QJsonObject& form, const char* name) const {
-        return form[u"controls"].toObject()[QString::fromUtf8(name)].toObject();
     }
 };
 
-QStringList texts(const QJsonObject& table, const char* column) {
+QJsonValue control(const QJsonObject& form, QStringView name) {
+    return form[u"controls"][name];
+}
+
+QJsonValue cell(const QJsonObject& table, qsizetype row, const char* column) {
     const auto place = table[u"columns"].toArray().toVariantList().indexOf(QString::fromUtf8(column));
+    return table[u"rows"][row][place];
+}
+
+QString texts(const QJsonObject& table, const char* column) {
     QStringList cells;
-    for (const auto& row : table[u"rows"].toArray()) {
-        cells.append(row.toArray().at(place).toObject()[u"text"].toString());
+    for (qsizetype row = 0; row < table[u"rows"].toArray().size(); ++row) {
+        cells.append(cell(table, row, column)[u"text"].toString());
     }
-    return cells;
+    return cells.join(u' ');
 }
 
 TEST_F(ViewCommands, tableShowsWhatTheWindowShows) {
-    done(QStringList{QStringLiteral("new"), QStringLiteral("Plongee"), QStringLiteral("my.carnet")});
-    done("add my.carnet lieu=Sete profondeur=20 epaves=Donator rebreather=1 gaz=Nitrox o2Mix=32");
-    const QJsonObject plain = json("table my.carnet --json");
+    done("new Plongee a.carnet");
+    done("add a.carnet lieu=Sete profondeur=20 epaves=Donator rebreather=1 gaz=Nitrox o2Mix=32 temps=30");
+    const QJsonObject plain = json("table a.carnet --json");
     EXPECT_EQ(plain[u"columns"].toArray().size(), 14);  // the apparatus is hidden at first
     EXPECT_EQ(plain[u"columns"].toArray().first(), QStringLiteral("noPlongee"));
-    EXPECT_EQ(texts(plain, "profondeur"), QStringList{QStringLiteral("20 m")});
+    EXPECT_EQ(texts(plain, "profondeur"), u"20 m");
     EXPECT_EQ(plain[u"count"], QStringLiteral("One dive"));
-    const QJsonArray row = plain[u"rows"].toArray().first().toArray();
-    EXPECT_EQ(row.at(11).toObject()[u"image"], QStringLiteral("epave"));
-    EXPECT_FALSE(row.at(2).toObject().contains(u"colour"));
-    EXPECT_FALSE(row.at(2).toObject().contains(u"image"));
+    EXPECT_EQ(plain[u"rows"][0][11][u"image"], QStringLiteral("epave"));
+    EXPECT_EQ(plain[u"rows"][0][2].toObject().keys(), words("text"));
 
-    const QJsonObject other =
-        json({QStringLiteral("table"), QStringLiteral("my.carnet"), QStringLiteral("--json"),
-              QStringLiteral("--preference"), QStringLiteral("us units=1"), QStringLiteral("--preference"),
-              QStringLiteral("column site=0"), QStringLiteral("--preference"), QStringLiteral("column scaph=1"),
-              QStringLiteral("--preference"), QStringLiteral("mix in color=1")});
-    EXPECT_EQ(texts(other, "profondeur"), QStringList{QStringLiteral("20 ft")});
-    EXPECT_EQ(texts(other, "rebreather"), QStringList{QStringLiteral("SCR")});
+    const QJsonObject other = json("table a.carnet --json", {"us units=1", "column site=0", "column scaph=1",
+                                                             "mix in color=1", "depth color=#12ab00"});
+    EXPECT_EQ(texts(other, "profondeur"), u"20 ft");
+    EXPECT_EQ(texts(other, "rebreather"), u"SCR");
     EXPECT_FALSE(other[u"columns"].toArray().contains(QStringLiteral("site")));
-    EXPECT_EQ(other[u"rows"].toArray().first().toArray().first().toObject()[u"colour"], QStringLiteral("#ffff00"));
-    EXPECT_EQ(texts(json("table my.carnet --json"), "profondeur"),
-              QStringList{QStringLiteral("20 m")});  // nothing was stored
-}
+    EXPECT_EQ(other[u"rows"][0][0][u"colour"], QStringLiteral("#ffff00"));
+    EXPECT_EQ(cell(other, 0, "profondeur")[u"colour"], QStringLiteral("#12ab00"));
+    EXPECT_EQ(texts(json("table a.carnet --json"), "profondeur"), u"20 m") << "nothing was stored";
 
-TEST_F(ViewCommands, preferencesOfOneRunMayBeColoursAndDictionaries) {
-    done(QStringList{QStringLiteral("new"), QStringLiteral("Plongee"), QStringLiteral("my.carnet")});
-    done("add my.carnet profondeur=20 temps=30");
-    const QJsonObject table = json({QStringLiteral("table"), QStringLiteral("my.carnet"), QStringLiteral("--json"),
-                                    QStringLiteral("--preference"), QStringLiteral("depth color=#12ab00")});
-    const auto place = table[u"columns"].toArray().toVariantList().indexOf(QStringLiteral("profondeur"));
-    EXPECT_EQ(table[u"rows"].toArray().first().toArray().at(place).toObject()[u"colour"], QStringLiteral("#12ab00"));
-
-    const QStringList stats{QStringLiteral("stats"), QStringLiteral("my.carnet"), QStringLiteral("--json")};
-    EXPECT_EQ(
-        json(stats + QStringList{QStringLiteral("--preference"),
-                                 QStringLiteral(R"(statistics values={"total temps": 70, "tek": 3})")})[u"total temps"],
-        100);
-    EXPECT_EQ(json(stats)[u"total temps"], 30);
+    EXPECT_EQ(json("stats a.carnet --json", {R"(statistics values={"total temps": 70, "tek": 3})"})[u"total temps"],
+              100);
+    EXPECT_EQ(json("stats a.carnet --json")[u"total temps"], 30);
 }
 
 TEST_F(ViewCommands, formShowsWhatItWorksOut) {
-    done(QStringLiteral("new Materiel m.materiel").split(u' '));
+    done("new Materiel m.materiel");
     done("add m.materiel noInspection=0 lastRevision=2020-01-01 nextRevision=2022-01-01 bloc=1");
     // 366 of 731 days.
     const QJsonObject inTime = json("form m.materiel --row 0 --json --now 2021-01-01T00:00:00");
-    EXPECT_NEAR(control(inTime, "tempsProgress")[u"value"].toDouble(), 100.0 * 366 / 731, 1e-9);
-    EXPECT_EQ(control(inTime, "pourcentageRevField")[u"value"], QStringLiteral("50 %"));
-    EXPECT_FALSE(control(inTime, "delaiDepasseField").contains(u"colour"));
-    EXPECT_EQ(control(inTime, "capaciteField")[u"visible"], true);
+    EXPECT_NEAR(control(inTime, u"tempsProgress")[u"value"].toDouble(), 100.0 * 366 / 731, 1e-9);
+    EXPECT_EQ(control(inTime, u"pourcentageRevField")[u"value"], QStringLiteral("50 %"));
+    EXPECT_TRUE(control(inTime, u"delaiDepasseField")[u"colour"].isUndefined());
+    EXPECT_EQ(control(inTime, u"capaciteField")[u"visible"], true);
     const QJsonObject late = json("form m.materiel --row 0 bloc=0 --json --now 2022-01-01T00:00:00");
-    EXPECT_EQ(control(late, "delaiDepasseField")[u"colour"], QStringLiteral("#ff0000"));
-    EXPECT_EQ(control(late, "capaciteField")[u"visible"], false);
+    EXPECT_EQ(control(late, u"delaiDepasseField")[u"colour"], QStringLiteral("#ff0000"));
+    EXPECT_EQ(control(late, u"capaciteField")[u"visible"], false);
 }
 
 TEST_F(ViewCommands, formShowsEntriesAndStoresNothing) {
-    done(QStringList{QStringLiteral("new"), QStringLiteral("Carnet de plongee"), QStringLiteral("my.carnet")});
-    done("add my.carnet profondeur=20 rebreather=mCCR");
-    const QByteArray before = contentsOf(path(QStringLiteral("my.carnet")));
-    const QJsonObject blank = json("form my.carnet --new --json --now 2019-05-03T10:30:00");
-    EXPECT_EQ(control(blank, "noPlongeeField")[u"value"], QStringLiteral("2"));
-    EXPECT_EQ(control(blank, "dateField")[u"value"], QStringLiteral("2019-05-03"));
-    EXPECT_EQ(control(blank, "flowField")[u"enabled"], false);
-    EXPECT_EQ(control(blank, "flowField")[u"visible"], true);
+    done("new Plongee a.carnet");
+    done("add a.carnet profondeur=20 rebreather=mCCR");
+    const QByteArray before = bytes();
+    const QJsonObject blank = json("form a.carnet --new --json --now 2019-05-03T10:30:00");
+    EXPECT_EQ(control(blank, u"noPlongeeField")[u"value"], QStringLiteral("2"));
+    EXPECT_EQ(control(blank, u"dateField")[u"value"], QStringLiteral("2019-05-03"));
+    EXPECT_EQ(control(blank, u"flowField")[u"enabled"], false);
+    EXPECT_EQ(control(blank, u"flowField")[u"visible"], true);
 
-    const QJsonObject edited = json("form my.carnet --row 0 profondeur=33.5 rebreather=1 nocturne=yes --json");
-    EXPECT_EQ(control(edited, "profondeurField")[u"value"], QStringLiteral("33.5"));
-    EXPECT_EQ(control(edited, "rebreatherMatrix")[u"value"], 1);
-    EXPECT_EQ(control(edited, "nocturneSwitch")[u"value"], 1);
-    EXPECT_EQ(control(edited, "flowField")[u"enabled"], true);
-    EXPECT_EQ(control(edited, "n2MixField")[u"value"], QStringLiteral("0"));
-    EXPECT_EQ(contentsOf(path(QStringLiteral("my.carnet"))), before);
-    EXPECT_EQ(run(QStringLiteral("form my.carnet --json").split(u' ')).code, 2);
-    EXPECT_EQ(run(QStringLiteral("form my.carnet --row 1 --json").split(u' ')).code, 1);
-    EXPECT_EQ(run(QStringLiteral("form my.carnet --row 0 lieu").split(u' ')).code, 2);
+    const QJsonObject edited = json("form a.carnet --row 0 profondeur=33.5 rebreather=1 nocturne=yes --json");
+    EXPECT_EQ(control(edited, u"profondeurField")[u"value"], QStringLiteral("33.5"));
+    EXPECT_EQ(control(edited, u"rebreatherMatrix")[u"value"], 1);
+    EXPECT_EQ(control(edited, u"nocturneSwitch")[u"value"], 1);
+    EXPECT_EQ(control(edited, u"flowField")[u"enabled"], true);
+    EXPECT_EQ(control(edited, u"n2MixField")[u"value"], QStringLiteral("0"));
+    EXPECT_EQ(bytes(), before);
+    expectRefusals({{"form a.carnet --json", 2, "--row"},
+                    {"form a.carnet --row 1 --json", 1, "1"},
+                    {"form a.carnet --row 0 lieu", 2, "lieu"}});
 }
 
 TEST_F(ViewCommands, sortClicksTheHeadersAndSavesTheOrder) {
-    done(QStringLiteral("new Budget b.budget").split(u' '));
-    for (const char* service : {"Air", "Nitrox", "Gear"}) {
-        done({QStringLiteral("add"), QStringLiteral("b.budget"),
-              QStringLiteral("prestation=") + QString::fromUtf8(service)});
+    done("new Budget b.budget");
+    for (const char* add :
+         {"add b.budget prestation=Air", "add b.budget prestation=Nitrox", "add b.budget prestation=Gear"}) {
+        done(add);
     }
     done("sort b.budget prestation");
-    EXPECT_EQ(texts(json("table b.budget --json"), "prestation"),
-              (QStringList{QStringLiteral("Nitrox"), QStringLiteral("Gear"), QStringLiteral("Air")}));
+    EXPECT_EQ(texts(json("table b.budget --json"), "prestation"), u"Nitrox Gear Air");
     done("sort b.budget prestation prestation");
-    EXPECT_EQ(texts(json("table b.budget --json"), "prestation"),
-              (QStringList{QStringLiteral("Air"), QStringLiteral("Gear"), QStringLiteral("Nitrox")}));
-    EXPECT_EQ(run(QStringLiteral("sort b.budget nothing").split(u' ')).code, 2);
+    EXPECT_EQ(texts(json("table b.budget --json"), "prestation"), u"Air Gear Nitrox");
+    expectRefusals({{"sort b.budget nothing", 2, "nothing"}});
 }
 
 TEST_F(ViewCommands, everyTypeIsMadeByAnyOfItsNames) {
-    struct Name {
-        const char* name;
-        const char* recordClass;
-        const char* extension;
-    };
-    const Name names[] = {
+    const std::tuple<const char*, const char*, const char*> names[] = {
         {"Carnet de plongee", "Plongee", "carnet"},
         {"Materiel", "Materiel", "materiel"},
         {"Epaves", "Epaves", "epaves"},
@@ -143,23 +125,19 @@ TEST_F(ViewCommands, everyTypeIsMadeByAnyOfItsNames) {
     };
     int made = 0;
     for (const auto& [name, recordClass, extension] : names) {
-        const QString file = QStringLiteral("%1.%2").arg(++made).arg(QLatin1StringView(extension));
-        done({QStringLiteral("new"), QString::fromUtf8(name), file});
-        done({QStringLiteral("add"), file});
-        const QJsonObject shown = json({QStringLiteral("show"), file, QStringLiteral("--json")});
+        const std::string file = std::to_string(++made) + '.' + extension;
+        done(("new \"" + std::string(name) + "\" " + file).c_str());
+        done(("add " + file).c_str());
+        const QJsonObject shown = json(("show --json " + file).c_str());
         EXPECT_EQ(shown[u"class"].toString(), QString::fromUtf8(recordClass)) << name;
         EXPECT_EQ(shown[u"records"].toArray().size(), 1) << name;
-        EXPECT_EQ(json({QStringLiteral("table"), file, QStringLiteral("--json")})[u"rows"].toArray().size(), 1) << name;
-        EXPECT_FALSE(json({QStringLiteral("form"), file, QStringLiteral("--row"), QStringLiteral("0"),
-                           QStringLiteral("--json")})[u"controls"]
-                         .toObject()
-                         .isEmpty());
+        EXPECT_EQ(json(("table --json " + file).c_str())[u"rows"].toArray().size(), 1) << name;
+        EXPECT_FALSE(json(("form --row 0 --json " + file).c_str())[u"controls"].toObject().isEmpty()) << name;
     }
-    EXPECT_EQ(run(QStringLiteral("new Nothing x.file").split(u' ')).code, 2);
 }
 
 TEST_F(ViewCommands, cardsAndPagesComeFromTheSameRooms) {
-    done(QStringLiteral("new Materiel m.materiel").split(u' '));
+    done("new Materiel m.materiel");
     done("add m.materiel marqueMatos=Alpha");
     done("add m.materiel marqueMatos=Beta");
     const QJsonObject card = json("card m.materiel --row 1 --json");
@@ -170,29 +148,30 @@ TEST_F(ViewCommands, cardsAndPagesComeFromTheSameRooms) {
         runs += each.toObject()[u"text"].toString();
     }
     EXPECT_EQ(runs, whole);
-    EXPECT_EQ(card[u"runs"].toArray().first().toObject()[u"colour"], QStringLiteral("#00ff00"));
+    EXPECT_EQ(card[u"runs"][0][u"colour"], QStringLiteral("#00ff00"));
     EXPECT_FALSE(done("card m.materiel").contains(u'\r'));
 
     for (int row = 0; row < 70; ++row) {
         done("add m.materiel typeMatos=Fins");
     }
-    done("render m.materiel list.pdf --what table");
-    EXPECT_TRUE(contentsOf(path(QStringLiteral("list.pdf"))).startsWith("%PDF"));
-    done("render m.materiel list.svg --what table");
-    EXPECT_TRUE(contentsOf(path(QStringLiteral("list.svg"))).contains("<svg"));
-    EXPECT_TRUE(contentsOf(path(QStringLiteral("list-2.svg"))).contains("<svg"));
-    done("render m.materiel list.png --what card --row 1");
-    EXPECT_TRUE(contentsOf(path(QStringLiteral("list.png"))).startsWith("\x89PNG"));
-    EXPECT_EQ(run(QStringLiteral("render m.materiel list.txt --what table").split(u' ')).code, 2);
-    done(QStringLiteral("new Plongee my.carnet").split(u' '));
-    done("add my.carnet profondeur=20 temps=40");
-    for (const char* what : {"stats", "graphs", "card"}) {
-        const QString file = QString::fromUtf8(what) + QStringLiteral(".svg");
-        done({QStringLiteral("render"), QStringLiteral("my.carnet"), file, QStringLiteral("--what"),
-              QString::fromUtf8(what)});
-        EXPECT_TRUE(contentsOf(path(file)).contains("<text")) << what;
+    done("new Plongee a.carnet");
+    done("add a.carnet profondeur=20 temps=40");
+    // The second page of the list stands in a file of its own.
+    const std::tuple<const char*, const char*, const char*> cases[] = {
+        {"render m.materiel list.pdf --what table", "list.pdf", "%PDF"},
+        {"render m.materiel list.svg --what table", "list.svg", "<svg"},
+        {"render m.materiel more.svg --what table", "more-2.svg", "<svg"},
+        {"render m.materiel list.png --what card --row 1", "list.png", "\x89PNG"},
+        {"render a.carnet stats.svg --what stats", "stats.svg", "<text"},
+        {"render a.carnet graphs.svg --what graphs", "graphs.svg", "<text"},
+        {"render a.carnet card.svg --what card", "card.svg", "<text"},
+    };
+    for (const auto& [command, file, holds] : cases) {
+        done(command);
+        EXPECT_TRUE(contentsOf(path(QString::fromUtf8(file))).contains(holds)) << command;
     }
-    EXPECT_EQ(run(QStringLiteral("render m.materiel list.png --what profile").split(u' ')).code, 1);
+    expectRefusals({{"render m.materiel list.txt --what table", 2, ".pdf"},
+                    {"render m.materiel list.png --what profile", 1, "m.materiel"}});
 }
 
 }  // namespace

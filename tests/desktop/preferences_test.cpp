@@ -2,9 +2,9 @@
 
 #include "archive/colorarchive.h"
 #include "desktop/defaults.h"
+#include "support/files.h"
 #include "support/testdesktop.h"
 
-#include <QFile>
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
@@ -19,12 +19,12 @@ const QString key = QStringLiteral("low temperature value");
 /// The preferences as another run of the program finds them: a copy of the file, which no open store knows.
 class NextRun {
 public:
-    explicit NextRun(const TestDesktop& desktop, const char* name = "next.ini") : store(copied(desktop, name)) {}
+    explicit NextRun(const TestDesktop& desktop) : store(copied(desktop)) {}
     Preferences store;
 
 private:
-    static QString copied(const TestDesktop& desktop, const char* name) {
-        QString copy = desktop.path(QLatin1String(name));
+    static QString copied(const TestDesktop& desktop) {
+        const QString copy = desktop.path(QStringLiteral("next.ini"));
         EXPECT_TRUE(QFile::copy(desktop.path(QStringLiteral("preferences.ini")), copy));
         return copy;
     }
@@ -120,13 +120,7 @@ TEST(Preferences, readAWrongKindAsTheDefault) {
 TEST(Preferences, readTextsAsBooleansAndNumbers) {
     TestDesktop desktop;
     Preferences& preferences = desktop.preferences;
-    struct Case {
-        const char* text;
-        bool boolean;
-        qint32 integer;
-        double real;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, bool, qint32, double> cases[] = {
         {"YES", true, 0, 0},
         {"yes", true, 0, 0},
         {"true", true, 0, 0},
@@ -139,19 +133,20 @@ TEST(Preferences, readTextsAsBooleansAndNumbers) {
         {"0.0", false, 0, 0},
         {"1e10", true, std::numeric_limits<qint32>::max(), 1e10},
     };
-    for (const Case& it : cases) {
-        preferences.set(key, QLatin1String(it.text));
-        EXPECT_EQ(preferences.boolean(key), it.boolean) << it.text;
-        EXPECT_EQ(preferences.integer(key), it.integer) << it.text;
-        EXPECT_EQ(preferences.real(key), it.real) << it.text;
+    for (const auto& [text, boolean, integer, real] : cases) {
+        preferences.set(key, QLatin1String(text));
+        EXPECT_EQ(preferences.boolean(key), boolean) << text;
+        EXPECT_EQ(preferences.integer(key), integer) << text;
+        EXPECT_EQ(preferences.real(key), real) << text;
     }
 }
 
 TEST(Preferences, thatCannotBeWrittenStayInMemory) {
     const TestDesktop desktop;
-    QFile obstacle(desktop.path(QStringLiteral("obstacle")));
-    ASSERT_TRUE(obstacle.open(QIODevice::WriteOnly));
-    Preferences preferences(obstacle.fileName() + QStringLiteral("/folder/tavrel.ini"));
+    const QString obstacle = desktop.path(QStringLiteral("obstacle"));
+    writeContents(obstacle, "");
+    const QString file = obstacle + QStringLiteral("/folder/tavrel.ini");
+    Preferences preferences(file);
     preferences.set(key, 12);
     EXPECT_EQ(preferences.integer(key), 12);
     RecordingAlerts alerts;
@@ -162,11 +157,9 @@ TEST(Preferences, thatCannotBeWrittenStayInMemory) {
     ASSERT_FALSE(result);
     EXPECT_TRUE(result.error().sentence.contains(u"obstacle/folder/tavrel.ini"));
     // The obstacle gone, the next attempt succeeds and the value is there.
-    ASSERT_TRUE(obstacle.remove());
+    ASSERT_TRUE(QFile::remove(obstacle));
     EXPECT_TRUE(preferences.synchronize());
-    QFile written(obstacle.fileName() + QStringLiteral("/folder/tavrel.ini"));
-    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(written.readAll().contains("=12"));
+    EXPECT_TRUE(contentsOf(file).contains("=12"));
 }
 
 TEST(Preferences, registerWhatNoSettingFallsBackTo) {

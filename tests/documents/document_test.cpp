@@ -1,6 +1,7 @@
 #include "documents/document.h"
 
 #include "base/safefile.h"
+#include "support/files.h"
 #include "support/testdesktop.h"
 
 #include <QSignalSpy>
@@ -11,25 +12,16 @@ namespace tavrel {
 
 namespace {
 
-QByteArray contents(const QString& path) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-    return file.readAll();
-}
-
 /// A document of one text, which refuses bytes that begin with '!'.
 class Note : public Document {
 public:
     explicit Note(Desktop& desktop) : Document(desktop) { setType(QStringLiteral("Note")); }
 
     Expected<QByteArray> dataRepresentationOfType(const QString& type) override {
-        if (type == u"Note") {
-            return words;
+        if (type != u"Note" && type != u"Export") {
+            return failure(QStringLiteral("unknown type"), type);
         }
-        if (type == u"Export") {
-            return words.toUpper();
-        }
-        return failure(QStringLiteral("unknown type"), type);
+        return type == u"Note" ? words : words.toUpper();
     }
 
     Expected<void> loadDataRepresentation(QByteArrayView data, const QString&) override {
@@ -81,7 +73,7 @@ TEST(Document, knowsWhetherItDiffersFromItsFile) {
     EXPECT_TRUE(note.isChanged());
     ASSERT_TRUE(note.save());
     EXPECT_FALSE(note.isChanged());
-    EXPECT_EQ(contents(note.file()), "two");
+    EXPECT_EQ(contentsOf(note.file()), "two");
     EXPECT_EQ(files.count(), 1);
     QList<bool> told;
     for (const auto& state : states) {
@@ -122,13 +114,13 @@ TEST(Document, staysAsItIsWhenReadingOrWritingFails) {
     EXPECT_FALSE(note.open(desktop.path(QStringLiteral("missing"))));
     EXPECT_FALSE(note.saveAs(desktop.path(QStringLiteral("note/below"))));
     EXPECT_FALSE(note.exportAs(damaged, QStringLiteral("Unknown")));
-    EXPECT_EQ(contents(damaged), "!x");
+    EXPECT_EQ(contentsOf(damaged), "!x");
     ASSERT_TRUE(note.exportAs(damaged, QStringLiteral("Export")));
-    EXPECT_EQ(contents(damaged), "TWO");
+    EXPECT_EQ(contentsOf(damaged), "TWO");
 
     EXPECT_EQ(note.words, "two");
     EXPECT_EQ(note.file(), file);
-    EXPECT_EQ(contents(file), "one");
+    EXPECT_EQ(contentsOf(file), "one");
     EXPECT_TRUE(note.isChanged());
     EXPECT_TRUE(note.undoStack().canUndo());
     EXPECT_EQ(states.count() + files.count(), 0);

@@ -3,6 +3,7 @@
 #include "documents/document.h"
 #include "documents/documentsettings.h"
 #include "documents/journal.h"
+#include "support/files.h"
 #include "support/testdesktop.h"
 
 #include <QDir>
@@ -60,9 +61,10 @@ protected:
 class GuardedFile : public testing::Test {
 protected:
     QString path(const char* name) { return desktop.path(QString::fromUtf8(name)); }
-    static QByteArray contents(const QString& file) {
-        const auto bytes = FileBytes::open(file);
-        return bytes ? bytes->bytes().toByteArray() : QByteArray("unreadable");
+    static mode_t mode(const QString& file) {
+        struct stat status {};
+        EXPECT_EQ(::stat(pathBytes(file).constData(), &status), 0);
+        return status.st_mode & 07777U;
     }
 
     TestDesktop desktop;
@@ -85,10 +87,10 @@ TEST_F(GuardedFile, isNotSavedOverWhatAnotherProgramWrote) {
     ASSERT_FALSE(refused);
     EXPECT_EQ(refused.error().sentence, u"“leaf” could not be saved: Another program has changed the file.");
     EXPECT_FALSE(leaf.saveAs(path("../") + QFileInfo(file).dir().dirName() + QStringLiteral("/leaf")));
-    EXPECT_EQ(contents(file), "owt");
+    EXPECT_EQ(contentsOf(file), "owt");
     EXPECT_TRUE(leaf.isChanged());
     ASSERT_TRUE(leaf.save(Document::Overwriting::yes));
-    EXPECT_EQ(contents(file), "three");
+    EXPECT_EQ(contentsOf(file), "three");
     EXPECT_TRUE(leaf.save());
 
     ASSERT_TRUE(QFile::remove(file));
@@ -109,9 +111,7 @@ TEST_F(GuardedFile, isWatchedWhileItIsOpen) {
     // Replaced, then changed in place, which is no news; removed; put back.
     ASSERT_TRUE(writeFile(file, "another"));
     EXPECT_EQ(next(), State::changed);
-    QFile changed(file);
-    ASSERT_TRUE(changed.open(QIODevice::WriteOnly) && changed.write("in place") > 0);
-    changed.close();
+    writeContents(file, "in place");
     ASSERT_TRUE(QFile::remove(file));
     EXPECT_EQ(next(), State::gone);
     ASSERT_TRUE(writeFile(file, ""));
@@ -164,16 +164,14 @@ TEST_F(GuardedFile, keepsWhatItWasBeforeTheFirstSave) {
         leaf.change(words);
         ASSERT_TRUE(leaf.save());
     }
-    EXPECT_EQ(contents(leaf.backupFile()), "yesterday");
-    struct stat status {};
-    ASSERT_EQ(::stat(pathBytes(leaf.backupFile()).constData(), &status), 0);
-    EXPECT_EQ(status.st_mode & 0777U, 0600U);
+    EXPECT_EQ(contentsOf(leaf.backupFile()), "yesterday");
+    EXPECT_EQ(mode(leaf.backupFile()), 0600U);
     ASSERT_TRUE(leaf.revertToBackup());
     EXPECT_EQ(leaf.words, "yesterday");
     EXPECT_TRUE(leaf.isChanged());
-    EXPECT_EQ(contents(file), "evening") << "until it is saved";
+    EXPECT_EQ(contentsOf(file), "evening") << "until it is saved";
     ASSERT_TRUE(leaf.save());
-    EXPECT_EQ(contents(file), "yesterday");
+    EXPECT_EQ(contentsOf(file), "yesterday");
 
     desktop.preferences.set(settings::keepsBackup, false);
     ASSERT_TRUE(QFile::remove(leaf.backupFile()));
@@ -204,10 +202,20 @@ TEST(JournalPace, waitsForAPauseButNotForLong) {
     EXPECT_LT(times.longest, 30'000);
 }
 
+/// What a run of the program keeps.
+struct ProgramRun {
+    ProgramRun(const QString& parent, Leaf& leaf) : folder(parent), journal(folder, leaf, QStringLiteral("Leaf")) {}
+    QDir kept() const { return QFileInfo(journal.file()).dir(); }
+
+    JournalFolder folder;
+    Journal journal;
+};
+
 class Journals : public GuardedFile {
 protected:
-    QString parent() { return path("journal"); }
-    std::vector<JournalFolder::Left> left() { return JournalFolder(parent()).left(); }
+    std::vector<JournalFolder::Left> left() const { return JournalFolder(parent).left(); }
+
+    const QString parent = path("journal");
 };
 
 TEST_F(Journals, keepWhatIsUnsavedForTheNextRun) {
@@ -215,16 +223,13 @@ TEST_F(Journals, keepWhatIsUnsavedForTheNextRun) {
     leaf.words = "saved";
     ASSERT_TRUE(leaf.saveAs(file));
     {
-        JournalFolder folder(parent());
-        Journal journal(folder, leaf, QStringLiteral("Leaf"));
-        journal.keepNow();
-        EXPECT_TRUE(journal.file().isEmpty()) << "nothing is unsaved";
+        ProgramRun run(parent, leaf);
+        run.journal.keepNow();
+        EXPECT_TRUE(run.journal.file().isEmpty()) << "nothing is unsaved";
         leaf.change("changed");
         leaf.typeIntoForm(QStringLiteral("é ß"));
-        journal.keepNow();
-        struct stat status {};
-        ASSERT_EQ(::stat(pathBytes(journal.file()).constData(), &status), 0);
-        EXPECT_EQ(status.st_mode & 07777U, 0600U);
+        run.journal.keepNow();
+        EXPECT_EQ(mode(run.journal.file()), 0600U);
         EXPECT_TRUE(left().empty()) << "the program is alive";
     }
     auto found = left();
@@ -253,56 +258,51 @@ TEST_F(Journals, keepWhatIsUnsavedForTheNextRun) {
     EXPECT_EQ(again.words, "changed");
     EXPECT_TRUE(again.isChanged());
     EXPECT_EQ(again.file(), file);
-    EXPECT_EQ(contents(file), "saved");
+    EXPECT_EQ(contentsOf(file), "saved");
     EXPECT_EQ(again.stateOnDisk(), State::same);
     ASSERT_TRUE(writeFile(file, "by another"));
     EXPECT_EQ(again.stateOnDisk(), State::changed);
 
     found[0].discard();
     EXPECT_TRUE(left().empty());
-    EXPECT_TRUE(QDir(parent()).isEmpty());
+    EXPECT_TRUE(QDir(parent).isEmpty());
 }
 
 TEST_F(Journals, writeTheContentsOnlyWhenTheyAreOthers) {
-    JournalFolder folder(parent());
-    Journal journal(folder, leaf, QStringLiteral("Leaf"));
-    const auto files = [&] {
-        const QFileInfo file(journal.file());
-        return file.dir().entryList({QStringLiteral("*.contents")}, QDir::Files);
-    };
+    ProgramRun run(parent, leaf);
+    const auto files = [&] { return run.kept().entryList({QStringLiteral("*.contents")}, QDir::Files); };
     leaf.version = std::make_shared<int>();
     leaf.change("first");
-    journal.keepNow();
+    run.journal.keepNow();
     const QStringList first = files();
     ASSERT_EQ(first.size(), 1);
     leaf.typeIntoForm(QStringLiteral("typed"));
     // Were they asked for again, these would be found.
     leaf.words = "not told of";
-    journal.keepNow();
+    run.journal.keepNow();
     EXPECT_EQ(files(), first);
     leaf.version = std::make_shared<int>();
     leaf.change("second");
-    journal.keepNow();
+    run.journal.keepNow();
     ASSERT_EQ(files().size(), 1);
     EXPECT_NE(files(), first);
-    EXPECT_EQ(contents(QFileInfo(journal.file()).path() + u'/' + files().first()), "second");
+    EXPECT_EQ(contentsOf(run.kept().filePath(files().first())), "second");
 }
 
 TEST_F(Journals, areGoneOnceEverythingIsSaved) {
-    JournalFolder folder(parent());
-    Journal journal(folder, leaf, QStringLiteral("Leaf"));
+    ProgramRun run(parent, leaf);
     leaf.change("changed");
-    journal.keepNow();
-    ASSERT_TRUE(pathExists(journal.file()));
+    run.journal.keepNow();
+    ASSERT_TRUE(pathExists(run.journal.file()));
     ASSERT_TRUE(leaf.saveAs(path("leaf")));
-    folder.work().waitForDone();
-    EXPECT_FALSE(pathExists(journal.file()));
+    run.folder.work().waitForDone();
+    EXPECT_FALSE(pathExists(run.journal.file()));
     leaf.change("again");
-    journal.keepNow();
-    ASSERT_TRUE(pathExists(journal.file()));
-    journal.drop();
-    folder.work().waitForDone();
-    EXPECT_FALSE(pathExists(journal.file()));
+    run.journal.keepNow();
+    ASSERT_TRUE(pathExists(run.journal.file()));
+    run.journal.drop();
+    run.folder.work().waitForDone();
+    EXPECT_FALSE(pathExists(run.journal.file()));
 }
 
 TEST_F(Journals, knowASaveThatTheyDidNotOutlive) {
@@ -311,18 +311,17 @@ TEST_F(Journals, knowASaveThatTheyDidNotOutlive) {
     ASSERT_TRUE(leaf.saveAs(file));
     // What is beside the file when it is written, and stays when the program ends there and then.
     const auto endWhileSaving = [&](bool types) {
-        JournalFolder folder(parent());
-        Journal journal(folder, leaf, QStringLiteral("Leaf"));
+        ProgramRun run(parent, leaf);
         leaf.change("second");
         if (types) {
             leaf.typeIntoForm(QStringLiteral("typed"));
         }
-        journal.keepNow();
+        run.journal.keepNow();
         leaf.typed.reset();
         leaf.change("third");
-        const QString copy = parent() + QStringLiteral("/ended");
+        const QString copy = parent + QStringLiteral("/ended");
         const auto copying = QObject::connect(&leaf, &Document::aboutToWrite, &leaf, [&] {
-            const QDir kept = QFileInfo(journal.file()).dir();
+            const QDir kept = run.kept();
             ASSERT_TRUE(QDir().mkdir(copy));
             for (const QString& name : kept.entryList({QStringLiteral("1*")}, QDir::Files)) {
                 ASSERT_TRUE(QFile::copy(kept.filePath(name), copy + u'/' + name));
@@ -348,23 +347,22 @@ TEST_F(Journals, knowASaveThatTheyDidNotOutlive) {
     // Without a form there is nothing to offer.
     endWhileSaving(false);
     EXPECT_TRUE(left().empty());
-    EXPECT_TRUE(QDir(parent()).isEmpty());
+    EXPECT_TRUE(QDir(parent).isEmpty());
 }
 
 TEST_F(Journals, areKeptByThemselvesAfterAChange) {
-    JournalFolder folder(parent());
-    Journal journal(folder, leaf, QStringLiteral("Leaf"));
+    ProgramRun run(parent, leaf);
     leaf.typeIntoForm(QStringLiteral("x"));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !journal.file().isEmpty() && pathExists(journal.file()); }, 20'000));
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return !run.journal.file().isEmpty() && pathExists(run.journal.file()); }, 20'000));
 }
 
 TEST_F(Journals, thatAreDamagedAreNoTrouble) {
     {
-        JournalFolder folder(parent());
-        Journal journal(folder, leaf, QStringLiteral("Leaf"));
+        ProgramRun run(parent, leaf);
         leaf.change("changed");
-        journal.keepNow();
-        const QByteArray bytes = contents(journal.file());
+        run.journal.keepNow();
+        const QByteArray bytes = contentsOf(run.journal.file());
         const auto whole = unarchivedUnsaved(bytes);
         ASSERT_TRUE(whole);
         for (qsizetype length = 0; length < bytes.size(); ++length) {
@@ -374,16 +372,15 @@ TEST_F(Journals, thatAreDamagedAreNoTrouble) {
         flipped[bytes.size() - 1] = static_cast<char>(flipped[bytes.size() - 1] ^ 1);
         EXPECT_FALSE(unarchivedUnsaved(flipped));
         // Nor is a journal whose contents are not its own.
-        ASSERT_TRUE(writeFile(QFileInfo(journal.file()).path() + u'/' + whole->second.name, "chanced"));
+        ASSERT_TRUE(writeFile(run.kept().filePath(whole->second.name), "chanced"));
     }
     EXPECT_TRUE(left().empty());
-    EXPECT_TRUE(QDir(parent()).isEmpty());
+    EXPECT_TRUE(QDir(parent).isEmpty());
     // Nowhere to keep anything.
-    JournalFolder nowhere{QString()};
-    Journal journal(nowhere, leaf, QStringLiteral("Leaf"));
+    ProgramRun nowhere(QString(), leaf);
     leaf.change("more");
-    journal.keepNow();
-    EXPECT_TRUE(journal.file().isEmpty());
+    nowhere.journal.keepNow();
+    EXPECT_TRUE(nowhere.journal.file().isEmpty());
 }
 
 }  // namespace

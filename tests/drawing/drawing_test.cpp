@@ -120,13 +120,6 @@ TEST(Drawing, shadesLabelsUntilTheyCanBeRead) {
     EXPECT_EQ(blended(QColor(255, 0, 0, 51), Qt::white), QColor(255, 204, 204));
 }
 
-TEST(DataTable, readsAsLinesOfCells) {
-    const DataTable table{{QStringLiteral("a"), QStringLiteral("b")}, 2, [](int row, int column) {
-                              return QString::number(10 * row + column);
-                          }};
-    EXPECT_EQ(table.text(), u"a\tb\n0\t1\n10\t11\n");
-}
-
 QByteArray bytesOf(const Pages& pages, PictureFormat format) {
     const auto bytes = pictureBytes(pages, format);
     EXPECT_TRUE(bytes) << (bytes ? "" : bytes.error().message().toStdString());

@@ -8,28 +8,19 @@
 
 namespace {
 
-class FileTypes : public testing::Test {
-protected:
-    static void SetUpTestSuite() {
-        folder = new QTemporaryDir;
-        const QString packages = folder->filePath(QStringLiteral("mime/packages"));
-        ASSERT_TRUE(QDir().mkpath(packages));
-        ASSERT_TRUE(QFile::copy(QStringLiteral(TAVREL_SOURCE_FOLDER "/resources/desktop/tavrel.xml"),
-                                packages + QStringLiteral("/tavrel.xml")));
-        qputenv("XDG_DATA_HOME", folder->path().toUtf8());
-    }
-    static void TearDownTestSuite() { delete folder; }
+QByteArray sample(const QString& ending) {
+    QFile file(QStringLiteral(TAVREL_SOURCE_FOLDER "/samples/sample.") + ending);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << ending.toStdString();
+    return file.read(4096);
+}
 
-    static QByteArray sample(const QString& ending) {
-        QFile file(QStringLiteral(TAVREL_SOURCE_FOLDER "/samples/sample.") + ending);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << ending.toStdString();
-        return file.read(4096);
-    }
-
-    static inline QTemporaryDir* folder = nullptr;
-};
-
-TEST_F(FileTypes, areToldByTheirContents) {
+TEST(FileTypes, areToldByTheirContentsAndNoOthersClaimed) {
+    const QTemporaryDir folder;
+    const QString packages = folder.filePath(QStringLiteral("mime/packages"));
+    ASSERT_TRUE(QDir().mkpath(packages));
+    ASSERT_TRUE(QFile::copy(QStringLiteral(TAVREL_SOURCE_FOLDER "/resources/desktop/tavrel.xml"),
+                            packages + QStringLiteral("/tavrel.xml")));
+    qputenv("XDG_DATA_HOME", folder.path().toUtf8());
     const QMimeDatabase types;
     for (const char* kind : {"carnet", "materiel", "epaves", "compresseur", "rebreather", "consommables", "budget",
                              "entreprises", "structures", "documents"}) {
@@ -42,10 +33,6 @@ TEST_F(FileTypes, areToldByTheirContents) {
         EXPECT_TRUE(types.mimeTypeForName(type).iconName().endsWith(name));
         EXPECT_EQ(types.mimeTypeForData(bytes.replace("streamtyped", "typedstream")).name(), type) << "big-endian";
     }
-}
-
-TEST_F(FileTypes, ofOthersAreNotClaimed) {
-    const QMimeDatabase types;
     QByteArray bytes = sample(QStringLiteral("carnet"));
     for (const QByteArray& other : {bytes.replace("Plongee", "Voyages"), QByteArray("\x04\x0bstreamtyped"),
                                     QByteArray("Plongee\nBudget\nEpaves\n")}) {

@@ -2,10 +2,11 @@
 
 #include "interchange/frenchlocale.h"
 #include "interchange/xml/xmltree.h"
+#include "support/files.h"
 #include "support/printing.h"
+#include "support/records.h"
 #include "support/testdesktop.h"
 
-#include <QFile>
 #include <gtest/gtest.h>
 
 namespace tavrel {
@@ -18,36 +19,17 @@ Date localDate(int year, int month, int day, int hour, int minute) {
 
 Plongee wreckDive() {
     Plongee dive;
-    dive.noPlongee = 57;
+    setFields(dive, Plongee::layout(), R"(noPlongee=57; lieu=Étretat; site=A & <B>; pays=France; coeff=95;
+        surface=--:--; profondeur=18.75; temps=42; pressionDepart=200; pressionFin=55; volumeBloc=15; o2Mix=32; gaz=1;
+        altitude=4; tempEau=-50; tempAir=21; meteo=6; courant=5; visibilite=8; partenaires=Zoé, "Max";
+        samplingRate=6; profilProfondeur=0.25 18.75 6; PRESS_Data=0)");
     dive.date = localDate(2014, 7, 5, 9, 0);
     dive.heure = localDate(2001, 1, 1, 9, 5);
-    dive.lieu = QStringLiteral("Étretat");
-    dive.site = QStringLiteral("A & <B>");
-    dive.pays = QStringLiteral("France");
-    dive.coeff = 95;
-    dive.surface = QStringLiteral("--:--");
-    dive.profondeur = 18.75F;
-    dive.temps = 42;
-    dive.pressionDepart = 200;
-    dive.pressionFin = 55;
-    dive.volumeBloc = 15;
-    dive.o2Mix = 32;
-    dive.gaz = 1;
-    dive.altitude = 4;
-    dive.tempEau = -50;
-    dive.tempAir = 21;
-    dive.meteo = 6;
-    dive.courant = 5;
-    dive.visibilite = 8;
-    dive.partenaires = QStringLiteral("Zoé, \"Max\"");
-    dive.samplingRate = 6;
-    dive.profilProfondeur = Series::ofReals({0.25, 18.75, 6});
     dive.ASC_Flag = Series::ofIntegers({0, 1, 2});
     dive.SLOW_Flag = Series::ofIntegers({0, 1, 0});
     dive.SURF_Flag = Series::ofIntegers({0, 1, 1});
     dive.CEIL_Flag = Series::ofIntegers({0, 1});
     dive.GAZ_Flag = Series::ofIntegers({1, 0, 3});
-    dive.PRESS_Data = Series::ofReals({0});
     return dive;
 }
 
@@ -183,42 +165,34 @@ TEST_F(Exports, writeTheTreeOfUDDF) {
 }
 
 TEST_F(Exports, nameGasesAndSamplingIntervals) {
-    struct Case {
-        int sampling;
-        const char* delta;
-        int gas, oxygen, helium;
-        const char* mix;
-    };
     // Codes outside the table repeat the interval of the dive before, 10 s at first.
-    const Case cases[] = {
-        {9, "10.0", 0, 21, 0, "Air"},
-        {0, "10.0", 1, 32, 0, "Nitrox 32"},
-        {1, "20.0", 2, 18, 45, "Trimix 18/45"},
-        {2, "30.0", 3, 20, 80, "Heliox 20"},
-        {3, "60.0", 4, 25, 25, "Heliox 25"},
-        {4, "120.0", 5, 12, 40, "Heliox 12"},
-        {-1, "120.0", -3, 21, 0, "Heliox 21"},
-        {5, "4.0", 0, 21, 0, "Air"},
-        {6, "5.0", 0, 21, 0, "Air"},
-        {7, "5.0", 0, 21, 0, "Air"},
+    const std::tuple<int, const char*, std::array<int, 3>, const char*> cases[] = {
+        {9, "10.0", {0, 21, 0}, "Air"},
+        {0, "10.0", {1, 32, 0}, "Nitrox 32"},
+        {1, "20.0", {2, 18, 45}, "Trimix 18/45"},
+        {2, "30.0", {3, 20, 80}, "Heliox 20"},
+        {3, "60.0", {4, 25, 25}, "Heliox 25"},
+        {4, "120.0", {5, 12, 40}, "Heliox 12"},
+        {-1, "120.0", {-3, 21, 0}, "Heliox 21"},
+        {5, "4.0", {0, 21, 0}, "Air"},
+        {6, "5.0", {0, 21, 0}, "Air"},
+        {7, "5.0", {0, 21, 0}, "Air"},
     };
     std::vector<Plongee> dives;
-    for (const Case& it : cases) {
+    for (const auto& [sampling, delta, gas, mix] : cases) {
         Plongee dive;  // without any series, date or text
-        dive.samplingRate = it.sampling;
-        dive.gaz = it.gas;
-        dive.o2Mix = it.oxygen;
-        dive.heMix = it.helium;
+        dive.samplingRate = sampling;
+        std::tie(dive.gaz, dive.o2Mix, dive.heMix) = std::tuple_cat(gas);
         dives.push_back(dive);
     }
     carnet.appendDives(QStringLiteral("add"), dives);
-    const std::string file = exported("udcf");
-    const auto tree = XmlTree::parse(QByteArray::fromStdString(file));
+    const auto tree = XmlTree::parse(QByteArray::fromStdString(exported("udcf")));
     ASSERT_TRUE(tree);
     std::size_t index = 0;
     for (const XmlElement dive : tree->root().last("REPGROUP").children("DIVE")) {
-        EXPECT_EQ(dive.last("SAMPLES").last("DELTA").text(), QLatin1String(cases[index].delta)) << index;
-        EXPECT_EQ(dive.last("GASES").last("MIX").last("MIXNAME").text(), QLatin1String(cases[index].mix)) << index;
+        const auto& [sampling, delta, gas, mix] = cases[index];
+        EXPECT_EQ(dive.last("SAMPLES").last("DELTA").text(), QLatin1String(delta)) << index;
+        EXPECT_EQ(dive.last("GASES").last("MIX").last("MIXNAME").text(), QLatin1String(mix)) << index;
         EXPECT_EQ(dive.last("SAMPLES").children("D").count(), 2U);
         EXPECT_EQ(dive.last("PLACE").text(), u" - ");
         EXPECT_EQ(dive.last("DATE").last("YEAR").text(), u"");
@@ -257,10 +231,7 @@ std::string withSeparator(std::string line, const std::string& separator) {
 TEST_F(Exports, writeTheDiveListAsMacRomanText) {
     const FrenchLocale french;
     Plongee coded;
-    coded.meteo = 7;
-    coded.courant = -1;
-    coded.visibilite = 7;
-    coded.profondeur = 12;
+    setFields(coded, Plongee::layout(), "meteo=7; courant=-1; visibilite=7; profondeur=12");
     add({wreckDive(), coded});
     // The text's own comma and quotes stand as they are.
     const std::string buddies = "Zo\x8e, \"Max\"";
@@ -268,15 +239,13 @@ TEST_F(Exports, writeTheDiveListAsMacRomanText) {
         "57,05/07/2014,\x83tretat,A & <B>,France,95,--:--,09:05,18.75,42,200,55,32,0,Thundery,"
         "Violent,Exceptional,-50,21,";
     const std::string second = "0,,,,,0,,,12,0,0,0,0,0,N/A,,N/A,0,0,";
-    struct Case {
-        const char *name, *separator, *ends;
-    };
-    for (const Case& it : {Case{"csv-semicolon", "\";\"", "\""}, {"csv-comma", ",", ""}, {"tsv", "\t", ""}}) {
-        const std::string ends = it.ends;
-        EXPECT_EQ(exported(it.name), ends + withSeparator(diveHeader, it.separator) + ends + "\r" + ends +
-                                         withSeparator(first, it.separator) + buddies + ends + "\n" + ends +
-                                         withSeparator(second, it.separator) + ends + "\n")
-            << it.name;
+    const std::tuple<const char*, std::string, std::string> cases[] = {
+        {"csv-semicolon", "\";\"", "\""}, {"csv-comma", ",", ""}, {"tsv", "\t", ""}};
+    for (const auto& [name, separator, end] : cases) {
+        EXPECT_EQ(exported(name), end + withSeparator(diveHeader, separator) + end + "\r" + end +
+                                      withSeparator(first, separator) + buddies + end + "\n" + end +
+                                      withSeparator(second, separator) + end + "\n")
+            << name;
     }
 }
 
@@ -331,17 +300,13 @@ TEST_F(Exports, nameTheCharacterThatDoesNotFitAndKeepTheFile) {
     unfit.site = QStringLiteral("Δήλος");
     add({wreckDive(), unfit});
     const QString target = desktop.path(QStringLiteral("dives.csv"));
-    QFile kept(target);
-    ASSERT_TRUE(kept.open(QIODevice::WriteOnly));
-    kept.write("kept");
-    kept.close();
+    writeContents(target, "kept");
     const auto done = carnet.exportAs(target, QStringLiteral("Export Carnet CSV (Virgule)"));
     ASSERT_FALSE(done);
     const QString message = done.error().message();
     EXPECT_TRUE(message.contains(u"58") && message.contains(u"Δ") && message.contains(u"U+0394"))
         << message.toStdString();
-    ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
-    EXPECT_EQ(kept.readAll(), "kept");
+    EXPECT_EQ(contentsOf(target), "kept");
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ public:
         QLocale::setDefault(QLocale(QLocale::French, QLocale::France));
 #ifdef TAVREL_TEST_LOCALES
         qputenv("LOCPATH", TAVREL_TEST_LOCALES);
-        known_ = std::setlocale(LC_ALL, "fr_FR.UTF-8") != nullptr;
+        std::setlocale(LC_ALL, "fr_FR.UTF-8");
         qunsetenv("LOCPATH");
 #endif
     }
@@ -23,13 +23,6 @@ public:
     }
     FrenchLocale(const FrenchLocale&) = delete;
     FrenchLocale& operator=(const FrenchLocale&) = delete;
-
-    bool isKnownToTheCLibrary() const {
-        return known_;
-    }
-
-private:
-    bool known_ = false;
 };
 
 }  // namespace tavrel

@@ -31,6 +31,11 @@ QByteArray udcfDive(const QByteArray& elements, const QByteArray& mix = "<TANK/>
     return "<DIVE>" + elements + "<GASES><MIX>" + mix + "</MIX></GASES><SAMPLES>" + samples + "</SAMPLES></DIVE>";
 }
 
+/// What fields of the dive hold.
+QString in(const Plongee& dive, const char* names) {
+    return fieldsOf(dive, Plongee::layout(), names);
+}
+
 class Imports : public testing::Test {
 protected:
     ImportResult take(const QByteArray& bytes, const Progress& progress = {}) {
@@ -38,10 +43,9 @@ protected:
         EXPECT_TRUE(result) << (result ? "" : result.error().message().toStdString());
         return result.value_or(ImportResult());
     }
-    const Plongee& dive(int row) { return *carnet.recordAt(row); }
     const Plongee& taken(const QByteArray& bytes) {
         EXPECT_TRUE(take(bytes).isWhole());
-        return dive(carnet.count() - 1);
+        return *carnet.recordAt(carnet.count() - 1);
     }
 
     TestDesktop desktop;
@@ -63,20 +67,13 @@ TEST_F(Imports, typeADiveOfUDCFIntoTheForm) {
         <TANK><TANKVOLUME>12</TANKVOLUME><TANKVOLUME>15</TANKVOLUME><PSTART>200</PSTART><PEND>210</PEND></TANK><TANK/>)",
                                               R"(<DELTA>20</DELTA><DELTA>4.9</DELTA><SWITCH>1</SWITCH><D>0.0</D>
         <D>12.7</D><ALARM>deco</ALARM><D>12.9</D><D>13,5</D><D>-40</D><D>deep</D>)")));
-    EXPECT_EQ(dive.noPlongee, 1);
-    EXPECT_EQ(dive.lieu, QStringLiteral("Étretat - A & B"));
-    EXPECT_EQ(dive.site, u"");
+    EXPECT_EQ(in(dive, "noPlongee lieu site surface"), u"1; Étretat - A & B; ; --:--");
     EXPECT_EQ(localText(dive.date), u"2014-08-01 09:05:00");
     EXPECT_EQ(dive.heure.toDateTime().time(), QTime(9, 5));
-    EXPECT_EQ(dive.surface, u"--:--");
-    EXPECT_EQ(dive.tempEau, -4);
-    EXPECT_EQ(dive.altitude, 0);
-    EXPECT_EQ((std::array{dive.meteo, dive.courant, dive.visibilite, dive.typePlongee}), (std::array{7, 6, 7, 8}));
-    EXPECT_EQ(dive.temps, 4) << "the interval";
-    EXPECT_EQ(dive.samplingRate, 5);
+    EXPECT_EQ(in(dive, "tempEau altitude meteo courant visibilite typePlongee"), u"-4; 0; 7; 6; 7; 8");
+    EXPECT_EQ(in(dive, "temps samplingRate"), u"4; 5") << "the interval";
     EXPECT_EQ(dive.profondeur, 13.0F) << "the greatest depth without its fraction";
-    EXPECT_EQ((std::array{dive.gaz, dive.o2Mix, dive.heMix}), (std::array{2, 18, 45}));
-    EXPECT_EQ((std::array{dive.volumeBloc, dive.pressionDepart, dive.pressionFin}), (std::array{15, 200, 210}));
+    EXPECT_EQ(in(dive, "gaz o2Mix heMix volumeBloc pressionDepart pressionFin"), u"2; 18; 45; 15; 200; 210");
     Series depths;
     depths.append(std::array{0.0F, 12.7F, 12.9F, 13.0F, -40.0F, 0.0F});
     EXPECT_EQ(dive.profilProfondeur, depths);
@@ -88,26 +85,19 @@ TEST_F(Imports, typeADiveOfUDCFIntoTheForm) {
 }
 
 TEST_F(Imports, tellGasesByTheirFractions) {
-    struct Case {
-        const char *oxygen, *helium;
-        int gas, o2Mix, heMix;
-    };
     // The cleared form says air; percentages are truncated, and those out of range corrected by the form.
-    const Case cases[] = {
-        {"0.21", "0", 0, 21, 0},     {"0.32", "0.00", 1, 32, 0},  {"0.29", "0", 1, 28, 0},
-        {"0.18", "0.45", 2, 18, 45}, {"0.20", "0.80", 3, 20, 80}, {"0.19", "0", 0, 19, 0},
-        {"0", "0", 0, 21, 0},        {"0.10", "0.90", 3, 10, 0},  {"1.00", "0", 1, 100, 0},
-        {"0,5", "none", 0, 21, 0},   {"0.25", "0.25", 2, 25, 25},
+    const std::tuple<QByteArray, QByteArray, std::array<qint32, 3>> cases[] = {
+        {"0.21", "0", {0, 21, 0}},     {"0.32", "0.00", {1, 32, 0}},  {"0.29", "0", {1, 28, 0}},
+        {"0.18", "0.45", {2, 18, 45}}, {"0.20", "0.80", {3, 20, 80}}, {"0.19", "0", {0, 19, 0}},
+        {"0", "0", {0, 21, 0}},        {"0.10", "0.90", {3, 10, 0}},  {"1.00", "0", {1, 100, 0}},
+        {"0,5", "none", {0, 21, 0}},   {"0.25", "0.25", {2, 25, 25}},
     };
-    for (const Case& it : cases) {
-        const QByteArray oxygen = it.oxygen;
-        const QByteArray helium = it.helium;
+    for (const auto& [oxygen, helium, gas] : cases) {
         for (const QByteArray& file : {udcf(udcfDive({}, "<O2>" + oxygen + "</O2><HE>" + helium + "</HE><TANK/>")),
                                        handheld("<dive><gases><mix><o2>" + oxygen + "</o2><he>" + helium +
                                                 "</he><tank/></mix></gases></dive>")}) {
             const Plongee& dive = taken(file);
-            EXPECT_EQ((std::array{dive.gaz, dive.o2Mix, dive.heMix}), (std::array{it.gas, it.o2Mix, it.heMix}))
-                << it.oxygen << '/' << it.helium;
+            EXPECT_EQ((std::array{dive.gaz, dive.o2Mix, dive.heMix}), gas) << file.toStdString();
         }
     }
 }
@@ -116,9 +106,9 @@ TEST_F(Imports, tellTheSamplingCodeByTheInterval) {
     const std::pair<const char*, int> cases[] = {{"10.0", 0}, {"20", 1},  {"30", 2}, {"60.0", 3}, {"120", 4},
                                                  {"4", 5},    {"1.0", 6}, {"5", 7},  {"7", 0},    {"", 0}};
     for (const auto& [delta, code] : cases) {
-        EXPECT_EQ(taken(udcf(udcfDive({}, "<TANK/>", QByteArray("<DELTA>") + delta + "</DELTA>"))).samplingRate, code)
-            << delta;
-        EXPECT_EQ(dive(carnet.count() - 1).profilProfondeur.size(), 1U) << "no depth is no profile";
+        const Plongee& dive = taken(udcf(udcfDive({}, "<TANK/>", QByteArray("<DELTA>") + delta + "</DELTA>")));
+        EXPECT_EQ(dive.samplingRate, code) << delta;
+        EXPECT_EQ(dive.profilProfondeur.size(), 1U) << "no depth is no profile";
     }
 }
 
@@ -139,19 +129,16 @@ TEST_F(Imports, typeADiveOfUDDFIntoTheForm) {
         </samples></dive>)"));
     EXPECT_EQ(localText(dive.date), u"2019-12-24 23:59:00");
     EXPECT_EQ(dive.heure.toDateTime().time(), QTime(23, 59));
-    EXPECT_EQ(dive.tempAir, 0);
-    EXPECT_EQ(dive.tempEau, 27);
-    EXPECT_EQ(dive.profondeur, 31.4F);
+    EXPECT_EQ(in(dive, "tempAir tempEau profondeur temps"), u"0; 27; 31.4; 49");
     EXPECT_EQ(dive.notes, u"Deux raies & un congre");
-    EXPECT_EQ(dive.temps, 49);
     Series depths;
     depths.append(std::array{12.36F, 120.5F, 3.2592999F});
     EXPECT_EQ(dive.profilProfondeur, depths);
-    EXPECT_EQ((std::array{dive.meteo, dive.courant, dive.visibilite, dive.typePlongee}), (std::array{7, 6, 7, 8}));
+    EXPECT_EQ(in(dive, "meteo courant visibilite typePlongee"), u"7; 6; 7; 8");
 
     // Nothing but a dive: the temperatures of nothing lie outside what the form takes.
     const Plongee& bare = taken(uddf("<dive><lowesttemperature>250</lowesttemperature></dive>"));
-    EXPECT_EQ((std::array{bare.noPlongee, bare.tempAir, bare.tempEau, bare.temps}), (std::array{2, -50, -50, 0}));
+    EXPECT_EQ(in(bare, "noPlongee tempAir tempEau temps"), u"2; -50; -50; 0");
     EXPECT_EQ(taken(uddf("<dive><airtemperature>250</airtemperature></dive>")).tempAir, -23);
 }
 
@@ -164,18 +151,14 @@ TEST_F(Imports, typeADiveOfTheHandheldIntoTheForm) {
         <watertemperature>19</watertemperature><airrtemperature>25</airrtemperature><altitude>10</altitude>
         <surfaceinterval>2:30</surfaceinterval>)" +
                                          gases + "</dive>"));
-    EXPECT_EQ(dive.lieu, u"Gozo");
-    EXPECT_EQ(dive.site, u"Blue Hole");
+    EXPECT_EQ(in(dive, "lieu site surface"), u"Gozo; Blue Hole; --:--");
     EXPECT_EQ(localText(dive.date), u"2011-05-03 10:00:00");
-    EXPECT_EQ((std::array{dive.meteo, dive.courant, dive.visibilite, dive.typePlongee}), (std::array{3, 2, 8, 0}));
-    EXPECT_EQ(dive.profondeur, 32.0F);
-    EXPECT_EQ((std::array{dive.temps, dive.tempEau, dive.tempAir, dive.altitude}), (std::array{41, 19, 25, 10}));
-    EXPECT_EQ(dive.surface, u"--:--");
-    EXPECT_EQ(dive.volumeBloc, 12);
+    EXPECT_EQ(in(dive, "meteo courant visibilite typePlongee"), u"3; 2; 8; 0");
+    EXPECT_EQ(in(dive, "profondeur temps tempEau tempAir altitude volumeBloc"), u"32; 41; 19; 25; 10; 12");
     EXPECT_EQ(dive.profilProfondeur, Series::ofReals({0}));
 
     const Plongee& bare = taken(handheld("<dive><airtemperature>25</airtemperature>" + gases + "</dive>"));
-    EXPECT_EQ((std::array{bare.meteo, bare.visibilite, bare.tempEau, bare.tempAir}), (std::array{7, 7, -50, -50}));
+    EXPECT_EQ(in(bare, "meteo visibilite tempEau tempAir"), u"7; 7; -50; -50");
     EXPECT_EQ(bare.date.toIso().left(13), bare.heure.toIso().left(13));
 }
 
@@ -217,8 +200,8 @@ TEST_F(Imports, numberOnFromTheLastDiveAndUndoAsOneStep) {
     carnet.appendDives(QStringLiteral("add"), {last});
     carnet.selectRows({0});
     EXPECT_EQ(take(udcf(udcfDive({}) + udcfDive({}))).message(), u"2 dives were imported. Without a date: 2.");
-    EXPECT_EQ(dive(1).noPlongee, 58);
-    EXPECT_EQ(dive(2).noPlongee, 59);
+    EXPECT_EQ(carnet.recordAt(1)->noPlongee, 58);
+    EXPECT_EQ(carnet.recordAt(2)->noPlongee, 59);
     EXPECT_TRUE(carnet.isChanged());
     EXPECT_TRUE(carnet.selectedRows().isEmpty()) << "the form no longer shows the dive that was selected";
     carnet.undoStack().undo();
@@ -289,20 +272,14 @@ TEST_F(Imports, canBeCancelledAndKeepWhatWasTaken) {
 
 TEST_F(Imports, takeBackWhatTheExportsWrite) {
     Plongee dive;
-    dive.lieu = QStringLiteral("Bonifacio");
-    dive.site = QStringLiteral("Mérouville");
-    dive.profilProfondeur = Series::ofReals({3.14, 20});
+    setFields(dive, Plongee::layout(),
+              "lieu=Bonifacio; site=Mérouville; profilProfondeur=3.14 20; samplingRate=6; temps=33; o2Mix=21");
     dive.ASC_Flag = Series::ofIntegers({1, 1});
-    dive.samplingRate = 6;
-    dive.temps = 33;
-    dive.o2Mix = 21;
     dive.date = Date::fromDateTime(QDateTime(QDate(2020, 2, 29), QTime(0, 0)));
     dive.heure = Date::fromDateTime(QDateTime(QDate(2020, 2, 29), QTime(14, 45)));
     carnet.appendDives(QStringLiteral("add"), {dive});
     const Plongee& again = taken(*exportUDCFFormat(carnet));
-    EXPECT_EQ(again.lieu, QStringLiteral("Bonifacio - Mérouville"));
-    EXPECT_EQ(again.samplingRate, 7);
-    EXPECT_EQ(again.temps, 5);
+    EXPECT_EQ(in(again, "lieu samplingRate temps"), u"Bonifacio - Mérouville; 7; 5");
     EXPECT_EQ(localText(again.date), u"2020-02-29 14:45:00");
     Series depths;
     depths.append(std::array{0.0F, 3.1F, 20.0F, 0.0F});

@@ -9,12 +9,7 @@ namespace {
 TEST(MacRoman, holdsItsCharactersAndNoOther) {
     const auto macRoman = MacRoman::open();
     ASSERT_TRUE(macRoman);
-    struct Case {
-        const char16_t* text;
-        const char* bytes;
-        char32_t unfit;
-    };
-    const Case cases[] = {
+    const std::tuple<const char16_t*, std::string, char32_t> cases[] = {
         {u"plain \"text\"\r\n", "plain \"text\"\r\n", 0},
         {u"Épave à 20 €", "\x83pave \x88 20 \xdb", 0},
         {u"e\u0301t\u00e9", "\x8et\x8e", 0},
@@ -26,10 +21,10 @@ TEST(MacRoman, holdsItsCharactersAndNoOther) {
         {u"\U000E0041", "", U'\U000E0041'},
         {u"q\u0301", "", U'\u0301'},
     };
-    for (const Case& it : cases) {
+    for (const auto& [text, fitting, unfit] : cases) {
         std::string bytes = "|";
-        EXPECT_EQ(macRoman->append(bytes, it.text), it.unfit) << it.bytes;
-        EXPECT_EQ(bytes, std::string("|") + it.bytes);
+        EXPECT_EQ(macRoman->append(bytes, text), unfit) << fitting;
+        EXPECT_EQ(bytes, "|" + fitting);
     }
 }
 

@@ -22,4 +22,9 @@ std::vector<std::shared_ptr<const Class>> allAs(const RecordList& records) {
     return list;
 }
 
+/// Sets fields by their names: "temps=42; lieu=Gozo; profilProfondeur=0 18.5 3".
+void setFields(Record& record, const RecordLayout& layout, const char* fields);
+/// What the named fields hold, "temps lieu" as "42; Gozo".
+QString fieldsOf(const Record& record, const RecordLayout& layout, const char* names);
+
 }  // namespace tavrel

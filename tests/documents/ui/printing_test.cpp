@@ -1,6 +1,7 @@
 #include "documents/ui/printing.h"
 
-#include <QFile>
+#include "support/files.h"
+
 #include <QFontMetrics>
 #include <QHeaderView>
 #include <QRegularExpression>
@@ -39,11 +40,7 @@ protected:
         table.horizontalHeader()->setFixedHeight(25);
     }
 
-    QByteArray printed() const {
-        QFile file(printer.outputFileName());
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }
+    QByteArray printed() const { return contentsOf(printer.outputFileName()); }
     int printedPages() const {
         const QRegularExpression page(QStringLiteral("/Type\\s*/Page\\b"));
         return static_cast<int>(QString::fromLatin1(printed()).count(page));

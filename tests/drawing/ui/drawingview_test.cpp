@@ -2,11 +2,11 @@
 
 #include "drawing/ui/datatablewindow.h"
 #include "drawing/ui/printdrawing.h"
+#include "support/files.h"
 
 #include <QAccessible>
 #include <QAction>
 #include <QClipboard>
-#include <QFile>
 #include <QGuiApplication>
 #include <QImage>
 #include <QTableView>
@@ -91,9 +91,7 @@ TEST(PrintDrawing, writesPagesToAPdfFile) {
         printer.setOutputFileName(folder.filePath(QLatin1StringView(name)));
         printer.setPageSize(QPageSize(QPageSize::A6));
         EXPECT_TRUE(work(printer));
-        QFile file(printer.outputFileName());
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
+        return contentsOf(printer.outputFileName());
     };
     const QByteArray drawing = print("a.pdf", [](QPrinter& printer) { return printDrawing(printer, halves(Qt::red)); });
     EXPECT_EQ(drawing.count("/Type /Page\n"), 1);

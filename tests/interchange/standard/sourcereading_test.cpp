@@ -2,6 +2,7 @@
 
 #include "base/safefile.h"
 #include "support/printing.h"
+#include "support/records.h"
 
 #include <gtest/gtest.h>
 
@@ -30,8 +31,17 @@ QByteArray dive(const QByteArray& before, const QByteArray& rest = {}) {
            "</informationbeforedive>" + rest + "</dive></repetitiongroup></profiledata></uddf>";
 }
 
+Plongee diveRead(const QByteArray& before, const QByteArray& rest = {}) {
+    return read(dive(before, rest)).dives.at(0).dive;
+}
+
 QString startText(const Plongee& dive) {
     return startOf(dive).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+}
+
+/// What fields of the dive hold.
+QString in(const Plongee& dive, const char* names) {
+    return fieldsOf(dive, Plongee::layout(), names);
 }
 
 bool loses(const FoundDive& found, const char* name) {
@@ -43,27 +53,14 @@ TEST(Uddf, givesADiveEverythingThatItsLinksTell) {
     const FoundDives found = readFixture("two-seconds.uddf", SourceKind::uddf);
     ASSERT_EQ(found.dives.size(), 1U);
     const Plongee& dive = found.dives[0].dive;
-    EXPECT_EQ(dive.noPlongee, 7);
     EXPECT_EQ(startText(dive), u"2021-06-30 09:41:30") << "as the clock on the boat showed it";
-    EXPECT_EQ(dive.lieu, QStringLiteral("Port-Cros"));
-    EXPECT_EQ(dive.site, QStringLiteral("La Gabinière"));
-    EXPECT_EQ(dive.pays, u"France");
-    EXPECT_EQ(dive.gps, QStringLiteral("N 42° 59.298'  E 006° 23.550'"));
-    EXPECT_EQ(dive.epaves, u"Le Donator");
-    EXPECT_EQ(dive.structure, u"Club du Port");
-    EXPECT_EQ(dive.partenaires, QStringLiteral("Zoé Martin, Max"));
-    EXPECT_EQ(dive.surface, u"1:31");
-    EXPECT_EQ(dive.profondeur, 6.47F);
-    EXPECT_EQ((std::array{dive.temps, dive.tempEau, dive.tempAir}), (std::array{45, 15, 26}));
-    EXPECT_EQ((std::array{dive.gaz, dive.o2Mix, dive.heMix}), (std::array{1, 32, 0}));
-    EXPECT_EQ((std::array{dive.alliageBloc, dive.volumeBloc, dive.pressionDepart, dive.pressionFin}),
-              (std::array{2, 12, 201, 70}));
-    EXPECT_EQ((std::array{dive.visibilite, dive.courant, dive.typePlongee, dive.combinaison, dive.inoubliable}),
-              (std::array{1, 3, 3, 1, 1}));
-    EXPECT_EQ(dive.lestage, 4.5F);
-    EXPECT_EQ((QStringList{dive.fabricant, dive.ordinateur, dive.serie, dive.equip_1, dive.equip_2}),
-              (QStringList{QStringLiteral("Reef"), QStringLiteral("Two"), QStringLiteral("0042"),
-                           QStringLiteral("Red fins"), QString()}));
+    EXPECT_EQ(in(dive, "noPlongee lieu site pays"), u"7; Port-Cros; La Gabinière; France");
+    EXPECT_EQ(in(dive, "gps epaves structure"), u"N 42° 59.298'  E 006° 23.550'; Le Donator; Club du Port");
+    EXPECT_EQ(in(dive, "partenaires surface profondeur"), u"Zoé Martin, Max; 1:31; 6.47");
+    EXPECT_EQ(in(dive, "temps tempEau tempAir gaz o2Mix heMix"), u"45; 15; 26; 1; 32; 0");
+    EXPECT_EQ(in(dive, "alliageBloc volumeBloc pressionDepart pressionFin"), u"2; 12; 201; 70");
+    EXPECT_EQ(in(dive, "visibilite courant typePlongee combinaison inoubliable lestage"), u"1; 3; 3; 1; 1; 4.5");
+    EXPECT_EQ(in(dive, "fabricant ordinateur serie equip_1 equip_2"), u"Reef; Two; 0042; Red fins; ");
     EXPECT_EQ(dive.notes, u"First line\nSecond line");
     for (const char* name : {"waypoint/heartrate", "waypoint/temperature", "alarm rbt", "problems", "site/notes"}) {
         EXPECT_TRUE(loses(found.dives[0], name)) << name;
@@ -101,13 +98,12 @@ TEST(Uddf, givesTanksTheirPlacesByTheUseOfTheirGas) {
     ASSERT_EQ(found.dives.size(), 2U) << "of both groups, whatever the prefix";
     const Plongee& dive = found.dives[0].dive;
     EXPECT_EQ(startText(dive), u"2019-08-01 07:05:00");
-    EXPECT_EQ((std::array{dive.gaz, dive.o2Mix, dive.heMix}), (std::array{2, 18, 45})) << "breathed at the bottom";
-    EXPECT_EQ((std::array{dive.volumeBloc, dive.pressionDepart, dive.pressionFin}), (std::array{24, 230, 80}));
-    EXPECT_EQ((std::array{dive.gaz_2, dive.o2Mix_2, dive.volumeBloc_2, dive.pressionDepart_2, dive.pressionFin_2}),
-              (std::array{1, 30, 11, 210, 150}));
-    EXPECT_EQ((std::array{dive.volPony1, dive.pressDepartPony1, dive.pressFinPony1}), (std::array{11, 200, 110}));
-    EXPECT_EQ((std::array{dive.volPony2, dive.pressDepartPony2, dive.pressFinPony2}), (std::array{7, 190, 120}));
-    EXPECT_EQ((std::array{dive.decoO2_Level_1, dive.decoO2_Level_2, dive.decoO2_Level_3}), (std::array{30, 50, 100}));
+    EXPECT_EQ(in(dive, "gaz o2Mix heMix"), u"2; 18; 45") << "breathed at the bottom";
+    EXPECT_EQ(in(dive, "volumeBloc pressionDepart pressionFin"), u"24; 230; 80");
+    EXPECT_EQ(in(dive, "gaz_2 o2Mix_2 volumeBloc_2 pressionDepart_2 pressionFin_2"), u"1; 30; 11; 210; 150");
+    EXPECT_EQ(in(dive, "volPony1 pressDepartPony1 pressFinPony1"), u"11; 200; 110");
+    EXPECT_EQ(in(dive, "volPony2 pressDepartPony2 pressFinPony2"), u"7; 190; 120");
+    EXPECT_EQ(in(dive, "decoO2_Level_1 decoO2_Level_2 decoO2_Level_3"), u"30; 50; 100");
     const int seconds = 60;
     EXPECT_EQ(dive.GAZ_Flag.integer(120 / seconds), 1);
     EXPECT_EQ(dive.GAZ_Flag.integer(1800 / seconds), 3);
@@ -123,16 +119,12 @@ TEST(Uddf, readsARebreather) {
     const FoundDives found = readFixture("rebreather.uddf", SourceKind::uddf);
     ASSERT_EQ(found.dives.size(), 1U);
     const Plongee& dive = found.dives[0].dive;
-    EXPECT_EQ(dive.rebreather, 3);
-    EXPECT_EQ((std::array{dive.ppO2, dive.lowSetpoint}), (std::array{2, 10})) << "1.3 and 0.7 bar";
-    EXPECT_EQ((std::array{dive.o2Mix, dive.volumeBloc, dive.pressionDepart}), (std::array{100, 2, 180}));
-    EXPECT_EQ((std::array{dive.o2Mix_2, dive.heMix_2, dive.volumeBloc_2, dive.pressionFin_2}),
-              (std::array{18, 45, 3, 160}));
-    EXPECT_EQ((std::array{dive.O2Bailout1, dive.volBailout1, dive.pressDepartBailout1, dive.pressFinBailout1}),
-              (std::array{50, 11, 210, 205}))
+    EXPECT_EQ(in(dive, "rebreather ppO2 lowSetpoint"), u"3; 2; 10") << "1.3 and 0.7 bar";
+    EXPECT_EQ(in(dive, "o2Mix volumeBloc pressionDepart"), u"100; 2; 180");
+    EXPECT_EQ(in(dive, "o2Mix_2 heMix_2 volumeBloc_2 pressionFin_2"), u"18; 45; 3; 160");
+    EXPECT_EQ(in(dive, "O2Bailout1 volBailout1 pressDepartBailout1 pressFinBailout1"), u"50; 11; 210; 205")
         << "litres and bar where pascal and cubic metres make no sense";
-    EXPECT_EQ(dive.profondeur, 40.5F) << "the deepest waypoint";
-    EXPECT_EQ((std::array{dive.temps, dive.tempEau}), (std::array{15, 12}));
+    EXPECT_EQ(in(dive, "profondeur temps tempEau"), u"40.5; 15; 12") << "the deepest waypoint";
     // 80 000 Pa stand for 1950 m in the standard atmosphere.
     EXPECT_EQ(dive.altitude, 1950);
     EXPECT_EQ(breathedGas(dive).helium, 45);
@@ -143,10 +135,8 @@ TEST(Uddf, readsTheOlderPlacesOfValues) {
     ASSERT_EQ(found.dives.size(), 3U);
     const Plongee& dive = found.dives[0].dive;
     EXPECT_EQ(startText(dive), u"2009-05-09 08:07:00");
-    EXPECT_EQ(dive.profondeur, 31.4F);
-    EXPECT_EQ((std::array{dive.tempEau, dive.gaz, dive.o2Mix}), (std::array{16, 0, 21}));
-    EXPECT_EQ((QStringList{dive.lieu, dive.site, dive.notes}),
-              (QStringList{QStringLiteral("Gozo"), QStringLiteral("Blue Hole"), QStringLiteral("Old times")}));
+    EXPECT_EQ(in(dive, "profondeur tempEau gaz o2Mix"), u"31.4; 16; 0; 21");
+    EXPECT_EQ(in(dive, "lieu site notes"), u"Gozo; Blue Hole; Old times");
     EXPECT_EQ(dive.samplingRate, 0);
     EXPECT_EQ(dive.profilProfondeur, Series::ofReals({4.0, 4.0, 9.5, 14.0}));
     EXPECT_EQ(startText(found.dives[1].dive), u"2009-05-10 16:30:00");
@@ -174,45 +164,42 @@ TEST(Uddf, readsTheClockHoweverItIsWritten) {
         {"<datetime>yesterday</datetime>", u""},
     };
     for (const auto& [before, start] : cases) {
-        EXPECT_EQ(startText(read(dive(before)).dives.at(0).dive), QStringView(start)) << before;
+        EXPECT_EQ(startText(diveRead(before)), QStringView(start)) << before;
     }
 }
 
 TEST(Uddf, keepsTheDayOfATimeThatNoClockShowed) {
     const QByteArray zone = qgetenv("TZ");
-    struct Case {
-        const char *zone, *moment;
-    };
-    for (const Case& it :
-         {Case{"Europe/Paris", "2019-03-31T02:30:00"}, Case{"America/Sao_Paulo", "2018-11-04T00:10:00"},
-          Case{"America/Santiago", "2019-09-08T00:00:00"}, Case{"America/Havana", "2019-03-10T00:45:00"}}) {
-        qputenv("TZ", it.zone);
+    const std::pair<const char*, QByteArray> cases[] = {{"Europe/Paris", "2019-03-31T02:30:00"},
+                                                        {"America/Sao_Paulo", "2018-11-04T00:10:00"},
+                                                        {"America/Santiago", "2019-09-08T00:00:00"},
+                                                        {"America/Havana", "2019-03-10T00:45:00"}};
+    for (const auto& [name, moment] : cases) {
+        qputenv("TZ", name);
         tzset();
-        const Plongee skipped = read(dive("<datetime>" + QByteArray(it.moment) + "</datetime>")).dives.at(0).dive;
-        EXPECT_EQ(startOf(skipped).toString(Qt::ISODate), QLatin1String(it.moment) + u'Z') << it.zone;
+        const Plongee skipped = diveRead("<datetime>" + moment + "</datetime>");
+        EXPECT_EQ(startOf(skipped).toString(Qt::ISODate), QLatin1String(moment) + u'Z') << name;
     }
     zone.isNull() ? qunsetenv("TZ") : qputenv("TZ", zone);
     tzset();
 }
 
 TEST(Uddf, takesNumbersOfNoSenseForNone) {
-    const FoundDives found = read(dive("<altitude>-3</altitude><divenumber>-2</divenumber>",
-                                       R"(<samples>
+    const Plongee it = diveRead("<altitude>-3</altitude><divenumber>-2</divenumber>",
+                                R"(<samples>
         <waypoint><depth>nan</depth><divetime>0</divetime></waypoint>
         <waypoint><depth>1e32</depth><divetime>10</divetime></waypoint>
         <waypoint><depth>5</depth><divetime>1e18</divetime><tankpressure>-1</tankpressure></waypoint>
         <waypoint><depth>7</depth></waypoint>
         </samples><informationafterdive><greatestdepth>-4</greatestdepth><diveduration>0</diveduration>
-        <lowesttemperature>9999</lowesttemperature></informationafterdive>)"));
-    const Plongee& it = found.dives.at(0).dive;
-    EXPECT_EQ((std::array{it.altitude, it.noPlongee, it.tempEau}), (std::array{0, 0, -50}));
-    EXPECT_EQ(it.profondeur, 7.0F);
+        <lowesttemperature>9999</lowesttemperature></informationafterdive>)");
+    EXPECT_EQ(in(it, "altitude noPlongee tempEau profondeur"), u"0; 0; -50; 7");
     EXPECT_EQ(it.profilProfondeur.size(), 4U) << "from the start on";
     EXPECT_EQ(it.PRESS_Data.size(), 1U);
 }
 
 TEST(Uddf, spreadsWaypointsWithoutATime) {
-    const FoundDives found = read(dive({}, R"(<samples>
+    const Plongee it = diveRead({}, R"(<samples>
         <waypoint><depth>0</depth></waypoint>
         <waypoint><depth>4</depth><divetime>5</divetime></waypoint>
         <waypoint><depth>8</depth></waypoint>
@@ -220,8 +207,7 @@ TEST(Uddf, spreadsWaypointsWithoutATime) {
         <waypoint><divetime>20</divetime></waypoint>
         <waypoint><depth/></waypoint>
         <waypoint><depth>2</depth></waypoint>
-        <waypoint><depth>1</depth></waypoint></samples>)"));
-    const Plongee& it = found.dives.at(0).dive;
+        <waypoint><depth>1</depth></waypoint></samples>)");
     EXPECT_EQ(it.samplingRate, 7) << "5 s";
     const std::array expected{0.0, 4.0, 8.0, 12.0, 12 - 10.0 / 3, 12 - 20.0 / 3, 2.0, 1.0};
     ASSERT_EQ(it.profilProfondeur.size(), expected.size());
@@ -231,11 +217,11 @@ TEST(Uddf, spreadsWaypointsWithoutATime) {
 }
 
 TEST(Uddf, sortsWaypointsByTheirTimes) {
-    const FoundDives found = read(dive({}, R"(<samples>
+    const Plongee it = diveRead({}, R"(<samples>
         <waypoint><divetime>20</divetime><depth>9</depth></waypoint>
         <waypoint><divetime>0</divetime><depth>1</depth></waypoint>
-        <waypoint><divetime>10</divetime><depth>5</depth></waypoint></samples>)"));
-    EXPECT_EQ(found.dives.at(0).dive.profilProfondeur, Series::ofReals({1, 5, 9}));
+        <waypoint><divetime>10</divetime><depth>5</depth></waypoint></samples>)");
+    EXPECT_EQ(it.profilProfondeur, Series::ofReals({1, 5, 9}));
 }
 
 TEST(Uddf, takesWhatTheDiveLacksFromItsWaypoints) {
@@ -250,19 +236,13 @@ TEST(Uddf, takesWhatTheDiveLacksFromItsWaypoints) {
         </samples><informationAfterDive><greatestDepth>1e32</greatestDepth><lowestTemperature>255.4</lowestTemperature>
         <diveDuration>0:42:40</diveDuration></informationAfterDive></Dive></repetitionGroup></profileData></UDDF>)";
     const Plongee it = read(file, SourceKind::uddf).dives.at(0).dive;
-    EXPECT_EQ(it.profondeur, 20.0F);
-    EXPECT_EQ((std::array{it.temps, it.tempEau, it.o2Mix}), (std::array{43, 12, 32}));
-    EXPECT_EQ((std::array{it.pressionDepart, it.pressionFin}), (std::array{205, 90}));
-    EXPECT_EQ((std::array{it.pressDepartPony1, it.pressFinPony1}), (std::array{150, 120})) << "richer, so a stage";
+    EXPECT_EQ(in(it, "profondeur temps tempEau o2Mix pressionDepart pressionFin"), u"20; 43; 12; 32; 205; 90");
+    EXPECT_EQ(in(it, "pressDepartPony1 pressFinPony1"), u"150; 120") << "richer, so a stage";
     EXPECT_EQ(it.PRESS_Data.real(0), 200.0);
 }
 
 TEST(Uddf, tellsARebreatherFromASetPointOfOpenCircuit) {
-    struct Case {
-        const char* samples;
-        qint32 apparatus, setPoint;
-    };
-    const Case cases[] = {
+    const std::tuple<QByteArray, qint32, qint32> cases[] = {
         {"<waypoint><divemode type='opencircuit'/><setpo2>130000</setpo2></waypoint>", 0, 0},
         {"<waypoint><setpo2>0</setpo2></waypoint>", 0, 0},
         {"<waypoint><setpo2>1.3</setpo2></waypoint>", 3, 2},
@@ -270,10 +250,10 @@ TEST(Uddf, tellsARebreatherFromASetPointOfOpenCircuit) {
         {"<waypoint><divemode type='closedcircuit'/></waypoint><waypoint><divemode type='opencircuit'/></waypoint>", 3,
          0},
     };
-    for (const Case& it : cases) {
-        const Plongee found = read(dive({}, "<samples>" + QByteArray(it.samples) + "</samples>")).dives.at(0).dive;
-        EXPECT_EQ(found.rebreather, it.apparatus) << it.samples;
-        EXPECT_EQ(found.ppO2, it.setPoint) << it.samples;
+    for (const auto& [samples, apparatus, setPoint] : cases) {
+        const Plongee found = diveRead({}, "<samples>" + samples + "</samples>");
+        EXPECT_EQ(found.rebreather, apparatus) << samples.toStdString();
+        EXPECT_EQ(found.ppO2, setPoint) << samples.toStdString();
     }
 }
 
@@ -287,29 +267,22 @@ TEST(Uddf, boundsTheSamplesOfADive) {
         samples += "<waypoint><depth>" + QByteArray::number(second % 40) + "</depth><divetime>" +
                    QByteArray::number(second) + "</divetime></waypoint>";
     }
-    const FoundDives found = read(dive({}, samples + "</samples>"));
-    EXPECT_EQ(found.dives.at(0).dive.profilProfondeur.size(), 100'000U);
+    EXPECT_EQ(diveRead({}, samples + "</samples>").profilProfondeur.size(), 100'000U);
     // A few points that would come to more samples than a dive may have.
-    const Plongee endless = read(dive({},
-                                      "<samples><waypoint><depth>1</depth><divetime>0</divetime></waypoint>"
-                                      "<waypoint><depth>1</depth><divetime>999999999</divetime></waypoint></samples>"))
-                                .dives.at(0)
-                                .dive;
-    EXPECT_FALSE(endless.hasProfile());
+    EXPECT_FALSE(diveRead({}, R"(<samples><waypoint><depth>1</depth><divetime>0</divetime></waypoint>
+        <waypoint><depth>1</depth><divetime>999999999</divetime></waypoint></samples>)")
+                     .hasProfile());
 }
 
 TEST(Udcf, isReadAsItWasMeant) {
     const FoundDives found = readFixture("plain.udcf", SourceKind::udcf);
     ASSERT_EQ(found.dives.size(), 2U) << "of both groups";
     const Plongee& dive = found.dives[0].dive;
-    EXPECT_EQ((QStringList{dive.lieu, dive.site, dive.surface}),
-              (QStringList{QStringLiteral("Agay"), QStringLiteral("La Chrétienne"), QStringLiteral("2:30")}));
     EXPECT_EQ(startText(dive), u"2012-07-14 10:45:00");
-    EXPECT_EQ(dive.profondeur, 32.8F);
-    EXPECT_EQ((std::array{dive.temps, dive.tempEau}), (std::array{41, 18}));
-    EXPECT_EQ((std::array{dive.gaz, dive.o2Mix, dive.volumeBloc, dive.pressionDepart, dive.pressionFin}),
-              (std::array{1, 36, 15, 200, 60}));
-    EXPECT_EQ((std::array{dive.o2Mix_2, dive.volumeBloc_2}), (std::array{100, 7}));
+    EXPECT_EQ(in(dive, "lieu site surface"), u"Agay; La Chrétienne; 2:30");
+    EXPECT_EQ(in(dive, "profondeur temps tempEau"), u"32.8; 41; 18");
+    EXPECT_EQ(in(dive, "gaz o2Mix volumeBloc pressionDepart pressionFin"), u"1; 36; 15; 200; 60");
+    EXPECT_EQ(in(dive, "o2Mix_2 volumeBloc_2"), u"100; 7");
     EXPECT_EQ(dive.samplingRate, 1);
     EXPECT_EQ(dive.profilProfondeur, Series::ofReals({0, 12.75, 3.5}));
     EXPECT_EQ(dive.SLOW_Flag.integer(1), 1);
@@ -349,31 +322,26 @@ TEST(FoundDives, areDoubtedWithAReason) {
 }
 
 TEST(FoundDives, areRecognisedWithinTwoMinutesAndLikeDepthAndLength) {
-    Plongee held = unknownDive();
-    setStart(held, QDate(2020, 5, 1), QTime(10, 0));
-    held.profondeur = 20;
-    held.temps = 40;
-    struct Case {
-        QTime time;
-        float depth;
-        int minutes;
-        bool duplicate;
+    const auto diveAt = [](const QTime& time, float depth, int minutes) {
+        Plongee dive = unknownDive();
+        setStart(dive, QDate(2020, 5, 1), time);
+        dive.profondeur = depth;
+        dive.temps = minutes;
+        return dive;
     };
-    const Case cases[] = {
+    const Plongee held = diveAt(QTime(10, 0), 20, 40);
+    const std::tuple<QTime, float, int, bool> cases[] = {
         {QTime(10, 0), 20, 40, true},      {QTime(10, 2), 20.9F, 43, true},  {QTime(9, 58), 19.1F, 38, true},
         {QTime(10, 2, 1), 20, 40, false},  {QTime(10, 0), 21.2F, 40, false}, {QTime(10, 0), 20, 46, false},
         {QTime(9, 57, 59), 20, 40, false},
     };
-    for (const Case& it : cases) {
+    for (const auto& [time, depth, minutes, isDuplicate] : cases) {
         FoundDives found;
         found.dives.resize(1);
-        found.dives[0].dive = held;
-        setStart(found.dives[0].dive, QDate(2020, 5, 1), it.time);
-        found.dives[0].dive.profondeur = it.depth;
-        found.dives[0].dive.temps = it.minutes;
+        found.dives[0].dive = diveAt(time, depth, minutes);
         markDuplicates(found, {std::make_shared<const Plongee>(held)});
-        EXPECT_EQ(found.dives[0].duplicate, it.duplicate)
-            << it.time.toString().toStdString() << ' ' << it.depth << ' ' << it.minutes;
+        EXPECT_EQ(found.dives[0].duplicate, isDuplicate)
+            << time.toString().toStdString() << ' ' << depth << ' ' << minutes;
     }
     // In one file only the very same dive is there twice; two computers tell it differently.
     FoundDives twins;

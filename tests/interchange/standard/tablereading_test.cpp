@@ -3,6 +3,7 @@
 #include "interchange/standard/csvtext.h"
 #include "interchange/standard/divedifference.h"
 #include "support/printing.h"
+#include "support/records.h"
 
 #include <gtest/gtest.h>
 
@@ -33,10 +34,8 @@ TEST(TableReading, takesCellsWhateverSeparatesAndQuotesThem) {
         ASSERT_EQ(table.found.dives.size(), 1U) << file;
         const Plongee& dive = table.found.dives[0].dive;
         EXPECT_EQ(startText(table.found.dives[0]), u"2021-07-01 09:30:00") << file;
-        EXPECT_EQ((QStringList{dive.lieu, dive.notes}),
-                  (QStringList{QStringLiteral("Port, \"Vieux\""), QStringLiteral("a\nb")}));
-        EXPECT_EQ(dive.profondeur, 12.5F) << file;
-        EXPECT_EQ(dive.temps, 40) << file;
+        EXPECT_EQ(fieldsOf(dive, Plongee::layout(), "lieu notes profondeur temps"), u"Port, \"Vieux\"; a\nb; 12.5; 40")
+            << file;
         EXPECT_EQ(dive.tempEau, unknownDive().tempEau) << "not given";
         EXPECT_TRUE(table.found.dives[0].lost.empty());
     }

@@ -1,10 +1,13 @@
 #include "interchange/standard/uddfwriting.h"
 
 #include "base/safefile.h"
+#include "interchange/standard/csvtext.h"
 #include "interchange/standard/divedifference.h"
 #include "interchange/standard/founddive.h"
 #include "interchange/standard/sourcereading.h"
+#include "interchange/standard/tablereading.h"
 #include "support/printing.h"
+#include "support/records.h"
 
 #include <gtest/gtest.h>
 #include <libxml/parser.h>
@@ -74,82 +77,25 @@ std::set<std::string_view> lostFields(const Plongee& dive) {
 Plongee fullDive() {
     Plongee dive = unknownDive();
     setStart(dive, QDate(2019, 7, 14), QTime(9, 5, 30));
-    dive.noPlongee = 57;
-    dive.coeff = 95;
-    dive.pmBm = 1;
-    dive.lieu = QStringLiteral("Saint-Raphaël");
-    dive.site = QStringLiteral("Lion de mer <sud> & \"nord\"");
-    dive.pays = QStringLiteral("France");
-    dive.countryCode = QStringLiteral("FR");
-    dive.gps = QStringLiteral("N 43° 24.123'  E 006° 46.456'");
-    dive.partenaires = QStringLiteral("Zoé Martin, Max, Anne de la Tour");
-    dive.epaves = QStringLiteral("Le Donator, Le Grec");
-    dive.structure = QStringLiteral("Club du Port");
-    dive.bateau = QStringLiteral("La Palme");
-    dive.surface = QStringLiteral("2:05");
-    dive.profondeur = 42.7F;
-    dive.temps = 61;
-    dive.altitude = 320;
-    dive.deco = 1;
-    dive.deco_TTS = 12;
-    dive.deco_Level_1_sw = 1;
-    dive.decoDepth_Level_1 = 3.5F;
-    dive.decoTime_Level_1 = 14;
-    dive.decoO2_Level_1 = 100;
-    dive.decoDepth_Level_3 = 9;
-    dive.decoTime_Level_3 = 2;
-    dive.decoO2_Level_3 = 50;
-    dive.decoHe_Level_3 = 10;
-    dive.volPony1 = 7;
-    dive.pressDepartPony1 = 200;
-    dive.pressFinPony1 = 150;
-    dive.volPony3 = 11;
-    dive.pressDepartPony3 = 210;
-    dive.volBailout2 = 12;
-    dive.O2Bailout2 = 32;
-    dive.alliageBloc = 2;
-    dive.volumeBloc = 15;
-    dive.pressionBloc = 232;
-    dive.pressionDepart = 220;
-    dive.pressionFin = 60;
-    dive.gaz = 2;
-    dive.o2Mix = 18;
-    dive.heMix = 45;
-    dive.volumeBloc_2 = 12;
-    dive.gaz_2 = 1;
-    dive.o2Mix_2 = 36;
-    dive.highGF = 85;
-    dive.lowGF = 30;
-    dive.decoSoftName = QStringLiteral("GAP");
-    dive.runtime = QStringLiteral("42 m 20 min");
-    dive.meteo = 1;
-    dive.ventSecteur = 3;
-    dive.ventForce = 4;
-    dive.visibilite = 2;
-    dive.courant = 3;
-    dive.typePlongee = 5;
-    dive.nocturne = 1;
-    dive.tempEau = -2;
-    dive.tempAir = 31;
-    dive.inoubliable = 2;
-    dive.combinaison = 4;
-    dive.fabricant = QStringLiteral("Reef");
-    dive.ordinateur = QStringLiteral("Two");
-    dive.serie = QStringLiteral("0042");
-    dive.samplingRate = 5;
-    dive.equip_1 = QStringLiteral("Lamp");
-    dive.equip_2 = QStringLiteral("Reel");
-    dive.lestage = 6.25F;
-    dive.configuration = 0;
+    setFields(dive, Plongee::layout(), R"(noPlongee=57; coeff=95; pmBm=1; lieu=Saint-Raphaël;
+        site=Lion de mer <sud> & "nord"; pays=France; countryCode=FR; gps=N 43° 24.123'  E 006° 46.456';
+        partenaires=Zoé Martin, Max, Anne de la Tour; epaves=Le Donator, Le Grec; structure=Club du Port;
+        bateau=La Palme; surface=2:05; profondeur=42.7; temps=61; altitude=320; deco=1; deco_TTS=12;
+        deco_Level_1_sw=1; decoDepth_Level_1=3.5; decoTime_Level_1=14; decoO2_Level_1=100; decoDepth_Level_3=9;
+        decoTime_Level_3=2; decoO2_Level_3=50; decoHe_Level_3=10; volPony1=7; pressDepartPony1=200;
+        pressFinPony1=150; volPony3=11; pressDepartPony3=210; volBailout2=12; O2Bailout2=32; alliageBloc=2;
+        volumeBloc=15; pressionBloc=232; pressionDepart=220; pressionFin=60; gaz=2; o2Mix=18; heMix=45;
+        volumeBloc_2=12; gaz_2=1; o2Mix_2=36; highGF=85; lowGF=30; decoSoftName=GAP; runtime=42 m 20 min; meteo=1;
+        ventSecteur=3; ventForce=4; visibilite=2; courant=3; typePlongee=5; nocturne=1; tempEau=-2; tempAir=31;
+        inoubliable=2; combinaison=4; fabricant=Reef; ordinateur=Two; serie=0042; samplingRate=5; equip_1=Lamp;
+        equip_2=Reel; lestage=6.25; configuration=0; difficulte=3; PRESS_Data=220 200.5 180.12 150 120 100 80 60;
+        profilProfondeur=0 11.13 42.7 42.65 9 6.04 3 0)");
     dive.notes = QStringLiteral("First line\n\n  third line\r with < and &\n");
-    dive.difficulte = 3;
-    dive.profilProfondeur = Series::ofReals({0, 11.13, 42.7, 42.65, 9, 6.04, 3, 0});
     dive.ASC_Flag = Series::ofIntegers({0, 0, 0, 1, 0, 0, 0, 0});
     dive.SLOW_Flag = Series::ofIntegers({0, 0, 0, 0, 1, 0, 0, 0});
     dive.CEIL_Flag = Series::ofIntegers({0, 0, 0, 0, 1, 1, 0, 0});
     dive.SURF_Flag = Series::ofIntegers({0, 0, 0, 0, 0, 0, 0, 1});
     dive.GAZ_Flag = Series::ofIntegers({0, 0, 0, 0, 4, 1, 2, 0});
-    dive.PRESS_Data = Series::ofReals({220, 200.5, 180.12, 150, 120, 100, 80, 60});
     return dive;
 }
 
@@ -162,16 +108,8 @@ TEST(UddfWriting, losesOnlyWhatUddfCannotSay) {
 
 TEST(UddfWriting, keepsARebreatherWithItsSetPoints) {
     Plongee dive = fullDive();
-    dive.rebreather = 2;
-    dive.ppO2 = 2;
-    dive.lowSetpoint = 10;
-    dive.gaz = 1;
-    dive.o2Mix = 100;
-    dive.heMix = 0;
-    dive.gaz_2 = 4;
-    dive.o2Mix_2 = 25;
-    dive.heMix_2 = 30;
-    dive.flow = 7.5F;
+    setFields(dive, Plongee::layout(), R"(rebreather=2; ppO2=2; lowSetpoint=10; gaz=1; o2Mix=100; heMix=0; gaz_2=4;
+        o2Mix_2=25; heMix_2=30; flow=7.5)");
     std::set<std::string_view> lost = lostFields(dive);
     EXPECT_EQ(lost.count("flow"), 1U);
     for (const char* kept : {"rebreather", "ppO2", "lowSetpoint", "gaz", "o2Mix", "gaz_2", "o2Mix_2", "heMix_2",
@@ -243,6 +181,12 @@ TEST(UddfWriting, bringsBackRandomDives) {
         dive.ASC_Flag = Series::ofIntegers(flags);
         dive.CEIL_Flag = Series::ofIntegers(flags);
         EXPECT_EQ(lostFields(dive), std::set<std::string_view>()) << round;
+        // A table holds every field as it is.
+        dive.profondeur = static_cast<float>(below(900)) / 7;
+        dive.partenaires = QStringLiteral("Ann,  Bo , ");
+        const auto table = readTable(*writeCsv({shared(dive)}));
+        ASSERT_TRUE(table && table->found.dives.size() == 1);
+        EXPECT_EQ(differingFields(dive, table->found.dives[0].dive), std::vector<std::string_view>()) << round;
     }
 }
 

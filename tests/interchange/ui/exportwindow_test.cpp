@@ -1,12 +1,13 @@
 #include "interchange/ui/exportwindow.h"
 
 #include "interchange/standard/founddive.h"
+#include "support/files.h"
+#include "support/queuedfiledialogs.h"
 #include "support/testdesktop.h"
 
 #include <QAction>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QFile>
 #include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
@@ -16,18 +17,6 @@
 namespace tavrel {
 
 namespace {
-
-class OneFile : public FileDialogs {
-public:
-    QStringList filesToOpen(QWidget*, const QString&, const QList<FileFilter>&, bool) override { return {}; }
-    std::optional<FileToSave> fileToSave(QWidget*, const QString&, const QString& name,
-                                         const QList<FileFilter>& filters) override {
-        proposal = name;
-        extension = filters.value(0).extensions.value(0);
-        return file.isEmpty() ? std::nullopt : std::optional(FileToSave{file, 0});
-    }
-    QString file, proposal, extension;
-};
 
 class Exporting : public testing::Test {
 protected:
@@ -45,7 +34,7 @@ protected:
 
     void show() {
         window = new ExportWindow(
-            carnet, dialogs, [this](const QString& file) { return file == taken; }, nullptr);
+            carnet, dialogs, [this](const QString& name) { return name == taken; }, nullptr);
         window->show();
     }
     void choose(const char* format) {
@@ -63,18 +52,26 @@ protected:
         }
         return lines;
     }
-    /// Presses Export; the bytes of the file, empty when there is none.
-    QByteArray exported() {
-        dialogs.file = desktop.path(QStringLiteral("out"));
-        QFile::remove(dialogs.file);
-        window->findChild<QPushButton*>(QStringLiteral("exportChosen"))->click();
-        QFile file(dialogs.file);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    QListWidget* columns() { return window->findChild<QListWidget*>(QStringLiteral("exportColumns")); }
+    /// Ticks these and no others.
+    void tick(const QStringList& fields) {
+        for (int row = 0; row < columns()->count(); ++row) {
+            const bool isTicked = fields.contains(columns()->item(row)->data(Qt::UserRole).toString());
+            columns()->item(row)->setCheckState(isTicked ? Qt::Checked : Qt::Unchecked);
+        }
+    }
+    QPushButton* button() { return window->findChild<QPushButton*>(QStringLiteral("exportChosen")); }
+    /// Presses Export; whether there is a file then.
+    bool exports() {
+        dialogs.save = {{file}};
+        button()->click();
+        return QFile::exists(file);
     }
 
     TestDesktop desktop;
     Carnet carnet{desktop.desktop()};
-    OneFile dialogs;
+    QueuedFileDialogs dialogs;
+    const QString file = desktop.path(QStringLiteral("out"));
     QString taken;
     QPointer<ExportWindow> window;
 };
@@ -82,12 +79,13 @@ protected:
 TEST_F(Exporting, saysWhatIsLostBeforeItWrites) {
     show();
     EXPECT_EQ(losses(), QStringList{QStringLiteral("Tide coefficient [coeff] of 3 dives")});
-    choose("csv");
-    EXPECT_EQ(losses(), QStringList{QStringLiteral("Nothing is lost.")});
-    choose("csv-comma");
-    EXPECT_EQ(losses(), QStringList{QStringLiteral("Nothing is lost.")});
-    EXPECT_EQ(exported().count('\n'), 3);
-    EXPECT_EQ(dialogs.extension, u"csv");
+    for (const char* format : {"csv", "csv-comma"}) {
+        choose(format);
+        EXPECT_EQ(losses(), QStringList{QStringLiteral("Nothing is lost.")}) << format;
+    }
+    ASSERT_TRUE(exports());
+    EXPECT_EQ(contentsOf(file).count('\n'), 3);
+    EXPECT_EQ(dialogs.offered.value(0).extensions, QStringList{QStringLiteral("csv")});
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_FALSE(window) << "done";
 }
@@ -104,29 +102,24 @@ TEST_F(Exporting, writesTheDivesAndColumnsChosen) {
     EXPECT_EQ(losses(), QStringList{QStringLiteral("Tide coefficient [coeff] of 2 dives")});
     choices[2]->click();
     choose("csv");
-    auto* columns = window->findChild<QListWidget*>(QStringLiteral("exportColumns"));
-    for (int row = 0; row < columns->count(); ++row) {
-        const QString field = columns->item(row)->data(Qt::UserRole).toString();
-        columns->item(row)->setCheckState(field == u"date" || field == u"lieu" ? Qt::Checked : Qt::Unchecked);
-    }
+    tick({QStringLiteral("date"), QStringLiteral("lieu")});
     EXPECT_EQ(losses().filter(QStringLiteral("coeff")).size(), 1);
-    EXPECT_EQ(exported(), "date,lieu\r\n2020-01-02,Agay\r\n");
+    ASSERT_TRUE(exports());
+    EXPECT_EQ(contentsOf(file), "date,lieu\r\n2020-01-02,Agay\r\n");
 }
 
 TEST_F(Exporting, leavesOtherDocumentsAndItsOwnFileAlone) {
-    const QString own = desktop.path(QStringLiteral("out"));
     show();
-    taken = own;
-    EXPECT_EQ(exported(), QByteArray()) << "told by who knows the open documents";
+    taken = file;
+    EXPECT_FALSE(exports()) << "told by who knows the open documents";
     taken.clear();
-    ASSERT_TRUE(carnet.saveAs(own));
-    dialogs.file = own;
-    window->exportDives();
+    ASSERT_TRUE(carnet.saveAs(file));
+    const QByteArray own = contentsOf(file);
+    EXPECT_TRUE(exports());
     EXPECT_EQ(desktop.alerts.failures.size(), 1U);
     EXPECT_TRUE(window->isVisible());
-    EXPECT_EQ(dialogs.proposal, own);
-    EXPECT_TRUE(carnet.revert());
-    dialogs.file.clear();
+    EXPECT_EQ(dialogs.proposed, file);
+    EXPECT_EQ(contentsOf(file), own);
     window->exportDives();
     EXPECT_TRUE(window->isVisible()) << "no file was chosen";
     delete window;
@@ -139,11 +132,9 @@ TEST_F(Exporting, offersOnlyDivesThatThereAre) {
     EXPECT_FALSE(choices[1]->isEnabled());
     EXPECT_FALSE(choices[2]->isEnabled());
     choose("csv");
-    auto* columns = window->findChild<QListWidget*>(QStringLiteral("exportColumns"));
-    for (int row = 0; row < columns->count(); ++row) {
-        columns->item(row)->setCheckState(Qt::Unchecked);
-    }
-    EXPECT_FALSE(window->findChild<QPushButton*>(QStringLiteral("exportChosen"))->isEnabled());
+    EXPECT_TRUE(button()->isEnabled());
+    tick({});
+    EXPECT_FALSE(button()->isEnabled());
     delete window;
 }
 

@@ -1,50 +1,27 @@
 #include "interchange/ui/importcommands.h"
 
+#include "support/files.h"
+#include "support/queuedfiledialogs.h"
 #include "support/testdesktop.h"
 
-#include <QFile>
 #include <gtest/gtest.h>
 
 namespace tavrel {
 
 namespace {
 
-/// Answers with one file and remembers what was asked.
-class AnsweringFileDialogs : public FileDialogs {
-public:
-    QStringList filesToOpen(QWidget* parent, const QString&, const QList<FileFilter>& filters, bool several) override {
-        EXPECT_NE(parent, nullptr);
-        EXPECT_FALSE(several);
-        offered = filters.value(0).extensions;
-        return answer;
-    }
-    std::optional<FileToSave> fileToSave(QWidget*, const QString&, const QString&, const QList<FileFilter>&) override {
-        return {};
-    }
-
-    QStringList answer;
-    QStringList offered;
-};
-
-class ImportWindow : public testing::Test {
-protected:
-    QString written(const QByteArray& bytes) {
-        const QString path = desktop.path(QStringLiteral("source.xml"));
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        return path;
-    }
-
+TEST(ImportCommands, askForAFileAndTellWhatCameIn) {
     TestDesktop desktop;
-    Carnet carnet{desktop.desktop()};
-    LogbookWindow window{carnet, desktop.desktop()};
-    AnsweringFileDialogs dialogs;
+    Carnet carnet(desktop.desktop());
+    LogbookWindow window(carnet, desktop.desktop());
+    QueuedFileDialogs dialogs;
     // The window owns it.
-    ImportCommands* commands = new ImportCommands(carnet, window, desktop.desktop(), dialogs);
-};
-
-TEST_F(ImportWindow, asksForAFileAndTellsWhatCameIn) {
+    auto* commands = new ImportCommands(carnet, window, desktop.desktop(), dialogs);
+    const QString file = desktop.path(QStringLiteral("source.xml"));
+    const auto choose = [&](const QByteArray& bytes) {
+        writeContents(file, bytes);
+        dialogs.open = {file};
+    };
     const QByteArray dive = "<DIVE><SAMPLES/><GASES><MIX><TANK/></MIX></GASES></DIVE>";
     const QByteArray gases = "<gases><mix><tank/></mix></gases>";
     struct Case {
@@ -65,17 +42,18 @@ TEST_F(ImportWindow, asksForAFileAndTellsWhatCameIn) {
     const QList<QAction*> actions = window.importActions();
     ASSERT_EQ(actions.size(), std::ssize(cases) + 1);
     for (const Case& it : cases) {
-        dialogs.answer = {written(it.file)};
+        choose(it.file);
         actions[&it - cases]->trigger();
         QStringList extensions{QStringLiteral("txt"), QStringLiteral("xml")};
-        EXPECT_EQ(dialogs.offered, it.extension ? extensions << QLatin1String(it.extension) : extensions);
+        EXPECT_TRUE(dialogs.askedBy && !dialogs.severalAllowed);
+        EXPECT_EQ(dialogs.offered.value(0).extensions,
+                  it.extension ? extensions << QLatin1String(it.extension) : extensions);
         EXPECT_EQ(carnet.count(), it.count);
         EXPECT_EQ(desktop.alerts.told.value(desktop.alerts.told.size() - 1), QLatin1String(it.told));
     }
-    dialogs.answer = {};
     commands->importUDCF();
     EXPECT_EQ(desktop.alerts.told.size(), 3) << "nothing chosen, nothing told";
-    dialogs.answer = {written("no dives")};
+    choose("no dives");
     commands->importUDDF();
     EXPECT_EQ(desktop.alerts.failures.size(), 1U);
     EXPECT_EQ(carnet.undoStack().count(), 3);

@@ -1,12 +1,12 @@
 #include "interchange/ui/importwindow.h"
 
+#include "support/files.h"
 #include "support/testdesktop.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QEventLoop>
-#include <QFile>
 #include <QPointer>
 #include <QPushButton>
 #include <QTableWidget>
@@ -21,10 +21,7 @@ class FoundDivesWindow : public testing::Test {
 protected:
     void show(const QByteArray& bytes) {
         const QString path = desktop.path(QStringLiteral("source"));
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        file.close();
+        writeContents(path, bytes);
         window = new ImportWindow(carnet, desktop.desktop(), path, nullptr);
         window->show();
         waitForReading();
