@@ -2,6 +2,7 @@
 
 #include "app/testapplication.h"
 #include "archive/recordarchive.h"
+#include "base/safefile.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -19,12 +20,6 @@ namespace {
 
 enum Answer { save, dontSave, cancel };
 
-void write(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
 QByteArray contents(const QString& path) {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
@@ -33,8 +28,6 @@ QByteArray contents(const QString& path) {
 
 class Documents : public testing::Test {
 protected:
-    ~Documents() override { setTextLanguage(QStringLiteral("en")); }
-
     QStringList names() {
         QStringList names;
         for (DocumentWindow* window : app.documents.windows()) {
@@ -110,7 +103,7 @@ TEST_F(Documents, thatCannotBeReadLeaveTheOpenOneAlone) {
     };
     for (const auto& [name, bytes] : cases) {
         const QString file = app.path(QString::fromLatin1(name));
-        write(file, bytes);
+        ASSERT_TRUE(writeFile(file, bytes));
         app.alerts.clear();
         EXPECT_FALSE(app.documents.openFile(file)) << name;
         ASSERT_EQ(app.alerts.failures.size(), 1U) << name;
@@ -136,15 +129,21 @@ TEST_F(Documents, areSavedUnderANameAndReverted) {
     EXPECT_EQ(app.frontWindow()->windowTitle(), u"dives.carnet[*]");
     EXPECT_EQ(recent(), QStringList{file});
 
-    app.frontCarnet().addDive();
-    EXPECT_TRUE(app.frontWindow()->isWindowModified());
-    app.alerts.answerNext(1);
-    EXPECT_FALSE(app.documents.revertDocument(*app.frontWindow()));
-    EXPECT_EQ(app.frontCarnet().count(), 2);
-    app.alerts.answerNext(0);
-    EXPECT_TRUE(app.documents.revertDocument(*app.frontWindow()));
-    EXPECT_EQ(app.frontCarnet().count(), 1);
-    EXPECT_FALSE(app.frontWindow()->isWindowModified());
+    // Back to the file, once it is one of two dives to its backup of one; either only when the user says so.
+    using Way = bool (MyDocumentController::*)(DocumentWindow&);
+    for (const Way way : {&MyDocumentController::revertDocument, &MyDocumentController::revertToBackup}) {
+        const bool toBackup = way == Way(&MyDocumentController::revertToBackup);
+        app.frontCarnet().addDive();
+        EXPECT_TRUE(app.frontWindow()->isWindowModified());
+        EXPECT_TRUE(!toBackup || app.documents.saveDocument(*app.frontWindow()));
+        app.alerts.answerNext(1);
+        EXPECT_FALSE((app.documents.*way)(*app.frontWindow()));
+        EXPECT_EQ(app.frontCarnet().count(), 2);
+        app.alerts.answerNext(0);
+        EXPECT_TRUE((app.documents.*way)(*app.frontWindow()));
+        EXPECT_EQ(app.frontCarnet().count(), 1);
+        EXPECT_EQ(app.frontWindow()->isWindowModified(), toBackup);
+    }
 
     // A failed save keeps the changes, the file and its name.
     app.frontCarnet().addDive();
@@ -332,14 +331,9 @@ TEST_F(Documents, openWhenDroppedOnAWindow) {
 }
 
 TEST_F(Documents, takeInFilesOfOtherPrograms) {
-    const auto written = [&](const QString& name) {
-        QFile file(app.path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("dives of another program");
-        return file.fileName();
-    };
-    const QString log = written(QStringLiteral("dives.log"));
-    const QString notes = written(QStringLiteral("notes.txt"));
+    const QString log = app.path(QStringLiteral("dives.log"));
+    const QString notes = app.path(QStringLiteral("notes.txt"));
+    ASSERT_TRUE(writeFile(log, "dives of another program") && writeFile(notes, "dives of another program"));
 
     // Opened without a logbook they go to a new one, if the user wants it.
     app.alerts.answerNext(1);
@@ -369,7 +363,7 @@ TEST_F(Documents, askBeforeTheySaveOverWhatAnotherProgramWrote) {
     DocumentWindow* window = app.documents.openFile(file);
     const auto countAfter = [&](int answer) {
         app.frontCarnet().addDive();
-        write(file, theirs);
+        EXPECT_TRUE(writeFile(file, theirs));
         app.alerts.clear();
         app.alerts.answerNext(answer);
         const bool saved = app.documents.saveDocument(*window);
@@ -406,7 +400,7 @@ TEST_F(Documents, tellInTheirWindowWhatAnotherProgramDoes) {
     DocumentWindow* window = app.documents.openFile(file);
     MessageBar& bar = window->messageBar();
     EXPECT_TRUE(bar.isHidden());
-    write(file, theirs);
+    ASSERT_TRUE(writeFile(file, theirs));
     ASSERT_TRUE(QTest::qWaitFor([&] { return !bar.isHidden(); }));
     EXPECT_EQ(bar.message(), u"Another program has changed the file.");
     bar.findChild<QAction*>(QStringLiteral("messageCommand"))->trigger();
@@ -445,24 +439,9 @@ TEST_F(Documents, thatAnotherProgramHasOpenAreOpenedToBeLookedAt) {
     EXPECT_TRUE(app.documents.saveDocument(*window));
 }
 
-TEST_F(Documents, goBackToTheirBackup) {
-    const QString file = app.savedLogbook(QStringLiteral("dives.carnet"), 2);
-    DocumentWindow* window = app.documents.openFile(file);
-    app.frontCarnet().addDive();
-    ASSERT_TRUE(app.documents.saveDocument(*window));
-    app.alerts.answerNext(1);
-    EXPECT_FALSE(app.documents.revertToBackup(*window));
-    EXPECT_EQ(app.frontCarnet().count(), 3);
-    app.alerts.answerNext(0);
-    EXPECT_TRUE(app.documents.revertToBackup(*window));
-    EXPECT_EQ(app.frontCarnet().count(), 2);
-    EXPECT_TRUE(window->document().isChanged());
-}
-
 /// A run of the program that keeps what is unsaved in a folder that all runs share.
 struct OneRun {
     explicit OneRun(TestApplication& itsApp) : app(itsApp) {}
-    ~OneRun() = default;
 
     Carnet& carnet() { return static_cast<Carnet&>(documents.windows().back()->document()); }
 

@@ -7,6 +7,7 @@
 #include "desktop/ui/customtoolbar.h"
 #include "logbook/logbooksettings.h"
 #include "profile/profilesettings.h"
+#include "support/records.h"
 #include "support/testdesktop.h"
 
 #include <QCheckBox>
@@ -25,15 +26,11 @@ namespace {
 class PreferencesTest : public testing::Test {
 protected:
     PreferencesTest() {
-        constexpr std::pair<Notification, const char*> names[] = {
-            {Notification::updateTableView, "updateTableView"},
-            {Notification::updateColumnsTableView, "updateColumnsTableView"},
-            {Notification::updateEditDive, "updateEditDive"},
-            {Notification::profile, "profile"},
-            {Notification::updateDeco, "updateDeco"},
-            {Notification::updateRebreather, "updateRebreather"},
-        };
-        for (const auto& [notification, name] : names) {
+        using enum Notification;
+        for (const auto& [notification, name] :
+             {std::pair(updateTableView, "updateTableView"), std::pair(updateColumnsTableView, "updateColumnsTableView"),
+              std::pair(updateEditDive, "updateEditDive"), std::pair(Notification::profile, "profile"),
+              std::pair(updateDeco, "updateDeco"), std::pair(updateRebreather, "updateRebreather")}) {
             subscriptions_.push_back(desktop.notifications.subscribe(notification, [this, name = name] {
                 posted.append(QString::fromLatin1(name));
                 intervalWhenPosted = desktop.preferences.string(QStringLiteral("stop interval"));
@@ -81,43 +78,15 @@ TEST_F(PreferencesTest, resetGivesEverySettingItsValueAndStoresIt) {
     window().resetPreferences();
     EXPECT_TRUE(takePosted().isEmpty());
     const auto store = readBack();
-    const QString on = QStringLiteral("1");
-    const QString off = QStringLiteral("0");
-    const std::pair<const char*, QString> texts[] = {
-        {"tank volume", QStringLiteral("15")},
-        {"tank pressure", QStringLiteral("230")},
-        {"us units", off},
-        {"display units", on},
-        {"depth time in color", on},
-        {"color item", off},
-        {"coloured text", QStringLiteral("")},
-        {"coloured theme", off},
-        {"low temperature in color", off},
-        {"low temperature value", QStringLiteral("")},
-        {"mix in color", on},
-        {"foreign in color", on},
-        {"country code", QStringLiteral("FRA")},
-        {"column numero", on},
-        {"column visibilite", on},
-        {"column_epave", on},
-        {"column gaz", off},
-        {"column scaph", off},
-        {"alpha background color", QStringLiteral("0.2")},
-        {"alpha fill color", QStringLiteral("0.4")},
-        {"fill plot", on},
-        {"gradient yes", on},
-        {"x minor ticks", on},
-        {"y minor ticks", on},
-        {"dashed lines", on},
-        {"ppO2 line", off},
-        {"stop interval", QStringLiteral("3")},
-        {"low GF", QStringLiteral("0")},
-        {"high GF", QStringLiteral("0")},
-        {"cell life", QStringLiteral("18")},
-    };
-    for (const auto& [key, value] : texts) {
-        EXPECT_TRUE(store->isStored(QString::fromLatin1(key))) << key;
-        EXPECT_EQ(store->string(QString::fromLatin1(key)), value) << key;
+    for (const auto& [key, value] : namedValues(
+             "tank volume=15|tank pressure=230|us units=0|display units=1|depth time in color=1|color item=0|"
+             "coloured text=|coloured theme=0|low temperature in color=0|low temperature value=|mix in color=1|"
+             "foreign in color=1|country code=FRA|column numero=1|column visibilite=1|column_epave=1|column gaz=0|"
+             "column scaph=0|alpha background color=0.2|alpha fill color=0.4|fill plot=1|gradient yes=1|"
+             "x minor ticks=1|y minor ticks=1|dashed lines=1|ppO2 line=0|stop interval=3|low GF=0|high GF=0|"
+             "cell life=18")) {
+        EXPECT_TRUE(store->isStored(QString::fromStdString(key))) << key;
+        EXPECT_EQ(store->string(QString::fromStdString(key)), value) << key;
     }
     const std::pair<const char*, Rgb> colors[] = {
         {"depth color", {0.5F, 0, 0.5F}},     {"time color", {0, 0, 0.6F}},
@@ -200,18 +169,13 @@ TEST_F(PreferencesTest, everyChangeIsStoredAndTellsItsFollowers) {
     EXPECT_EQ(takePosted().join(u' '), u"updateTableView profile updateEditDive updateDeco updateRebreather");
 
     const auto store = readBack();
-    EXPECT_FALSE(store->boolean(QStringLiteral("column site")));
-    EXPECT_TRUE(store->boolean(QStringLiteral("column_epave")));
-    EXPECT_TRUE(store->boolean(QStringLiteral("mix in color")));
-    EXPECT_EQ(store->integer(QStringLiteral("stop interval")), 5);
-    EXPECT_EQ(store->integer(QStringLiteral("cell life")), 24);
-    EXPECT_DOUBLE_EQ(store->real(QStringLiteral("low temperature value")), -1.5);
-    EXPECT_EQ(store->integer(QStringLiteral("tank volume")), 12);
-    EXPECT_EQ(store->integer(QStringLiteral("coloured theme")), 2);
+    // What has no control of its own in the change goes along with it: the defaults, as of the alpha, become the user's.
+    for (const auto& [key, value] : namedValues(
+             "column site=0|column_epave=1|mix in color=1|stop interval=5|cell life=24|low temperature value=-1.5|"
+             "tank volume=12|coloured theme=2|us units=1|alpha fill color=0.5")) {
+        EXPECT_EQ(store->string(QString::fromStdString(key)), value) << key;
+    }
     EXPECT_EQ(store->color(QStringLiteral("fill color")).name(), QColor(10, 20, 30).name());
-    EXPECT_TRUE(store->boolean(QStringLiteral("us units")));
-    // What has no control of its own in the change goes along with it: the defaults become the user's.
-    EXPECT_EQ(store->string(QStringLiteral("alpha fill color")), u"0.5");
 
     // A second window shows what was stored.
     PreferencesWindow second(desktop.desktop());
@@ -238,21 +202,14 @@ TEST_F(PreferencesTest, decoAndRebreatherStoreAfterTheyTold) {
 }
 
 TEST_F(PreferencesTest, switchesEnableWhatDependsOnThem) {
-    const struct {
-        const char* onOff;
-        QStringList dependents;
-    } cases[] = {
-        {"tableColorSwitch", {QStringLiteral("profondeurWell"), QStringLiteral("dureeWell")}},
-        {"itemColorSwitch", {QStringLiteral("textInColorField"), QStringLiteral("themeInColorPopUp")}},
-        {"lowTemperatureSwitch", {QStringLiteral("tempValueField"), QStringLiteral("lowTemperatureWell")}},
-        {"fillSwitch", {QStringLiteral("fillColorWell"), QStringLiteral("alphaFillField")}},
-        {"gradientYesSwitch", {QStringLiteral("gradientLinesColorWell")}},
-    };
-    for (const auto& it : cases) {
-        auto& box = find<QCheckBox>(it.onOff);
+    for (const auto& [onOff, dependents] : namedValues(
+             "tableColorSwitch=profondeurWell dureeWell|itemColorSwitch=textInColorField themeInColorPopUp|"
+             "lowTemperatureSwitch=tempValueField lowTemperatureWell|fillSwitch=fillColorWell alphaFillField|"
+             "gradientYesSwitch=gradientLinesColorWell")) {
+        auto& box = find<QCheckBox>(onOff.c_str());
         for (int turn = 0; turn < 2; ++turn) {
             box.click();
-            for (const QString& name : it.dependents) {
+            for (const QString& name : dependents.split(u' ')) {
                 EXPECT_EQ(find<QWidget>(name.toLatin1()).isEnabled(), box.isChecked()) << name.toStdString();
             }
         }

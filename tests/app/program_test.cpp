@@ -1,8 +1,5 @@
-#include "app/appdelegate.h"
 #include "app/preferenceswindow.h"
-#include "app/tavreldocuments.h"
 #include "app/testapplication.h"
-#include "app/windowmenus.h"
 #include "book/ui/bookactions.h"
 #include "book/ui/bookeditwindow.h"
 #include "book/ui/booktableview.h"
@@ -26,26 +23,13 @@ namespace tavrel {
 
 namespace {
 
-/// The documents, windows and menus of the program as it is.
-class Program : public testing::Test {
-protected:
-    Program() : documents(desktop.desktop(), fileDialogs, tavrelDocuments(fileDialogs)), delegate(desktop.desktop()) {
-        QObject::connect(&documents, &MyDocumentController::windowOpened, &documents,
-                         [this](auto* window) { new WindowMenus(documents, delegate, *window); });
-    }
-    ~Program() override { setTextLanguage(QStringLiteral("en")); }
+using Program = WholeProgram;
 
-    static QString contents(const char* file) {
-        QFile source(QStringLiteral(TAVREL_SOURCE_FOLDER "/") + QLatin1StringView(file));
-        EXPECT_TRUE(source.open(QIODevice::ReadOnly)) << file;
-        return QString::fromUtf8(source.readAll());
-    }
-
-    TestDesktop desktop;
-    QueuedFileDialogs fileDialogs;
-    MyDocumentController documents;
-    AppDelegate delegate;
-};
+QString contents(const char* file) {
+    QFile source(QStringLiteral(TAVREL_SOURCE_FOLDER "/") + QLatin1StringView(file));
+    EXPECT_TRUE(source.open(QIODevice::ReadOnly)) << file;
+    return QString::fromUtf8(source.readAll());
+}
 
 /// Checks that no two actions of a menu share an access key, and none of the bar a shortcut.
 void expectOwnKeys(const QList<QAction*>& actions, QStringList& shortcuts) {
@@ -76,7 +60,7 @@ TEST_F(Program, menusHaveKeysOfTheirOwnInEveryLanguage) {
 }
 
 TEST_F(Program, importsExportsAndFollowsThePreferences) {
-    DocumentWindow* window = documents.openFile(QStringLiteral(TAVREL_SOURCE_FOLDER "/samples/sample.carnet"));
+    DocumentWindow* window = openSample(QStringLiteral("carnet"));
     ASSERT_TRUE(window);
     auto& carnet = static_cast<Carnet&>(window->document());
     const int before = carnet.count();
@@ -121,11 +105,10 @@ TEST_F(Program, importsExportsAndFollowsThePreferences) {
 }
 
 TEST_F(Program, asksAboutADiveBeingTypedAndThenAboutItsFile) {
-    const QString file = desktop.path(QStringLiteral("dives.carnet"));
-    ASSERT_TRUE(QFile::copy(QStringLiteral(TAVREL_SOURCE_FOLDER "/samples/sample.carnet"), file));
-    auto* window = qobject_cast<LogbookWindow*>(documents.openFile(file));
+    auto* window = qobject_cast<LogbookWindow*>(openSample(QStringLiteral("carnet")));
     ASSERT_TRUE(window);
     auto* carnet = &static_cast<Carnet&>(window->document());
+    const QString file = carnet->file();
     const int before = carnet->count();
     QTest::mouseClick(window->table().viewport(), Qt::LeftButton, {},
                       window->table().visualRect(window->table().model()->index(1, 0)).center());

@@ -1,6 +1,9 @@
 #include "app/testapplication.h"
 
-#include <gtest/gtest.h>
+#include "app/tavreldocuments.h"
+#include "app/windowmenus.h"
+
+#include <QFile>
 
 namespace tavrel {
 
@@ -41,6 +44,18 @@ QString TestApplication::savedLogbook(const QString& name, int dives) {
     const QString file = path(name);
     EXPECT_TRUE(carnet.saveAs(file));
     return file;
+}
+
+WholeProgram::WholeProgram()
+    : documents(desktop.desktop(), fileDialogs, tavrelDocuments(fileDialogs)), delegate(desktop.desktop()) {
+    QObject::connect(&documents, &MyDocumentController::windowOpened, &documents,
+                     [this](auto* window) { new WindowMenus(documents, delegate, *window); });
+}
+
+DocumentWindow* WholeProgram::openSample(const QString& ending) {
+    const QString name = QStringLiteral("sample.") + ending;
+    EXPECT_TRUE(QFile::copy(QStringLiteral(TAVREL_SOURCE_FOLDER "/samples/") + name, desktop.path(name)));
+    return documents.openFile(desktop.path(name));
 }
 
 }  // namespace tavrel

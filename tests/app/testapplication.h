@@ -1,11 +1,13 @@
 #pragma once
 
+#include "app/appdelegate.h"
 #include "app/mydocumentcontroller.h"
 #include "logbook/carnet.h"
 #include "support/queuedfiledialogs.h"
 #include "support/testdesktop.h"
 
 #include <QCoreApplication>
+#include <gtest/gtest.h>
 
 namespace tavrel {
 
@@ -62,6 +64,19 @@ public:
 
     QueuedFileDialogs fileDialogs;
     MyDocumentController documents;
+};
+
+/// The documents, windows and menus of the program as it is.
+class WholeProgram : public testing::Test {
+protected:
+    WholeProgram();
+    /// Opens a copy of a sample, since an open document is locked and other tests look at the samples at the same time.
+    DocumentWindow* openSample(const QString& ending);
+
+    TestDesktop desktop;
+    QueuedFileDialogs fileDialogs;
+    MyDocumentController documents;
+    AppDelegate delegate;
 };
 
 }  // namespace tavrel

@@ -131,15 +131,22 @@ TEST(Consumption, FiguresExplainThemselvesOrSayWhyNot) {
     EXPECT_EQ(explainedPerMinute(dive).text, u"3.75 bar/min");
     EXPECT_EQ(explainedAverageDepth(dive, false).explanation, u"Average depth = mean of 2 samples = 20.0 m");
 
-    const auto unknown = [](const ExplainedFigure& figure, QStringView why) {
-        return figure.text.isNull() && figure.explanation.contains(why);
-    };
-    EXPECT_TRUE(unknown(explainedSac(readings(12, 200, 50, 40, {0})), u"profile"));
-    EXPECT_TRUE(unknown(explainedSac(readings(12, 200, 50, 0, {20, 20})), u"time"));
-    EXPECT_TRUE(unknown(explainedSac(readings(12, 0, 0, 40, {20, 20})), u"start pressure"));
-    EXPECT_TRUE(unknown(explainedUsed(readings(0, 200, 50, 40, {20, 20})), u"volume"));
-    EXPECT_TRUE(unknown(explainedSac(readings(12, 200, 50, 40, {20, std::nan("")})), u"no numbers"));
-    EXPECT_TRUE(unknown(explainedAverageDepth(readings(12, 200, 50, 40, {0}), false), u"profile"));
+    const GasReadings flat = readings(12, 200, 50, 40, {0});
+    EXPECT_EQ(explainedUsed(flat).text, u"1800 L");
+    const GasReadings broken = readings(12, 200, 50, 40, {20, std::nan("")});
+    for (const auto& [figure, why] :
+         {std::pair(explainedSac(flat), "no profile, so no average depth"),
+          std::pair(explainedAverageDepth(flat, false), "no profile, so no average depth"),
+          std::pair(explainedSac(readings(12, 200, 50, 0, {20, 20})), "no dive time"),
+          std::pair(explainedPerMinute(readings(12, 200, 50, 0, {20, 20})), "no dive time"),
+          std::pair(explainedSac(readings(12, 0, 0, 40, {20, 20})), "no start pressure"),
+          std::pair(explainedUsed(readings(12, 0, 0, 40, {20, 20})), "no start pressure"),
+          std::pair(explainedSac(readings(0, 200, 50, 40, {20, 20})), "no tank volume"),
+          std::pair(explainedUsed(readings(0, 200, 50, 40, {20, 20})), "no tank volume"),
+          std::pair(explainedSac(broken), "the profile holds depths that are no numbers")}) {
+        EXPECT_TRUE(figure.text.isNull());
+        EXPECT_EQ(figure.explanation, QStringLiteral("Not known: ") + QLatin1StringView(why));
+    }
 }
 
 TEST(OxygenClock, RatesFollowTheBands) {

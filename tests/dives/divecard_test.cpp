@@ -2,6 +2,7 @@
 
 #include "desktop/commonsettings.h"
 #include "support/printing.h"
+#include "support/records.h"
 #include "support/testdesktop.h"
 
 #include <gtest/gtest.h>
@@ -15,50 +16,21 @@ protected:
         const std::vector<DivePointer> dives{std::make_shared<const Plongee>(dive)};
         return diveCard(divesIn(dives), desktop_.desktop().preferences).text();
     }
-    static Plongee plainDive() {
-        Plongee dive;
-        dive.noPlongee = 12;
-        dive.tempEau = dive.tempAir = -50;
+    static Plongee plainDive(const char* more = "noPlongee=12") {
+        auto dive = filled<Plongee>("noPlongee=12|tempEau=-50|tempAir=-50");
+        fill(dive, Plongee::layout(), more);
         return dive;
     }
+    QString cardOf(const char* fields) { return cardOf(plainDive(fields)); }
 
     TestDesktop desktop_;
 };
 
 TEST_F(DiveCardTest, TellsADiveFieldByField) {
-    Plongee dive = plainDive();
-    dive.date = Date::fromDateTime(QDateTime(QDate(2024, 5, 3), QTime(0, 0)));
-    dive.heure = Date::fromDateTime(QDateTime(QDate(2024, 5, 3), QTime(23, 40)));
-    dive.lieu = QStringLiteral("Marseille");
-    dive.gpsSystem = 1;
-    dive.gps = QStringLiteral("N 43°");
-    dive.coeff = 95;
-    dive.pmBm = 2;
-    dive.meteo = 4;
-    dive.ventSecteur = 8;
-    dive.courant = 5;
-    dive.visibilite = 8;
-    dive.tempEau = 14;
-    dive.nocturne = 1;
-    dive.difficulte = 2;
-    dive.profondeur = 32.5F;
-    dive.temps = 41;
-    dive.deco_TTS = 7;
-    dive.rebreather = 1;
-    dive.alliageBloc = 2;
-    dive.volumeBloc = 12;
-    dive.pressionBloc = 232;
-    dive.pressionDepart = 200;
-    dive.pressionFin = 50;
-    dive.gaz = 2;
-    dive.o2Mix = 18;
-    dive.heMix = 45;
-    dive.combinaison = 1;
-    dive.equip_12 = QStringLiteral("Lamp");
-    dive.lestage = 4.5F;
-    dive.notes = QStringLiteral("Calm.");
-    const QString card = cardOf(dive);
-    EXPECT_EQ(card,
+    EXPECT_EQ(cardOf("date=2024-05-03|heure=2024-05-03T23:40|lieu=Marseille|gpsSystem=1|gps=N 43°|coeff=95|pmBm=2|"
+                     "meteo=4|ventSecteur=8|courant=5|visibilite=8|tempEau=14|nocturne=1|difficulte=2|profondeur=32.5|"
+                     "temps=41|deco_TTS=7|rebreather=1|alliageBloc=2|volumeBloc=12|pressionBloc=232|pressionDepart=200|"
+                     "pressionFin=50|gaz=2|o2Mix=18|heMix=45|combinaison=1|equip_12=Lamp|lestage=4.5|notes=Calm."),
               QString::fromUtf8(
                   "Dive number 12"
                   "\r\rGeneral\rDate: 03/05/2024\rPlace: Marseille\rSite: \rCountry: \rG.P.S. (WGS84) : N 43°"
@@ -78,19 +50,10 @@ TEST_F(DiveCardTest, TellsADiveFieldByField) {
 }
 
 TEST_F(DiveCardTest, NamesGasesAndStops) {
-    Plongee dive = plainDive();
-    dive.decoTime_Level_1 = 3;
-    dive.decoDepth_Level_1 = 21;
-    dive.decoO2_Level_1 = 21;
-    dive.decoTime_Level_2 = 5;
-    dive.decoDepth_Level_2 = 9.04F;
-    dive.decoO2_Level_2 = 22;
-    dive.decoTime_Level_4 = 1;
-    dive.decoO2_Level_4 = 21;
-    dive.decoHe_Level_4 = 35;
-    dive.decoTime_Level_6 = 1;
-    dive.decoO2_Level_6 = 22;
-    dive.decoHe_Level_6 = 20;
+    Plongee dive = plainDive(
+        "decoTime_Level_1=3|decoDepth_Level_1=21|decoO2_Level_1=21|decoTime_Level_2=5|decoDepth_Level_2=9.04|"
+        "decoO2_Level_2=22|decoTime_Level_4=1|decoO2_Level_4=21|decoHe_Level_4=35|decoTime_Level_6=1|"
+        "decoO2_Level_6=22|decoHe_Level_6=20");
     EXPECT_TRUE(
         cardOf(dive).contains(u"\n   - 21.0 m : 3 min. - (Air)\n   - 9.0 m : 5 min. - (Nitrox 22)"
                               "\n   - 0.0 m : 1 min. - (Trimix 21/35)\n   - 0.0 m : 1 min. - (Triox 22/20)\r"));
@@ -113,41 +76,23 @@ TEST_F(DiveCardTest, ShowsFurtherTanksOnlyWhenTheyAreUsed) {
     for (const auto* word : {u"Second tank", u"Diluent", u"Stage bottles", u"Bail-out"}) {
         EXPECT_FALSE(cardOf(dive).contains(word));
     }
-    dive.volumeBloc_2 = 3;
-    dive.pressionDepart_2 = 200;
-    dive.gaz_2 = 1;
-    dive.o2Mix_2 = 50;
-    dive.heMix_2 = 10;
+    fill(dive, Plongee::layout(), "volumeBloc_2=3|pressionDepart_2=200|gaz_2=1|o2Mix_2=50|heMix_2=10");
     EXPECT_TRUE(cardOf(dive).contains(u"\rSecond tank: Aluminium 3 L at 0 bar\rStart pressure: 200 bar."));
     EXPECT_TRUE(cardOf(dive).contains(u"\rGas breathed: 600 litres\rGas: Nitrox 50"));
     dive.rebreather = 3;
     EXPECT_TRUE(cardOf(dive).contains(u"\rDiluent tank: Aluminium 3"));
     EXPECT_TRUE(cardOf(dive).contains(u"\reCCR rebreather\r"));
 
-    dive.volPony1 = dive.volPony3 = 7;
-    dive.pressDepartPony1 = 190;
-    dive.pressFinPony1 = 60;
-    dive.decoO2_Level_1 = 80;
-    dive.pressDepartPony3 = 200;
+    fill(dive, Plongee::layout(),
+         "volPony1=7|volPony3=7|pressDepartPony1=190|pressFinPony1=60|decoO2_Level_1=80|pressDepartPony3=200");
     EXPECT_TRUE(cardOf(dive).contains(u"\r   - Deco 1 : 80 % O₂ (190-60 bar)\r   - Deco 3 : % O₂ (200-0 bar)"));
-    dive.pressDepartBailout1 = 210;
-    dive.pressFinBailout1 = 200;
-    dive.O2Bailout1 = 16;
-    dive.HeBailout1 = 40;
+    fill(dive, Plongee::layout(), "pressDepartBailout1=210|pressFinBailout1=200|O2Bailout1=16|HeBailout1=40");
     EXPECT_TRUE(cardOf(dive).contains(u"\r\rBail-out: \r   - Bail-out 1 : 16 % O₂ - 40 % He (210-200 bar)\r\r"));
 }
 
 TEST_F(DiveCardTest, SaysNothingForCodesWithoutAWord) {
-    Plongee dive = plainDive();
-    dive.meteo = 7;
-    dive.courant = -1;
-    dive.visibilite = 7;
-    dive.typePlongee = 2;
-    dive.gaz = 9;
-    dive.gpsSystem = 5;
-    dive.combinaison = 2;
-    dive.difficulte = 2'000'000'000;
-    const QString card = cardOf(dive);
+    const QString card =
+        cardOf("meteo=7|courant=-1|visibilite=7|typePlongee=2|gaz=9|gpsSystem=5|combinaison=2|difficulte=2000000000");
     EXPECT_TRUE(card.contains(u"\rWeather: \rWind: NA\rCurrent: \rVisibility: \r"));
     EXPECT_TRUE(card.contains(u"\rDive type: \rDifficulty"));
     EXPECT_TRUE(card.contains(u"\rG.P.S. (...) : N 00° 00.000'  E 000° 00.000'\rTide coefficient: 0 (...)\r"));

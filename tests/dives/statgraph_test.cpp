@@ -3,6 +3,7 @@
 #include "dives/statistics.h"
 #include "dives/statisticsreport.h"
 #include "profile/profilesettings.h"
+#include "support/primitives.h"
 #include "support/printing.h"
 #include "support/testdesktop.h"
 
@@ -23,17 +24,6 @@ std::vector<DivePointer> dives(std::initializer_list<float> depths) {
         list.push_back(std::make_shared<const Plongee>(std::move(dive)));
     }
     return list;
-}
-
-template <class Kind>
-std::vector<Kind> all(const Drawing& drawing) {
-    std::vector<Kind> found;
-    for (const auto& primitive : drawing.primitives()) {
-        if (const auto* one = std::get_if<Kind>(&primitive)) {
-            found.push_back(*one);
-        }
-    }
-    return found;
 }
 
 TEST(StatGraph, BarsAreAsHighAsTheirShare) {

@@ -1,6 +1,7 @@
 #include "dives/statistics.h"
 
 #include "support/printing.h"
+#include "support/records.h"
 #include "support/testdesktop.h"
 
 #include <gtest/gtest.h>
@@ -17,17 +18,8 @@ Statistics statisticsOf(const Dives& dives, const PreviousTotals* previous = nul
     return Statistics(divesIn(dives), previous);
 }
 
-template <class Change>
-DivePointer dive(Change change) {
-    Plongee made;
-    made.tempEau = -50;
-    made.typePlongee = 4;
-    change(made);
-    return std::make_shared<const Plongee>(std::move(made));
-}
-
-DivePointer deep(float depth) {
-    return dive([=](Plongee& made) { made.profondeur = depth; });
+DivePointer dive(const std::string& fields) {
+    return std::make_shared<const Plongee>(filled<Plongee>(("tempEau=-50|typePlongee=4|" + fields).c_str()));
 }
 
 std::map<QString, QString> textsOf(const Statistics& statistics) {
@@ -39,8 +31,11 @@ std::map<QString, QString> textsOf(const Statistics& statistics) {
 }
 
 TEST(Statistics, CountsDepthsInBands) {
-    const Dives dives{deep(9), deep(9.9F), deep(10), deep(19), deep(20), deep(59), deep(60), deep(75), deep(-3)};
-    const Statistics statistics = statisticsOf(dives, nullptr);
+    Dives dives;
+    for (const char* depth : {"9", "9.9", "10", "19", "20", "59", "60", "75", "-3"}) {
+        dives.push_back(dive("profondeur=" + std::string(depth)));
+    }
+    const Statistics statistics = statisticsOf(dives);
     const std::array<qint64, 7> wanted{3, 2, 1, 0, 0, 1, 2};
     for (std::size_t band = 0; band < wanted.size(); ++band) {
         EXPECT_EQ(statistics.count(static_cast<StatCount>(static_cast<std::size_t>(StatCount::prof_1) + band)),
@@ -59,8 +54,7 @@ TEST(Statistics, CountsKindsByTheirCode) {
         {10, StatCount::glace},       {11, StatCount::formation}, {12, StatCount::bio},  {13, StatCount::carriere},
         {14, StatCount::recuperation}};
     for (int code = -1; code <= 15; ++code) {
-        const Statistics statistics =
-            statisticsOf(Dives{dive([=](Plongee& made) { made.typePlongee = code; })}, nullptr);
+        const Statistics statistics = statisticsOf({dive("typePlongee=" + std::to_string(code))});
         for (const auto& name : statCountNames()) {
             if (name.group == StatGroup::kinds) {
                 const bool counts = kinds.contains(code) && kinds.at(code) == name.count;
@@ -69,9 +63,7 @@ TEST(Statistics, CountsKindsByTheirCode) {
         }
     }
     // Technical and night dives follow fields of their own.
-    const Statistics both = statisticsOf(Dives{dive([](Plongee& made) { made.configuration = made.nocturne = 1; }),
-                                               dive([](Plongee& made) { made.configuration = made.nocturne = 2; })},
-                                         nullptr);
+    const Statistics both = statisticsOf({dive("configuration=1|nocturne=1"), dive("configuration=2|nocturne=2")});
     EXPECT_EQ(both.count(StatCount::tek), 1);
     EXPECT_EQ(both.count(StatCount::nocturne), 1);
 }
@@ -88,11 +80,8 @@ TEST(Statistics, GasFollowsTheBreathingSystem) {
          {Case{0, 0, co, air}, Case{0, 1, co, nitrox}, Case{1, 2, scr, trimix}, Case{0, 3, co, heliox},
           Case{0, 4, co, trimix}, Case{0, 5, co, trimix}, Case{1, 6, scr, heliox}, Case{2, 2, ccr, nitrox},
           Case{3, 0, ccr, nitrox}, Case{4, 3, ccr, nitrox}}) {
-        const Statistics statistics = statisticsOf(Dives{dive([apparatus = apparatus, gas = gas](Plongee& made) {
-                                                       made.rebreather = apparatus;
-                                                       made.gaz = gas;
-                                                   })},
-                                                   nullptr);
+        const Statistics statistics =
+            statisticsOf({dive("rebreather=" + std::to_string(apparatus) + "|gaz=" + std::to_string(gas))});
         for (const auto& name : statCountNames()) {
             if (name.group == StatGroup::systems || name.group == StatGroup::gases) {
                 EXPECT_EQ(statistics.count(name.count), name.count == system || name.count == counted ? 1 : 0)
@@ -100,44 +89,38 @@ TEST(Statistics, GasFollowsTheBreathingSystem) {
             }
         }
     }
-    const Statistics unknown = statisticsOf(Dives{dive([](Plongee& made) { made.rebreather = 5; })}, nullptr);
+    const Statistics unknown = statisticsOf({dive("rebreather=5")});
     EXPECT_EQ(unknown.count(co) + unknown.count(scr) + unknown.count(ccr), 0);
     EXPECT_EQ(unknown.count(air), 1);
 }
 
 TEST(Statistics, WaterTemperaturesLeaveOutWhatWasNotGiven) {
-    const auto water = [](qint32 degrees) { return dive([=](Plongee& made) { made.tempEau = degrees; }); };
-    const Statistics statistics = statisticsOf(Dives{water(14), water(-50), water(21), water(20)}, nullptr);
+    const Statistics statistics =
+        statisticsOf({dive("tempEau=14"), dive("tempEau=-50"), dive("tempEau=21"), dive("tempEau=20")});
     EXPECT_EQ(statistics.coldest(), 14);
     EXPECT_EQ(statistics.warmest(), 21);
     EXPECT_EQ(statistics.meanTemperature(), 18);  // 55 / 3
 
-    const Statistics none = statisticsOf(Dives{water(-50)}, nullptr);
+    const Statistics none = statisticsOf({dive("tempEau=-50")});
     EXPECT_EQ(none.coldest(), 10000);
     EXPECT_EQ(none.warmest(), 0);
     EXPECT_EQ(none.meanTemperature(), 0);
     const PreviousTotals nothing;
-    EXPECT_EQ(statisticsOf(Dives{water(14)}, &nothing).coldest(), 0);
+    EXPECT_EQ(statisticsOf({dive("tempEau=14")}, &nothing).coldest(), 0);
 }
 
 TEST(Statistics, PreviousTotalsEnterEveryFigureButTheMeanTemperature) {
     TestDesktop desktop;
     Preferences& preferences = desktop.desktop().preferences;
-    preferences.set(PreviousTotals::preferencesKey(), QVariantMap{{QStringLiteral("total plongees"), 9},
-                                                                  {QStringLiteral("trimix"), 4},
-                                                                  {QStringLiteral("prof max"), 70},
-                                                                  {QStringLiteral("temps max"), 20},
-                                                                  {QStringLiteral("total profondeur"), 100},
-                                                                  {QStringLiteral("total temps"), -30},
-                                                                  {QStringLiteral("temperature min"), 8},
-                                                                  {QStringLiteral("temperature max"), 31}});
+    QVariantMap stored;
+    for (const auto& [key, value] : namedValues("total plongees=9|trimix=4|prof max=70|temps max=20|"
+                                                "total profondeur=100|total temps=-30|temperature min=8|"
+                                                "temperature max=31")) {
+        stored[QString::fromStdString(key)] = value.toInt();
+    }
+    preferences.set(PreviousTotals::preferencesKey(), stored);
     const PreviousTotals previous = PreviousTotals::read(preferences);
-    const Dives dives{dive([](Plongee& made) {
-        made.gaz = 2;
-        made.profondeur = 45;
-        made.temps = 100;
-        made.tempEau = 15;
-    })};
+    const Dives dives{dive("gaz=2|profondeur=45|temps=100|tempEau=15")};
     const Statistics with = statisticsOf(dives, &previous);
     EXPECT_EQ(with.total(), 10);
     EXPECT_EQ(with.count(StatCount::trimix), 5);
@@ -151,7 +134,7 @@ TEST(Statistics, PreviousTotalsEnterEveryFigureButTheMeanTemperature) {
     EXPECT_EQ(with.warmest(), 31);
     EXPECT_EQ(with.meanTemperature(), 15);
 
-    const Statistics without = statisticsOf(dives, nullptr);
+    const Statistics without = statisticsOf(dives);
     EXPECT_EQ(without.total(), 1);
     EXPECT_EQ(without.count(StatCount::trimix), 1);
     EXPECT_EQ(without.coldest(), 15);
@@ -162,30 +145,20 @@ TEST(Statistics, PreviousTotalsEnterEveryFigureButTheMeanTemperature) {
 }
 
 TEST(Statistics, TextsHaveTheirFormats) {
-    Dives dives(3, dive([](Plongee& made) {
-                    made.typePlongee = 6;
-                    made.profondeur = 31.5F;
-                    made.temps = 65;
-                    made.tempEau = 17;
-                }));
-    dives.push_back(deep(10));
-    const auto texts = textsOf(statisticsOf(dives, nullptr));
-    EXPECT_EQ(texts.at(QStringLiteral("statDivesField")), u"4 dives");
-    EXPECT_EQ(texts.at(QStringLiteral("statVideoField")), u"3");
-    EXPECT_EQ(texts.at(QStringLiteral("statP_VideoField")), u" 75.0 %");
-    EXPECT_EQ(texts.at(QStringLiteral("statP_Prof_4Field")), u"75.0 %");
-    EXPECT_EQ(texts.at(QStringLiteral("statP_RecupField")), u"0.0 %");
-    EXPECT_EQ(texts.at(QStringLiteral("statProfMaxField")), u"31 m");
-    EXPECT_EQ(texts.at(QStringLiteral("statProfMoyField")), u"25 m");
-    EXPECT_EQ(texts.at(QStringLiteral("statTempsField")), u"3 h 15 min.\r(195 min.)");
-    EXPECT_EQ(texts.at(QStringLiteral("statTempsMoyField")), u"48 min.");
-    EXPECT_EQ(texts.at(QStringLiteral("statTempMoyField")), u"17 °C");
-    EXPECT_EQ(textsOf(statisticsOf(Dives{dive([](Plongee& made) { made.temps = 65; })}, nullptr))
-                  .at(QStringLiteral("statTempsField")),
+    Dives dives(3, dive("typePlongee=6|profondeur=31.5|temps=65|tempEau=17"));
+    dives.push_back(dive("profondeur=10"));
+    const auto texts = textsOf(statisticsOf(dives));
+    for (const auto& [field, text] :
+         namedValues("statDivesField=4 dives|statVideoField=3|statP_VideoField= 75.0 %|statP_Prof_4Field=75.0 %|"
+                     "statP_RecupField=0.0 %|statProfMaxField=31 m|statProfMoyField=25 m|"
+                     "statTempsField=3 h 15 min.\r(195 min.)|statTempsMoyField=48 min.|statTempMoyField=17\u00a0°C")) {
+        EXPECT_EQ(texts.at(QString::fromStdString(field)), text) << field;
+    }
+    EXPECT_EQ(textsOf(statisticsOf({dive("temps=65")})).at(QStringLiteral("statTempsField")),
               u"1 h 05 min.\r(65 min.)");
     EXPECT_EQ(texts.size(), 1U + 2 * 29 + 9);
 
-    for (const auto& each : statisticsOf(dives, nullptr).texts()) {
+    for (const auto& each : statisticsOf(dives).texts()) {
         if (each.field == u"statP_VideoField") {
             EXPECT_EQ(each.explanation, u"Share = 3 / 4 × 100 = 75.0 %");
         }
@@ -193,7 +166,7 @@ TEST(Statistics, TextsHaveTheirFormats) {
 }
 
 TEST(Statistics, AnEmptyLogbookSharesNothing) {
-    const Statistics empty = statisticsOf({}, nullptr);
+    const Statistics empty = statisticsOf({});
     EXPECT_FLOAT_EQ(empty.share(StatCount::air), 0);
     EXPECT_EQ(empty.averageDepth(), 0);
     EXPECT_EQ(textsOf(empty).at(QStringLiteral("statTempMinField")), u"10000 °C");

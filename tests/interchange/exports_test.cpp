@@ -19,10 +19,10 @@ Date localDate(int year, int month, int day, int hour, int minute) {
 
 Plongee wreckDive() {
     Plongee dive;
-    setFields(dive, Plongee::layout(), R"(noPlongee=57; lieu=Étretat; site=A & <B>; pays=France; coeff=95;
-        surface=--:--; profondeur=18.75; temps=42; pressionDepart=200; pressionFin=55; volumeBloc=15; o2Mix=32; gaz=1;
-        altitude=4; tempEau=-50; tempAir=21; meteo=6; courant=5; visibilite=8; partenaires=Zoé, "Max";
-        samplingRate=6; profilProfondeur=0.25 18.75 6; PRESS_Data=0)");
+    fill(dive, Plongee::layout(), R"(noPlongee=57|lieu=Étretat|site=A & <B>|pays=France|coeff=95|
+        surface=--:--|profondeur=18.75|temps=42|pressionDepart=200|pressionFin=55|volumeBloc=15|o2Mix=32|gaz=1|
+        altitude=4|tempEau=-50|tempAir=21|meteo=6|courant=5|visibilite=8|partenaires=Zoé, "Max"|
+        samplingRate=6|profilProfondeur=0.25,18.75,6|PRESS_Data=0)");
     dive.date = localDate(2014, 7, 5, 9, 0);
     dive.heure = localDate(2001, 1, 1, 9, 5);
     dive.ASC_Flag = Series::ofIntegers({0, 1, 2});
@@ -231,7 +231,7 @@ std::string withSeparator(std::string line, const std::string& separator) {
 TEST_F(Exports, writeTheDiveListAsMacRomanText) {
     const FrenchLocale french;
     Plongee coded;
-    setFields(coded, Plongee::layout(), "meteo=7; courant=-1; visibilite=7; profondeur=12");
+    fill(coded, Plongee::layout(), "meteo=7|courant=-1|visibilite=7|profondeur=12");
     add({wreckDive(), coded});
     // The text's own comma and quotes stand as they are.
     const std::string buddies = "Zo\x8e, \"Max\"";

@@ -39,7 +39,6 @@ Plongee air(qint32 firstStop, qint32 secondStop) {
 }
 
 TEST(TableCells, nameWhatADiveHolds) {
-    setTextLanguage(QStringLiteral("en"));
     constexpr qint32 least = std::numeric_limits<qint32>::min();
     expectTexts(
         {
@@ -94,7 +93,6 @@ TEST(TableCells, nameWhatADiveHolds) {
 }
 
 TEST(TableCells, followUnitsAndLocale) {
-    setTextLanguage(QStringLiteral("en"));
     const QDateTime moment(QDate(1998, 3, 7), QTime(9, 5));
     Plongee dive{.date = Date::fromDateTime(moment), .profondeur = 18.5F, .temps = 45, .tempEau = 14};
     dive.heure = dive.date;
@@ -121,7 +119,6 @@ TEST(TableCells, followUnitsAndLocale) {
 }
 
 TEST(TableCells, showImagesWithWordsBehindThem) {
-    setTextLanguage(QStringLiteral("en"));
     const char* ratings[] = {"", "coeur", "point", "croix", "death", ""};
     for (int rating = 0; rating < 6; ++rating) {
         const Plongee dive{.inoubliable = rating};
@@ -228,7 +225,6 @@ TEST(TableCells, takeTheColoursOfTheRulesInTheirOrder) {
     style.colouredTheme = 1;
     expectStyles("site", {{"lieu", there, "-", "foreign"}, {"site", there, "red", "foreign", true}}, style);
     style.colouredTheme = 5;
-    setTextLanguage(QStringLiteral("en"));
     style.colouredText = QStringLiteral("Good");
     expectStyles("visibility",
                  {{"visibilite", {.countryCode = home.countryCode, .visibilite = 2}, "red", "-", true},

@@ -1,5 +1,6 @@
 #include "logbook/diveform.h"
 
+#include "support/records.h"
 #include "support/testdesktop.h"
 
 #include <gtest/gtest.h>
@@ -12,15 +13,13 @@ namespace {
 
 class DiveFormTest : public testing::Test {
 protected:
-    ~DiveFormTest() override { setTextLanguage(QStringLiteral("en")); }
-
     static int indexOf(const char* name) {
         const int index = DiveControls::table().find(name);
         EXPECT_GE(index, 0) << name;
         return index;
     }
     QString shown(const char* name) const { return form.state().at(indexOf(name)).text; }
-    int tag(const char* name) const { return form.state().at(indexOf(name)).tag; }
+    QString explanation(const char* name) const { return form.state().at(indexOf(name)).explanation; }
     void type(const char* name, const char* text) { form.state().type(indexOf(name), QString::fromUtf8(text)); }
     void choose(const char* name, int tag) { form.state().choose(indexOf(name), tag); }
     void store(const char* key, const char* value) {
@@ -95,74 +94,35 @@ TEST_F(DiveFormTest, replacesNumbersOutOfRange) {
 }
 
 TEST_F(DiveFormTest, clearsForANewDive) {
-    for (const auto& placed : controls.controls()) {
+    for (int index = 0; index < static_cast<int>(controls.controls().size()); ++index) {
         FormStateBase& state = form.state();
-        state.setText(indexOf(placed.name.c_str()), QStringLiteral("17"));
-        state.setTag(indexOf(placed.name.c_str()), 3);
+        state.setText(index, QStringLiteral("17"));
+        state.setTag(index, 3);
     }
     form.profile().profilProfondeur.appendReal(12);
-    store("fabricant", "Maker");
-    store("ordinateur", "Model");
-    store("serie", "A1");
-    store("country code", "FR");
-    store("low GF", "30");
-    store("high GF", "85");
-    store("tank volume", "15");
-    store("tank pressure", "232");
+    for (const auto& [key, value] : namedValues("fabricant=Maker|ordinateur=Model|serie=A1|country code=FR|low GF=30|"
+                                                "high GF=85|tank volume=15|tank pressure=232")) {
+        desktop.preferences.set(QString::fromStdString(key), value);
+    }
     form.blankFields();
 
-    const std::pair<const char*, const char*> texts[] = {
-        {"noPlongeeField", ""},
-        {"coeffField", "-"},
-        {"lieuField", ""},
-        {"countryCodeField", "FR"},
-        {"tempEauField", "-"},
-        {"tempAirField", "-"},
-        {"surfaceField", "--:--"},
-        {"profondeurField", ""},
-        {"tempsField", ""},
-        {"altitudeField", "0"},
-        {"deco_TTS_Field", "-"},
-        {"decoO2_Level_6_Field", "-"},
-        {"timeDeco_Level_1_Field", "-"},
-        {"decoHe_Level_3_Field", "0"},
-        {"depthDeco_Level_6_Field", "0"},
-        {"pony_3_VolumeField", "0"},
-        {"decoSoftNameField", "-"},
-        {"decoConservatismField", "-"},
-        {"lowGFField", "30"},
-        {"highGFField", "85"},
-        {"runtimeField", ""},
-        {"flowField", "0"},
-        {"volumeBlocField", "15"},
-        {"volumeBloc_2Field", "15"},
-        {"pressionBloc_2Field", "232"},
-        {"departField", ""},
-        {"fin_2Field", ""},
-        {"o2MixField", "21"},
-        {"heMix_2Field", "0"},
-        {"n2Mix_2Field", "79"},
-        {"fabricantField", "Maker"},
-        {"ordinateurField", "Model"},
-        {"serieField", "A1"},
-        {"equipement_12_Field", ""},
-        {"lestageField", ""},
-        {"notesField", ""},
-        {"difficulteField", "Very easy"},
-    };
-    for (const auto& [control, expected] : texts) {
-        EXPECT_EQ(shown(control), QString::fromUtf8(expected)) << control;
+    for (const auto& [control, expected] : namedValues(
+             "noPlongeeField=|coeffField=-|lieuField=|countryCodeField=FR|tempEauField=-|tempAirField=-|"
+             "surfaceField=--:--|profondeurField=|tempsField=|altitudeField=0|deco_TTS_Field=-|decoO2_Level_6_Field=-|"
+             "timeDeco_Level_1_Field=-|decoHe_Level_3_Field=0|depthDeco_Level_6_Field=0|pony_3_VolumeField=0|"
+             "decoSoftNameField=-|decoConservatismField=-|lowGFField=30|highGFField=85|runtimeField=|flowField=0|"
+             "volumeBlocField=15|volumeBloc_2Field=15|pressionBloc_2Field=232|departField=|fin_2Field=|o2MixField=21|"
+             "heMix_2Field=0|n2Mix_2Field=79|fabricantField=Maker|ordinateurField=Model|serieField=A1|"
+             "equipement_12_Field=|lestageField=|notesField=|difficulteField=Very easy")) {
+        EXPECT_EQ(shown(control.c_str()), expected) << control;
     }
     EXPECT_EQ(shown("gpsField"), text("Carnet", "GPS template"));
-    const std::pair<const char*, int> tags[] = {
-        {"pmBmPopUp", 0},          {"gpsSystemPopUp", 1},   {"meteoPopUp", 7},          {"ventSecteurPopUp", 0},
-        {"courantPopUp", 6},       {"visibilitePopUp", 7},  {"typePlongeePopUp", 8},    {"inoubliablePopUp", 0},
-        {"nocturneSwitch", 0},     {"decoPopUp", 0},        {"deco_Level_4_Switch", 0}, {"rebreatherMatrix", 0},
-        {"gazPopUp", 0},           {"ppO2PopUp", 0},        {"alliageBloc_2PopUp", 0},  {"combinaisonPopUp", 0},
-        {"configurationPopUp", 1}, {"difficulteSlider", 0},
-    };
-    for (const auto& [control, expected] : tags) {
-        EXPECT_EQ(tag(control), expected) << control;
+    for (const auto& [control, expected] : namedValues(
+             "pmBmPopUp=0|gpsSystemPopUp=1|meteoPopUp=7|ventSecteurPopUp=0|courantPopUp=6|visibilitePopUp=7|"
+             "typePlongeePopUp=8|inoubliablePopUp=0|nocturneSwitch=0|decoPopUp=0|deco_Level_4_Switch=0|"
+             "rebreatherMatrix=0|gazPopUp=0|ppO2PopUp=0|alliageBloc_2PopUp=0|combinaisonPopUp=0|configurationPopUp=1|"
+             "difficulteSlider=0")) {
+        EXPECT_EQ(form.state().at(indexOf(control.c_str())).tag, expected.toInt()) << control;
     }
     EXPECT_EQ(form.state().date(controls.dateField), Date::fromDateTime(desktop.clock.moment));
     EXPECT_EQ(form.state().date(controls.heureField).toDateTime(), QDate(2001, 1, 1).startOfDay());
@@ -177,19 +137,11 @@ TEST_F(DiveFormTest, clearsForANewDive) {
 }
 
 TEST_F(DiveFormTest, showsADiveAndGivesItBack) {
-    Plongee dive;
-    dive.noPlongee = 57;
-    dive.coeff = 0;
-    dive.tempEau = dive.tempAir = -50;
-    dive.profondeur = 38.2F;
-    dive.decoDepth_Level_2 = 7.5F;
-    dive.decoDepth_Level_4 = -3;
-    dive.decoO2_Level_2 = 50;
-    dive.decoTime_Level_2 = 4;
-    dive.typePlongee = 2;  // no item of the menu has it
-    dive.o2Mix = dive.o2Mix_2 = 21;
-    dive.notes = QStringLiteral("two\nlines");
-    dive.profilProfondeur = Series::ofReals({0, 38.2, 0});
+    // No item of the menu has the dive's kind.
+    const auto dive = filled<Plongee>(
+        "noPlongee=57|coeff=0|tempEau=-50|tempAir=-50|profondeur=38.2|decoDepth_Level_2=7.5|decoDepth_Level_4=-3|"
+        "decoO2_Level_2=50|decoTime_Level_2=4|typePlongee=2|o2Mix=21|o2Mix_2=21|notes=two\nlines|"
+        "profilProfondeur=0,38.2,0");
     store("stop interval", "5");
     form.editFields(dive);
     EXPECT_EQ(shown("coeffField"), u"-");
@@ -271,10 +223,10 @@ TEST_F(DiveFormTest, showsWhatFollowsFromTanksAndBottles) {
     type("finField", "210");
     type("depart_2Field", "180");
     EXPECT_EQ(shown("deltaPressureField"), u"-10 bar used");
-    EXPECT_EQ(held("deltaPressureField").explanation, u"Pressure used = 200 bar − 210 bar = -10 bar");
+    EXPECT_EQ(explanation("deltaPressureField"), u"Pressure used = 200 bar − 210 bar = -10 bar");
     EXPECT_EQ(shown("deltaPressure_2Field"), u"180 bar used");
     type("heMix_2Field", "30");
-    EXPECT_EQ(held("n2Mix_2Field").explanation, u"Nitrogen = 100 % − 21 % O₂ − 30 % He = 49 %");
+    EXPECT_EQ(explanation("n2Mix_2Field"), u"Nitrogen = 100 % − 21 % O₂ − 30 % He = 49 %");
 
     // A level's box is named whatever is switched on; reports and gauges take one of the levels 3 to 6.
     type("depthDeco_Level_2_Field", "6.9");
@@ -290,7 +242,7 @@ TEST_F(DiveFormTest, showsWhatFollowsFromTanksAndBottles) {
     EXPECT_FALSE(held("gaz2Progress").visible);
     choose("deco_Level_6_Switch", 1);
     EXPECT_EQ(shown("consoPony_2Field"), u"Gas available: 1435 L\rGas used: 595 L");
-    EXPECT_TRUE(held("consoPony_2Field").explanation.contains(u"7 L × (205 bar − 120 bar) = 595 L"));
+    EXPECT_TRUE(explanation("consoPony_2Field").contains(u"7 L × (205 bar − 120 bar) = 595 L"));
     EXPECT_TRUE(held("gaz2Progress").visible);
     EXPECT_EQ(std::tuple(held("gaz2Progress").tag, held("gaz2Progress").maximum, held("gaz2Progress").ticks),
               std::tuple(120, 205, 20));
@@ -310,15 +262,9 @@ TEST_F(DiveFormTest, sumsUpProfileAndOxygen) {
     EXPECT_EQ(shown("maxAverageDepthField"), u"Maximum depth 0.0 m, average 0.0 m");
     EXPECT_EQ(shown("recordedPointsField"), u"Recorded points: 0");
 
-    Plongee dive;
-    dive.o2Mix = 32;
-    dive.temps = 20;
-    dive.samplingRate = 7;
-    dive.profilProfondeur = Series::ofReals({0, 20, 25.5, 0});
-    form.editFields(dive);
+    form.editFields(filled<Plongee>("o2Mix=32|temps=20|samplingRate=7|profilProfondeur=0,20,25.5,0"));
     EXPECT_EQ(shown("maxAverageDepthField"), u"Maximum depth 25.5 m, average 11.4 m");
-    EXPECT_EQ(form.state().at(indexOf("maxAverageDepthField")).explanation,
-              u"Average depth = mean of 4 samples = 11.4 m");
+    EXPECT_EQ(explanation("maxAverageDepthField"), u"Average depth = mean of 4 samples = 11.4 m");
     EXPECT_EQ(shown("samplingRateField"), u"Sampling interval: 5 s");
     EXPECT_EQ(shown("recordedPointsField"), u"Recorded points: 4");
     // 0.32 × 3.55 bar lies in the band up to 1.14 bar, at 0.43 % a minute.
@@ -327,9 +273,8 @@ TEST_F(DiveFormTest, sumsUpProfileAndOxygen) {
     choose("deco_Level_1_Switch", 1);
     type("depthDeco_Level_1_Field", "19");
     type("decoO2_Level_1_Field", "80");
-    EXPECT_TRUE(
-        form.state().at(indexOf("sncDrawer")).explanation.contains(u"ppO₂ = stop 1: 80 % O₂ × 2 bar = 1.60 bar"))
-        << form.state().at(indexOf("sncDrawer")).explanation.toStdString();
+    EXPECT_TRUE(explanation("sncDrawer").contains(u"ppO₂ = stop 1: 80 % O₂ × 2 bar = 1.60 bar"))
+        << explanation("sncDrawer").toStdString();
 
     int asked = 0;
     QObject::connect(&form, &DiveForm::consumptionRequested, [&] { ++asked; });

@@ -90,21 +90,6 @@ TEST(ProfileSummary, ofALoneSampleIsNoProfile) {
     EXPECT_FALSE(summary.endsAtSurface);
 }
 
-TEST(ProfileEditor, showsSeriesOfSeveralElements) {
-    ProfileSeries profile;
-    profile.profilArraysDefaultContent();
-    for (const EditedSeries& edited : editedSeries) {
-        EXPECT_EQ(editorText(profile, edited), QString()) << edited.name;
-        EXPECT_EQ(countText(profile, edited), u"No data") << edited.name;
-    }
-    profile.profilProfondeur = Series::ofReals({1, 2.25, 3});
-    profile.GAZ_Flag = Series::ofReals({0, 1});
-    EXPECT_EQ(editorText(profile, *editedSeriesNamed(QStringLiteral("depth"))), u"1.0\n2.2\n3.0");
-    EXPECT_EQ(countText(profile, *editedSeriesNamed(QStringLiteral("depth"))), u"3 values");
-    EXPECT_EQ(editorText(profile, *editedSeriesNamed(QStringLiteral("gas"))), u"0\n1");
-    EXPECT_EQ(editedSeriesNamed(QStringLiteral("profilProfondeur")), nullptr);
-}
-
 TEST(ProfileEditor, replacesTheChosenSeriesOnly) {
     ProfileSeries profile;
     profile.profilProfondeur = Series::ofReals({0, 10, 0});

@@ -2,6 +2,7 @@
 
 #include "drawing/thinning.h"
 #include "profile/profiles.h"
+#include "support/primitives.h"
 
 #include <QImage>
 #include <QPainter>
@@ -13,17 +14,6 @@
 namespace tavrel {
 
 namespace {
-
-template <class Primitive>
-std::vector<Primitive> all(const Drawing& drawing) {
-    std::vector<Primitive> found;
-    for (const auto& primitive : drawing.primitives()) {
-        if (const auto* it = std::get_if<Primitive>(&primitive)) {
-            found.push_back(*it);
-        }
-    }
-    return found;
-}
 
 /// Ten thousand samples of a second with every flag set: what a picture must make legible.
 ProfileDive crowded() {

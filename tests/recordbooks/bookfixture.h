@@ -1,6 +1,5 @@
 #pragma once
 
-#include "base/texts.h"
 #include "book/booktable.h"
 #include "book/card.h"
 #include "forms/formentry.h"
@@ -14,17 +13,12 @@
 namespace tavrel {
 
 /// A record book of one type in a desktop of its own, driven by the names of its controls and fields.
-template <class Class>
+template <class Class, const BookDescription& (*describe)()>
 class BookFixture : public testing::Test {
 protected:
-    explicit BookFixture(const BookDescription& itsDescription) : description(itsDescription) {
-        setTextLanguage(QStringLiteral("en"));
-        book = description.make(desktop.desktop());
-    }
-
-    const BookDescription& description;
+    const BookDescription& description = describe();
     TestDesktop desktop;
-    std::unique_ptr<BookBase> book;
+    std::unique_ptr<BookBase> book = description.make(desktop.desktop());
 
     FormStateBase& state() { return book->form().state(); }
     int indexOf(const char* control) {
@@ -32,19 +26,16 @@ protected:
         EXPECT_GE(index, 0) << control;
         return std::max(index, 0);
     }
-    void enter(const char* control, const char* value) {
-        EXPECT_TRUE(enterValue(state(), indexOf(control), QString::fromUtf8(value))) << control << ' ' << value;
+    /// Enters "control=value|control=value".
+    void enter(const char* values) {
+        for (const auto& [control, value] : namedValues(values)) {
+            EXPECT_TRUE(enterValue(state(), indexOf(control.c_str()), value)) << control << ' ' << value.toStdString();
+        }
     }
     const ControlState& at(const char* control) { return state().at(indexOf(control)); }
     std::shared_ptr<const Class> built() { return std::static_pointer_cast<const Class>(book->form().buildRecord()); }
 
-    void hold(const std::vector<Class>& records) {
-        RecordList list;
-        for (const Class& record : records) {
-            list.push_back(std::make_shared<Class>(record));
-        }
-        book->appendRecords(QStringLiteral("Add"), list);
-    }
+    void hold(const std::vector<Class>& records) { book->appendRecords(QStringLiteral("Add"), listOf(records)); }
     Cell cell(const Class& record, const char* field) {
         book->replaceList({std::make_shared<Class>(record)});
         const BookTable table(*book);
@@ -59,16 +50,16 @@ protected:
     }
     /// The card without its title and its two closing lines, line ends as "/".
     QString card(const std::vector<Class>& records) {
-        RecordList list;
-        for (const Class& record : records) {
-            list.push_back(std::make_shared<Class>(record));
-        }
-        QString whole = description.card(list, desktop.desktop(), QStringLiteral("x")).text();
+        QString whole = description.card(listOf(records), desktop.desktop(), QStringLiteral("x")).text();
         whole.truncate(whole.indexOf(QStringLiteral("\rFile dir")));
         return whole.replace(u'\r', u'/');
     }
-    /// Opens a file that is written down in the notation of streamBytes().
-    void open(std::string_view notation) {
+    /// Opens a file of one record: the class version and the record's items, written down as for streamBytes().
+    void open(const std::string& version, const std::string& items) {
+        const std::string notation =
+            R"(04 "streamtyped" 81e803 84"@" 8484 84"NSMutableArray"00 8484"NSArray"00 8484"NSObject"00 85 84"i"01
+               92 8484 84")" +
+            std::string(description.kind.recordClass) + '"' + version + " 95 " + items + " 86 86";
         const auto opened = book->loadDataRepresentation(streamBytes(notation), book->type());
         ASSERT_TRUE(opened) << opened.error().message().toStdString();
     }

@@ -7,27 +7,18 @@ namespace tavrel {
 
 namespace {
 
-class CompresseurTest : public BookFixture<Compresseur> {
-protected:
-    CompresseurTest() : BookFixture(maintComp()) {}
-};
+using CompresseurTest = BookFixture<Compresseur, maintComp>;
 
 TEST_F(CompresseurTest, takesADashAndWhatLiesBelowMinusOneAsNotMeasured) {
     book->newRecord();
+    EXPECT_TRUE(holds(*built(), "anHuile=-1|anCO2=-1|anCO=-1|anH2O=-1"));
     for (const char* control : {"anHuileField", "anCO2Field", "anCOField", "anH2OField"}) {
-        EXPECT_EQ(built()->anHuile, -1) << control;
-        EXPECT_EQ(at(control).text, u"-");
+        EXPECT_EQ(at(control).text, u"-") << control;
     }
-    enter("anHuileField", "-5");
-    enter("anCO2Field", "-1");
-    enter("anCOField", "0");
-    enter("anH2OField", "-1.5");
+    enter("anHuileField=-5|anCO2Field=-1|anCOField=0|anH2OField=-1.5");
     const auto service = built();
-    EXPECT_EQ(service->anHuile, -1);
-    EXPECT_EQ(service->anCO2, -1);
-    EXPECT_EQ(service->anCO, 0);
-    EXPECT_EQ(service->anH2O, -1.5F);
-    enter("anHuileField", "0.45");
+    EXPECT_TRUE(holds(*service, "anHuile=-1|anCO2=-1|anCO=0|anH2O=-1.5"));
+    enter("anHuileField=0.45");
     EXPECT_EQ(built()->anHuile, 0.45F);
 
     book->form().editFields(*service);
@@ -37,25 +28,23 @@ TEST_F(CompresseurTest, takesADashAndWhatLiesBelowMinusOneAsNotMeasured) {
 
 TEST_F(CompresseurTest, offersChoicesOnlyForWhatWasDone) {
     book->newRecord();
-    const std::pair<const char*, std::vector<const char*>> rules[] = {
-        {"vidangeSwitch", {"typeHuileMatrix"}},
-        {"filtreAirSwitch", {"operationFiltreMatrix"}},
-        {"soupapesSwitch", {"intSoupapeMatrix"}},
-        {"cartoucheSwitch", {"charbonSwitch", "alumineSwitch", "tamisSwitch"}},
-    };
-    for (const auto& [control, followers] : rules) {
-        for (const char* on : {"0", "1"}) {
-            enter(control, on);
-            for (const char* follower : followers) {
-                EXPECT_EQ(at(follower).enabled, *on == '1') << follower;
-            }
-            for (const auto& [other, others] : rules) {
-                if (other != control && at(other).tag == 0) {
-                    EXPECT_FALSE(at(others.front()).enabled) << others.front() << " by " << control;
-                }
-            }
+    const auto offered = [this] {
+        QString letters;
+        for (const auto& [letter, control] :
+             {std::pair(u'h', "typeHuileMatrix"), std::pair(u'f', "operationFiltreMatrix"),
+              std::pair(u's', "intSoupapeMatrix"), std::pair(u'c', "charbonSwitch"), std::pair(u'a', "alumineSwitch"),
+              std::pair(u't', "tamisSwitch")}) {
+            letters += at(control).enabled ? QString(letter) : QString();
         }
-        enter(control, "0");
+        return letters;
+    };
+    EXPECT_EQ(offered(), u"");
+    for (const auto& [control, choices] : {std::pair("vidangeSwitch", u"h"), std::pair("filtreAirSwitch", u"f"),
+                                           std::pair("soupapesSwitch", u"s"), std::pair("cartoucheSwitch", u"cat")}) {
+        state().choose(indexOf(control), 1);
+        EXPECT_EQ(offered(), choices) << control;
+        state().choose(indexOf(control), 0);
+        EXPECT_EQ(offered(), u"") << control;
     }
 }
 
@@ -65,7 +54,7 @@ TEST_F(CompresseurTest, showsOperationsAndAnalysesInItsColumns) {
     EXPECT_EQ(cell(service, "temps").text, u"07:05");
     book->form().blankFields(0);
     EXPECT_EQ(cell(*built(), "temps").text, u"");
-    enter("tempsField", "06:40");
+    enter("tempsField=06:40");
     EXPECT_EQ(cell(*built(), "temps").text, u"06:40");
     EXPECT_EQ(cell(service, "vidange").text, u"");
     EXPECT_EQ(cell(service, "operationFiltre").text, u"Cleaning");
@@ -89,27 +78,13 @@ TEST_F(CompresseurTest, showsOperationsAndAnalysesInItsColumns) {
 }
 
 TEST_F(CompresseurTest, writesACardOfTheOperationsDoneUnderTheFirstBrand) {
-    Compresseur full;
-    full.marque = QStringLiteral("");
-    full.modele = QStringLiteral("Junior");
-    full.date = day(2024, 5, 3);
-    full.temps = Date::fromDateTime(QDateTime(QDate(2001, 1, 1), QTime(7, 5)));
-    full.cumulTemps = QStringLiteral("about 120");
-    full.vidange = full.filtreAir = full.operationFiltre = full.cartouche = full.charbon = full.alumine = full.tamis =
-        full.depoussierage = full.controles = full.soupapes = full.intSoupape = 1;
-    full.typeHuile = 3;
-    full.anHuile = 0.5F;
-    full.anCO2 = 300;
-    full.anCO2Unit = 1;
-    full.anCO = 0;
-    full.anH2O = 25;
-    full.notes = QStringLiteral("fine");
-    Compresseur other;
-    other.marque = QStringLiteral("Other");
-    other.date = day(2024, 6, 4);
+    const auto full = filled<Compresseur>(
+        "marque=|modele=Junior|date=2024-05-03|temps=2001-01-01T07:05|cumulTemps=about 120|vidange=1|filtreAir=1|"
+        "operationFiltre=1|cartouche=1|charbon=1|alumine=1|tamis=1|depoussierage=1|controles=1|soupapes=1|intSoupape=1|"
+        "typeHuile=3|anHuile=0.5|anCO2=300|anCO2Unit=1|anCO=0|anH2O=25|notes=fine");
+    auto other = filled<Compresseur>(
+        "marque=Other|date=2024-06-04|vidange=1|filtreAir=1|soupapes=1|charbon=1|anHuile=-1|anCO2=-1|anCO=-1|anH2O=-1");
     other.temps = noDate();
-    other.vidange = other.filtreAir = other.soupapes = other.charbon = 1;
-    other.anHuile = other.anCO2 = other.anCO = other.anH2O = -1;
     EXPECT_EQ(
         card({full, other}),
         QStringLiteral(

@@ -9,35 +9,22 @@ namespace tavrel {
 
 namespace {
 
-class ConsommablesTest : public BookFixture<Consommables> {
-protected:
-    ConsommablesTest() : BookFixture(invConso()) {}
+using ConsommablesTest = BookFixture<Consommables, invConso>;
 
-    static Consommables stocked(float stock, float reserve) {
-        Consommables part;
-        part.stock = stock;
-        part.reserve = reserve;
-        return part;
-    }
-};
+Consommables stocked(float stock, float reserve) {
+    Consommables part;
+    part.stock = stock;
+    part.reserve = reserve;
+    return part;
+}
 
 TEST_F(ConsommablesTest, readsVersion1WithWholeNumbers) {
-    open(R"(
-        04 "streamtyped" 81e803 84"@"
-        8484 84"NSMutableArray"00 8484"NSArray"00 8484"NSObject"00 85 84"i"01
-        92 8484 84"Consommables"01 95
+    open("01", R"(
         92 8484 84"NSString"01 95 84"+" "R1" 86 92 84 99 99 "Aqua" 86 92 84 99 99 "hose" 86
-        9603 9681c800 92 84 99 99 "box" 86 9601 92 8484 84"NSDate"00 95 84"d"04 86 92 84 99 99 "note" 86
-        86 86)");
-    EXPECT_EQ(record().reference, u"R1");
-    EXPECT_EQ(record().marque, u"Aqua");
-    EXPECT_EQ(record().utilisation, u"hose");
-    EXPECT_EQ(record().stock, 3);
-    EXPECT_EQ(record().reserve, 200);
-    EXPECT_EQ(record().rangement, u"box");
-    EXPECT_EQ(record().noInventaire, 1);
-    EXPECT_TRUE(record().dateInventaire == Date(4));
-    EXPECT_EQ(record().notes, u"note");
+        9603 9681c800 92 84 99 99 "box" 86 9601 92 8484 84"NSDate"00 95 84"d"04 86 92 84 99 99 "note" 86)");
+    EXPECT_TRUE(holds(record(),
+                      "reference=R1|marque=Aqua|utilisation=hose|stock=3|reserve=200|rangement=box|noInventaire=1|"
+                      "dateInventaire=4|notes=note"));
 }
 
 TEST_F(ConsommablesTest, coloursWhatIsBelowItsReserve) {
@@ -59,18 +46,14 @@ TEST_F(ConsommablesTest, measuresTheStockInTenthsOfTheReserve) {
     EXPECT_EQ(cell(stocked(2.5F, 0), "progress").text, u"25.000000");
     EXPECT_EQ(cell(stocked(1, 3), "progress").text, u"3.333333");
     // In single precision the product is 167772144, and a tenth of it 16777214.
-
     EXPECT_EQ(cell(stocked(16777215, 10), "progress").text, u"16777214.000000");
 }
 
 TEST_F(ConsommablesTest, marksWhatItBuildsAndHidesTheDayOfWhatIsNotCounted) {
     book->newRecord();
-    enter("stockField", "2,5");
-    enter("reserveField", "4");
+    enter("stockField=2,5|reserveField=4");
     const auto part = built();
-    EXPECT_EQ(part->stock, 2.5F);
-    EXPECT_EQ(part->reserve, 4);
-    EXPECT_EQ(part->progress, 7.4F);
+    EXPECT_TRUE(holds(*part, "stock=2.5|reserve=4|progress=7.4"));
     EXPECT_TRUE(part->dateInventaire == noDate());
 
     Consommables counted;
@@ -81,12 +64,8 @@ TEST_F(ConsommablesTest, marksWhatItBuildsAndHidesTheDayOfWhatIsNotCounted) {
 }
 
 TEST_F(ConsommablesTest, writesACardOfEachPart) {
-    Consommables part = stocked(2.5F, 4);
-    part.reference = QStringLiteral("R1");
-    part.marque = QStringLiteral("Aqua");
-    part.utilisation = QStringLiteral("hose");
-    part.rangement = QStringLiteral("box");
-    part.notes = QStringLiteral("fine");
+    const auto part =
+        filled<Consommables>("stock=2.5|reserve=4|reference=R1|marque=Aqua|utilisation=hose|rangement=box|notes=fine");
     EXPECT_EQ(card({part, {}}),
               QStringLiteral("Consumables inventory//--------------------/Reference: R1/Brand: Aqua/Use: hose"
                              "/Quantity: 2.5/Storage place: box/Remarks: fine//--------------------/Reference: /Brand: "

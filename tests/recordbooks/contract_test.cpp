@@ -23,28 +23,18 @@ namespace {
 
 class RecordBook : public testing::TestWithParam<BookCase> {
 protected:
-    RecordBook() { setTextLanguage(QStringLiteral("en")); }
-
     const BookDescription& description = GetParam().book();
     const RecordLayout& layout = description.layout();
     TestDesktop desktop;
     std::unique_ptr<BookBase> book = description.make(desktop.desktop());
     const std::vector<PlacedControl>& controls = book->form().state().table().controls();
 
-    QString shown(int control) const { return book->form().state().at(control).text; }
-    QStringList identifiers(std::span<const char* const> places) const {
+    static QString identifiers(std::span<const char* const> places) {
         QStringList list;
         for (const char* place : places) {
             list << QString::fromUtf8(place);
         }
-        return list;
-    }
-    void hold(int records) {
-        RecordList list;
-        for (int i = 0; i < records; ++i) {
-            list.push_back(layout.make());
-        }
-        book->appendRecords(QStringLiteral("Add"), list);
+        return list.join(u' ');
     }
 };
 
@@ -97,7 +87,7 @@ TEST_P(RecordBook, replacesItsListBeforeItChecksTheType) {
 }
 
 TEST_P(RecordBook, startsWithABlankForm) {
-    hold(2);
+    book->appendRecords(QStringLiteral("Add"), {layout.make(), layout.make()});
     QSignalSpy focus(&book->form().state(), &FormStateBase::focusRequested);
     book->newRecord();
     EXPECT_FALSE(book->hasEntries());
@@ -222,36 +212,25 @@ TEST_P(RecordBook, writesACardOfEveryRecord) {
             << card.text().toStdString();
         EXPECT_GE(card.text().count(QStringLiteral("\r--------------------")), GetParam().separators);
         EXPECT_FALSE(card.text().contains(u'\n'));
-        const bool labelled = std::any_of(card.runs().begin(), card.runs().end(),
-                                          [](const StyledRun& run) { return run.colour == plaincolour::black; });
-        const bool valued = std::any_of(card.runs().begin(), card.runs().end(),
-                                        [](const StyledRun& run) { return run.colour == plaincolour::blue; });
-        EXPECT_TRUE(labelled && valued);
+        for (const QColor& colour : {plaincolour::black, plaincolour::blue}) {  // of labels, of values
+            EXPECT_TRUE(std::any_of(card.runs().begin(), card.runs().end(),
+                                    [&](const StyledRun& run) { return run.colour == colour; }));
+        }
     }
 }
 
 TEST_P(RecordBook, offersItsCommandsInTwoToolbars) {
     const QStringList words = QString::fromUtf8(GetParam().commands).split(u' ');
     const QString divider = QString::fromUtf8(toolSeparator);
-    const QString last = QString::fromUtf8(toolFlexibleSpace);
-    const QString customise = QString::fromUtf8(toolCustomise);
-    const QString synthese = QStringLiteral("synthese");
-    const QStringList table{QStringLiteral("saveDocument"),
-                            QStringLiteral("imprimer"),
-                            divider,
-                            words[0],
-                            words[4],
-                            synthese,
-                            divider,
-                            customise,
-                            last};
-    const QStringList edit{words[1], words[2], words[3],  QStringLiteral("blankFields"),
-                           synthese, divider,  customise, last};
+    const QString end = QStringLiteral(" synthese %1 %2 %3")
+                            .arg(divider, QString::fromUtf8(toolCustomise), QString::fromUtf8(toolFlexibleSpace));
+    const QString table = QStringLiteral("saveDocument imprimer %1 %2 %3").arg(divider, words[0], words[4]) + end;
+    const QString edit = QStringLiteral("%1 %2 %3 blankFields").arg(words[1], words[2], words[3]) + end;
     EXPECT_EQ(identifiers(description.tableToolBar.initial), table);
     EXPECT_EQ(identifiers(description.tableToolBar.allowed), table);
     EXPECT_EQ(identifiers(description.editToolBar.initial), edit);
     EXPECT_EQ(identifiers(description.editToolBar.allowed), edit);
-    const QStringList needRecords{QStringLiteral("imprimer"), words[2], words[3], words[4], synthese};
+    const QStringList needRecords{QStringLiteral("imprimer"), words[2], words[3], words[4], QStringLiteral("synthese")};
     for (const auto& bar : {description.tableToolBar, description.editToolBar}) {
         for (const ToolItem& item : bar.items) {
             EXPECT_EQ(item.needsRecords, needRecords.contains(QString::fromUtf8(item.identifier))) << item.identifier;

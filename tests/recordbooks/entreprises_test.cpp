@@ -9,36 +9,21 @@ namespace tavrel {
 
 namespace {
 
-class EntreprisesTest : public BookFixture<Entreprises> {
+class EntreprisesTest : public BookFixture<Entreprises, adressesEts> {
 protected:
-    EntreprisesTest() : BookFixture(adressesEts()) {}
-
     /// A file of one company, whose postal code and what follows the remarks are written as its version does.
-    void openVersion(const char* version, const char* postalCode, const char* behind) {
-        std::string notation = R"(
-            04 "streamtyped" 81e803 84"@"
-            8484 84"NSMutableArray"00 8484"NSArray"00 8484"NSObject"00 85 84"i"01
-            92 8484 84"Entreprises")";
-        notation += version;
-        notation += R"( 95 92 8484 84"NSString"01 95 84"+" "Aqua" 86 92 84 99 99 "Quay 3" 86 )";
-        notation += postalCode;
-        notation += R"( 92 84 99 99 "Nice" 86 92 85 92 85 92 85 92 85 92 85 92 84 99 99 "shop" 86 92 85
-            92 84 99 99 "9:00" 86 92 84 99 99 "12:00" 86 )";
+    void openVersion(const char* version, const std::string& postalCode, const std::string& behind) {
+        std::string hours;
         for (int hour = 2; hour < 27; ++hour) {
-            notation += "92 85 ";
+            hours += "92 85 ";
         }
-        notation += R"(92 84 99 99 "late" 86 92 84 99 99 "fine" 86 )";
-        notation += behind;
-        notation += " 86 86";
-        open(notation);
-        EXPECT_EQ(record().entreprise, u"Aqua");
-        EXPECT_EQ(record().adresse, u"Quay 3");
-        EXPECT_EQ(record().ville, u"Nice");
-        EXPECT_TRUE(record().url.isNull());
-        EXPECT_EQ(record().activite, u"shop");
-        EXPECT_EQ(record().horaireLundi_2, u"12:00");
-        EXPECT_EQ(record().horaireDimanche_4, u"late");
-        EXPECT_EQ(record().remarques, u"fine");
+        open(version, R"(92 8484 84"NSString"01 95 84"+" "Aqua" 86 92 84 99 99 "Quay 3" 86 )" + postalCode +
+                          R"( 92 84 99 99 "Nice" 86 92 85 92 85 92 85 92 85 92 85 92 84 99 99 "shop" 86 92 85
+                             92 84 99 99 "9:00" 86 92 84 99 99 "12:00" 86 )" +
+                          hours + R"(92 84 99 99 "late" 86 92 84 99 99 "fine" 86 )" + behind);
+        EXPECT_TRUE(holds(record(),
+                          "entreprise=Aqua|adresse=Quay 3|ville=Nice|url=nil|activite=shop|horaireLundi_2=12:00|"
+                          "horaireDimanche_4=late|remarques=fine"));
     }
     Entreprises aged(qint64 seconds, double fraction = 0) const {
         Entreprises company;
@@ -51,15 +36,12 @@ protected:
 TEST_F(EntreprisesTest, readsEveryVersion) {
     for (const char* version : {"00", "01"}) {
         openVersion(version, "9682f9240100", "");
-        EXPECT_EQ(record().codePostal, u"75001");
-        EXPECT_EQ(record().cotation, 0);
+        EXPECT_TRUE(holds(record(), "codePostal=75001|cotation=0"));
     }
     openVersion("02", R"(92 84 99 99 "06000" 86)", "");
-    EXPECT_EQ(record().codePostal, u"06000");
-    EXPECT_EQ(record().cotation, 0);
+    EXPECT_TRUE(holds(record(), "codePostal=06000|cotation=0"));
     openVersion("03", R"(92 84 99 99 "06000" 86)", "9604");
-    EXPECT_EQ(record().codePostal, u"06000");
-    EXPECT_EQ(record().cotation, 4);
+    EXPECT_TRUE(holds(record(), "codePostal=06000|cotation=4"));
 }
 
 TEST_F(EntreprisesTest, isClosedOnSundaysAtFirst) {
@@ -103,15 +85,14 @@ TEST_F(EntreprisesTest, coloursCardsByTheirAge) {
 TEST_F(EntreprisesTest, showsRatingsAsStars) {
     const std::tuple<qint32, const char*, const char*> cases[] = {
         {0, "☆", "#000000"}, {1, "★", "#996633"}, {5, "★★★★★", "#996633"}, {7, "☆", "#996633"}, {-1, "☆", "#996633"}};
+    Entreprises company;
     for (const auto& [rating, stars, colour] : cases) {
-        Entreprises company;
         company.cotation = rating;
         EXPECT_EQ(cell(company, "cotation").text, QString::fromUtf8(stars)) << rating;
         EXPECT_EQ(this->colour(company, "cotation"), colour) << rating;
         book->form().editFields(company);
         EXPECT_EQ(built()->cotation, rating);
     }
-    Entreprises company;
     company.cotation = 4;
     EXPECT_EQ(cell(company, "cotation").words, u"4 of 5 stars");
 }
@@ -127,24 +108,10 @@ TEST_F(EntreprisesTest, offersActivitiesToTheirList) {
 }
 
 TEST_F(EntreprisesTest, writesBlocksBetweenSeparators) {
-    Entreprises company;
-    company.entreprise = QStringLiteral("Aqua");
-    company.adresse = QStringLiteral("Quay 3");
-    company.codePostal = QStringLiteral("06000");
-    company.ville = QStringLiteral("Nice");
-    company.pays = QStringLiteral("France");
-    company.telephone = QStringLiteral("1");
-    company.fax = QStringLiteral("2");
-    company.email = QStringLiteral("a@b");
-    company.url = QStringLiteral("w");
-    company.activite = QStringLiteral("shop");
-    company.horaireLundi_1 = QStringLiteral("9:00");
-    company.horaireLundi_2 = QStringLiteral("12:00");
-    company.horaireLundi_3 = QStringLiteral("14:00");
-    company.horaireLundi_4 = QStringLiteral("19:00");
-    company.horaireDimanche_1 = QStringLiteral("Closed");
-    company.remarques = QStringLiteral("fine");
-    company.miseAJour = day(2024, 5, 3);
+    const auto company = filled<Entreprises>(
+        "entreprise=Aqua|adresse=Quay 3|codePostal=06000|ville=Nice|pays=France|telephone=1|fax=2|email=a@b|url=w|"
+        "activite=shop|horaireLundi_1=9:00|horaireLundi_2=12:00|horaireLundi_3=14:00|horaireLundi_4=19:00|"
+        "horaireDimanche_1=Closed|remarques=fine|miseAJour=2024-05-03");
     const QString week = QStringLiteral(
         "/   Tuesday:  -  /  - /   Wednesday:  -  /  - /   Thursday:  -  /  - "
         "/   Friday:  -  /  - /   Saturday:  -  /  - ");

@@ -1,6 +1,5 @@
 // The filter, over books as they are.
 
-#include "base/texts.h"
 #include "book/bookfilter.h"
 #include "book/booktable.h"
 #include "forms/formentry.h"
@@ -9,6 +8,7 @@
 #include "recordbooks/materiel.h"
 #include "recordbooks/recordbooks.h"
 #include "records/nodate.h"
+#include "support/records.h"
 #include "support/testdesktop.h"
 
 #include <QSignalSpy>
@@ -19,20 +19,8 @@ namespace {
 
 class FilterTest : public testing::Test {
 protected:
-    FilterTest() {
-        setTextLanguage(QStringLiteral("en"));
-        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
-    }
+    FilterTest() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom)); }
     ~FilterTest() override { QLocale::setDefault(QLocale::c()); }
-
-    template <class Class>
-    static void hold(BookBase& book, std::initializer_list<Class> items) {
-        RecordList list;
-        for (const Class& item : items) {
-            list.push_back(std::make_shared<Class>(item));
-        }
-        book.replaceList(std::move(list));
-    }
 
     static std::vector<int> shown(BookBase& book, const char* typed) {
         book.filter().setText(QString::fromUtf8(typed));
@@ -62,15 +50,13 @@ protected:
         Materiel lamp = item("Lamp", "the 2016 model", "9,5", {2018, 12, 31}, 2);
         lamp.factureMatos = 1;
         const Materiel fins = item("Fins", "Tank room, shelf 12", "as new", {1900, 1, 1}, 30);
-        hold(*book, {tank, lamp, fins});
+        book->replaceList(listOf<Materiel>({tank, lamp, fins}));
     }
 
     std::vector<int> shown(const char* typed) { return FilterTest::shown(*book, typed); }
     std::unique_ptr<BookBase> book = invMateriel().make(desktop.desktop());
-
-    static const std::vector<int> none;
+    const std::vector<int> none;
 };
-const std::vector<int> EquipmentFilterTest::none;
 
 TEST_F(EquipmentFilterTest, findsAllWordsInAnyFieldAsTheUserSeesIt) {
     EXPECT_EQ(shown("TANK"), (std::vector{0, 2}));
@@ -124,7 +110,7 @@ TEST_F(FilterTest, comparesTimesOfDay) {
     };
     Compresseur without;
     without.temps = noDate();
-    hold(*book, {service({6, 40}), service({11, 15}), without});
+    book->replaceList(listOf<Compresseur>({service({6, 40}), service({11, 15}), without}));
     EXPECT_EQ(shown(*book, "temps>6:40"), (std::vector{1}));
     EXPECT_EQ(shown(*book, "temps<=11h15"), (std::vector{0, 1}));
     EXPECT_EQ(shown(*book, "06:40"), (std::vector{0}));

@@ -7,47 +7,23 @@ namespace tavrel {
 
 namespace {
 
-class RebreatherTest : public BookFixture<Rebreather> {
-protected:
-    RebreatherTest() : BookFixture(rebreatherServ()) {}
-};
+using RebreatherTest = BookFixture<Rebreather, rebreatherServ>;
 
 TEST_F(RebreatherTest, readsVersion1WithoutOxygenCheckAndCells) {
-    open(R"(
-        04 "streamtyped" 81e803 84"@"
-        8484 84"NSMutableArray"00 8484"NSArray"00 8484"NSObject"00 85 84"i"01
-        92 8484 84"Rebreather"01 95
+    open("01", R"(
         92 8484 84"NSDate"00 95 84"d"01 86 92 8484 84"NSString"01 95 84"+" "120 h" 86 92 84 99 99 02 86
-        9601 9602 9603 9604 9605 9606 9607 9608 9609 960a 92 84 9b 9b "note" 86
-        86 86)");
-    EXPECT_TRUE(record().date == Date(1));
-    EXPECT_EQ(record().rebreatherTime, u"120 h");
-    EXPECT_TRUE(record().sofnoTime == Date(2));
-    EXPECT_EQ(record().sofnolime, 1);
-    EXPECT_EQ(record().cells, 4);
-    EXPECT_EQ(record().nbCells, 5);
-    EXPECT_EQ(record().scrubber, 10);
-    EXPECT_EQ(record().mpO2, 0);
-    EXPECT_EQ(record().mpO2Value, 0);
-    EXPECT_EQ(record().cell1, 0);
-    EXPECT_TRUE(record().cell5_in.isNull());
-    EXPECT_EQ(record().notes, u"note");
+        9601 9602 9603 9604 9605 9606 9607 9608 9609 960a 92 84 9b 9b "note" 86)");
+    EXPECT_TRUE(holds(record(),
+                      "date=1|rebreatherTime=120 h|sofnoTime=2|sofnolime=1|cells=4|nbCells=5|scrubber=10|mpO2=0|"
+                      "mpO2Value=0|cell1=0|cell5_in=nil|notes=note"));
 }
 
 TEST_F(RebreatherTest, readsVersion2WithTheOxygenCheck) {
-    open(R"(
-        04 "streamtyped" 81e803 84"@"
-        8484 84"NSMutableArray"00 8484"NSArray"00 8484"NSObject"00 85 84"i"01
-        92 8484 84"Rebreather"02 95
+    open("02", R"(
         92 85 92 85 92 85
         9601 9600 9600 9600 9600 9600 9600 9600 9600 9601 9601 84"f"83 0000a03f
-        92 8484 84"NSString"01 95 84"+" "note" 86
-        86 86)");
-    EXPECT_EQ(record().scrubber, 1);
-    EXPECT_EQ(record().mpO2, 1);
-    EXPECT_EQ(record().mpO2Value, 1.25F);
-    EXPECT_EQ(record().cell3, 0);
-    EXPECT_EQ(record().notes, u"note");
+        92 8484 84"NSString"01 95 84"+" "note" 86)");
+    EXPECT_TRUE(holds(record(), "scrubber=1|mpO2=1|mpO2Value=1.25|cell3=0|notes=note"));
 }
 
 TEST_F(RebreatherTest, countsMonthsOfACellIn32Bits) {
@@ -65,10 +41,7 @@ TEST_F(RebreatherTest, showsTheLifeOfTheCellsThatAreFitted) {
     desktop.clock.moment = QDateTime(QDate(2024, 7, 1), QTime(15, 0));
     book->newRecord();
     EXPECT_EQ(at("cell1Progress").level, 0);
-    Rebreather first;
-    first.cell1 = 1;
-    first.cell1_in = day(2024, 1, 1);
-    first.cell2_in = day(2024, 1, 1);
+    const auto first = filled<Rebreather>("cell1=1|cell1_in=2024-01-01|cell2_in=2024-01-01");
     Rebreather second = first;
     second.cell2 = 1;
     second.cell1 = 0;
@@ -81,7 +54,7 @@ TEST_F(RebreatherTest, showsTheLifeOfTheCellsThatAreFitted) {
     EXPECT_TRUE(at("cell2_outField").date.isNull());
 
     // The end stays with the stored day until the entry is stored; the share follows the entry.
-    enter("cell1_inField", "2024-07-01");
+    enter("cell1_inField=2024-07-01");
     EXPECT_EQ(at("cell1_outField").date.toDateTime(), QDateTime(QDate(2024, 12, 31), QTime(6, 0)));
     EXPECT_LT(at("cell1Progress").level, 1);
     book->updateRecord();
@@ -96,17 +69,15 @@ TEST_F(RebreatherTest, showsTheLifeOfTheCellsThatAreFitted) {
 TEST_F(RebreatherTest, offersTheNumberOfCellsOnlyWhenTheyAreReplaced) {
     book->newRecord();
     EXPECT_FALSE(at("nbCellsPopUp").enabled);
-    enter("cellsSwitch", "1");
+    enter("cellsSwitch=1");
     EXPECT_TRUE(at("nbCellsPopUp").enabled);
 }
 
 TEST_F(RebreatherTest, ticksOperationsInGreenAndLeavesZerosOut) {
-    Rebreather none;
-    Rebreather all;
-    all.sofnolime = all.disinfection = all.battery = all.injector = all.valve = all.oRing = all.electronicHead =
-        all.scrubber = 1;
-    all.nbCells = 3;
-    all.mpO2Value = 1.25F;
+    const Rebreather none;
+    const auto all = filled<Rebreather>(
+        "sofnolime=1|disinfection=1|battery=1|injector=1|valve=1|oRing=1|electronicHead=1|scrubber=1|nbCells=3|"
+        "mpO2Value=1.25|sofnoTime=2001-01-01T03:30");
     for (const char* field :
          {"sofnolime", "disinfection", "battery", "injector", "valve", "oRing", "electronicHead", "scrubber"}) {
         EXPECT_EQ(cell(none, field).text, u"") << field;
@@ -117,7 +88,6 @@ TEST_F(RebreatherTest, ticksOperationsInGreenAndLeavesZerosOut) {
     EXPECT_EQ(cell(none, "mpO2Value").text, u"");
     EXPECT_EQ(cell(all, "nbCells").text, u"3");
     EXPECT_EQ(cell(all, "mpO2Value").text, u"1.25");
-    all.sofnoTime = Date::fromDateTime(QDateTime(QDate(2001, 1, 1), QTime(3, 30)));
     EXPECT_EQ(cell(all, "sofnoTime").text, u"03:30");
     for (const char* field : {"date", "rebreatherTime", "sofnoTime", "nbCells", "mpO2Value"}) {
         EXPECT_EQ(colour(all, field), "#000000") << field;
@@ -125,20 +95,11 @@ TEST_F(RebreatherTest, ticksOperationsInGreenAndLeavesZerosOut) {
 }
 
 TEST_F(RebreatherTest, writesACardWithTheCellsOfTheLastIntervention) {
-    Rebreather first;
-    first.date = day(2024, 5, 3);
-    first.rebreatherTime = QStringLiteral("120");
-    first.sofnoTime = Date::fromDateTime(QDateTime(QDate(2001, 1, 1), QTime(3, 30)));
-    first.sofnolime = first.disinfection = first.battery = first.cells = first.injector = first.valve = first.oRing =
-        first.electronicHead = first.scrubber = first.mpO2 = first.cell2 = 1;
-    first.mpO2Value = 1.25F;
-    first.notes = QStringLiteral("fine");
-    Rebreather last;
-    last.date = day(2024, 6, 4);
-    last.cell1 = last.cell3 = 1;
-    last.cell1_in = day(2024, 1, 2);
-    last.cell2_in = day(2024, 1, 3);
-    last.cell3_in = day(2024, 1, 4);
+    const auto first = filled<Rebreather>(
+        "date=2024-05-03|rebreatherTime=120|sofnoTime=2001-01-01T03:30|sofnolime=1|disinfection=1|battery=1|cells=1|"
+        "injector=1|valve=1|oRing=1|electronicHead=1|scrubber=1|mpO2=1|cell2=1|mpO2Value=1.25|notes=fine");
+    auto last = filled<Rebreather>(
+        "date=2024-06-04|cell1=1|cell3=1|cell1_in=2024-01-02|cell2_in=2024-01-03|cell3_in=2024-01-04");
     last.sofnoTime = noDate();
     EXPECT_EQ(card({first, last}),
               QStringLiteral(

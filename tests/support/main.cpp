@@ -1,7 +1,17 @@
+#include "base/texts.h"
+
 #include <QApplication>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+
+namespace {
+
+/// Every test begins in English, whatever the one before it chose.
+class BeginInEnglish : public testing::EmptyTestEventListener {
+    void OnTestStart(const testing::TestInfo&) override { tavrel::setTextLanguage(QStringLiteral("en")); }
+};
+
+}  // namespace
 
 // Tests never see the user's settings or locale: a fresh configuration folder, the offscreen platform, the C locale.
 int main(int argc, char** argv) {
@@ -16,5 +26,6 @@ int main(int argc, char** argv) {
     }
     QApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
+    testing::UnitTest::GetInstance()->listeners().Append(new BeginInEnglish);
     return RUN_ALL_TESTS();
 }

@@ -1,33 +1,37 @@
 #include "support/records.h"
 
 #include "base/numbers.h"
-#include "support/printing.h"
-
-#include <gtest/gtest.h>
 
 namespace tavrel {
 
 namespace {
 
-void take(const QString& text, qint32& held) {
-    held = text.toInt();
+const QString nil = QStringLiteral("nil");
+
+Date dateOf(const QString& words) {
+    bool isNumber = false;
+    const double seconds = words.toDouble(&isNumber);
+    return isNumber ? Date(seconds) : Date::fromDateTime(QDateTime::fromString(words, Qt::ISODate));
 }
-void take(const QString& text, float& held) {
-    held = text.toFloat();
-}
-void take(const QString& text, QString& held) {
-    held = text;
-}
-void take(const QString& text, Series& held) {
-    std::vector<double> numbers;
-    for (const QString& number : text.split(u' ')) {
-        numbers.push_back(number.toDouble());
+
+FieldValue valueOf(FieldKind kind, const QString& words) {
+    switch (kind) {
+        case FieldKind::integer:
+            return qint32(words.toInt());
+        case FieldKind::real:
+            return words.toFloat();
+        case FieldKind::date:
+            return words == nil ? Date() : dateOf(words);
+        case FieldKind::series: {
+            std::vector<double> numbers;
+            for (const QString& number : words.split(u',')) {
+                numbers.push_back(number.toDouble());
+            }
+            return Series::ofReals(numbers);
+        }
+        default:
+            return words == nil ? QString() : words;
     }
-    held = Series::ofReals(numbers);
-}
-template <class Other>
-void take(const QString& text, Other&) {
-    ADD_FAILURE() << text.toStdString() << ": not of a kind that is written so";
 }
 
 QString said(qint32 held) {
@@ -44,24 +48,56 @@ QString said(const Other&) {
     return QStringLiteral("not of a kind that is said so");
 }
 
+QString said(const FieldValue& value) {
+    return std::visit([](const auto& held) { return said(held); }, value);
+}
+
+Field fieldOf(const RecordLayout& layout, const std::string& name) {
+    const Field field = layout.field(std::string_view(name));
+    EXPECT_FALSE(field.isNull()) << "no field " << name;
+    return field;
+}
+
 }  // namespace
 
-void setFields(Record& record, const RecordLayout& layout, const char* fields) {
-    for (const QString& entry : QString::fromUtf8(fields).split(u';')) {
-        const Field field = layout.field(entry.section(u'=', 0, 0).trimmed().toStdString());
-        ASSERT_FALSE(field.isNull()) << entry.toStdString();
-        FieldValue value = field.value(record);
-        std::visit([&](auto& held) { take(entry.section(u'=', 1).trimmed(), held); }, value);
-        EXPECT_TRUE(field.setValue(record, value)) << entry.toStdString();
+std::vector<std::pair<std::string, QString>> namedValues(const char* values) {
+    std::vector<std::pair<std::string, QString>> pairs;
+    for (const QString& pair : QString::fromUtf8(values).split(u'|')) {
+        pairs.emplace_back(pair.section(u'=', 0, 0).trimmed().toStdString(), pair.section(u'=', 1));
     }
+    return pairs;
+}
+
+void fill(Record& record, const RecordLayout& layout, const char* values) {
+    for (const auto& [name, words] : namedValues(values)) {
+        if (const Field field = fieldOf(layout, name); !field.isNull()) {
+            EXPECT_TRUE(field.setValue(record, valueOf(field.kind(), words))) << name;
+        }
+    }
+}
+
+testing::AssertionResult holds(const Record& record, const RecordLayout& layout, const char* values) {
+    auto outcome = testing::AssertionSuccess();
+    for (const auto& [name, words] : namedValues(values)) {
+        const Field field = fieldOf(layout, name);
+        if (field.isNull()) {
+            continue;
+        }
+        const FieldValue held = field.value(record);
+        const auto* text = std::get_if<QString>(&held);
+        if (held != valueOf(field.kind(), words) || (text && text->isNull() != (words == nil))) {
+            outcome = testing::AssertionFailure() << outcome.message() << name << " is " << said(held).toStdString()
+                                                  << ", not " << words.toStdString() << '\n';
+        }
+    }
+    return outcome;
 }
 
 QString fieldsOf(const Record& record, const RecordLayout& layout, const char* names) {
     QStringList texts;
     for (const QString& name : QString::fromUtf8(names).split(u' ')) {
-        const Field field = layout.field(name.toStdString());
-        texts.append(field.isNull() ? name + QStringLiteral(" is no field")
-                                    : std::visit([](const auto& held) { return said(held); }, field.value(record)));
+        const Field field = fieldOf(layout, name.toStdString());
+        texts.append(field.isNull() ? QString() : said(field.value(record)));
     }
     return texts.join(QStringLiteral("; "));
 }

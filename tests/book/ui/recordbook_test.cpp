@@ -11,6 +11,7 @@
 #include "desktop/ui/customtoolbar.h"
 #include "forms/ui/datepicker.h"
 #include "forms/ui/starrating.h"
+#include "support/records.h"
 #include "support/testdesktop.h"
 
 #include <QApplication>
@@ -46,13 +47,9 @@ protected:
     }
 
     void hold(const QStringList& names) {
-        RecordList things;
-        for (const QString& name : names) {
-            auto thing = std::make_shared<Thing>();
-            thing->name = name;
-            things.push_back(thing);
-        }
-        book.appendRecords(QStringLiteral("Add"), things);
+        std::vector<Thing> things(static_cast<std::size_t>(names.size()));
+        std::transform(names.begin(), names.end(), things.begin(), [](const QString& name) { return Thing{{}, name}; });
+        book.appendRecords(QStringLiteral("Add"), listOf(things));
     }
     QStringList names() {
         QStringList result;
@@ -290,11 +287,11 @@ TEST_F(RecordBookTest, showsOneActionForACommandEverywhere) {
     EXPECT_FALSE(window.ownMenuActions().contains(command("imprimer")));
     EXPECT_EQ(window.viewActions().size(), 2) << "no columns to choose";
 
-    command("deleteThing")->trigger();  // nothing selected
+    QTest::keyClick(&window.table(), Qt::Key_Delete);  // nothing selected
     EXPECT_EQ(desktop.alerts.questions.size(), 0U);
     book.selectRows({0});
     desktop.alerts.answerNext(0);
-    command("deleteThing")->trigger();
+    QTest::keyClick(&window.table(), Qt::Key_Delete);
     EXPECT_EQ(book.count(), 0);
 }
 
@@ -364,9 +361,11 @@ TEST_F(RecordBookTest, showsDaysStarsBarsAndColours) {
     EXPECT_EQ(condition->text(), u"worn");
     EXPECT_GT(condition->palette().color(QPalette::WindowText).red(), 200);
     const auto* hint = window.editWindow().findChild<QLabel*>(QStringLiteral("priceFieldHint"));
-    EXPECT_TRUE(hint->text().isEmpty());
+    EXPECT_TRUE(hint->text().isEmpty() && hint->isHidden());
     type(controls.priceField, QStringLiteral("1001"));
     EXPECT_EQ(hint->text(), u"usually 0 to 1000");
+    EXPECT_FALSE(hint->isHidden());
+    EXPECT_EQ(control<QLineEdit>(controls.priceField)->accessibleDescription(), hint->text());
 }
 
 TEST(AddressOf, leadsOutOnlyWhereAnAddressDoes) {

@@ -77,19 +77,19 @@ std::set<std::string_view> lostFields(const Plongee& dive) {
 Plongee fullDive() {
     Plongee dive = unknownDive();
     setStart(dive, QDate(2019, 7, 14), QTime(9, 5, 30));
-    setFields(dive, Plongee::layout(), R"(noPlongee=57; coeff=95; pmBm=1; lieu=Saint-Raphaël;
-        site=Lion de mer <sud> & "nord"; pays=France; countryCode=FR; gps=N 43° 24.123'  E 006° 46.456';
-        partenaires=Zoé Martin, Max, Anne de la Tour; epaves=Le Donator, Le Grec; structure=Club du Port;
-        bateau=La Palme; surface=2:05; profondeur=42.7; temps=61; altitude=320; deco=1; deco_TTS=12;
-        deco_Level_1_sw=1; decoDepth_Level_1=3.5; decoTime_Level_1=14; decoO2_Level_1=100; decoDepth_Level_3=9;
-        decoTime_Level_3=2; decoO2_Level_3=50; decoHe_Level_3=10; volPony1=7; pressDepartPony1=200;
-        pressFinPony1=150; volPony3=11; pressDepartPony3=210; volBailout2=12; O2Bailout2=32; alliageBloc=2;
-        volumeBloc=15; pressionBloc=232; pressionDepart=220; pressionFin=60; gaz=2; o2Mix=18; heMix=45;
-        volumeBloc_2=12; gaz_2=1; o2Mix_2=36; highGF=85; lowGF=30; decoSoftName=GAP; runtime=42 m 20 min; meteo=1;
-        ventSecteur=3; ventForce=4; visibilite=2; courant=3; typePlongee=5; nocturne=1; tempEau=-2; tempAir=31;
-        inoubliable=2; combinaison=4; fabricant=Reef; ordinateur=Two; serie=0042; samplingRate=5; equip_1=Lamp;
-        equip_2=Reel; lestage=6.25; configuration=0; difficulte=3; PRESS_Data=220 200.5 180.12 150 120 100 80 60;
-        profilProfondeur=0 11.13 42.7 42.65 9 6.04 3 0)");
+    fill(dive, Plongee::layout(), R"(noPlongee=57|coeff=95|pmBm=1|lieu=Saint-Raphaël|
+        site=Lion de mer <sud> & "nord"|pays=France|countryCode=FR|gps=N 43° 24.123'  E 006° 46.456'|
+        partenaires=Zoé Martin, Max, Anne de la Tour|epaves=Le Donator, Le Grec|structure=Club du Port|
+        bateau=La Palme|surface=2:05|profondeur=42.7|temps=61|altitude=320|deco=1|deco_TTS=12|
+        deco_Level_1_sw=1|decoDepth_Level_1=3.5|decoTime_Level_1=14|decoO2_Level_1=100|decoDepth_Level_3=9|
+        decoTime_Level_3=2|decoO2_Level_3=50|decoHe_Level_3=10|volPony1=7|pressDepartPony1=200|
+        pressFinPony1=150|volPony3=11|pressDepartPony3=210|volBailout2=12|O2Bailout2=32|alliageBloc=2|
+        volumeBloc=15|pressionBloc=232|pressionDepart=220|pressionFin=60|gaz=2|o2Mix=18|heMix=45|
+        volumeBloc_2=12|gaz_2=1|o2Mix_2=36|highGF=85|lowGF=30|decoSoftName=GAP|runtime=42 m 20 min|meteo=1|
+        ventSecteur=3|ventForce=4|visibilite=2|courant=3|typePlongee=5|nocturne=1|tempEau=-2|tempAir=31|
+        inoubliable=2|combinaison=4|fabricant=Reef|ordinateur=Two|serie=0042|samplingRate=5|equip_1=Lamp|
+        equip_2=Reel|lestage=6.25|configuration=0|difficulte=3|PRESS_Data=220,200.5,180.12,150,120,100,80,60|
+        profilProfondeur=0,11.13,42.7,42.65,9,6.04,3,0)");
     dive.notes = QStringLiteral("First line\n\n  third line\r with < and &\n");
     dive.ASC_Flag = Series::ofIntegers({0, 0, 0, 1, 0, 0, 0, 0});
     dive.SLOW_Flag = Series::ofIntegers({0, 0, 0, 0, 1, 0, 0, 0});
@@ -108,8 +108,8 @@ TEST(UddfWriting, losesOnlyWhatUddfCannotSay) {
 
 TEST(UddfWriting, keepsARebreatherWithItsSetPoints) {
     Plongee dive = fullDive();
-    setFields(dive, Plongee::layout(), R"(rebreather=2; ppO2=2; lowSetpoint=10; gaz=1; o2Mix=100; heMix=0; gaz_2=4;
-        o2Mix_2=25; heMix_2=30; flow=7.5)");
+    fill(dive, Plongee::layout(), R"(rebreather=2|ppO2=2|lowSetpoint=10|gaz=1|o2Mix=100|heMix=0|gaz_2=4|
+        o2Mix_2=25|heMix_2=30|flow=7.5)");
     std::set<std::string_view> lost = lostFields(dive);
     EXPECT_EQ(lost.count("flow"), 1U);
     for (const char* kept : {"rebreather", "ppO2", "lowSetpoint", "gaz", "o2Mix", "gaz_2", "o2Mix_2", "heMix_2",

@@ -10,6 +10,7 @@
 #include "logbook/ui/logbookwindow.h"
 #include "logbook/ui/profilecommands.h"
 #include "profile/ui/profileview.h"
+#include "support/records.h"
 #include "support/testdesktop.h"
 
 #include <QComboBox>
@@ -29,17 +30,11 @@ namespace {
 class DiveWindowsTest : public testing::Test {
 protected:
     DiveWindowsTest() : carnet(desktop.desktop()), window(newWindow()) {
-        std::vector<Plongee> dives(3);
-        for (std::size_t place = 0; place < dives.size(); ++place) {
-            dives[place].noPlongee = static_cast<qint32>(place) + 1;
-            dives[place].profondeur = 10.0F * static_cast<float>(place + 1);
-            dives[place].lieu = place == 1 ? QStringLiteral("Reef") : QStringLiteral("Lake");
-        }
-        dives[0].notes = QStringLiteral("Two groupers");
-        dives[0].profilProfondeur = Series::ofReals({0, 10, 0});
-        dives[1].pressionDepart = 200;
-        dives[1].temps = 40;
-        carnet.appendDives(QStringLiteral("Add"), dives);
+        carnet.appendDives(
+            QStringLiteral("Add"),
+            {filled<Plongee>("noPlongee=1|profondeur=10|lieu=Lake|notes=Two groupers|profilProfondeur=0,10,0"),
+             filled<Plongee>("noPlongee=2|profondeur=20|lieu=Reef|pressionDepart=200|temps=40"),
+             filled<Plongee>("noPlongee=3|profondeur=30|lieu=Lake")});
         carnet.deselectAll();
     }
 

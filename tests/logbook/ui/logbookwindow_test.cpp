@@ -2,6 +2,7 @@
 
 #include "logbook/ui/convertunitswindow.h"
 #include "logbook/ui/renumberwindow.h"
+#include "support/records.h"
 #include "support/testdesktop.h"
 
 #include <QLabel>
@@ -15,10 +16,14 @@ namespace tavrel {
 
 namespace {
 
-TEST(LogbookWindow, renumbersFromTheNumberGiven) {
+class LogbookWindowTest : public testing::Test {
+protected:
     TestDesktop desktop;
-    Carnet carnet(desktop.desktop());
-    LogbookWindow window(carnet, desktop.desktop());
+    Carnet carnet{desktop.desktop()};
+    LogbookWindow window{carnet, desktop.desktop()};
+};
+
+TEST_F(LogbookWindowTest, renumbersFromTheNumberGiven) {
     carnet.appendDives(QStringLiteral("Add"), std::vector<Plongee>(3));
     desktop.notifications.post(Notification::renumDives);
     auto& dialog = window.renumberWindow();
@@ -39,16 +44,9 @@ TEST(LogbookWindow, renumbersFromTheNumberGiven) {
     EXPECT_EQ(carnet.count(), 3);
 }
 
-TEST(ConvertUnitsWindow, showsWhatBecomesOfTheDivesBeforeItConvertsThem) {
-    TestDesktop desktop;
-    Carnet carnet(desktop.desktop());
-    LogbookWindow window(carnet, desktop.desktop());
-    std::vector<Plongee> dives(2);
-    dives[0].noPlongee = 5;
-    dives[0].profondeur = 100;
-    dives[0].tempEau = -50;
-    dives[1].altitude = 1500;
-    carnet.appendDives(QStringLiteral("Add"), std::move(dives));
+TEST_F(LogbookWindowTest, showsWhatBecomesOfTheDivesBeforeItConvertsThem) {
+    carnet.appendDives(QStringLiteral("Add"),
+                       {filled<Plongee>("noPlongee=5|profondeur=100|tempEau=-50"), filled<Plongee>("altitude=1500")});
     desktop.preferences.set(QStringLiteral("us units"), false);
     ConvertUnitsWindow dialog(carnet, &window);
     const auto* preview = dialog.findChild<QTableWidget*>(QStringLiteral("preview"));
@@ -69,10 +67,7 @@ TEST(ConvertUnitsWindow, showsWhatBecomesOfTheDivesBeforeItConvertsThem) {
     EXPECT_FLOAT_EQ(carnet.record(0).profondeur, 328.08F);
 }
 
-TEST(LogbookWindow, keepsItsImportsInAMenuOfTheirOwn) {
-    TestDesktop desktop;
-    Carnet carnet(desktop.desktop());
-    LogbookWindow window(carnet, desktop.desktop());
+TEST_F(LogbookWindowTest, keepsItsImportsInAMenuOfTheirOwn) {
     EXPECT_TRUE(window.importActions().isEmpty());
     QStringList imports;
     window.addImport(QStringLiteral("Handheld"), [&] { imports.append(QStringLiteral("handheld")); });

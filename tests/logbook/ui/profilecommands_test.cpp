@@ -5,6 +5,7 @@
 #include "profile/ui/profileeditorwindow.h"
 #include "profile/ui/profileview.h"
 #include "profile/ui/profilewindow.h"
+#include "support/records.h"
 #include "support/testdesktop.h"
 
 #include <QCheckBox>
@@ -21,13 +22,8 @@ namespace {
 class ProfileCommandsTest : public testing::Test {
 protected:
     ProfileCommandsTest() : carnet(desktop.desktop()), window(carnet, desktop.desktop()) {
-        std::vector<Plongee> dives(2);
-        dives[0].noPlongee = 7;
-        dives[0].profilProfondeur = Series::ofReals({0, 20, 0});
-        dives[1].noPlongee = 8;
-        dives[1].profilProfondeur = Series::ofReals({0, 30, 30, 0});
-        dives[1].o2Mix = 32;
-        carnet.appendDives(QStringLiteral("Add"), dives);
+        carnet.appendDives(QStringLiteral("Add"), {filled<Plongee>("noPlongee=7|profilProfondeur=0,20,0"),
+                                                   filled<Plongee>("noPlongee=8|profilProfondeur=0,30,30,0|o2Mix=32")});
         carnet.selectRows({0});
     }
 
