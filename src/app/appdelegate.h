@@ -25,10 +25,10 @@ public:
     /// first, every time.
     QWidget* showEditor(const PickListEditorDescription& editor);
 
-    /// Asks every open logbook for its renumbering window.
     /// Tells the editors how often the open documents use an entry; before the first of them is shown.
     void countUsageWith(PickListUsage usage) { usage_ = std::move(usage); }
 
+    /// Asks every open logbook for its renumbering window.
     void sendRenumDivesNotification();
     void showAbout(QWidget* parent);
 

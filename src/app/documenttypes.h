@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/desktop.h"
+#include "desktop/ui/filedialogs.h"
 #include "documents/document.h"
 #include "documents/documentkind.h"
 #include "documents/ui/documentwindow.h"
@@ -12,9 +13,6 @@
 #include <vector>
 
 namespace tavrel {
-
-/// Whether a file is that of another open document; the user is then told.
-using FileTaken = std::function<bool(const QString& file)>;
 
 /// A type of document that the application creates and opens.
 struct DocumentType : DocumentKind {

@@ -26,7 +26,8 @@ QString userSocket() {
     return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + QStringLiteral("/tavrel.socket");
 }
 
-/// Lets programs that start at the same moment look for the one that runs one after the other.
+/// Lets programs that start at the same moment look for the one that runs one after the other. No QLockFile: that
+/// would read what else bears the name, and wait at a pipe forever.
 class StartLock {
 public:
     /// One that holds it for longer than that hangs, and is waited for no more.

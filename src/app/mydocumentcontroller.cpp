@@ -9,7 +9,7 @@
 #include "desktop/alerts.h"
 #include "desktop/preferences.h"
 #include "desktop/ui/bringtofront.h"
-#include "desktop/ui/progresswindow.h"
+#include "documents/ui/shownprogress.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -34,10 +34,8 @@ FileFilter filterOf(const DocumentType& type) {
 /// Does a document's reading or exporting with its progress shown; nothing when the user cancelled it.
 std::optional<Expected<void>> withProgress(Document& document, QWidget* window, Title title,
                                            const std::function<Expected<void>()>& doWork) {
-    ProgressWindow work(window, text(title));
-    document.setProgress(work.progress());
+    const ShownProgress work(document, window, text(title));
     const Expected<void> done = doWork();
-    document.setProgress({});
     return work.wasCancelled() ? std::nullopt : std::optional(done);
 }
 

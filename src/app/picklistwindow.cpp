@@ -1,12 +1,13 @@
 #include "app/picklistwindow.h"
 
+#include "base/languageorder.h"
 #include "base/texts.h"
 #include "desktop/alerts.h"
 #include "desktop/preferences.h"
 #include "desktop/ui/keptframe.h"
+#include "desktop/ui/windowkeys.h"
 #include "forms/picklistentry.h"
 
-#include <QCollator>
 #include <QComboBox>
 #include <QEvent>
 #include <QGridLayout>
@@ -45,21 +46,18 @@ private:
     static constexpr float usageOpacity = 0.7F;
 };
 
-/// Sorts as the language of the texts does: é beside e.
-class LanguageOrder : public QSortFilterProxyModel {
+/// Sorts as the language of the texts does.
+class SortedWords : public QSortFilterProxyModel {
 public:
-    explicit LanguageOrder(QObject* parent) : QSortFilterProxyModel(parent) {
-        collator_.setLocale(QLocale(textLanguage()));
-        sort(0);
-    }
+    explicit SortedWords(QObject* parent) : QSortFilterProxyModel(parent), order_(languageOrder()) { sort(0); }
 
 protected:
     bool lessThan(const QModelIndex& left, const QModelIndex& right) const override {
-        return collator_.compare(left.data().toString(), right.data().toString()) < 0;
+        return order_(left.data().toString(), right.data().toString());
     }
 
 private:
-    QCollator collator_;
+    QCollator order_;
 };
 
 }  // namespace
@@ -131,7 +129,7 @@ PickListEditor::PickListEditor(Desktop& desktop, const EditedList& description, 
       description_(description),
       usage_(usage),
       model_(new PickListModel(desktop.pickLists, description.list, this)),
-      sorted_(new LanguageOrder(this)),
+      sorted_(new SortedWords(this)),
       field_(new QLineEdit(this)),
       tableView_(new QListView(this)),
       totalField_(new QLabel(this)) {
@@ -262,8 +260,7 @@ PickListWindow::PickListWindow(Desktop& desktop, const PickListEditorDescription
     if (description.second) {
         layout->addWidget(new PickListEditor(desktop, *description.second, usage, this));
     }
-    new QShortcut(QKeySequence::Close, this, [this] { close(); });
-    new QShortcut(Qt::Key_Escape, this, [this] { close(); });
+    addCloseKeys(*this);
     new KeptFrame(*this, desktop.preferences, QString::fromLatin1(description.layout));
 }
 

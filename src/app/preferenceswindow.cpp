@@ -5,7 +5,7 @@
 #include "desktop/preferences.h"
 #include "desktop/ui/customtoolbar.h"
 #include "desktop/ui/keptframe.h"
-#include "desktop/ui/pagekeys.h"
+#include "desktop/ui/windowkeys.h"
 #include "logbook/logbooksettings.h"
 
 #include <QActionGroup>
@@ -14,7 +14,6 @@
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -84,12 +83,9 @@ PreferencesWindow::PreferencesWindow(Desktop& desktop)
     }
     connect(resetButton, &QPushButton::clicked, this, &PreferencesWindow::resetByUser);
     connect(closeButton, &QPushButton::clicked, this, &QWidget::close);
-    new QShortcut(QKeySequence::Close, this, [this] { close(); });
-    new QShortcut(Qt::Key_Escape, this, [this] { close(); });
-    addPageKeys(*this, [this](int step) {
-        const int pages = static_cast<int>(pages_.size());
-        goView((page_ - 1 + step + pages) % pages + 1);
-    });
+    addCloseKeys(*this);
+    addPageKeys(
+        *this, static_cast<int>(pages_.size()), [this] { return page_; }, [this](int page) { goView(page); });
     // A logbook may change its columns too.
     columnsChanged_ = desktop.notifications.subscribe(Notification::updateColumnsTableView, [this] {
         for (const Row& row : rows_) {

@@ -5,6 +5,7 @@
 #include "desktop/commonsettings.h"
 #include "desktop/preferences.h"
 #include "documents/documentsettings.h"
+#include "logbook/divecolumns.h"
 #include "logbook/logbooksettings.h"
 #include "profile/profilesettings.h"
 
@@ -38,6 +39,13 @@ constexpr Title grid("Preferences", "Grid");
 constexpr Title decompressionStops("Preferences", "Decompression stops");
 constexpr Title gradientFactors("Preferences", "Gradient factors");
 constexpr Title oxygenCells("Preferences", "Oxygen cells");
+
+/// The switch of a column of the logbook's table, which tells what it is called.
+PreferenceKey columnSwitch(const Setting<bool>& shown, const char* control, bool kept = true, Title note = {}) {
+    const auto all = diveColumns();
+    const auto column = std::find_if(all.begin(), all.end(), [&](const Column& each) { return each.shown == &shown; });
+    return {&shown, control, 3, Tell::columns, columns, column->title, none, nullptr, noChoices, kept, note};
+}
 
 const PreferenceKey keys[] = {
     {&settings::tankVolume, "volumeBlocField", 1, Tell::none, newDives, Title("Preferences", "Tank volume"),
@@ -78,24 +86,21 @@ const PreferenceKey keys[] = {
      Title("Preferences", "Color of dives abroad")},
     {&settings::countryCode, "countryCodeField", 1, Tell::tableView, newDives,
      Title("Preferences", "Home country code")},
-    {&settings::columnNumero, "numeroColumnSwitch", 3, Tell::columns, columns, Title("Carnet", "Column number")},
-    {&settings::columnDate, "dateColumnSwitch", 3, Tell::columns, columns, Title("Carnet", "Column date")},
-    {&settings::columnLieu, "lieuColumnSwitch", 3, Tell::columns, columns, Title("Carnet", "Column place")},
-    {&settings::columnSite, "siteColumnSwitch", 3, Tell::columns, columns, Title("Carnet", "Column site")},
-    {&settings::columnHeure, "heureColumnSwitch", 3, Tell::columns, columns, Title("Carnet", "Column time of day")},
-    {&settings::columnProfondeur, "profondeurColumnSwitch", 3, Tell::columns, columns, Title("Carnet", "Column depth")},
-    {&settings::columnTemps, "tempsColumnSwitch", 3, Tell::columns, columns, Title("Carnet", "Column dive time")},
-    {&settings::columnTempEau, "tempEauColumnSwitch", 3, Tell::columns, columns, Title("Carnet", "Column water")},
-    {&settings::columnDeco, "decoColumnSwitch", 3, Tell::columns, columns, Title("Carnet", "Column decompression")},
-    {&settings::columnCoeff, "coeffColumnSwitch", 3, Tell::columns, columns, Title("Carnet", "Column tide")},
-    {&settings::columnVisibilite, "visibiliteColumnSwitch", 3, Tell::columns, columns,
-     Title("Carnet", "Column visibility")},
-    {&settings::columnEpave, "epaveColumnSwitch", 3, Tell::columns, columns, Title("Carnet", "Column wreck"), none,
-     nullptr, noChoices, false, Title("Preferences", "Tip wreck column")},
-    {&settings::columnInoubliable, "inoubliableColumnSwitch", 3, Tell::columns, columns,
-     Title("Carnet", "Column rating")},
-    {&settings::columnGaz, "gazColumnSwitch", 3, Tell::columns, columns, Title("Carnet", "Column gas")},
-    {&settings::columnScaph, "scaphColumnSwitch", 3, Tell::columns, columns, Title("Carnet", "Column apparatus")},
+    columnSwitch(settings::columnNumero, "numeroColumnSwitch"),
+    columnSwitch(settings::columnDate, "dateColumnSwitch"),
+    columnSwitch(settings::columnLieu, "lieuColumnSwitch"),
+    columnSwitch(settings::columnSite, "siteColumnSwitch"),
+    columnSwitch(settings::columnHeure, "heureColumnSwitch"),
+    columnSwitch(settings::columnProfondeur, "profondeurColumnSwitch"),
+    columnSwitch(settings::columnTemps, "tempsColumnSwitch"),
+    columnSwitch(settings::columnTempEau, "tempEauColumnSwitch"),
+    columnSwitch(settings::columnDeco, "decoColumnSwitch"),
+    columnSwitch(settings::columnCoeff, "coeffColumnSwitch"),
+    columnSwitch(settings::columnVisibilite, "visibiliteColumnSwitch"),
+    columnSwitch(settings::columnEpave, "epaveColumnSwitch", false, Title("Preferences", "Tip wreck column")),
+    columnSwitch(settings::columnInoubliable, "inoubliableColumnSwitch"),
+    columnSwitch(settings::columnGaz, "gazColumnSwitch"),
+    columnSwitch(settings::columnScaph, "scaphColumnSwitch"),
     {&settings::plotColor, "plotColorWell", 4, Tell::profile, curve, Title("Preferences", "Plot color")},
     {&settings::backgroundColor, "backgroundColorWell", 4, Tell::profile, background,
      Title("Preferences", "Background color")},

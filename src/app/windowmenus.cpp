@@ -6,6 +6,7 @@
 #include "base/texts.h"
 #include "desktop/ui/bringtofront.h"
 #include "desktop/ui/icons.h"
+#include "desktop/ui/menuwords.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -16,11 +17,6 @@
 namespace tavrel {
 
 namespace {
-
-/// File names may hold the character that marks an access key.
-QString plain(QString title) {
-    return title.replace(u'&', QStringLiteral("&&"));
-}
 
 bool isAccessKey(QChar letter) {
     return letter.unicode() < 128 && letter.isLetterOrNumber();
@@ -189,7 +185,7 @@ void WindowMenus::addStep(QMenu& menu, const MenuEntry& entry) {
     QAction* action = addCommand(menu, entry);
     const auto showStep = [&menu, action, isUndo, word = text(entry.title)](const QString& step) {
         const Title key = isUndo ? Title("Main", "Undo step") : Title("Main", "Redo step");
-        action->setText(step.isEmpty() ? word : plain(textWith(key, Fallback{word}, step)));
+        action->setText(step.isEmpty() ? word : menuWords(textWith(key, Fallback{word}, step)));
         assignMnemonics(menu.actions());
     };
     connect(action, &QAction::triggered, &stack, isUndo ? &QUndoStack::undo : &QUndoStack::redo);
@@ -235,7 +231,7 @@ void WindowMenus::addActions(QMenu& menu, const QList<QAction*>& actions) {
 void WindowMenus::fillRecentDocuments(QMenu& menu) {
     menu.clear();
     for (const QString& file : context_.documents.recentDocuments().files()) {
-        QAction* action = menu.addAction(plain(QFileInfo(file).fileName()));
+        QAction* action = menu.addAction(menuWords(QFileInfo(file).fileName()));
         action->setToolTip(file);
         action->setStatusTip(file);
         connect(action, &QAction::triggered, this, [this, file] { context_.documents.openFile(file); });
@@ -253,7 +249,7 @@ void WindowMenus::fillWindows(QMenu& menu) {
     qDeleteAll(windowActions_);
     windowActions_.clear();
     for (DocumentWindow* window : context_.documents.windows()) {
-        QAction* action = menu.addAction(plain(window->document().displayName()));
+        QAction* action = menu.addAction(menuWords(window->document().displayName()));
         action->setCheckable(true);
         action->setChecked(window == &context_.window);
         connect(action, &QAction::triggered, window, [window] { bringToFront(window); });

@@ -19,7 +19,7 @@ void forEachText(const BookBase& book, Field field, Visit visit) {
         return;
     }
     for (const RecordPointer& record : book.records()) {
-        if (const QString text = std::get<QString>(field.value(*record)); !text.isEmpty()) {
+        if (const QString& text = *field.get<QString>(*record); !text.isEmpty()) {
             visit(text);
         }
     }

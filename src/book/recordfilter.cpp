@@ -174,7 +174,7 @@ std::vector<FilterField> filterFieldsOf(const BookBase& book) {
             continue;
         }
         FilterField found{field, item.key(), {}, {}};
-        addName(found, QString::fromUtf8(item.key().data(), static_cast<qsizetype>(item.key().size())));
+        addName(found, QString::fromLatin1(item.key()));
         for (const PlacedControl& placed : book.form().state().table().controls()) {
             if (placed.field == item.key()) {
                 found.title = text(placed.control.label, {});

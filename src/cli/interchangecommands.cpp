@@ -12,7 +12,6 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
-#include <map>
 #include <memory>
 #include <optional>
 #include <ostream>
@@ -37,19 +36,20 @@ struct Arguments {
     std::vector<std::string> columns;
 };
 
-/// How a file is read: by one of the prescribed formats, or found first whatever it is.
-const std::map<std::string, std::optional<ImportFormat>>& readers() {
-    static const std::map<std::string, std::optional<ImportFormat>> byName{
-        {"standard", std::nullopt},
-        {"udcf", ImportFormat::udcf},
-        {"uddf", ImportFormat::uddf},
-        {"handheld", ImportFormat::handheld},
-    };
-    return byName;
+/// The road on which any file is read by its meaning.
+constexpr const char* byMeaning = "standard";
+
+/// The roads on which a file can be read: that one, and each format's own import.
+std::vector<std::string> roads() {
+    std::vector<std::string> names{byMeaning};
+    for (const LogbookImport& each : logbookImports()) {
+        names.emplace_back(each.name);
+    }
+    return names;
 }
 
-/// What a file is read as when nobody says it: what came before version 3 of UDDF by its prescribed import.
-std::optional<ImportFormat> prescribedFor(SourceKind kind) {
+/// What a file is read as when nobody says it: what came before version 3 of UDDF by the format's own import.
+std::optional<ImportFormat> ownImportOf(SourceKind kind) {
     switch (kind) {
         case SourceKind::olderUddf:
             return ImportFormat::uddf;
@@ -73,11 +73,12 @@ struct Reading {
 
 Expected<Reading> readingOf(Carnet& carnet, const Arguments& arguments) {
     const QString path = pathArgument(arguments.other);
-    const auto chosen = readers().find(arguments.format);
-    if (chosen != readers().end() && chosen->second) {
-        return Reading{chosen->second, {}};
+    for (const LogbookImport& each : logbookImports()) {
+        if (arguments.format == each.name) {
+            return Reading{each.format, {}};
+        }
     }
-    const bool forced = chosen != readers().end();
+    const bool forced = arguments.format == byMeaning;
     return FileBytes::open(path)
         .and_then([&](const FileBytes& file) {
             return findDives(carnet, file.bytes()).map_error([&](const Failure& reason) {
@@ -88,7 +89,7 @@ Expected<Reading> readingOf(Carnet& carnet, const Arguments& arguments) {
             if (!source.columns.empty() && !holdsDay(source.columns)) {
                 return failure(textWith("Interchange", "Table without date", path));
             }
-            const auto format = forced ? std::nullopt : prescribedFor(source.kind);
+            const auto format = forced ? std::nullopt : ownImportOf(source.kind);
             return Reading{format, format ? FoundDives() : std::move(source.found)};
         });
 }
@@ -158,7 +159,7 @@ void printFound(const FoundDives& found, Console& console) {
 Expected<void> previewInto(Carnet& carnet, const Arguments& arguments, Console& console) {
     return readingOf(carnet, arguments)
         .and_then([&](Reading&& reading) {
-            return reading.format ? previewPrescribed(carnet, pathArgument(arguments.other), *reading.format)
+            return reading.format ? previewOwnImport(carnet, pathArgument(arguments.other), *reading.format)
                                   : Expected<FoundDives>(std::move(reading.found));
         })
         .map([&](const FoundDives& found) {
@@ -181,9 +182,8 @@ Expected<void> importInto(Session& session, Carnet& carnet, const Arguments& arg
     }
     const TakeChoices choices{!arguments.keepDuplicates && (arguments.skipDuplicates || !reading->format),
                               arguments.byDate, arguments.keepTexts};
-    const auto result = reading->format
-                            ? importPrescribed(carnet, pathArgument(arguments.other), *reading->format, choices)
-                            : Expected<ImportResult>(takeDives(carnet, std::move(reading->found), choices));
+    const auto result = reading->format ? runOwnImport(carnet, pathArgument(arguments.other), *reading->format, choices)
+                                        : Expected<ImportResult>(takeDives(carnet, std::move(reading->found), choices));
     if (!result) {
         return tl::unexpected(result.error());
     }
@@ -262,12 +262,8 @@ void addInterchangeCommands(CLI::App& app, Console& console) {
     addFile(importing);
     importing->add_option("SOURCE", arguments->other, "The file with the dives")->required();
     importing->add_flag("--force", arguments->force, forceHelp);
-    std::vector<std::string> roads;
-    for (const auto& [name, format] : readers()) {
-        roads.push_back(name);
-    }
     importing->add_option("--format", arguments->format, "How SOURCE is read; told by its contents when not given")
-        ->check(CLI::IsMember(roads));
+        ->check(CLI::IsMember(roads()));
     CLI::Option* dryRun =
         importing->add_flag("--dry-run", arguments->dryRun, "Prints the dives that SOURCE holds and changes nothing");
     importing->add_flag("--json", arguments->json, "Prints them as JSON")->needs(dryRun);

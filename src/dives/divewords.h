@@ -21,8 +21,14 @@ consteval std::array<Title, size> byTag(const Choice (&menu)[count], int notGive
 }
 
 inline constexpr auto weather = byTag<8>(choices::weather, Weather::notGiven);
-/// The same in every language.
-inline constexpr auto windSector = byTag<9>(choices::windSector, WindSector::notGiven);
+/// The same in every language, unlike the form's.
+inline constexpr auto windSector = [] {
+    auto titles = byTag<9>(choices::windSector, WindSector::notGiven);
+    for (Title& title : titles) {
+        title = literal(title.key);
+    }
+    return titles;
+}();
 inline constexpr auto current = byTag<7>(choices::current, Current::notGiven);
 inline constexpr auto diveKind = byTag<15>(choices::diveKind);
 inline constexpr auto tankMaterial = byTag<3>(choices::tankMaterial);

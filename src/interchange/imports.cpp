@@ -6,7 +6,7 @@
 #include "interchange/standard/sourcereading.h"
 #include "interchange/standard/uddfreading.h"
 
-#include <cstring>
+#include <algorithm>
 
 namespace tavrel {
 
@@ -28,22 +28,12 @@ const DiveSource& sourceOf(ImportFormat format) {
     return udcfSource;
 }
 
-std::optional<ImportFormat> formatOf(XmlElement root) {
-    if (root.name() == "uddf") {
-        return ImportFormat::uddf;
-    }
-    if (root.name() == "PROFILE" || !root.first("REPGROUP").isNull()) {
-        return ImportFormat::udcf;
-    }
-    return root.first("repgroup").isNull() ? std::nullopt : std::optional(ImportFormat::handheld);
-}
-
 /// One import under way.
 class Import {
 public:
     Import(Carnet& carnet, const Progress& progress) : carnet_(carnet), form_(carnet.desktop()), progress_(progress) {}
 
-    Expected<ImportResult> run(QByteArrayView bytes, std::optional<ImportFormat> format) {
+    Expected<ImportResult> run(QByteArrayView bytes, ImportFormat format) {
         // Prefixes stay part of the names here; the attributes only tell the version.
         const auto tree =
             XmlTree::parse(bytes,
@@ -57,21 +47,14 @@ public:
         if (!tree) {
             return tl::unexpected(tree.error());
         }
-        if (!format) {
-            format = formatOf(tree->root());
-        }
-        if (!format) {
-            return failure(text("Carnet", "Import format unknown"),
-                           QString::fromStdString(std::string(tree->root().name())));
-        }
-        const DiveSource& source = sourceOf(*format);
+        const DiveSource& source = sourceOf(format);
         const auto dives = source.group(tree->root()).children(source.diveName);
         if (dives.count() > mostDives) {
             return failure(text("Main", "XML file beyond limits"));
         }
         takeDives(source, dives);
         result_.leftOut = static_cast<int>(source.allDives(tree->root()) - dives.count());
-        result_.readsBetter = *format == ImportFormat::uddf && kindOfRoot(tree->root()) == SourceKind::uddf;
+        result_.readsBetter = format == ImportFormat::uddf && kindOfRoot(tree->root()) == SourceKind::uddf;
         return result_;
     }
 
@@ -145,8 +128,7 @@ private:
     ImportResult result_;
 };
 
-Expected<ImportResult> importFile(Carnet& carnet, const QString& file, std::optional<ImportFormat> format,
-                                  const Progress& progress) {
+Expected<ImportResult> importFile(Carnet& carnet, const QString& file, ImportFormat format, const Progress& progress) {
     const auto bytes = FileBytes::open(file);
     if (!bytes) {
         return tl::unexpected(bytes.error());
@@ -187,7 +169,7 @@ void ImportResult::count(const FoundDive& dive) {
     twice += dive.duplicate ? 1 : 0;
 }
 
-Expected<ImportResult> importDives(Carnet& carnet, QByteArrayView bytes, std::optional<ImportFormat> format,
+Expected<ImportResult> importDives(Carnet& carnet, QByteArrayView bytes, ImportFormat format,
                                    const Progress& progress) {
     return Import(carnet, progress).run(bytes, format);
 }
@@ -204,8 +186,24 @@ Expected<ImportResult> readFromiPhoneFile(Carnet& carnet, const QString& file, c
     return importFile(carnet, file, ImportFormat::handheld, progress);
 }
 
-Expected<ImportResult> readDives(Carnet& carnet, const QString& file, const Progress& progress) {
-    return importFile(carnet, file, std::nullopt, progress);
+std::span<const LogbookImport> logbookImports() {
+    static constexpr LogbookImport imports[] = {
+        {ImportFormat::udcf, "udcf", {"Carnet", "Import UDCF"}, {"Carnet", "UDCF files"}, "udcf", readUDCF},
+        {ImportFormat::uddf, "uddf", {"Carnet", "Import UDDF"}, {"Carnet", "UDDF files"}, "uddf", readUDDF},
+        {ImportFormat::handheld,
+         "handheld",
+         {"Carnet", "Import handheld"},
+         {"Carnet", "Handheld files"},
+         nullptr,
+         readFromiPhoneFile},
+    };
+    return imports;
+}
+
+const LogbookImport& importOf(ImportFormat format) {
+    const auto imports = logbookImports();
+    return *std::find_if(imports.begin(), imports.end(),
+                         [format](const LogbookImport& each) { return each.format == format; });
 }
 
 }  // namespace tavrel

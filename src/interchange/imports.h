@@ -1,12 +1,13 @@
 #pragma once
 
 #include "base/progress.h"
+#include "base/texts.h"
 #include "interchange/standard/founddive.h"
 #include "logbook/carnet.h"
 
 #include <QByteArrayView>
 
-#include <optional>
+#include <span>
 
 namespace tavrel {
 
@@ -45,11 +46,21 @@ struct ImportResult {
 Expected<ImportResult> readUDCF(Carnet& carnet, const QString& file, const Progress& progress = {});
 Expected<ImportResult> readUDDF(Carnet& carnet, const QString& file, const Progress& progress = {});
 Expected<ImportResult> readFromiPhoneFile(Carnet& carnet, const QString& file, const Progress& progress = {});
-/// The same with the format told by the file's elements; fails when they belong to none of the formats.
-Expected<ImportResult> readDives(Carnet& carnet, const QString& file, const Progress& progress = {});
 
-/// The import from bytes, in the format given or told by the elements.
-Expected<ImportResult> importDives(Carnet& carnet, QByteArrayView bytes, std::optional<ImportFormat> format,
+/// The import from bytes.
+Expected<ImportResult> importDives(Carnet& carnet, QByteArrayView bytes, ImportFormat format,
                                    const Progress& progress = {});
+
+/// A format's own import, for a choice among them.
+struct LogbookImport {
+    ImportFormat format;
+    const char* name;       ///< "udcf"
+    Title title;            ///< of the dialog that asks for a file
+    Title files;            ///< what its files are called
+    const char* extension;  ///< of files beside txt and xml; null: none
+    Expected<ImportResult> (*read)(Carnet& carnet, const QString& file, const Progress& progress);
+};
+std::span<const LogbookImport> logbookImports();
+const LogbookImport& importOf(ImportFormat format);
 
 }  // namespace tavrel

@@ -17,8 +17,7 @@ std::vector<FieldLoss> listed(const std::map<std::string_view, int>& counts) {
     std::vector<FieldLoss> losses;
     for (const auto& item : Plongee::layout().items) {
         if (const auto count = counts.find(item.key()); count != counts.end()) {
-            losses.push_back(
-                {QString::fromLatin1(item.key().data(), static_cast<qsizetype>(item.key().size())), count->second});
+            losses.push_back({QString::fromLatin1(item.key()), count->second});
         }
     }
     return losses;

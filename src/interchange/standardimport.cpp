@@ -85,18 +85,6 @@ FoundDives foundFrom(const List& records, std::size_t first) {
     return found;
 }
 
-Expected<ImportResult> readPrescribed(Carnet& carnet, const QString& file, ImportFormat format) {
-    switch (format) {
-        case ImportFormat::uddf:
-            return readUDDF(carnet, file);
-        case ImportFormat::handheld:
-            return readFromiPhoneFile(carnet, file);
-        case ImportFormat::udcf:
-            break;
-    }
-    return readUDCF(carnet, file);
-}
-
 }  // namespace
 
 Expected<Source> findDives(const Carnet& carnet, QByteArrayView bytes, const Progress& progress) {
@@ -175,9 +163,9 @@ ImportResult takeDives(Carnet& carnet, FoundDives found, const TakeChoices& choi
     return result;
 }
 
-Expected<FoundDives> previewPrescribed(Carnet& carnet, const QString& file, ImportFormat format) {
+Expected<FoundDives> previewOwnImport(Carnet& carnet, const QString& file, ImportFormat format) {
     const List before = carnet.records();
-    return readPrescribed(carnet, file, format).map([&](const ImportResult& result) {
+    return importOf(format).read(carnet, file, {}).map([&](const ImportResult& result) {
         FoundDives found = foundFrom(carnet.records(), before.size());
         if (result.taken > 0) {
             carnet.undoStack().undo();
@@ -194,10 +182,10 @@ Expected<FoundDives> previewPrescribed(Carnet& carnet, const QString& file, Impo
     });
 }
 
-Expected<ImportResult> importPrescribed(Carnet& carnet, const QString& file, ImportFormat format,
-                                        const TakeChoices& choices) {
+Expected<ImportResult> runOwnImport(Carnet& carnet, const QString& file, ImportFormat format,
+                                    const TakeChoices& choices) {
     const List before = carnet.records();
-    auto result = readPrescribed(carnet, file, format);
+    auto result = importOf(format).read(carnet, file, {});
     const bool changes = choices.renumberByDate || (choices.skipDuplicates && result && result->twice > 0);
     if (!result || result->taken == 0 || !changes) {
         return result;

@@ -36,10 +36,10 @@ struct TakeChoices {
 /// is empty; else they are numbered on.
 ImportResult takeDives(Carnet& carnet, FoundDives found, const TakeChoices& choices);
 
-/// What an import in one of the prescribed formats would bring, as found dives, with the logbook left as it was; and
+/// What a format's own import would bring, as found dives, with the logbook left as it was; and
 /// that import itself, where dives that the logbook holds already may be left out.
-Expected<FoundDives> previewPrescribed(Carnet& carnet, const QString& file, ImportFormat format);
-Expected<ImportResult> importPrescribed(Carnet& carnet, const QString& file, ImportFormat format,
-                                        const TakeChoices& choices);
+Expected<FoundDives> previewOwnImport(Carnet& carnet, const QString& file, ImportFormat format);
+Expected<ImportResult> runOwnImport(Carnet& carnet, const QString& file, ImportFormat format,
+                                    const TakeChoices& choices);
 
 }  // namespace tavrel

@@ -7,6 +7,7 @@
 #include "desktop/preferences.h"
 #include "dives/consumption.h"
 #include "dives/divecodes.h"
+#include "dives/divelimits.h"
 #include "logbook/logbooksettings.h"
 
 namespace tavrel {
@@ -286,7 +287,7 @@ void DiveForm::correct() {
     if (fields.integer(controls_.tempsField) < 0) {
         fields.setInteger(controls_.tempsField, 0);
     }
-    if (const qint32 altitude = fields.integer(controls_.altitudeField); altitude < 0 || altitude > 4000) {
+    if (const qint32 altitude = fields.integer(controls_.altitudeField); altitude < 0 || altitude > highestAltitude) {
         fields.setInteger(controls_.altitudeField, 0);
     }
     for (const auto& time : controls_.timeDeco_Level_Field) {

@@ -1,15 +1,14 @@
 #include "logbook/unitconversion.h"
 
 #include "calculators/conversions.h"
+#include "dives/divecodes.h"
+#include "dives/divetanks.h"
 
-#include <array>
 #include <cmath>
 
 namespace tavrel {
 
 namespace {
-
-constexpr qint32 noTemperature = -50;
 
 double inUnit(const char* to, const char* from, double value) {
     const FoundUnit source = conversionUnit(QString::fromLatin1(from));
@@ -45,7 +44,7 @@ double convertedLength(double length, UnitSystem to) {
 }
 
 qint32 convertedTemperature(qint32 degrees, UnitSystem to) {
-    if (degrees == noTemperature) {
+    if (degrees == temperatureNotGiven) {
         return degrees;
     }
     const double converted =
@@ -56,10 +55,12 @@ qint32 convertedTemperature(qint32 degrees, UnitSystem to) {
 Plongee convertedDive(const Plongee& dive, UnitSystem to) {
     const double factor = lengthFactor(to);
     Plongee converted = dive;
-    for (const auto depth :
-         {&Plongee::profondeur, &Plongee::decoDepth_Level_1, &Plongee::decoDepth_Level_2, &Plongee::decoDepth_Level_3,
-          &Plongee::decoDepth_Level_4, &Plongee::decoDepth_Level_5, &Plongee::decoDepth_Level_6}) {
+    const auto convert = [&](float Plongee::*depth) {
         converted.*depth = static_cast<float>(hundredths(static_cast<double>(dive.*depth) * factor));
+    };
+    convert(&Plongee::profondeur);
+    for (const StopFields& stop : stopFields) {
+        convert(stop.depth);
     }
     converted.altitude = static_cast<qint32>(std::lround(dive.altitude * factor));
     converted.tempEau = convertedTemperature(dive.tempEau, to);

@@ -1,5 +1,6 @@
 #include "dives/divecard.h"
 
+#include "base/texts.h"
 #include "desktop/commonsettings.h"
 #include "support/printing.h"
 #include "support/records.h"
@@ -47,6 +48,15 @@ TEST_F(DiveCardTest, TellsADiveFieldByField) {
                   "\rGas breathed: 1800 litres\rGas: Trimix 18/45\rFlow: 0 L/min."
                   "\r\rEquipment\rConfiguration: Recreational\r   - Drysuit\r   - Lamp\rWeight: 4.5 kg"
                   "\r\rNotes\rCalm."));
+}
+
+TEST_F(DiveCardTest, WritesWindSectorsAsTheyStandInEveryLanguage) {
+    Plongee dive = plainDive();
+    dive.ventSecteur = 6;
+    setTextLanguage(QStringLiteral("fr"));
+    const QString card = cardOf(dive);
+    setTextLanguage(QStringLiteral("en"));
+    EXPECT_TRUE(card.contains(u"S-W\r")) << card;
 }
 
 TEST_F(DiveCardTest, NamesGasesAndStops) {

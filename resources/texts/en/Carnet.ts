@@ -180,7 +180,6 @@
 <message><source>Hail</source><translation>Hail</translation></message>
 <message><source>Handheld files</source><translation>Handheld logbooks</translation></message>
 <message><source>Hard</source><translation>Hard</translation></message>
-<message><source>Helium percent</source><translation>Helium must lie between 0 and 86 percent.</translation></message>
 <message><source>High tide</source><translation>High tide</translation></message>
 <message><source>Hint future day</source><translation>in the future</translation></message>
 <message><source>Hint pressure rises</source><translation>above the start</translation></message>
@@ -274,7 +273,6 @@
 <message><source>Moderate</source><translation>Moderate</translation></message>
 <message><source>Movies</source><translation>Filming</translation></message>
 <message><source>N-W</source><translation>N-W</translation></message>
-<message><source>New dive not added</source><translation>The form holds a new dive that is not in the logbook yet.</translation></message>
 <message><source>Next dive</source><translation>Next dive</translation></message>
 <message><source>Night</source><translation>&#13;Night dive</translation></message>
 <message><source>Nitrox tables</source><translation>&#13;Nitrox tables, computer: </translation></message>
@@ -312,7 +310,6 @@
 <message><source>Pony 2 title</source><translation>Pony 2 : %d m - %d %% O₂</translation></message>
 <message><source>Pony 3 title</source><translation>Pony 3 : %d m - %d %% O₂</translation></message>
 <message><source>PpO2</source><translation>PpO₂ (bar)</translation></message>
-<message><source>Pressure in out</source><translation>The end pressure must not exceed the start pressure, and neither may be negative.</translation></message>
 <message><source>Previous dive</source><translation>Previous dive</translation></message>
 <message><source>Previous dives edit</source><translation>Previous dives…</translation></message>
 <message><source>Previous dives hint</source><translation>What you enter here is added to the statistics of every logbook.</translation></message>
@@ -333,7 +330,6 @@
 <message><source>Renumber first</source><translation>Number of the first dive:</translation></message>
 <message><source>Renumber title</source><translation>Renumber Dives</translation></message>
 <message><source>Renumbering</source><translation>Renumbering the dives…</translation></message>
-<message><source>Replace dive</source><translation>Replace Dive %d</translation></message>
 <message><source>S-W</source><translation>S-W</translation></message>
 <message><source>SCR rebreather</source><translation>&#13;SCR rebreather</translation></message>
 <message><source>Sampling rate</source><translation>Sampling interval: %@</translation></message>

@@ -70,7 +70,6 @@
 <message><source>Erase interventions</source><translation>Delete %d interventions?</translation></message>
 <message><source>Erase revisions</source><translation>Delete %d services?</translation></message>
 <message><source>Erase selection</source><translation>Delete the selected entries?</translation></message>
-<message><source>Export document</source><translation>Export</translation></message>
 <message><source>Export onto document</source><translation>An export cannot take the place of the document’s own file.</translation></message>
 <message><source>Exporting</source><translation>Exporting…</translation></message>
 <message><source>File changed by another</source><translation>Another program has changed the file.</translation></message>
@@ -198,7 +197,6 @@ Two programs that save the same document undo each other’s changes.</translati
 <message><source>Picture paste</source><translation>Paste</translation></message>
 <message><source>Picture remove</source><translation>Remove</translation></message>
 <message><source>Picture shown</source><translation>Picture, %d × %d pixels</translation></message>
-<message><source>Picture too large</source><translation>This is too long for one picture. A PDF file has room for it.</translation></message>
 <message><source>Picture unknown format</source><translation>The file is no picture that this program can read.</translation></message>
 <message><source>Places</source><translation>Places</translation></message>
 <message><source>Preferences not saved</source><translation>The preferences could not be saved to “%@”.</translation></message>

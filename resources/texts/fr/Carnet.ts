@@ -180,7 +180,6 @@
 <message><source>Hail</source><translation>Grêle</translation></message>
 <message><source>Handheld files</source><translation>Carnets de poche</translation></message>
 <message><source>Hard</source><translation>Difficile</translation></message>
-<message><source>Helium percent</source><translation>L’hélium doit être compris entre 0 et 86 pour cent.</translation></message>
 <message><source>High tide</source><translation>Pleine mer</translation></message>
 <message><source>Hint future day</source><translation>dans le futur</translation></message>
 <message><source>Hint pressure rises</source><translation>supérieure au départ</translation></message>
@@ -274,7 +273,6 @@
 <message><source>Moderate</source><translation>Modéré</translation></message>
 <message><source>Movies</source><translation>Vidéo</translation></message>
 <message><source>N-W</source><translation>N-O</translation></message>
-<message><source>New dive not added</source><translation>Le formulaire contient une nouvelle plongée qui n’est pas encore dans le carnet.</translation></message>
 <message><source>Next dive</source><translation>Plongée suivante</translation></message>
 <message><source>Night</source><translation>&#13;Plongée de nuit</translation></message>
 <message><source>Nitrox tables</source><translation>&#13;Tables nitrox, ordinateur : </translation></message>
@@ -312,7 +310,6 @@
 <message><source>Pony 2 title</source><translation>Pony 2 : %d m - %d %% O₂</translation></message>
 <message><source>Pony 3 title</source><translation>Pony 3 : %d m - %d %% O₂</translation></message>
 <message><source>PpO2</source><translation>PpO₂ (bar)</translation></message>
-<message><source>Pressure in out</source><translation>La pression de fin ne doit pas dépasser la pression de départ et aucune des deux ne peut être négative.</translation></message>
 <message><source>Previous dive</source><translation>Plongée précédente</translation></message>
 <message><source>Previous dives edit</source><translation>Plongées antérieures…</translation></message>
 <message><source>Previous dives hint</source><translation>Ce que vous indiquez ici s’ajoute aux statistiques de tous les carnets.</translation></message>
@@ -333,7 +330,6 @@
 <message><source>Renumber first</source><translation>Numéro de la première plongée :</translation></message>
 <message><source>Renumber title</source><translation>Renuméroter les plongées</translation></message>
 <message><source>Renumbering</source><translation>Renumérotation des plongées…</translation></message>
-<message><source>Replace dive</source><translation>Remplacer la plongée %d</translation></message>
 <message><source>S-W</source><translation>S-O</translation></message>
 <message><source>SCR rebreather</source><translation>&#13;Recycleur SCR</translation></message>
 <message><source>Sampling rate</source><translation>Intervalle d’échantillonnage : %@</translation></message>

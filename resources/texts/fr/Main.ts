@@ -70,7 +70,6 @@
 <message><source>Erase interventions</source><translation>Supprimer %d interventions ?</translation></message>
 <message><source>Erase revisions</source><translation>Supprimer %d révisions ?</translation></message>
 <message><source>Erase selection</source><translation>Supprimer les éléments sélectionnés ?</translation></message>
-<message><source>Export document</source><translation>Exporter</translation></message>
 <message><source>Export onto document</source><translation>Une exportation ne peut pas remplacer le fichier du document lui-même.</translation></message>
 <message><source>Exporting</source><translation>Exportation…</translation></message>
 <message><source>File changed by another</source><translation>Un autre programme a modifié le fichier.</translation></message>
@@ -198,7 +197,6 @@ Deux programmes qui enregistrent le même document défont chacun les modificati
 <message><source>Picture paste</source><translation>Coller</translation></message>
 <message><source>Picture remove</source><translation>Retirer</translation></message>
 <message><source>Picture shown</source><translation>Image, %d × %d pixels</translation></message>
-<message><source>Picture too large</source><translation>C’est trop long pour une seule image. Un fichier PDF peut le contenir.</translation></message>
 <message><source>Picture unknown format</source><translation>Le fichier n’est pas une image que ce programme sait lire.</translation></message>
 <message><source>Places</source><translation>Lieux</translation></message>
 <message><source>Preferences not saved</source><translation>Impossible d’enregistrer les préférences dans « %@ ».</translation></message>

@@ -5,7 +5,7 @@
 #include "book/ui/bookactions.h"
 #include "desktop/ui/bringtofront.h"
 #include "desktop/ui/customtoolbar.h"
-#include "desktop/ui/pagekeys.h"
+#include "desktop/ui/windowkeys.h"
 
 #include <QCloseEvent>
 #include <QHBoxLayout>
@@ -150,7 +150,8 @@ void BookEditWindow::addShortcuts() {
     for (int page = 1; page <= std::min(pageCount(), keyedPages); ++page) {
         bind(this, keyOfPage(page), [this, page] { goView(page); });
     }
-    addPageKeys(*this, [this](int step) { goView((page_ - 1 + step + pageCount()) % pageCount() + 1); });
+    addPageKeys(
+        *this, pageCount(), [this] { return page_; }, [this](int page) { goView(page); });
     bind(this, Qt::CTRL | Qt::Key_Return, [this] { confirm(); });
     bind(this, Qt::CTRL | Qt::Key_Enter, [this] { confirm(); });
     bind(this, Qt::Key_Escape, [this] { escape(); });

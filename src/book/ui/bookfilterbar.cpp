@@ -4,6 +4,7 @@
 #include "book/bookfilter.h"
 #include "desktop/preferences.h"
 #include "desktop/ui/icons.h"
+#include "desktop/ui/menuwords.h"
 
 #include <QAction>
 #include <QHBoxLayout>
@@ -114,7 +115,7 @@ void BookFilterBar::fillMenu() {
     menu_->clear();
     const QVariantMap kept = keptFilters();
     for (auto each = kept.begin(); each != kept.end(); ++each) {
-        QAction* action = menu_->addAction(QString(each.key()).replace(u'&', QStringLiteral("&&")));
+        QAction* action = menu_->addAction(menuWords(each.key()));
         action->setToolTip(each.value().toString());
         action->setCheckable(true);
         action->setChecked(each.value().toString() == field_->text());
@@ -130,13 +131,12 @@ void BookFilterBar::fillMenu() {
     QMenu* forgotten = menu_->addMenu(text("Main", "Remove filter"));
     forgotten->setEnabled(!kept.isEmpty());
     for (const QString& name : kept.keys()) {
-        forgotten->addAction(QString(name).replace(u'&', QStringLiteral("&&")), this, [this, name] { forget(name); });
+        forgotten->addAction(menuWords(name), this, [this, name] { forget(name); });
     }
     QMenu* fields = menu_->addMenu(text("Main", "Filter one field"));
     for (const FilterField& each : book_.filter().fields()) {
         if (each.column) {
-            fields->addAction(QString(each.title).replace(u'&', QStringLiteral("&&")), this,
-                              [this, name = typedName(each.title)] { ask(name); });
+            fields->addAction(menuWords(each.title), this, [this, name = typedName(each.title)] { ask(name); });
         }
     }
 }

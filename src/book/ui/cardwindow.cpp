@@ -6,13 +6,13 @@
 #include "desktop/ui/icons.h"
 #include "desktop/ui/keptframe.h"
 #include "desktop/ui/readablecolour.h"
+#include "desktop/ui/windowkeys.h"
 #include "documents/ui/printing.h"
 #include "drawing/pages.h"
 
 #include <QEvent>
 #include <QPrinter>
 #include <QScrollBar>
-#include <QShortcut>
 #include <QTextDocument>
 #include <QTextEdit>
 #include <QToolBar>
@@ -42,9 +42,7 @@ void CardWindow::buildCommands() {
         bar->addAction(iconNamed(QStringLiteral("imprimante")), text("Main", "Print"), this, &CardWindow::print);
     print->setObjectName(QStringLiteral("printCard"));
     print->setShortcut(QKeySequence::Print);
-    for (const auto& keys : {QKeySequence(QKeySequence::Close), QKeySequence(Qt::Key_Escape)}) {
-        connect(new QShortcut(keys, this), &QShortcut::activated, this, &QWidget::close);
-    }
+    addCloseKeys(*this);
 }
 
 void CardWindow::setCard(const QString& title, const StyledText& card) {

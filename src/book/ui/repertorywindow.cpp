@@ -5,11 +5,11 @@
 #include "desktop/ui/bringtofront.h"
 #include "desktop/ui/icons.h"
 #include "desktop/ui/keptframe.h"
+#include "desktop/ui/windowkeys.h"
 #include "forms/pictures.h"
 
 #include <QListWidget>
 #include <QPixmap>
-#include <QShortcut>
 #include <QTimer>
 
 namespace tavrel {
@@ -53,9 +53,7 @@ RepertoryWindow::RepertoryWindow(BookBase& book, QWidget* parent)
             fill();
         }
     });
-    for (const auto& keys : {QKeySequence(QKeySequence::Close), QKeySequence(Qt::Key_Escape)}) {
-        connect(new QShortcut(keys, this), &QShortcut::activated, this, &QWidget::close);
-    }
+    addCloseKeys(*this);
     resize(720, 560);
     new KeptFrame(*this, book.desktop().preferences,
                   QLatin1StringView(book.description().layoutName) + QStringLiteral(" repertory"));

@@ -152,10 +152,6 @@ void CustomToolBar::setStyle(Qt::ToolButtonStyle style) {
     remember();
 }
 
-void CustomToolBar::restoreInitial() {
-    setArrangement(initial());
-}
-
 void CustomToolBar::addSpace(bool flexible) {
     auto* space = new QWidget;
     if (flexible) {

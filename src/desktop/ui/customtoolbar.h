@@ -41,7 +41,6 @@ public:
     void setArrangement(const QStringList& identifiers);
     /// Icons, words or both; remembered with the arrangement.
     void setStyle(Qt::ToolButtonStyle style);
-    void restoreInitial();
     void rebuild();
 
     const ToolBarDescription& description() const { return description_; }

@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <functional>
 #include <optional>
 
 namespace tavrel {
@@ -20,6 +21,9 @@ struct FileToSave {
     QString file;
     int filter = 0;
 };
+
+/// Whether a file chosen to be written is that of another open document; the user is then told.
+using FileTaken = std::function<bool(const QString& file)>;
 
 /// Where the user chooses files: dialogs in the application, queued names in tests.
 class FileDialogs {

@@ -3,6 +3,7 @@
 #include "base/numbers.h"
 #include "base/texts.h"
 #include "desktop/preferences.h"
+#include "desktop/ui/bringtofront.h"
 #include "dives/statistics.h"
 #include "dives/statisticsreport.h"
 
@@ -92,9 +93,7 @@ void PreviousTotalsWindow::showEditStatisticsWindow() {
     }
     fields_.front().second->selectAll();
     fields_.front().second->setFocus();
-    show();
-    raise();
-    activateWindow();
+    bringToFront(this);
 }
 
 void PreviousTotalsWindow::validateStatisticsValues() {

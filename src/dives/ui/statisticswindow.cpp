@@ -5,6 +5,7 @@
 #include "desktop/ui/bringtofront.h"
 #include "desktop/ui/icons.h"
 #include "desktop/ui/keptframe.h"
+#include "desktop/ui/windowkeys.h"
 #include "dives/statisticsreport.h"
 #include "dives/ui/graphes.h"
 #include "dives/ui/previoustotalswindow.h"
@@ -18,7 +19,6 @@
 #include <QLabel>
 #include <QPrinter>
 #include <QScrollArea>
-#include <QShortcut>
 #include <QTabWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -70,9 +70,7 @@ void StatisticsWindow::buildToolBar() {
     connect(previousDivesNoSwitch_, &QCheckBox::toggled, this, &StatisticsWindow::refresh);
     bar->addSeparator();
     bar->addWidget(previousDivesNoSwitch_);
-    for (const auto& keys : {QKeySequence(QKeySequence::Close), QKeySequence(Qt::Key_Escape)}) {
-        connect(new QShortcut(keys, this), &QShortcut::activated, this, &QWidget::close);
-    }
+    addCloseKeys(*this);
 }
 
 QLabel* StatisticsWindow::newFigure(const QString& field, const QString& label) {

@@ -1,6 +1,7 @@
 #include "drawing/ui/drawingview.h"
 
 #include "base/texts.h"
+#include "desktop/ui/bringtofront.h"
 #include "drawing/ui/datatablewindow.h"
 
 #include <QAction>
@@ -39,7 +40,6 @@ void DrawingView::setDrawing(Drawing drawing) {
     }
     updateGeometry();
     update();
-    Q_EMIT drawingChanged();
 }
 
 void DrawingView::showData() {
@@ -47,9 +47,7 @@ void DrawingView::showData() {
         dataWindow_ = new DataTableWindow(this);
     }
     dataWindow_->setTable(drawing_.table, drawing_.title);
-    dataWindow_->show();
-    dataWindow_->raise();
-    dataWindow_->activateWindow();
+    bringToFront(dataWindow_);
 }
 
 void DrawingView::copyData() const {

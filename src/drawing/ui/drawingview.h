@@ -40,9 +40,6 @@ public:
     QSize sizeHint() const override { return drawing_.size().toSize(); }
     QSize minimumSizeHint() const override { return drawing_.size().toSize() / 3; }
 
-Q_SIGNALS:
-    void drawingChanged();
-
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

@@ -1,10 +1,9 @@
 #include "forms/ui/listcombo.h"
 
-#include "base/texts.h"
+#include "base/languageorder.h"
 #include "forms/ui/wheelguard.h"
 
 #include <QAbstractItemView>
-#include <QCollator>
 #include <QCompleter>
 #include <QEvent>
 #include <QLineEdit>
@@ -54,9 +53,7 @@ void ListCombo::focusInEvent(QFocusEvent* event) {
 void ListCombo::gatherProposals() {
     QStringList all = list_->stringList() + (held_ && lineEdit()->hasFocus() ? held_() : QStringList());
     all.removeDuplicates();
-    QCollator order;
-    order.setLocale(QLocale(textLanguage()));
-    std::stable_sort(all.begin(), all.end(), order);
+    std::stable_sort(all.begin(), all.end(), languageOrder());
     proposals_->setStringList(all);
 }
 

@@ -9,10 +9,6 @@ namespace tavrel {
 
 namespace {
 
-QString keyOf(const Item& item) {
-    return QString::fromLatin1(item.key().data(), static_cast<qsizetype>(item.key().size()));
-}
-
 /// What a value is in a cell.
 struct CellText {
     std::string_view key;
@@ -53,7 +49,7 @@ QStringList csvFields() {
     QStringList fields;
     for (const auto& item : Plongee::layout().items) {
         if (item.travel() != Travel::memoryOnly) {
-            fields.append(keyOf(item));
+            fields.append(QString::fromLatin1(item.key()));
         }
     }
     return fields;

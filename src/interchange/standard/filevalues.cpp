@@ -1,6 +1,7 @@
 #include "interchange/standard/filevalues.h"
 
 #include "base/numbers.h"
+#include "dives/divecodes.h"
 
 #include <QRegularExpression>
 
@@ -74,14 +75,21 @@ std::optional<qint32> celsius(std::optional<double> kelvin) {
     if (!kelvin || *kelvin == 0) {
         return std::nullopt;
     }
-    const double degrees = *kelvin < coldestKelvin ? *kelvin : *kelvin - zeroCelsius;
-    return degrees > -50 && degrees <= 100 ? std::optional(rounded(degrees)) : std::nullopt;
+    return thinkableCelsius(*kelvin < coldestKelvin ? *kelvin : *kelvin - zeroCelsius);
+}
+
+std::optional<qint32> thinkableCelsius(std::optional<double> degrees) {
+    return degrees && *degrees > temperatureNotGiven && *degrees <= 100 ? std::optional(rounded(*degrees))
+                                                                        : std::nullopt;
+}
+
+std::optional<qint32> ofWater(std::optional<qint32> degrees) {
+    constexpr qint32 coldestWater = -5;
+    return degrees && *degrees >= coldestWater ? degrees : std::nullopt;
 }
 
 std::optional<qint32> waterCelsius(std::optional<double> kelvin) {
-    constexpr qint32 coldestWater = -5;
-    const auto degrees = celsius(kelvin);
-    return degrees && *degrees >= coldestWater ? degrees : std::nullopt;
+    return ofWater(celsius(kelvin));
 }
 
 std::optional<double> secondsOf(XmlElement element) {

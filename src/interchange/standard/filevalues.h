@@ -28,7 +28,10 @@ qint32 rounded(double value);
 /// Kelvin to whole degrees Celsius; what is too cold for kelvin counts as degrees Celsius. Nothing for 0, which stands
 /// for none, and for what no diver meets.
 std::optional<qint32> celsius(std::optional<double> kelvin);
+/// Degrees Celsius as whole ones; nothing for what no diver meets.
+std::optional<qint32> thinkableCelsius(std::optional<double> degrees);
 /// The same for water, which no diver meets below 5 degrees of frost.
+std::optional<qint32> ofWater(std::optional<qint32> degrees);
 std::optional<qint32> waterCelsius(std::optional<double> kelvin);
 /// The seconds of a duration, also of one that is written as "52:30" (minutes and seconds) or "0:52:30".
 std::optional<double> secondsOf(XmlElement element);

@@ -27,9 +27,7 @@ const Item* itemOf(const QString& heading, const TableColumns& chosen) {
     const std::string key = plain.toStdString();
     const auto older = std::find_if(listColumns.begin(), listColumns.end(),
                                     [&](const ListColumnName& column) { return column.heading == key; });
-    return csvItem(older == listColumns.end()
-                       ? plain
-                       : QString::fromLatin1(older->field.data(), static_cast<qsizetype>(older->field.size())));
+    return csvItem(older == listColumns.end() ? plain : QString::fromLatin1(older->field));
 }
 
 /// The cells of a text, row by row.
@@ -238,8 +236,7 @@ std::optional<Table> readTable(QByteArrayView bytes, const TableColumns& chosen,
     std::vector<const Item*> items;
     for (const QString& heading : headings) {
         const Item* item = items.emplace_back(itemOf(heading, chosen));
-        const QString field =
-            item ? QString::fromLatin1(item->key().data(), static_cast<qsizetype>(item->key().size())) : QString();
+        const QString field = item ? QString::fromLatin1(item->key()) : QString();
         table.columns.push_back({heading.trimmed(), field, {}});
     }
     const bool hasDay = holdsDay(table.columns);

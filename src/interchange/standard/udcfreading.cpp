@@ -1,6 +1,7 @@
 #include "interchange/standard/udcfreading.h"
 
 #include "dives/divecodes.h"
+#include "dives/divelimits.h"
 #include "interchange/standard/filetime.h"
 #include "interchange/standard/filevalues.h"
 #include "interchange/standard/gasmix.h"
@@ -96,21 +97,17 @@ private:
     }
 
     double metres(double depth) const { return imperial_ ? depth * feet : depth; }
-    static std::optional<qint32> temperature(XmlElement element) {
-        const auto degrees = numberOf(element);
-        return degrees && *degrees > -50 && *degrees <= 100 ? std::optional(rounded(*degrees)) : std::nullopt;
-    }
+    static std::optional<qint32> temperature(XmlElement element) { return thinkableCelsius(numberOf(element)); }
 
     void readNumbers() {
         Plongee& dive = found_.dive;
         dive.noPlongee = rounded(std::clamp(numberOf(child({"DIVENUMBER"})).value_or(0), 0.0, 1e9));
         dive.profondeur = static_cast<float>(metres(std::max(0.0, numberOf(child({"MAXDEPTH"})).value_or(0))));
         dive.temps = rounded(std::clamp(numberOf(child({"DIVETIME"})).value_or(0), 0.0, 1e6));
-        dive.tempEau = temperature(child({"TEMPERATURE", "WATERTEMPERATURE"})).value_or(temperatureNotGiven);
-        dive.tempEau = dive.tempEau < -5 ? temperatureNotGiven : dive.tempEau;
+        dive.tempEau = ofWater(temperature(child({"TEMPERATURE", "WATERTEMPERATURE"}))).value_or(temperatureNotGiven);
         dive.tempAir = temperature(child({"AIRTEMPERATURE", "AIRRTEMPERATURE"})).value_or(temperatureNotGiven);
         const double altitude = metres(numberOf(child({"ALTITUDE"})).value_or(0));
-        dive.altitude = altitude > 0 && altitude <= 4000 ? rounded(altitude) : 0;
+        dive.altitude = altitude > 0 && altitude <= highestAltitude ? rounded(altitude) : 0;
         const QString interval = wordsOf(child({"SURFACEINTERVAL"}));
         if (!interval.isEmpty() && interval.compare(QLatin1String("infinity"), Qt::CaseInsensitive) != 0) {
             dive.surface = interval;

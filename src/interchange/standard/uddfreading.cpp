@@ -1,6 +1,7 @@
 #include "interchange/standard/uddfreading.h"
 
 #include "calculators/position.h"
+#include "dives/divelimits.h"
 #include "dives/divetanks.h"
 #include "interchange/standard/filetime.h"
 #include "interchange/standard/filevalues.h"
@@ -144,7 +145,7 @@ private:
         constexpr double seaLevel = 101'325;       // pascal
         constexpr double highestWeather = 95'000;  // pascal; below, it is the height that counts
         if (const auto metres = number("altitude")) {
-            return *metres > 0 && *metres <= 4000 ? rounded(*metres) : 0;
+            return *metres > 0 && *metres <= highestAltitude ? rounded(*metres) : 0;
         }
         const double pressure = number("surfacepressure").value_or(0);
         if (pressure < 60'000 || pressure >= highestWeather) {
@@ -278,7 +279,7 @@ private:
             dive.gps = positionText({*latitude, *longitude});
         }
         if (const auto metres = numberOf(geography.first("altitude"));
-            metres && dive.altitude == 0 && *metres > 0 && *metres <= 4000) {
+            metres && dive.altitude == 0 && *metres > 0 && *metres <= highestAltitude) {
             dive.altitude = rounded(*metres);
         }
         QStringList wrecks;

@@ -86,20 +86,6 @@ constexpr std::array<SuitWord, 6> suits{{
     {Suit::tropical, "Tropical suit", "dive-skin"},
 }};
 
-/// Tenths of a bar of the set points' tags.
-constexpr std::array<std::pair<qint32, int>, 10> setPoints{{
-    {10, 7},
-    {9, 8},
-    {8, 9},
-    {7, 10},
-    {6, 11},
-    {1, 12},
-    {2, 13},
-    {3, 14},
-    {4, 15},
-    {5, 16},
-}};
-
 constexpr std::array<Word, 4> apparatuses{{
     {Apparatus::manualClosed, "mCCR"},
     {Apparatus::electronicClosed, "eCCR"},
@@ -199,20 +185,15 @@ QString suitKind(qint32 tag) {
 }
 
 qint32 setPointTag(double bar) {
-    for (const auto& [tag, tenths] : setPoints) {
-        if (std::lround(bar * 10) == tenths) {
+    for (qint32 tag = 1; SetPoint::tenthsOfBar(tag) != 0; ++tag) {
+        if (std::lround(bar * 10) == SetPoint::tenthsOfBar(tag)) {
             return tag;
         }
     }
     return 0;
 }
 double setPointBar(qint32 tag) {
-    for (const auto& [its, tenths] : setPoints) {
-        if (its == tag) {
-            return tenths / 10.0;
-        }
-    }
-    return 0;
+    return SetPoint::tenthsOfBar(tag) / 10.0;
 }
 
 std::optional<qint32> apparatusOf(const QString& name) {

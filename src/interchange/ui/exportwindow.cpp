@@ -2,7 +2,7 @@
 
 #include "base/texts.h"
 #include "desktop/alerts.h"
-#include "desktop/ui/progresswindow.h"
+#include "documents/ui/shownprogress.h"
 #include "interchange/lossreport.h"
 #include "interchange/standard/csvtext.h"
 
@@ -26,29 +26,10 @@ namespace {
 
 constexpr const char* proposedFormat = "uddf-3.2";
 
-/// Lets the logbook's progress show while it lives.
-class ShownProgress {
-public:
-    ShownProgress(Carnet& carnet, QWidget* parent, const QString& work) : carnet_(carnet), window_(parent, work) {
-        carnet_.setProgress(window_.progress());
-    }
-    ~ShownProgress() { carnet_.setProgress({}); }
-    ShownProgress(const ShownProgress&) = delete;
-    ShownProgress& operator=(const ShownProgress&) = delete;
-
-    bool wasCancelled() const { return window_.wasCancelled(); }
-
-private:
-    Carnet& carnet_;
-    ProgressWindow window_;
-};
-
 RecordList selectedRecords(const Carnet& carnet) {
-    QList<int> rows = carnet.selectedRows();
-    std::sort(rows.begin(), rows.end());
     RecordList list;
-    for (const int row : rows) {
-        list.push_back(carnet.records()[static_cast<std::size_t>(row)]);
+    for (const int row : carnet.selectedRows()) {
+        list.push_back(carnet.recordAt(row));
     }
     return list;
 }

@@ -7,7 +7,6 @@
 #include <QTimer>
 
 #include <array>
-#include <functional>
 
 class QComboBox;
 class QGroupBox;
@@ -23,9 +22,6 @@ class ExportWindow : public QDialog {
     Q_OBJECT
 
 public:
-    /// Whether a file is that of another open document, which is then told.
-    using FileTaken = std::function<bool(const QString& file)>;
-
     ExportWindow(Carnet& carnet, FileDialogs& fileDialogs, FileTaken isTaken, QWidget* parent);
 
     /// Asks for the file and writes it; closes when it is written.

@@ -11,35 +11,8 @@ namespace tavrel {
 
 namespace {
 
-/// How a format is asked for and read.
-struct FormatCommand {
-    Title title;
-    Title files;
-    QStringList extensions;
-    Expected<ImportResult> (*read)(Carnet&, const QString&, const Progress&);
-};
-
-const FormatCommand& commandOf(ImportFormat format) {
-    const auto extensions = [](const char* own) {
-        QStringList all{QStringLiteral("txt"), QStringLiteral("xml")};
-        return own ? all << QString::fromLatin1(own) : all;
-    };
-    static const FormatCommand udcf{Title("Carnet", "Import UDCF"), Title("Carnet", "UDCF files"), extensions("udcf"),
-                                    readUDCF};
-    static const FormatCommand uddf{Title("Carnet", "Import UDDF"), Title("Carnet", "UDDF files"), extensions("uddf"),
-                                    readUDDF};
-    static const FormatCommand handheld{Title("Carnet", "Import handheld"), Title("Carnet", "Handheld files"),
-                                        extensions(nullptr), readFromiPhoneFile};
-    switch (format) {
-        case ImportFormat::uddf:
-            return uddf;
-        case ImportFormat::handheld:
-            return handheld;
-        case ImportFormat::udcf:
-            break;
-    }
-    return udcf;
-}
+/// What the files of any import may be called.
+const QStringList commonExtensions{QStringLiteral("txt"), QStringLiteral("xml")};
 
 }  // namespace
 
@@ -53,12 +26,16 @@ ImportCommands::ImportCommands(Carnet& carnet, LogbookWindow& window, Desktop& d
 }
 
 void ImportCommands::importDives() {
-    const QStringList files = fileDialogs_.filesToOpen(
-        &window_, text("Interchange", "Import dives"),
-        {{text("Interchange", "Dive files"),
-          {QStringLiteral("uddf"), QStringLiteral("udcf"), QStringLiteral("xml"), QStringLiteral("csv"),
-           QStringLiteral("tsv"), QStringLiteral("txt"), QString::fromLatin1(carnetDescription().kind.extension)}}},
-        false);
+    QStringList extensions;
+    for (const LogbookImport& each : logbookImports()) {
+        if (each.extension) {
+            extensions << QString::fromLatin1(each.extension);
+        }
+    }
+    extensions << commonExtensions << QStringLiteral("csv") << QStringLiteral("tsv")
+               << QString::fromLatin1(carnetDescription().kind.extension);
+    const QStringList files = fileDialogs_.filesToOpen(&window_, text("Interchange", "Import dives"),
+                                                       {{text("Interchange", "Dive files"), extensions}}, false);
     if (!files.isEmpty()) {
         showDivesOf(files.constLast());
     }
@@ -73,9 +50,13 @@ void ImportCommands::showDivesOf(const QString& file) {
 }
 
 void ImportCommands::chooseAndImport(ImportFormat format) {
-    const FormatCommand& command = commandOf(format);
+    const LogbookImport& chosen = importOf(format);
+    QStringList extensions = commonExtensions;
+    if (chosen.extension) {
+        extensions << QString::fromLatin1(chosen.extension);
+    }
     const QStringList files =
-        fileDialogs_.filesToOpen(&window_, text(command.title), {{text(command.files), command.extensions}}, false);
+        fileDialogs_.filesToOpen(&window_, text(chosen.title), {{text(chosen.files), extensions}}, false);
     if (!files.isEmpty()) {
         importFile(files.constLast(), format);
     }
@@ -87,7 +68,7 @@ void ImportCommands::importFile(const QString& file, ImportFormat format) {
     }
     const auto result = [&] {
         ProgressWindow progress(&window_, text("Carnet", "Importing"));
-        return commandOf(format).read(carnet_, file, progress.progress());
+        return importOf(format).read(carnet_, file, progress.progress());
     }();
     if (!result) {
         desktop_.alerts.fail(result.error());

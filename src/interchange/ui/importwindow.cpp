@@ -225,7 +225,6 @@ void ImportWindow::showFound() {
     if (!state_->source) {
         heading_->setText(state_->source.error().message());
         heading_->setWordWrap(true);
-        Q_EMIT readingEnded();
         return;
     }
     found_ = std::move(state_->source->found);
@@ -247,7 +246,6 @@ void ImportWindow::showFound() {
     lost_->setText(textWith("Interchange", "No place for", lost.join(QStringLiteral(", "))));
     keepTexts_->setVisible(!lost.isEmpty());
     updateChosen();
-    Q_EMIT readingEnded();
 }
 
 void ImportWindow::showTable() {

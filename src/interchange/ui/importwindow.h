@@ -34,10 +34,6 @@ public:
     /// Takes the ticked dives over, tells what came in, and closes.
     void importChosen();
 
-Q_SIGNALS:
-    /// The list is filled, or the file could not be read.
-    void readingEnded();
-
 private:
     /// What the reading thread leaves, and how it is told to stop.
     struct Reading;

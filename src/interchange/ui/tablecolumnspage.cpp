@@ -1,5 +1,6 @@
 #include "interchange/ui/tablecolumnspage.h"
 
+#include "base/languageorder.h"
 #include "base/texts.h"
 #include "forms/ui/wheelguard.h"
 #include "interchange/lossreport.h"
@@ -25,9 +26,8 @@ std::vector<std::pair<QString, QString>> fieldsByTitle() {
     for (const QString& each : csvFields()) {
         titled.emplace_back(fieldTitle(each), each);
     }
-    std::sort(titled.begin(), titled.end(), [](const auto& one, const auto& other) {
-        return QString::localeAwareCompare(one.first, other.first) < 0;
-    });
+    std::sort(titled.begin(), titled.end(),
+              [order = languageOrder()](const auto& one, const auto& other) { return order(one.first, other.first); });
     return titled;
 }
 

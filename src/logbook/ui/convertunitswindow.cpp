@@ -5,6 +5,8 @@
 #include "base/texts.h"
 #include "desktop/commonsettings.h"
 #include "desktop/preferences.h"
+#include "dives/divecodes.h"
+#include "dives/divelimits.h"
 
 #include <QDialogButtonBox>
 #include <QHeaderView>
@@ -16,6 +18,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace tavrel {
 
@@ -23,13 +26,11 @@ namespace {
 
 // Enough to see whether the direction is the right one.
 constexpr int previewedDives = 200;
-// The form takes an altitude from here on for a slip and sets it to 0.
-constexpr qint32 altitudeBound = 4001;
 
 enum Column { number, site, depthNow, depthThen, waterNow, waterThen, columnCount };
 
 QString temperature(qint32 degrees) {
-    return degrees == -50 ? QStringLiteral("–") : QString::number(degrees);
+    return degrees == temperatureNotGiven ? QStringLiteral("–") : QString::number(degrees);
 }
 
 }  // namespace
@@ -116,8 +117,9 @@ void ConvertUnitsWindow::showPreview() {
                                             : textWith("Carnet", "Total dives", carnet_.count()));
     int tooHigh = 0;
     for (int row = 0; row < carnet_.count(); ++row) {
-        const auto altitude = convertedLength(carnet_.record(row).altitude, target());
-        tooHigh += altitude >= altitudeBound ? 1 : 0;
+        const double altitude = convertedLength(carnet_.record(row).altitude, target());
+        // The form would set it to 0.
+        tooHigh += std::lround(altitude) > highestAltitude ? 1 : 0;
     }
     warning_->setText(tooHigh > 0 ? textWith("Carnet", "Convert altitudes", tooHigh) : QString());
     warning_->setVisible(tooHigh > 0);

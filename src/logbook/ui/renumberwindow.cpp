@@ -1,6 +1,7 @@
 #include "logbook/ui/renumberwindow.h"
 
 #include "base/texts.h"
+#include "desktop/ui/bringtofront.h"
 #include "desktop/ui/progresswindow.h"
 
 #include <QDialogButtonBox>
@@ -43,9 +44,7 @@ RenumberWindow::RenumberWindow(Carnet& carnet, DocumentWindow* parent)
 }
 
 void RenumberWindow::bringToFront() {
-    show();
-    raise();
-    activateWindow();
+    tavrel::bringToFront(this);
     first_->setFocus();
     first_->selectAll();
 }
