@@ -26,6 +26,22 @@ endif()
 
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 
+# With TAVREL_PRECOMPILE the headers that most files include are read once. A build from nothing becomes much shorter, but
+# it does not notice a missing include; the everyday build does without. The compiler takes precompiled headers only where
+# the same macros are defined, so all rooms link Qt's libraries then.
+function(tavrel_precompile target)
+  cmake_parse_arguments(PRECOMPILE "" "" "HEADERS;LINKS" ${ARGN})
+  file(WRITE ${PROJECT_BINARY_DIR}/${target}.cpp "")
+  add_library(${target} STATIC ${PROJECT_BINARY_DIR}/${target}.cpp)
+  target_link_libraries(${target} PRIVATE tavrel_options ${PRECOMPILE_LINKS})
+  target_precompile_headers(${target} PRIVATE <QtWidgets>
+    <algorithm> <array> <functional> <map> <memory> <optional> <string> <utility> <vector> ${PRECOMPILE_HEADERS})
+endfunction()
+if(TAVREL_PRECOMPILE)
+  target_link_libraries(tavrel_options INTERFACE Qt6::Widgets Qt6::PrintSupport Qt6::Svg Qt6::Network)
+  tavrel_precompile(tavrel_precompiled)
+endif()
+
 # tavrel_room(LINKS ...): the library of the sources in this folder, named after it. Its headers are included as
 # "folder/header.h" from src/; the target all_verify_interface_header_sets compiles each of them alone.
 function(tavrel_room)
@@ -42,6 +58,10 @@ function(tavrel_room)
   target_include_directories(tavrel_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   target_link_libraries(tavrel_${name} PUBLIC tavrel_options ${ROOM_LINKS} PRIVATE ${ROOM_PRIVATE_LINKS})
 
+  if(TAVREL_PRECOMPILE)
+    target_precompile_headers(tavrel_${name} REUSE_FROM tavrel_precompiled)
+  endif()
+
   list(FILTER ROOM_LINKS INCLUDE REGEX "^tavrel_")
   list(JOIN ROOM_LINKS " " links)
   set_property(GLOBAL APPEND PROPERTY TAVREL_ROOMS "${folder} tavrel_${name}: ${links}")
@@ -57,6 +77,9 @@ function(tavrel_test)
   add_executable(${name}_tests ${sources})
   target_include_directories(${name}_tests PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   target_link_libraries(${name}_tests PRIVATE tavrel_test_support ${TEST_LINKS})
+  if(TAVREL_PRECOMPILE)
+    target_precompile_headers(${name}_tests REUSE_FROM tavrel_precompiled_tests)
+  endif()
   target_compile_definitions(${name}_tests PRIVATE TAVREL_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
   gtest_discover_tests(${name}_tests DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 120 PROPERTIES TIMEOUT 300
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
