@@ -144,12 +144,12 @@ std::vector<int> FilterIndex::matches(const RecordFilter& filter, const Cancelle
         found.resize(records_.size());
         std::iota(found.begin(), found.end(), 0);
     }
-    for (const auto& [word, text] : words) {
+    for (const auto& word : words) {
         std::size_t asked = 0;
         bool isCancelled = false;
         std::erase_if(found, [&](int record) {
             isCancelled = isCancelled || (cancelled && asked++ % recordsPerQuestion == 0 && cancelled());
-            return isCancelled || !matches(static_cast<std::size_t>(record), *word, text);
+            return isCancelled || !matches(static_cast<std::size_t>(record), *word.first, word.second);
         });
     }
     return found;

@@ -255,11 +255,8 @@ QGroupBox* GpsController::newReport() {
     gpsDataField->setReadOnly(true);
     gpsDataField->setTabChangesFocus(true);
     gpsDataField->setFont(fixedPitch(font()));
-    // Room for the whole report and its longest line, a geocentric coordinate.
-    const QFontMetrics metrics = gpsDataField->fontMetrics();
-    const auto lines = static_cast<int>(reportLines(gpsReport({})).size()) + 1;
-    const int margin = static_cast<int>(gpsDataField->document()->documentMargin()) + gpsDataField->frameWidth();
-    gpsDataField->setMinimumSize(metrics.horizontalAdvance(u'0') * 42, metrics.lineSpacing() * lines + 2 * margin);
+    // Room for the longest line, a geocentric coordinate; the report is as high as what stands beside it and scrolls.
+    gpsDataField->setMinimumWidth(gpsDataField->fontMetrics().horizontalAdvance(u'0') * 44);
     auto* layout = new QVBoxLayout(group);
     layout->addWidget(gpsDataField);
     layout->addWidget(newCopyButton(

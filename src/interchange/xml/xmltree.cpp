@@ -182,7 +182,7 @@ int readBytes(void* context, char* buffer, int length) {
         return 0;
     }
     const qsizetype count = std::min<qsizetype>(length, state.rest.size());
-    std::memcpy(buffer, state.rest.data(), static_cast<std::size_t>(count));
+    std::copy_n(state.rest.data(), count, buffer);
     state.rest = state.rest.sliced(count);
     return static_cast<int>(count);
 }
