@@ -3,6 +3,7 @@
 #include "logbook/carnet.h"
 #include "support/testdesktop.h"
 
+#include <QCoreApplication>
 #include <benchmark/benchmark.h>
 
 #include <algorithm>

@@ -1,9 +1,12 @@
+#include "base/localzone.h"
+
 #include <QApplication>
 #include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 
 /// What every benchmark program starts with: no display, and settings of its own.
 int main(int argc, char** argv) {
+    tavrel::readLocalZoneOnce();
     const QTemporaryDir home;
     qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
     qputenv("XDG_STATE_HOME", home.path().toUtf8());

@@ -1,3 +1,4 @@
+#include "base/localzone.h"
 #include "base/texts.h"
 #include "cli/calccommand.h"
 #include "cli/commandline.h"
@@ -20,6 +21,7 @@
 
 int main(int argc, char** argv) try {
     std::ios::sync_with_stdio(false);
+    tavrel::readLocalZoneOnce();
     // Texts and file names are UTF-8 in every locale. In a bare environment the toolkit says so on standard error,
     // which belongs to the commands.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});

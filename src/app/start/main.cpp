@@ -4,6 +4,7 @@
 #include "app/mydocumentcontroller.h"
 #include "app/tavreldocuments.h"
 #include "app/windowmenus.h"
+#include "base/localzone.h"
 #include "base/paths.h"
 #include "desktop/clock.h"
 #include "desktop/defaults.h"
@@ -93,6 +94,7 @@ void openHandedOver(MyDocumentController& documents, const QStringList& files) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    tavrel::readLocalZoneOnce();
     if (answersWithoutWindows(argc, argv)) {
         return 0;
     }

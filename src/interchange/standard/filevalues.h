@@ -22,6 +22,9 @@ std::optional<double> numberOf(std::string_view text);
 XmlElement childOf(XmlElement parent, std::initializer_list<std::string_view> names);
 bool isNamed(XmlElement element, std::string_view name);
 
+/// Metres; deeper is no number of a depth.
+inline constexpr double deepestThinkable = 12'000;
+
 /// The nearest whole number that 32 bits hold.
 qint32 rounded(double value);
 

@@ -96,7 +96,10 @@ private:
         }
     }
 
-    double metres(double depth) const { return imperial_ ? depth * feet : depth; }
+    /// A depth of no sense is none.
+    double metres(double depth) const {
+        return std::abs(depth) > deepestThinkable ? 0 : imperial_ ? depth * feet : depth;
+    }
     static std::optional<qint32> temperature(XmlElement element) { return thinkableCelsius(numberOf(element)); }
 
     void readNumbers() {

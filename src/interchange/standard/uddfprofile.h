@@ -11,9 +11,6 @@
 
 namespace tavrel {
 
-/// Metres; deeper is no number of a depth.
-inline constexpr double deepestThinkable = 12'000;
-
 /// What the waypoints of a dive hold, in the order of their times.
 struct UddfProfile {
     enum class Alarm { ascent, slow, surface, ceiling };
