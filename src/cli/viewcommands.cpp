@@ -3,7 +3,6 @@
 #include "base/jsonwriter.h"
 #include "base/texts.h"
 #include "book/booktable.h"
-#include "book/tablepages.h"
 #include "cli/documentcommands.h"
 #include "cli/listing.h"
 #include "cli/render.h"
@@ -238,7 +237,7 @@ void runRender(const Arguments& arguments, Console& console) {
         if (!pictureFormatOf(target)) {
             wrongUsage(text("Cli", "Picture endings"));
         }
-        return pagesFor(session, arguments.what, arguments.rows).and_then([&](const Pages& pages) {
+        return renderedPages(session, arguments.what, arguments.rows).and_then([&](const Pages& pages) {
             return writePages(target, pages);
         });
     });

@@ -1,8 +1,8 @@
 #include "drawing/drawing.h"
 
+#include "drawing/drawingfont.h"
 #include "drawing/drawingicons.h"
 
-#include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPen>
@@ -13,16 +13,6 @@
 namespace tavrel {
 
 namespace {
-
-/// The font of all labels. Without hinting a text is as long at every scale, relative to the drawing.
-QFont labelFont(const Drawing::Text& text) {
-    QFont font;
-    font.setFamilies({QStringLiteral("Lucida Grande"), QStringLiteral("DejaVu Sans"), QStringLiteral("sans-serif")});
-    font.setPixelSize(qMax(1, qRound(text.size)));
-    font.setBold(text.bold);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    return font;
-}
 
 /// Paints primitives: paths in the drawing's space, texts and icons upright.
 class PrimitivePainter {
@@ -48,7 +38,7 @@ public:
     }
 
     void operator()(const Drawing::Text& text) const {
-        const QFont font = labelFont(text);
+        const QFont font = drawingFont(text.size, text.bold);
         const QFontMetricsF metrics(font);
         const double width = metrics.horizontalAdvance(text.text);
         QPointF at(text.at.x(), height_ - text.at.y());
@@ -101,6 +91,15 @@ double contrast(const QColor& one, const QColor& other) {
 constexpr double enoughContrast = 4.5;
 
 }  // namespace
+
+QFont drawingFont(double size, bool bold) {
+    QFont font;
+    font.setFamilies({QStringLiteral("Lucida Grande"), QStringLiteral("DejaVu Sans"), QStringLiteral("sans-serif")});
+    font.setPixelSize(qMax(1, qRound(size)));
+    font.setBold(bold);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
 
 QRectF Drawing::placeIn(const QRectF& target) const {
     QRectF place(QPointF(), size_.scaled(target.size(), Qt::KeepAspectRatio));
