@@ -265,13 +265,14 @@ void addViewCommands(CLI::App& app, Console& console) {
     addJson(form);
 
     CLI::App* card = add("card", "Shows the synthesis card", runCard);
-    card->add_option("--row", arguments->rows, "The records' rows, from 0; all when not given")->expected(1, -1);
+    card->add_option("--row", arguments->rows, "The records' rows, from 0; all when not given")
+        ->allow_extra_args(false);
     addJson(card);
 
     CLI::App* render = add("render", "Draws what the windows print into a PDF, SVG or PNG", runRender);
     render->add_option("TARGET", arguments->target, "The file to write, ending in .pdf, .svg or .png")->required();
     render->add_option("--what", arguments->what, "What to draw")->required()->check(CLI::IsMember(renderings()));
-    render->add_option("--row", arguments->rows, "The record's row, from 0")->expected(1, -1);
+    render->add_option("--row", arguments->rows, "The record's row, from 0")->allow_extra_args(false);
 }
 
 }  // namespace tavrel
