@@ -1,17 +1,12 @@
 #include "app/instanceserver.h"
 
 #include <QDataStream>
-#include <QDeadlineTimer>
 #include <QFile>
 #include <QLocalSocket>
+#include <QLockFile>
 #include <QStandardPaths>
-#include <QThread>
 
-#include <cerrno>
-#include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace tavrel {
 
@@ -26,38 +21,12 @@ QString userSocket() {
     return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + QStringLiteral("/tavrel.socket");
 }
 
-/// Lets programs that start at the same moment look for the one that runs one after the other. No QLockFile: that
-/// would read what else bears the name, and wait at a pipe forever.
-class StartLock {
-public:
-    /// One that holds it for longer than that hangs, and is waited for no more.
-    StartLock(const QString& socket, int patience)
-        : file_(::open(QFile::encodeName(socket + QStringLiteral(".lock")).constData(),
-                       O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW, 0600)) {
-        const QDeadlineTimer deadline(patience);
-        constexpr unsigned long pause = 20;
-        while (file_ >= 0 && ::flock(file_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK && !deadline.hasExpired()) {
-            QThread::msleep(pause);
-        }
-    }
-    StartLock(const StartLock&) = delete;
-    StartLock& operator=(const StartLock&) = delete;
-    ~StartLock() {
-        if (file_ >= 0) {
-            ::close(file_);
-        }
-    }
-
-private:
-    int file_;
-};
-
-/// The first of a row of names that a socket bears or nothing does: the same one for every program.
-QString freeName(const QString& name) {
+/// The first of a row of names that a file of that kind bears or nothing does: the same one for every program.
+QString freeName(const QString& name, mode_t kind) {
     QString tried = name;
     for (int number = 2;; ++number) {
         struct stat status {};
-        if (::lstat(QFile::encodeName(tried).constData(), &status) != 0 || S_ISSOCK(status.st_mode)) {
+        if (::lstat(QFile::encodeName(tried).constData(), &status) != 0 || (status.st_mode & S_IFMT) == kind) {
             return tried;
         }
         tried = name + u'-' + QString::number(number);
@@ -67,7 +36,7 @@ QString freeName(const QString& name) {
 }  // namespace
 
 InstanceServer::InstanceServer(const QString& socket, StartPatience patience)
-    : socket_(freeName(socket.isEmpty() ? userSocket() : socket)), patience_(patience) {
+    : socket_(freeName(socket.isEmpty() ? userSocket() : socket, S_IFSOCK)), patience_(patience) {
     server_.setSocketOptions(QLocalServer::UserAccessOption);
     connect(&server_, &QLocalServer::newConnection, this, &InstanceServer::receive);
 }
@@ -87,7 +56,11 @@ InstanceServer::HandedOver InstanceServer::handOver(const QStringList& files) {
 }
 
 bool InstanceServer::listen() {
-    const StartLock oneAtATime(socket_, patience_.forConnection);
+    // Programs that start at the same moment look for the one that runs one after the other. One that holds the lock
+    // for longer than that hangs, and is waited for no more. The lock would read what else bears its name, and wait at
+    // a pipe forever.
+    QLockFile oneAtATime(freeName(socket_ + QStringLiteral(".lock"), S_IFREG));
+    oneAtATime.tryLock(patience_.forConnection);
     // Listening would push aside whoever listens already.
     QLocalSocket other;
     other.connectToServer(socket_);

@@ -3,7 +3,7 @@
 #include "app/appdelegate.h"
 #include "app/mydocumentcontroller.h"
 #include "base/paths.h"
-#include "documents/ui/printing.h"
+#include "drawing/ui/printing.h"
 #include "logbook/ui/convertunitswindow.h"
 
 #include <QApplication>

@@ -142,7 +142,7 @@ std::unique_ptr<PreferenceControl> newControl(const PreferenceKey& key, QWidget*
 
 std::unique_ptr<PreferenceControl> makePreferenceControl(const PreferenceKey& key, QWidget* parent) {
     auto control = newControl(key, parent);
-    control->widget()->setObjectName(QLatin1StringView(key.control));
+    control->widget()->setObjectName(QString::fromStdString(key.control));
     control->widget()->setAccessibleName(text(key.label));
     return control;
 }

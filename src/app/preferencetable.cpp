@@ -12,6 +12,8 @@
 #include <QColor>
 
 #include <algorithm>
+#include <iterator>
+#include <vector>
 
 namespace tavrel {
 
@@ -40,98 +42,115 @@ constexpr Title decompressionStops("Preferences", "Decompression stops");
 constexpr Title gradientFactors("Preferences", "Gradient factors");
 constexpr Title oxygenCells("Preferences", "Oxygen cells");
 
-/// The switch of a column of the logbook's table, which tells what it is called.
-PreferenceKey columnSwitch(const Setting<bool>& shown, const char* control, bool kept = true, Title note = {}) {
-    const auto all = diveColumns();
-    const auto column = std::find_if(all.begin(), all.end(), [&](const Column& each) { return each.shown == &shown; });
-    return {&shown, control, 3, Tell::columns, columns, column->title, none, nullptr, noChoices, kept, note};
+/// The name of a column's switch by its setting: "column temp eau" has the "tempEauColumnSwitch".
+std::string switchName(const Setting<bool>& shown) {
+    const QStringList words = QString::fromLatin1(shown.key).replace(u'_', u' ').split(u' ');
+    QString name = words.at(1);
+    for (const QString& word : words.mid(2)) {
+        name += word.front().toUpper() + word.mid(1);
+    }
+    return name.toStdString() + "ColumnSwitch";
 }
 
-const PreferenceKey keys[] = {
-    {&settings::tankVolume, "volumeBlocField", 1, Tell::none, newDives, Title("Preferences", "Tank volume"),
-     Title("Preferences", "Litres")},
-    {&settings::tankPressure, "pressionBlocField", 1, Tell::none, newDives, Title("Preferences", "Tank pressure"),
-     Title("Preferences", "Bar")},
-    {&settings::newDiveFromLast, "newDiveFromLastSwitch", 1, Tell::none, newDives,
-     Title("Preferences", "New dive from last"), none, nullptr, noChoices, true,
-     Title("Preferences", "Note new dive from last")},
-    {&settings::keepsBackup, "keepBackupSwitch", 1, Tell::none, files, Title("Preferences", "Keep backup")},
-    {&settings::usUnits, "usUnitsSwitch", 1, Tell::all, units, Title("Preferences", "US units"), none, nullptr,
-     noChoices, true, Title("Preferences", "Note US units")},
-    {&settings::displayUnits, "displayUnitsSwitch", 1, Tell::tableView, units,
-     Title("Preferences", "Units in the table")},
-    {&settings::depthTimeInColor, "tableColorSwitch", 2, Tell::tableView, depthAndTime,
-     Title("Preferences", "Depth and time in color")},
-    {&settings::depthColor, "profondeurWell", 2, Tell::tableView, depthAndTime, Title("Preferences", "Color of depths"),
-     none, &settings::depthTimeInColor},
-    {&settings::timeColor, "dureeWell", 2, Tell::tableView, depthAndTime, Title("Preferences", "Color of times"), none,
-     &settings::depthTimeInColor},
-    {&settings::colorItem, "itemColorSwitch", 2, Tell::tableView, chosenText,
-     Title("Preferences", "Chosen text in color")},
-    {&settings::colouredText, "textInColorField", 2, Tell::tableView, chosenText,
-     Title("Preferences", "Text to highlight"), none, &settings::colorItem},
-    {&settings::colouredTheme, "themeInColorPopUp", 2, Tell::tableView, chosenText,
-     Title("Preferences", "Column to highlight"), none, &settings::colorItem, themes},
-    {&settings::lowTemperatureInColor, "lowTemperatureSwitch", 2, Tell::tableView, coldWater,
-     Title("Preferences", "Low temperatures in color")},
-    {&settings::lowTemperatureValue, "tempValueField", 2, Tell::tableView, coldWater,
-     Title("Preferences", "Low temperature"), Title("Carnet", "Degree Celsius"), &settings::lowTemperatureInColor},
-    {&settings::lowTemperatureColor, "lowTemperatureWell", 2, Tell::tableView, coldWater,
-     Title("Preferences", "Color of low temperatures"), none, &settings::lowTemperatureInColor},
-    {&settings::mixInColor, "mixInColorSwitch", 2, Tell::tableView, kindsOfDives,
-     Title("Preferences", "Mixes in color")},
-    {&settings::foreignInColor, "foreignInColorSwitch", 2, Tell::tableView, kindsOfDives,
-     Title("Preferences", "Dives abroad in color")},
-    {&settings::foreignColor, "foreignWell", 2, Tell::tableView, kindsOfDives,
-     Title("Preferences", "Color of dives abroad")},
-    {&settings::countryCode, "countryCodeField", 1, Tell::tableView, newDives,
-     Title("Preferences", "Home country code")},
-    columnSwitch(settings::columnNumero, "numeroColumnSwitch"),
-    columnSwitch(settings::columnDate, "dateColumnSwitch"),
-    columnSwitch(settings::columnLieu, "lieuColumnSwitch"),
-    columnSwitch(settings::columnSite, "siteColumnSwitch"),
-    columnSwitch(settings::columnHeure, "heureColumnSwitch"),
-    columnSwitch(settings::columnProfondeur, "profondeurColumnSwitch"),
-    columnSwitch(settings::columnTemps, "tempsColumnSwitch"),
-    columnSwitch(settings::columnTempEau, "tempEauColumnSwitch"),
-    columnSwitch(settings::columnDeco, "decoColumnSwitch"),
-    columnSwitch(settings::columnCoeff, "coeffColumnSwitch"),
-    columnSwitch(settings::columnVisibilite, "visibiliteColumnSwitch"),
-    columnSwitch(settings::columnEpave, "epaveColumnSwitch", false, Title("Preferences", "Tip wreck column")),
-    columnSwitch(settings::columnInoubliable, "inoubliableColumnSwitch"),
-    columnSwitch(settings::columnGaz, "gazColumnSwitch"),
-    columnSwitch(settings::columnScaph, "scaphColumnSwitch"),
-    {&settings::plotColor, "plotColorWell", 4, Tell::profile, curve, Title("Preferences", "Plot color")},
-    {&settings::backgroundColor, "backgroundColorWell", 4, Tell::profile, background,
-     Title("Preferences", "Background color")},
-    {&settings::alphaBackgroundColor, "alphaBackgroundField", 4, Tell::profile, background,
-     Title("Preferences", "Opacity")},
-    {&settings::fillPlot, "fillSwitch", 4, Tell::profile, curve, Title("Preferences", "Fill the curve")},
-    {&settings::fillColor, "fillColorWell", 4, Tell::profile, curve, Title("Preferences", "Fill color"), none,
-     &settings::fillPlot},
-    {&settings::alphaFillColor, "alphaFillField", 4, Tell::profile, curve, Title("Preferences", "Opacity"), none,
-     &settings::fillPlot},
-    {&settings::gradientYes, "gradientYesSwitch", 4, Tell::profile, grid, Title("Preferences", "Gradient lines")},
-    {&settings::gradientLinesColor, "gradientLinesColorWell", 4, Tell::profile, grid,
-     Title("Preferences", "Color of gradient lines"), none, &settings::gradientYes},
-    {&settings::xMinorTicks, "xMinorTicksSwitch", 4, Tell::profile, grid, Title("Preferences", "Minor ticks of time")},
-    {&settings::yMinorTicks, "yMinorTicksSwitch", 4, Tell::profile, grid, Title("Preferences", "Minor ticks of depth")},
-    {&settings::dashedLines, "dashedLinesSwitch", 4, Tell::profile, grid, Title("Preferences", "Dashed lines")},
-    {&settings::ppO2Line, "ppO2Switch", 4, Tell::profile, curve, Title("Preferences", "ppO2 line")},
-    {&settings::profileShadow, "profileShadowSwitch", 4, Tell::profile, curve, Title("Preferences", "Curve shadow")},
-    {&settings::stopInterval, "stopIntervalField", 5, Tell::deco, decompressionStops,
-     Title("Preferences", "Stop interval"), Title("Preferences", "Meters")},
-    {&settings::lowGF, "lowGFField", 5, Tell::deco, gradientFactors, Title("Preferences", "Low gradient factor"),
-     Title("Preferences", "Percent")},
-    {&settings::highGF, "highGFField", 5, Tell::deco, gradientFactors, Title("Preferences", "High gradient factor"),
-     Title("Preferences", "Percent")},
-    {&settings::cellLife, "cellLifeField", 6, Tell::rebreather, oxygenCells, Title("Preferences", "Cell life"),
-     Title("Preferences", "Months")},
-};
+/// The switch of a column of the logbook's table. One whose setting a reset leaves alone is not kept.
+PreferenceKey columnSwitch(const Column& column) {
+    const bool isKept = column.shown->reset.has_value();
+    return {column.shown,
+            switchName(*column.shown),
+            3,
+            Tell::columns,
+            columns,
+            column.title,
+            none,
+            nullptr,
+            noChoices,
+            isKept,
+            isKept ? none : Title("Preferences", "Tip wreck column")};
+}
+
+std::vector<PreferenceKey> makeKeys() {
+    std::vector<PreferenceKey> keys{
+        {&settings::tankVolume, "volumeBlocField", 1, Tell::none, newDives, Title("Preferences", "Tank volume"),
+         Title("Preferences", "Litres")},
+        {&settings::tankPressure, "pressionBlocField", 1, Tell::none, newDives, Title("Preferences", "Tank pressure"),
+         Title("Preferences", "Bar")},
+        {&settings::newDiveFromLast, "newDiveFromLastSwitch", 1, Tell::none, newDives,
+         Title("Preferences", "New dive from last"), none, nullptr, noChoices, true,
+         Title("Preferences", "Note new dive from last")},
+        {&settings::keepsBackup, "keepBackupSwitch", 1, Tell::none, files, Title("Preferences", "Keep backup")},
+        {&settings::usUnits, "usUnitsSwitch", 1, Tell::all, units, Title("Preferences", "US units"), none, nullptr,
+         noChoices, true, Title("Preferences", "Note US units")},
+        {&settings::displayUnits, "displayUnitsSwitch", 1, Tell::tableView, units,
+         Title("Preferences", "Units in the table")},
+        {&settings::depthTimeInColor, "tableColorSwitch", 2, Tell::tableView, depthAndTime,
+         Title("Preferences", "Depth and time in color")},
+        {&settings::depthColor, "profondeurWell", 2, Tell::tableView, depthAndTime,
+         Title("Preferences", "Color of depths"), none, &settings::depthTimeInColor},
+        {&settings::timeColor, "dureeWell", 2, Tell::tableView, depthAndTime, Title("Preferences", "Color of times"),
+         none, &settings::depthTimeInColor},
+        {&settings::colorItem, "itemColorSwitch", 2, Tell::tableView, chosenText,
+         Title("Preferences", "Chosen text in color")},
+        {&settings::colouredText, "textInColorField", 2, Tell::tableView, chosenText,
+         Title("Preferences", "Text to highlight"), none, &settings::colorItem},
+        {&settings::colouredTheme, "themeInColorPopUp", 2, Tell::tableView, chosenText,
+         Title("Preferences", "Column to highlight"), none, &settings::colorItem, themes},
+        {&settings::lowTemperatureInColor, "lowTemperatureSwitch", 2, Tell::tableView, coldWater,
+         Title("Preferences", "Low temperatures in color")},
+        {&settings::lowTemperatureValue, "tempValueField", 2, Tell::tableView, coldWater,
+         Title("Preferences", "Low temperature"), Title("Carnet", "Degree Celsius"), &settings::lowTemperatureInColor},
+        {&settings::lowTemperatureColor, "lowTemperatureWell", 2, Tell::tableView, coldWater,
+         Title("Preferences", "Color of low temperatures"), none, &settings::lowTemperatureInColor},
+        {&settings::mixInColor, "mixInColorSwitch", 2, Tell::tableView, kindsOfDives,
+         Title("Preferences", "Mixes in color")},
+        {&settings::foreignInColor, "foreignInColorSwitch", 2, Tell::tableView, kindsOfDives,
+         Title("Preferences", "Dives abroad in color")},
+        {&settings::foreignColor, "foreignWell", 2, Tell::tableView, kindsOfDives,
+         Title("Preferences", "Color of dives abroad")},
+        {&settings::countryCode, "countryCodeField", 1, Tell::tableView, newDives,
+         Title("Preferences", "Home country code")},
+    };
+    for (const Column& column : diveColumns()) {
+        keys.push_back(columnSwitch(column));
+    }
+    const PreferenceKey further[] = {
+        {&settings::plotColor, "plotColorWell", 4, Tell::profile, curve, Title("Preferences", "Plot color")},
+        {&settings::backgroundColor, "backgroundColorWell", 4, Tell::profile, background,
+         Title("Preferences", "Background color")},
+        {&settings::alphaBackgroundColor, "alphaBackgroundField", 4, Tell::profile, background,
+         Title("Preferences", "Opacity")},
+        {&settings::fillPlot, "fillSwitch", 4, Tell::profile, curve, Title("Preferences", "Fill the curve")},
+        {&settings::fillColor, "fillColorWell", 4, Tell::profile, curve, Title("Preferences", "Fill color"), none,
+         &settings::fillPlot},
+        {&settings::alphaFillColor, "alphaFillField", 4, Tell::profile, curve, Title("Preferences", "Opacity"), none,
+         &settings::fillPlot},
+        {&settings::gradientYes, "gradientYesSwitch", 4, Tell::profile, grid, Title("Preferences", "Gradient lines")},
+        {&settings::gradientLinesColor, "gradientLinesColorWell", 4, Tell::profile, grid,
+         Title("Preferences", "Color of gradient lines"), none, &settings::gradientYes},
+        {&settings::xMinorTicks, "xMinorTicksSwitch", 4, Tell::profile, grid,
+         Title("Preferences", "Minor ticks of time")},
+        {&settings::yMinorTicks, "yMinorTicksSwitch", 4, Tell::profile, grid,
+         Title("Preferences", "Minor ticks of depth")},
+        {&settings::dashedLines, "dashedLinesSwitch", 4, Tell::profile, grid, Title("Preferences", "Dashed lines")},
+        {&settings::ppO2Line, "ppO2Switch", 4, Tell::profile, curve, Title("Preferences", "ppO2 line")},
+        {&settings::profileShadow, "profileShadowSwitch", 4, Tell::profile, curve,
+         Title("Preferences", "Curve shadow")},
+        {&settings::stopInterval, "stopIntervalField", 5, Tell::deco, decompressionStops,
+         Title("Preferences", "Stop interval"), Title("Preferences", "Meters")},
+        {&settings::lowGF, "lowGFField", 5, Tell::deco, gradientFactors, Title("Preferences", "Low gradient factor"),
+         Title("Preferences", "Percent")},
+        {&settings::highGF, "highGFField", 5, Tell::deco, gradientFactors, Title("Preferences", "High gradient factor"),
+         Title("Preferences", "Percent")},
+        {&settings::cellLife, "cellLifeField", 6, Tell::rebreather, oxygenCells, Title("Preferences", "Cell life"),
+         Title("Preferences", "Months")},
+    };
+    keys.insert(keys.end(), std::begin(further), std::end(further));
+    return keys;
+}
 
 }  // namespace
 
 std::span<const PreferenceKey> preferenceKeys() {
+    static const std::vector<PreferenceKey> keys = makeKeys();
     return keys;
 }
 

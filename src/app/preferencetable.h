@@ -6,6 +6,7 @@
 #include <QVariant>
 
 #include <span>
+#include <string>
 
 namespace tavrel {
 
@@ -28,7 +29,7 @@ enum class PreferenceNotice { none, tableView, columns, editDive, profile, deco,
 /// switch that has to be on for it to be of use.
 struct PreferenceKey {
     AnySetting setting;
-    const char* control;
+    std::string control;
     int page;  ///< from 1
     PreferenceNotice notice;
     Title group;

@@ -48,6 +48,8 @@ DocumentTypes tavrelDocuments(FileDialogs& fileDialogs) {
             added.showExport = [&fileDialogs](DocumentWindow& window, const FileTaken& isTaken) {
                 showExport(window, fileDialogs, isTaken);
             };
+        }
+        if (!type.imports.empty()) {
             added.takesIn = holdsDives;
             added.takeIn = importInto;
         }

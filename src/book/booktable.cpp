@@ -25,9 +25,8 @@ bool BookTable::isShown(int column) const {
     return !shown || book_.desktop().preferences.get(*shown);
 }
 
-Cell BookTable::cell(int row, int column) const {
+Cell BookTable::cell(const Record& record, int column) const {
     const Placed& placed = columns_[static_cast<std::size_t>(column)];
-    const Record& record = *book_.records()[static_cast<std::size_t>(row)];
     Cell cell;
     if (!placed.field.isNull()) {
         cell.text = plainText(record, placed.field, *style_);

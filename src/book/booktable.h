@@ -26,7 +26,8 @@ public:
     /// Whether the user's settings show the column.
     bool isShown(int column) const;
     /// Everything that a cell shows, worked out anew: ask once per paint.
-    Cell cell(int row, int column) const;
+    Cell cell(int row, int column) const { return cell(*book_.records()[static_cast<std::size_t>(row)], column); }
+    Cell cell(const Record& record, int column) const;
     /// Reads the settings and the day again.
     void reload();
 

@@ -1,141 +1,220 @@
 #include "book/tablepages.h"
 
-#include "base/texts.h"
-#include "drawing/drawingicons.h"
+#include "drawing/drawingfont.h"
 
-#include <QFont>
 #include <QFontMetricsF>
-#include <QPainter>
 
 #include <algorithm>
 #include <cmath>
 #include <memory>
 #include <numeric>
-#include <vector>
 
 namespace tavrel {
 
 namespace {
 
-constexpr int fontSize = 11;  // in points, which are the units of the page, before the settings' scale
-constexpr double padding = 4;
-const QColor ruleColour(0xb0, 0xb0, 0xb0);
+constexpr double fontSize = 11;  // points before the paper's scale, as all lengths here
+constexpr double padding = 4;    // on each side of a cell's text
+constexpr double iconSize = 12;
+constexpr double widest = 220;  // of a column that nobody gave a width
+const QColor headGround(0xe8, 0xe8, 0xe8);
+const QColor ruleColour(0xc0, 0xc0, 0xc0);
 
-/// Everything that is drawn, worked out once: the cells of a page are the table's at that moment.
-struct Sheet {
-    struct Placed {
-        QString heading;
-        Qt::Alignment alignment;
-        double width = 0;
-        std::vector<Cell> cells;
-    };
+const QString& shownIn(const Cell& cell) {
+    return cell.image.isEmpty() && cell.text.isEmpty() ? cell.words : cell.text;
+}
 
-    QSizeF paper;
-    PrintSettings settings;
-    QString title;
-    std::vector<Placed> columns;
-    int rows = 0;
-    double scale = 1;
-    double line = 0;  // the height of a row, in points of the sheet before scaling
-
-    double tableWidth() const {
-        return std::accumulate(columns.begin(), columns.end(), 0.0,
-                               [](double sum, const Placed& column) { return sum + column.width; });
-    }
-    double usableHeight() const { return (paper.height() - settings.top - settings.bottom) / scale - line; }
-    int rowsPerPage() const { return std::max(1, static_cast<int>(usableHeight() / line) - 1); }
-    int pages() const { return std::max(1, (rows + rowsPerPage() - 1) / rowsPerPage()); }
+/// A run of columns or rows that stands on one page.
+struct Run {
+    std::size_t first = 0;
+    std::size_t count = 0;
 };
 
-QFont fontOf(bool bold) {
-    QFont font;
-    font.setPixelSize(fontSize);
-    font.setBold(bold);
-    return font;
-}
-
-void drawText(QPainter& painter, const QRectF& box, const QString& words, Qt::Alignment alignment, bool bold,
-              const QColor& colour) {
-    painter.setFont(fontOf(bold));
-    painter.setPen(colour);
-    const QRectF inside = box.adjusted(padding, 0, -padding, 0);
-    const QString shown = QFontMetricsF(painter.font()).elidedText(words, Qt::ElideRight, inside.width());
-    painter.drawText(inside, static_cast<int>(alignment | Qt::AlignVCenter) | Qt::TextSingleLine, shown);
-}
-
-void drawCell(QPainter& painter, const QRectF& box, const Cell& cell, Qt::Alignment alignment) {
-    if (cell.style.background) {
-        painter.fillRect(box, *cell.style.background);
-    }
-    drawText(painter, box, cell.text.isEmpty() ? cell.words : cell.text, alignment, cell.style.bold,
-             cell.style.text.value_or(Qt::black));
-}
-
-void paintSheet(const Sheet& sheet, QPainter& painter, int page) {
-    painter.save();
-    painter.translate(sheet.settings.left, sheet.settings.top);
-    painter.scale(sheet.scale, sheet.scale);
-    const int first = page * sheet.rowsPerPage();
-    const int last = std::min(sheet.rows, first + sheet.rowsPerPage());
-    double x = 0;
-    for (const auto& column : sheet.columns) {
-        drawText(painter, {x, 0, column.width, sheet.line}, column.heading, column.alignment, true, Qt::black);
-        for (int row = first; row < last; ++row) {
-            drawCell(painter, {x, (row - first + 1) * sheet.line, column.width, sheet.line},
-                     column.cells[static_cast<std::size_t>(row)], column.alignment);
+/// Breaks widths into runs that fit; a width too large for a page has one of its own.
+std::vector<Run> fittingRuns(const std::vector<double>& widths, double room) {
+    std::vector<Run> runs(1);
+    double taken = 0;
+    for (std::size_t index = 0; index < widths.size(); ++index) {
+        if (runs.back().count > 0 && taken + widths[index] > room) {
+            runs.push_back({index});
+            taken = 0;
         }
-        x += column.width;
+        ++runs.back().count;
+        taken += widths[index];
     }
-    painter.setPen(QPen(ruleColour, 0));
-    for (int row = first; row <= last; ++row) {
-        const double y = (row - first + 1) * sheet.line;
-        painter.drawLine(QPointF(0, y), QPointF(x, y));
-    }
-    const QRectF foot(0, sheet.usableHeight(),
-                      (sheet.paper.width() - sheet.settings.left - sheet.settings.right) / sheet.scale, sheet.line);
-    drawText(painter, foot, sheet.title, Qt::AlignLeft, false, Qt::darkGray);
-    drawText(painter, foot, textWith("Main", "Page of pages", page + 1, sheet.pages()), Qt::AlignRight, false,
-             Qt::darkGray);
-    painter.restore();
+    return runs;
 }
+
+/// The table with everything that all its pages share; the cells of a page are worked out with it.
+class TableSheet {
+public:
+    TableSheet(const BookBase& book, TablePart part, const Paper& paper)
+        : table_(book), part_(std::move(part)), paper_(paper), scale_(paper.settings.scale) {
+        line_ = std::ceil(bold_.height()) + padding;
+        for (const TablePart::Chosen& chosen : part_.columns) {
+            widths_.push_back(chosen.width > 0 ? chosen.width * plain_.horizontalAdvance(u'0') : neededBy(chosen));
+        }
+        fitWidths();
+        columns_ = fittingRuns(widths_, room_.width() + padding);
+        rowsPerPage_ = std::max<std::size_t>(1, static_cast<std::size_t>(room_.height() / line_) - 1);
+    }
+
+    int pages() const {
+        return static_cast<int>(columns_.size() * std::max<std::size_t>(1, (rows() + rowsPerPage_ - 1) / rowsPerPage_));
+    }
+
+    Drawing page(int number) const {
+        Drawing page = newPage(paper_, scale_, number, pages());
+        const auto place = static_cast<std::size_t>(number);
+        const Run& across = columns_[place % columns_.size()];
+        const std::size_t first = place / columns_.size() * rowsPerPage_;
+        const std::size_t last = std::min(rows(), first + rowsPerPage_);
+        const auto begin = widths_.begin() + static_cast<std::ptrdiff_t>(across.first);
+        const double width = std::accumulate(begin, begin + static_cast<std::ptrdiff_t>(across.count), 0.0);
+        const double height = line_ * static_cast<double>(last - first + 1);
+        QPainterPath rules;
+        double x = 0;
+        for (std::size_t column = across.first; column < across.first + across.count; ++column) {
+            drawHeading(page, {x, 0, widths_[column], line_}, column);
+            for (std::size_t row = first; row < last; ++row) {
+                const double y = static_cast<double>(row - first + 1) * line_;
+                drawCell(page, {x, y, widths_[column], line_}, *part_.records[row], column);
+            }
+            x += widths_[column];
+            addRule(rules, page, {x, 0}, {x, height});
+        }
+        for (std::size_t row = 0; row <= last - first; ++row) {
+            const double y = static_cast<double>(row + 1) * line_;
+            addRule(rules, page, {0, y}, {width, y});
+        }
+        page.add(Drawing::Line{rules, ruleColour, 0.5});
+        return page;
+    }
+
+private:
+    std::size_t rows() const { return part_.records.size(); }
+    const Column& columnAt(std::size_t column) const {
+        return *table_.columns()[static_cast<std::size_t>(part_.columns[column].column)].column;
+    }
+
+    double neededBy(const TablePart::Chosen& chosen) const {
+        const Column& column = *table_.columns()[static_cast<std::size_t>(chosen.column)].column;
+        const double broad = bold_.horizontalAdvance(u'W');
+        double width = bold_.horizontalAdvance(column.title.text());
+        for (const RecordPointer& record : part_.records) {
+            const Cell cell = table_.cell(*record, chosen.column);
+            const QString& words = shownIn(cell);
+            // Few texts are long enough to be worth measuring.
+            if (static_cast<double>(words.size()) * broad > width) {
+                width = std::max(width, (cell.style.bold ? bold_ : plain_).horizontalAdvance(words));
+            }
+        }
+        return std::min(width, widest) + 2 * padding;
+    }
+
+    /// Sets the scale and the widths at which columns fill the page.
+    void fitWidths() {
+        constexpr double mostShrunk = 0.6;
+        constexpr double mostWidened = 1.5;
+        room_ = contentsSize(paper_, scale_);
+        const double taken = std::accumulate(widths_.begin(), widths_.end(), 0.0);
+        if (taken <= 0) {
+            return;
+        }
+        const double fitting = room_.width() / taken;
+        if (fitting >= 1) {
+            for (double& width : widths_) {
+                width *= std::min(mostWidened, fitting);
+            }
+        } else if (fitting >= mostShrunk) {
+            scale_ *= fitting;
+            room_ = contentsSize(paper_, scale_);
+        }
+    }
+
+    // Boxes are in the page's points from its upper left corner, y growing downward.
+
+    static void addRule(QPainterPath& rules, const Drawing& page, QPointF from, QPointF to) {
+        rules.moveTo(from.x(), page.size().height() - from.y());
+        rules.lineTo(to.x(), page.size().height() - to.y());
+    }
+
+    static void fill(Drawing& page, const QRectF& box, const QColor& colour) {
+        QPainterPath ground;
+        ground.addRect(box.left(), page.size().height() - box.bottom(), box.width(), box.height());
+        page.add(Drawing::Area{ground, colour});
+    }
+
+    void drawText(Drawing& page, const QRectF& box, QString words, Qt::Alignment alignment, bool bold,
+                  const QColor& colour) const {
+        if (words.isEmpty()) {
+            return;
+        }
+        // A row has one line.
+        std::replace_if(
+            words.begin(), words.end(), [](QChar each) { return each.isSpace(); }, QChar(u' '));
+        const QRectF inside = box.adjusted(padding, 0, -padding, 0);
+        const double x = alignment & Qt::AlignRight     ? inside.right()
+                         : alignment & Qt::AlignHCenter ? inside.center().x()
+                                                        : inside.left();
+        page.add(Drawing::Text{{x, page.size().height() - box.center().y()},
+                               (bold ? bold_ : plain_).elidedText(words, Qt::ElideRight, inside.width()),
+                               colour,
+                               fontSize,
+                               alignment | Qt::AlignVCenter,
+                               bold});
+    }
+
+    void drawHeading(Drawing& page, const QRectF& box, std::size_t column) const {
+        fill(page, box, headGround);
+        drawText(page, box, columnAt(column).title.text(), columnAt(column).alignment, true, Qt::black);
+    }
+
+    void drawCell(Drawing& page, const QRectF& box, const Record& record, std::size_t column) const {
+        const Cell cell = table_.cell(record, part_.columns[column].column);
+        if (cell.style.background) {
+            fill(page, box, *cell.style.background);
+        }
+        QRectF rest = box;
+        if (!cell.image.isEmpty()) {
+            const QPointF corner(box.left() + padding, page.size().height() - box.center().y() - iconSize / 2);
+            page.add(Drawing::Icon{corner, {iconSize, iconSize}, cell.image});
+            rest.setLeft(corner.x() + iconSize);
+        }
+        drawText(page, rest, shownIn(cell), columnAt(column).alignment, cell.style.bold,
+                 cell.style.text.value_or(Qt::black));
+    }
+
+    BookTable table_;
+    TablePart part_;
+    Paper paper_;
+    double scale_;
+    QSizeF room_;
+    QFontMetricsF plain_{drawingFont(fontSize)};
+    QFontMetricsF bold_{drawingFont(fontSize, true)};
+    double line_ = 0;             ///< the height of a row
+    std::vector<double> widths_;  ///< of the part's columns
+    std::vector<Run> columns_;    ///< of the pages beside each other
+    std::size_t rowsPerPage_ = 1;
+};
 
 }  // namespace
 
-Pages pagesOf(const BookTable& table, const QSizeF& paper, const PrintSettings& settings, const QString& title) {
-    auto sheet = std::make_shared<Sheet>();
-    sheet->paper = paper;
-    sheet->settings = settings;
-    sheet->title = title;
-    sheet->rows = table.rowCount();
-    const QFontMetricsF plain(fontOf(false));
-    const QFontMetricsF bold(fontOf(true));
-    sheet->line = std::ceil(bold.height()) + 4;
-    for (int index = 0; index < static_cast<int>(table.columns().size()); ++index) {
-        if (!table.isShown(index)) {
-            continue;
+TablePart wholeTable(const BookBase& book) {
+    const BookTable table(book);
+    TablePart part{book.records(), {}};
+    for (int column = 0; column < static_cast<int>(table.columns().size()); ++column) {
+        if (table.isShown(column)) {
+            part.columns.push_back({column});
         }
-        const Column& column = *table.columns()[static_cast<std::size_t>(index)].column;
-        Sheet::Placed placed{column.title.text(), column.alignment, 0, {}};
-        placed.width = bold.horizontalAdvance(placed.heading);
-        for (int row = 0; row < sheet->rows; ++row) {
-            placed.cells.push_back(table.cell(row, index));
-            const Cell& cell = placed.cells.back();
-            placed.width = std::max(
-                placed.width,
-                (cell.style.bold ? bold : plain).horizontalAdvance(cell.text.isEmpty() ? cell.words : cell.text));
-        }
-        constexpr double widest = 220;
-        placed.width = std::min(placed.width, widest) + 2 * padding;
-        sheet->columns.push_back(std::move(placed));
     }
-    const double room = paper.width() - settings.left - settings.right;
-    sheet->scale = std::min(settings.scale, room / std::max(1.0, sheet->tableWidth()));
+    return part;
+}
 
-    Pages pages;
-    pages.size = paper;
-    pages.count = sheet->pages();
-    pages.paint = [sheet](QPainter& painter, int page) { paintSheet(*sheet, painter, page); };
-    pages.title = title;
+Pages pagesOf(const BookBase& book, TablePart part, const Paper& paper) {
+    const auto sheet = std::make_shared<const TableSheet>(book, std::move(part), paper);
+    Pages pages = pagesFor(paper, sheet->pages());
+    pages.page = [sheet](int number) { return sheet->page(number); };
     return pages;
 }
 

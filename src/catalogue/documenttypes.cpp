@@ -15,9 +15,9 @@ std::vector<CatalogueType> makeTypes() {
     const BookDescription& logbook = carnetDescription();
     std::vector<CatalogueType> types{{logbook.kind, &logbook,
                                       [](Desktop& desktop) -> std::unique_ptr<BookBase> {
-                                          return std::make_unique<Carnet>(desktop, logbookExportTypes());
+                                          return std::make_unique<Carnet>(desktop, logbookExports());
                                       },
-                                      logbookExports()}};
+                                      logbookImports(), logbookExports()}};
     for (const auto& book : recordBooks) {
         types.push_back({book().kind, &book(), book().make});
     }

@@ -3,6 +3,7 @@
 #include "book/book.h"
 #include "documents/documentkind.h"
 #include "interchange/exports.h"
+#include "interchange/imports.h"
 
 #include <memory>
 #include <span>
@@ -10,10 +11,11 @@
 namespace tavrel {
 
 /// A type of document as the application and the command line list it: its description, how to make a document of it,
-/// and what it can be exported to.
+/// and the formats that it takes in and can be exported to.
 struct CatalogueType : DocumentKind {
     const BookDescription* book;
     std::unique_ptr<BookBase> (*make)(Desktop& desktop);
+    std::span<const LogbookImport> imports = {};
     std::span<const LogbookExport> exports = {};
 };
 

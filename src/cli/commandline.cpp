@@ -49,9 +49,41 @@ void requireOneCommand(CLI::App& app, const char* what) {
 
 namespace {
 
+bool isWholeNumber(const std::string& word) {
+    return !word.empty() && std::all_of(word.begin(), word.end(), [](char each) { return each >= '0' && each <= '9'; });
+}
+
+/// Whether the command that the words name takes several rows, each behind its own "--row".
+bool takesRows(const CLI::App& app, const std::vector<std::string>& words) {
+    for (const CLI::App* command : app.get_subcommands([](const CLI::App*) { return true; })) {
+        const CLI::Option* rows = command->get_option_no_throw("--row");
+        if (rows && rows->get_items_expected_max() > 1 &&
+            std::find(words.begin(), words.end(), command->get_name()) != words.end()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// "--row 0 1" as "--row 0 --row 1". The parser would take all that follows "--row" for its values, a file's name
+/// included, or but one of them.
+std::vector<std::string> withRowsApart(const std::vector<std::string>& words) {
+    std::vector<std::string> apart;
+    bool inRows = false;
+    for (const std::string& word : words) {
+        const bool isRow = inRows && isWholeNumber(word);
+        if (isRow && apart.back() != "--row") {
+            apart.emplace_back("--row");
+        }
+        inRows = word == "--row" || isRow;
+        apart.push_back(word);
+    }
+    return apart;
+}
+
 /// The arguments in the parser's order, last first. "--name=" gives an empty value, which the parser would take from
 /// the argument behind it.
-std::vector<std::string> parserArguments(int argc, const char* const* argv) {
+std::vector<std::string> parserArguments(const CLI::App& app, int argc, const char* const* argv) {
     std::vector<std::string> words;
     bool options = true;
     for (int index = 1; index < argc; ++index) {
@@ -66,6 +98,9 @@ std::vector<std::string> parserArguments(int argc, const char* const* argv) {
         if (empty) {
             words.emplace_back();
         }
+    }
+    if (takesRows(app, words)) {
+        words = withRowsApart(words);
     }
     std::reverse(words.begin(), words.end());
     return words;
@@ -106,7 +141,7 @@ void addRunOptions(CLI::App& app, Console& console) {
 int runCommandLine(CLI::App& app, int argc, const char* const* argv, Console& console) {
     requireOneCommand(app, "A command");
     try {
-        app.parse(parserArguments(argc, argv));
+        app.parse(parserArguments(app, argc, argv));
     } catch (const CLI::ParseError& stopped) {
         return app.exit(stopped, console.out, console.error) == 0 ? 0 : exitWrongUsage;
     }

@@ -50,17 +50,10 @@ std::vector<std::string> roads() {
 
 /// What a file is read as when nobody says it: what came before version 3 of UDDF by the format's own import.
 std::optional<ImportFormat> ownImportOf(SourceKind kind) {
-    switch (kind) {
-        case SourceKind::olderUddf:
-            return ImportFormat::uddf;
-        case SourceKind::udcf:
-            return ImportFormat::udcf;
-        case SourceKind::handheld:
-            return ImportFormat::handheld;
-        case SourceKind::uddf:
-        case SourceKind::logbook:
-        case SourceKind::table:
-            break;
+    for (const LogbookImport& each : logbookImports()) {
+        if (each.kind == kind) {
+            return each.format;
+        }
     }
     return std::nullopt;
 }
@@ -133,13 +126,6 @@ void printFound(const FoundDives& found, Console& console) {
     for (const FoundDive& it : found.dives) {
         const QDateTime start = startOf(it.dive);
         const BreathedGas gas = breathedGas(it.dive);
-        QStringList remarks;
-        if (it.duplicate) {
-            remarks.append(text("Interchange", "Already there"));
-        }
-        for (const Doubt doubt : it.doubts) {
-            remarks.append(doubtText(doubt));
-        }
         QStringList cells{
             start.isValid() ? start.toString(QStringLiteral("yyyy-MM-dd HH:mm")) : QStringLiteral("----------------"),
             shortestText(it.dive.profondeur) + QStringLiteral(" m"),
@@ -147,7 +133,7 @@ void printFound(const FoundDives& found, Console& console) {
             QStringLiteral("%1/%2").arg(gas.oxygen).arg(gas.helium),
             it.dive.lieu + (it.dive.site.isEmpty() || it.dive.lieu.isEmpty() ? QString() : QStringLiteral(", ")) +
                 it.dive.site,
-            remarks.join(QStringLiteral("; ")),
+            it.remarks().join(QStringLiteral("; ")),
         };
         print(console, cells.join(QStringLiteral("  ")).trimmed());
     }
@@ -201,14 +187,14 @@ Expected<void> importInto(Session& session, Carnet& carnet, const Arguments& arg
 }
 
 Expected<void> exportFrom(Carnet& carnet, const Arguments& arguments, Console& console) {
-    const auto& exports = logbookExports();
+    const auto exports = logbookExports();
     const auto chosen = std::find_if(exports.begin(), exports.end(),
                                      [&](const LogbookExport& it) { return it.name == arguments.format; });
     QStringList columns;
     for (const std::string& column : arguments.columns) {
         columns.append(QString::fromStdString(column));
     }
-    if (!columns.isEmpty() && !chosen->hasColumns) {
+    if (!columns.isEmpty() && !chosen->hasColumns()) {
         return failure(text("Interchange", "No columns to choose"), QLatin1String(chosen->name));
     }
     const auto missing =
@@ -288,7 +274,8 @@ void addInterchangeCommands(CLI::App& app, Console& console) {
     exporting->add_option("TARGET", arguments->other, "The file to write; - is the standard output")->required();
     exporting->add_option("--format", arguments->format, "The format")->required()->check(CLI::IsMember(formats));
     exporting->add_option("--columns", arguments->columns, "The fields that a table gets columns for; all of them else")
-        ->delimiter(',');
+        ->delimiter(',')
+        ->allow_extra_args(false);
     exporting->add_flag("--report", arguments->report,
                         "Prints which fields the format would lose, and of how many dives; writes nothing");
     exporting->callback([arguments, &console] {

@@ -195,6 +195,7 @@ void addProfileCommand(CLI::App& app, Console& console) {
     command
         ->add_option("--replace", arguments->replacements,
                      "SERIES=TEXTFILE: replaces a series by the lines of a file, and saves the logbook")
+        ->allow_extra_args(false)
         ->excludes(json)
         ->excludes(series);
     command->callback([arguments, &console] {

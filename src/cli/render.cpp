@@ -1,9 +1,8 @@
 #include "cli/render.h"
 
-#include "base/safefile.h"
 #include "base/texts.h"
-#include "book/booktable.h"
 #include "book/tablepages.h"
+#include "desktop/clock.h"
 #include "dives/divespan.h"
 #include "dives/statgraph.h"
 #include "dives/statistics.h"
@@ -17,22 +16,19 @@ namespace tavrel {
 
 namespace {
 
-PrintSettings portrait(PrintSettings settings) {
-    settings.landscape = false;
-    return settings;
+/// The paper that the windows print the session's document on at first.
+Paper paperFor(Session& session, bool landscape) {
+    PrintSettings settings = session.book->description().print;
+    settings.landscape = landscape;
+    return usualPaper(settings, session.book->displayName(), session.desktop.desktop().clock.now().date());
 }
 
 Expected<Pages> tablePages(Session& session, const std::vector<int>&) {
-    PrintSettings settings = session.book->description().print;
-    settings.landscape = true;
-    return pagesOf(BookTable(*session.book), usualPaper(settings), settings, session.book->displayName());
+    return pagesOf(*session.book, wholeTable(*session.book), paperFor(session, true));
 }
 
 Expected<Pages> cardPages(Session& session, const std::vector<int>& rows) {
-    return cardOf(session, rows).map([&](const StyledText& card) {
-        const PrintSettings settings = portrait(session.book->description().print);
-        return pagesOf(card, usualPaper(settings), settings, session.book->displayName());
-    });
+    return cardOf(session, rows).map([&](const StyledText& card) { return pagesOf(card, paperFor(session, false)); });
 }
 
 /// The dive at the first of the rows, or the last one.
@@ -54,9 +50,7 @@ Expected<Pages> statisticsPages(Session& session, const std::vector<int>&) {
     return session.logbook().map([&](Carnet* carnet) {
         const PreviousTotals previous = PreviousTotals::read(session.desktop.desktop().preferences);
         const Statistics statistics(divesIn(carnet->records()), &previous);
-        const PrintSettings settings = portrait(carnet->description().print);
-        return pagesOf(statisticsReport(statistics, carnet->displayName()), usualPaper(settings), settings,
-                       carnet->displayName());
+        return pagesOf(statisticsReport(statistics, carnet->displayName()), paperFor(session, false));
     });
 }
 
@@ -78,15 +72,6 @@ constexpr std::array all{
     Rendering{"table", tablePages},  Rendering{"card", cardPages},        Rendering{"profile", profilePages},
     Rendering{"graphs", graphPages}, Rendering{"stats", statisticsPages},
 };
-
-/// NAME.png, NAME-2.png …
-QString nameOfPage(const QString& path, int page) {
-    if (page == 0) {
-        return path;
-    }
-    const auto ending = path.lastIndexOf(u'.');
-    return QStringLiteral("%1-%2%3").arg(path.left(ending)).arg(page + 1).arg(path.mid(ending));
-}
 
 }  // namespace
 
@@ -110,25 +95,9 @@ std::vector<std::string> renderings() {
     return names;
 }
 
-Expected<Pages> pagesFor(Session& session, const std::string& what, const std::vector<int>& rows) {
+Expected<Pages> renderedPages(Session& session, const std::string& what, const std::vector<int>& rows) {
     const auto found = std::find_if(all.begin(), all.end(), [&](const Rendering& each) { return each.name == what; });
     return found->pages(session, rows);
-}
-
-Expected<void> writePages(const QString& path, const Pages& pages) {
-    const auto format = pictureFormatOf(path);
-    if (*format == PictureFormat::pdf) {
-        return writePicture(path, pages);
-    }
-    for (int page = 0; page < pages.count; ++page) {
-        Pages single = pages;
-        single.count = 1;
-        single.paint = [&pages, page](QPainter& painter, int) { pages.paint(painter, page); };
-        if (auto written = writePicture(nameOfPage(path, page), single); !written) {
-            return written;
-        }
-    }
-    return {};
 }
 
 }  // namespace tavrel

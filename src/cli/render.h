@@ -14,10 +14,6 @@ Expected<StyledText> cardOf(Session& session, const std::vector<int>& rows);
 /// What render can draw: "table", "card", "profile" …
 std::vector<std::string> renderings();
 /// The pages of one of them; a failure when the document, or its record, has no such thing.
-Expected<Pages> pagesFor(Session& session, const std::string& what, const std::vector<int>& rows);
-
-/// Writes pages in the format of the file's ending. A PDF holds them all; of PNG and SVG the second page is written
-/// beside as NAME-2, and so on.
-Expected<void> writePages(const QString& path, const Pages& pages);
+Expected<Pages> renderedPages(Session& session, const std::string& what, const std::vector<int>& rows);
 
 }  // namespace tavrel

@@ -3,7 +3,6 @@
 #include "base/jsonwriter.h"
 #include "base/texts.h"
 #include "book/booktable.h"
-#include "book/tablepages.h"
 #include "cli/documentcommands.h"
 #include "cli/listing.h"
 #include "cli/render.h"
@@ -238,7 +237,7 @@ void runRender(const Arguments& arguments, Console& console) {
         if (!pictureFormatOf(target)) {
             wrongUsage(text("Cli", "Picture endings"));
         }
-        return pagesFor(session, arguments.what, arguments.rows).and_then([&](const Pages& pages) {
+        return renderedPages(session, arguments.what, arguments.rows).and_then([&](const Pages& pages) {
             return writePages(target, pages);
         });
     });
@@ -266,13 +265,14 @@ void addViewCommands(CLI::App& app, Console& console) {
     addJson(form);
 
     CLI::App* card = add("card", "Shows the synthesis card", runCard);
-    card->add_option("--row", arguments->rows, "The records' rows, from 0; all when not given")->expected(1, -1);
+    card->add_option("--row", arguments->rows, "The records' rows, from 0; all when not given")
+        ->allow_extra_args(false);
     addJson(card);
 
     CLI::App* render = add("render", "Draws what the windows print into a PDF, SVG or PNG", runRender);
     render->add_option("TARGET", arguments->target, "The file to write, ending in .pdf, .svg or .png")->required();
     render->add_option("--what", arguments->what, "What to draw")->required()->check(CLI::IsMember(renderings()));
-    render->add_option("--row", arguments->rows, "The record's row, from 0")->expected(1, -1);
+    render->add_option("--row", arguments->rows, "The record's row, from 0")->allow_extra_args(false);
 }
 
 }  // namespace tavrel

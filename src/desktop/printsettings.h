@@ -10,8 +10,6 @@ struct PrintSettings {
     double right = 0;
     double scale = 1;
     bool landscape = false;
-    bool centredHorizontally = false;
-    bool centredVertically = false;
 };
 
 }  // namespace tavrel

@@ -72,14 +72,6 @@ Expected<void> Document::saveAs(const QString& file, Overwriting overwriting) {
     return {};
 }
 
-Expected<void> Document::exportAs(const QString& file, const QString& type) {
-    if (type != type_) {
-        return isFile(file) ? writeExport(file, {}) : writeExport(file, dataRepresentationOfType(type));
-    }
-    const auto bytes = dataRepresentationOfType(type);
-    return bytes ? writeFile(file, *bytes) : tl::unexpected(savingFailure(file, bytes.error()));
-}
-
 Expected<void> Document::writeExport(const QString& file, const Expected<QByteArray>& bytes) {
     if (isFile(file)) {
         return tl::unexpected(savingFailure(file, {text("Main", "Export onto document"), {}}));

@@ -62,10 +62,8 @@ public:
     /// changed since is a failure, unless it is to be written over.
     Expected<void> save(Overwriting overwriting = Overwriting::no);
     Expected<void> saveAs(const QString& file, Overwriting overwriting = Overwriting::no);
-    /// Writes another type (an export) beside; the document's file and change state stay. An export loses what it does
-    /// not hold, so it never takes the place of the document's own file.
-    Expected<void> exportAs(const QString& file, const QString& type);
-    /// The same with the bytes of an export, or why there are none.
+    /// Writes the bytes of an export, or tells why there are none; the document's file and change state stay. An export
+    /// loses what it does not hold, so it never takes the place of the document's own file.
     Expected<void> writeExport(const QString& file, const Expected<QByteArray>& bytes);
     /// Reads its file again, dropping all changes; a failure without a file.
     Expected<void> revert();

@@ -29,7 +29,6 @@ public:
 
     /// Something was typed or changed.
     void touch(qint64 now);
-    bool isWaiting() const { return first_.has_value(); }
     /// How long to wait yet; 0: it is time.
     qint64 wait(qint64 now) const;
     /// It is being kept.

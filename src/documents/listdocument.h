@@ -28,7 +28,11 @@ public:
     ListDocument(Desktop& desktop, const RecordLayout& layout);
 
     const RecordLayout& layout() const { return layout_; }
+    using SharedList = std::shared_ptr<const RecordList>;
+
     const RecordList& records() const { return *list_; }
+    /// The same list, for whoever keeps it as it is now.
+    const SharedList& sharedRecords() const { return list_; }
     int count() const { return static_cast<int>(list_->size()); }
     /// The record at a row; null outside the list.
     RecordPointer recordAt(int row) const {
@@ -66,7 +70,6 @@ protected:
 
 private:
     class Step;
-    using SharedList = std::shared_ptr<const RecordList>;
 
     /// The list as the steps make it.
     const SharedList& listOfSteps() const { return stepList_ ? stepList_ : list_; }

@@ -1,8 +1,8 @@
 #include "drawing/drawing.h"
 
+#include "drawing/drawingfont.h"
 #include "drawing/drawingicons.h"
 
-#include <QFont>
 #include <QFontMetricsF>
 #include <QPaintEngine>
 #include <QPainter>
@@ -14,16 +14,6 @@
 namespace tavrel {
 
 namespace {
-
-/// The font of all labels. Without hinting a text is as long at every scale, relative to the drawing.
-QFont labelFont(const Drawing::Text& text) {
-    QFont font;
-    font.setFamilies({QStringLiteral("Lucida Grande"), QStringLiteral("DejaVu Sans"), QStringLiteral("sans-serif")});
-    font.setPixelSize(qMax(1, qRound(text.size)));
-    font.setBold(text.bold);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    return font;
-}
 
 /// A long line in pieces, each beginning with the last stretch of the one before, so that it joins on. Pixels are
 /// filled much faster for many short outlines than for one that crosses itself often.
@@ -87,7 +77,7 @@ public:
     }
 
     void operator()(const Drawing::Text& text) const {
-        const QFont font = labelFont(text);
+        const QFont font = drawingFont(text.size, text.bold);
         const QFontMetricsF metrics(font);
         const double width = metrics.horizontalAdvance(text.text);
         QPointF at(text.at.x(), height_ - text.at.y());
@@ -140,6 +130,15 @@ double contrast(const QColor& one, const QColor& other) {
 constexpr double enoughContrast = 4.5;
 
 }  // namespace
+
+QFont drawingFont(double size, bool bold) {
+    QFont font;
+    font.setFamilies({QStringLiteral("Lucida Grande"), QStringLiteral("DejaVu Sans"), QStringLiteral("sans-serif")});
+    font.setPixelSize(qMax(1, qRound(size)));
+    font.setBold(bold);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
 
 QRectF Drawing::placeIn(const QRectF& target) const {
     QRectF place(QPointF(), size_.scaled(target.size(), Qt::KeepAspectRatio));

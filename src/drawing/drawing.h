@@ -45,7 +45,7 @@ public:
         Qt::Alignment alignment = Qt::AlignLeft | Qt::AlignBottom;
         bool bold = false;
     };
-    /// The picture ":/drawing/<name>.svg", its lower left corner at the point.
+    /// The icon of that name, its lower left corner at the point.
     struct Icon {
         QPointF at;
         QSizeF size;

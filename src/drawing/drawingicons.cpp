@@ -1,5 +1,7 @@
 #include "drawing/drawingicons.h"
 
+#include "desktop/iconfiles.h"
+
 #include <QHash>
 #include <QImage>
 #include <QPaintEngine>
@@ -10,12 +12,6 @@
 #include <unordered_map>
 #include <utility>
 
-/// The pictures live in a static library, whose resources must be registered by hand; outside the namespace because the
-/// macro declares a function.
-static void registerDrawingIcons() {
-    Q_INIT_RESOURCE(drawing);
-}
-
 namespace tavrel {
 
 namespace {
@@ -23,12 +19,10 @@ namespace {
 /// The pictures read so far, and their images at the sizes last asked for: a profile may show hundreds of a kind.
 class DrawingIcons {
 public:
-    DrawingIcons() { registerDrawingIcons(); }
-
     QSvgRenderer& renderer(const QString& name) {
         auto& known = renderers_[name];
         if (!known) {
-            known = std::make_unique<QSvgRenderer>(QStringLiteral(":/drawing/%1.svg").arg(name));
+            known = std::make_unique<QSvgRenderer>(iconFile(name));
         }
         return *known;
     }

@@ -2,17 +2,19 @@
 
 #include "base/safefile.h"
 #include "base/texts.h"
+#include "drawing/drawingfont.h"
 
 #include <QBuffer>
 #include <QFileInfo>
+#include <QFontMetricsF>
 #include <QImage>
+#include <QLocale>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSvgGenerator>
 
-#include <algorithm>
 #include <array>
 
 namespace tavrel {
@@ -21,46 +23,41 @@ namespace {
 
 constexpr double pointsPerInch = 72;
 constexpr double pixelsPerPoint = 2;
-constexpr double leastPixelsPerPoint = 0.5;
-constexpr double longestSide = 32000;  // pixels; the painter's coordinates end a little above
+constexpr double footSize = 10;    // of its font, points of the page's drawing
+constexpr double footHeight = 20;  // of the foot with the space above it
+constexpr double leastSide = 10;   // of a page that its margins leave nothing of
 
-/// The pages one below the other.
-QSizeF stackedSize(const Pages& pages) {
-    return {pages.size.width(), pages.size.height() * pages.count};
+QMarginsF marginsOf(const PrintSettings& settings) {
+    return {settings.left, settings.top, settings.right, settings.bottom};
 }
 
-void paintStacked(QPainter& painter, const Pages& pages) {
-    for (int page = 0; page < pages.count; ++page) {
-        painter.save();
-        painter.translate(0, page * pages.size.height());
-        pages.paint(painter, page);
-        painter.restore();
-    }
+/// What the margins leave of the paper.
+QSizeF roomOn(const Paper& paper) {
+    return paper.size.shrunkBy(marginsOf(paper.settings)).expandedTo(QSizeF(leastSide, leastSide));
+}
+
+void paintPage(QPainter& painter, const Pages& pages, int page) {
+    pages.page(page).paint(painter, QRectF(QPointF(pages.margins.left(), pages.margins.top()), pages.size));
 }
 
 tl::unexpected<Failure> cannotMake() {
     return failure(text("Main", "Picture cannot be made"));
 }
 
-Expected<QByteArray> pngBytes(const Pages& pages) {
-    const QSizeF size = stackedSize(pages);
-    const double scale = std::min(pixelsPerPoint, longestSide / std::max(size.width(), size.height()));
-    if (scale < leastPixelsPerPoint) {
-        return failure(text("Main", "Drawing too long"));
-    }
-    QImage image((size * scale).toSize(), QImage::Format_RGB32);
+Expected<QByteArray> pngBytes(const Pages& pages, int page) {
+    QImage image((pages.paper() * pixelsPerPoint).toSize(), QImage::Format_RGB32);
     if (image.isNull()) {
         return cannotMake();
     }
     image.fill(Qt::white);
-    const int dotsPerMetre = qRound(scale * pointsPerInch / 0.0254);
+    const int dotsPerMetre = qRound(pixelsPerPoint * pointsPerInch / 0.0254);
     image.setDotsPerMeterX(dotsPerMetre);
     image.setDotsPerMeterY(dotsPerMetre);
     image.setText(QStringLiteral("Title"), pages.title);
     image.setText(QStringLiteral("Description"), pages.description);
     QPainter painter(&image);
-    painter.scale(scale, scale);
-    paintStacked(painter, pages);
+    painter.scale(pixelsPerPoint, pixelsPerPoint);
+    paintPage(painter, pages, page);
     painter.end();
     QBuffer file;
     if (!image.save(&file, "PNG")) {
@@ -69,12 +66,12 @@ Expected<QByteArray> pngBytes(const Pages& pages) {
     return file.data();
 }
 
-Expected<QByteArray> svgBytes(const Pages& pages) {
+Expected<QByteArray> svgBytes(const Pages& pages, int page) {
     QBuffer file;
     QSvgGenerator generator;
     generator.setOutputDevice(&file);
     generator.setResolution(static_cast<int>(pointsPerInch));
-    const QSizeF size = stackedSize(pages);
+    const QSizeF size = pages.paper();
     generator.setSize(QSize(qCeil(size.width()), qCeil(size.height())));
     generator.setViewBox(QRectF(QPointF(), size));
     // The generator writes both as they are.
@@ -84,7 +81,7 @@ Expected<QByteArray> svgBytes(const Pages& pages) {
     if (!painter.begin(&generator)) {
         return cannotMake();
     }
-    paintStacked(painter, pages);
+    paintPage(painter, pages, page);
     painter.end();
     return file.data();
 }
@@ -95,7 +92,7 @@ Expected<QByteArray> pdfBytes(const Pages& pages) {
     QPdfWriter writer(&file);
     writer.setTitle(pages.title);
     writer.setCreator(QStringLiteral("Tavrel"));
-    writer.setPageLayout(QPageLayout(QPageSize(pages.size, QPageSize::Point, QString(), QPageSize::ExactMatch),
+    writer.setPageLayout(QPageLayout(QPageSize(pages.paper(), QPageSize::Point, QString(), QPageSize::ExactMatch),
                                      QPageLayout::Portrait, QMarginsF()));
     QPainter painter;
     if (!painter.begin(&writer)) {
@@ -108,22 +105,56 @@ Expected<QByteArray> pdfBytes(const Pages& pages) {
         }
         painter.save();
         painter.scale(scale, scale);
-        pages.paint(painter, page);
+        paintPage(painter, pages, page);
         painter.restore();
     }
     painter.end();
     return file.data();
 }
 
+/// NAME.png, NAME-2.png …
+QString nameOfPage(const QString& path, int page) {
+    if (page == 0) {
+        return path;
+    }
+    const auto ending = path.lastIndexOf(u'.');
+    return QStringLiteral("%1-%2%3").arg(path.left(ending)).arg(page + 1).arg(path.mid(ending));
+}
+
 }  // namespace
+
+Paper usualPaper(const PrintSettings& settings, const QString& title, const QDate& day) {
+    const QSizeF upright = QPageSize(QPageSize::A4).size(QPageSize::Point);
+    return {settings.landscape ? upright.transposed() : upright, settings, title, day};
+}
 
 Pages pagesOf(const Drawing& drawing) {
     Pages pages;
     pages.size = drawing.size();
-    pages.paint = [drawing](QPainter& painter, int) { drawing.paint(painter, QRectF(QPointF(), drawing.size())); };
+    pages.page = [drawing](int) { return drawing; };
     pages.title = drawing.title;
     pages.description = drawing.description;
     return pages;
+}
+
+Pages pagesFor(const Paper& paper, int count) {
+    return {roomOn(paper), marginsOf(paper.settings), count, {}, paper.title, {}};
+}
+
+QSizeF contentsSize(const Paper& paper, double scale) {
+    const QSizeF space = roomOn(paper) / scale;
+    return {space.width(), qMax(leastSide, space.height() - footHeight)};
+}
+
+Drawing newPage(const Paper& paper, double scale, int number, int count) {
+    Drawing page(roomOn(paper) / scale);
+    const QString day = QLocale().toString(paper.day, QLocale::ShortFormat);
+    const QString right = QStringLiteral("%1  ·  %2").arg(day, textWith("Main", "Page of pages", number + 1, count));
+    const QFontMetricsF metrics(drawingFont(footSize));
+    const double room = page.size().width() - metrics.horizontalAdvance(right) - footSize;
+    page.add(Drawing::Text{{0, 0}, metrics.elidedText(paper.title, Qt::ElideMiddle, room), Qt::black, footSize});
+    page.add(Drawing::Text{{page.size().width(), 0}, right, Qt::black, footSize, Qt::AlignRight | Qt::AlignBottom});
+    return page;
 }
 
 std::optional<PictureFormat> pictureFormatOf(const QString& path) {
@@ -138,24 +169,33 @@ std::optional<PictureFormat> pictureFormatOf(const QString& path) {
     return std::nullopt;
 }
 
-Expected<QByteArray> pictureBytes(const Pages& pages, PictureFormat format) {
+Expected<QByteArray> pictureBytes(const Pages& pages, PictureFormat format, int page) {
     switch (format) {
         case PictureFormat::svg:
-            return svgBytes(pages);
+            return svgBytes(pages, page);
         case PictureFormat::pdf:
             return pdfBytes(pages);
         case PictureFormat::png:
             break;
     }
-    return pngBytes(pages);
+    return pngBytes(pages, page);
 }
 
-Expected<void> writePicture(const QString& path, const Pages& pages) {
+Expected<void> writePages(const QString& path, const Pages& pages) {
     const auto format = pictureFormatOf(path);
     if (!format) {
         return failure(textWith("Main", "Not a picture format", QFileInfo(path).fileName()));
     }
-    return pictureBytes(pages, *format).and_then([&](const QByteArray& bytes) { return writeFile(path, bytes); });
+    const int files = *format == PictureFormat::pdf ? 1 : pages.count;
+    for (int file = 0; file < files; ++file) {
+        const auto written = pictureBytes(pages, *format, file).and_then([&](const QByteArray& bytes) {
+            return writeFile(nameOfPage(path, file), bytes);
+        });
+        if (!written) {
+            return written;
+        }
+    }
+    return {};
 }
 
 }  // namespace tavrel

@@ -6,6 +6,8 @@
 #include "drawing/styledtext.h"
 
 #include <QByteArray>
+#include <QDate>
+#include <QMarginsF>
 #include <QSizeF>
 #include <QString>
 
@@ -13,28 +15,47 @@
 #include <memory>
 #include <optional>
 
-class QPainter;
 class QTextDocument;
 
 namespace tavrel {
 
-/// Something ready for paper or for a picture's file: pages of one size, in points, the origin of each at its upper
-/// left corner. Making and painting them needs a QGuiApplication, for its fonts.
+/// What contents are broken into pages for.
+struct Paper {
+    QSizeF size;             ///< of the sheet, points, turned as wanted
+    PrintSettings settings;  ///< margins, scale and place of the contents
+    QString title;           ///< stands below each page, beside the day and the page's number
+    QDate day;
+};
+
+/// A4, turned as the settings say.
+Paper usualPaper(const PrintSettings& settings, const QString& title, const QDate& day);
+
+/// Something ready for a printer or for a picture's file: drawings of one size, one to a page. All that goes to paper,
+/// from windows and from the command line, is painted from these. Making and painting them needs a QGuiApplication, for
+/// its fonts.
 struct Pages {
-    QSizeF size;
+    QSizeF size;        ///< of the place that each page's drawing takes, points
+    QMarginsF margins;  ///< around it, points
     int count = 1;
-    std::function<void(QPainter& painter, int page)> paint;
+    std::function<Drawing(int page)> page;
     QString title;
     QString description;
+
+    QSizeF paper() const { return size.grownBy(margins); }
 };
 
 /// One page, as large as the drawing.
 Pages pagesOf(const Drawing& drawing);
-/// A text broken into pages of a paper, with the margins and the scale of the settings, and below them the page's
-/// number where there are several. The paper's size, in points, is that of the orientation wanted.
-Pages pagesOf(const StyledText& text, const QSizeF& paper, const PrintSettings& settings, const QString& title);
-/// A4 in points, turned as the settings say.
-QSizeF usualPaper(const PrintSettings& settings);
+/// A text broken into pages of a paper, a foot below each.
+Pages pagesOf(const StyledText& text, const Paper& paper);
+
+/// The space of a page's drawing for its contents: what the margins leave, at a scale, without the foot.
+QSizeF contentsSize(const Paper& paper, double scale);
+/// The drawing of a page with nothing in it but the foot: the title, the day, the page's number from 0. Contents go
+/// into the contentsSize() at its top.
+Drawing newPage(const Paper& paper, double scale, int number, int count);
+/// Pages for the paper, their drawings still to be given.
+Pages pagesFor(const Paper& paper, int count);
 
 /// The text as a document of the toolkit, for windows and pages: its runs in their colours, broken at "\r" and "\n".
 std::unique_ptr<QTextDocument> textDocumentOf(const StyledText& text);
@@ -43,10 +64,10 @@ enum class PictureFormat { png, svg, pdf };
 
 /// By the ending of a file's name; nothing when it is another.
 std::optional<PictureFormat> pictureFormatOf(const QString& path);
-/// The bytes of a picture's file. PDF keeps the pages apart; the others show them one below the other. A PNG has two
-/// pixels to the point, fewer when it would grow too large.
-Expected<QByteArray> pictureBytes(const Pages& pages, PictureFormat format);
-/// Writes the file in the format of its ending, whole or not at all.
-Expected<void> writePicture(const QString& path, const Pages& pages);
+/// The bytes of a picture's file: of one page, and for PDF of all of them. A PNG has two pixels to the point.
+Expected<QByteArray> pictureBytes(const Pages& pages, PictureFormat format, int page = 0);
+/// Writes the pages in the format of the file's ending, each file whole or not at all. A PDF holds them all; of PNG and
+/// SVG the second page is written beside as NAME-2, and so on.
+Expected<void> writePages(const QString& path, const Pages& pages);
 
 }  // namespace tavrel

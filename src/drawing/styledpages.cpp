@@ -1,47 +1,60 @@
+#include "drawing/drawingfont.h"
 #include "drawing/pages.h"
 
-#include <QFont>
-#include <QPageSize>
-#include <QPainter>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextLayout>
 
+#include <algorithm>
 #include <vector>
 
 namespace tavrel {
 
 namespace {
 
-constexpr int textSize = 13;    // points before the settings' scale
-constexpr int numberSize = 10;  // of the page's number
+constexpr double textSize = 13;  // points before the paper's scale
 
-QFont fontOf(int size) {
-    QFont font;
-    font.setFamilies({QStringLiteral("Lucida Grande"), QStringLiteral("DejaVu Sans"), QStringLiteral("sans-serif")});
-    font.setPixelSize(size);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    return font;
+/// Adds the texts of a line, each of one colour, to a page that begins at that height of the document.
+void addLine(Drawing& page, const QTextBlock& block, const QTextLine& line, double pageTop) {
+    const double top = page.size().height() - (block.layout()->position().y() + line.y() - pageTop);
+    for (auto run = block.begin(); !run.atEnd(); ++run) {
+        const QTextFragment fragment = run.fragment();
+        const int begin = fragment.position() - block.position();
+        int first = std::max(begin, line.textStart());
+        const int end = std::min(begin + fragment.length(), line.textStart() + line.textLength());
+        // A tab is a distance to the toolkit's layout, not a character.
+        while (first < end) {
+            const auto tab = static_cast<int>(block.text().indexOf(u'\t', first));
+            const int last = tab < 0 ? end : std::min(end, tab);
+            if (const QString words = block.text().mid(first, last - first); !words.trimmed().isEmpty()) {
+                const double left = std::min(line.cursorToX(first), line.cursorToX(last));
+                page.add(Drawing::Text{{left, top},
+                                       words,
+                                       fragment.charFormat().foreground().color(),
+                                       textSize,
+                                       Qt::AlignLeft | Qt::AlignTop});
+            }
+            first = last + 1;
+        }
+    }
 }
 
-/// A laid out line, and where its block begins in the document.
+/// A line of the document and its block.
 struct PlacedLine {
+    QTextBlock block;
     QTextLine line;
-    QPointF origin;
 };
 
-/// The lines that stand on each page. A document's own painting goes by blocks, and those at a page's edge would come
-/// out on two pages wherever nothing is clipped.
-std::vector<std::vector<PlacedLine>> linesOfPages(const QTextDocument& document, int pages) {
-    std::vector<std::vector<PlacedLine>> lines(static_cast<std::size_t>(pages));
+std::vector<std::vector<PlacedLine>> linesOfPages(const QTextDocument& document) {
+    std::vector<std::vector<PlacedLine>> lines(static_cast<std::size_t>(qMax(1, document.pageCount())));
     const double height = document.pageSize().height();
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         const QTextLayout& layout = *block.layout();
         for (int number = 0; number < layout.lineCount(); ++number) {
             const QTextLine line = layout.lineAt(number);
-            const int page = static_cast<int>((layout.position().y() + line.y() + line.height() / 2) / height);
-            lines[static_cast<std::size_t>(qBound(0, page, pages - 1))].push_back({line, layout.position()});
+            const double middle = layout.position().y() + line.y() + line.height() / 2;
+            lines[std::min(static_cast<std::size_t>(middle / height), lines.size() - 1)].push_back({block, line});
         }
     }
     return lines;
@@ -64,43 +77,21 @@ std::unique_ptr<QTextDocument> textDocumentOf(const StyledText& text) {
     return document;
 }
 
-QSizeF usualPaper(const PrintSettings& settings) {
-    const QSizeF upright = QPageSize(QPageSize::A4).size(QPageSize::Point);
-    return settings.landscape ? upright.transposed() : upright;
-}
-
-Pages pagesOf(const StyledText& text, const QSizeF& paper, const PrintSettings& settings, const QString& title) {
+Pages pagesOf(const StyledText& text, const Paper& paper) {
     const std::shared_ptr<QTextDocument> document = textDocumentOf(text);
-    const double scale = settings.scale > 0 ? settings.scale : 1;
-    const QFont numberFont = fontOf(numberSize);
-    const double foot = 2 * numberSize;
-    const QSizeF room =
-        QSizeF(paper.width() - settings.left - settings.right, paper.height() - settings.top - settings.bottom) / scale;
-    const QSizeF page(qMax(room.width(), 10.0), qMax(room.height() - foot, 10.0));
-    document->setDefaultFont(fontOf(textSize));
+    const QSizeF contents = contentsSize(paper, paper.settings.scale);
+    document->setDefaultFont(drawingFont(textSize));
     document->setUseDesignMetrics(true);
     document->setDocumentMargin(0);
-    document->setPageSize(page);
-    Pages pages;
-    pages.size = paper;
-    pages.count = qMax(1, document->pageCount());
-    pages.title = title;
-    pages.paint = [document, lines = linesOfPages(*document, pages.count), settings, scale, page, foot, numberFont,
-                   count = pages.count](QPainter& painter, int number) {
-        painter.save();
-        painter.translate(settings.left, settings.top);
-        painter.scale(scale, scale);
-        painter.setPen(Qt::black);
-        if (count > 1) {
-            painter.setFont(numberFont);
-            painter.drawText(QRectF(0, page.height(), page.width(), foot), Qt::AlignHCenter | Qt::AlignBottom,
-                             QStringLiteral("%1 / %2").arg(number + 1).arg(count));
+    document->setPageSize(contents);
+    const auto lines = linesOfPages(*document);
+    Pages pages = pagesFor(paper, static_cast<int>(lines.size()));
+    pages.page = [document, lines, paper, contents](int number) {
+        Drawing page = newPage(paper, paper.settings.scale, number, static_cast<int>(lines.size()));
+        for (const PlacedLine& each : lines[static_cast<std::size_t>(number)]) {
+            addLine(page, each.block, each.line, number * contents.height());
         }
-        painter.translate(0, -number * page.height());
-        for (const PlacedLine& line : lines[static_cast<std::size_t>(number)]) {
-            line.line.draw(&painter, line.origin);
-        }
-        painter.restore();
+        return page;
     };
     return pages;
 }

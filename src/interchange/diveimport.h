@@ -5,12 +5,12 @@
 
 namespace tavrel {
 
-/// One format's part of an import: where its dives stand, and how one of them is typed into the cleared form. Filling
-/// fails at a dive that lacks an element which it cannot do without.
+/// One format's part of an import: where its dives stand, and how one of them is typed into the cleared form. Of
+/// several groups of dives the last is taken. Filling fails at a dive that lacks an element which it cannot do without.
 struct DiveSource {
+    const char* groupsIn;  ///< the element of the root that holds the groups; null: the root itself
+    const char* groupName;
     const char* diveName;
-    XmlElement (*group)(XmlElement root);
-    std::size_t (*allDives)(XmlElement root);  ///< how many stand in any group
     Expected<void> (*fill)(XmlElement dive, DiveForm& form);
 };
 

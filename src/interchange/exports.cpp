@@ -24,27 +24,12 @@ constexpr std::array<std::string_view, 8> profileFields{"noPlongee", "profilProf
 
 }  // namespace
 
-Expected<QByteArray> LogbookExport::produceFrom(const Carnet& carnet, const RecordList& dives,
-                                                const QStringList& columns) const {
-    if (hasColumns) {
-        return writeCsv(dives, columns, carnet.progress());
-    }
-    Carnet chosen(carnet.desktop());
-    chosen.replaceList(dives);
-    chosen.setProgress(carnet.progress());
-    return produce(chosen);
-}
-
-Expected<QByteArray> exportTable(Carnet& carnet) {
-    return writeCsv(carnet.records(), {}, carnet.progress());
-}
-
 Expected<QByteArray> exportStandardUddf(Carnet& carnet) {
     return writeUddf(carnet.records(), {carnet.desktop().clock.now(), {}}, carnet.progress());
 }
 
-const std::vector<LogbookExport>& logbookExports() {
-    static const std::vector<LogbookExport> exports{
+std::span<const LogbookExport> logbookExports() {
+    static constexpr LogbookExport exports[]{
         {"csv-semicolon",
          "Export Carnet CSV (Point-virgule)",
          {"Interchange", "Format semicolons"},
@@ -75,21 +60,16 @@ const std::vector<LogbookExport>& logbookExports() {
          "udcf",
          exportUDCFFormat},
         {"uddf", "Export UDDF (Universal Dive Data Format)", {"Interchange", "Format UDDF"}, "uddf", exportUDDFFormat},
-        {"csv", "Export CSV (UTF-8)", {"Interchange", "Format table"}, "csv", exportTable, {}, true},
+        {"csv",
+         "Export CSV (UTF-8)",
+         {"Interchange", "Format table"},
+         "csv",
+         [](Carnet& carnet) { return writeCsv(carnet.records(), {}, carnet.progress()); },
+         {},
+         writeCsv},
         {"uddf-3.2", "Export UDDF 3.2", {"Interchange", "Format UDDF 3"}, "uddf", exportStandardUddf},
     };
     return exports;
-}
-
-const std::vector<ExportType>& logbookExportTypes() {
-    static const std::vector<ExportType> types = [] {
-        std::vector<ExportType> list;
-        for (const LogbookExport& it : logbookExports()) {
-            list.push_back({QString::fromLatin1(it.typeName), it.produce});
-        }
-        return list;
-    }();
-    return types;
 }
 
 }  // namespace tavrel

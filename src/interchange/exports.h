@@ -1,13 +1,9 @@
 #pragma once
 
-#include "base/texts.h"
 #include "logbook/carnet.h"
-
-#include <QStringList>
 
 #include <span>
 #include <string_view>
-#include <vector>
 
 namespace tavrel {
 
@@ -35,29 +31,7 @@ Expected<QByteArray> exportProfileCSVFormat(Carnet& carnet, std::string_view sep
 /// UDDF 3.2.3, valid against its schema, with all that UDDF has a place for.
 Expected<QByteArray> exportStandardUddf(Carnet& carnet);
 
-/// A table of all fields in UTF-8, which reads back.
-Expected<QByteArray> exportTable(Carnet& carnet);
-
-/// An export as the command line and the menus know it.
-struct LogbookExport {
-    const char* name;       ///< "csv-semicolon"
-    const char* typeName;   ///< the document type
-    Title title;            ///< for a choice among them
-    const char* extension;  ///< of new files, without a dot
-    Expected<QByteArray> (*produce)(Carnet& carnet);
-    /// The fields of a dive that the format has a place for, where its files cannot be read back; else empty.
-    std::span<const std::string_view> heldFields = {};
-    bool hasColumns = false;  ///< one for each field, of which some may be chosen
-
-    /// The bytes for these dives alone, in the order given, with the columns chosen or all. The progress is the
-    /// logbook's.
-    Expected<QByteArray> produceFrom(const Carnet& carnet, const RecordList& dives,
-                                     const QStringList& columns = {}) const;
-};
-
-/// The exports in the order in which their types are tried.
-const std::vector<LogbookExport>& logbookExports();
-/// The same as a logbook takes them.
-const std::vector<ExportType>& logbookExportTypes();
+/// All of them, in the order in which their types are tried.
+std::span<const LogbookExport> logbookExports();
 
 }  // namespace tavrel

@@ -6,18 +6,6 @@ namespace tavrel {
 
 namespace {
 
-XmlElement lastGroup(XmlElement root) {
-    return root.last("repgroup");
-}
-
-std::size_t allDives(XmlElement root) {
-    std::size_t dives = 0;
-    for (const XmlElement group : root.children("repgroup")) {
-        dives += group.children("dive").count();
-    }
-    return dives;
-}
-
 /// Fields that a missing element leaves as the cleared form has them.
 void typeFields(DiveForm& form, XmlElement dive) {
     const DiveControls& controls = form.controls();
@@ -61,6 +49,6 @@ Expected<void> fill(XmlElement dive, DiveForm& form) {
 
 }  // namespace
 
-const DiveSource handheldSource{"dive", lastGroup, allDives, fill};
+const DiveSource handheldSource{nullptr, "repgroup", "dive", fill};
 
 }  // namespace tavrel

@@ -3,7 +3,6 @@
 #include "base/safefile.h"
 #include "desktop/clock.h"
 #include "interchange/diveimport.h"
-#include "interchange/standard/sourcereading.h"
 #include "interchange/standard/uddfreading.h"
 
 #include <algorithm>
@@ -16,16 +15,25 @@ constexpr std::size_t thousandths = 1000;
 constexpr std::size_t thousandthsOfParsing = 500;
 constexpr std::size_t divesPerProgress = 16;
 
-const DiveSource& sourceOf(ImportFormat format) {
-    switch (format) {
-        case ImportFormat::uddf:
-            return uddfSource;
-        case ImportFormat::handheld:
-            return handheldSource;
-        case ImportFormat::udcf:
-            break;
+XmlElement lastGroup(const DiveSource& source, XmlElement root) {
+    return (source.groupsIn ? root.last(source.groupsIn) : root).last(source.groupName);
+}
+
+std::size_t divesInAllGroups(const DiveSource& source, XmlElement root) {
+    std::size_t dives = 0;
+    const auto countIn = [&](XmlElement parent) {
+        for (const XmlElement group : parent.children(source.groupName)) {
+            dives += group.children(source.diveName).count();
+        }
+    };
+    if (!source.groupsIn) {
+        countIn(root);
+        return dives;
     }
-    return udcfSource;
+    for (const XmlElement parent : root.children(source.groupsIn)) {
+        countIn(parent);
+    }
+    return dives;
 }
 
 /// One import under way.
@@ -47,13 +55,13 @@ public:
         if (!tree) {
             return tl::unexpected(tree.error());
         }
-        const DiveSource& source = sourceOf(format);
-        const auto dives = source.group(tree->root()).children(source.diveName);
+        const DiveSource& source = *importOf(format).source;
+        const auto dives = lastGroup(source, tree->root()).children(source.diveName);
         if (dives.count() > mostDives) {
             return failure(text("Main", "XML file beyond limits"));
         }
         takeDives(source, dives);
-        result_.leftOut = static_cast<int>(source.allDives(tree->root()) - dives.count());
+        result_.leftOut = static_cast<int>(divesInAllGroups(source, tree->root()) - dives.count());
         result_.readsBetter = format == ImportFormat::uddf && kindOfRoot(tree->root()) == SourceKind::uddf;
         return result_;
     }
@@ -187,13 +195,35 @@ Expected<ImportResult> readFromiPhoneFile(Carnet& carnet, const QString& file, c
 }
 
 std::span<const LogbookImport> logbookImports() {
-    static constexpr LogbookImport imports[] = {
-        {ImportFormat::udcf, "udcf", {"Carnet", "Import UDCF"}, {"Carnet", "UDCF files"}, "udcf", readUDCF},
-        {ImportFormat::uddf, "uddf", {"Carnet", "Import UDDF"}, {"Carnet", "UDDF files"}, "uddf", readUDDF},
+    static const LogbookImport imports[] = {
+        {ImportFormat::udcf,
+         SourceKind::udcf,
+         &udcfSource,
+         "udcf",
+         {"Carnet", "Import UDCF"},
+         {"Carnet", "UDCF files"},
+         "udcf",
+         {"Carnet", "Menu import UDCF"},
+         "importUDCF",
+         readUDCF},
+        {ImportFormat::uddf,
+         SourceKind::olderUddf,
+         &uddfSource,
+         "uddf",
+         {"Carnet", "Import UDDF"},
+         {"Carnet", "UDDF files"},
+         "uddf",
+         {"Carnet", "Menu import UDDF"},
+         "importUDDF",
+         readUDDF},
         {ImportFormat::handheld,
+         SourceKind::handheld,
+         &handheldSource,
          "handheld",
          {"Carnet", "Import handheld"},
          {"Carnet", "Handheld files"},
+         nullptr,
+         {"Carnet", "Menu import handheld"},
          nullptr,
          readFromiPhoneFile},
     };

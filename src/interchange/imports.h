@@ -3,6 +3,7 @@
 #include "base/progress.h"
 #include "base/texts.h"
 #include "interchange/standard/founddive.h"
+#include "interchange/standard/sourcereading.h"
 #include "logbook/carnet.h"
 
 #include <QByteArrayView>
@@ -51,15 +52,22 @@ Expected<ImportResult> readFromiPhoneFile(Carnet& carnet, const QString& file, c
 Expected<ImportResult> importDives(Carnet& carnet, QByteArrayView bytes, ImportFormat format,
                                    const Progress& progress = {});
 
-/// A format's own import, for a choice among them.
+struct DiveSource;
+
+/// A format's own import, as menus and the command line know it.
 struct LogbookImport {
     ImportFormat format;
+    SourceKind kind;  ///< what its files are told to be by their contents
+    const DiveSource* source;
     const char* name;       ///< "udcf"
     Title title;            ///< of the dialog that asks for a file
     Title files;            ///< what its files are called
     const char* extension;  ///< of files beside txt and xml; null: none
+    Title command;          ///< in the menu
+    const char* toolItem;   ///< the toolbars' identifier; null: it stands in the menu alone
     Expected<ImportResult> (*read)(Carnet& carnet, const QString& file, const Progress& progress);
 };
+/// All of them, in the order of the menu.
 std::span<const LogbookImport> logbookImports();
 const LogbookImport& importOf(ImportFormat format);
 

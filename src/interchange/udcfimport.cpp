@@ -7,18 +7,6 @@ namespace tavrel {
 
 namespace {
 
-XmlElement lastGroup(XmlElement root) {
-    return root.last("REPGROUP");
-}
-
-std::size_t allDives(XmlElement root) {
-    std::size_t dives = 0;
-    for (const XmlElement group : root.children("REPGROUP")) {
-        dives += group.children("DIVE").count();
-    }
-    return dives;
-}
-
 /// The sampling code of an interval in seconds; other intervals leave the menu as it is.
 void chooseSamplingRate(DiveForm& form, qint32 seconds) {
     const auto code = std::find(samplingIntervals.begin(), samplingIntervals.end(), seconds);
@@ -70,6 +58,6 @@ Expected<void> fill(XmlElement dive, DiveForm& form) {
 
 }  // namespace
 
-const DiveSource udcfSource{"DIVE", lastGroup, allDives, fill};
+const DiveSource udcfSource{nullptr, "REPGROUP", "DIVE", fill};
 
 }  // namespace tavrel

@@ -8,20 +8,6 @@ namespace {
 /// What the program takes off kelvins; not 273.15.
 constexpr double kelvinOffset = 273.1;
 
-XmlElement lastGroup(XmlElement root) {
-    return root.last("profiledata").last("repetitiongroup");
-}
-
-std::size_t allDives(XmlElement root) {
-    std::size_t dives = 0;
-    for (const XmlElement data : root.children("profiledata")) {
-        for (const XmlElement group : data.children("repetitiongroup")) {
-            dives += group.children("dive").count();
-        }
-    }
-    return dives;
-}
-
 Expected<void> fill(XmlElement dive, DiveForm& form) {
     const DiveControls& controls = form.controls();
     form.state().setDate(controls.dateField, GetCalendarDateFromElementUDDF(dive.last("date")));
@@ -50,6 +36,6 @@ Expected<void> fill(XmlElement dive, DiveForm& form) {
 
 }  // namespace
 
-const DiveSource uddfSource{"dive", lastGroup, allDives, fill};
+const DiveSource uddfSource{"profiledata", "repetitiongroup", "dive", fill};
 
 }  // namespace tavrel

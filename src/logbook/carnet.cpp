@@ -94,8 +94,8 @@ const BookDescription& carnetDescription() {
     return description;
 }
 
-Carnet::Carnet(Desktop& desktop, const std::vector<ExportType>& exportTypes)
-    : Book(desktop, carnetDescription()), exportTypes_(exportTypes) {
+Carnet::Carnet(Desktop& desktop, std::span<const LogbookExport> exports)
+    : Book(desktop, carnetDescription()), exports_(exports) {
     listen(Notification::updateTableView, [this] { Q_EMIT tableReloadRequested(); });
     listen(Notification::updateColumnsTableView, [this] { Q_EMIT columnsRebuildRequested(); });
     listen(Notification::profile, [this] { Q_EMIT profileRedrawRequested(); });
@@ -136,9 +136,9 @@ void Carnet::setUpFirstRunColumns() {
 }
 
 Expected<QByteArray> Carnet::dataRepresentationOfType(const QString& type) {
-    for (const auto& exportType : exportTypes_) {
-        if (exportType.name == type) {
-            return exportType.produce(*this);
+    for (const LogbookExport& each : exports_) {
+        if (type == QLatin1StringView(each.typeName)) {
+            return each.produce(*this);
         }
     }
     return Book::dataRepresentationOfType(type);

@@ -4,20 +4,14 @@
 #include "book/book.h"
 #include "dives/plongee.h"
 #include "logbook/diveform.h"
+#include "logbook/logbookexport.h"
 #include "logbook/unitconversion.h"
 
 #include <functional>
+#include <span>
 #include <vector>
 
 namespace tavrel {
-
-class Carnet;
-
-/// A type that a logbook can be saved as besides its own: its name and what produces its bytes.
-struct ExportType {
-    QString name;
-    std::function<Expected<QByteArray>(Carnet&)> produce;
-};
 
 /// The logbook among the types of documents.
 const BookDescription& carnetDescription();
@@ -28,8 +22,8 @@ class Carnet : public Book<Plongee> {
     Q_OBJECT
 
 public:
-    /// The export types are tried in their order after the logbook's own type.
-    explicit Carnet(Desktop& desktop, const std::vector<ExportType>& exportTypes = {});
+    /// The exports are what it can be saved as besides its own type; they outlive it.
+    explicit Carnet(Desktop& desktop, std::span<const LogbookExport> exports = {});
     ~Carnet() override;
 
     /// The document's type name, localised.
@@ -37,7 +31,6 @@ public:
 
     DiveForm& form() { return static_cast<DiveForm&>(BookBase::form()); }
     const DiveForm& form() const { return static_cast<const DiveForm&>(BookBase::form()); }
-    const std::vector<ExportType>& exportTypes() const { return exportTypes_; }
 
     Expected<QByteArray> dataRepresentationOfType(const QString& type) override;
 
@@ -87,7 +80,7 @@ protected:
 private:
     void setUpFirstRunColumns();
 
-    std::vector<ExportType> exportTypes_;
+    std::span<const LogbookExport> exports_;
 };
 
 }  // namespace tavrel

@@ -7,16 +7,14 @@
 #include <QApplication>
 #include <QDir>
 #include <QLineEdit>
+#include <QLockFile>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include <fcntl.h>
-#include <sys/file.h>
 #include <thread>
-#include <unistd.h>
 
 namespace tavrel {
 
@@ -140,9 +138,8 @@ TEST(InstanceServer, isNotHeldUpByWhatIsInItsWay) {
     constexpr StartPatience brief{50, 50};
     // A folder bears the name, and a start that hangs has the lock of the name beside it.
     ASSERT_TRUE(QDir().mkdir(socket));
-    const QByteArray lock = QFile::encodeName(socket + QStringLiteral("-2.lock"));
-    const int held = ::open(lock.constData(), O_RDWR | O_CREAT, 0600);
-    ASSERT_EQ(::flock(held, LOCK_EX), 0);
+    QLockFile held(socket + QStringLiteral("-2.lock"));
+    ASSERT_TRUE(held.tryLock());
     InstanceServer first(socket, brief);
     EXPECT_EQ(first.handOver({}), InstanceServer::HandedOver::toNobody);
     EXPECT_TRUE(first.listen());
@@ -150,7 +147,6 @@ TEST(InstanceServer, isNotHeldUpByWhatIsInItsWay) {
     InstanceServer second(socket, brief);
     EXPECT_EQ(second.handOver({}), InstanceServer::HandedOver::busy);
     EXPECT_FALSE(second.listen());
-    ::close(held);
 }
 
 }  // namespace

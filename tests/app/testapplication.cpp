@@ -17,8 +17,9 @@ DocumentTypes testDocumentTypes() {
     const auto makeWindow = [](Document& document, Desktop& desktop) {
         return std::make_unique<TestWindow>(document, desktop);
     };
-    const auto produce = [](Carnet& carnet) -> Expected<QByteArray> { return QByteArray::number(carnet.count()); };
-    const ExportType counted{QStringLiteral("Counted"), produce};
+    static constexpr LogbookExport counted[]{
+        {"counted", "Counted", literal("Counted"), "txt",
+         [](Carnet& carnet) -> Expected<QByteArray> { return QByteArray::number(carnet.count()); }}};
     const auto showExport = [](DocumentWindow& window, const FileTaken& isTaken) {
         static_cast<TestWindow&>(window).isTaken = isTaken;
     };
@@ -27,8 +28,8 @@ DocumentTypes testDocumentTypes() {
         static_cast<TestWindow&>(window).takenIn.append(file);
     };
     return {{carnetDescription().kind, Title("Main", "Carnet de plongee"), "newCarnetDocumentMenuAction",
-             [=](Desktop& desktop) { return std::make_unique<Carnet>(desktop, std::vector{counted}); }, makeWindow,
-             showExport, takesIn, takeIn},
+             [=](Desktop& desktop) { return std::make_unique<Carnet>(desktop, counted); }, makeWindow, showExport,
+             takesIn, takeIn},
             {{literal("Budget"), "Coin", "budget"},
              Title("Main", "Materiel"),
              "newBudgetDocumentMenuAction",

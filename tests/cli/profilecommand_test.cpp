@@ -50,7 +50,7 @@ TEST_F(ProfileCommand, showsAndReplacesSeries) {
     EXPECT_EQ(done("profile a.carnet --row 0 --series ascent"), QString());
     writeContents(path(QStringLiteral("depth.txt")), "3\n7\n");
     writeContents(path(QStringLiteral("slow.txt")), "1\n0");
-    done("profile a.carnet --row 0 --replace depth=depth.txt --replace slow=slow.txt");
+    done("profile --row 0 --replace depth=depth.txt --replace slow=slow.txt a.carnet");
     EXPECT_EQ(done("profile a.carnet --row 0 --series depth"), u"3.0\n7.0\nnan");
     EXPECT_EQ(done("profile a.carnet --row 0 --series slow"), u"1\n0");
     EXPECT_EQ(done("profile a.carnet --row 0 --series gas"), u"0\n1\n0\n2");

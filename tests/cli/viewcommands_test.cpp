@@ -150,6 +150,13 @@ TEST_F(ViewCommands, cardsAndPagesComeFromTheSameRooms) {
     EXPECT_EQ(runs, whole);
     EXPECT_EQ(card[u"runs"][0][u"colour"], QStringLiteral("#00ff00"));
     EXPECT_FALSE(done("card m.materiel").contains(u'\r'));
+    // Rows stand behind one "--row" or several, before the file's name or after it.
+    for (const char* command : {"card --row 0 1 m.materiel", "card m.materiel --row 0 1",
+                                "card --row 0 m.materiel --row 1", "card --row=0 --json --row 1 m.materiel"}) {
+        const QString shown = done(command);
+        EXPECT_TRUE(shown.contains(u"Alpha") && shown.contains(u"Beta")) << command;
+    }
+    EXPECT_FALSE(done("card --row 0 m.materiel").contains(u"Beta"));
 
     for (int row = 0; row < 70; ++row) {
         done("add m.materiel typeMatos=Fins");
@@ -161,7 +168,7 @@ TEST_F(ViewCommands, cardsAndPagesComeFromTheSameRooms) {
         {"render m.materiel list.pdf --what table", "list.pdf", "%PDF"},
         {"render m.materiel list.svg --what table", "list.svg", "<svg"},
         {"render m.materiel more.svg --what table", "more-2.svg", "<svg"},
-        {"render m.materiel list.png --what card --row 1", "list.png", "\x89PNG"},
+        {"render --what card --row 1 m.materiel list.png", "list.png", "\x89PNG"},
         {"render a.carnet stats.svg --what stats", "stats.svg", "<text"},
         {"render a.carnet graphs.svg --what graphs", "graphs.svg", "<text"},
         {"render a.carnet card.svg --what card", "card.svg", "<text"},

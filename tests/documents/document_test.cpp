@@ -113,9 +113,9 @@ TEST(Document, staysAsItIsWhenReadingOrWritingFails) {
     EXPECT_EQ(opened.error().message(), u"“damaged” could not be opened: damaged (byte 0)");
     EXPECT_FALSE(note.open(desktop.path(QStringLiteral("missing"))));
     EXPECT_FALSE(note.saveAs(desktop.path(QStringLiteral("note/below"))));
-    EXPECT_FALSE(note.exportAs(damaged, QStringLiteral("Unknown")));
+    EXPECT_FALSE(note.writeExport(damaged, note.dataRepresentationOfType(QStringLiteral("Unknown"))));
     EXPECT_EQ(contentsOf(damaged), "!x");
-    ASSERT_TRUE(note.exportAs(damaged, QStringLiteral("Export")));
+    ASSERT_TRUE(note.writeExport(damaged, note.dataRepresentationOfType(QStringLiteral("Export"))));
     EXPECT_EQ(contentsOf(damaged), "TWO");
 
     EXPECT_EQ(note.words, "two");

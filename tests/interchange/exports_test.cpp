@@ -47,7 +47,7 @@ protected:
     }
 
     TestDesktop desktop;
-    Carnet carnet{desktop.desktop(), logbookExportTypes()};
+    Carnet carnet{desktop.desktop(), logbookExports()};
 };
 
 /// The dives of both formats; UDDF writes the names of date and time in lower case.
@@ -274,7 +274,7 @@ TEST_F(Exports, ofAnEmptyLogbook) {
     EXPECT_EQ(exported("profiles-csv"), "Dive #,Point,Depth,ASC,SLOW,CEIL,SURF,GAS,PRESS\n");
     EXPECT_NE(exported("udcf").find("<TOTALDIVES>0</TOTALDIVES>\n  </ADDINFO>\n  <REPGROUP/>\n"), std::string::npos);
     const QString target = desktop.path(QStringLiteral("empty.uddf"));
-    EXPECT_FALSE(carnet.exportAs(target, QStringLiteral("Export UDDF (Universal Dive Data Format)")));
+    EXPECT_FALSE(carnet.writeExport(target, exportUDDFFormat(carnet)));
     EXPECT_FALSE(QFile::exists(target));
 }
 
@@ -288,7 +288,7 @@ TEST_F(Exports, canBeCancelled) {
             return done < 50;
         });
         const QString target = desktop.path(QString::fromLatin1(it.name));
-        EXPECT_FALSE(carnet.exportAs(target, QString::fromLatin1(it.typeName))) << it.name;
+        EXPECT_FALSE(carnet.writeExport(target, it.produce(carnet))) << it.name;
         EXPECT_FALSE(QFile::exists(target)) << it.name;
         EXPECT_TRUE(last >= 50 && last < 100) << last;
     }
@@ -301,7 +301,7 @@ TEST_F(Exports, nameTheCharacterThatDoesNotFitAndKeepTheFile) {
     add({wreckDive(), unfit});
     const QString target = desktop.path(QStringLiteral("dives.csv"));
     writeContents(target, "kept");
-    const auto done = carnet.exportAs(target, QStringLiteral("Export Carnet CSV (Virgule)"));
+    const auto done = carnet.writeExport(target, exportTextCSVFormat(carnet, ",", ""));
     ASSERT_FALSE(done);
     const QString message = done.error().message();
     EXPECT_TRUE(message.contains(u"58") && message.contains(u"Δ") && message.contains(u"U+0394"))

@@ -52,7 +52,7 @@ protected:
     }
 
     TestDesktop desktop;
-    Carnet carnet{desktop.desktop(), logbookExportTypes()};
+    Carnet carnet{desktop.desktop(), logbookExports()};
 };
 
 QString localText(const Date& date) {

@@ -14,7 +14,7 @@ namespace tavrel {
 namespace {
 
 const LogbookExport& formatNamed(std::string_view name) {
-    const auto& all = logbookExports();
+    const auto all = logbookExports();
     return *std::find_if(all.begin(), all.end(), [&](const LogbookExport& each) { return each.name == name; });
 }
 

@@ -59,7 +59,6 @@
 <message><source>Document not opened</source><translation>“%@” could not be opened: %@</translation></message>
 <message><source>Document not saved</source><translation>“%@” could not be saved: %@</translation></message>
 <message><source>Don't save</source><translation>Don’t Save</translation></message>
-<message><source>Drawing too long</source><translation>This is too long for one picture. A PDF file has room for it.</translation></message>
 <message><source>Empty record book</source><translation>There are no cards yet. %@ makes a new one.</translation></message>
 <message><source>Equipment types</source><translation>Equipment Types</translation></message>
 <message><source>Erase</source><translation>Clear</translation></message>
@@ -178,7 +177,6 @@
 Two programs that save the same document undo each other’s changes.</translation></message>
 <message><source>Open read-only</source><translation>Open Read-Only</translation></message>
 <message><source>Overwrite</source><translation>Overwrite</translation></message>
-<message><source>Page number</source><translation>%d / %d</translation></message>
 <message><source>Page of pages</source><translation>Page %d of %d</translation></message>
 <message><source>Pages</source><translation>Pages of the form</translation></message>
 <message><source>Picture</source><translation>Picture</translation></message>

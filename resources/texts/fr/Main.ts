@@ -59,7 +59,6 @@
 <message><source>Document not opened</source><translation>Impossible d’ouvrir « %@ » : %@</translation></message>
 <message><source>Document not saved</source><translation>Impossible d’enregistrer « %@ » : %@</translation></message>
 <message><source>Don't save</source><translation>Ne pas enregistrer</translation></message>
-<message><source>Drawing too long</source><translation>C’est trop long pour une seule image. Un fichier PDF peut le contenir.</translation></message>
 <message><source>Empty record book</source><translation>Il n’y a pas encore de fiche. %@ en crée une.</translation></message>
 <message><source>Equipment types</source><translation>Types de matériel</translation></message>
 <message><source>Erase</source><translation>Effacer</translation></message>
@@ -178,7 +177,6 @@
 Deux programmes qui enregistrent le même document défont chacun les modifications de l’autre.</translation></message>
 <message><source>Open read-only</source><translation>Ouvrir en lecture seule</translation></message>
 <message><source>Overwrite</source><translation>Remplacer</translation></message>
-<message><source>Page number</source><translation>%d / %d</translation></message>
 <message><source>Page of pages</source><translation>Page %d sur %d</translation></message>
 <message><source>Pages</source><translation>Pages du formulaire</translation></message>
 <message><source>Picture</source><translation>Image</translation></message>

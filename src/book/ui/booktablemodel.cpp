@@ -10,54 +10,110 @@ namespace tavrel {
 BookTableModel::BookTableModel(BookBase& book, QObject* parent)
     : QAbstractTableModel(parent), book_(book), table_(book) {
     bold_.setBold(true);
-    connect(&book, &ListDocument::listChanged, this, &BookTableModel::follow);
+    showRows();
+    connect(&book, &ListDocument::listChanged, this, &BookTableModel::followList);
     connect(&book, &BookBase::tableReloadRequested, this, &BookTableModel::reload);
-    connect(&book.filter(), &BookFilter::changed, this, &BookTableModel::reload);
+    connect(&book.filter(), &BookFilter::changed, this, &BookTableModel::followFilter);
 }
 
 int BookTableModel::recordOf(int row) const {
-    return book_.filter().isActive() ? book_.filter().shownRows()[static_cast<std::size_t>(row)] : row;
+    return isFiltered_ ? rows_[static_cast<std::size_t>(row)] : row;
 }
 
 int BookTableModel::rowOf(int record) const {
-    if (!book_.filter().isActive()) {
+    if (!isFiltered_) {
         return record;
     }
-    const std::vector<int>& shown = book_.filter().shownRows();
-    const auto found = std::lower_bound(shown.begin(), shown.end(), record);
-    return found != shown.end() && *found == record ? static_cast<int>(found - shown.begin()) : -1;
+    const auto found = std::lower_bound(rows_.begin(), rows_.end(), record);
+    return found != rows_.end() && *found == record ? static_cast<int>(found - rows_.begin()) : -1;
 }
 
 int BookTableModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : book_.filter().shownCount();
+    return parent.isValid() ? 0 : static_cast<int>(isFiltered_ ? rows_.size() : records_->size());
 }
 
 int BookTableModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(table_.columns().size());
 }
 
-void BookTableModel::follow(const ListChange& change) {
+void BookTableModel::showRows() {
+    records_ = book_.sharedRecords();
+    isFiltered_ = book_.filter().isActive();
+    rows_ = isFiltered_ ? book_.filter().shownRows() : std::vector<int>();
     row_ = -1;
+}
+
+ListChange BookTableModel::changeOfRows() const {
+    const BookFilter& filter = book_.filter();
+    const int before = rowCount();
+    const int after = filter.shownCount();
+    const auto isSame = [&](int old, int now) {
+        const int place = filter.isActive() ? filter.shownRows()[static_cast<std::size_t>(now)] : now;
+        return (*records_)[static_cast<std::size_t>(recordOf(old))] == book_.records()[static_cast<std::size_t>(place)];
+    };
+    const int shorter = std::min(before, after);
+    int first = 0;
+    while (first < shorter && isSame(first, first)) {
+        ++first;
+    }
+    int last = 0;
+    while (last < shorter - first && isSame(before - 1 - last, after - 1 - last)) {
+        ++last;
+    }
+    return {first, before - first - last, after - first - last};
+}
+
+void BookTableModel::insertOrRemove(const ListChange& change) {
+    if (change.removed == 0) {
+        beginInsertRows({}, change.first, change.first + change.inserted - 1);
+        showRows();
+        endInsertRows();
+    } else if (change.inserted == 0) {
+        beginRemoveRows({}, change.first, change.first + change.removed - 1);
+        showRows();
+        endRemoveRows();
+    } else {
+        reload();
+    }
+}
+
+void BookTableModel::followList() {
     if (book_.filter().isActive()) {
         return;  // the filter says itself what has become of its rows
     }
+    const ListChange change = changeOfRows();
     if (change.removed != change.inserted) {
-        reload();
-    } else if (change.inserted > 0) {
+        insertOrRemove(change);
+        return;
+    }
+    showRows();
+    if (change.inserted > 0) {
         Q_EMIT dataChanged(index(change.first, 0), index(change.first + change.inserted - 1, columnCount() - 1));
+    }
+}
+
+void BookTableModel::followFilter() {
+    const ListChange change = changeOfRows();
+    if (change.removed > 0 || change.inserted > 0) {
+        insertOrRemove(change);
+        return;
+    }
+    showRows();
+    if (rowCount() > 0) {  // other words are marked in the same rows
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
     }
 }
 
 void BookTableModel::reload() {
     beginResetModel();
     table_.reload();
-    row_ = -1;
+    showRows();
     endResetModel();
 }
 
 const Cell& BookTableModel::cellAt(const QModelIndex& index) const {
     if (index.row() != row_ || index.column() != column_) {
-        cell_ = table_.cell(recordOf(index.row()), index.column());
+        cell_ = table_.cell(*(*records_)[static_cast<std::size_t>(recordOf(index.row()))], index.column());
         row_ = index.row();
         column_ = index.column();
     }

@@ -6,6 +6,8 @@
 #include <QAbstractTableModel>
 #include <QFont>
 
+#include <vector>
+
 namespace tavrel {
 
 /// The records of a book that its filter shows as rows, every column of its description as a column. A cell is worked
@@ -32,11 +34,20 @@ public:
     void reload();
 
 private:
-    void follow(const ListChange& change);
+    /// Which rows differ from what is shown now: so many of them went and so many came.
+    ListChange changeOfRows() const;
+    void followList();
+    void followFilter();
+    void showRows();
+    /// Takes rows in or out where the change does only that, and reads all of them again where it does more.
+    void insertOrRemove(const ListChange& change);
     const Cell& cellAt(const QModelIndex& index) const;
 
     BookBase& book_;
     BookTable table_;
+    ListDocument::SharedList records_;
+    bool isFiltered_ = false;
+    std::vector<int> rows_;  ///< the places of the records that the filter shows, while it is active
     QFont bold_;
     mutable Cell cell_;
     mutable int row_ = -1;  ///< of cell_; -1 when there is none

@@ -6,6 +6,7 @@
 #include <QDragEnterEvent>
 #include <QDragMoveEvent>
 #include <QDropEvent>
+#include <QFontMetricsF>
 #include <QHeaderView>
 #include <QHideEvent>
 #include <QMenu>
@@ -108,6 +109,26 @@ void BookTableView::setColumn(const QString& field, bool visible) {
     if (columnsMenu_) {
         columnsMenu_->actions().at(place)->setChecked(visible);
     }
+}
+
+TablePart BookTableView::shownPart() const {
+    TablePart part;
+    const double digit = QFontMetricsF(font()).horizontalAdvance(u'0');
+    const QHeaderView& header = *horizontalHeader();
+    for (int place = 0; place < header.count(); ++place) {
+        if (const int column = header.logicalIndex(place); !header.isSectionHidden(column)) {
+            part.columns.push_back({column, header.sectionSize(column) / digit});
+        }
+    }
+    if (header.stretchLastSection() && !part.columns.empty()) {
+        part.columns.back().width = 0;  // as wide as the window leaves it, which nobody asked for
+    }
+    const int rows = model_->rowCount();
+    part.records.reserve(static_cast<std::size_t>(rows));
+    for (int row = 0; row < rows; ++row) {
+        part.records.push_back(book_.recordAt(model_->recordOf(row)));
+    }
+    return part;
 }
 
 void BookTableView::sortBy(int place) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "book/tablepages.h"
 #include "book/ui/booktablemodel.h"
 #include "documents/ui/recordtable.h"
 
@@ -22,6 +23,9 @@ public:
     void setColumn(const QString& field, bool visible);
     /// The place of a column by its field; -1 when there is none.
     int columnOf(std::string_view field) const { return model_->table().columnOf(field); }
+
+    /// What the window shows of the book, columns in their order and widths, for its way to paper.
+    TablePart shownPart() const;
 
     /// The columns to show, as a menu; null where all columns always show.
     QMenu* columnsMenu() const { return columnsMenu_; }

@@ -7,17 +7,17 @@
 #include "book/ui/booktableview.h"
 #include "book/ui/cardwindow.h"
 #include "book/ui/repertorywindow.h"
-#include "desktop/alerts.h"
+#include "desktop/clock.h"
 #include "desktop/preferences.h"
 #include "desktop/ui/customtoolbar.h"
 #include "desktop/ui/progresswindow.h"
-#include "documents/ui/printing.h"
+#include "documents/ui/madewindows.h"
+#include "drawing/ui/printing.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QMenu>
-#include <QPrinter>
 #include <QScreen>
 #include <QStatusBar>
 #include <QVBoxLayout>
@@ -180,39 +180,28 @@ void BookWindow::open() {
 }
 
 void BookWindow::printDocument() {
-    const PrintSettings settings = landscapeSettings();
-    printDeselected([this, &settings] {
-        QPrinter printer;
-        if (runPrintDialog(this, settings, printer) && !printTable(printer, *table_, settings, book_.displayName()) &&
-            printer.printerState() == QPrinter::Error) {
-            desktop_.alerts.fail({text("Main", "Printing failed"), printer.outputFileName()});
-        }
-    });
+    printDeselected([this](const PrintJob& job) { runPrint(this, job, desktop_.alerts); });
 }
 
 void BookWindow::previewDocument() {
-    const PrintSettings settings = landscapeSettings();
-    printDeselected([this, &settings] {
-        runPrintPreview(this, settings, [this, &settings](QPrinter& printer) {
-            printTable(printer, *table_, settings, book_.displayName());
-        });
-    });
+    printDeselected([this](const PrintJob& job) { runPrintPreview(this, job); });
 }
 
-PrintSettings BookWindow::landscapeSettings() const {
+PrintJob BookWindow::printJob() const {
     PrintSettings settings = book_.description().print;
     settings.landscape = true;
-    return settings;
+    return {settings, book_.displayName(), desktop_.clock.now().date(),
+            [this](const Paper& paper) { return pagesOf(book_, table_->shownPart(), paper); }};
 }
 
-void BookWindow::printDeselected(const std::function<void()>& print) {
+void BookWindow::printDeselected(const std::function<void(const PrintJob& job)>& print) {
     finishEntry();
     if (!book_.leaveForm(Leaving::elsewhere)) {
         return;
     }
     const QList<int> selected = book_.selectedRows();
     book_.deselectAll();
-    print();
+    print(printJob());
     book_.selectRows(selected);
 }
 
@@ -295,17 +284,7 @@ QAction* BookWindow::commandAction(const QString& name) {
 }
 
 QList<QWidget*> BookWindow::furtherWindows() {
-    QList<QWidget*> windows;
-    if (editWindow_) {
-        windows.append(editWindow_.get());
-    }
-    if (cardWindow_) {
-        windows.append(cardWindow_.get());
-    }
-    if (repertoryWindow_) {
-        windows.append(repertoryWindow_.get());
-    }
-    return windows;
+    return madeWindows({editWindow_.get(), cardWindow_.get(), repertoryWindow_.get()});
 }
 
 }  // namespace tavrel

@@ -17,6 +17,7 @@ class BookTableView;
 class CardWindow;
 class CustomToolBar;
 class RepertoryWindow;
+struct PrintJob;
 
 /// The window of a book: the table of its records under their filter, the searches, and every command on them, all as
 /// its description says.
@@ -70,8 +71,9 @@ private:
     void showRowMenu(const QPoint& place);
     void open();
     void copySelection();
-    PrintSettings landscapeSettings() const;
-    void printDeselected(const std::function<void()>& print);
+    /// The table as it is shown, landscape.
+    PrintJob printJob() const;
+    void printDeselected(const std::function<void(const PrintJob& job)>& print);
     void updateState();
     QAction* command(const char* name) const { return actions_->action(QLatin1StringView(name)); }
     QString layoutName() const { return QLatin1StringView(book_.description().layoutName); }

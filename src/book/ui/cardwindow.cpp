@@ -1,17 +1,16 @@
 #include "book/ui/cardwindow.h"
 
 #include "base/texts.h"
-#include "desktop/alerts.h"
+#include "desktop/clock.h"
 #include "desktop/ui/bringtofront.h"
 #include "desktop/ui/icons.h"
 #include "desktop/ui/keptframe.h"
 #include "desktop/ui/readablecolour.h"
 #include "desktop/ui/windowkeys.h"
-#include "documents/ui/printing.h"
 #include "drawing/pages.h"
+#include "drawing/ui/printing.h"
 
 #include <QEvent>
-#include <QPrinter>
 #include <QScrollBar>
 #include <QTextDocument>
 #include <QTextEdit>
@@ -74,14 +73,9 @@ void CardWindow::bringToFront() {
 }
 
 void CardWindow::print() {
-    QPrinter printer;
-    if (!runPrintDialog(this, print_, printer)) {
-        return;
-    }
-    if (!printText(printer, *textDocumentOf(card_), print_, windowTitle()) &&
-        printer.printerState() == QPrinter::Error) {
-        desktop_.alerts.fail({text("Main", "Printing failed"), printer.outputFileName()});
-    }
+    const PrintJob job{print_, windowTitle(), desktop_.clock.now().date(),
+                       [this](const Paper& paper) { return pagesOf(card_, paper); }};
+    runPrint(this, job, desktop_.alerts);
 }
 
 void CardWindow::changeEvent(QEvent* event) {

@@ -1,13 +1,9 @@
 #include "desktop/ui/icons.h"
 
+#include "desktop/iconfiles.h"
+
 #include <QFile>
 #include <QHash>
-
-/// The drawings live in a static library, whose resources must be registered by hand; outside the namespace because the
-/// macro declares a function.
-static void registerIcons() {
-    Q_INIT_RESOURCE(icons);
-}
 
 namespace tavrel {
 
@@ -17,10 +13,7 @@ QIcon iconNamed(const QString& name) {
     if (known != icons.constEnd()) {
         return *known;
     }
-    if (icons.isEmpty()) {
-        registerIcons();
-    }
-    const QString path = QStringLiteral(":/icons/%1.svg").arg(name);
+    const QString path = iconFile(name);
     return *icons.insert(name, QFile::exists(path) ? QIcon(path) : QIcon());
 }
 

@@ -1,21 +1,17 @@
 #include "dives/ui/consumptionsheet.h"
 
 #include "base/texts.h"
-#include "desktop/alerts.h"
+#include "desktop/clock.h"
 #include "desktop/commonsettings.h"
 #include "desktop/preferences.h"
 #include "dives/cardcolours.h"
 #include "dives/consumption.h"
-#include "documents/ui/printing.h"
-#include "drawing/pages.h"
-#include "drawing/styledtext.h"
+#include "drawing/ui/printing.h"
 
 #include <QDialogButtonBox>
 #include <QFontMetrics>
 #include <QLabel>
-#include <QPrinter>
 #include <QPushButton>
-#include <QTextDocument>
 #include <QVBoxLayout>
 
 namespace tavrel {
@@ -76,18 +72,13 @@ void ConsumptionSheet::consommation(const GasReadings& readings, const QString& 
 }
 
 void ConsumptionSheet::print() {
-    QPrinter printer;
-    if (!runPrintDialog(this, print_, printer)) {
-        return;
-    }
     StyledText report;
     report.append(windowTitle() + QStringLiteral("\n\n"), cardcolours::heading);
     report.append(consoField_->text() + QStringLiteral("\n\n"), cardcolours::value);
     report.append(explanations_->text(), cardcolours::label);
-    printText(printer, *textDocumentOf(report), print_, windowTitle());
-    if (printer.printerState() == QPrinter::Error) {
-        desktop_.alerts.fail({text("Main", "Printing failed"), printer.outputFileName()});
-    }
+    const PrintJob job{print_, windowTitle(), desktop_.clock.now().date(),
+                       [&report](const Paper& paper) { return pagesOf(report, paper); }};
+    runPrint(this, job, desktop_.alerts);
 }
 
 }  // namespace tavrel

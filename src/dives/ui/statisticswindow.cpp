@@ -1,7 +1,7 @@
 #include "dives/ui/statisticswindow.h"
 
 #include "base/texts.h"
-#include "desktop/alerts.h"
+#include "desktop/clock.h"
 #include "desktop/ui/bringtofront.h"
 #include "desktop/ui/icons.h"
 #include "desktop/ui/keptframe.h"
@@ -9,15 +9,13 @@
 #include "dives/statisticsreport.h"
 #include "dives/ui/graphes.h"
 #include "dives/ui/previoustotalswindow.h"
-#include "documents/ui/printing.h"
-#include "drawing/ui/printdrawing.h"
+#include "drawing/ui/printing.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
-#include <QPrinter>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <QToolBar>
@@ -169,19 +167,13 @@ void StatisticsWindow::refresh() {
 
 void StatisticsWindow::printStatistics() {
     refresh();
-    PrintSettings settings = print_;
     const bool graphs = pages_->currentWidget() == graphes_;
-    settings.landscape = graphs;
-    QPrinter printer;
-    if (!runPrintDialog(this, settings, printer)) {
-        return;
-    }
-    const bool printed =
-        graphs ? printDrawing(printer, graphes_->drawing())
-               : printStyledText(printer, statisticsReport(*statistics_, source_.name()), settings, windowTitle());
-    if (!printed && printer.printerState() == QPrinter::Error) {
-        desktop_.alerts.fail({text("Main", "Printing failed"), printer.outputFileName()});
-    }
+    PrintJob job{print_, windowTitle(), desktop_.clock.now().date(), [this, graphs](const Paper& paper) {
+                     return graphs ? pagesOf(graphes_->drawing())
+                                   : pagesOf(statisticsReport(*statistics_, source_.name()), paper);
+                 }};
+    job.settings.landscape = graphs;
+    runPrint(this, job, desktop_.alerts);
 }
 
 }  // namespace tavrel

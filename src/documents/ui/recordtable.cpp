@@ -116,6 +116,8 @@ RecordTable::RecordTable(QAbstractItemModel* tableModel, ListDocument& document,
                          QWidget* parent)
     : QTableView(parent), document_(document), shown_(shown), placeholder_(new QLabel(viewport())) {
     setModel(tableModel);
+    // The selection moves its current row when that goes; connected before it, the table knows why.
+    connect(tableModel, &QAbstractItemModel::rowsAboutToBeRemoved, this, [this] { rowsGo_ = true; });
     const std::unique_ptr<QItemSelectionModel> unused(selectionModel());
     selection_ = new RowSelectionModel(tableModel, document, shown, this);
     setSelectionModel(selection_);
@@ -158,6 +160,11 @@ RecordTable::RecordTable(QAbstractItemModel* tableModel, ListDocument& document,
         }
     });
     connect(tableModel, &QAbstractItemModel::modelReset, this, &RecordTable::updatePlaceholder);
+    connect(tableModel, &QAbstractItemModel::rowsInserted, this, &RecordTable::updatePlaceholder);
+    connect(tableModel, &QAbstractItemModel::rowsRemoved, this, [this] {
+        rowsGo_ = false;
+        updatePlaceholder();
+    });
     connect(&document, &ListDocument::selectionChanged, viewport(), qOverload<>(&QWidget::update));
     connect(&document, &ListDocument::rowRevealed, this, &RecordTable::reveal);
     updatePlaceholder();
@@ -239,7 +246,7 @@ QModelIndex RecordTable::moveCursor(CursorAction action, Qt::KeyboardModifiers m
 
 void RecordTable::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     // The table follows the keyboard; where the document selects, it says itself what is to be seen.
-    setAutoScroll(!selection_ || !selection_->isMirroring());
+    setAutoScroll(!rowsGo_ && (!selection_ || !selection_->isMirroring()));
     QTableView::currentChanged(current, previous);
     setAutoScroll(true);
 }

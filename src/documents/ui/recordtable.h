@@ -62,6 +62,7 @@ private:
     const ShownRecords& shown_;
     RowSelectionModel* selection_ = nullptr;
     CellDelegate* cells_ = nullptr;
+    bool rowsGo_ = false;  ///< rows are being taken out
     QLabel* placeholder_;
 };
 

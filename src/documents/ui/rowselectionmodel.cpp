@@ -33,6 +33,8 @@ RowSelectionModel::RowSelectionModel(QAbstractItemModel* model, ListDocument& do
                                      QObject* parent)
     : QItemSelectionModel(model, parent), document_(document), shown_(shown) {
     connect(model, &QAbstractItemModel::modelReset, this, &RowSelectionModel::mirror);
+    connect(model, &QAbstractItemModel::rowsInserted, this, &RowSelectionModel::mirror);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, &RowSelectionModel::mirror);
     connect(&document, &ListDocument::listChanged, this, &RowSelectionModel::mirror);
     connect(&document, &ListDocument::selectionChanged, this, &RowSelectionModel::mirror);
     mirror();

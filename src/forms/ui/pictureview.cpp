@@ -1,11 +1,11 @@
 #include "forms/ui/pictureview.h"
 
 #include "base/texts.h"
+#include "desktop/ui/icons.h"
 #include "forms/pictures.h"
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QIcon>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
@@ -79,7 +79,7 @@ void PictureView::paintEvent(QPaintEvent*) {
     if (shown.isNull()) {
         const QRect middle(place.center() - QPoint(placeholderSize / 2, placeholderSize / 2),
                            QSize(placeholderSize, placeholderSize));
-        QIcon(QStringLiteral(":/icons/noPhoto.svg")).paint(&painter, middle);
+        iconNamed(QStringLiteral("noPhoto")).paint(&painter, middle);
         if (picture_.isNull()) {
             painter.setPen(palette().color(QPalette::PlaceholderText));
             painter.drawText(place, int(Qt::AlignHCenter) | int(Qt::AlignBottom) | int(Qt::TextWordWrap),

@@ -86,12 +86,19 @@ QString doubtName(Doubt doubt) {
     return QString::fromLatin1(wordsOf(doubt).name);
 }
 
-QString doubtText(Doubt doubt) {
-    return text(wordsOf(doubt).text);
-}
-
 bool FoundDive::has(Doubt doubt) const {
     return std::find(doubts.begin(), doubts.end(), doubt) != doubts.end();
+}
+
+QStringList FoundDive::remarks() const {
+    QStringList remarks;
+    if (duplicate) {
+        remarks.append(text("Interchange", "Already there"));
+    }
+    for (const Doubt each : doubts) {
+        remarks.append(text(wordsOf(each).text));
+    }
+    return remarks;
 }
 
 void FoundDive::lose(const QString& name, const QString& text) {

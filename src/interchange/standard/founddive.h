@@ -16,8 +16,6 @@ enum class Doubt { noDate, tooDeep, inFuture, noSamples, groupSkipped };
 
 /// The word of a doubt for programs, the same in every language.
 QString doubtName(Doubt doubt);
-/// The same for the user.
-QString doubtText(Doubt doubt);
 
 /// Something that stands in a file and has no place in a dive: its name as the file's format calls it, and its words,
 /// if it holds any, which the notes may take.
@@ -34,6 +32,8 @@ struct FoundDive {
     bool duplicate = false;      ///< the logbook holds it already, or the file names it twice
 
     bool has(Doubt doubt) const;
+    /// What is to be said of it to the user: that it is there already, and its doubts.
+    QStringList remarks() const;
     void lose(const QString& name, const QString& text = {});
 };
 

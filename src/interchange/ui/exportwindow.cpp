@@ -147,7 +147,7 @@ int ExportWindow::tickedColumns() const {
 
 QStringList ExportWindow::columns() const {
     QStringList chosen;
-    if (format().hasColumns && tickedColumns() < columns_->count()) {
+    if (format().hasColumns() && tickedColumns() < columns_->count()) {
         for (int row = 0; row < columns_->count(); ++row) {
             if (columns_->item(row)->checkState() == Qt::Checked) {
                 chosen.append(columns_->item(row)->data(Qt::UserRole).toString());
@@ -168,9 +168,9 @@ void ExportWindow::tickAllColumns(bool ticked) {
 }
 
 void ExportWindow::choicesChanged() {
-    columnsBox_->setVisible(format().hasColumns);
+    columnsBox_->setVisible(format().hasColumns());
     lossesHint_->setVisible(format().heldFields.empty() && columns().isEmpty());
-    export_->setEnabled(!format().hasColumns || tickedColumns() > 0);
+    export_->setEnabled(!format().hasColumns() || tickedColumns() > 0);
     losses_->clear();
     losses_->addItem(text("Interchange", "Looking for losses"));
     due_.start();

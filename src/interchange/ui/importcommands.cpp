@@ -18,10 +18,10 @@ const QStringList commonExtensions{QStringLiteral("txt"), QStringLiteral("xml")}
 
 ImportCommands::ImportCommands(Carnet& carnet, LogbookWindow& window, Desktop& desktop, FileDialogs& fileDialogs)
     : QObject(&window), carnet_(carnet), window_(window), desktop_(desktop), fileDialogs_(fileDialogs) {
-    window.provideCommand(QStringLiteral("importUDCF"), [this] { importUDCF(); }, {"Carnet", "Menu import UDCF"});
-    window.provideCommand(QStringLiteral("importUDDF"), [this] { importUDDF(); }, {"Carnet", "Menu import UDDF"});
-    window.addImport(text("Carnet", "Menu import handheld"), [this] { importHandheld(); });
-    window.addImport(text("Interchange", "Import dives command"), [this] { importDives(); });
+    for (const LogbookImport& each : logbookImports()) {
+        window.addImport(each.command, each.toolItem, [this, format = each.format] { chooseAndImport(format); });
+    }
+    window.addImport({"Interchange", "Import dives command"}, nullptr, [this] { importDives(); });
     window.importActions().constLast()->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_I));
 }
 

@@ -18,7 +18,6 @@ public:
 
     void importUDCF() { chooseAndImport(ImportFormat::udcf); }
     void importUDDF() { chooseAndImport(ImportFormat::uddf); }
-    void importHandheld() { chooseAndImport(ImportFormat::handheld); }
 
     void importFile(const QString& file, ImportFormat format);
 

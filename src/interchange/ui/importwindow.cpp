@@ -183,7 +183,6 @@ void ImportWindow::stopReading() {
 }
 
 void ImportWindow::startReading() {
-    reading_ = true;
     state_ = std::make_shared<Reading>();
     const auto state = state_;
     thread_ = QThread::create([this, state, file = file_, columns = tableColumns(desktop_.preferences)] {
@@ -220,7 +219,6 @@ void ImportWindow::advance(int thousandths) {
 }
 
 void ImportWindow::showFound() {
-    reading_ = false;
     progress_->hide();
     if (!state_->source) {
         heading_->setText(state_->source.error().message());
@@ -263,13 +261,7 @@ void ImportWindow::showTable() {
 void ImportWindow::addRow(int index) {
     const FoundDive& found = found_.dives[static_cast<std::size_t>(index)];
     const BreathedGas breathed = breathedGas(found.dive);
-    QStringList words;
-    if (found.duplicate) {
-        words.append(text("Interchange", "Already there"));
-    }
-    for (const Doubt doubt : found.doubts) {
-        words.append(doubtText(doubt));
-    }
+    const QStringList words = found.remarks();
     auto* row = new QTreeWidgetItem(list_);
     row->setFlags(row->flags() | Qt::ItemIsUserCheckable);
     row->setCheckState(start, found.duplicate ? Qt::Unchecked : Qt::Checked);

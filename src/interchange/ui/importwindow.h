@@ -29,7 +29,6 @@ public:
     ImportWindow(Carnet& carnet, Desktop& desktop, const QString& file, QWidget* parent);
     ~ImportWindow() override;
 
-    bool isReading() const { return reading_; }
     QTreeWidget& list() { return *list_; }
     /// Takes the ticked dives over, tells what came in, and closes.
     void importChosen();
@@ -53,7 +52,6 @@ private:
     FoundDives found_;
     std::shared_ptr<Reading> state_;
     QThread* thread_ = nullptr;
-    bool reading_ = false;
 
     QLabel* heading_;
     QProgressBar* progress_;

@@ -9,6 +9,7 @@
 #include "dives/ui/consumptionsheet.h"
 #include "dives/ui/previoustotalswindow.h"
 #include "dives/ui/statisticswindow.h"
+#include "documents/ui/madewindows.h"
 #include "logbook/ui/logbookwindow.h"
 
 namespace tavrel {
@@ -136,14 +137,7 @@ void DiveWindows::refresh() {
 }
 
 QList<QWidget*> DiveWindows::windows() const {
-    QList<QWidget*> made;
-    if (statistics_) {
-        made.append(statistics_.get());
-    }
-    if (card_) {
-        made.append(card_.get());
-    }
-    return made;
+    return madeWindows({statistics_.get(), card_.get()});
 }
 
 }  // namespace tavrel

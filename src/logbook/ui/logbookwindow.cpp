@@ -3,6 +3,7 @@
 #include "base/texts.h"
 #include "book/ui/booktableview.h"
 #include "desktop/preferences.h"
+#include "documents/ui/madewindows.h"
 #include "logbook/ui/divedetails.h"
 #include "logbook/ui/divewindows.h"
 #include "logbook/ui/profilecommands.h"
@@ -86,10 +87,15 @@ QList<QAction*> LogbookWindow::viewActions() {
     return QList<QAction*>{detailsShown_, nullptr} + BookWindow::viewActions();
 }
 
-void LogbookWindow::addImport(const QString& title, const std::function<void()>& command) {
-    auto* action = new QAction(title, this);
-    connect(action, &QAction::triggered, this, command);
-    furtherImports_.append(action);
+void LogbookWindow::addImport(const Title& title, const char* toolItem, std::function<void()> command) {
+    if (toolItem) {
+        const QString identifier = QString::fromLatin1(toolItem);
+        provideCommand(identifier, std::move(command), title);
+        imports_.append(actions().action(identifier));
+        return;
+    }
+    imports_.append(new QAction(title.text(), this));
+    connect(imports_.constLast(), &QAction::triggered, this, std::move(command));
 }
 
 RenumberWindow& LogbookWindow::renumberWindow() {
@@ -99,22 +105,8 @@ RenumberWindow& LogbookWindow::renumberWindow() {
     return *renumberWindow_;
 }
 
-QList<QAction*> LogbookWindow::importActions() {
-    QList<QAction*> actions;
-    for (const char* identifier : {"importUDCF", "importUDDF"}) {
-        if (QAction* action = BookWindow::actions().action(QLatin1StringView(identifier))) {
-            actions.append(action);
-        }
-    }
-    return actions + furtherImports_;
-}
-
 QList<QWidget*> LogbookWindow::furtherWindows() {
-    QList<QWidget*> windows = BookWindow::furtherWindows() + profile_->windows() + dives_->windows();
-    if (renumberWindow_) {
-        windows.append(renumberWindow_);
-    }
-    return windows;
+    return BookWindow::furtherWindows() + profile_->windows() + dives_->windows() + madeWindows({renumberWindow_});
 }
 
 }  // namespace tavrel

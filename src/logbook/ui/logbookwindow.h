@@ -24,8 +24,8 @@ public:
     LogbookWindow(Carnet& carnet, Desktop& desktop);
     ~LogbookWindow() override;
 
-    /// An import that the toolbars have no item for; the File menu shows it behind theirs.
-    void addImport(const QString& title, const std::function<void()>& command);
+    /// An import for the File menu, which is that of the toolbars' item where they have one; null: they have none.
+    void addImport(const Title& title, const char* toolItem, std::function<void()> command);
 
     RenumberWindow& renumberWindow();
     ProfileCommands& profileCommands() { return *profile_; }
@@ -36,7 +36,7 @@ public:
 
     QList<QAction*> ownMenuActions() override;
     QList<QAction*> viewActions() override;
-    QList<QAction*> importActions() override;
+    QList<QAction*> importActions() override { return imports_; }
     QList<QWidget*> furtherWindows() override;
 
 private:
@@ -51,7 +51,7 @@ private:
     DiveDetails* details_;
     QAction* detailsShown_ = nullptr;
     RenumberWindow* renumberWindow_ = nullptr;
-    QList<QAction*> furtherImports_;
+    QList<QAction*> imports_;
 };
 
 }  // namespace tavrel

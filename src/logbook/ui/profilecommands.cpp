@@ -2,6 +2,7 @@
 
 #include "book/ui/bookeditwindow.h"
 #include "desktop/ui/bringtofront.h"
+#include "documents/ui/madewindows.h"
 #include "logbook/diveprofile.h"
 #include "logbook/ui/logbookwindow.h"
 #include "profile/ui/profileeditorwindow.h"
@@ -79,14 +80,7 @@ void ProfileCommands::profilInfo() {
 }
 
 QList<QWidget*> ProfileCommands::windows() const {
-    QList<QWidget*> made;
-    if (profileWindow_) {
-        made.append(profileWindow_.get());
-    }
-    if (editorWindow_) {
-        made.append(editorWindow_.get());
-    }
-    return made;
+    return madeWindows({profileWindow_.get(), editorWindow_.get()});
 }
 
 void ProfileCommands::scheduleRefresh() {

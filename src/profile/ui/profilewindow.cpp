@@ -1,18 +1,15 @@
 #include "profile/ui/profilewindow.h"
 
 #include "base/texts.h"
-#include "desktop/alerts.h"
 #include "desktop/ui/icons.h"
 #include "desktop/ui/keptframe.h"
-#include "documents/ui/printing.h"
-#include "drawing/ui/printdrawing.h"
+#include "drawing/ui/printing.h"
 #include "profile/ui/profileview.h"
 
 #include <QAction>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPrinter>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -104,13 +101,10 @@ QString ProfileWindow::sampleValues() const {
 }
 
 void ProfileWindow::print() {
-    PrintSettings settings;
-    settings.top = settings.bottom = settings.left = settings.right = 25;
-    settings.landscape = true;
-    QPrinter printer;
-    if (runPrintDialog(this, settings, printer) && !printDrawing(printer, view_->drawing())) {
-        alerts_.fail({text("Main", "Printing failed"), printer.outputFileName()});
-    }
+    PrintJob job{{}, view_->drawing().title, {}, [this](const Paper&) { return pagesOf(view_->drawing()); }};
+    job.settings.top = job.settings.bottom = job.settings.left = job.settings.right = 25;
+    job.settings.landscape = true;
+    runPrint(this, job, alerts_);
 }
 
 }  // namespace tavrel

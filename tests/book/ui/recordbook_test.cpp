@@ -2,6 +2,7 @@
 
 #include "base/texts.h"
 #include "book/card.h"
+#include "book/tablepages.h"
 #include "book/ui/bookeditwindow.h"
 #include "book/ui/bookfilterbar.h"
 #include "book/ui/booktableview.h"
@@ -9,28 +10,35 @@
 #include "book/ui/cardwindow.h"
 #include "book/ui/shelf.h"
 #include "desktop/ui/customtoolbar.h"
+#include "drawing/drawingfont.h"
 #include "forms/ui/datepicker.h"
 #include "forms/ui/starrating.h"
 #include "support/records.h"
 #include "support/testdesktop.h"
 
+#include <QAbstractItemModelTester>
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDragEnterEvent>
 #include <QDragMoveEvent>
 #include <QDropEvent>
+#include <QFontMetricsF>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
 #include <QProgressBar>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTest>
 #include <QTextEdit>
 #include <QUrl>
 #include <gtest/gtest.h>
+
+#include <cmath>
+#include <map>
 
 namespace tavrel {
 
@@ -178,9 +186,55 @@ TEST_F(RecordBookTest, tellsTheViewWhichRowsChanged) {
     EXPECT_EQ(resets.count(), 0);
     book.undoStack().undo();
     EXPECT_EQ(window.table().model()->index(1, 0).data().toString(), u"b");
-    hold({QStringLiteral("d")});
-    EXPECT_EQ(resets.count(), 1);
-    EXPECT_EQ(window.table().model()->rowCount(), 4);
+    EXPECT_EQ(changes.count(), 2);
+}
+
+TEST_F(RecordBookTest, takesRowsInAndOutWithoutMovingTheOthers) {
+    QStringList many;
+    for (int each = 0; each < 200; ++each) {
+        many.append(QStringLiteral("thing %1").arg(each));
+    }
+    hold(many);
+    QAbstractItemModel& model = *window.table().model();
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    const QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+    const QSignalSpy removals(&model, &QAbstractItemModel::rowsRemoved);
+    auto& scroll = *window.table().verticalScrollBar();
+    const auto at = [&](int row) { return model.index(row, 0).data().toString(); };
+    const auto changed = [&](auto change) {
+        RecordList list = book.records();
+        change(list);
+        book.changeList(QStringLiteral("Change"), list);
+    };
+    book.selectRows({100});
+    window.table().reveal(100);
+    const QPersistentModelIndex kept = model.index(100, 0);
+    const int scrolled = scroll.value();
+    ASSERT_GT(scrolled, 0);
+
+    changed([](RecordList& list) { list.erase(list.begin() + 150, list.begin() + 152); });
+    changed([](RecordList& list) { list.insert(list.begin() + 170, list.front()); });
+    EXPECT_EQ(removals.count(), 1);
+    EXPECT_EQ(model.rowCount(), 199);
+    EXPECT_EQ(at(150), u"thing 152");
+    EXPECT_EQ(at(170), u"thing 0");
+    changed([](RecordList& list) { list.erase(list.begin()); });
+    EXPECT_EQ(kept.row(), 99) << "the row goes with its record";
+    book.undoStack().undo();
+    EXPECT_EQ(kept.row(), 100);
+    EXPECT_EQ(scroll.value(), scrolled);
+    EXPECT_EQ(book.selectedRows(), QList<int>({100}));
+    EXPECT_TRUE(window.table().selectionModel()->isRowSelected(100, {}));
+    EXPECT_EQ(resets.count(), 0);
+
+    // Under a filter the rows shown are others than the list's.
+    window.filterBar().field().setText(QStringLiteral("19"));
+    EXPECT_EQ(model.rowCount(), 12) << "19, 119, 190 to 199";
+    changed([](RecordList& list) { list.erase(list.begin() + 19); });
+    EXPECT_EQ(at(0), u"thing 119");
+    EXPECT_EQ(removals.count(), 3);
+    window.filterBar().field().clear();
+    EXPECT_EQ(model.rowCount(), 198);
 }
 
 TEST_F(RecordBookTest, showsColoursOnlyWhereTheyAreNotThatOfText) {
@@ -234,6 +288,61 @@ TEST_F(RecordBookTest, filtersAsOneTypes) {
     QTest::keyClick(&field, Qt::Key_Escape);
     QTest::keyClick(&field, Qt::Key_Escape);
     EXPECT_TRUE(window.table().hasFocus());
+}
+
+/// The texts of a page that stand in the table's grid, row by row.
+QStringList rowsOn(const Drawing& page) {
+    std::map<int, std::map<double, QString>> rows;
+    for (const auto& primitive : page.primitives()) {
+        if (const auto* text = std::get_if<Drawing::Text>(&primitive); text && text->size == 11) {
+            rows[-qRound(text->at.y())][text->at.x()] = text->text;
+        }
+    }
+    QStringList lines;
+    for (const auto& [height, cells] : rows) {
+        QStringList words;
+        for (const auto& [place, word] : cells) {
+            words.append(word);
+        }
+        lines.append(words.join(u'|'));
+    }
+    return lines;
+}
+
+TEST_F(RecordBookTest, goesToPaperAsItIsShown) {
+    hold({QStringLiteral("Regulator"), QStringLiteral("Lamp 7"), QStringLiteral("Knife 7")});
+    ASSERT_TRUE(book.setValue(1, QStringLiteral("price"), 17.5F));
+    const Paper paper{QSizeF(400, 300), {10, 20, 30, 40, 1}, QStringLiteral("Shelf"), QDate(2024, 6, 15)};
+    EXPECT_EQ(rowsOn(pagesOf(book, window.table().shownPart(), paper).page(0)),
+              rowsOn(pagesOf(book, wholeTable(book), paper).page(0)));
+    window.table().setColumnHidden(2, true);
+    window.table().horizontalHeader()->moveSection(1, 0);
+    window.filterBar().field().setText(QStringLiteral("7"));
+    const Pages pages = pagesOf(book, window.table().shownPart(), paper);
+    EXPECT_EQ(pages.paper(), QSizeF(400, 300));
+    EXPECT_EQ(pages.size, QSizeF(330, 270));
+    EXPECT_EQ(rowsOn(pages.page(0)),
+              (QStringList{QStringLiteral("Price|Name"), QStringLiteral("17.5|Lamp 7"), QStringLiteral("0|Knife 7")}));
+}
+
+TEST_F(RecordBookTest, breaksItsTableIntoPages) {
+    // 30 rows in room for 15 with the heading, columns of 200, 100 and 300 where 330 fit beside each other.
+    hold(QStringList(30, QStringLiteral("thing")));
+    const double digit = QFontMetricsF(drawingFont(11)).horizontalAdvance(u'0');
+    const double line = std::ceil(QFontMetricsF(drawingFont(11, true)).height()) + 4;
+    const TablePart part{book.records(), {{0, 200 / digit}, {1, 100 / digit}, {2, 300 / digit}}};
+    const Paper paper{QSizeF(330, 16 * line + 20), {0, 0, 0, 0, 1}, {}, {}};
+    const Pages pages = pagesOf(book, part, paper);
+    ASSERT_EQ(pages.count, 4);
+    EXPECT_EQ(rowsOn(pages.page(0)).size(), 16);
+    EXPECT_EQ(rowsOn(pages.page(0)).front(), u"Name|Price");
+    EXPECT_EQ(rowsOn(pages.page(1)).front(), u"Stars");
+    EXPECT_EQ(rowsOn(pages.page(3)).size(), 16);
+    // A little too wide for the page, or with room to spare: made to fit on one.
+    const TablePart wider{{book.recordAt(0)}, {{0, 300 / digit}, {1, 100 / digit}}};
+    EXPECT_EQ(pagesOf(book, wider, paper).count, 1);
+    EXPECT_NEAR(pagesOf(book, wider, paper).page(0).size().width(), 400, 1);
+    EXPECT_EQ(pagesOf(book, {}, paper).count, 1) << "an empty table is a page too";
 }
 
 TEST_F(RecordBookTest, bringsBackTheRecordOfTheSelectedRow) {

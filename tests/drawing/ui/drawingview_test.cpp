@@ -1,8 +1,6 @@
 #include "drawing/ui/drawingview.h"
 
 #include "drawing/ui/datatablewindow.h"
-#include "drawing/ui/printdrawing.h"
-#include "support/files.h"
 
 #include <QAccessible>
 #include <QAction>
@@ -10,7 +8,6 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QTableView>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace tavrel {
@@ -81,29 +78,6 @@ TEST(DrawingView, handsOutItsDataAndPicture) {
     other.table.rows = 1;
     view.setDrawing(other);
     EXPECT_EQ(table.model()->rowCount(), 1);
-}
-
-TEST(PrintDrawing, writesPagesToAPdfFile) {
-    const QTemporaryDir folder;
-    const auto print = [&](const char* name, auto work) {
-        QPrinter printer;
-        printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setOutputFileName(folder.filePath(QLatin1StringView(name)));
-        printer.setPageSize(QPageSize(QPageSize::A6));
-        EXPECT_TRUE(work(printer));
-        return contentsOf(printer.outputFileName());
-    };
-    const QByteArray drawing = print("a.pdf", [](QPrinter& printer) { return printDrawing(printer, halves(Qt::red)); });
-    EXPECT_EQ(drawing.count("/Type /Page\n"), 1);
-    StyledText text;
-    for (int line = 0; line < 100; ++line) {
-        text.append(QStringLiteral("Line %1\r").arg(line), Qt::black);
-    }
-    const QByteArray pages = print("b.pdf", [&](QPrinter& printer) {
-        return printStyledText(printer, text, PrintSettings{0, 0, 0, 0, 0.67, false, false, false}, {});
-    });
-    EXPECT_GE(pages.count("/Type /Page\n"), 2);
-    EXPECT_LE(pages.count("/Type /Page\n"), 6);
 }
 
 }  // namespace

@@ -6,10 +6,10 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QEventLoop>
 #include <QPointer>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QThread>
 #include <QTreeWidget>
 #include <gtest/gtest.h>
 
@@ -27,9 +27,8 @@ protected:
         waitForReading();
     }
     void waitForReading() {
-        while (window->isReading()) {
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        }
+        window->findChildren<QThread*>().constLast()->wait();
+        QCoreApplication::processEvents();
     }
     static QByteArray table() {
         return "Nr,When,Max\n1,2020-05-01 10:00,20\n2,2020-05-02 10:00,\n3,2020-05-01 10:01,20.5\n";

@@ -70,8 +70,8 @@ TEST_F(LogbookWindowTest, showsWhatBecomesOfTheDivesBeforeItConvertsThem) {
 TEST_F(LogbookWindowTest, keepsItsImportsInAMenuOfTheirOwn) {
     EXPECT_TRUE(window.importActions().isEmpty());
     QStringList imports;
-    window.addImport(QStringLiteral("Handheld"), [&] { imports.append(QStringLiteral("handheld")); });
-    window.provideCommand(QStringLiteral("importUDCF"), [&] { imports.append(QStringLiteral("UDCF")); });
+    window.addImport(literal("UDCF"), "importUDCF", [&] { imports.append(QStringLiteral("UDCF")); });
+    window.addImport(literal("Handheld"), nullptr, [&] { imports.append(QStringLiteral("handheld")); });
     for (QAction* action : window.importActions()) {
         action->trigger();
         EXPECT_FALSE(window.ownMenuActions().contains(action));
