@@ -26,6 +26,17 @@ bool BookTable::isShown(int column) const {
 }
 
 Cell BookTable::cell(int row, int column) const {
+    Cell cell = ownCell(row, column);
+    bool keepsColour = cell.keepsColour;
+    for (int above = row - 1; keepsColour && above >= 0; --above) {
+        const Cell before = ownCell(above, column);
+        cell.style.text = before.style.text;
+        keepsColour = before.keepsColour;
+    }
+    return cell;
+}
+
+Cell BookTable::ownCell(int row, int column) const {
     const Placed& placed = columns_[static_cast<std::size_t>(column)];
     const Record& record = *book_.records()[static_cast<std::size_t>(row)];
     Cell cell;

@@ -29,8 +29,12 @@ public:
     Cell cell(int row, int column) const;
     /// Reads the settings and the day again.
     void reload();
+    const TableStyle& style() const { return *style_; }
 
 private:
+    /// The cell without what it takes from the one above.
+    Cell ownCell(int row, int column) const;
+
     const BookBase& book_;
     std::vector<Placed> columns_;
     std::unique_ptr<TableStyle> style_;
