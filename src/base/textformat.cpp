@@ -208,7 +208,7 @@ FormatArgument formatArgument(std::size_t value) {
 }
 // Through its own shortest text: a float's 0.1 shows as 0.1, not as the double next to it.
 FormatArgument formatArgument(float value) {
-    return doubleValue(shortestText(value));
+    return std::isfinite(value) ? doubleValue(shortestText(value)) : double{value};
 }
 FormatArgument formatArgument(double value) {
     return value;

@@ -25,7 +25,18 @@ bool BookTable::isShown(int column) const {
     return !shown || book_.desktop().preferences.get(*shown);
 }
 
-Cell BookTable::cell(const Record& record, int column) const {
+Cell BookTable::cell(const RecordList& records, int row, int column) const {
+    Cell cell = ownCell(*records[static_cast<std::size_t>(row)], column);
+    bool keepsColour = cell.keepsColour;
+    for (int above = row - 1; keepsColour && above >= 0; --above) {
+        const Cell before = ownCell(*records[static_cast<std::size_t>(above)], column);
+        cell.style.text = before.style.text;
+        keepsColour = before.keepsColour;
+    }
+    return cell;
+}
+
+Cell BookTable::ownCell(const Record& record, int column) const {
     const Placed& placed = columns_[static_cast<std::size_t>(column)];
     Cell cell;
     if (!placed.field.isNull()) {

@@ -26,12 +26,17 @@ public:
     /// Whether the user's settings show the column.
     bool isShown(int column) const;
     /// Everything that a cell shows, worked out anew: ask once per paint.
-    Cell cell(int row, int column) const { return cell(*book_.records()[static_cast<std::size_t>(row)], column); }
-    Cell cell(const Record& record, int column) const;
+    Cell cell(int row, int column) const { return cell(book_.records(), row, column); }
+    /// The same of a row of other records, of whom one may take its colour from those above.
+    Cell cell(const RecordList& records, int row, int column) const;
     /// Reads the settings and the day again.
     void reload();
+    const TableStyle& style() const { return *style_; }
 
 private:
+    /// The cell without what it takes from the one above.
+    Cell ownCell(const Record& record, int column) const;
+
     const BookBase& book_;
     std::vector<Placed> columns_;
     std::unique_ptr<TableStyle> style_;

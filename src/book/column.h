@@ -36,6 +36,7 @@ struct Cell {
     QString image;  ///< the name of an icon shown instead of text; empty for none
     QString words;  ///< what the cell says where an image cannot be seen; empty: its text
     CellStyle style;
+    bool keepsColour = false;  ///< the text takes the colour of the cell above, which was drawn before it
 
     const QString& inWords() const { return words.isEmpty() ? text : words; }
 };
@@ -57,11 +58,14 @@ struct TableStyle {
 /// Refines a cell, which shows the field's plain value already.
 using CellHook = void (*)(const Record& record, const TableStyle& style, Cell& cell);
 
+/// The width of a column of days: as many digits as the longest day of the year takes in the user's locale.
+inline constexpr int widthOfDays = 0;
+
 /// A column of a table. One that shows a field plainly needs only the field and its words.
 struct Column {
     const char* field;  ///< of the record; at once the column's identifier and what it sorts by
     Title title;
-    int width = 10;  ///< in digits at first
+    int width = 10;  ///< in digits at first; or widthOfDays
     Qt::AlignmentFlag alignment = Qt::AlignLeft;
     CellHook cell = nullptr;               ///< made by cellHook<>
     const Setting<bool>* shown = nullptr;  ///< the setting that shows it; null: it always shows

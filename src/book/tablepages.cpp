@@ -78,7 +78,7 @@ public:
             drawHeading(page, {x, 0, widths_[column], line_}, column);
             for (std::size_t row = first; row < last; ++row) {
                 const double y = static_cast<double>(row - first + 1) * line_;
-                drawCell(page, {x, y, widths_[column], line_}, *part_.records[row], column);
+                drawCell(page, {x, y, widths_[column], line_}, static_cast<int>(row), column);
             }
             x += widths_[column];
             addRule(rules, page, {x, 0}, {x, height});
@@ -101,8 +101,8 @@ private:
         const Column& column = *table_.columns()[static_cast<std::size_t>(chosen.column)].column;
         const double broad = bold_.horizontalAdvance(u'W');
         double width = bold_.horizontalAdvance(column.title.text());
-        for (const RecordPointer& record : part_.records) {
-            const Cell cell = table_.cell(*record, chosen.column);
+        for (std::size_t row = 0; row < rows(); ++row) {
+            const Cell cell = table_.cell(part_.records, static_cast<int>(row), chosen.column);
             const QString& words = shownIn(cell);
             // Few texts are long enough to be worth measuring.
             if (static_cast<double>(words.size()) * broad > width) {
@@ -170,8 +170,8 @@ private:
         drawText(page, box, columnAt(column).title.text(), columnAt(column).alignment, true, Qt::black);
     }
 
-    void drawCell(Drawing& page, const QRectF& box, const Record& record, std::size_t column) const {
-        const Cell cell = table_.cell(record, part_.columns[column].column);
+    void drawCell(Drawing& page, const QRectF& box, int row, std::size_t column) const {
+        const Cell cell = table_.cell(part_.records, row, part_.columns[column].column);
         if (cell.style.background) {
             fill(page, box, *cell.style.background);
         }

@@ -24,6 +24,7 @@ struct Arguments {
     bool json = false;
     std::string series;
     std::vector<std::string> replacements;
+    bool force = false;
 };
 
 void writeStroke(JsonWriter& json, const ProfileGeometry::Stroke& stroke) {
@@ -142,7 +143,9 @@ Expected<SeriesTexts> textsOf(const std::vector<std::string>& replacements) {
 
 Expected<void> run(const Arguments& arguments, Console& console) {
     Session session(console);
-    if (auto opened = session.open(pathArgument(arguments.file)); !opened) {
+    session.byForce = arguments.force;
+    const QString path = pathArgument(arguments.file);
+    if (auto opened = arguments.replacements.empty() ? session.open(path) : session.openToChange(path); !opened) {
         return opened;
     }
     const auto logbook = session.logbook();
@@ -160,7 +163,9 @@ Expected<void> run(const Arguments& arguments, Console& console) {
         }
         carnet.selectRows({arguments.row});
         importProfil(carnet, *texts);
-        return carnet.save();
+        const auto saved = session.save();
+        console.fileSaved = saved.has_value();
+        return saved;
     }
     const Plongee& dive = *carnet.recordAt(arguments.row);
     if (!arguments.series.empty()) {
@@ -192,12 +197,12 @@ void addProfileCommand(CLI::App& app, Console& console) {
     auto* series = command->add_option("--series", arguments->series, "One series, an element to a line")
                        ->check(CLI::IsMember(names))
                        ->excludes(json);
-    command
-        ->add_option("--replace", arguments->replacements,
-                     "SERIES=TEXTFILE: replaces a series by the lines of a file, and saves the logbook")
-        ->allow_extra_args(false)
-        ->excludes(json)
-        ->excludes(series);
+    auto* replace = command
+                        ->add_option("--replace", arguments->replacements,
+                                     "SERIES=TEXTFILE: replaces a series by the lines of a file, and saves the logbook")
+                        ->excludes(json)
+                        ->excludes(series);
+    command->add_flag("--force", arguments->force, forceHelp)->needs(replace);
     command->callback([arguments, &console] {
         if (const auto done = run(*arguments, console); !done) {
             fail(console, done.error());

@@ -8,12 +8,6 @@ namespace tavrel {
 
 namespace {
 
-/// A band of oxygen pressures, open below and closed above.
-struct OxygenBand {
-    double upper;  ///< bar
-    double rate;   ///< percent of the oxygen clock per minute
-};
-
 // Two bands, up to 0.72 and up to 1.14, are twice as wide as their neighbours.
 constexpr OxygenBand bands[] = {
     {0.62, 0.14}, {0.64, 0.15}, {0.66, 0.16}, {0.68, 0.17},
@@ -32,6 +26,10 @@ constexpr OxygenBand bands[] = {
 static_assert(std::size(bands) == 48);
 
 }  // namespace
+
+std::span<const OxygenBand> oxygenBands() {
+    return bands;
+}
 
 double sncRate(double ppO2) {
     const auto* band =

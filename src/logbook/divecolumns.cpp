@@ -40,7 +40,7 @@ constexpr Column column(const Setting<bool>& shown, Title title, int width, Qt::
 
 constexpr std::array columns{
     column<"noPlongee">(settings::columnNumero, {"Carnet", "Column number"}, 6, Qt::AlignRight),
-    column<"date">(settings::columnDate, {"Carnet", "Column date"}, 12, Qt::AlignRight),
+    column<"date">(settings::columnDate, {"Carnet", "Column date"}, widthOfDays, Qt::AlignRight),
     column<"lieu">(settings::columnLieu, {"Carnet", "Column place"}, 15),
     column<"site">(settings::columnSite, {"Carnet", "Column site"}, 20),
     column<"heure">(settings::columnHeure, {"Carnet", "Column time of day"}, 10, Qt::AlignRight),

@@ -332,6 +332,9 @@ QString described(const ProfileDive& dive, const ProfileSummary& summary) {
         return text("Profil", "No profile");
     }
     const double minutes = (summary.samples - 1) * samplingInterval(dive.samplingRate) / 60.0;
+    if (!std::isfinite(summary.average)) {
+        return textWith("Profil", "Profile description without average", summary.samples, minutes, summary.maximum);
+    }
     return textWith("Profil", "Profile description", summary.samples, minutes, summary.maximum, summary.average);
 }
 

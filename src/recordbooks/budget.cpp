@@ -219,7 +219,7 @@ constexpr Column columns[] = {
     {"entreprise", {"Budget", "Column supplier"}, 22, Qt::AlignLeft, cellHook<plainCell>},
     {"qualitePrix", {"Budget", "Column value"}, 12, Qt::AlignLeft, cellHook<valueCell>},
     {"delai", {"Budget", "Column delay"}, 12, Qt::AlignLeft, cellHook<delayCell>},
-    {"miseAJour", {"Budget", "Column update"}, 12, Qt::AlignRight, cellHook<plainCell>},
+    {"miseAJour", {"Budget", "Column update"}, widthOfDays, Qt::AlignRight, cellHook<plainCell>},
 };
 
 // The card.

@@ -257,14 +257,14 @@ void runningTimeCell(const Compresseur& service, const TableStyle&, Cell& cell) 
 }
 
 constexpr Column columns[] = {
-    {"date", {"Compresseur", "Label date"}, 11, Qt::AlignRight},
+    {"date", {"Compresseur", "Label date"}, widthOfDays, Qt::AlignRight},
     {"marque", {"Compresseur", "Label brand"}, 14},
     {"modele", {"Compresseur", "Label model"}, 12},
     {"temps", {"Compresseur", "Label running time"}, 9, Qt::AlignRight, cellHook<runningTimeCell>},
     {"cumulTemps", {"Compresseur", "Label sum time"}, 9, Qt::AlignRight},
     {"vidange", {"Compresseur", "Label oil change"}, 8, Qt::AlignHCenter, cellHook<oilChangeCell>},
     {"operationFiltre", {"Compresseur", "Label air filter"}, 14, Qt::AlignLeft, cellHook<filterCell>},
-    {"intSoupape", {"Compresseur", "Label valves"}, 12, Qt::AlignLeft, cellHook<valveCell>},
+    {"intSoupape", {"Compresseur", "Label valves"}, 14, Qt::AlignLeft, cellHook<valveCell>},
     {"anHuile", {"Compresseur", "Label oil content"}, 8, Qt::AlignRight, cellHook<oilContentCell>},
     {"anCO2", {"Compresseur", "Label carbon dioxide"}, 10, Qt::AlignRight, cellHook<carbonDioxideCell>},
     {"anCO", {"Compresseur", "Label carbon monoxide"}, 10, Qt::AlignRight, cellHook<carbonMonoxideCell>},

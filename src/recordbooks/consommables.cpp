@@ -102,13 +102,17 @@ void levelCell(const Consommables& part, const TableStyle&, Cell& cell) {
 
 constexpr Column columns[] = {
     {"reference", {"Consommables", "Label reference"}, 14, Qt::AlignLeft, cellHook<referenceCell>},
-    {"marque", {"Consommables", "Label brand"}, 14},
+    {"marque", {"Consommables", "Label brand"}, 15},
     {"utilisation", {"Consommables", "Label use"}, 20},
     {"stock", {"Consommables", "Label stock"}, 8, Qt::AlignRight, cellHook<stockCell>},
     {"reserve", {"Consommables", "Label reserve"}, 8, Qt::AlignRight},
     {"progress", {"Consommables", "Label level"}, 10, Qt::AlignRight, cellHook<levelCell>},
-    {"rangement", {"Consommables", "Label storage"}, 14},
-    {"dateInventaire", {"Consommables", "Label inventory date"}, 12, Qt::AlignRight, cellHook<inventoryDateCell>},
+    {"rangement", {"Consommables", "Label storage"}, 16},
+    {"dateInventaire",
+     {"Consommables", "Label inventory date"},
+     widthOfDays,
+     Qt::AlignRight,
+     cellHook<inventoryDateCell>},
 };
 
 StyledText card(const RecordList& records, const Desktop& desktop, const QString& file) {

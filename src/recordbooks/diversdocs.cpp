@@ -97,12 +97,12 @@ void renewCell(const DiversDocs& paper, const TableStyle&, Cell& cell) {
 }
 
 constexpr Column columns[] = {
-    {"type", {"Documents", "Column type"}, 18, Qt::AlignLeft, cellHook<typeCell>},
+    {"type", {"Documents", "Column type"}, 20, Qt::AlignLeft, cellHook<typeCell>},
     {"titre", {"Documents", "Column title"}, 26},
-    {"emetteur", {"Documents", "Column issuer"}, 20},
-    {"date", {"Documents", "Column date"}, 12, Qt::AlignRight},
+    {"emetteur", {"Documents", "Column issuer"}, 22},
+    {"date", {"Documents", "Column date"}, widthOfDays, Qt::AlignRight},
     {"renouveler", {"Documents", "Column renew"}, 9, Qt::AlignHCenter, cellHook<renewCell>},
-    {"dateRenouvellement", {"Documents", "Column renewal date"}, 14, Qt::AlignRight},
+    {"dateRenouvellement", {"Documents", "Column renewal date"}, widthOfDays, Qt::AlignRight},
 };
 
 constexpr BookCommands commands{"newDoc", "addDoc", "insertDoc", "updateDoc", "deleteDoc"};

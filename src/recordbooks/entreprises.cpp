@@ -130,12 +130,9 @@ void updateCell(const Entreprises& company, const TableStyle& style, Cell& cell)
     constexpr std::int64_t year = 31557600;  // seconds in 365.25 days
     const std::int64_t age = ageOf(company.miseAJour, style.now);
     // At exactly one and two years the colour is left as it was.
-    if (age < year) {
-        cell.style.text = plaincolour::black;
-    } else if (age > year && age < 2 * year) {
-        cell.style.text = plaincolour::orange;
-    } else if (age > 2 * year) {
-        cell.style.text = plaincolour::red;
+    cell.keepsColour = age == year || age == 2 * year;
+    if (!cell.keepsColour) {
+        cell.style.text = age < year ? plaincolour::black : age < 2 * year ? plaincolour::orange : plaincolour::red;
     }
 }
 
@@ -149,10 +146,10 @@ constexpr Column columns[] = {
     {"codePostal", {"Entreprises", "Column postal code"}, 8},
     {"ville", {"Entreprises", "Column town"}, 16},
     {"pays", {"Entreprises", "Column country"}, 14},
-    {"telephone", {"Entreprises", "Column telephone"}, 16},
+    {"telephone", {"Entreprises", "Column telephone"}, 17},
     {"email", {"Entreprises", "Column e-mail"}, 26},
     {"cotation", {"Entreprises", "Column rating"}, 12, Qt::AlignLeft, cellHook<ratingCell>},
-    {"miseAJour", {"Entreprises", "Column update"}, 12, Qt::AlignRight, cellHook<updateCell>},
+    {"miseAJour", {"Entreprises", "Column update"}, widthOfDays, Qt::AlignRight, cellHook<updateCell>},
 };
 
 // The card.

@@ -329,17 +329,17 @@ void difficultyCell(const Epaves& wreck, const TableStyle&, Cell& cell) {
 }
 
 constexpr Column columns[] = {
-    {"nom", {"Epaves", "Label name"}, 20, Qt::AlignLeft, cellHook<nameCell>},
+    {"nom", {"Epaves", "Label name"}, 22, Qt::AlignLeft, cellHook<nameCell>},
     {"type", {"Epaves", "Label type"}, 14},
     {"nationalite", {"Epaves", "Label nationality"}, 12},
     {"longueur", {"Epaves", "Label length"}, 9, Qt::AlignRight, cellHook<lengthCell>},
-    {"propulsion", {"Epaves", "Label propulsion"}, 15, Qt::AlignLeft, cellHook<propulsionCell>},
-    {"dateNaufrage", {"Epaves", "Label sinking date"}, 12, Qt::AlignRight},
+    {"propulsion", {"Epaves", "Label propulsion"}, 17, Qt::AlignLeft, cellHook<propulsionCell>},
+    {"dateNaufrage", {"Epaves", "Label sinking date"}, 18, Qt::AlignRight},
     {"causeNaufrage", {"Epaves", "Label sinking cause"}, 14},
     {"pointHaut", {"Epaves", "Label shallowest point"}, 9, Qt::AlignRight, cellHook<depthCell>},
     {"pointBas", {"Epaves", "Label deepest point"}, 9, Qt::AlignRight, cellHook<depthCell>},
-    {"lieu", {"Epaves", "Label place"}, 14},
-    {"site", {"Epaves", "Label site"}, 14},
+    {"lieu", {"Epaves", "Label place"}, 15},
+    {"site", {"Epaves", "Label site"}, 16},
     {"pays", {"Epaves", "Label country"}, 10},
     {"interet", {"Epaves", "Label interest"}, 8, Qt::AlignLeft, cellHook<interestCell>},
     {"technicite", {"Epaves", "Label difficulty"}, 8, Qt::AlignLeft, cellHook<difficultyCell>},

@@ -264,14 +264,14 @@ constexpr Column columns[] = {
     {"typeMatos", {"Materiel", "Label type"}, 16},
     {"marqueMatos", {"Materiel", "Label brand"}, 14},
     {"serieMatos", {"Materiel", "Label serial number"}, 12},
-    {"dateAchat", {"Materiel", "Label purchase date"}, 11, Qt::AlignRight},
+    {"dateAchat", {"Materiel", "Label purchase date"}, widthOfDays, Qt::AlignRight},
     {"quantiteMatos", {"Materiel", "Label quantity"}, 7, Qt::AlignRight},
     {"prixMatos", {"Materiel", "Label price"}, 9, Qt::AlignRight},
     {"factureMatos", {"Materiel", "Label invoice"}, 7, Qt::AlignHCenter, cellHook<invoiceCell>},
     {"lieuAchatMatos", {"Materiel", "Label shop"}, 16},
     {"equipState", {"Materiel", "Label state"}, 13, Qt::AlignLeft, cellHook<stateCell>},
-    {"lastRevision", {"Materiel", "Label last inspection"}, 11, Qt::AlignRight},
-    {"nextRevision", {"Materiel", "Label next inspection"}, 11, Qt::AlignRight, cellHook<nextInspectionCell>},
+    {"lastRevision", {"Materiel", "Label last inspection"}, widthOfDays, Qt::AlignRight},
+    {"nextRevision", {"Materiel", "Label next inspection"}, widthOfDays, Qt::AlignRight, cellHook<nextInspectionCell>},
     {"progress", {"Materiel", "Label inspection progress"}, 11, Qt::AlignRight, cellHook<progressCell>},
 };
 

@@ -229,7 +229,7 @@ constexpr Column operationColumn(const char* field, Title title) {
 }
 
 constexpr Column columns[] = {
-    {"date", {"Rebreather", "Label date"}, 11, Qt::AlignRight, cellHook<&blackCell>},
+    {"date", {"Rebreather", "Label date"}, widthOfDays, Qt::AlignRight, cellHook<&blackCell>},
     {"rebreatherTime", {"Rebreather", "Label unit time"}, 10, Qt::AlignRight, cellHook<&blackCell>},
     {"sofnoTime", {"Rebreather", "Label absorbent time"}, 9, Qt::AlignRight, cellHook<&absorbentTimeCell>},
     operationColumn<&Rebreather::sofnolime>("sofnolime", {"Rebreather", "Label absorbent"}),

@@ -170,15 +170,15 @@ void ratingCell(const Structures& club, const TableStyle&, Cell& cell) {
 
 constexpr Column columns[] = {
     {"nom", {"Structures", "Column name"}, 24},
-    {"affiliation", {"Structures", "Column affiliation"}, 22},
+    {"affiliation", {"Structures", "Column affiliation"}, 25},
     {"codePostal", {"Structures", "Column postal code"}, 8, Qt::AlignRight},
     {"ville", {"Structures", "Column town"}, 16},
-    {"pays", {"Structures", "Column country"}, 14},
-    {"telephone", {"Structures", "Column telephone"}, 16},
+    {"pays", {"Structures", "Column country"}, 15},
+    {"telephone", {"Structures", "Column telephone"}, 17},
     {"email", {"Structures", "Column e-mail"}, 26},
     {"cotation", {"Structures", "Column rating"}, 12, Qt::AlignLeft, cellHook<ratingCell>},
     {"nbPlongees", {"Structures", "Column dives made"}, 8, Qt::AlignRight},
-    {"miseAJour", {"Structures", "Column update"}, 12, Qt::AlignRight},
+    {"miseAJour", {"Structures", "Column update"}, widthOfDays, Qt::AlignRight},
 };
 
 // The card.

@@ -94,6 +94,7 @@ TEST_F(Texts, fillFormatsWithoutRegardToTheLocale) {
     EXPECT_EQ(textWith("Carnet", "Found dives", 3), u"3 plongées trouvées");
     EXPECT_EQ(textWith("Carnet", "Found dives", Fallback{QStringLiteral("N/A")}, QStringLiteral("three")), u"N/A");
     EXPECT_EQ(fillFormat(QStringLiteral("%@"), {formatArgument(0.1F)}), u"0.1");
+    EXPECT_EQ(fillFormat(QStringLiteral("%.1f"), {formatArgument(std::numeric_limits<float>::quiet_NaN())}), u"nan");
 }
 
 /// The messages of a .ts file, in order; fails the test on a malformed file, a key met twice or out of order.

@@ -38,7 +38,8 @@ TEST_F(GuardedFiles, areLeftToTheProgramThatHasThemOpen) {
     ASSERT_FALSE(lock.take({}));
     const QByteArray before = bytes();
     for (const char* command :
-         {"add a.carnet lieu=1", "renumber a.carnet 5", "import a.carnet " TAVREL_SAMPLE_FOLDER "/sample.udcf"}) {
+         {"add a.carnet lieu=1", "renumber a.carnet 5", "profile a.carnet --row 0 --replace depth=b.txt",
+          "import a.carnet " TAVREL_SAMPLE_FOLDER "/sample.udcf"}) {
         expectRefusals({{command, 1, "It is open in "}, {command, 1, std::to_string(::getpid()).c_str()}});
     }
     EXPECT_EQ(bytes(), before);

@@ -164,6 +164,17 @@ TEST(OxygenClock, RatesFollowTheBands) {
           Case{1.5801, 2.22}, Case{3, 2.22},    Case{1.33, 0.60}, Case{1.55, 1.19}}) {
         EXPECT_EQ(sncRate(ppO2), rate) << ppO2;
     }
+    EXPECT_EQ(oxygenBands().size(), 48U);
+    // All the others, added up by hand: the limits, the rates, and each rate as often as its place from 1.
+    double limits = 0, rates = 0, placed = 0;
+    for (std::size_t band = 0; band < 48; ++band) {
+        limits += band < 47 ? oxygenBands()[band].upper : 0;
+        rates += oxygenBands()[band].rate;
+        placed += static_cast<double>(band + 1) * oxygenBands()[band].rate;
+    }
+    EXPECT_NEAR(limits, 52.08, 1e-9);
+    EXPECT_NEAR(rates, 24.41, 1e-9);
+    EXPECT_NEAR(placed, 803.99, 1e-9);
     EXPECT_TRUE(std::isnan(calculSncClock(std::nan(""), std::nan(""))));
 }
 

@@ -28,26 +28,30 @@ protected:
 };
 
 TEST_F(DiveCardTest, TellsADiveFieldByField) {
-    EXPECT_EQ(cardOf("date=2024-05-03|heure=2024-05-03T23:40|lieu=Marseille|gpsSystem=1|gps=N 43°|coeff=95|pmBm=2|"
-                     "meteo=4|ventSecteur=8|courant=5|visibilite=8|tempEau=14|nocturne=1|difficulte=2|profondeur=32.5|"
-                     "temps=41|deco_TTS=7|rebreather=1|alliageBloc=2|volumeBloc=12|pressionBloc=232|pressionDepart=200|"
-                     "pressionFin=50|gaz=2|o2Mix=18|heMix=45|combinaison=1|equip_12=Lamp|lestage=4.5|notes=Calm."),
-              QString::fromUtf8(
-                  "Dive number 12"
-                  "\r\rGeneral\rDate: 03/05/2024\rPlace: Marseille\rSite: \rCountry: \rG.P.S. (WGS84) : N 43°"
-                  "\rTide coefficient: 95 (Basse mer)\rWrecks: \rBuddies: \rClub or dive centre: \rBoat: "
-                  "\r\rConditions\rWeather: Hail\rWind: \rWind sector: N-W\rWind force: no wind"
-                  "\rCurrent: Violent\rVisibility: Exceptional\rWater temperature: 14 °C\rAir temperature: -"
-                  "\rDive type: Wreck\rNight dive\rDifficulty: ★★★"
-                  "\r\rParameters\rDepth: 32.5 m\rDive time: 41 min.\rSurface interval: \rStart: 23:40\rEnd: 00:21"
-                  "\rAltitude: 0 m"
-                  "\r\rDecompression\rDive computer: \rPlanning software: \rAlgorithm: \rConservatism: "
-                  "\rRun-time table: \r\r\rTime to surface: 7 min."
-                  "\r\rGas\rSCR rebreather\rMain tank: Steel 12 L at 232 bar\rStart pressure: 200 bar."
-                  "\rEnd pressure: 50 bar.\rPressure used: 150 bar.\rGas available: 2400 litres"
-                  "\rGas breathed: 1800 litres\rGas: Trimix 18/45\rFlow: 0 L/min."
-                  "\r\rEquipment\rConfiguration: Recreational\r   - Drysuit\r   - Lamp\rWeight: 4.5 kg"
-                  "\r\rNotes\rCalm."));
+    EXPECT_EQ(
+        cardOf(
+            "date=2024-05-03|heure=2024-05-03T23:40|lieu=Marseille|site=Riou|pays=France|epaves=Liban|partenaires=Ana|"
+            "structure=Club|bateau=Mistral|surface=2 h|ordinateur=Wrist|decoSoftName=Plan|decoAlgoType=VPM|"
+            "decoConservatism=+2|runtime=9 m|flow=3|altitude=7|gpsSystem=1|gps=N 43°|coeff=95|pmBm=2|"
+            "meteo=4|ventSecteur=8|courant=5|visibilite=8|tempEau=14|nocturne=1|difficulte=2|profondeur=32.5|"
+            "temps=41|deco_TTS=7|rebreather=1|alliageBloc=2|volumeBloc=12|pressionBloc=232|pressionDepart=200|"
+            "pressionFin=50|gaz=2|o2Mix=18|heMix=45|combinaison=1|equip_12=Lamp|lestage=4.5|notes=Calm."),
+        QString::fromUtf8(
+            "Dive number 12"
+            "\r\rGeneral\rDate: 03/05/2024\rPlace: Marseille\rSite: Riou\rCountry: France\rG.P.S. (WGS84) : N 43°"
+            "\rTide coefficient: 95 (Basse mer)\rWrecks: Liban\rBuddies: Ana\rClub or dive centre: Club\rBoat: Mistral"
+            "\r\rConditions\rWeather: Hail\rWind: \rWind sector: N-W\rWind force: no wind"
+            "\rCurrent: Violent\rVisibility: Exceptional\rWater temperature: 14 °C\rAir temperature: -"
+            "\rDive type: Wreck\rNight dive\rDifficulty: ★★★"
+            "\r\rParameters\rDepth: 32.5 m\rDive time: 41 min.\rSurface interval: 2 h\rStart: 23:40\rEnd: 00:21"
+            "\rAltitude: 7 m"
+            "\r\rDecompression\rDive computer: Wrist\rPlanning software: Plan\rAlgorithm: VPM\rConservatism: +2"
+            "\rRun-time table: \r\r9 m\rTime to surface: 7 min."
+            "\r\rGas\rSCR rebreather\rMain tank: Steel 12 L at 232 bar\rStart pressure: 200 bar."
+            "\rEnd pressure: 50 bar.\rPressure used: 150 bar.\rGas available: 2400 litres"
+            "\rGas breathed: 1800 litres\rGas: Trimix 18/45\rFlow: 3 L/min."
+            "\r\rEquipment\rConfiguration: Recreational\r   - Drysuit\r   - Lamp\rWeight: 4.5 kg"
+            "\r\rNotes\rCalm."));
 }
 
 TEST_F(DiveCardTest, WritesWindSectorsAsTheyStandInEveryLanguage) {

@@ -41,7 +41,10 @@ TEST(StatGraph, BarsAreAsHighAsTheirShare) {
     EXPECT_EQ(graph.bars[1].name, u"10 - 19 m");
     EXPECT_EQ(graph.bars[2].rect, QRectF(210, 50, 60, 0));
     EXPECT_EQ(graph.bars[2].label, u"0.0 %");
-    EXPECT_EQ(graph.bars[6].rect.left(), 470);
+    for (std::size_t band = 0; band < 7; ++band) {
+        EXPECT_EQ(graph.bars[band].rect.left(), 80 + 65 * static_cast<double>(band));
+    }
+    EXPECT_EQ(graph.bars[9].rect.left(), 730);
     EXPECT_EQ(graph.bars[7].rect, QRectF(600, 50, 60, 300));
     EXPECT_EQ(graph.bars[8].rect.left(), 665);
     EXPECT_EQ(graph.bars[10].rect, QRectF(795, 50, 60, 100));
@@ -96,6 +99,9 @@ TEST(StatGraph, DrawingFollowsThePreferencesAndKeepsLabelsOnThePaper) {
     EXPECT_EQ(filled(pink), 0);
     preferences.set(settings::fillPlot, true);
     EXPECT_EQ(filled(pink), 1);
+    for (const QColor& gas : {QColor(0, 255, 0), QColor(153, 102, 51)}) {
+        EXPECT_EQ(filled(gas), 1) << gas.name().toStdString();
+    }
 
     const auto lines = [&] { return all<Drawing::Line>(statGraphDrawing(shares, preferences)); };
     const auto dashes = [&] {

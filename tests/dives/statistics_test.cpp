@@ -151,7 +151,8 @@ TEST(Statistics, TextsHaveTheirFormats) {
     for (const auto& [field, text] :
          namedValues("statDivesField=4 dives|statVideoField=3|statP_VideoField= 75.0 %|statP_Prof_4Field=75.0 %|"
                      "statP_RecupField=0.0 %|statProfMaxField=31 m|statProfMoyField=25 m|"
-                     "statTempsField=3 h 15 min.\r(195 min.)|statTempsMoyField=48 min.|statTempMoyField=17\u00a0°C")) {
+                     "statTempsField=3 h 15 min.\r(195 min.)|statTempsMoyField=48 min.|statTempsMaxField=65 "
+                     "min.|statProfField=103 m|statTempMoyField=17\u00a0°C")) {
         EXPECT_EQ(texts.at(QString::fromStdString(field)), text) << field;
     }
     EXPECT_EQ(textsOf(statisticsOf({dive("temps=65")})).at(QStringLiteral("statTempsField")),

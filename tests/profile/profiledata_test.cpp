@@ -75,6 +75,8 @@ TEST(ProfileSummary, countsOverTheDepthsOnly) {
 
     profile.SURF_Flag = Series::ofIntegers({1, 0, 0, 0});
     EXPECT_FALSE(summaryOf(profile).endsAtSurface);
+    profile.SURF_Flag = Series::ofIntegers({1, 0, 0, 2});
+    EXPECT_FALSE(summaryOf(profile).endsAtSurface);
     profile.profilProfondeur = Series::ofReals({-2, nan});
     EXPECT_EQ(summaryOf(profile).maximum, 0);
     EXPECT_TRUE(std::isnan(summaryOf(profile).average));

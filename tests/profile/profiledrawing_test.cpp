@@ -161,10 +161,28 @@ TEST(ProfileDrawing, paintsInTheChosenColours) {
     EXPECT_NEAR(gradient.pixelColor(600, 625 - 580).blue(), 253, 2);
 }
 
+TEST(ProfileDrawing, dashesItsLinesAndThrowsItsShadowToTheLowerRight) {
+    ProfileStyle style = plainStyle();
+    style.dashedLines = style.ppO2Line = style.shadow = true;
+    const ProfileDive dive = diveOf({0, 42, 42, 42});
+    std::string dashed;
+    QRectF shadow;
+    for (const auto& line : all<Drawing::Line>(profileDrawing(dive, style))) {
+        if (line.dash > 0) {
+            dashed += QStringLiteral("%1 %2 %3/").arg(line.width).arg(line.dash).arg(line.gap).toStdString();
+        }
+        shadow = line.colour.alpha() < 255 && shadow.isNull() ? line.path.boundingRect() : shadow;
+    }
+    EXPECT_EQ(dashed, "0.5 5 3/1 3 3/");
+    EXPECT_EQ(shadow, QRectF(QPointF(35, 158), QPointF(685, 578)));
+}
+
 TEST(ProfileDrawing, describesItself) {
     const Drawing drawing = profileDrawing(diveOf({0, 30, 20, 0}, 3), plainStyle());
     EXPECT_EQ(drawing.description, u"4 samples over 3 minutes, maximum depth 30.0 m, average depth 12.5 m.");
     EXPECT_EQ(drawing.table.rows, 4);
+    EXPECT_EQ(profileDrawing(diveOf({0, 30, std::nan("")}, 3), plainStyle()).description,
+              u"3 samples over 2 minutes, maximum depth 30.0 m; some depths are no numbers.");
     EXPECT_EQ(profileDrawing(diveOf({0}), plainStyle()).description, u"This dive has no recorded profile.");
 }
 

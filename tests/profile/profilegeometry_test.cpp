@@ -95,6 +95,8 @@ TEST(ProfileGeometry, timeStepFollowsTheSamplingCode) {
     EXPECT_EQ(last(6), "0 25 123");
     EXPECT_EQ(last(4), "115 657 123");  // two and a half samples, 27.5 points
     EXPECT_EQ(last(9), last(0));
+    // Nothing stands in the last twenty points: the sixth tick of 108.2 points would.
+    EXPECT_EQ(labelsOf(profileGeometry(diveOf(std::vector<double>(61, 10), 2), plainStyle()), Kind::time).size(), 6U);
 }
 
 TEST(ProfileGeometry, dashedLinesLeaveRoomForTheTimeLabel) {
@@ -186,6 +188,8 @@ TEST(ProfileGeometry, alarmsStandAtTheirSamples) {
     dive.series.SLOW_Flag = Series::ofIntegers({1});
     EXPECT_EQ(iconsOf(profileGeometry(dive, plainStyle())).size(), 1U);
     EXPECT_TRUE(profileGeometry(dive, plainStyle()).surfaceExcursions.empty());
+    dive.series.CEIL_Flag = dive.series.GAZ_Flag = Series::ofIntegers({0, 0, 0, 1, 0, 1});
+    EXPECT_TRUE(iconsOf(profileGeometry(dive, plainStyle())).empty());
 }
 
 TEST(ProfileGeometry, gasSwitchesNameTheirGas) {
@@ -230,6 +234,7 @@ TEST(ProfileStyle, comesFromThePreferences) {
     Preferences preferences(folder.filePath(QStringLiteral("store")));
     ProfileStyle style = ProfileStyle::read(preferences);
     EXPECT_EQ(style.plotColor, QColor(Qt::red));
+    EXPECT_EQ(style.fillColor, QColor(Qt::blue));
     EXPECT_EQ(style.alphaFill, 0.5);
     EXPECT_TRUE(style.fillPlot && style.xMinorTicks && style.yMinorTicks);
     EXPECT_FALSE(style.gradientYes || style.dashedLines || style.ppO2Line || style.shadow);
@@ -288,6 +293,13 @@ TEST(ProfileSamples, tellDepthPressureAndTheGasBreathed) {
     EXPECT_NEAR(*samples.at(2).ppO2, 0.5 * 3.1, 1e-12);
     EXPECT_NEAR(*samples.at(3).ppO2, 0.5 * 1.6, 1e-12);
     EXPECT_EQ(samples.words(1), u"0:30  ·  40.0 m  ·  150 bar  ·  ppO₂ 1.40 bar  ·  slow down");
+
+    dive.series.GAZ_Flag = Series::ofIntegers({2, 0, 1, 0});
+    dive.series.ASC_Flag = dive.series.CEIL_Flag = dive.series.SURF_Flag = Series::ofIntegers({1, 0, 0, 0});
+    EXPECT_NEAR(*ProfileSamples(dive).at(1).ppO2, 0.5 * 5, 1e-12);
+    EXPECT_NEAR(*ProfileSamples(dive).at(3).ppO2, 0.28 * 1.6, 1e-12);
+    EXPECT_EQ(ProfileSamples(dive).at(0).events, u"ascent alarm, ceiling violated, at the surface, change to 50 % O₂");
+    dive.series.GAZ_Flag = Series::ofIntegers({0, 0, 2, 0});
 
     // A closed rebreather holds its set point, as far as the pressure around it allows.
     dive.setPoint = 1.3;

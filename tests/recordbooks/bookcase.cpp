@@ -83,11 +83,15 @@ QStringList itemsOf(const QByteArray& file) {
 
 const std::vector<BookCase> bookCases{
     {"Materiel", &invMateriel, "Equipment", "newMatos addMatos insertMatos updateMatos deleteMatos", "One card", 3,
+     "matosNo> typeMatos marqueMatos serieMatos dateAchat> quantiteMatos> prixMatos> factureMatos| "
+     "lieuAchatMatos equipState lastRevision> nextRevision> progress>",
      "matosNo:@ typeMatos:@ marqueMatos:@ serieMatos:@ dateAchat:@ quantiteMatos:i prixMatos:@ lastRevision:@ "
      "nextRevision:@ firstRequalification:@ nextRequalification<lastRevision:@ noInspection:i bloc:i tiv:i noTIV:@ "
      "nomTIV:@ capaciteBloc:f pressionService:i pressionEpreuve:i notesMatos:@ equipState:i factureMatos:i "
      "lieuAchatMatos:@"},
     {"Epaves", &repEpaves, "Epaves", "newWreck addWreck insertWreck updateWreck deleteWreck", "One card", 5,
+     "nom type nationalite longueur> propulsion dateNaufrage> causeNaufrage pointHaut> pointBas> lieu site pays "
+     "interet technicite",
      "nom:@ type:@ immatriculation:@ nationalite:@ longueur:f largeur:f materiau:i jauge:i propulsion:i "
      "dateConstruction:@ lieuConstruction:@ dateNaufrage:@ causeNaufrage:@ pointHaut:f pointBas:f orientationSwitch:i "
      "orientation:i inclinaison:i dateVisite:@ aVisiter:i lieu:@ site:@ pays:@ gps:@ gpsSystem:i acces:i accesBord:i "
@@ -96,6 +100,7 @@ const std::vector<BookCase> bookCases{
      "provenance:@ destination:@ miseAJour:@"},
     {"Compresseur", &maintComp, "Compresseur", "newService addService insertMaintenance updateService deleteService",
      "One service", 3,
+     "date> marque modele temps> cumulTemps> vidange| operationFiltre intSoupape anHuile> anCO2> anCO> anH2O>",
      "marque:@ modele:@ cumulTemps:@ date:@ temps:@ vidange:i typeHuile:i filtreAir:i operationFiltre:i cartouche:i "
      "charbon:i alumine:i tamis:i depoussierage:i controles:i soupapes:i intSoupape:i anHuile:f anCO2:f anCO:f "
      "anH2O:f anCO2Unit:i anCOUnit:i notes:@"},
@@ -103,13 +108,16 @@ const std::vector<BookCase> bookCases{
      "newRebreatherService addRebreatherService insertRebreatherService updateRebreatherService "
      "deleteRebreatherService",
      "One intervention", 3,
+     "date> rebreatherTime> sofnoTime> sofnolime| disinfection| battery| nbCells> mpO2Value> injector| valve| "
+     "oRing| electronicHead| scrubber|",
      "date:@ rebreatherTime:@ sofnoTime:@ sofnolime:i disinfection:i battery:i cells:i nbCells:i injector:i valve:i "
      "oRing:i electronicHead:i scrubber:i mpO2:i mpO2Value:f cell1:i cell2:i cell3:i cell4:i cell5:i cell1_in:@ "
      "cell2_in:@ cell3_in:@ cell4_in:@ cell5_in:@ notes:@"},
     {"Consommables", &invConso, "Consommables", "newPart addPart insertPart updatePart deletePart", "One card", 3,
+     "reference marque utilisation stock> reserve> progress> rangement dateInventaire>",
      "reference:@ marque:@ utilisation:@ stock:f reserve:f rangement:@ noInventaire:i dateInventaire:@ notes:@"},
     {"Budget", &previBudget, "Budget", "newPrestation addPrestation insertPrestation updatePrestation deletePrestation",
-     "One card", 3,
+     "One card", 3, "prestation quantite_0> prixUnitaire_0> entreprise qualitePrix delai miseAJour>",
      "prestation:@ quantite_0:i quantite_1:i quantite_2:i quantite_3:i quantite_4:i quantite_5:i "
      "prixUnitaire_0:f prixUnitaire_1:f prixUnitaire_2:f prixUnitaire_3:f prixUnitaire_4:f "
      "prixUnitaire_5:f supplement_1:@ supplement_2:@ supplement_3:@ supplement_4:@ prixDegressif:i "
@@ -117,7 +125,7 @@ const std::vector<BookCase> bookCases{
      "prixCarte_3:f prixCarte_4:f prevDepense:i entreprise:@ qualitePrix:i delai:i miseAJour:@ notes:@",
      "\r\rFile dir : /home/b.file\r\rEdition date : 2024-06-15 "},
     {"Entreprises", &adressesEts, "Entreprises", "newFirm addFirm insertFirm updateEntreprise deleteFirm", "One card",
-     3,
+     3, "entreprise activite codePostal ville pays telephone email cotation miseAJour>",
      "entreprise:@ adresse:@ codePostal:@ ville:@ pays:@ telephone:@ fax:@ email:@ url:@ activite:@ "
      "miseAJour:@ horaireLundi_1:@ horaireLundi_2:@ horaireLundi_3:@ horaireLundi_4:@ horaireMardi_1:@ "
      "horaireMardi_2:@ horaireMardi_3:@ horaireMardi_4:@ horaireMercredi_1:@ horaireMercredi_2:@ "
@@ -128,6 +136,7 @@ const std::vector<BookCase> bookCases{
      "\rFile dir : /home\r\rEdition date : 2024-06-15 ", 1},
     {"Structures", &adressesStruct, "Structures",
      "newStructure addStructure insertStructure updateStructure deleteStructure", "One card", 3,
+     "nom affiliation codePostal> ville pays telephone email cotation nbPlongees> miseAJour>",
      "nom:@ type:i affiliation:@ gerant:@ adresse:@ codePostal:i ville:@ pays:@ telephone:@ portable:@ "
      "fax:@ url:@ email:@ cotation:i miseAJour:@ plongee_1:@ plongee_2:@ plongee_3:@ plongee_4:@ "
      "plongee_5:@ bapteme:f prix_1:f prix_2:f prix_3:f prix_4:f prix_5:f formation_1:@ formation_2:@ "
@@ -141,7 +150,8 @@ const std::vector<BookCase> bookCases{
      "nbPlongees:i remarques:@",
      "\rFile dir : /home\r\rEdition date : 2024-06-15 ", 1},
     {"DiversDocs", &diversDocuments, "Miscellaneous documents", "newDoc addDoc insertDoc updateDoc deleteDoc",
-     "One card", 3, "type:i titre:@ emetteur:@ date:@ renouveler:i dateRenouvellement:@ photocopy:@ notes:@", nullptr},
+     "One card", 3, "type titre emetteur date> renouveler| dateRenouvellement>",
+     "type:i titre:@ emetteur:@ date:@ renouveler:i dateRenouvellement:@ photocopy:@ notes:@", nullptr},
 };
 
 }  // namespace tavrel

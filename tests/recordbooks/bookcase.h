@@ -20,6 +20,7 @@ struct BookCase {
     const char* commands;   ///< the toolbars' identifiers for new, add, insert, update, delete
     const char* oneRecord;  ///< the count line in English
     int pages;
+    const char* columns;  ///< their fields in order, with ">" behind what is written at the right, "|" in the middle
     /// The items of a record in archive order, "field:code"; "field<source:code" where another field is written.
     const char* archive;
     /// What the last run of the card of "/home/b.file" begins with, and between or before the records of a card; null

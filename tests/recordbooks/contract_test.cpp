@@ -178,11 +178,14 @@ TEST_P(RecordBook, showsItsRecordsInColumnsWithTitles) {
     for (const auto& language : {QStringLiteral("fr"), QStringLiteral("en")}) {
         setTextLanguage(language);
         const BookTable table(*book);
-        std::set<std::string> fields;
+        QStringList fields;
         int places = 0;
         for (const auto& placed : table.columns()) {
             const std::string where = placed.column->field;
-            EXPECT_TRUE(fields.insert(where).second) << where;
+            fields << QString::fromStdString(where);
+            if (placed.column->alignment != Qt::AlignLeft) {
+                fields.back() += placed.column->alignment == Qt::AlignRight ? u'>' : u'|';
+            }
             EXPECT_FALSE(placed.field.isNull()) << where;
             EXPECT_FALSE(placed.column->title.text().isEmpty()) << where;
             EXPECT_NE(placed.column->title.text(), missingText()) << where;
@@ -191,6 +194,7 @@ TEST_P(RecordBook, showsItsRecordsInColumnsWithTitles) {
             }
             EXPECT_EQ(table.columnOf(where), places++);
         }
+        EXPECT_EQ(fields.join(u' ').toStdString(), GetParam().columns);
     }
 }
 

@@ -75,6 +75,14 @@ TEST_F(EntreprisesTest, coloursCardsByTheirAge) {
     for (const auto& [seconds, fraction, colour] : cases) {
         EXPECT_EQ(this->colour(aged(seconds, fraction), "miseAJour"), colour) << seconds;
     }
+    // What keeps its colour has that of the row above it.
+    hold({aged(80000000), aged(31557600), aged(63115200), aged(1), aged(63115200)});
+    const BookTable table(*book);
+    QStringList drawn;
+    for (int row = book->count() - 5; row < book->count(); ++row) {
+        drawn << table.cell(row, table.columnOf("miseAJour")).style.text->name();
+    }
+    EXPECT_EQ(drawn.join(u' '), u"#ff0000 #ff0000 #ff0000 #000000 #000000");
     Entreprises odd;
     EXPECT_EQ(colour(odd, "miseAJour"), "#000000");
     odd.miseAJour = Date(-std::numeric_limits<double>::infinity());

@@ -89,16 +89,21 @@ TEST_F(EpavesTest, writesTheCardInItsOrderWithThePropulsionNamedByMaterials) {
         "nom=Aline|type=cargo ship|immatriculation=R1|longueur=40.5|largeur=10|jauge=500|materiau=1|propulsion=2|"
         "typeMachine=two|puissance=600|pointHaut=12.5|pointBas=30|natureFond=sand|orientationSwitch=1|orientation=90|"
         "inclinaison=2|miseAJour=2024-05-03|gps=43N|gpsSystem=2|acces=1|accesBord=3|localisation=3|interet=4|"
-        "relevement1=church|dateVisite=2023-12-31");
+        "relevement1=church|relevement2=mill|relevement3=pier|dateVisite=2023-12-31|nomsPrecedents=Ida|nationalite=UK|"
+        "armateur=Lines|dateConstruction=1890|lieuConstruction=Clyde|ports=Brest|capitaine=Roux|equipage=21|"
+        "chargement=coal|provenance=Bilbao|destination=Nantes|dateNaufrage=1917|causeNaufrage=mine|lieu=Bay|"
+        "site=Reef|pays=France|notes=fine");
     const QString whole = card({wreck, {}});
     const QString first = QStringLiteral(
         "Wreck repertory/--------------------/Name: Aline//Characteristics/Type of ship: cargo ship/Registration: R1"
         "/Length (m): 40.5/Width (m): 10/Tonnage: 500/Material: Wood/Propulsion: Iron/Engine type: two/Power: 600"
         "/Shallowest point: 12.5 m/Deepest point: 30 m/Bottom: sand/Orientation: 90°/List: To port//History"
-        "/Previous names: /Nationality: /Owner: /Built: /Built at: /Home ports: /Captain: /Crew: /Cargo: /From: /To: "
-        "/Sunk on: /Cause of sinking: /Updated on: 03/05/2024//Location/Place: /Site: /Country: "
+        "/Previous names: Ida/Nationality: UK/Owner: Lines/Built: 1890/Built at: Clyde/Home ports: Brest/Captain: Roux"
+        "/Crew: 21/Cargo: coal/From: Bilbao/To: Nantes"
+        "/Sunk on: 1917/Cause of sinking: mine/Updated on: 03/05/2024//Location/Place: Bay/Site: Reef/Country: France"
         "/GPS position: 43N (ED50)/Access: Easy/Finding it: Difficult/Interest: ★★★★/Difficulty: ☆//Landmarks"
-        "/Landmark 1: church/Landmark 2: /Landmark 3: /First visit: 31/12/2023/Remarks: /--------------------/");
+        "/Landmark 1: church/Landmark 2: mill/Landmark 3: pier/First visit: 31/12/2023/Remarks: "
+        "fine/--------------------/");
     EXPECT_EQ(whole.left(first.size()), first);
     const QString second = whole.mid(first.size());
     EXPECT_TRUE(second.startsWith(u"Name: //Characteristics")) << second.toStdString();

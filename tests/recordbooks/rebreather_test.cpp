@@ -99,7 +99,8 @@ TEST_F(RebreatherTest, writesACardWithTheCellsOfTheLastIntervention) {
         "date=2024-05-03|rebreatherTime=120|sofnoTime=2001-01-01T03:30|sofnolime=1|disinfection=1|battery=1|cells=1|"
         "injector=1|valve=1|oRing=1|electronicHead=1|scrubber=1|mpO2=1|cell2=1|mpO2Value=1.25|notes=fine");
     auto last = filled<Rebreather>(
-        "date=2024-06-04|cell1=1|cell3=1|cell1_in=2024-01-02|cell2_in=2024-01-03|cell3_in=2024-01-04");
+        "date=2024-06-04|disinfection=1|cells=1|valve=1|electronicHead=1|cell1=1|cell3=1|cell1_in=2024-01-02|cell2_in="
+        "2024-01-03|cell3_in=2024-01-04");
     last.sofnoTime = noDate();
     EXPECT_EQ(card({first, last}),
               QStringLiteral(
@@ -108,7 +109,8 @@ TEST_F(RebreatherTest, writesACardWithTheCellsOfTheLastIntervention) {
                   "/Absorbent time: 03:30 h/- Absorbent replaced/- Disinfection/- Battery replaced/- Cells replaced"
                   "/- Oxygen partial pressure : 1.25 bar/- Injector/- Valve/- O-rings/- Electronic head/- Scrubber"
                   "//Remarks: fine/----------------------------------------/Date: 04/06/2024//History/Running time: "
-                  "/Absorbent time: 00:00 h//Remarks: /----------------------------------------/"));
+                  "/Absorbent time: 00:00 h/- Disinfection/- Cells replaced/- Valve/- Electronic head//Remarks: "
+                  "/----------------------------------------/"));
 }
 
 }  // namespace

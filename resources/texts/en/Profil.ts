@@ -20,6 +20,7 @@
 <message><source>Page layout</source><translation>Page Setup…</translation></message>
 <message><source>PpO2</source><translation>ppO₂ %.1f bar</translation></message>
 <message><source>Profile description</source><translation>%d samples over %.0f minutes, maximum depth %.1f m, average depth %.1f m.</translation></message>
+<message><source>Profile description without average</source><translation>%d samples over %.0f minutes, maximum depth %.1f m; some depths are no numbers.</translation></message>
 <message><source>Profile of the dive</source><translation>Profile of the dive</translation></message>
 <message><source>Replace</source><translation>Replace</translation></message>
 <message><source>Replace all</source><translation>Replace all by nothing</translation></message>

@@ -20,6 +20,7 @@
 <message><source>Page layout</source><translation>Mise en page…</translation></message>
 <message><source>PpO2</source><translation>PpO₂ %.1f bar</translation></message>
 <message><source>Profile description</source><translation>%d points sur %.0f minutes, profondeur maximale %.1f m, profondeur moyenne %.1f m.</translation></message>
+<message><source>Profile description without average</source><translation>%d points sur %.0f minutes, profondeur maximale %.1f m ; certaines profondeurs ne sont pas des nombres.</translation></message>
 <message><source>Profile of the dive</source><translation>Profil de la plongée</translation></message>
 <message><source>Replace</source><translation>Remplacer</translation></message>
 <message><source>Replace all</source><translation>Tout remplacer par rien</translation></message>

@@ -113,7 +113,7 @@ void BookTableModel::reload() {
 
 const Cell& BookTableModel::cellAt(const QModelIndex& index) const {
     if (index.row() != row_ || index.column() != column_) {
-        cell_ = table_.cell(*(*records_)[static_cast<std::size_t>(recordOf(index.row()))], index.column());
+        cell_ = table_.cell(*records_, recordOf(index.row()), index.column());
         row_ = index.row();
         column_ = index.column();
     }

@@ -3,6 +3,7 @@
 #include "book/bookfilter.h"
 #include "desktop/preferences.h"
 
+#include <QDate>
 #include <QDragEnterEvent>
 #include <QDragMoveEvent>
 #include <QDropEvent>
@@ -57,9 +58,23 @@ void BookTableView::fitColumns() {
     // Words and the arrow of the sorted column stand beside each other.
     const int margin = header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header);
     const int arrow = header->sizeHint().height() / 2 + 2 * margin;
+    const int days = roomForDays();
     for (int place = 0; place < model_->columnCount(); ++place) {
-        setColumnWidth(place, std::max(character * column(place).width, header->sectionSizeHint(place) + arrow));
+        const int digits = column(place).width;
+        setColumnWidth(
+            place, std::max(digits == widthOfDays ? days : character * digits, header->sectionSizeHint(place) + arrow));
     }
+}
+
+int BookTableView::roomForDays() const {
+    const TableStyle& cells = model_->table().style();
+    int longest = 0;
+    for (int month = 1; month <= 12; ++month) {
+        const QString day = cells.locale.toString(QDate(2000, month, 28), cells.dateFormat);
+        longest = std::max(longest, fontMetrics().horizontalAdvance(day));
+    }
+    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+    return longest + 2 * margin + fontMetrics().averageCharWidth();
 }
 
 void BookTableView::buildColumnsMenu() {
@@ -157,6 +172,9 @@ void BookTableView::acceptRows(const QString& dataType) {
 void BookTableView::dragEnterEvent(QDragEnterEvent* event) {
     // Files go on to the window, which opens them.
     event->setAccepted(event->mimeData()->hasFormat(rowType_));
+    if (event->isAccepted()) {
+        qDebug("validate Drop 2");
+    }
 }
 
 void BookTableView::dragMoveEvent(QDragMoveEvent* event) {
@@ -167,6 +185,7 @@ void BookTableView::dragMoveEvent(QDragMoveEvent* event) {
 void BookTableView::dropEvent(QDropEvent* event) {
     event->setAccepted(event->mimeData()->hasFormat(rowType_));
     if (event->isAccepted()) {
+        qDebug("validate Drop 3");
         event->setDropAction(Qt::CopyAction);
         book_.duplicateLast();
     }

@@ -42,6 +42,8 @@ protected:
 private:
     BookTableView(BookBase& book, BookTableModel* model, QWidget* parent);
     void fitColumns();
+    /// What a day of the locale takes in a cell, pixels.
+    int roomForDays() const;
     void buildColumnsMenu();
     void sortBy(int column);
     void rememberColumns();

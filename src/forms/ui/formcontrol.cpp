@@ -20,6 +20,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QSlider>
 #include <QTextDocument>
 #include <QUrl>
@@ -404,8 +405,13 @@ QUrl addressOf(Opens opens, const QString& text) {
         case Opens::mail:
             return words.contains(u'@') ? QUrl(QStringLiteral("mailto:") + words, QUrl::StrictMode) : QUrl();
         case Opens::phone: {
+            // The first of several; a zero in brackets is for callers in the country.
+            QString dialled = words.left(words.indexOf(QRegularExpression(QStringLiteral("[/,;]"))));
+            if (dialled.startsWith(u'+')) {
+                dialled.remove(QStringLiteral("(0)"));
+            }
             QString number;
-            std::copy_if(words.begin(), words.end(), std::back_inserter(number),
+            std::copy_if(dialled.begin(), dialled.end(), std::back_inserter(number),
                          [](QChar letter) { return letter.isDigit() || letter == u'+'; });
             return number.isEmpty() ? QUrl() : QUrl(QStringLiteral("tel:") + number);
         }

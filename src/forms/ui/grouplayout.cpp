@@ -133,6 +133,7 @@ private:
         const bool leads = !form(index).focusWidgets().isEmpty();
         QLabel* made = label(leads ? mnemonics_.mark(words) : words);
         if (leads) {
+            made->setContentsMargins(2, 0, 0, 0);  // an underlined letter sets its word wider than it is measured
             made->setBuddy(form(index).widget());
         }
         form(index).addCompanion(made);

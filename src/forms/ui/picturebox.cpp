@@ -97,6 +97,7 @@ public:
             if (view_->isVisible()) {
                 say(view_->fault());
                 describe();
+                enable();
             }
         });
     }
@@ -111,9 +112,10 @@ protected:
             say({});
         }
         view_->showPicture(held.image);
-        const bool has = !held.image.isNull();
-        for (QPushButton* each : {enlarge_, copy_, export_, remove_}) {
-            each->setEnabled(has);
+        export_->setEnabled(!held.image.isNull());
+        remove_->setEnabled(!held.image.isNull());
+        if (held.image.isNull()) {
+            enable();
         }
     }
 
@@ -127,9 +129,21 @@ private:
         state().place(index(), *picture);
     }
 
+    /// A picture that cannot be shown can be exported as it is stored, but not enlarged nor copied.
+    void enable() {
+        const bool isShown = !view_->pixels().isNull();
+        enlarge_->setEnabled(isShown);
+        copy_->setEnabled(isShown);
+    }
+
     void say(const QString& words) {
         message_->setText(words);
         message_->setVisible(!words.isEmpty());
+        // With a height that follows its width the page would ask for its usual height, and for bars to scroll.
+        QSizePolicy policy = message_->sizePolicy();
+        policy.setHeightForWidth(false);
+        message_->setSizePolicy(policy);
+        message_->setMinimumHeight(message_->heightForWidth(widget()->width()));
     }
 
     void describe() {

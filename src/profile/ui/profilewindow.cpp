@@ -29,6 +29,7 @@ ProfileWindow::ProfileWindow(Preferences& preferences, Alerts& alerts)
     sample_->setAccessibleName(text("Profil", "Values of the sample"));
     for (QLabel* label : {readOut_, sample_}) {
         label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        label->setWordWrap(true);
     }
     samplingRatePopUp_->setObjectName(QStringLiteral("samplingRatePopUp"));
     for (qint32 code = 0; code < static_cast<qint32>(samplingIntervals.size()); ++code) {

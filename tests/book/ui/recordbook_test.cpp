@@ -487,7 +487,8 @@ TEST(AddressOf, leadsOutOnlyWhereAnAddressDoes) {
     } cases[] = {
         {Opens::mail, " club@example.org ", "mailto:club@example.org"},
         {Opens::mail, "none", ""},
-        {Opens::phone, "+33 (0)1 23.45", "tel:+3301 2345"},
+        {Opens::phone, "+33 (0)1 23.45", "tel:+331 2345"},
+        {Opens::phone, "01 23 / 06 45", "tel:0123"},
         {Opens::phone, "ask", ""},
         {Opens::web, "example.org/a", "http://example.org/a"},
         {Opens::web, "https://example.org", "https://example.org"},

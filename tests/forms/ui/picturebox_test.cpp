@@ -102,6 +102,7 @@ TEST_F(PictureBox, saysWhatCannotBeTakenOrShown) {
     files.setUrls({QUrl::fromLocalFile(folder.filePath(QStringLiteral("none.png")))});
     drop(&files);
     EXPECT_TRUE(message().contains(u"There is no such file.")) << message().toStdString();
+    EXPECT_FALSE(control->widget()->hasHeightForWidth()) << "the message takes its room from the picture";
     EXPECT_EQ(pixelsOf(held())->size(), QSize(40, 30));
     QApplication::clipboard()->setText(QStringLiteral("words"));
     button("picturePaste")->click();
@@ -111,6 +112,8 @@ TEST_F(PictureBox, saysWhatCannotBeTakenOrShown) {
     view()->grab();
     QCoreApplication::processEvents();
     EXPECT_EQ(message(), u"The picture is damaged.");
+    EXPECT_FALSE(button("pictureEnlarge")->isEnabled());
+    EXPECT_TRUE(button("pictureExport")->isEnabled());
     state.setImage(0, {});
     EXPECT_EQ(message(), u"");
 }
