@@ -276,7 +276,7 @@ TEST_F(Imports, canBeCancelledAndKeepWhatWasTaken) {
 TEST_F(Imports, takeBackWhatTheExportsWrite) {
     Plongee dive;
     fill(dive, Plongee::layout(),
-              "lieu=Bonifacio|site=Mérouville|profilProfondeur=3.14,20|samplingRate=6|temps=33|o2Mix=21");
+         "lieu=Bonifacio|site=Mérouville|profilProfondeur=3.14,20|samplingRate=6|temps=33|o2Mix=21");
     dive.ASC_Flag = Series::ofIntegers({1, 1});
     dive.date = Date::fromDateTime(QDateTime(QDate(2020, 2, 29), QTime(0, 0)));
     dive.heure = Date::fromDateTime(QDateTime(QDate(2020, 2, 29), QTime(14, 45)));
