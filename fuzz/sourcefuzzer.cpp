@@ -1,3 +1,4 @@
+#include "interchange/standard/resampling.h"
 #include "interchange/standard/sourcereading.h"
 #include "interchange/standard/uddfwriting.h"
 
