@@ -1,6 +1,7 @@
 #include "interchange/exports.h"
 
 #include "desktop/clock.h"
+#include "interchange/logbookunits.h"
 #include "interchange/standard/csvtext.h"
 #include "interchange/standard/uddfwriting.h"
 
@@ -40,7 +41,8 @@ Expected<QByteArray> exportTable(Carnet& carnet) {
 }
 
 Expected<QByteArray> exportStandardUddf(Carnet& carnet) {
-    return writeUddf(carnet.records(), {carnet.desktop().clock.now(), {}}, carnet.progress());
+    const Desktop& desktop = carnet.desktop();
+    return writeUddf(inFileUnits(desktop.preferences, carnet.records()), {desktop.clock.now(), {}}, carnet.progress());
 }
 
 const std::vector<LogbookExport>& logbookExports() {
