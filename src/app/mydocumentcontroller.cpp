@@ -39,15 +39,21 @@ std::optional<Expected<void>> withProgress(Document& document, QWidget* window, 
     return work.wasCancelled() ? std::nullopt : std::optional(done);
 }
 
-/// Whether a dialog stands over one of a document's windows; its code is still running and needs them.
-bool hasOpenDialog(DocumentWindow& window) {
+/// What is shown over one of a document's windows, the preview of an import or a dialog.
+QList<QWidget*> shownOver(DocumentWindow& window) {
     QList<QWidget*> windows = window.furtherWindows();
     windows.append(&window);
-    const QList<QWidget*> all = QApplication::topLevelWidgets();
-    return std::any_of(all.begin(), all.end(), [&](const QWidget* each) {
-        return each->isVisible() && each->isModal() && each->parentWidget() &&
-               windows.contains(each->parentWidget()->window());
+    QList<QWidget*> shown = QApplication::topLevelWidgets();
+    shown.removeIf([&](const QWidget* each) {
+        return !each->isVisible() || !each->parentWidget() || !windows.contains(each->parentWidget()->window());
     });
+    return shown;
+}
+
+/// Whether a dialog is among it; its code is still running and needs the windows.
+bool hasOpenDialog(DocumentWindow& window) {
+    const QList<QWidget*> shown = shownOver(window);
+    return std::any_of(shown.begin(), shown.end(), [](const QWidget* each) { return each->isModal(); });
 }
 
 }  // namespace
@@ -286,7 +292,7 @@ void MyDocumentController::discardUntouched() {
     }
     const QList<QWidget*> further = window->furtherWindows();
     const bool isEdited = std::any_of(further.begin(), further.end(), [](auto* each) { return each->isVisible(); });
-    if (!isEdited && !hasOpenDialog(*window)) {
+    if (!isEdited && shownOver(*window).isEmpty()) {
         removeWindow(*window);
     }
 }

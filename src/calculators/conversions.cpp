@@ -138,4 +138,10 @@ FoundUnit conversionUnit(const QString& name) {
     return {};
 }
 
+double inUnit(const char* to, const char* from, double value) {
+    const FoundUnit source = conversionUnit(QString::fromLatin1(from));
+    const FoundUnit target = conversionUnit(QString::fromLatin1(to));
+    return source.tab->convert(source.tab->units[source.position].tag, value)[target.position];
+}
+
 }  // namespace tavrel

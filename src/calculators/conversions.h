@@ -41,4 +41,7 @@ struct FoundUnit {
 };
 FoundUnit conversionUnit(const QString& name);
 
+/// A value in another unit of the same quantity, both by their names, which have to be known.
+double inUnit(const char* to, const char* from, double value);
+
 }  // namespace tavrel

@@ -4,6 +4,8 @@
 #include "base/safefile.h"
 #include "base/texts.h"
 #include "cli/session.h"
+#include "desktop/commonsettings.h"
+#include "desktop/preferences.h"
 #include "interchange/exports.h"
 #include "interchange/lossreport.h"
 #include "interchange/standard/csvtext.h"
@@ -122,13 +124,13 @@ void writeFound(const FoundDives& found, JsonWriter json) {
     json.flush();
 }
 
-void printFound(const FoundDives& found, Console& console) {
+void printFound(const FoundDives& found, const QString& length, Console& console) {
     for (const FoundDive& it : found.dives) {
         const QDateTime start = startOf(it.dive);
         const BreathedGas gas = breathedGas(it.dive);
         QStringList cells{
             start.isValid() ? start.toString(QStringLiteral("yyyy-MM-dd HH:mm")) : QStringLiteral("----------------"),
-            shortestText(it.dive.profondeur) + QStringLiteral(" m"),
+            shortestText(it.dive.profondeur) + length,
             QString::number(it.dive.temps) + QStringLiteral(" min"),
             QStringLiteral("%1/%2").arg(gas.oxygen).arg(gas.helium),
             it.dive.lieu + (it.dive.site.isEmpty() || it.dive.lieu.isEmpty() ? QString() : QStringLiteral(", ")) +
@@ -150,7 +152,8 @@ Expected<void> previewInto(Carnet& carnet, const Arguments& arguments, Console& 
         })
         .map([&](const FoundDives& found) {
             if (!arguments.json) {
-                return printFound(found, console);
+                const bool usUnits = carnet.desktop().preferences.get(settings::usUnits);
+                return printFound(found, usUnits ? QStringLiteral(" ft") : QStringLiteral(" m"), console);
             }
             writeFound(found, jsonOn(console));
             console.out << '\n';
@@ -260,7 +263,8 @@ void addInterchangeCommands(CLI::App& app, Console& console) {
     importing->add_flag("--keep-texts", arguments->keepTexts,
                         "Adds words that have no field of their own to the notes");
     importing->callback([arguments, &console] {
-        withLogbook(*arguments, console, &Session::openToChange,
+        // What is only shown needs no lock.
+        withLogbook(*arguments, console, arguments->dryRun ? &Session::open : &Session::openToChange,
                     [&](Session& session, Carnet& carnet) { return importInto(session, carnet, *arguments, console); });
     });
 

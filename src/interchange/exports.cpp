@@ -1,6 +1,7 @@
 #include "interchange/exports.h"
 
 #include "desktop/clock.h"
+#include "interchange/logbookunits.h"
 #include "interchange/standard/csvtext.h"
 #include "interchange/standard/uddfwriting.h"
 
@@ -25,7 +26,8 @@ constexpr std::array<std::string_view, 8> profileFields{"noPlongee", "profilProf
 }  // namespace
 
 Expected<QByteArray> exportStandardUddf(Carnet& carnet) {
-    return writeUddf(carnet.records(), {carnet.desktop().clock.now(), {}}, carnet.progress());
+    const Desktop& desktop = carnet.desktop();
+    return writeUddf(inFileUnits(desktop.preferences, carnet.records()), {desktop.clock.now(), {}}, carnet.progress());
 }
 
 std::span<const LogbookExport> logbookExports() {

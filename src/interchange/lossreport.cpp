@@ -1,8 +1,11 @@
 #include "interchange/lossreport.h"
 
+#include "interchange/logbookunits.h"
+#include "interchange/standard/csvtext.h"
 #include "interchange/standard/divedifference.h"
 #include "interchange/standard/sourcereading.h"
 #include "logbook/divecontrols.h"
+#include "profile/profileeditor.h"
 
 #include <algorithm>
 #include <map>
@@ -53,7 +56,8 @@ Expected<std::vector<FieldLoss>> lossesOf(const Carnet& carnet, const LogbookExp
     if (!bytes) {
         return tl::unexpected(bytes.error());
     }
-    return readSource(*bytes, carnet.progress()).map([&](const Source& source) {
+    return readSource(*bytes, carnet.progress()).map([&](Source&& source) {
+        toLogbookUnits(carnet.desktop().preferences, source.found);
         std::map<std::string_view, int> counts;
         const Plongee unknown = unknownDive();
         for (std::size_t index = 0; index < dives.size(); ++index) {
@@ -67,17 +71,35 @@ Expected<std::vector<FieldLoss>> lossesOf(const Carnet& carnet, const LogbookExp
     });
 }
 
+namespace {
+
+/// The title of a series of the profile, which no control of the form holds; none for another field.
+Title seriesTitle(const QString& field) {
+    const Item* item = csvItem(field);
+    const auto kind = std::find_if(profileSeriesKinds.begin(), profileSeriesKinds.end(),
+                                   [&](const ProfileSeriesKind& each) { return item && each.field == item->field(); });
+    const auto edited = std::find_if(editedSeries.begin(), editedSeries.end(), [&](const EditedSeries& each) {
+        return kind != profileSeriesKinds.end() && each.series == kind->series;
+    });
+    return edited == editedSeries.end() ? Title() : edited->title;
+}
+
+QString titled(const Title& title, const QString& field) {
+    return title.isEmpty() ? field : text(title) + QStringLiteral(" [") + field + u']';
+}
+
+}  // namespace
+
 QString fieldTitle(const QString& field) {
     const auto& table = DiveControls::table();
     const int index = table.find(field.toStdString());
     if (index < 0) {
-        return field;
+        return titled(seriesTitle(field), field);
     }
     const PlacedControl& placed = table.controls()[static_cast<std::size_t>(index)];
     const Title& label = placed.control.label;
     // A control without a label of its own stands under its group's.
-    const Title& title = label.isEmpty() ? table.groups()[static_cast<std::size_t>(placed.group)].title : label;
-    return title.isEmpty() ? field : text(title) + QStringLiteral(" [") + field + u']';
+    return titled(label.isEmpty() ? table.groups()[static_cast<std::size_t>(placed.group)].title : label, field);
 }
 
 QString lossText(const FieldLoss& loss) {

@@ -3,6 +3,7 @@
 #include "base/safefile.h"
 #include "desktop/clock.h"
 #include "desktop/preferences.h"
+#include "interchange/logbookunits.h"
 #include "interchange/standard/csvtext.h"
 #include "logbook/divecontrols.h"
 
@@ -125,6 +126,7 @@ void rememberTableColumns(Preferences& preferences, const TableColumns& chosen) 
 
 void judge(const Carnet& carnet, FoundDives& found) {
     doubt(found, carnet.desktop().clock.now());
+    toLogbookUnits(carnet.desktop().preferences, found);
     markDuplicates(found, carnet.records());
 }
 

@@ -20,7 +20,8 @@ Expected<Source> findDives(const Carnet& carnet, QByteArrayView bytes, const Pro
 TableColumns tableColumns(const Preferences& preferences);
 void rememberTableColumns(Preferences& preferences, const TableColumns& chosen);
 
-/// Notes the doubts of found dives and marks those that the logbook holds already.
+/// Notes the doubts of found dives, takes their numbers into the logbook's units, and marks those that it holds
+/// already.
 void judge(const Carnet& carnet, FoundDives& found);
 
 /// What the file holds and a dive does not, each with the count of dives.

@@ -10,14 +10,10 @@ namespace tavrel {
 
 namespace {
 
-double inUnit(const char* to, const char* from, double value) {
-    const FoundUnit source = conversionUnit(QString::fromLatin1(from));
-    const FoundUnit target = conversionUnit(QString::fromLatin1(to));
-    return source.tab->convert(source.tab->units[source.position].tag, value)[target.position];
-}
+constexpr double hundredths = 100;
 
-double hundredths(double value) {
-    return std::round(value * 100) / 100;
+double roundedTo(double parts, double value) {
+    return std::round(value * parts) / parts;
 }
 
 /// Of lengths of the other system.
@@ -25,14 +21,15 @@ double lengthFactor(UnitSystem to) {
     return to == UnitSystem::us ? inUnit("feet", "metres", 1) : inUnit("metres", "feet", 1);
 }
 
-Series convertedDepths(const Series& depths, double factor) {
+Series convertedDepths(const Series& depths, double factor, double parts) {
     if (depths.isNull()) {
         return depths;
     }
     Series converted = Series::empty();
     for (std::size_t sample = 0; sample < depths.size(); ++sample) {
         const Number depth = depths.at(sample);
-        converted.append(Number::ofReal(hundredths(depth.toDouble() * factor), depth.isReal() ? depth.code : 'd'));
+        converted.append(
+            Number::ofReal(roundedTo(parts, depth.toDouble() * factor), depth.isReal() ? depth.code : 'd'));
     }
     return converted;
 }
@@ -40,7 +37,7 @@ Series convertedDepths(const Series& depths, double factor) {
 }  // namespace
 
 double convertedLength(double length, UnitSystem to) {
-    return hundredths(length * lengthFactor(to));
+    return roundedTo(hundredths, length * lengthFactor(to));
 }
 
 qint32 convertedTemperature(qint32 degrees, UnitSystem to) {
@@ -52,11 +49,11 @@ qint32 convertedTemperature(qint32 degrees, UnitSystem to) {
     return static_cast<qint32>(std::lround(converted));
 }
 
-Plongee convertedDive(const Plongee& dive, UnitSystem to) {
+Plongee convertedDive(const Plongee& dive, UnitSystem to, double parts) {
     const double factor = lengthFactor(to);
     Plongee converted = dive;
     const auto convert = [&](float Plongee::*depth) {
-        converted.*depth = static_cast<float>(hundredths(static_cast<double>(dive.*depth) * factor));
+        converted.*depth = static_cast<float>(roundedTo(parts, static_cast<double>(dive.*depth) * factor));
     };
     convert(&Plongee::profondeur);
     for (const StopFields& stop : stopFields) {
@@ -65,7 +62,7 @@ Plongee convertedDive(const Plongee& dive, UnitSystem to) {
     converted.altitude = static_cast<qint32>(std::lround(dive.altitude * factor));
     converted.tempEau = convertedTemperature(dive.tempEau, to);
     converted.tempAir = convertedTemperature(dive.tempAir, to);
-    converted.profilProfondeur = convertedDepths(dive.profilProfondeur, factor);
+    converted.profilProfondeur = convertedDepths(dive.profilProfondeur, factor, parts);
     return converted;
 }
 

@@ -13,7 +13,8 @@ double convertedLength(double length, UnitSystem to);
 /// A temperature in the other system's whole degrees; -50, which stands for none, stays.
 qint32 convertedTemperature(qint32 degrees, UnitSystem to);
 
-/// The dive with its depth, stops, altitude, temperatures and profile taken from the other system into this one.
-Plongee convertedDive(const Plongee& dive, UnitSystem to);
+/// The dive with its depth, stops, altitude, temperatures and profile taken from the other system into this one, depths
+/// to a hundredth of the unit or another part of it.
+Plongee convertedDive(const Plongee& dive, UnitSystem to, double parts = 100);
 
 }  // namespace tavrel

@@ -309,6 +309,14 @@ TEST_F(Documents, openAtTheStart) {
     app.frontCarnet().addDive();
     app.documents.launch({first});
     EXPECT_EQ(app.documents.windows().size(), 2);
+
+    app.alerts.answerNext(1);
+    app.documents.closeAllDocuments();
+    app.documents.launch({});
+    QWidget preview(app.frontWindow(), Qt::Window);
+    preview.show();
+    app.documents.openFile(first);
+    EXPECT_EQ(app.documents.windows().size(), 2) << "what is found in a file is shown over it";
 }
 
 TEST_F(Documents, openWhenDroppedOnAWindow) {

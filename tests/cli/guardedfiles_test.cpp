@@ -44,6 +44,7 @@ TEST_F(GuardedFiles, areLeftToTheProgramThatHasThemOpen) {
     }
     EXPECT_EQ(bytes(), before);
     done("show a.carnet");
+    done("import a.carnet --dry-run " TAVREL_SAMPLE_FOLDER "/sample.udcf");
     done("add a.carnet lieu=1 --force");
     EXPECT_EQ(dives().size(), 1U);
 }

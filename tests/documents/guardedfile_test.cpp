@@ -123,6 +123,12 @@ TEST_F(GuardedFile, isWatchedWhileItIsOpen) {
     ASSERT_TRUE(writeFile(file, "another"));
     EXPECT_EQ(next(), State::changed);
     EXPECT_TRUE(states.isEmpty());
+    // Put back, then changed in place.
+    ASSERT_TRUE(writeFile(file, "saved"));
+    EXPECT_TRUE(states.wait());
+    EXPECT_EQ(states.takeFirst()[0].value<State>(), State::same);
+    writeContents(file, "in place");
+    EXPECT_EQ(next(), State::changed);
 }
 
 TEST_F(GuardedFile, isClaimedByOneProgram) {
@@ -133,6 +139,10 @@ TEST_F(GuardedFile, isClaimedByOneProgram) {
     Leaf other(desktop.desktop());
     const QString link = path("link");
     ASSERT_TRUE(QFile::link(file, link));
+    QFile lock(path(".leaf.lock"));
+    ASSERT_TRUE(lock.open(QFile::Append));
+    ASSERT_TRUE(lock.setFileTime(QDateTime::currentDateTime().addDays(-2), QFile::FileModificationTime));
+    lock.close();
     const auto holder = other.claimFile(link);
     ASSERT_TRUE(holder);
     EXPECT_EQ(holder->process, QCoreApplication::applicationPid());
@@ -346,6 +356,20 @@ TEST_F(Journals, knowASaveThatTheyDidNotOutlive) {
     // Without a form there is nothing to offer.
     endWhileSaving(false);
     EXPECT_TRUE(left().empty());
+    // What was changed after the save counts more than it.
+    {
+        ProgramRun run(parent, leaf);
+        leaf.typeIntoForm(QStringLiteral("typed"));
+        leaf.change("fourth");
+        run.journal.keepNow();
+        ASSERT_TRUE(leaf.save());
+        leaf.change("fifth");
+        run.journal.keepNow();
+    }
+    found = left();
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found[0].documents[0].contents(), "fifth");
+    found[0].discard();
     EXPECT_TRUE(QDir(parent).isEmpty());
 }
 

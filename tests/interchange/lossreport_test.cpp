@@ -1,5 +1,6 @@
 #include "interchange/lossreport.h"
 
+#include "desktop/commonsettings.h"
 #include "interchange/standard/divedifference.h"
 #include "interchange/standardimport.h"
 #include "support/testdesktop.h"
@@ -79,6 +80,29 @@ TEST_F(LossReport, countsTheDivesThatSaySomethingForWhichThereIsNoPlace) {
               (std::map<QString, int>{{QStringLiteral("coeff"), 2}}));
     EXPECT_EQ(lossText({QStringLiteral("coeff"), 12}), u"Tide coefficient [coeff] of 12 dives");
     EXPECT_EQ(lossText({QStringLiteral("notes"), 1}), u"Notes [notes] of one dive");
+    EXPECT_EQ(lossText({QStringLiteral("GAZ_Flag"), 1}), u"Gas switch [GAZ_Flag] of one dive");
+}
+
+TEST_F(LossReport, keepsALogbookInFeetInFeet) {
+    desktop.preferences.set(settings::usUnits, true);
+    Plongee dive = unknownDive();
+    setStart(dive, QDate(2020, 1, 1), QTime(10, 0));
+    dive.noPlongee = 1;
+    dive.profondeur = 33;
+    dive.tempEau = 68;
+    dive.profilProfondeur = Series::ofReals({0, 33.25, 1.5});
+    dive.profilArraysDefaultContent();
+    carnet.appendDives(QStringLiteral("add"), {dive});
+    ++dive.noPlongee;
+    setStart(dive, QDate(2020, 1, 2), QTime(10, 0));
+    dive.tempEau = 70;  // 21.1 °C, which is 21 and 69.8 °F again
+    carnet.appendDives(QStringLiteral("add"), {dive});
+    const auto bytes = formatNamed("uddf-3.2").produceFrom(carnet, carnet.records());
+    EXPECT_TRUE(bytes && bytes->contains("<greatestdepth>10.0584</greatestdepth>")) << bytes->toStdString();
+    for (const char* format : {"uddf-3.2", "csv", "udcf"}) {
+        EXPECT_EQ(thereAndBack(format), losses(format)) << format;
+        EXPECT_EQ(losses(format).count(QStringLiteral("profondeur")), 0U) << format;
+    }
 }
 
 }  // namespace

@@ -149,9 +149,9 @@ int main(int argc, char** argv) {
                      [&](const QStringList& others) { openHandedOver(documents, others); });
     // Leaving the session asks as closing does.
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &documents, [&](QSessionManager& session) {
-        if (!session.allowsInteraction()) {
-            documents.keepUnsaved();
-        } else if (!documents.mayQuit()) {
+        // Whoever does not answer in time is ended.
+        documents.keepUnsaved();
+        if (session.allowsInteraction() && !documents.mayQuit()) {
             session.cancel();
         }
         session.release();

@@ -60,11 +60,17 @@ std::optional<FileTime> fileTime(const QString& text) {
     if (const auto match = yearLast.match(text); match.hasMatch()) {
         int day = match.captured(1).toInt();
         int month = match.captured(2).toInt();
-        if (month > 12) {
+        const bool monthFirst = month > 12;
+        if (monthFirst) {
             std::swap(day, month);
         }
-        return made(fileDay(match.captured(3).toInt(), month, day),
-                    match.captured(4).isEmpty() ? QTime() : clockOf(match, 4));
+        auto moment = made(fileDay(match.captured(3).toInt(), month, day),
+                           match.captured(4).isEmpty() ? QTime() : clockOf(match, 4));
+        if (moment && day != month) {
+            using Order = FileTime::Order;
+            moment->order = monthFirst ? Order::monthFirst : day > 12 ? Order::dayFirst : Order::either;
+        }
+        return moment;
     }
     return std::nullopt;
 }

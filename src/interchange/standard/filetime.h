@@ -12,11 +12,14 @@ namespace tavrel {
 struct FileTime {
     QDate day;
     QTime time;
+    /// Which of day and month stands first, where only their numbers can tell.
+    enum class Order { told, dayFirst, monthFirst, either } order = Order::told;
 };
 
 /// The day and time of a text such as "2010-08-14T10:02:00+02:00", "2010-8-4 9:05", "20100814T100200", "14.08.2010
-/// 10:02" or "2010-08-14". An offset or Z is dropped: the time stays what the diver's clock showed. Nothing when the
-/// text holds no day, or one before 1900, which stands for none.
+/// 10:02", "8/14/2010" or "2010-08-14"; the day stands before the month where both could be either. An offset or Z is
+/// dropped: the time stays what the diver's clock showed. Nothing when the text holds no day, or one before 1900, which
+/// stands for none.
 std::optional<FileTime> fileTime(const QString& text);
 
 /// The time of a text such as "10:02", "10:02:30.5Z" or "9:05"; invalid when it holds none.

@@ -104,6 +104,12 @@ std::optional<double> secondsOf(XmlElement element) {
                : number;
 }
 
+QString intervalText(qint32 minutes) {
+    return QStringLiteral("%1:%2")
+        .arg(minutes / 60, 2, 10, QLatin1Char('0'))
+        .arg(minutes % 60, 2, 10, QLatin1Char('0'));
+}
+
 std::optional<double> bars(std::optional<double> pascal) {
     if (!pascal || *pascal <= 0) {
         return std::nullopt;

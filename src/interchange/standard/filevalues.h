@@ -28,6 +28,9 @@ inline constexpr double deepestThinkable = 12'000;
 /// The nearest whole number that 32 bits hold.
 qint32 rounded(double value);
 
+/// Metres; deeper is no number of a depth.
+inline constexpr double deepestThinkable = 12'000;
+
 /// Kelvin to whole degrees Celsius; what is too cold for kelvin counts as degrees Celsius. Nothing for 0, which stands
 /// for none, and for what no diver meets.
 std::optional<qint32> celsius(std::optional<double> kelvin);
@@ -38,6 +41,8 @@ std::optional<qint32> ofWater(std::optional<qint32> degrees);
 std::optional<qint32> waterCelsius(std::optional<double> kelvin);
 /// The seconds of a duration, also of one that is written as "52:30" (minutes and seconds) or "0:52:30".
 std::optional<double> secondsOf(XmlElement element);
+/// A surface interval as the dive form writes it: "02:30".
+QString intervalText(qint32 minutes);
 /// Pascal to bar, to a millionth; what is too little for pascal counts as bar. Nothing for what is not above 0.
 std::optional<double> bars(std::optional<double> pascal);
 /// Cubic metres to litres; what is too much for a tank counts as litres.

@@ -45,6 +45,7 @@ struct FoundDives {
     std::vector<FoundDive> dives;
     QStringList lostWithFile;  ///< what belongs to no dive
     bool tooMany = false;      ///< more than anyone dives, and so not read
+    bool asStored = false;     ///< the numbers are those of a logbook, in its units; else metres and degrees Celsius
 
     /// How many dives lose each item.
     std::map<QString, int> lostCounts() const;

@@ -33,6 +33,7 @@ Expected<Source> readLogbook(QByteArrayView bytes, const Progress& progress) {
     }
     return readRecords(bytes, Plongee::layout(), progress).map([](auto&& file) {
         Source source{SourceKind::logbook, {}};
+        source.found.asStored = true;
         for (const auto& record : file.records) {
             FoundDive found;
             found.dive = asDive(record);
@@ -94,14 +95,6 @@ Expected<Source> readSource(QByteArrayView bytes, const Progress& progress, cons
     if (isTypedStream(bytes)) {
         return readLogbook(bytes, progress);
     }
-    if (!looksLikeXml(bytes)) {
-        if (auto table = readTable(bytes, chosen, progress)) {
-            if (table->found.tooMany) {
-                return failure(text("Main", "XML file beyond limits"));
-            }
-            return Source{SourceKind::table, std::move(table->found), std::move(table->columns)};
-        }
-    }
     bool cancelled = false;
     const auto advance = [&](std::size_t done, std::size_t total, std::size_t from, std::size_t part) {
         if (progress && !progress(from + done * part / std::max<std::size_t>(total, 1), thousandths)) {
@@ -109,6 +102,19 @@ Expected<Source> readSource(QByteArrayView bytes, const Progress& progress, cons
         }
         return !cancelled;
     };
+    if (!looksLikeXml(bytes)) {
+        auto table = readTable(
+            bytes, chosen, [&](std::size_t done, std::size_t total) { return advance(done, total, 0, thousandths); });
+        if (cancelled) {
+            return failure(text("Main", "Cancelled"));
+        }
+        if (table) {
+            if (table->found.tooMany) {
+                return failure(text("Main", "XML file beyond limits"));
+            }
+            return Source{SourceKind::table, std::move(table->found), std::move(table->columns)};
+        }
+    }
     auto tree = XmlTree::parse(
         bytes, [&](std::size_t done, std::size_t total) { return advance(done, total, 0, thousandthsOfParsing); },
         uddfMarkup);

@@ -9,6 +9,7 @@
 #include <QStringDecoder>
 
 #include <algorithm>
+#include <cmath>
 #include <span>
 
 namespace tavrel {
@@ -107,8 +108,9 @@ struct TakeCell {
         return true;
     }
     bool operator()(float& value) const {
-        value = startsWithNumber(cell) ? floatValue(cell) : value;
-        return startsWithNumber(cell);
+        const bool isValue = startsWithNumber(cell) && std::isfinite(floatValue(cell));
+        value = isValue ? floatValue(cell) : value;
+        return isValue;
     }
     bool operator()(QString& value) const {
         value = cell;
@@ -119,8 +121,9 @@ struct TakeCell {
         std::vector<double> numbers;
         bool whole = true;
         for (const QString& number : cell.split(u' ', Qt::SkipEmptyParts)) {
-            numbers.push_back(doubleValue(number));
-            whole = whole && startsWithNumber(number);
+            const double read = doubleValue(number);
+            whole = whole && startsWithNumber(number) && std::isfinite(read);
+            numbers.push_back(std::isfinite(read) ? read : 0);
         }
         value = Series::ofReals(numbers);
         return whole;
@@ -133,7 +136,7 @@ class TableReader {
 public:
     TableReader(Table& table, const std::vector<const Item*>& items) : table_(table), items_(items) {}
 
-    FoundDive read(const QStringList& row) const {
+    FoundDive read(const QStringList& row) {
         FoundDive found;
         found.dive = unknownDive();
         std::optional<FileTime> start;
@@ -162,7 +165,9 @@ public:
         }
         if (start) {
             setStart(found.dive, start->day, time.isValid() ? time : start->time);
+            noteOrder(*start);
         }
+        ++read_;
         makeFlagsWhole(found.dive);
         found.dive.profilArraysDefaultContent();
         return found;
@@ -177,7 +182,27 @@ public:
         }
     }
 
+    /// Where some day of the table can only stand behind its month, so do those that could be either.
+    void settleOrder() {
+        if (!monthFirst_ || dayFirst_) {
+            return;
+        }
+        for (const auto& [number, start] : ambiguous_) {
+            Plongee& dive = table_.found.dives[number].dive;
+            const QTime time = dive.heure.toDateTime().time();
+            setStart(dive, QDate(start.year(), start.day(), start.month()), time);
+        }
+    }
+
 private:
+    void noteOrder(const FileTime& start) {
+        dayFirst_ = dayFirst_ || start.order == FileTime::Order::dayFirst;
+        monthFirst_ = monthFirst_ || start.order == FileTime::Order::monthFirst;
+        if (start.order == FileTime::Order::either) {
+            ambiguous_.emplace_back(read_, start.day);
+        }
+    }
+
     /// Flags are whole numbers in a dive.
     static void makeFlagsWhole(Plongee& dive) {
         for (const ProfileSeriesKind& kind : profileSeriesKinds) {
@@ -195,6 +220,10 @@ private:
 
     Table& table_;
     const std::vector<const Item*>& items_;
+    std::size_t read_ = 0;
+    bool dayFirst_ = false;
+    bool monthFirst_ = false;
+    std::vector<std::pair<std::size_t, QDate>> ambiguous_;  ///< by the dive's number
 };
 
 QString decoded(QByteArrayView bytes) {
@@ -240,7 +269,7 @@ std::optional<Table> readTable(QByteArrayView bytes, const TableColumns& chosen,
         table.columns.push_back({heading.trimmed(), field, {}});
     }
     const bool hasDay = holdsDay(table.columns);
-    const TableReader reader(table, items);
+    TableReader reader(table, items);
     bool isEven = true;
     for (std::size_t number = 0; const auto row = rows.next(); ++number) {
         if (row->size() <= 1 && row->value(0).isEmpty()) {
@@ -264,6 +293,8 @@ std::optional<Table> readTable(QByteArrayView bytes, const TableColumns& chosen,
             break;
         }
     }
+    reader.settleOrder();
+    table.found.asStored = true;
     const bool saysSomething = std::any_of(table.columns.begin(), table.columns.end(),
                                            [](const TableColumn& column) { return !column.example.isEmpty(); });
     return hasDay || (isEven && saysSomething) ? std::optional(std::move(table)) : std::nullopt;

@@ -1,24 +1,25 @@
 #include "interchange/standard/udcfreading.h"
 
+#include "dives/divechoices.h"
 #include "dives/divecodes.h"
 #include "dives/divelimits.h"
+#include "dives/divetanks.h"
 #include "interchange/standard/filetime.h"
 #include "interchange/standard/filevalues.h"
 #include "interchange/standard/gasmix.h"
 #include "interchange/standard/resampling.h"
+#include "interchange/standard/udcfunits.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <span>
 #include <tuple>
+#include <utility>
 
 namespace tavrel {
 
 namespace {
-
-constexpr double feet = 0.3048;
-constexpr double bar = 0.0689476;  // of a pound per square inch
 
 /// How the alarms of these files are called, in the order of the export's own.
 constexpr std::array<std::pair<const char*, Series ProfileSeries::*>, 4> alarms{{
@@ -38,10 +39,22 @@ std::vector<XmlElement> childrenOf(XmlElement parent, std::string_view name) {
     return children;
 }
 
+/// What else a file says of all its dives.
+struct File {
+    UdcfUnits units;
+    bool own;  ///< an export of this program
+    QString maker, computer;
+};
+
+/// A moment of the samples, seconds, with what an element says there.
+using Told = std::pair<double, QString>;
+
 class DiveReader {
 public:
-    DiveReader(XmlElement dive, bool imperial, bool own) : dive_(dive), imperial_(imperial), own_(own) {
+    DiveReader(XmlElement dive, const File& file) : dive_(dive), file_(file) {
         found_.dive = unknownDive();
+        found_.dive.fabricant = file.maker;
+        found_.dive.ordinateur = file.computer;
     }
 
     FoundDive read() {
@@ -50,6 +63,28 @@ public:
         readNumbers();
         readGases();
         readSamples();
+        nameLost(dive_, {},
+                 {"PLACE",
+                  "SITE",
+                  "DATE",
+                  "TIME",
+                  "DIVENUMBER",
+                  "MAXDEPTH",
+                  "DIVETIME",
+                  "TEMPERATURE",
+                  "WATERTEMPERATURE",
+                  "AIRTEMPERATURE",
+                  "AIRRTEMPERATURE",
+                  "ALTITUDE",
+                  "SURFACEINTERVAL",
+                  "NOTES",
+                  "WEATHER",
+                  "CURRENT",
+                  "VISIBILITY",
+                  "DIVETYPE",
+                  "GASES",
+                  "DELTAMODE",
+                  "SAMPLES"});
         return std::move(found_);
     }
 
@@ -96,56 +131,88 @@ private:
         }
     }
 
-    /// A depth of no sense is none.
-    double metres(double depth) const {
-        return std::abs(depth) > deepestThinkable ? 0 : imperial_ ? depth * feet : depth;
+    double metres(double length) const { return file_.units.metres(length); }
+    /// Metres; a depth of no sense is none.
+    std::optional<double> depthOf(XmlElement element) const {
+        const auto depth = numberOf(element);
+        return depth && std::abs(metres(*depth)) <= deepestThinkable ? std::optional(metres(*depth)) : std::nullopt;
     }
-    static std::optional<qint32> temperature(XmlElement element) { return thinkableCelsius(numberOf(element)); }
+    std::optional<qint32> temperature(XmlElement element) const {
+        const auto degrees = numberOf(element);
+        return degrees ? thinkableCelsius(file_.units.celsius(*degrees)) : std::nullopt;
+    }
+
+    /// Names the children that nothing reads.
+    void nameLost(XmlElement parent, const char* prefix, std::initializer_list<std::string_view> read) {
+        for (XmlElement it = parent.firstElement(); !it.isNull(); it = it.nextElement()) {
+            if (std::any_of(read.begin(), read.end(), [&](std::string_view name) { return isNamed(it, name); })) {
+                continue;
+            }
+            if (const QString words = wordsOf(it); !words.isEmpty()) {
+                found_.lose(QLatin1String(prefix) + QString::fromUtf8(it.name().data(), qsizetype(it.name().size())),
+                            numberOf(it) ? QString() : words.simplified());
+            }
+        }
+    }
 
     void readNumbers() {
         Plongee& dive = found_.dive;
         dive.noPlongee = rounded(std::clamp(numberOf(child({"DIVENUMBER"})).value_or(0), 0.0, 1e9));
-        dive.profondeur = static_cast<float>(metres(std::max(0.0, numberOf(child({"MAXDEPTH"})).value_or(0))));
+        dive.profondeur = static_cast<float>(std::max(0.0, depthOf(child({"MAXDEPTH"})).value_or(0)));
         dive.temps = rounded(std::clamp(numberOf(child({"DIVETIME"})).value_or(0), 0.0, 1e6));
         dive.tempEau = ofWater(temperature(child({"TEMPERATURE", "WATERTEMPERATURE"}))).value_or(temperatureNotGiven);
         dive.tempAir = temperature(child({"AIRTEMPERATURE", "AIRRTEMPERATURE"})).value_or(temperatureNotGiven);
         const double altitude = metres(numberOf(child({"ALTITUDE"})).value_or(0));
         dive.altitude = altitude > 0 && altitude <= highestAltitude ? rounded(altitude) : 0;
-        const QString interval = wordsOf(child({"SURFACEINTERVAL"}));
-        if (!interval.isEmpty() && interval.compare(QLatin1String("infinity"), Qt::CaseInsensitive) != 0) {
-            dive.surface = interval;
-        }
+        readSurfaceInterval(wordsOf(child({"SURFACEINTERVAL"})));
         if (const QString notes = wordsOf(child({"NOTES"})); !notes.isEmpty()) {
             dive.notes = notes;
         }
-        // The handheld's menus count positions, the best sight first.
-        const auto position = [&](const char* name, qint32& tag, qint32 last) {
-            const auto value = numberOf(child({name}));
-            if (value && *value >= 0 && *value <= last) {
-                tag = rounded(*value);
+        // The handheld tells positions in the form's menus.
+        const auto choose = [&](const char* name, std::span<const Choice> menu, qint32& tag) {
+            const auto position = numberOf(child({name}));
+            if (position && *position >= 0 && *position < static_cast<double>(menu.size())) {
+                tag = menu[static_cast<std::size_t>(*position)].tag;
             }
         };
-        position("WEATHER", dive.meteo, 7);
-        position("CURRENT", dive.courant, 6);
-        qint32 sight = -1;
-        position("VISIBILITY", sight, 8);
-        dive.visibilite = sight < 0 ? dive.visibilite : sight == 0 ? 8 : sight - 1;
+        choose("WEATHER", choices::weather, dive.meteo);
+        choose("CURRENT", choices::current, dive.courant);
+        choose("VISIBILITY", choices::visibility, dive.visibilite);
+        choose("DIVETYPE", choices::diveKind, dive.typePlongee);
+    }
+
+    /// "infinity" for the first dive of a series, minutes, or hours and minutes.
+    void readSurfaceInterval(const QString& words) {
+        bool isNumber = false;
+        const int minutes = words.toInt(&isNumber);
+        if (isNumber && minutes > 0) {
+            found_.dive.surface = intervalText(minutes);
+        } else if (words.contains(u':')) {
+            found_.dive.surface = words;
+        } else if (!isNumber && !words.isEmpty() && words.compare(u"infinity", Qt::CaseInsensitive) != 0) {
+            found_.lose(QStringLiteral("SURFACEINTERVAL"), words);
+        }
     }
 
     void readGases() {
         Plongee& dive = found_.dive;
         std::size_t tanks = 0;
+        nameLost(child({"GASES"}), "GASES/", {"MIX"});
         for (const XmlElement mix : childrenOf(child({"GASES"}), "MIX")) {
             const QString name = wordsOf(childOf(mix, {"MIXNAME"}));
             const auto oxygen = numberOf(childOf(mix, {"O2"}));
             const GasMix gas = oxygen && *oxygen > 0 ? gasMix(*oxygen, numberOf(childOf(mix, {"HE"})).value_or(0), name)
                                                      : gasMixNamed(name);
+            mixes_.emplace_back(name, gas);
+            nameLost(mix, "MIX/", {"MIXNAME", "TANK", "O2", "N2", "HE"});
             auto its = childrenOf(mix, "TANK");
             if (its.empty()) {
                 its.emplace_back();
             }
             for (const XmlElement tank : its) {
-                const qint32 volume = rounded(numberOf(childOf(tank, {"TANKVOLUME"})).value_or(0));
+                const double size = numberOf(childOf(tank, {"TANKVOLUME"})).value_or(0);
+                const qint32 volume = rounded(file_.units.litres(size));
+                nameLost(tank, "TANK/", {"TANKVOLUME", "PSTART", "PEND"});
                 const qint32 start = rounded(pressure(childOf(tank, {"PSTART"})));
                 const qint32 end = rounded(pressure(childOf(tank, {"PEND"})));
                 if (tanks == 0) {
@@ -164,53 +231,59 @@ private:
     }
 
     double pressure(XmlElement element) const {
-        const double value = std::clamp(numberOf(element).value_or(0), 0.0, 1e6);
-        return imperial_ ? value * bar : value;
+        return file_.units.bars(std::clamp(numberOf(element).value_or(0), 0.0, 1e6));
     }
 
     void readSamples() {
         const XmlElement samples = child({"SAMPLES"});
         const double delta = numberOf(childOf(samples, {"DELTA"})).value_or(0);
         std::vector<TimedValue> depths;
-        std::vector<std::pair<double, QString>> raised;
+        std::vector<Told> raised;
+        std::vector<Told> switches;
         double moment = 0;
+        bool isFirst = true;
         std::optional<double> told;
         for (XmlElement it = samples.firstElement(); !it.isNull(); it = it.nextElement()) {
             if (isNamed(it, "T")) {
                 told = numberOf(it);
             } else if (isNamed(it, "D")) {
-                if (!depths.empty() && !told) {
+                if (!std::exchange(isFirst, false) && !told) {
                     moment += delta > 0 ? delta : 10;
                 }
                 moment = told && *told >= moment && *told < 1e9 ? *told : moment;
                 told.reset();
-                depths.push_back({moment, metres(numberOf(it).value_or(0))});
+                if (const auto depth = depthOf(it)) {
+                    depths.push_back({moment, *depth});
+                }
             } else if (isNamed(it, "ALARM")) {
                 raised.emplace_back(moment, wordsOf(it).toLower());
-            } else if (isNamed(it, "TEMPERATURE")) {
-                found_.lose(QStringLiteral("SAMPLES/TEMPERATURE"));
+            } else if (isNamed(it, "SWITCH")) {
+                switches.emplace_back(moment, wordsOf(it));
             }
         }
-        if (own_ && depths.size() >= 2) {
+        nameLost(samples, "SAMPLES/", {"DELTA", "T", "D", "ALARM", "SWITCH"});
+        if (file_.own && depths.size() >= 2) {
             withoutSurface(depths, raised, delta);
         }
-        take(depths, raised);
+        if (const auto sampled = take(depths)) {
+            markAlarms(*sampled, raised);
+            markSwitches(*sampled, switches);
+        }
     }
 
     /// Drops the points at the surface that the export puts before and behind a profile.
-    static void withoutSurface(std::vector<TimedValue>& depths, std::vector<std::pair<double, QString>>& raised,
-                               double delta) {
+    static void withoutSurface(std::vector<TimedValue>& depths, std::vector<Told>& raised, double delta) {
         depths.pop_back();
         depths.erase(depths.begin());
         for (TimedValue& it : depths) {
-            it.seconds -= delta;
+            it.seconds = std::max(0.0, it.seconds - delta);
         }
         for (auto& [moment, kind] : raised) {
             moment -= delta;
         }
     }
 
-    void take(const std::vector<TimedValue>& depths, const std::vector<std::pair<double, QString>>& raised) {
+    std::optional<Resampled> take(const std::vector<TimedValue>& depths) {
         Plongee& dive = found_.dive;
         double deepest = 0;
         for (const TimedValue& it : depths) {
@@ -219,34 +292,87 @@ private:
         if (!(dive.profondeur > 0)) {
             dive.profondeur = static_cast<float>(deepest);
         }
-        const auto sampled = depths.size() < 2 ? std::nullopt : resample(depths);
+        auto sampled = depths.size() < 2 ? std::nullopt : resample(depths);
         if (!sampled) {
-            return;
+            return sampled;
         }
         if (dive.temps == 0) {
             dive.temps = rounded(depths.back().seconds / 60);
         }
         dive.samplingRate = sampled->code;
         dive.profilProfondeur = Series::ofReals(sampled->depths);
-        const std::vector<std::int8_t> none(sampled->depths.size(), 0);
-        dive.GAZ_Flag = Series::empty();
-        dive.GAZ_Flag.append(std::span<const std::int8_t>(none));
+        return sampled;
+    }
+
+    void setFlags(Series ProfileSeries::*series, const std::vector<std::int8_t>& flags) {
+        found_.dive.*series = Series::empty();
+        (found_.dive.*series).append(std::span<const std::int8_t>(flags));
+    }
+
+    void markAlarms(const Resampled& sampled, const std::vector<Told>& raised) {
         for (const auto& [name, series] : alarms) {
-            std::vector<std::int8_t> flags = none;
+            std::vector<std::int8_t> flags(sampled.depths.size(), 0);
             for (const auto& [moment, kind] : raised) {
                 if (kind == QLatin1String(name)) {
-                    flags[sampled->sampleAt(moment)] = 1;
+                    flags[sampled.sampleAt(moment)] = 1;
                 }
             }
-            dive.*series = Series::empty();
-            (dive.*series).append(std::span<const std::int8_t>(flags));
+            setFlags(series, flags);
+        }
+        for (const auto& [moment, kind] : raised) {
+            const bool isKnown = std::any_of(alarms.begin(), alarms.end(), [&, words = kind](const auto& it) {
+                return words == QLatin1String(it.first);
+            });
+            if (!isKnown && !kind.isEmpty()) {
+                found_.lose(QStringLiteral("ALARM ") + kind.left(40));
+            }
         }
     }
 
+    /// A gas by its name or its number, counted from 1.
+    std::optional<std::size_t> mixMeantBy(const QString& words) const {
+        const auto named = std::find_if(mixes_.begin(), mixes_.end(), [&](const auto& it) {
+            return it.first.compare(words, Qt::CaseInsensitive) == 0;
+        });
+        const std::size_t place =
+            named != mixes_.end() ? static_cast<std::size_t>(named - mixes_.begin()) : words.toULongLong() - 1;
+        return place < mixes_.size() ? std::optional(place) : std::nullopt;
+    }
+
+    /// 1 where the dive goes back to its first gas, from 2 on to those of the stops, which take the others in the order
+    /// of their use.
+    void markSwitches(const Resampled& sampled, const std::vector<Told>& switches) {
+        std::vector<std::int8_t> flags(sampled.depths.size(), 0);
+        std::vector<std::size_t> levels;
+        for (const auto& [moment, words] : switches) {
+            const auto mix = mixMeantBy(words);
+            const std::size_t sample = sampled.sampleAt(moment);
+            if (mix == 0U) {
+                // The gas that the dive begins with is no switch.
+                flags[sample] = sample == 0 ? 0 : 1;
+                continue;
+            }
+            if (mix && std::find(levels.begin(), levels.end(), *mix) == levels.end() &&
+                levels.size() < stopFields.size()) {
+                const auto& [oxygen, helium] = stopFields[levels.size()].gas;
+                found_.dive.*oxygen = mixes_[*mix].second.oxygen;
+                found_.dive.*helium = mixes_[*mix].second.helium;
+                levels.push_back(*mix);
+            }
+            const auto level = mix ? std::find(levels.begin(), levels.end(), *mix) : levels.end();
+            if (level != levels.end()) {
+                flags[sample] = static_cast<std::int8_t>(level - levels.begin() + 2);
+            } else if (!mixes_.empty()) {
+                found_.lose(QStringLiteral("SAMPLES/SWITCH"));
+            }
+        }
+        setFlags(&ProfileSeries::GAZ_Flag, flags);
+    }
+
     XmlElement dive_;
-    bool imperial_;
-    bool own_;  ///< an export of this program
+    const File& file_;
     FoundDive found_;
+    std::vector<std::pair<QString, GasMix>> mixes_;
 };
 
 }  // namespace
@@ -266,7 +392,11 @@ FoundDives readUdcf(XmlElement root, const Progress& progress) {
     // This program's exports name it as the maker, in either vocabulary.
     const bool own = wordsOf(childOf(childOf(root, {"DEVICE"}), {"VENDOR"})).startsWith(QLatin1String("Tavrel")) ||
                      wordsOf(childOf(childOf(root, {"generator"}), {"name"})).startsWith(QLatin1String("Tavrel"));
+    const XmlElement device = childOf(root, {"DEVICE"});
+    const File file{UdcfUnits(imperial), own, own ? QString() : wordsOf(childOf(device, {"VENDOR"})),
+                    own ? QString() : wordsOf(childOf(device, {"MODEL"}))};
     FoundDives found;
+    found.asStored = own;
     if (dives.size() > mostDives) {
         found.tooMany = true;
         return found;
@@ -275,7 +405,7 @@ FoundDives readUdcf(XmlElement root, const Progress& progress) {
         if (progress && !progress(found.dives.size(), dives.size())) {
             break;
         }
-        found.dives.push_back(DiveReader(dive, imperial, own).read());
+        found.dives.push_back(DiveReader(dive, file).read());
     }
     return found;
 }

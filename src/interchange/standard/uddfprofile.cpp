@@ -208,7 +208,8 @@ std::string UddfProfile::mode() const {
     return closed != modes.end() ? *closed : modes.empty() ? std::string() : modes.front();
 }
 
-UddfProfile readUddfProfile(XmlElement dive, FoundDive& found) {
+UddfProfile readUddfProfile(XmlElement dive, FoundDive& found, const std::function<bool()>& goesOn) {
+    constexpr std::size_t waypointsPerLook = 4096;
     std::vector<XmlElement> waypoints;
     std::vector<double> moments;
     for (const XmlElement samples : dive.children("samples")) {
@@ -222,6 +223,9 @@ UddfProfile readUddfProfile(XmlElement dive, FoundDive& found) {
     UddfProfile profile;
     WaypointReader reader(profile, found);
     for (std::size_t index = 0; index < waypoints.size(); ++index) {
+        if (index % waypointsPerLook == 0 && !goesOn()) {
+            break;
+        }
         reader.read(waypoints[index], moments[index]);
     }
     reader.tellLost();

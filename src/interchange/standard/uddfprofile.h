@@ -4,6 +4,7 @@
 #include "interchange/standard/resampling.h"
 #include "interchange/xml/xmltree.h"
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -38,7 +39,8 @@ struct UddfProfile {
 };
 
 /// Reads the waypoints of one or more samples elements, naming in the dive what they hold beyond a profile. Waypoints
-/// without a time lie evenly between those beside them that have one, and go on in the last step.
-UddfProfile readUddfProfile(XmlElement dive, FoundDive& found);
+/// without a time lie evenly between those beside them that have one, and go on in the last step. Ends early once
+/// `goesOn`, asked now and then, is false.
+UddfProfile readUddfProfile(XmlElement dive, FoundDive& found, const std::function<bool()>& goesOn);
 
 }  // namespace tavrel

@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <functional>
 #include <set>
 
 namespace tavrel {
@@ -54,7 +55,8 @@ QString personName(XmlElement person) {
 /// One dive, read part by part.
 class DiveReader {
 public:
-    DiveReader(const UddfDocument& document, XmlElement dive) : document_(document), dive_(dive) {
+    DiveReader(const UddfDocument& document, XmlElement dive, const std::function<bool()>& goesOn)
+        : document_(document), dive_(dive), goesOn_(goesOn) {
         found_.dive = unknownDive();
         for (const char* name : {"informationbeforedive", "informationafterdive", "diveinformation"}) {
             for (const XmlElement part : dive.children(name)) {
@@ -65,7 +67,7 @@ public:
     }
 
     FoundDive read() {
-        const UddfProfile profile = readUddfProfile(dive_, found_);
+        const UddfProfile profile = readUddfProfile(dive_, found_, goesOn_);
         readStart();
         readNumbers(profile);
         readSurfaceInterval();
@@ -160,8 +162,7 @@ private:
         interval = interval.isNull() ? element("surfaceinterval") : interval;
         const auto seconds = numberOf(interval.first("passedtime"));
         if (seconds && *seconds > 0 && *seconds < 1e9) {
-            const qint32 minutes = rounded(*seconds / 60);
-            found_.dive.surface = QStringLiteral("%1:%2").arg(minutes / 60).arg(minutes % 60, 2, 10, QLatin1Char('0'));
+            found_.dive.surface = intervalText(rounded(*seconds / 60));
         }
     }
 
@@ -205,6 +206,13 @@ private:
         const auto [low, high] = std::minmax_element(profile.setPoints.begin(), profile.setPoints.end());
         dive.ppO2 = setPointTag(*high);
         dive.lowSetpoint = *low < *high ? setPointTag(*low) : 0;
+        const bool areAllHeld = std::all_of(profile.setPoints.begin(), profile.setPoints.end(), [&](double point) {
+            const qint32 tag = setPointTag(point);
+            return tag != 0 && (tag == dive.ppO2 || tag == dive.lowSetpoint);
+        });
+        if (!areAllHeld) {
+            found_.lose(QStringLiteral("waypoint/setpo2"));
+        }
         if (dive.rebreather == Apparatus::openCircuit) {
             dive.rebreather = Apparatus::electronicClosed;
         }
@@ -414,6 +422,7 @@ private:
 
     const UddfDocument& document_;
     XmlElement dive_;
+    const std::function<bool()>& goesOn_;
     std::vector<XmlElement> parts_;
     FoundDive found_;
     std::string namedMix_;
@@ -451,11 +460,12 @@ FoundDives readUddf(XmlElement root, const Progress& progress) {
         return found;
     }
     found.dives.reserve(dives.size());
+    const std::function<bool()> goesOn = [&] { return !progress || progress(found.dives.size(), dives.size()); };
     for (const XmlElement dive : dives) {
-        if (progress && !progress(found.dives.size(), dives.size())) {
+        if (!goesOn()) {
             break;
         }
-        found.dives.push_back(DiveReader(document, dive).read());
+        found.dives.push_back(DiveReader(document, dive, goesOn).read());
         if (dive.parent().name() != "repetitiongroup") {
             found.dives.back().doubts.push_back(Doubt::groupSkipped);
         }

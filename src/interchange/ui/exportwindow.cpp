@@ -109,8 +109,8 @@ ExportWindow::ExportWindow(Carnet& carnet, FileDialogs& fileDialogs, FileTaken i
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(entries);
-    layout->addWidget(columnsBox_, 1);
-    layout->addWidget(lossesBox, 1);
+    layout->addWidget(columnsBox_, 3);
+    layout->addWidget(lossesBox, 2);
     layout->addWidget(buttons);
     resize(fontMetrics().averageCharWidth() * 80, fontMetrics().height() * 34);
 

@@ -46,7 +46,9 @@ void ImportCommands::showDivesOf(const QString& file) {
     if (!window_.leaveEditing(Settling::leaving)) {
         return;
     }
-    (new ImportWindow(carnet_, desktop_, file, &window_))->show();
+    (new ImportWindow(
+         carnet_, desktop_, file, [this] { return window_.leaveEditing(Settling::leaving); }, &window_))
+        ->show();
 }
 
 void ImportCommands::chooseAndImport(ImportFormat format) {

@@ -1,9 +1,12 @@
 #include "interchange/ui/importwindow.h"
 
+#include "base/decimalsign.h"
 #include "base/numbers.h"
 #include "base/safefile.h"
 #include "base/texts.h"
 #include "desktop/alerts.h"
+#include "desktop/commonsettings.h"
+#include "desktop/preferences.h"
 #include "interchange/standard/gasmix.h"
 #include "interchange/ui/tablecolumnspage.h"
 
@@ -18,6 +21,8 @@
 #include <QPainterPath>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QShortcut>
+#include <QTextDocument>
 #include <QThread>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -31,6 +36,8 @@ namespace {
 enum Column { start, place, deepest, duration, gas, profile, remarks, columns };
 
 constexpr QSize profileSize{120, 28};
+/// A table may have a thousand columns that a dive has no place for.
+constexpr qsizetype mostLostShown = 20;
 
 /// The depths as a filled shape under the surface, no more points than the picture is wide.
 QPixmap profilePicture(const Plongee& dive, const QColor& colour, qreal ratio) {
@@ -92,11 +99,13 @@ struct ImportWindow::Reading {
     Expected<Source> source = failure(QString());
 };
 
-ImportWindow::ImportWindow(Carnet& carnet, Desktop& desktop, const QString& file, QWidget* parent)
+ImportWindow::ImportWindow(Carnet& carnet, Desktop& desktop, const QString& file, std::function<bool()> mayChange,
+                           QWidget* parent)
     : QWidget(parent, Qt::Window),
       carnet_(carnet),
       desktop_(desktop),
       file_(file),
+      mayChange_(std::move(mayChange)),
       state_(std::make_shared<Reading>()),
       heading_(new QLabel(textWith("Interchange", "Reading file", QFileInfo(file).fileName()))),
       progress_(new QProgressBar),
@@ -122,6 +131,9 @@ ImportWindow::ImportWindow(Carnet& carnet, Desktop& desktop, const QString& file
                             text("Interchange", "Column gas"), text("Interchange", "Column profile"),
                             text("Interchange", "Column remarks")});
     list_->setAccessibleName(text("Interchange", "Import dives"));
+    // What a file says is no markup.
+    heading_->setTextFormat(Qt::PlainText);
+    lost_->setTextFormat(Qt::PlainText);
     lost_->setWordWrap(true);
 
     auto* all = new QPushButton(text("Interchange", "Tick all"));
@@ -152,12 +164,20 @@ ImportWindow::ImportWindow(Carnet& carnet, Desktop& desktop, const QString& file
     layout->addWidget(byDate_);
     layout->addWidget(keepTexts_);
     layout->addLayout(buttons);
-    resize(fontMetrics().averageCharWidth() * 120, fontMetrics().height() * 30);
+    resize(fontMetrics().averageCharWidth() * 140, fontMetrics().height() * 30);
 
     connect(all, &QPushButton::clicked, this, [this] { tickAll(true); });
     connect(none, &QPushButton::clicked, this, [this] { tickAll(false); });
     connect(cancel, &QPushButton::clicked, this, &QWidget::close);
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
+    connect(new QShortcut(QKeySequence::Close, this), &QShortcut::activated, this, &QWidget::close);
     connect(import_, &QPushButton::clicked, this, &ImportWindow::importChosen);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this, [this] {
+            auto* button = qobject_cast<QPushButton*>(focusWidget());
+            (button ? button : import_)->click();
+        });
+    }
     connect(list_, &QTreeWidget::itemChanged, this, &ImportWindow::updateChosen);
     connect(columns_, &QPushButton::toggled, tableColumns_, &QWidget::setVisible);
     connect(tableColumns_, &TableColumnsPage::chosenChanged, this, [this] {
@@ -210,7 +230,12 @@ void ImportWindow::startReading() {
         }
     });
     thread_->setParent(this);
-    connect(thread_, &QThread::finished, this, &ImportWindow::showFound);
+    connect(thread_, &QThread::finished, this, [this, state] {
+        // The end of a reading that another has followed may still be on its way.
+        if (state == state_) {
+            showFound();
+        }
+    });
     thread_->start();
 }
 
@@ -236,12 +261,16 @@ void ImportWindow::showFound() {
             addRow(index);
         }
     }
-    for (int column = 0; column < columns; ++column) {
+    // The remarks take what is left.
+    for (int column = 0; column < remarks; ++column) {
         list_->resizeColumnToContents(column);
     }
     const QStringList lost = lostItemLines(found_);
     lost_->setVisible(!lost.isEmpty());
-    lost_->setText(textWith("Interchange", "No place for", lost.join(QStringLiteral(", "))));
+    const QString more = lost.size() > mostLostShown ? QStringLiteral(", …") : QString();
+    lost_->setText(
+        textWith("Interchange", "No place for", lost.mid(0, mostLostShown).join(QStringLiteral(", ")) + more));
+    lost_->setToolTip(more.isEmpty() ? QString() : Qt::convertFromPlainText(lost.join(u'\n')));
     keepTexts_->setVisible(!lost.isEmpty());
     updateChosen();
 }
@@ -267,12 +296,17 @@ void ImportWindow::addRow(int index) {
     row->setCheckState(start, found.duplicate ? Qt::Unchecked : Qt::Checked);
     row->setText(start, startWords(found.dive));
     row->setText(place, joined(found.dive.lieu, found.dive.site));
-    row->setText(deepest, shortestText(found.dive.profondeur) + QStringLiteral(" m"));
+    row->setText(deepest,
+                 withDecimalSign(shortestText(found.dive.profondeur)) +
+                     (desktop_.preferences.get(settings::usUnits) ? QStringLiteral(" ft") : QStringLiteral(" m")));
     row->setText(duration, QString::number(found.dive.temps) + QStringLiteral(" min"));
     row->setText(gas, gasName(gasMix(breathed.oxygen / 100.0, breathed.helium / 100.0)));
     row->setData(profile, Qt::DecorationRole,
                  profilePicture(found.dive, palette().color(QPalette::Text), devicePixelRatioF()));
+    row->setTextAlignment(deepest, Qt::AlignRight | Qt::AlignVCenter);
+    row->setTextAlignment(duration, Qt::AlignRight | Qt::AlignVCenter);
     row->setText(remarks, words.join(QStringLiteral("; ")));
+    row->setToolTip(remarks, words.join(u'\n'));
     if (!words.isEmpty()) {
         QFont slanted = list_->font();
         slanted.setItalic(true);
@@ -300,6 +334,10 @@ void ImportWindow::updateChosen() {
 }
 
 void ImportWindow::importChosen() {
+    // The logbook was in use meanwhile, and its form is about to show another dive.
+    if (!mayChange_()) {
+        return;
+    }
     FoundDives chosen;
     for (int index = 0; index < list_->topLevelItemCount(); ++index) {
         if (list_->topLevelItem(index)->checkState(start) == Qt::Checked) {

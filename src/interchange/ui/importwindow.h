@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include <atomic>
+#include <functional>
 #include <memory>
 
 class QCheckBox;
@@ -26,7 +27,9 @@ class ImportWindow : public QWidget {
     Q_OBJECT
 
 public:
-    ImportWindow(Carnet& carnet, Desktop& desktop, const QString& file, QWidget* parent);
+    /// `mayChange` settles what is typed in the logbook's form; false when the user would rather go on with it.
+    ImportWindow(Carnet& carnet, Desktop& desktop, const QString& file, std::function<bool()> mayChange,
+                 QWidget* parent);
     ~ImportWindow() override;
 
     QTreeWidget& list() { return *list_; }
@@ -49,6 +52,7 @@ private:
     Carnet& carnet_;
     Desktop& desktop_;
     QString file_;
+    std::function<bool()> mayChange_;
     FoundDives found_;
     std::shared_ptr<Reading> state_;
     QThread* thread_ = nullptr;

@@ -1,6 +1,8 @@
 #include "interchange/standard/sourcereading.h"
 
 #include "base/safefile.h"
+#include "interchange/standard/resampling.h"
+#include "interchange/standard/uddfwords.h"
 #include "support/printing.h"
 #include "support/records.h"
 
@@ -56,7 +58,7 @@ TEST(Uddf, givesADiveEverythingThatItsLinksTell) {
     EXPECT_EQ(startText(dive), u"2021-06-30 09:41:30") << "as the clock on the boat showed it";
     EXPECT_EQ(in(dive, "noPlongee lieu site pays"), u"7; Port-Cros; La Gabinière; France");
     EXPECT_EQ(in(dive, "gps epaves structure"), u"N 42° 59.298'  E 006° 23.550'; Le Donator; Club du Port");
-    EXPECT_EQ(in(dive, "partenaires surface profondeur"), u"Zoé Martin, Max; 1:31; 6.47");
+    EXPECT_EQ(in(dive, "partenaires surface profondeur"), u"Zoé Martin, Max; 01:31; 6.47");
     EXPECT_EQ(in(dive, "temps tempEau tempAir gaz o2Mix heMix"), u"45; 15; 26; 1; 32; 0");
     EXPECT_EQ(in(dive, "alliageBloc volumeBloc pressionDepart pressionFin"), u"2; 12; 201; 70");
     EXPECT_EQ(in(dive, "visibilite courant typePlongee combinaison inoubliable lestage"), u"1; 3; 3; 1; 1; 4.5");
@@ -152,6 +154,7 @@ TEST(Uddf, readsTheClockHoweverItIsWritten) {
         {"<datetime>20100814T100203</datetime>", u"2010-08-14 10:02:03"},
         {"<datetime>14.08.2010 10:02</datetime>", u"2010-08-14 10:02:00"},
         {"<datetime>08/14/2010 2:02 PM</datetime>", u"2010-08-14 14:02:00"},
+        {"<datetime>08/14/2010 12:02 am</datetime>", u"2010-08-14 00:02:00"},
         {"<datetime/><date>2010-08-14</date><time>10:02:59Z</time>", u"2010-08-14 10:02:59"},
         {"<date year='2010' month='8' day='14'/><time hour='7' minute='5'/>", u"2010-08-14 07:05:00"},
         {"<date><year>2010</year><month>8</month><day>14</day></date>", u"2010-08-14 00:00:00"},
@@ -213,6 +216,37 @@ TEST(Uddf, spreadsWaypointsWithoutATime) {
     ASSERT_EQ(it.profilProfondeur.size(), expected.size());
     for (std::size_t sample = 0; sample < expected.size(); ++sample) {
         EXPECT_NEAR(it.profilProfondeur.real(sample), expected[sample], 1e-9) << sample;
+    }
+}
+
+TEST(Uddf, readsTimesAsTheyCanOnlyBeMeant) {
+    const auto waypoint = [](int seconds, const char* depth) {
+        return "<waypoint><depth>" + QByteArray(depth) + "</depth><divetime>" + QByteArray::number(seconds) +
+               "</divetime></waypoint>";
+    };
+    const Plongee clock =
+        diveRead({}, "<samples>" + waypoint(1'000'000, "5") + waypoint(1'000'010, "7") + "</samples>");
+    EXPECT_EQ(clock.profilProfondeur, Series::ofReals({5, 7})) << "from the first waypoint on";
+    const Plongee twice =
+        diveRead({}, "<samples>" + waypoint(0, "1") + waypoint(0, "2") + waypoint(10, "3") + "</samples>");
+    EXPECT_EQ(twice.profilProfondeur, Series::ofReals({2, 3})) << "the last of a moment";
+    const Plongee minutes = diveRead({}, "<samples>" + waypoint(0, "1") + waypoint(2700, "2") +
+                                             "</samples><informationafterdive><diveduration>45</diveduration>"
+                                             "</informationafterdive>");
+    EXPECT_EQ(minutes.temps, 45);
+}
+
+TEST(Resampling, takesTheShorterOfTwoStepsAndKeepsWhatStandsOut) {
+    EXPECT_EQ(resample({{0, 5}, {4, 5}, {8, 5}, {18, 5}, {28, 5}})->code, 5);
+    const auto peaked = resample({{0, 9}, {10, 9}, {14, 9}, {14.5, 0}, {15, 9}, {20, 9}, {30, 9}});
+    EXPECT_EQ(*std::min_element(peaked->depths.begin(), peaked->depths.end()), 0);
+}
+
+TEST(Uddf, ratesASightByItsMetres) {
+    const std::pair<double, qint32> cases[] = {{40, 8}, {39, 0}, {25, 0}, {15, 1}, {14.9, 2},
+                                               {10, 2}, {5, 3},  {3, 4},  {1, 5},  {0.9, 6}};
+    for (const auto& [metres, rating] : cases) {
+        EXPECT_EQ(visibilityRating(metres), rating) << metres;
     }
 }
 
@@ -288,6 +322,49 @@ TEST(Udcf, isReadAsItWasMeant) {
     EXPECT_EQ(dive.SLOW_Flag.integer(1), 1);
     EXPECT_EQ(dive.ASC_Flag.integer(1), 0);
     EXPECT_EQ(found.dives[1].dive.lieu, u"Agay");
+    EXPECT_EQ(in(dive, "fabricant ordinateur"), u"Reef; One");
+}
+
+TEST(Udcf, isReadInTheUnitsThatItSays) {
+    const FoundDive found =
+        read(
+            "<PROFILE><UNITS>Imperial</UNITS><REPGROUP><DIVE><MAXDEPTH>100</MAXDEPTH><ALTITUDE>1000</ALTITUDE>"
+            "<TEMPERATURE>68</TEMPERATURE><SURFACEINTERVAL>95</SURFACEINTERVAL><DENSITY>salt</DENSITY>"
+            "<GASES><MIX><MIXNAME>Back</MIXNAME><O2>0.21</O2><TANK><TANKVOLUME>80</TANKVOLUME><PSTART>3000</PSTART>"
+            "<PEND>500</PEND></TANK></MIX><MIX><MIXNAME>EAN50</MIXNAME></MIX></GASES>"
+            "<SAMPLES><DELTA>10</DELTA><SWITCH>1</SWITCH><D>0</D><D>100</D><SWITCH>ean50</SWITCH><ALARM>Sun</ALARM>"
+            "<D>20</D><SWITCH>Back</SWITCH><D>10</D><SWITCH>3</SWITCH></SAMPLES></DIVE></REPGROUP></PROFILE>",
+            SourceKind::udcf)
+            .dives.at(0);
+    EXPECT_EQ(in(found.dive, "profondeur altitude tempEau surface"), u"30.48; 305; 20; 01:35");
+    EXPECT_EQ(in(found.dive, "volumeBloc pressionDepart pressionFin"), u"11; 207; 34");
+    EXPECT_EQ(found.dive.profilProfondeur, Series::ofReals({0, 30.48, 6.1, 3.05}));
+    EXPECT_EQ(found.dive.GAZ_Flag, Series::ofIntegers({0, 2, 1, 0}));
+    EXPECT_EQ(in(found.dive, "decoO2_Level_1 o2Mix_2"), u"50; 50");
+    for (const char* name : {"DENSITY", "ALARM sun", "SAMPLES/SWITCH"}) {
+        EXPECT_TRUE(loses(found, name)) << name;
+    }
+    EXPECT_EQ(found.lost.size(), 3U);
+}
+
+TEST(Udcf, takesDepthsOfNoSenseForNone) {
+    const Plongee dive = read("<PROFILE><REPGROUP><DIVE><MAXDEPTH>" + QByteArray(39, '9') +
+                              "</MAXDEPTH><SAMPLES><DELTA>10</DELTA><D>1</D><D>1e30</D><D>7</D></SAMPLES></DIVE>"
+                              "</REPGROUP></PROFILE>")
+                             .dives.at(0)
+                             .dive;
+    EXPECT_EQ(dive.profondeur, 7);
+    EXPECT_EQ(dive.profilProfondeur, Series::ofReals({1, 7})) << "twenty seconds apart";
+}
+
+TEST(Handheld, choosesFromTheMenusOfTheForm) {
+    const Plongee dive = read(
+                             "<log><repgroup><dive><weather>3</weather><current>5</current><visibility>0</visibility>"
+                             "<divetype>4</divetype></dive></repgroup></log>",
+                             SourceKind::handheld)
+                             .dives.at(0)
+                             .dive;
+    EXPECT_EQ(in(dive, "meteo courant visibilite typePlongee"), u"3; 5; 8; 5");
 }
 
 TEST(Udcf, takesNoDepthThatNoneCanBe) {
@@ -313,6 +390,8 @@ TEST(Sources, areToldByTheirContents) {
         {"date,profondeur\n2020-05-01,20\n", SourceKind::table},
     };
     for (const auto& [bytes, kind] : cases) {
+        const auto cancelled = readSource(bytes, [](std::size_t, std::size_t) { return false; });
+        EXPECT_TRUE(!cancelled || cancelled->found.dives.empty()) << bytes;
         EXPECT_EQ(kindOfStart(bytes), kind) << bytes;
         const auto source = readSource(bytes);
         EXPECT_EQ(source ? std::optional(source->kind) : std::nullopt, kind) << bytes;

@@ -51,10 +51,10 @@ TEST(TableReading, readsTheOlderExportsWithTheirWords) {
 }
 
 TEST(TableReading, namesWhatIsNoValueOfADive) {
-    const Table table = read("date,Mood,temps\n2020-01-01,fine,long\nnever,,3\n");
+    const Table table = read("date,Mood,temps,lestage\n2020-01-01,fine,long,1e99\nnever,,3\n");
     ASSERT_EQ(table.found.dives.size(), 2U);
     const FoundDive& first = table.found.dives[0];
-    ASSERT_EQ(first.lost.size(), 2U);
+    ASSERT_EQ(first.lost.size(), 3U);
     EXPECT_EQ((QStringList{first.lost[0].name, first.lost[0].text, first.lost[1].name}),
               (QStringList{QStringLiteral("Mood"), QStringLiteral("fine"), QStringLiteral("temps")}));
     EXPECT_FALSE(startOf(table.found.dives[1].dive).isValid());
@@ -80,6 +80,15 @@ TEST(TableReading, followsTheColumnsThatWereChosen) {
     EXPECT_EQ(startText(dive), u"2022-04-03 14:05:00");
     EXPECT_EQ(dive.dive.profondeur, 18.2F);
     EXPECT_EQ(dive.dive.temps, 0) << "left out";
+}
+
+TEST(TableReading, takesAllDaysBehindTheirMonthsWhereOneStandsThere) {
+    const Table table = read("date,heure\n3/4/2022,14:05\n12/31/2022,\n5/5/2022,\n");
+    const std::vector<FoundDive>& dives = table.found.dives;
+    EXPECT_EQ((QStringList{startText(dives.at(0)), startText(dives.at(1)), startText(dives.at(2))}),
+              (QStringList{QStringLiteral("2022-03-04 14:05:00"), QStringLiteral("2022-12-31 00:00:00"),
+                           QStringLiteral("2022-05-05 00:00:00")}));
+    EXPECT_EQ(startText(read("date,temps\n3/4/2022,1\n31/12/2022,2\n").found.dives.at(0)), u"2022-04-03 00:00:00");
 }
 
 TEST(TableReading, refusesWhatIsNoTable) {

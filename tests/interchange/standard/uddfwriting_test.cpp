@@ -80,7 +80,7 @@ Plongee fullDive() {
     fill(dive, Plongee::layout(), R"(noPlongee=57|coeff=95|pmBm=1|lieu=Saint-Raphaël|
         site=Lion de mer <sud> & "nord"|pays=France|countryCode=FR|gps=N 43° 24.123'  E 006° 46.456'|
         partenaires=Zoé Martin, Max, Anne de la Tour|epaves=Le Donator, Le Grec|structure=Club du Port|
-        bateau=La Palme|surface=2:05|profondeur=42.7|temps=61|altitude=320|deco=1|deco_TTS=12|
+        bateau=La Palme|surface=02:05|profondeur=42.7|temps=61|altitude=320|deco=1|deco_TTS=12|
         deco_Level_1_sw=1|decoDepth_Level_1=3.5|decoTime_Level_1=14|decoO2_Level_1=100|decoDepth_Level_3=9|
         decoTime_Level_3=2|decoO2_Level_3=50|decoHe_Level_3=10|volPony1=7|pressDepartPony1=200|
         pressFinPony1=150|volPony3=11|pressDepartPony3=210|volBailout2=12|O2Bailout2=32|alliageBloc=2|
@@ -128,6 +128,8 @@ TEST(UddfWriting, turnsED50IntoWGS84) {
     // ED50 lies some 80 m to the east and 100 m to the north of WGS84 there.
     EXPECT_TRUE(again.gps.startsWith(QStringLiteral("N 47° 59.9"))) << again.gps.toStdString();
     EXPECT_TRUE(again.gps.contains(QStringLiteral("E 001° 59.9"))) << again.gps.toStdString();
+    dive.gpsSystem = 2;
+    EXPECT_EQ(thereAndBack({shared(dive)}).at(0).gps, dive.gps) << "of an unknown datum as it stands";
 }
 
 TEST(UddfWriting, staysValidWhateverADiveHolds) {

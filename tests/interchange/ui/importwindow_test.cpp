@@ -9,6 +9,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QTest>
 #include <QThread>
 #include <QTreeWidget>
 #include <gtest/gtest.h>
@@ -19,13 +20,17 @@ namespace {
 
 class FoundDivesWindow : public testing::Test {
 protected:
-    void show(const QByteArray& bytes) {
+    void show(const QByteArray& bytes, bool waits = true) {
         const QString path = desktop.path(QStringLiteral("source"));
         writeContents(path, bytes);
-        window = new ImportWindow(carnet, desktop.desktop(), path, nullptr);
+        window = new ImportWindow(
+            carnet, desktop.desktop(), path, [this] { return carnet.leaveForm(Leaving::elsewhere); }, nullptr);
         window->show();
-        waitForReading();
+        if (waits) {
+            waitForReading();
+        }
     }
+    void clickImport() { window->findChild<QPushButton*>(QStringLiteral("importChosen"))->click(); }
     void waitForReading() {
         window->findChildren<QThread*>().constLast()->wait();
         QCoreApplication::processEvents();
@@ -55,7 +60,8 @@ TEST_F(FoundDivesWindow, takesTheTickedDivesAsOneStep) {
     ASSERT_EQ(window->list().topLevelItemCount(), 3);
     EXPECT_EQ(window->list().topLevelItem(0)->checkState(0), Qt::Unchecked) << "there already";
     window->list().topLevelItem(2)->setCheckState(0, Qt::Unchecked);
-    window->findChild<QPushButton*>(QStringLiteral("importChosen"))->click();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+    QTest::keyClick(window, Qt::Key_Return);
     ASSERT_EQ(carnet.count(), 2);
     EXPECT_EQ(carnet.record(1).profondeur, 10.0F);
     EXPECT_EQ(carnet.record(1).noPlongee, 9);
@@ -75,6 +81,25 @@ TEST_F(FoundDivesWindow, closedLeavesNothing) {
     EXPECT_EQ(window->list().topLevelItemCount(), 0);
     EXPECT_FALSE(window->findChild<QPushButton*>(QStringLiteral("importChosen"))->isEnabled());
     delete window;
+    show("date,profondeur\n" + QByteArray("2020-05-01,20\n").repeated(200'000), false);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+    QTest::keyClick(window, Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(window) << "in the middle of the reading";
+}
+
+TEST_F(FoundDivesWindow, asksAboutWhatWasTypedWhileItWasOpen) {
+    show("date,profondeur\n2020-05-01,20\n");
+    carnet.newDive();
+    carnet.form().state().type(carnet.form().controls().lieuField.index, QStringLiteral("Here"));
+    desktop.alerts.answerNext(2);
+    clickImport();
+    EXPECT_TRUE(window && carnet.hasEntries()) << "cancelled: everything stays";
+    EXPECT_EQ(carnet.count(), 0);
+    desktop.alerts.answerNext(0);
+    clickImport();
+    ASSERT_EQ(carnet.count(), 2);
+    EXPECT_EQ(carnet.record(0).lieu, u"Here");
 }
 
 TEST_F(FoundDivesWindow, remembersWhatTheColumnsOfATableAreTakenFor) {
