@@ -129,21 +129,15 @@ TEST_F(Documents, areSavedUnderANameAndReverted) {
     EXPECT_EQ(app.frontWindow()->windowTitle(), u"dives.carnet[*]");
     EXPECT_EQ(recent(), QStringList{file});
 
-    // Back to the file, once it is one of two dives to its backup of one; either only when the user says so.
-    using Way = bool (MyDocumentController::*)(DocumentWindow&);
-    for (const Way way : {&MyDocumentController::revertDocument, &MyDocumentController::revertToBackup}) {
-        const bool toBackup = way == Way(&MyDocumentController::revertToBackup);
-        app.frontCarnet().addDive();
-        EXPECT_TRUE(app.frontWindow()->isWindowModified());
-        EXPECT_TRUE(!toBackup || app.documents.saveDocument(*app.frontWindow()));
-        app.alerts.answerNext(1);
-        EXPECT_FALSE((app.documents.*way)(*app.frontWindow()));
-        EXPECT_EQ(app.frontCarnet().count(), 2);
-        app.alerts.answerNext(0);
-        EXPECT_TRUE((app.documents.*way)(*app.frontWindow()));
-        EXPECT_EQ(app.frontCarnet().count(), 1);
-        EXPECT_EQ(app.frontWindow()->isWindowModified(), toBackup);
-    }
+    app.frontCarnet().addDive();
+    EXPECT_TRUE(app.frontWindow()->isWindowModified());
+    app.alerts.answerNext(1);
+    EXPECT_FALSE(app.documents.revertDocument(*app.frontWindow()));
+    EXPECT_EQ(app.frontCarnet().count(), 2);
+    app.alerts.answerNext(0);
+    EXPECT_TRUE(app.documents.revertDocument(*app.frontWindow()));
+    EXPECT_EQ(app.frontCarnet().count(), 1);
+    EXPECT_FALSE(app.frontWindow()->isWindowModified());
 
     // A failed save keeps the changes, the file and its name.
     app.frontCarnet().addDive();
@@ -437,6 +431,19 @@ TEST_F(Documents, thatAnotherProgramHasOpenAreOpenedToBeLookedAt) {
     ASSERT_TRUE(window);
     app.frontCarnet().addDive();
     EXPECT_TRUE(app.documents.saveDocument(*window));
+}
+
+TEST_F(Documents, goBackToTheirBackup) {
+    DocumentWindow* window = app.documents.openFile(app.savedLogbook(QStringLiteral("dives.carnet"), 2));
+    app.frontCarnet().addDive();
+    ASSERT_TRUE(app.documents.saveDocument(*window));
+    app.alerts.answerNext(1);
+    EXPECT_FALSE(app.documents.revertToBackup(*window));
+    EXPECT_EQ(app.frontCarnet().count(), 3);
+    app.alerts.answerNext(0);
+    EXPECT_TRUE(app.documents.revertToBackup(*window));
+    EXPECT_EQ(app.frontCarnet().count(), 2);
+    EXPECT_TRUE(window->document().isChanged());
 }
 
 /// A run of the program that keeps what is unsaved in a folder that all runs share.

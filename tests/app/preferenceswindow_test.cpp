@@ -28,9 +28,10 @@ protected:
     PreferencesTest() {
         using enum Notification;
         for (const auto& [notification, name] :
-             {std::pair(updateTableView, "updateTableView"), std::pair(updateColumnsTableView, "updateColumnsTableView"),
-              std::pair(updateEditDive, "updateEditDive"), std::pair(Notification::profile, "profile"),
-              std::pair(updateDeco, "updateDeco"), std::pair(updateRebreather, "updateRebreather")}) {
+             {std::pair(updateTableView, "updateTableView"),
+              std::pair(updateColumnsTableView, "updateColumnsTableView"), std::pair(updateEditDive, "updateEditDive"),
+              std::pair(Notification::profile, "profile"), std::pair(updateDeco, "updateDeco"),
+              std::pair(updateRebreather, "updateRebreather")}) {
             subscriptions_.push_back(desktop.notifications.subscribe(notification, [this, name = name] {
                 posted.append(QString::fromLatin1(name));
                 intervalWhenPosted = desktop.preferences.string(QStringLiteral("stop interval"));
@@ -169,7 +170,8 @@ TEST_F(PreferencesTest, everyChangeIsStoredAndTellsItsFollowers) {
     EXPECT_EQ(takePosted().join(u' '), u"updateTableView profile updateEditDive updateDeco updateRebreather");
 
     const auto store = readBack();
-    // What has no control of its own in the change goes along with it: the defaults, as of the alpha, become the user's.
+    // What has no control of its own in the change goes along with it: the defaults, as of the alpha, become the
+    // user's.
     for (const auto& [key, value] : namedValues(
              "column site=0|column_epave=1|mix in color=1|stop interval=5|cell life=24|low temperature value=-1.5|"
              "tank volume=12|coloured theme=2|us units=1|alpha fill color=0.5")) {
@@ -202,10 +204,10 @@ TEST_F(PreferencesTest, decoAndRebreatherStoreAfterTheyTold) {
 }
 
 TEST_F(PreferencesTest, switchesEnableWhatDependsOnThem) {
-    for (const auto& [onOff, dependents] : namedValues(
-             "tableColorSwitch=profondeurWell dureeWell|itemColorSwitch=textInColorField themeInColorPopUp|"
-             "lowTemperatureSwitch=tempValueField lowTemperatureWell|fillSwitch=fillColorWell alphaFillField|"
-             "gradientYesSwitch=gradientLinesColorWell")) {
+    for (const auto& [onOff, dependents] :
+         namedValues("tableColorSwitch=profondeurWell dureeWell|itemColorSwitch=textInColorField themeInColorPopUp|"
+                     "lowTemperatureSwitch=tempValueField lowTemperatureWell|fillSwitch=fillColorWell alphaFillField|"
+                     "gradientYesSwitch=gradientLinesColorWell")) {
         auto& box = find<QCheckBox>(onOff.c_str());
         for (int turn = 0; turn < 2; ++turn) {
             box.click();

@@ -56,7 +56,7 @@ TEST_F(DiveCardTest, WritesWindSectorsAsTheyStandInEveryLanguage) {
     setTextLanguage(QStringLiteral("fr"));
     const QString card = cardOf(dive);
     setTextLanguage(QStringLiteral("en"));
-    EXPECT_TRUE(card.contains(u"S-W\r")) << card;
+    EXPECT_TRUE(card.contains(u"S-W\r")) << card.toStdString();
 }
 
 TEST_F(DiveCardTest, NamesGasesAndStops) {

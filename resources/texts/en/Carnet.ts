@@ -77,7 +77,6 @@
 <message><source>Convert units</source><translation>&amp;Convert</translation></message>
 <message><source>Convert water now</source><translation>Water now</translation></message>
 <message><source>Convert water then</source><translation>Water then</translation></message>
-<message><source>Copying</source><translation>Copying the dives…</translation></message>
 <message><source>Current</source><translation>&#13;Current: </translation></message>
 <message><source>Current dive</source><translation>Current dive</translation></message>
 <message><source>DILUANT :</source><translation>DILUENT:</translation></message>
@@ -301,7 +300,6 @@
 <message><source>Page dive</source><translation>Dive</translation></message>
 <message><source>Page equipment</source><translation>Equipment and notes</translation></message>
 <message><source>Page gas</source><translation>Tanks and gas</translation></message>
-<message><source>Pages</source><translation>Pages of the dive form</translation></message>
 <message><source>Parameters</source><translation>&#13;&#13;Parameters</translation></message>
 <message><source>Pays</source><translation>&#13;Country: </translation></message>
 <message><source>Photo dive</source><translation>Photography</translation></message>

@@ -26,7 +26,6 @@
 <message><source>References</source><translation>References: %d</translation></message>
 <message><source>Row</source><translation>Row</translation></message>
 <message><source>Row or new</source><translation>Give either --row or --new.</translation></message>
-<message><source>Seconds</source><translation>%d s</translation></message>
 <message><source>System version</source><translation>System version: %d</translation></message>
 <message><source>Unit of the value</source><translation>Unit of the value: %@</translation></message>
 <message><source>Usual values</source><translation>, usually %@ [%@]</translation></message>

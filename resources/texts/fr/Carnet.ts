@@ -77,7 +77,6 @@
 <message><source>Convert units</source><translation>&amp;Convertir</translation></message>
 <message><source>Convert water now</source><translation>Eau actuelle</translation></message>
 <message><source>Convert water then</source><translation>Eau ensuite</translation></message>
-<message><source>Copying</source><translation>Copie des plongées…</translation></message>
 <message><source>Current</source><translation>&#13;Courant : </translation></message>
 <message><source>Current dive</source><translation>Plongée courante</translation></message>
 <message><source>DILUANT :</source><translation>DILUANT :</translation></message>
@@ -301,7 +300,6 @@
 <message><source>Page dive</source><translation>Plongée</translation></message>
 <message><source>Page equipment</source><translation>Matériel et notes</translation></message>
 <message><source>Page gas</source><translation>Blocs et gaz</translation></message>
-<message><source>Pages</source><translation>Pages de la fiche de plongée</translation></message>
 <message><source>Parameters</source><translation>&#13;&#13;Paramètres</translation></message>
 <message><source>Pays</source><translation>&#13;Pays : </translation></message>
 <message><source>Photo dive</source><translation>Photo</translation></message>

@@ -26,7 +26,6 @@
 <message><source>References</source><translation>Références : %d</translation></message>
 <message><source>Row</source><translation>Ligne</translation></message>
 <message><source>Row or new</source><translation>Indiquez soit --row, soit --new.</translation></message>
-<message><source>Seconds</source><translation>%d s</translation></message>
 <message><source>System version</source><translation>Version du système : %d</translation></message>
 <message><source>Unit of the value</source><translation>Unité de la valeur : %@</translation></message>
 <message><source>Usual values</source><translation>, d’ordinaire %@ [%@]</translation></message>

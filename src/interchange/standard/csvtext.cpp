@@ -78,7 +78,7 @@ Expected<QByteArray> writeCsv(const RecordList& dives, const QStringList& column
         }
         out += "\r\n";
     };
-    line(keyOf);
+    line([](const Item& item) { return QString::fromLatin1(item.key()); });
     for (std::size_t index = 0; index < dives.size(); ++index) {
         if (index % divesPerProgress == 0 && progress && !progress(index, dives.size())) {
             return failure(text("Main", "Cancelled"));

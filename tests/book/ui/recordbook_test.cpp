@@ -47,8 +47,10 @@ protected:
     }
 
     void hold(const QStringList& names) {
-        std::vector<Thing> things(static_cast<std::size_t>(names.size()));
-        std::transform(names.begin(), names.end(), things.begin(), [](const QString& name) { return Thing{{}, name}; });
+        std::vector<Thing> things;
+        for (const QString& name : names) {
+            things.emplace_back().name = name;
+        }
         book.appendRecords(QStringLiteral("Add"), listOf(things));
     }
     QStringList names() {
