@@ -34,6 +34,8 @@ public:
 private:
     void follow(const ListChange& change);
     const Cell& cellAt(const QModelIndex& index) const;
+    /// The words of a cell as the user writes numbers; texts stay as they are.
+    QString onScreen(const QModelIndex& index, const QString& words) const;
 
     BookBase& book_;
     BookTable table_;

@@ -1,5 +1,6 @@
 #include "interchange/ui/importwindow.h"
 
+#include "base/decimalsign.h"
 #include "base/numbers.h"
 #include "base/safefile.h"
 #include "base/texts.h"
@@ -275,7 +276,7 @@ void ImportWindow::addRow(int index) {
     row->setCheckState(start, found.duplicate ? Qt::Unchecked : Qt::Checked);
     row->setText(start, startWords(found.dive));
     row->setText(place, joined(found.dive.lieu, found.dive.site));
-    row->setText(deepest, shortestText(found.dive.profondeur) + QStringLiteral(" m"));
+    row->setText(deepest, withDecimalSign(shortestText(found.dive.profondeur)) + QStringLiteral(" m"));
     row->setText(duration, QString::number(found.dive.temps) + QStringLiteral(" min"));
     row->setText(gas, gasName(gasMix(breathed.oxygen / 100.0, breathed.helium / 100.0)));
     row->setData(profile, Qt::DecorationRole,
