@@ -185,8 +185,8 @@ void PreferencesWindow::setUpToolBar() {
         toolBar_->setAction(action->objectName(), action);
         pages->addAction(action);
     }
-    toolBar_->rebuild();
     addToolBar(toolBar_);
+    toolBar_->ensurePolished();  // the window is measured before it shows
 }
 
 void PreferencesWindow::goView(int page) {

@@ -4,8 +4,8 @@
 
 namespace tavrel {
 
-/// Figures as the language of the texts writes them, for the screen: in French each point between two digits becomes a
-/// comma. Files, exports and the command line keep the point.
+/// Figures as the language of the texts writes them, for the screen: in French the point of a number becomes a comma,
+/// those of a day (24.12.2023) stay. Files, exports and the command line keep the point.
 QString withDecimalSign(QString words);
 
 }  // namespace tavrel

@@ -1,5 +1,6 @@
 #include "book/bookfilter.h"
 
+#include "base/decimalsign.h"
 #include "book/book.h"
 
 #include <QPromise>
@@ -23,8 +24,7 @@ bool contains(const std::vector<const Record*>& ordered, const Record* record) {
 
 }  // namespace
 
-BookFilter::BookFilter(BookBase& book)
-    : book_(book), fields_(std::make_shared<const std::vector<FilterField>>(filterFieldsOf(book))) {
+BookFilter::BookFilter(BookBase& book) : book_(book) {
     connect(&book, &ListDocument::listChanged, this, &BookFilter::followList);
     connect(&book, &BookBase::tableReloadRequested, this, [this] { isStale_ = true; });
     connect(&watcher_, &QFutureWatcherBase::finished, this, &BookFilter::finish);
@@ -34,6 +34,13 @@ BookFilter::~BookFilter() {
     watcher_.disconnect(this);
     watcher_.cancel();
     watcher_.waitForFinished();
+}
+
+const FilterIndex::Fields& BookFilter::sharedFields() const {
+    if (!fields_) {
+        fields_ = std::make_shared<const std::vector<FilterField>>(filterFieldsOf(book_));
+    }
+    return fields_;
 }
 
 bool BookFilter::isShown(int row) const {
@@ -48,15 +55,20 @@ QList<TextRange> BookFilter::marksIn(const Column& column, const QString& text) 
     if (!isActive_) {
         return {};
     }
-    const auto field = std::find_if(fields_->begin(), fields_->end(),
+    const auto field = std::find_if(fields().begin(), fields().end(),
                                     [&column](const FilterField& each) { return each.column == &column; });
-    const QStringList marks = marked_.marksIn(static_cast<int>(field - fields_->begin()));
+    QStringList marks = marked_.marksIn(static_cast<int>(field - fields().begin()));
+    for (QString& mark : marks) {
+        if (rangesOf({mark}, text).isEmpty()) {
+            mark = withDecimalSign(mark);
+        }
+    }
     return marks.isEmpty() ? QList<TextRange>() : rangesOf(marks, text);
 }
 
 void BookFilter::setText(const QString& typed) {
     typed_ = typed;
-    filter_ = RecordFilter(typed, *fields_);
+    filter_ = RecordFilter(typed, fields());
     refresh();
 }
 
@@ -92,7 +104,7 @@ void BookFilter::run() {
     const RecordList records = makesIndex ? book_.records() : RecordList();
     const std::shared_ptr<const TableStyle> style = book_.description().tableStyle(book_.desktop());
     isStale_ = false;
-    const auto work = [index = index_, makesIndex, records, style, fields = fields_,
+    const auto work = [index = index_, makesIndex, records, style, fields = sharedFields(),
                        filter = filter_](const FilterIndex::Cancelled& cancelled) {
         Found found;
         found.index = makesIndex ? std::make_shared<const FilterIndex>(records, fields, *style, cancelled) : index;

@@ -37,7 +37,7 @@ public:
     bool isShown(int row) const;
     int shownCount() const;
 
-    const std::vector<FilterField>& fields() const { return *fields_; }
+    const std::vector<FilterField>& fields() const { return *sharedFields(); }
     /// Where the text of a column's cell matches.
     QList<TextRange> marksIn(const Column& column, const QString& text) const;
 
@@ -52,6 +52,8 @@ private:
         std::vector<int> places;  ///< of its records
     };
 
+    /// Found when they are asked for first.
+    const FilterIndex::Fields& sharedFields() const;
     void followList(const ListChange& change);
     void refresh();
     void run();
@@ -61,7 +63,7 @@ private:
     bool needsIndex() const { return !index_ || isStale_; }
 
     BookBase& book_;
-    FilterIndex::Fields fields_;
+    mutable FilterIndex::Fields fields_;
     QString typed_;
     RecordFilter filter_;  ///< of typed_
     RecordFilter marked_;  ///< the one that the rows shown belong to

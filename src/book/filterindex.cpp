@@ -1,5 +1,6 @@
 #include "book/filterindex.h"
 
+#include "base/decimalsign.h"
 #include "records/nodate.h"
 
 #include <algorithm>
@@ -46,6 +47,10 @@ void append(std::string& words, const QString& text) {
         const QByteArray bytes = folded(each).toUtf8();
         words.append(bytes.constData(), static_cast<std::size_t>(bytes.size()));
         words += betweenWords;
+    }
+    // Numbers are found as the file has them and as the window shows them.
+    if (const QString shown = text.contains(u'.') ? withDecimalSign(text) : text; shown != text) {
+        append(words, shown);
     }
 }
 

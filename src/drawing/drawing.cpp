@@ -155,6 +155,19 @@ QPointF Drawing::pointAt(const QPointF& point, const QRectF& target) const {
     return {(point.x() - place.left()) * scale, (place.bottom() - point.y()) * scale};
 }
 
+void Drawing::reword(const std::function<QString(const QString&)>& words) {
+    for (Primitive& each : primitives_) {
+        if (auto* label = std::get_if<Text>(&each)) {
+            label->text = words(label->text);
+        }
+    }
+    title = words(title);
+    description = words(description);
+    if (table.cell) {
+        table.cell = [words, plain = table.cell](int row, int column) { return words(plain(row, column)); };
+    }
+}
+
 void Drawing::paint(QPainter& painter, const QRectF& target) const {
     const QRectF place = placeIn(target);
     if (isNull() || place.isEmpty()) {

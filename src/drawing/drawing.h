@@ -10,6 +10,7 @@
 #include <QSizeF>
 #include <QString>
 
+#include <functional>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -68,6 +69,9 @@ public:
     QPointF pointAt(const QPointF& point, const QRectF& target) const;
     /// Paints it into the target; nothing reaches beyond its place there.
     void paint(QPainter& painter, const QRectF& target) const;
+
+    /// Puts other words in the place of all of its own, those of the title, the description and the table included.
+    void reword(const std::function<QString(const QString&)>& words);
 
     // For those who cannot see it, and for the papers of a file.
     QString title;

@@ -1,5 +1,6 @@
 #include "base/texts.h"
 
+#include "base/decimalsign.h"
 #include "support/printing.h"
 
 #include <QCoreApplication>
@@ -38,6 +39,14 @@ TEST_F(Texts, comeInTheChosenLanguage) {
     }
     EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), u"Cancel");
     EXPECT_EQ(text("Carnet", "\r   - Shorty"), u"\r   - Shorty");
+}
+
+TEST_F(Texts, haveTheDecimalSignOfTheLanguage) {
+    EXPECT_EQ(withDecimalSign(QStringLiteral("1.5 m")), u"1.5 m");
+    setTextLanguage(QStringLiteral("fr"));
+    EXPECT_EQ(withDecimalSign(QStringLiteral("1.5 m / 0.25")), u"1,5 m / 0,25");
+    EXPECT_EQ(withDecimalSign(QStringLiteral("24.12.2023, 1.10.0 puis 3.5")), u"24.12.2023, 1.10.0 puis 3,5");
+    EXPECT_EQ(withDecimalSign(QStringLiteral(".5 5. a.b 12.x.")), u".5 5. a.b 12.x.");
 }
 
 TEST_F(Texts, thatAreMissingShowTheFallback) {

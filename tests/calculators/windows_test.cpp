@@ -316,6 +316,11 @@ TEST(CalculatorWindows, showADecimalCommaInFrench) {
     type(window, "fracO2Field", "32,0");
     window.calculate();
     EXPECT_EQ(shown(window, "resultatField"), u"MOD : 33,8 m");
+    EXPECT_EQ(window.findChild<QComboBox*>()->currentText(), u"1,4");
+    GpsController positions;
+    EXPECT_EQ(named<QLineEdit>(positions, "positionField").placeholderText(), u"43° 12,345' N  5° 20,7' O");
+    positions.readPosition(QStringLiteral("43° 12,345' N 5° 20,7' O"));
+    EXPECT_EQ(named<QLineEdit>(positions, "longitude_inField").text(), u"-5,345");
     setTextLanguage(QStringLiteral("en"));
 }
 

@@ -25,7 +25,8 @@ Plongee wreckDive() {
         samplingRate=6|profilProfondeur=0.25,18.75,6|PRESS_Data=0)");
     dive.date = localDate(2014, 7, 5, 9, 0);
     dive.heure = localDate(2001, 1, 1, 9, 5);
-    dive.ASC_Flag = Series::ofIntegers({0, 1, 2});
+    // As many as there are depths, fewer, or more.
+    dive.ASC_Flag = Series::ofIntegers({0, 1, 2, 1});
     dive.SLOW_Flag = Series::ofIntegers({0, 1, 0});
     dive.SURF_Flag = Series::ofIntegers({0, 1, 1});
     dive.CEIL_Flag = Series::ofIntegers({0, 1});
@@ -164,6 +165,21 @@ TEST_F(Exports, writeTheTreeOfUDDF) {
                                     "</uddf>\n");
 }
 
+TEST_F(Exports, leaveTheRestOfTheGasToNitrogen) {
+    add({filled<Plongee>("gaz=2|o2Mix=18|heMix=45"), filled<Plongee>("gaz=1|o2Mix=32")});
+    const auto gas = [](const XmlElement& mix, const char* oxygen, const char* nitrogen, const char* helium) {
+        return QStringList{mix.last(oxygen).text(), mix.last(nitrogen).text(), mix.last(helium).text()}.join(u' ');
+    };
+    const auto uddf = XmlTree::parse(QByteArray::fromStdString(exported("uddf")));
+    ASSERT_TRUE(uddf);
+    EXPECT_EQ(gas(uddf->root().last("gasdefinitions").last("mixid"), "o2", "n2", "he"), u"0.180 0.370 0.450")
+        << "of the first dive";
+    const auto udcf = XmlTree::parse(QByteArray::fromStdString(exported("udcf")));
+    ASSERT_TRUE(udcf);
+    const XmlElement first = *udcf->root().last("REPGROUP").children("DIVE").begin();
+    EXPECT_EQ(gas(first.last("GASES").last("MIX"), "O2", "N2", "HE"), u"0.18 0.37 0.45");
+}
+
 TEST_F(Exports, nameGasesAndSamplingIntervals) {
     // Codes outside the table repeat the interval of the dive before, 10 s at first.
     const std::tuple<int, const char*, std::array<int, 3>, const char*> cases[] = {
@@ -262,9 +278,9 @@ TEST_F(Exports, writeEveryProfilePoint) {
     add({wreckDive(), empty, pressures});
     EXPECT_EQ(exported("profiles-csv"),
               "Dive #,Point,Depth,ASC,SLOW,CEIL,SURF,GAS,PRESS\n"
-              "57,1,0.2,0,0,0,,1,\n"
-              "57,2,18.8,1,1,1,,0,\n"
-              "57,3,6.0,2,0,1,,3,\n"
+              "57,1,0.2,,0,0,,1,\n"
+              "57,2,18.8,,1,1,,0,\n"
+              "57,3,6.0,,0,1,,3,\n"
               "-3,1,1.0,,,1,5,,200.0\n"
               "-3,2,2.5,,,0,6,,200.0\n");
 }

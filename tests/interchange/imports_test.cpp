@@ -62,7 +62,7 @@ QString localText(const Date& date) {
 TEST_F(Imports, typeADiveOfUDCFIntoTheForm) {
     const FrenchLocale french;
     const Plongee& dive = taken(udcf(udcfDive(R"(<PLACE>old</PLACE><PLACE>Étretat - <b>A &amp; B</b></PLACE>
-        <DATE><YEAR>1999</YEAR></DATE>
+        <DATE><YEAR>1999</YEAR></DATE><TIME><HOUR>8</HOUR><MINUTE>44</MINUTE></TIME>
         <DATE><YEAR>2014</YEAR><MONTH>07</MONTH><DAY>32</DAY></DATE><TIME><HOUR>9</HOUR><MINUTE>05</MINUTE></TIME>
         <MAXDEPTH>99</MAXDEPTH><DIVETIME>99</DIVETIME><SURFACEINTERVAL>infinity</SURFACEINTERVAL>
         <TEMPERATURE>101</TEMPERATURE><TEMPERATURE> -4.9</TEMPERATURE><ALTITUDE>4001</ALTITUDE>)",
@@ -93,7 +93,7 @@ TEST_F(Imports, tellGasesByTheirFractions) {
         {"0.21", "0", {0, 21, 0}},     {"0.32", "0.00", {1, 32, 0}},  {"0.29", "0", {1, 28, 0}},
         {"0.18", "0.45", {2, 18, 45}}, {"0.20", "0.80", {3, 20, 80}}, {"0.19", "0", {0, 19, 0}},
         {"0", "0", {0, 21, 0}},        {"0.10", "0.90", {3, 10, 0}},  {"1.00", "0", {1, 100, 0}},
-        {"0,5", "none", {0, 21, 0}},   {"0.25", "0.25", {2, 25, 25}},
+        {"0,5", "none", {0, 21, 0}},   {"0.25", "0.25", {2, 25, 25}}, {"0.10", "0.29", {2, 10, 28}},
     };
     for (const auto& [oxygen, helium, gas] : cases) {
         for (const QByteArray& file : {udcf(udcfDive({}, "<O2>" + oxygen + "</O2><HE>" + helium + "</HE><TANK/>")),
@@ -113,13 +113,17 @@ TEST_F(Imports, tellTheSamplingCodeByTheInterval) {
         EXPECT_EQ(dive.samplingRate, code) << delta;
         EXPECT_EQ(dive.profilProfondeur.size(), 1U) << "no depth is no profile";
     }
+    const Plongee& dive = taken(udcf(udcfDive({}, "<TANK/>", "<DELTA>10</DELTA><D>12.7</D>")));
+    EXPECT_EQ(dive.profilProfondeur.size(), 1U);
+    EXPECT_EQ(dive.profilProfondeur.real(0), double{12.7F}) << "one lone sample";
+    EXPECT_EQ(dive.profondeur, 12.0F);
 }
 
 TEST_F(Imports, typeADiveOfUDDFIntoTheForm) {
     const FrenchLocale french;
     const Plongee& dive = taken(uddf(R"(<dive>
         <date><year>2019</year><month>12</month><day>24</day></date><time><hour>23</hour><minute>59</minute></time>
-        <airtemperature>273.0</airtemperature><lowesttemperature>300.15</lowesttemperature>
+        <airtemperature>273.0</airtemperature><lowesttemperature>300.12</lowesttemperature>
         <greatestdepth>31.4</greatestdepth><notes><text>no</text><text>Deux raies &amp; un congre</text></notes>
         <samples><waypoint><depth>9</depth></waypoint></samples>
         <samples>

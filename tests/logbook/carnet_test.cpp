@@ -439,6 +439,60 @@ TEST(CarnetColumns, areSetUpWhereTheNumberIsHidden) {
     EXPECT_TRUE(shown("column site"));
 }
 
+TEST_F(CarnetTest, offersItsCommandsSearchesAndPage) {
+    const BookDescription& description = carnet.description();
+    const auto joined = [](std::span<const char* const> places) {
+        QStringList words;
+        for (const char* place : places) {
+            words << QLatin1String(place);
+        }
+        return words.join(u' ');
+    };
+    // Those that need dives in brackets.
+    const auto items = [](const ToolBarDescription& bar) {
+        QStringList words;
+        for (const ToolItem& item : bar.items) {
+            const QString word = QLatin1String(item.identifier) + u':' + QLatin1String(item.image);
+            words << (item.needsRecords ? u'(' + word + u')' : word);
+        }
+        return words.join(u' ');
+    };
+    const ToolBarDescription& table = description.tableToolBar;
+    EXPECT_STREQ(table.identifier, "tableViewToolbar");
+    EXPECT_EQ(items(table),
+              u"saveDocument:enregistrer (imprimer:imprimante) newDive:ajouterPl "
+              "(deleteDive:supprimerPl) (profil:ProfilPl) (profilData:profilData) importUDCF:importUDCF "
+              "importUDDF:importUDDF (synthese:texte) (statistics:statistics) rechercher:");
+    EXPECT_EQ(joined(table.allowed),
+              u"saveDocument imprimer newDive deleteDive profil profilData importUDCF importUDDF "
+              "synthese statistics space flexibleSpace separator customise rechercher");
+    EXPECT_EQ(joined(table.initial),
+              u"saveDocument imprimer separator newDive deleteDive profil importUDCF importUDDF "
+              "synthese statistics separator customise flexibleSpace rechercher");
+    const ToolBarDescription& edit = description.editToolBar;
+    EXPECT_STREQ(edit.identifier, "editWindowToolbar");
+    EXPECT_EQ(items(edit),
+              u"addDiveToList:ajouterPl (insertDive:insererPl) blankFields:raz (profil:ProfilPl) "
+              "(profilData:profilData) importUDCF:importUDCF importUDDF:importUDDF");
+    EXPECT_EQ(joined(edit.allowed),
+              u"addDiveToList insertDive blankFields profil profilData space flexibleSpace "
+              "separator customise");
+    EXPECT_EQ(joined(edit.initial),
+              u"addDiveToList insertDive blankFields profil profilData importUDCF importUDDF "
+              "separator customise flexibleSpace");
+    QStringList searched;
+    for (const BookSearch& search : description.searches) {
+        searched << search.title.textIn(QStringLiteral("en")) + u'=' + QLatin1String(search.field);
+    }
+    EXPECT_EQ(searched.join(u' '), u"Boats=bateau Wrecks=epaves Notes=notes Computers=ordi Buddies=partenaires");
+    for (const bool landscape : {false, true}) {
+        const PrintSettings print = Carnet::defaultPrintingSettings(landscape);
+        EXPECT_EQ(std::tuple(print.top, print.bottom, print.left, print.right, print.scale, print.landscape),
+                  std::tuple(23.2, 25.0, 10.0, 10.0, 0.67, landscape));
+        EXPECT_FALSE(print.centredHorizontally || print.centredVertically);
+    }
+}
+
 TEST_F(CarnetTest, answersTheNotifications) {
     int answers = 0;
     const auto count = [&answers] { ++answers; };

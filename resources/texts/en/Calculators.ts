@@ -37,6 +37,7 @@
 <message><source>Latitude</source><translation>Latitude</translation></message>
 <message><source>Latitude ED50</source><translation>La&amp;titude</translation></message>
 <message><source>Length</source><translation>Length</translation></message>
+<message><source>Letter of the west</source><translation>W</translation></message>
 <message><source>Litres</source><translation>&amp;Litres</translation></message>
 <message><source>Longitude</source><translation>Longitude</translation></message>
 <message><source>Longitude ED50</source><translation>&amp;Longitude</translation></message>

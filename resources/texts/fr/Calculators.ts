@@ -37,6 +37,7 @@
 <message><source>Latitude</source><translation>Latitude</translation></message>
 <message><source>Latitude ED50</source><translation>La&amp;titude</translation></message>
 <message><source>Length</source><translation>Longueur</translation></message>
+<message><source>Letter of the west</source><translation>O</translation></message>
 <message><source>Litres</source><translation>&amp;Litres</translation></message>
 <message><source>Longitude</source><translation>Longitude</translation></message>
 <message><source>Longitude ED50</source><translation>&amp;Longitude</translation></message>
@@ -45,7 +46,7 @@
 <message><source>Minutes</source><translation>minutes</translation></message>
 <message><source>Nitrox</source><translation>Nitrox</translation></message>
 <message><source>Position as typed</source><translation>Position, latitude d’abord</translation></message>
-<message><source>Position hint</source><translation>Comme sur une carte ou un récepteur : 43° 12,345' N 5° 20,7' W, ou 43.2057, -5.345. Elle remplit les champs des deux convertisseurs.</translation></message>
+<message><source>Position hint</source><translation>Comme sur une carte ou un récepteur : 43° 12,345' N 5° 20,7' O, ou 43.2057, -5.345. Elle remplit les champs des deux convertisseurs.</translation></message>
 <message><source>Position hint short</source><translation>Degrés décimaux ou avec minutes ; N, S, E, O ou signes</translation></message>
 <message><source>Position not read</source><translation>Pas encore une position : la latitude, puis la longitude</translation></message>
 <message><source>Position read</source><translation>Lu : %@</translation></message>

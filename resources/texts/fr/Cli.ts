@@ -15,7 +15,7 @@
 <message><source>No such type</source><translation>« %@ » n’est pas un type de document. Types : %@.</translation></message>
 <message><source>Not a logbook</source><translation>« %@ » n’est pas un carnet de plongée.</translation></message>
 <message><source>Not a moment</source><translation>« %@ » n’est pas une date avec une heure, comme 2024-05-03T10:30:00.</translation></message>
-<message><source>Not a replacement</source><translation>« %@ » n’est pas un remplacement. Les remplacements s’écrivent SÉRIE=FICHIER ; les séries sont depth, ascent, slow, ceiling, surface, gas et pressure.</translation></message>
+<message><source>Not a replacement</source><translation>« %@ » n’est pas un remplacement. Les remplacements s’écrivent SÉRIE=FICHIER ; les séries sont depth, ascent, slow, ceiling, surface, gas et pressure.</translation></message>
 <message><source>Not an entry</source><translation>« %@ » n’est pas de la forme champ=valeur.</translation></message>
 <message><source>Not decimal degrees</source><translation>« %@ » n’est pas en degrés décimaux. Faut-il --sexagesimal ?</translation></message>
 <message><source>Not sexagesimal</source><translation>« %@ » n’est pas en degrés, minutes et secondes.</translation></message>

@@ -87,7 +87,7 @@
 <message><source>Filter menu</source><translation>Filtres conservés et champs</translation></message>
 <message><source>Filter name</source><translation>Nom du filtre :</translation></message>
 <message><source>Filter one field</source><translation>Dans un champ</translation></message>
-<message><source>Filter tip</source><translation>Des mots dans tous les champs, sans égard aux accents ni à la casse ; tous doivent être trouvés. Le nom d’un champ restreint : nom:texte, nombre&gt;30, date&gt;=2023-05. Les mots entre guillemets vont ensemble. Échap montre de nouveau tout.</translation></message>
+<message><source>Filter tip</source><translation>Des mots dans tous les champs, sans égard aux accents ni à la casse ; tous doivent être trouvés. Le nom d’un champ restreint : nom:texte, nombre&gt;30, date&gt;=2023-05. Les mots entre guillemets vont ensemble. Échap montre de nouveau tout.</translation></message>
 <message><source>Filtering</source><translation>Filtrage…</translation></message>
 <message><source>Find in</source><translation>Chercher dans : %@</translation></message>
 <message><source>Find where</source><translation>Choisir où chercher</translation></message>

@@ -46,8 +46,8 @@
 <message><source>Months</source><translation>mois</translation></message>
 <message><source>New dive from last</source><translation>Une nouvelle plongée part de la précédente</translation></message>
 <message><source>New dives</source><translation>Nouvelles plongées</translation></message>
-<message><source>Note US units</source><translation>Les nombres enregistrés sont pris pour exprimés dans ces unités ; ce réglage ne convertit rien. Édition &gt; Convertir les unités… convertit un carnet.</translation></message>
-<message><source>Note new dive from last</source><translation>Blocs, gaz, équipement, équipiers et lieu sont repris ; l’intervalle de surface découle des heures.</translation></message>
+<message><source>Note US units</source><translation>Les nombres enregistrés sont pris pour exprimés dans ces unités ; ce réglage ne convertit rien. Édition &gt; Convertir les unités… convertit un carnet.</translation></message>
+<message><source>Note new dive from last</source><translation>Blocs, gaz, équipement, équipiers et lieu sont repris ; l’intervalle de surface découle des heures.</translation></message>
 <message><source>Off</source><translation>non</translation></message>
 <message><source>On</source><translation>oui</translation></message>
 <message><source>Opacity</source><translation>Opacité</translation></message>
@@ -65,7 +65,7 @@
 <message><source>Tank volume</source><translation>Volume du bloc</translation></message>
 <message><source>Text to highlight</source><translation>Texte</translation></message>
 <message><source>Tip reset</source><translation>Rétablit les valeurs standard de toutes les pages</translation></message>
-<message><source>Tip wreck column</source><translation>La colonne des épaves est réglée avec le premier carnet ; cette case ne garde aucun choix.</translation></message>
+<message><source>Tip wreck column</source><translation>La colonne des épaves est réglée avec le premier carnet ; cette case ne garde aucun choix.</translation></message>
 <message><source>US units</source><translation>Pieds et degrés Fahrenheit</translation></message>
 <message><source>Units</source><translation>Unités</translation></message>
 <message><source>Units in the table</source><translation>Afficher les unités dans le tableau</translation></message>

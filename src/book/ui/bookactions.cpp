@@ -72,7 +72,7 @@ QAction* BookActions::take(QAction* action, Rule rule, std::function<void()> com
     });
     all_.push_back(action);
     rules_.push_back(rule);
-    update();
+    updateAction(all_.size() - 1);
     Q_EMIT added(action);
     return action;
 }
@@ -114,11 +114,14 @@ void BookActions::fill(CustomToolBar& toolBar) const {
     toolBar.rebuild();
 }
 
+void BookActions::updateAction(std::size_t place) {
+    const bool usable[] = {true, book_.count() > 0, book_.selectedRow() >= 0, book_.canGoBack(), book_.canGoForward()};
+    all_[place]->setEnabled(usable[rules_[place]]);
+}
+
 void BookActions::update() {
     for (std::size_t place = 0; place < all_.size(); ++place) {
-        const bool usable[] = {true, book_.count() > 0, book_.selectedRow() >= 0, book_.canGoBack(),
-                               book_.canGoForward()};
-        all_[place]->setEnabled(usable[rules_[place]]);
+        updateAction(place);
     }
     if (QAction* add = action(QLatin1StringView(book_.description().commands.addRecord))) {
         const ToolItem& item = *tool(add->objectName());

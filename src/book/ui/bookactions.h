@@ -48,6 +48,7 @@ private:
     QAction* take(QAction* action, Rule rule, std::function<void()> command);
     void addBookCommands();
     void update();
+    void updateAction(std::size_t place);
 
     BookBase& book_;
     std::vector<QAction*> all_;

@@ -80,6 +80,7 @@ void BookEditWindow::buildToolBar() {
     addToolBar(toolBar_);
     setContextMenuPolicy(Qt::NoContextMenu);
     actions_.fill(*toolBar_);
+    toolBar_->ensurePolished();  // the window is measured before it shows
     connect(&actions_, &BookActions::added, this, [this] { actions_.fill(*toolBar_); });
 }
 

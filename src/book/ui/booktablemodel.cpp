@@ -1,5 +1,6 @@
 #include "book/ui/booktablemodel.h"
 
+#include "base/decimalsign.h"
 #include "book/bookfilter.h"
 #include "desktop/ui/icons.h"
 
@@ -120,16 +121,24 @@ const Cell& BookTableModel::cellAt(const QModelIndex& index) const {
     return cell_;
 }
 
+QString BookTableModel::onScreen(const QModelIndex& index, const QString& words) const {
+    const BookTable::Placed& placed = table_.columns()[static_cast<std::size_t>(index.column())];
+    const FieldKind kind = placed.field.isNull() ? FieldKind::real : placed.field.kind();
+    const bool isNumber = kind == FieldKind::integer || kind == FieldKind::real ||
+                          (kind == FieldKind::text && placed.column->alignment == Qt::AlignRight);
+    return isNumber ? withDecimalSign(words) : words;
+}
+
 QVariant BookTableModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
         return {};
     }
     switch (role) {
         case Qt::DisplayRole:
-            return cellAt(index).text;
+            return onScreen(index, cellAt(index).text);
         case Qt::ToolTipRole:
         case Qt::AccessibleTextRole:
-            return cellAt(index).inWords();
+            return onScreen(index, cellAt(index).inWords());
         case Qt::DecorationRole: {
             const QString& name = cellAt(index).image;
             return name.isEmpty() ? QVariant() : QVariant(iconNamed(name));

@@ -42,6 +42,8 @@ private:
     /// Takes rows in or out where the change does only that, and reads all of them again where it does more.
     void insertOrRemove(const ListChange& change);
     const Cell& cellAt(const QModelIndex& index) const;
+    /// The words of a cell as the user writes numbers; texts stay as they are.
+    QString onScreen(const QModelIndex& index, const QString& words) const;
 
     BookBase& book_;
     BookTable table_;

@@ -65,7 +65,12 @@ BookWindow::BookWindow(BookBase& book, Desktop& desktop)
     resize(QSize(1200, 680).boundedTo(screen()->availableSize()));
     restoreGeometry(desktop.preferences.windowState(layoutName()));
     table_->setFocus();
-    table_->reveal(book.selectedRow() >= 0 ? book.selectedRow() : book.count() - 1);
+    const auto revealLatest = [this] {
+        table_->reveal(book_.selectedRow() >= 0 ? book_.selectedRow() : book_.count() - 1);
+    };
+    revealLatest();
+    // Only when it shows it knows its height.
+    QMetaObject::invokeMethod(table_, revealLatest, Qt::QueuedConnection);
 }
 
 BookWindow::~BookWindow() {

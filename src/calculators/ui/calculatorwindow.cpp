@@ -37,7 +37,7 @@ QComboBox* newPpO2Menu(const char* name, QWidget* parent) {
     auto* menu = new QComboBox(parent);
     menu->setObjectName(QLatin1StringView(name));
     for (const double ppO2 : ppO2Menu) {
-        menu->addItem(ppO2Title(ppO2));
+        menu->addItem(withDecimalSign(ppO2Title(ppO2)));
     }
     menu->setCurrentIndex(defaultPpO2Index);
     return menu;

@@ -48,6 +48,11 @@ QColor colourOf(ReportRole role, const QPalette& palette) {
 constexpr double minutesFraction = 1e5;
 constexpr double degreesFraction = 1e7;
 
+/// A position as the charts of the user's language write it.
+QString onScreen(QString position) {
+    return withDecimalSign(position.replace(u'W', text("Calculators", "Letter of the west")));
+}
+
 QLineEdit* newOutputField(const char* name, QWidget* parent) {
     auto* field = new QLineEdit(parent);
     field->setObjectName(QLatin1StringView(name));
@@ -109,7 +114,7 @@ QGroupBox* GpsController::newTypedPosition() {
     auto* grid = new QGridLayout;
     positionField_ = new QLineEdit(group);
     positionField_->setObjectName(QStringLiteral("positionField"));
-    positionField_->setPlaceholderText(QStringLiteral("43° 12.345' N  5° 20.7' W"));
+    positionField_->setPlaceholderText(onScreen(QStringLiteral("43° 12.345' N  5° 20.7' W")));
     positionField_->setToolTip(text(Title("Calculators", "Position hint")));
     addFieldRow(grid, text(Title("Calculators", "Typed position")), positionField_, {});
     grid->setColumnStretch(0, 0);
@@ -131,15 +136,15 @@ void GpsController::readPosition(const QString& typed) {
                                                               : Title("Calculators", "Position not read")));
         return;
     }
-    positionNote_->setText(withDecimalSign(textWith("Calculators", "Position read", positionText(*position))));
+    positionNote_->setText(textWith("Calculators", "Position read", onScreen(positionText(*position))));
     // Each part takes the sign, as the converter adds them.
     const auto fill = [](double angle, const std::array<QLineEdit*, 3>& parts, QLineEdit* decimal) {
         const double whole = std::trunc(angle);
         const double minutes = std::round((angle - whole) * minutesFraction * 60) / minutesFraction;
-        parts[0]->setText(shortestText(whole + 0.0));
-        parts[1]->setText(shortestText(minutes + 0.0));
+        parts[0]->setText(withDecimalSign(shortestText(whole + 0.0)));
+        parts[1]->setText(withDecimalSign(shortestText(minutes + 0.0)));
         parts[2]->setText(QStringLiteral("0"));
-        decimal->setText(shortestText(std::round(angle * degreesFraction) / degreesFraction));
+        decimal->setText(withDecimalSign(shortestText(std::round(angle * degreesFraction) / degreesFraction)));
     };
     fill(position->longitude, {longitude_in_degreeField, longitude_in_minutesField, longitude_in_secondsField},
          longitude_inField);
@@ -307,7 +312,7 @@ void GpsController::showOutput(const GpsOutput& output, const GeographicPosition
     latitude_outField->setText(withDecimalSign(output.latitude));
     altitude_outField->setText(withDecimalSign(output.altitude));
     const bool known = std::isfinite(position.latitude) && std::isfinite(position.longitude);
-    positionOut_->setText(known ? withDecimalSign(positionText({position.latitude, position.longitude})) : QString());
+    positionOut_->setText(known ? onScreen(positionText({position.latitude, position.longitude})) : QString());
     mark_->calculated();
 }
 

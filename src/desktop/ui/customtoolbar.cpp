@@ -165,7 +165,19 @@ void CustomToolBar::addSpace(bool flexible) {
     places_.push_back(std::move(place));
 }
 
+bool CustomToolBar::event(QEvent* event) {
+    // It gets its style before it is measured and shown.
+    if (event->type() == QEvent::Polish) {
+        isBuilt_ = true;
+        rebuild();
+    }
+    return QToolBar::event(event);
+}
+
 void CustomToolBar::rebuild() {
+    if (!isBuilt_) {
+        return;
+    }
     for (QAction* shown : actions()) {
         removeAction(shown);
     }

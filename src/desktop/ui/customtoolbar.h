@@ -41,6 +41,7 @@ public:
     void setArrangement(const QStringList& identifiers);
     /// Icons, words or both; remembered with the arrangement.
     void setStyle(Qt::ToolButtonStyle style);
+    /// Shows the items that there are; before the toolbar itself shows there is nothing to do.
     void rebuild();
 
     const ToolBarDescription& description() const { return description_; }
@@ -54,6 +55,7 @@ public:
     void runCustomisation();
 
 protected:
+    bool event(QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
@@ -68,6 +70,7 @@ private:
     Preferences& preferences_;
     QStringList arrangement_;
     std::map<QString, QAction*> actions_;
+    bool isBuilt_ = false;
     std::vector<std::unique_ptr<QAction>> places_;
 };
 

@@ -1,5 +1,6 @@
 #include "dives/ui/consumptionsheet.h"
 
+#include "base/decimalsign.h"
 #include "base/texts.h"
 #include "desktop/clock.h"
 #include "desktop/commonsettings.h"
@@ -56,7 +57,8 @@ ConsumptionSheet::ConsumptionSheet(Desktop& desktop, const PrintSettings& print,
 void ConsumptionSheet::consommation(const GasReadings& readings, const QString& title) {
     const bool usUnits = desktop_.preferences.get(settings::usUnits);
     setWindowTitle(textWith("Carnet", "Consumption of", title));
-    consoField_->setText(consumptionReport(readings, calculVolumeAirConsomme(readings), usUnits).replace(u'\r', u'\n'));
+    const QString report = consumptionReport(readings, calculVolumeAirConsomme(readings), usUnits);
+    consoField_->setText(withDecimalSign(report).replace(u'\r', u'\n'));
     QStringList lines;
     for (const auto& figure :
          {explainedAvailable(readings), explainedUsed(readings), explainedPerMinute(readings), explainedSac(readings),
@@ -66,7 +68,7 @@ void ConsumptionSheet::consommation(const GasReadings& readings, const QString& 
             lines.append(figure.explanation);
         }
     }
-    explanations_->setText(lines.join(u'\n'));
+    explanations_->setText(withDecimalSign(lines.join(u'\n')));
     consoField_->setAccessibleDescription(explanations_->text());
     open();
 }

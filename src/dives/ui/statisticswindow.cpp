@@ -1,5 +1,6 @@
 #include "dives/ui/statisticswindow.h"
 
+#include "base/decimalsign.h"
 #include "base/texts.h"
 #include "desktop/clock.h"
 #include "desktop/ui/bringtofront.h"
@@ -157,9 +158,10 @@ void StatisticsWindow::refresh() {
         std::make_unique<Statistics>(source_.dives(choice), previousDivesNoSwitch_->isChecked() ? nullptr : &previous);
     for (const StatText& each : statistics_->texts()) {
         QLabel* figure = figures_.at(each.field);
-        figure->setText(QString(each.text).replace(u'\r', u'\n'));
-        figure->setToolTip(each.explanation);
-        figure->setAccessibleDescription(each.explanation);
+        const QString explanation = withDecimalSign(each.explanation);
+        figure->setText(withDecimalSign(each.text).replace(u'\r', u'\n'));
+        figure->setToolTip(explanation);
+        figure->setAccessibleDescription(explanation);
     }
     graphes_->setShares(setDataForStatGraphes(*statistics_));
     setWindowTitle(textWith("Carnet", "Statistics of", source_.name()));

@@ -1,5 +1,6 @@
 #include "drawing/ui/drawingview.h"
 
+#include "base/decimalsign.h"
 #include "base/texts.h"
 #include "desktop/ui/bringtofront.h"
 #include "drawing/ui/datatablewindow.h"
@@ -32,6 +33,7 @@ void DrawingView::addCommand(const char* name, const QString& title, std::functi
 
 void DrawingView::setDrawing(Drawing drawing) {
     drawing_ = std::move(drawing);
+    drawing_.reword(withDecimalSign);
     painted_ = {};
     setAccessibleName(drawing_.title);
     setAccessibleDescription(drawing_.description);

@@ -1,5 +1,6 @@
 #include "forms/ui/formcontrol.h"
 
+#include "base/decimalsign.h"
 #include "base/texts.h"
 #include "desktop/ui/fixedpitch.h"
 #include "desktop/ui/readablecolour.h"
@@ -42,7 +43,7 @@ public:
     LineControl(FormStateBase& state, int index) : FormControl(state, index, new QLineEdit) {
         auto* edit = line();
         edit->setMaxLength(lineBound);
-        if (control().kind != ControlKind::text || control().alignRight) {
+        if (isNumber()) {
             edit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         }
         connect(edit, &QLineEdit::textEdited, this,
@@ -68,15 +69,18 @@ public:
 protected:
     void showState(const ControlState& held) override {
         auto* edit = line();
-        if (edit->text() != held.text) {
+        // What is being typed stays as it is typed.
+        const QString shown = isNumber() ? withDecimalSign(held.text) : held.text;
+        if (edit->text() != held.text && edit->text() != shown) {
             const int cursor = edit->cursorPosition();
-            edit->setText(held.text);
+            edit->setText(shown);
             edit->setCursorPosition(edit->hasFocus() ? cursor : 0);
         }
     }
 
 private:
     QLineEdit* line() const { return static_cast<QLineEdit*>(widget()); }
+    bool isNumber() const { return control().kind != ControlKind::text || control().alignRight; }
 };
 
 class ComboControl : public FormControl {
@@ -323,7 +327,8 @@ void FormControl::show() {
     showing_ = nested;
 }
 
-void FormControl::showHint(const QString& hint) {
+void FormControl::showHint(const QString& words) {
+    const QString hint = withDecimalSign(words);
     if (!hint_ || hint_->text() == hint) {
         return;
     }

@@ -32,7 +32,7 @@ public:
     void show();
     /// A label beside the widget, out of sight while there is no hint.
     QLabel* makeHint();
-    void showHint(const QString& hint);
+    void showHint(const QString& words);
     /// Gives the keyboard focus, with all text selected; false where the widget is not in sight.
     bool takeFocus();
     /// Ends an entry that is under way as leaving the widget would.

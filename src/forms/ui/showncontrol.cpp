@@ -1,5 +1,6 @@
 #include "forms/ui/showncontrol.h"
 
+#include "base/decimalsign.h"
 #include "base/texts.h"
 #include "desktop/ui/readablecolour.h"
 #include "forms/ui/starrating.h"
@@ -28,9 +29,9 @@ void colour(QWidget* widget, QPalette::ColorRole role, const QColor& wanted) {
 
 /// Tells how a derived figure comes about, on the widget and to screen readers.
 void explain(QWidget* widget, const Control& control, const ControlState& held) {
-    const bool isDerived = !held.explanation.isEmpty();
-    widget->setToolTip(isDerived ? held.explanation : control.tip.text());
-    widget->setAccessibleDescription(isDerived ? held.explanation : control.unit.text());
+    const QString explanation = withDecimalSign(held.explanation);
+    widget->setToolTip(explanation.isEmpty() ? control.tip.text() : explanation);
+    widget->setAccessibleDescription(explanation.isEmpty() ? control.unit.text() : explanation);
 }
 
 class ReadOnlyControl : public FormControl {
@@ -46,7 +47,7 @@ public:
 
 protected:
     void showState(const ControlState& held) override {
-        label()->setText(QString(held.text).replace(u'\r', u'\n'));
+        label()->setText(withDecimalSign(held.text).replace(u'\r', u'\n'));
         explain(label(), control(), held);
         // Black is the usual colour of text.
         colour(label(), QPalette::WindowText, held.colour == QColor(Qt::black) ? QColor() : held.colour);

@@ -1,5 +1,6 @@
 #include "logbook/ui/divedetails.h"
 
+#include "base/decimalsign.h"
 #include "base/texts.h"
 #include "desktop/desktop.h"
 #include "logbook/divefigures.h"
@@ -18,20 +19,29 @@
 namespace tavrel {
 
 DiveDetails::DiveDetails(Desktop& desktop, QWidget* parent)
-    : QWidget(parent),
-      desktop_(desktop),
-      form_(std::make_unique<DiveForm>(desktop)),
-      pages_(new QStackedLayout(this)),
-      profile_(new ProfileView),
-      sample_(new QLabel),
-      notes_(new QPlainTextEdit) {
+    : QWidget(parent), desktop_(desktop), pages_(new QStackedLayout(this)) {
     setObjectName(QStringLiteral("diveDetails"));
     setAccessibleName(text("Carnet", "Details"));
     auto* hint = new QLabel(text("Carnet", "No dive selected"));
     hint->setAlignment(Qt::AlignCenter);
     hint->setForegroundRole(QPalette::PlaceholderText);
     pages_->addWidget(hint);
+    for (const Notification name :
+         {Notification::profile, Notification::updateTableView, Notification::updateEditDive}) {
+        subscriptions_.push_back(desktop.notifications.subscribe(name, [this] { setDive(dive_); }));
+    }
+}
 
+DiveDetails::~DiveDetails() = default;
+
+void DiveDetails::makePage() {
+    if (form_) {
+        return;
+    }
+    form_ = std::make_unique<DiveForm>(desktop_);
+    profile_ = new ProfileView;
+    sample_ = new QLabel;
+    notes_ = new QPlainTextEdit;
     sample_->setObjectName(QStringLiteral("sampleField"));
     sample_->setAlignment(Qt::AlignCenter);
     sample_->setMinimumWidth(1);
@@ -55,13 +65,12 @@ DiveDetails::DiveDetails(Desktop& desktop, QWidget* parent)
     columns->addWidget(newFigures(), 4);
     columns->addWidget(notes_, 4);
     pages_->addWidget(page);
-    for (const Notification name :
-         {Notification::profile, Notification::updateTableView, Notification::updateEditDive}) {
-        subscriptions_.push_back(desktop.notifications.subscribe(name, [this] { setDive(dive_); }));
-    }
 }
 
-DiveDetails::~DiveDetails() = default;
+ProfileView& DiveDetails::profile() {
+    makePage();
+    return *profile_;
+}
 
 QWidget* DiveDetails::newFigures() {
     auto* contents = new QWidget;
@@ -116,6 +125,9 @@ void DiveDetails::showSample() {
 
 void DiveDetails::refresh() {
     outdated_ = false;
+    if (dive_) {
+        makePage();
+    }
     pages_->setCurrentIndex(dive_ ? 1 : 0);
     if (!dive_) {
         return;
@@ -127,11 +139,12 @@ void DiveDetails::refresh() {
         // What cannot be known says why in the place of the figure.
         const bool isKnown = !figures[place].text.isNull();
         QLabel* value = figures_[place];
-        value->setText(isKnown ? figures[place].text : figures[place].explanation);
+        const QString explanation = withDecimalSign(figures[place].explanation);
+        value->setText(isKnown ? withDecimalSign(figures[place].text) : explanation);
         value->setForegroundRole(isKnown ? QPalette::WindowText : QPalette::PlaceholderText);
-        value->setToolTip(figures[place].explanation);
-        value->setAccessibleDescription(figures[place].explanation);
-        captions_[place]->setToolTip(figures[place].explanation);
+        value->setToolTip(explanation);
+        value->setAccessibleDescription(explanation);
+        captions_[place]->setToolTip(explanation);
     }
     notes_->setPlainText(dive_->notes);
 }

@@ -30,7 +30,7 @@ public:
     /// it comes to be.
     void setDive(DivePointer dive);
     const DivePointer& dive() const { return dive_; }
-    ProfileView& profile() { return *profile_; }
+    ProfileView& profile();
 
     QSize sizeHint() const override { return {1000, 310}; }
 
@@ -38,6 +38,8 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    /// What shows a dive, made for the first one.
+    void makePage();
     QWidget* newFigures();
     void showSample();
     void refresh();
@@ -45,13 +47,13 @@ private:
     Desktop& desktop_;
     DivePointer dive_;
     bool outdated_ = true;
-    std::unique_ptr<DiveForm> form_;  ///< reads the dive as the form would
     QStackedLayout* pages_;
-    ProfileView* profile_;
-    QLabel* sample_;
+    std::unique_ptr<DiveForm> form_;  ///< reads the dive as the form would
+    ProfileView* profile_ = nullptr;
+    QLabel* sample_ = nullptr;
     std::vector<QLabel*> captions_;
     std::vector<QLabel*> figures_;
-    QPlainTextEdit* notes_;
+    QPlainTextEdit* notes_ = nullptr;
     std::vector<NotificationCentre::Subscription> subscriptions_;
 };
 

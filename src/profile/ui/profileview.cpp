@@ -1,5 +1,6 @@
 #include "profile/ui/profileview.h"
 
+#include "base/decimalsign.h"
 #include "base/texts.h"
 #include "profile/profiledrawing.h"
 
@@ -74,7 +75,7 @@ void ProfileView::markSample(int sample) {
 }
 
 QString ProfileView::markedWords() const {
-    return marked_ ? samples_->words(*marked_) : QString();
+    return marked_ ? withDecimalSign(samples_->words(*marked_)) : QString();
 }
 
 void ProfileView::mouseMoveEvent(QMouseEvent* event) {

@@ -1,5 +1,6 @@
 #include "profile/ui/profilewindow.h"
 
+#include "base/decimalsign.h"
 #include "base/texts.h"
 #include "desktop/ui/icons.h"
 #include "desktop/ui/keptframe.h"
@@ -89,7 +90,7 @@ void ProfileWindow::setProfile(const ProfileDive& dive, const ProfileStyle& styl
 
 void ProfileWindow::showReadOut() {
     const qint32 code = samplingRatePopUp_->currentData().toInt();
-    readOut_->setText(pointer_ ? profileReadOut(*pointer_, view_->scale(), code).words()
+    readOut_->setText(pointer_ ? withDecimalSign(profileReadOut(*pointer_, view_->scale(), code).words())
                                : view_->drawing().description);
 }
 

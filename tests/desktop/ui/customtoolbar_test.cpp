@@ -30,7 +30,7 @@ protected:
         bar->setAction(QStringLiteral("save"), newToolAction(items[0], &window));
         bar->setAction(QStringLiteral("print"), newToolAction(items[1], &window));
         bar->setWidget(QStringLiteral("find"), new QLineEdit);
-        bar->rebuild();
+        bar->ensurePolished();
         return bar;
     }
     static QStringList shown(const CustomToolBar& bar) {

@@ -1,15 +1,24 @@
 #include "logbook/ui/logbookwindow.h"
 
+#include "book/bookfilter.h"
+#include "book/ui/bookeditwindow.h"
+#include "book/ui/bookfilterbar.h"
+#include "book/ui/booktableview.h"
 #include "logbook/ui/convertunitswindow.h"
+#include "logbook/ui/divedetails.h"
 #include "logbook/ui/renumberwindow.h"
+#include "profile/ui/profileview.h"
 #include "support/records.h"
 #include "support/testdesktop.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScopeGuard>
 #include <QSpinBox>
 #include <QTableWidget>
+#include <QTest>
 #include <gtest/gtest.h>
 
 namespace tavrel {
@@ -65,6 +74,44 @@ TEST_F(LogbookWindowTest, showsWhatBecomesOfTheDivesBeforeItConvertsThem) {
     EXPECT_FLOAT_EQ(carnet.record(0).profondeur, 100);
     dialog.accept();
     EXPECT_FLOAT_EQ(carnet.record(0).profondeur, 328.08F);
+}
+
+TEST_F(LogbookWindowTest, showsADecimalCommaInFrenchAndKeepsThePoint) {
+    setTextLanguage(QStringLiteral("fr"));
+    const auto english = qScopeGuard([] { setTextLanguage(QStringLiteral("en")); });
+    LogbookWindow french(carnet, desktop.desktop());
+    carnet.appendDives(QStringLiteral("Add"), {filled<Plongee>("profondeur=82.6|site=Puits 2.5|profilProfondeur=0,9"),
+                                               filled<Plongee>("profondeur=9")});
+    carnet.selectRows({0});
+    french.show();
+    const BookTable plain(carnet);
+    const auto cell = [&](const char* field) {
+        return french.table().model()->index(0, plain.columnOf(field)).data().toString();
+    };
+    EXPECT_EQ(cell("profondeur"), u"82,6 m");
+    EXPECT_EQ(cell("site"), u"Puits 2.5") << "words stay";
+    EXPECT_EQ(plain.cell(0, plain.columnOf("profondeur")).text, u"82.6 m");
+    EXPECT_EQ(french.details().findChild<QLabel*>(QStringLiteral("Label maximum depth"))->text(), u"82,6 m");
+    EXPECT_EQ(french.details().profile().drawing().description,
+              u"2 points sur 0 minutes, profondeur maximale 9,0 m, profondeur moyenne 4,5 m.");
+
+    // What is being typed stays as it is typed; looking changes nothing.
+    carnet.editWindow();
+    auto* depth = french.editWindow().findChild<QLineEdit*>(QStringLiteral("profondeurField"));
+    EXPECT_EQ(depth->text(), u"82,6");
+    EXPECT_FALSE(carnet.hasEntries());
+    depth->clear();
+    QTest::keyClicks(depth, QStringLiteral("7.5"));
+    EXPECT_EQ(depth->text(), u"7.5");
+    carnet.updateDive();
+    EXPECT_EQ(carnet.record(0).profondeur, 7.5F);
+
+    const Column& column = *plain.columns()[std::size_t(plain.columnOf("profondeur"))].column;
+    for (const char* typed : {"7,5", "7.5"}) {
+        french.filterBar().field().setText(QLatin1StringView(typed));
+        EXPECT_EQ(carnet.filter().shownRows(), std::vector<int>{0}) << typed;
+        EXPECT_FALSE(carnet.filter().marksIn(column, cell("profondeur")).isEmpty()) << typed;
+    }
 }
 
 TEST_F(LogbookWindowTest, keepsItsImportsInAMenuOfTheirOwn) {
