@@ -153,8 +153,8 @@ TEST_F(GuardedFile, isClaimedByOneProgram) {
     // One that died is no holder.
     const pid_t child = ::fork();
     if (child == 0) {
-        FileLock lock(path("orphan"));
-        ::_exit(lock.take({}) ? 1 : 0);
+        FileLock orphan(path("orphan"));
+        ::_exit(orphan.take({}) ? 1 : 0);
     }
     int status = -1;
     ASSERT_EQ(::waitpid(child, &status, 0), child);

@@ -28,9 +28,6 @@ inline constexpr double deepestThinkable = 12'000;
 /// The nearest whole number that 32 bits hold.
 qint32 rounded(double value);
 
-/// Metres; deeper is no number of a depth.
-inline constexpr double deepestThinkable = 12'000;
-
 /// Kelvin to whole degrees Celsius; what is too cold for kelvin counts as degrees Celsius. Nothing for 0, which stands
 /// for none, and for what no diver meets.
 std::optional<qint32> celsius(std::optional<double> kelvin);
