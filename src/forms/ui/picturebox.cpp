@@ -17,6 +17,8 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace tavrel {
 
 namespace {
@@ -143,7 +145,7 @@ private:
         QSizePolicy policy = message_->sizePolicy();
         policy.setHeightForWidth(false);
         message_->setSizePolicy(policy);
-        message_->setMinimumHeight(message_->heightForWidth(widget()->width()));
+        message_->setMinimumHeight(std::max(0, message_->heightForWidth(widget()->width())));
     }
 
     void describe() {
