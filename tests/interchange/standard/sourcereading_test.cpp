@@ -367,14 +367,6 @@ TEST(Handheld, choosesFromTheMenusOfTheForm) {
     EXPECT_EQ(in(dive, "meteo courant visibilite typePlongee"), u"3; 5; 8; 5");
 }
 
-TEST(Udcf, takesNoDepthThatNoneCanBe) {
-    const FoundDives found = read(
-        "<PROFILE><REPGROUP><DIVE><MAXDEPTH>1e39</MAXDEPTH><SAMPLES><DELTA>10</DELTA><D>inf</D><D>1e39</D>"
-        "<D>20</D></SAMPLES></DIVE></REPGROUP></PROFILE>");
-    EXPECT_EQ(in(found.dives.at(0).dive, "profondeur"), u"20");
-    EXPECT_EQ(found.dives[0].dive.profilProfondeur, Series::ofReals({0, 0, 20}));
-}
-
 TEST(Sources, areToldByTheirContents) {
     const std::pair<const char*, std::optional<SourceKind>> cases[] = {
         {"<uddf version='3.2.0'/>", SourceKind::uddf},
