@@ -22,10 +22,10 @@ constexpr std::size_t largePage = std::size_t{2} << 20;
 /// cost a page fault for every few hundred of them. Only a hint.
 inline void preferLargePages([[maybe_unused]] void* memory, [[maybe_unused]] std::size_t bytes) {
 #ifdef __linux__
-    const auto start = (reinterpret_cast<std::uintptr_t>(memory) + largePage - 1) / largePage * largePage;
-    const auto end = (reinterpret_cast<std::uintptr_t>(memory) + bytes) / largePage * largePage;
-    if (start < end) {
-        madvise(reinterpret_cast<void*>(start), end - start, MADV_HUGEPAGE);
+    void* start = memory;
+    std::size_t rest = bytes;
+    if (std::align(largePage, largePage, start, rest)) {
+        madvise(start, rest / largePage * largePage, MADV_HUGEPAGE);
     }
 #endif
 }

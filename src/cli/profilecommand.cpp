@@ -191,6 +191,7 @@ void addProfileCommand(CLI::App& app, Console& console) {
     command->add_option("--row", arguments->row, "The dive's row, from 0")->required();
     auto* json = command->add_flag("--json", arguments->json, "Summary and geometry as JSON");
     std::vector<std::string> names;
+    names.reserve(std::size(editedSeries));
     for (const EditedSeries& edited : editedSeries) {
         names.emplace_back(edited.name);
     }

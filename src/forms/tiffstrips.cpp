@@ -18,7 +18,8 @@ bool unpackBits(QByteArrayView strip, std::span<uchar> rows) {
     std::size_t filled = 0;
     qsizetype at = 0;
     while (filled < rows.size() && at < strip.size()) {
-        const int head = static_cast<signed char>(strip[at++]);
+        const auto byte = static_cast<uchar>(strip[at++]);
+        const int head = byte < 128 ? byte : byte - 256;
         const auto count = static_cast<std::size_t>(head >= 0 ? head + 1 : 1 - head);
         if (head == -128) {
             continue;  // stands for nothing

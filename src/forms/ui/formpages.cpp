@@ -51,7 +51,7 @@ void alignPairs(const std::vector<LaidOutGroup>& groups) {
 
 }  // namespace
 
-FormPages::FormPages(FormStateBase& state, Desktop& desktop, OwnList ownList, Hint hint, HeldTexts heldTexts)
+FormPages::FormPages(FormStateBase& state, Desktop& desktop, OwnList ownList, Hint hint, const HeldTexts& heldTexts)
     : state_(state), desktop_(desktop), ownList_(std::move(ownList)), hint_(std::move(hint)) {
     const auto& controls = state.table().controls();
     for (int index = 0; index < static_cast<int>(controls.size()); ++index) {

@@ -30,7 +30,8 @@ public:
     /// The texts that the document holds already in the field of a combo, to be proposed with its list.
     using HeldTexts = std::function<QStringList(int control)>;
 
-    FormPages(FormStateBase& state, Desktop& desktop, OwnList ownList = {}, Hint hint = {}, HeldTexts heldTexts = {});
+    FormPages(FormStateBase& state, Desktop& desktop, OwnList ownList = {}, Hint hint = {},
+              const HeldTexts& heldTexts = {});
     ~FormPages() override;
 
     int pageCount() const { return static_cast<int>(pages_.size()); }
