@@ -15,10 +15,12 @@ namespace tavrel {
 
 namespace {
 
+/// So many elements are long for a path that is stroked.
+constexpr int longPath = 64;
+
 /// A long line in pieces, each beginning with the last stretch of the one before, so that it joins on. Pixels are
 /// filled much faster for many short outlines than for one that crosses itself often.
 std::vector<QPainterPath> piecesOf(const QPainterPath& path) {
-    constexpr int most = 64;
     std::vector<QPainterPath> pieces;
     for (int element = 0; element < path.elementCount(); ++element) {
         const QPainterPath::Element point = path.elementAt(element);
@@ -26,7 +28,7 @@ std::vector<QPainterPath> piecesOf(const QPainterPath& path) {
             pieces.emplace_back(point);
             continue;
         }
-        if (pieces.back().elementCount() > most) {
+        if (pieces.back().elementCount() > longPath) {
             const QPainterPath::Element before = path.elementAt(element - 2);
             pieces.emplace_back(before);
             pieces.back().lineTo(path.elementAt(element - 1));
@@ -66,8 +68,8 @@ public:
         }
         painter_.setTransform(upward_);
         // On paper and in files a line stays one; and where pieces lie on each other one must not see through.
-        if (painter_.paintEngine()->type() != QPaintEngine::Raster || line.colour.alpha() < 255 || line.dash > 0 ||
-            hasCurves(line.path)) {
+        if (line.path.elementCount() <= longPath || painter_.paintEngine()->type() != QPaintEngine::Raster ||
+            line.colour.alpha() < 255 || line.dash > 0 || hasCurves(line.path)) {
             painter_.strokePath(line.path, pen);
             return;
         }

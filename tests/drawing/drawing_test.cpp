@@ -65,6 +65,22 @@ TEST(Drawing, growsUpwardAndScalesWithItsTarget) {
     }
 }
 
+TEST(Drawing, leavesNoGapInALongLine) {
+    QPainterPath zigzag(QPointF(0, 5));
+    for (int x = 4; x <= 800; x += 4) {
+        zigzag.lineTo(x, x % 8 == 4 ? 15 : 5);
+    }
+    Drawing drawing(QSizeF(800, 20));
+    drawing.add(Drawing::Line{zigzag, Qt::black, 2});
+    const QImage image = painted(drawing, QSize(800, 20));
+    // Halfway up, the line is crossed once every four points.
+    int crossings = 0;
+    for (int x = 1; x < image.width(); ++x) {
+        crossings += image.pixelColor(x, 10).value() < 128 && image.pixelColor(x - 1, 10).value() >= 128 ? 1 : 0;
+    }
+    EXPECT_EQ(crossings, 200);
+}
+
 TEST(Drawing, keepsItsProportionsAndStaysInItsPlace) {
     Drawing drawing = sample();
     drawing.add(Drawing::Area{rectangle(15, -500, 5, 1000), QColor(Qt::blue)});
