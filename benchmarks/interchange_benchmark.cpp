@@ -52,7 +52,7 @@ struct Logbook {
     }
 
     TestDesktop desktop;
-    Carnet carnet{desktop.desktop(), logbookExportTypes()};
+    Carnet carnet{desktop.desktop(), logbookExports()};
 };
 
 Logbook& logbook() {

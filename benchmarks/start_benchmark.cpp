@@ -20,13 +20,16 @@ constexpr int manyDives = 100'000;
 
 /// Runs a program until its first window is painted; gives the size of that.
 QStringList runToFirstWindow(const QTemporaryDir& home, const char* program, const QStringList& arguments) {
+    // As in a session, whose runtime folder lies in memory: a lock is taken there.
+    static const QTemporaryDir runtime(QStringLiteral("/dev/shm/tavrel-XXXXXX"));
     QProcess process;
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(TAVREL_FIRST_PAINT));
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-    for (const char* variable : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR", "XDG_STATE_HOME", "XDG_CACHE_HOME"}) {
+    for (const char* variable : {"HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME"}) {
         environment.insert(QString::fromLatin1(variable), home.path());
     }
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtime.path());
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::SeparateChannels);
     process.start(QString::fromLocal8Bit(program), arguments);

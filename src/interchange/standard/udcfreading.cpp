@@ -250,7 +250,8 @@ private:
                 if (!std::exchange(isFirst, false) && !told) {
                     moment += delta > 0 ? delta : 10;
                 }
-                moment = told && *told >= moment && *told < 1e9 ? *told : moment;
+                const double at = told.value_or(moment);
+                moment = at >= moment && at < 1e9 ? at : moment;
                 told.reset();
                 if (const auto depth = depthOf(it)) {
                     depths.push_back({moment, *depth});
