@@ -18,7 +18,7 @@ namespace tavrel {
 
 namespace {
 
-struct Arguments {
+struct DiveArguments {
     std::string file;
     int row = 0;
     bool withoutPrevious = false;
@@ -27,7 +27,7 @@ struct Arguments {
 
 /// Opens the logbook and does the work with it.
 template <class Work>
-void withLogbook(const Arguments& arguments, Console& console, Work work) {
+void withLogbook(const DiveArguments& arguments, Console& console, Work work) {
     Session session(console);
     Expected<void> done = session.open(pathArgument(arguments.file));
     if (done) {
@@ -110,7 +110,7 @@ void printGas(const GasReadings& readings, bool usUnits, bool asJson, Console& c
     console.out << '\n';
 }
 
-void runGas(const Arguments& arguments, Console& console) {
+void runGas(const DiveArguments& arguments, Console& console) {
     withLogbook(arguments, console, [&](Session& session, Carnet& carnet) {
         return session.checkRow(arguments.row).map([&] {
             Desktop& desktop = session.desktop.desktop();
@@ -155,7 +155,7 @@ void writeJson(JsonWriter& json, const Statistics& statistics) {
     json.endObject();
 }
 
-void runStats(const Arguments& arguments, Console& console) {
+void runStats(const DiveArguments& arguments, Console& console) {
     withLogbook(arguments, console, [&](Session& session, Carnet& carnet) -> Expected<void> {
         const PreviousTotals previous = PreviousTotals::read(session.desktop.desktop().preferences);
         const Statistics statistics(divesIn(carnet.records()), arguments.withoutPrevious ? nullptr : &previous);
@@ -174,7 +174,7 @@ void runStats(const Arguments& arguments, Console& console) {
 }  // namespace
 
 void addDiveCommands(CLI::App& app, Console& console) {
-    const auto arguments = std::make_shared<Arguments>();
+    const auto arguments = std::make_shared<DiveArguments>();
     const auto add = [&](const char* name, const char* help) {
         CLI::App* command = app.add_subcommand(name, help);
         command->add_option("FILE", arguments->file, "The logbook")->required();

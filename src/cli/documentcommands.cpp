@@ -21,7 +21,7 @@ namespace tavrel {
 namespace {
 
 /// What the commands take; each uses its part.
-struct Arguments {
+struct DocumentArguments {
     std::string file;
     std::string type;
     std::vector<std::string> entries;
@@ -35,13 +35,13 @@ struct Arguments {
     bool force = false;
 };
 
-QString fileArgument(const Arguments& arguments) {
+QString fileArgument(const DocumentArguments& arguments) {
     return pathArgument(arguments.file);
 }
 
 /// Opens the file, does the work and, when all of it succeeded, saves the document.
 template <class Work>
-void changeFile(const Arguments& arguments, Console& console, Work work) {
+void changeFile(const DocumentArguments& arguments, Console& console, Work work) {
     Session session(console);
     session.byForce = arguments.force;
     Expected<void> done = session.openToChange(fileArgument(arguments));
@@ -74,7 +74,7 @@ void enterAll(BookForm& form, const std::vector<std::string>& entries) {
 
 namespace {
 
-void runNew(const Arguments& arguments, Console& console) {
+void runNew(const DocumentArguments& arguments, Console& console) {
     const CatalogueType* type = documentTypeMeantBy(fromArgument(arguments.type));
     if (!type) {
         QStringList names;
@@ -94,7 +94,7 @@ void runNew(const Arguments& arguments, Console& console) {
     }
 }
 
-void runAdd(const Arguments& arguments, Console& console) {
+void runAdd(const DocumentArguments& arguments, Console& console) {
     changeFile(arguments, console, [&](Session& session) -> Expected<void> {
         session.book->newRecord();
         enterAll(session.book->form(), arguments.entries);
@@ -103,7 +103,7 @@ void runAdd(const Arguments& arguments, Console& console) {
     });
 }
 
-void runSet(const Arguments& arguments, Console& console) {
+void runSet(const DocumentArguments& arguments, Console& console) {
     changeFile(arguments, console, [&](Session& session) {
         return session.checkRow(arguments.row).map([&] {
             session.book->selectRows({arguments.row});
@@ -113,7 +113,7 @@ void runSet(const Arguments& arguments, Console& console) {
     });
 }
 
-void runDelete(const Arguments& arguments, Console& console) {
+void runDelete(const DocumentArguments& arguments, Console& console) {
     changeFile(arguments, console, [&](Session& session) -> Expected<void> {
         for (const int row : arguments.rows) {
             if (auto checked = session.checkRow(row); !checked) {
@@ -126,13 +126,13 @@ void runDelete(const Arguments& arguments, Console& console) {
     });
 }
 
-void runRenumber(const Arguments& arguments, Console& console) {
+void runRenumber(const DocumentArguments& arguments, Console& console) {
     changeFile(arguments, console, [&](Session& session) {
         return session.logbook().map([&](Carnet* carnet) { carnet->renumDives(arguments.number); });
     });
 }
 
-void runFind(const Arguments& arguments, Console& console) {
+void runFind(const DocumentArguments& arguments, Console& console) {
     Session session(console);
     if (const auto opened = session.open(fileArgument(arguments)); !opened) {
         fail(console, opened.error());
@@ -150,7 +150,7 @@ void runFind(const Arguments& arguments, Console& console) {
     print(console, session.book->foundText());
 }
 
-void runSort(const Arguments& arguments, Console& console) {
+void runSort(const DocumentArguments& arguments, Console& console) {
     changeFile(arguments, console, [&](Session& session) -> Expected<void> {
         const BookTable table(*session.book);
         for (const std::string& column : arguments.columns) {
@@ -199,7 +199,7 @@ Expected<void> showTable(const QString& path, const std::vector<std::string>& fi
     return {};
 }
 
-void runShow(const Arguments& arguments, Console& console) {
+void runShow(const DocumentArguments& arguments, Console& console) {
     const QString path = fileArgument(arguments);
     const auto shown = arguments.json ? showJson(path, console) : showTable(path, arguments.columns, console);
     if (!shown) {
@@ -210,8 +210,8 @@ void runShow(const Arguments& arguments, Console& console) {
 }  // namespace
 
 void addDocumentCommands(CLI::App& app, Console& console) {
-    const auto arguments = std::make_shared<Arguments>();
-    const auto add = [&](const char* name, const char* help, void (*run)(const Arguments&, Console&)) {
+    const auto arguments = std::make_shared<DocumentArguments>();
+    const auto add = [&](const char* name, const char* help, void (*run)(const DocumentArguments&, Console&)) {
         CLI::App* command = app.add_subcommand(name, help);
         command->callback([arguments, &console, run] { run(*arguments, console); });
         return command;

@@ -23,7 +23,7 @@ namespace tavrel {
 
 namespace {
 
-struct Arguments {
+struct InterchangeArguments {
     std::string file;
     std::string other;  ///< what is imported, or written
     std::string format;
@@ -66,7 +66,7 @@ struct Reading {
     FoundDives found;
 };
 
-Expected<Reading> readingOf(Carnet& carnet, const Arguments& arguments) {
+Expected<Reading> readingOf(Carnet& carnet, const InterchangeArguments& arguments) {
     const QString path = pathArgument(arguments.other);
     for (const LogbookImport& each : logbookImports()) {
         if (arguments.format == each.name) {
@@ -144,7 +144,7 @@ void printFound(const FoundDives& found, const QString& length, Console& console
     }
 }
 
-Expected<void> previewInto(Carnet& carnet, const Arguments& arguments, Console& console) {
+Expected<void> previewInto(Carnet& carnet, const InterchangeArguments& arguments, Console& console) {
     return readingOf(carnet, arguments)
         .and_then([&](Reading&& reading) {
             return reading.format ? previewOwnImport(carnet, pathArgument(arguments.other), *reading.format)
@@ -161,7 +161,7 @@ Expected<void> previewInto(Carnet& carnet, const Arguments& arguments, Console& 
 }
 
 /// Saves the dives that came in also when one of them stopped the import; the stop still is a failure.
-Expected<void> importInto(Session& session, Carnet& carnet, const Arguments& arguments, Console& console) {
+Expected<void> importInto(Session& session, Carnet& carnet, const InterchangeArguments& arguments, Console& console) {
     if (arguments.dryRun) {
         return previewInto(carnet, arguments, console);
     }
@@ -189,7 +189,7 @@ Expected<void> importInto(Session& session, Carnet& carnet, const Arguments& arg
     return {};
 }
 
-Expected<void> exportFrom(Carnet& carnet, const Arguments& arguments, Console& console) {
+Expected<void> exportFrom(Carnet& carnet, const InterchangeArguments& arguments, Console& console) {
     const auto exports = logbookExports();
     const auto chosen = std::find_if(exports.begin(), exports.end(),
                                      [&](const LogbookExport& it) { return it.name == arguments.format; });
@@ -223,8 +223,8 @@ Expected<void> exportFrom(Carnet& carnet, const Arguments& arguments, Console& c
 }
 
 template <class Work>
-void withLogbook(const Arguments& arguments, Console& console, Expected<void> (Session::*open)(const QString&),
-                 Work work) {
+void withLogbook(const InterchangeArguments& arguments, Console& console,
+                 Expected<void> (Session::*open)(const QString&), Work work) {
     Session session(console);
     session.byForce = arguments.force;
     const auto done = (session.*open)(pathArgument(arguments.file))
@@ -238,7 +238,7 @@ void withLogbook(const Arguments& arguments, Console& console, Expected<void> (S
 }  // namespace
 
 void addInterchangeCommands(CLI::App& app, Console& console) {
-    const auto arguments = std::make_shared<Arguments>();
+    const auto arguments = std::make_shared<InterchangeArguments>();
     const auto addFile = [&](CLI::App* command) {
         command->add_option("FILE", arguments->file, "The logbook")->required();
     };

@@ -18,7 +18,7 @@ namespace tavrel {
 
 namespace {
 
-struct Arguments {
+struct ProfileArguments {
     std::string file;
     int row = 0;
     bool json = false;
@@ -141,7 +141,7 @@ Expected<SeriesTexts> textsOf(const std::vector<std::string>& replacements) {
     return texts;
 }
 
-Expected<void> run(const Arguments& arguments, Console& console) {
+Expected<void> run(const ProfileArguments& arguments, Console& console) {
     Session session(console);
     session.byForce = arguments.force;
     const QString path = pathArgument(arguments.file);
@@ -183,7 +183,7 @@ Expected<void> run(const Arguments& arguments, Console& console) {
 }  // namespace
 
 void addProfileCommand(CLI::App& app, Console& console) {
-    const auto arguments = std::make_shared<Arguments>();
+    const auto arguments = std::make_shared<ProfileArguments>();
     CLI::App* command = app.add_subcommand("profile",
                                            "The recorded profile of a dive: what it amounts to, its picture in "
                                            "figures, its series, and replacing them");

@@ -20,7 +20,7 @@ namespace tavrel {
 
 namespace {
 
-struct Arguments {
+struct ViewArguments {
     std::string file;
     std::string target;
     std::string what;
@@ -33,7 +33,7 @@ struct Arguments {
 
 /// Opens the document and does the work on it, which changes no file.
 template <class Work>
-void look(const Arguments& arguments, Console& console, Work work) {
+void look(const ViewArguments& arguments, Console& console, Work work) {
     Session session(console);
     const Expected<void> done = session.open(pathArgument(arguments.file)).and_then([&]() -> Expected<void> {
         std::vector<int> rows = arguments.rows;
@@ -92,7 +92,7 @@ void writeTable(const BookBase& book, const BookTable& table, JsonWriter& json) 
     json.flush();
 }
 
-void runTable(const Arguments& arguments, Console& console) {
+void runTable(const ViewArguments& arguments, Console& console) {
     look(arguments, console, [&](Session& session) -> Expected<void> {
         const BookTable table(*session.book);
         if (arguments.json) {
@@ -177,7 +177,7 @@ void printForm(const FormStateBase& state, Console& console) {
     }
 }
 
-void runForm(const Arguments& arguments, Console& console) {
+void runForm(const ViewArguments& arguments, Console& console) {
     look(arguments, console, [&](Session& session) -> Expected<void> {
         BookBase& book = *session.book;
         if (arguments.isNew == arguments.row.has_value()) {
@@ -217,7 +217,7 @@ void writeCard(const StyledText& card, JsonWriter& json) {
     json.flush();
 }
 
-void runCard(const Arguments& arguments, Console& console) {
+void runCard(const ViewArguments& arguments, Console& console) {
     look(arguments, console, [&](Session& session) {
         return cardOf(session, arguments.rows).map([&](const StyledText& card) {
             if (arguments.json) {
@@ -231,7 +231,7 @@ void runCard(const Arguments& arguments, Console& console) {
     });
 }
 
-void runRender(const Arguments& arguments, Console& console) {
+void runRender(const ViewArguments& arguments, Console& console) {
     look(arguments, console, [&](Session& session) -> Expected<void> {
         const QString target = pathArgument(arguments.target);
         if (!pictureFormatOf(target)) {
@@ -246,8 +246,8 @@ void runRender(const Arguments& arguments, Console& console) {
 }  // namespace
 
 void addViewCommands(CLI::App& app, Console& console) {
-    const auto arguments = std::make_shared<Arguments>();
-    const auto add = [&](const char* name, const char* help, void (*run)(const Arguments&, Console&)) {
+    const auto arguments = std::make_shared<ViewArguments>();
+    const auto add = [&](const char* name, const char* help, void (*run)(const ViewArguments&, Console&)) {
         CLI::App* command = app.add_subcommand(name, help);
         command->callback([arguments, &console, run] { run(*arguments, console); });
         command->add_option("FILE", arguments->file, "The document")->required();
