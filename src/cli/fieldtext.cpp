@@ -8,22 +8,22 @@ namespace tavrel {
 
 namespace {
 
-QString textOf(qint32 value) {
+QString written(qint32 value) {
     return QString::number(value);
 }
-QString textOf(float value) {
+QString written(float value) {
     return shortestText(value);
 }
-QString textOf(const QString& value) {
+QString written(const QString& value) {
     return value;
 }
-QString textOf(const Date& value) {
+QString written(const Date& value) {
     return value.toIso();
 }
-QString textOf(const Image& value) {
+QString written(const Image& value) {
     return value.tiff.isEmpty() ? QString() : QStringLiteral("%1 × %2").arg(value.width).arg(value.height);
 }
-QString textOf(const Series& value) {
+QString written(const Series& value) {
     QStringList numbers;
     for (std::size_t index = 0; index < value.size(); ++index) {
         const Number number = value.at(index);
@@ -35,7 +35,7 @@ QString textOf(const Series& value) {
 }  // namespace
 
 QString fieldText(const FieldValue& value) {
-    return std::visit([](const auto& held) { return textOf(held); }, value);
+    return std::visit([](const auto& held) { return written(held); }, value);
 }
 
 }  // namespace tavrel
