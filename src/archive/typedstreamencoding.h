@@ -8,6 +8,25 @@
 
 namespace tavrel {
 
+inline bool isIntegerCode(char code) {
+    switch (code) {
+        case 'c':
+        case 'C':
+        case 's':
+        case 'S':
+        case 'i':
+        case 'I':
+        case 'l':
+        case 'L':
+        case 'q':
+        case 'Q':
+        case 'B':
+            return true;
+        default:
+            return false;
+    }
+}
+
 /// Where the type code that begins there ends, brackets included; the size of the text when it does not.
 inline std::size_t encodingEnd(std::string_view types, std::size_t at) {
     int open = 0;
@@ -64,20 +83,11 @@ private:
         }
         scanner_.spend(1);
         const char code = types[at];
+        if (isIntegerCode(code)) {
+            handler_.integer(code, scanner_.readInteger(code));
+            return at + 1;
+        }
         switch (code) {
-            case 'c':
-            case 'C':
-            case 's':
-            case 'S':
-            case 'i':
-            case 'I':
-            case 'l':
-            case 'L':
-            case 'q':
-            case 'Q':
-            case 'B':
-                handler_.integer(code, scanner_.readInteger(code));
-                return at + 1;
             case 'f':
                 handler_.real(code, static_cast<double>(scanner_.readFloat()));
                 return at + 1;

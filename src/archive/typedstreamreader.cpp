@@ -16,25 +16,6 @@ namespace tavrel {
 
 namespace {
 
-bool isIntegerCode(char code) {
-    switch (code) {
-        case 'c':
-        case 'C':
-        case 's':
-        case 'S':
-        case 'i':
-        case 'I':
-        case 'l':
-        case 'L':
-        case 'q':
-        case 'Q':
-        case 'B':
-            return true;
-        default:
-            return false;
-    }
-}
-
 bool isRealCode(char code) {
     return code == 'f' || code == 'd';
 }
