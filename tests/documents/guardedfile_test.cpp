@@ -245,18 +245,13 @@ TEST_F(Journals, keepWhatIsUnsavedForTheNextRun) {
     ASSERT_EQ(found.size(), 1U);
     ASSERT_EQ(found[0].documents.size(), 1U);
     const Unsaved& unsaved = found[0].documents[0];
-    EXPECT_EQ(unsaved.recordClass, u"Leaf");
-    EXPECT_EQ(unsaved.name, u"leaf");
-    EXPECT_EQ(unsaved.file, file);
-    EXPECT_EQ(unsaved.records, 7);
-    EXPECT_EQ(unsaved.time, desktop.clock.moment);
-    ASSERT_TRUE(unsaved.form);
+    EXPECT_EQ(std::tuple(unsaved.recordClass, unsaved.name, unsaved.file, unsaved.records, unsaved.time),
+              std::tuple(QStringLiteral("Leaf"), QStringLiteral("leaf"), file, 7, desktop.clock.moment));
+    ASSERT_TRUE(unsaved.form && unsaved.form->controls.size() == 2);
     EXPECT_EQ(unsaved.form->row, 3);
-    ASSERT_EQ(unsaved.form->controls.size(), 2U);
-    EXPECT_EQ(unsaved.form->controls[0].name, u"field");
-    EXPECT_EQ(unsaved.form->controls[0].text, u"é ß");
-    EXPECT_EQ(unsaved.form->controls[0].tag, 7);
-    EXPECT_EQ(unsaved.form->controls[0].date.secondsSince2001(), 12.5);
+    const auto& field = unsaved.form->controls[0];
+    EXPECT_EQ(std::tuple(field.name, field.text, field.tag, field.date.secondsSince2001()),
+              std::tuple(QStringLiteral("field"), QStringLiteral("é ß"), 7, 12.5));
     EXPECT_TRUE(unsaved.form->controls[1].date.isNull());
     ASSERT_TRUE(unsaved.form->beside);
     EXPECT_EQ(unsaved.form->beside(), "beside");
@@ -340,18 +335,19 @@ TEST_F(Journals, knowASaveThatTheyDidNotOutlive) {
         QObject::disconnect(copying);
     };
     endWhileSaving(true);
+    // What the journal holds, and whether the file has it already.
+    const auto holds = [](const std::vector<JournalFolder::Left>& found, const char* contents, bool isChanged) {
+        return found.size() == 1 && found[0].documents[0].contents() == contents &&
+               found[0].documents[0].isChanged == isChanged;
+    };
     auto found = left();
-    ASSERT_EQ(found.size(), 1U);
-    EXPECT_FALSE(found[0].documents[0].isChanged);
-    EXPECT_EQ(found[0].documents[0].contents(), "third");
+    ASSERT_TRUE(holds(found, "third", false));
     ASSERT_TRUE(found[0].documents[0].form);
     found.clear();
     // The save did not come about: the journal is what there is.
     ASSERT_TRUE(writeFile(file, "first"));
     found = left();
-    ASSERT_EQ(found.size(), 1U);
-    EXPECT_TRUE(found[0].documents[0].isChanged);
-    EXPECT_EQ(found[0].documents[0].contents(), "second");
+    ASSERT_TRUE(holds(found, "second", true));
     found[0].discard();
     // Without a form there is nothing to offer.
     endWhileSaving(false);
@@ -367,8 +363,7 @@ TEST_F(Journals, knowASaveThatTheyDidNotOutlive) {
         run.journal.keepNow();
     }
     found = left();
-    ASSERT_EQ(found.size(), 1U);
-    EXPECT_EQ(found[0].documents[0].contents(), "fifth");
+    ASSERT_TRUE(holds(found, "fifth", true));
     found[0].discard();
     EXPECT_TRUE(QDir(parent).isEmpty());
 }

@@ -43,6 +43,13 @@ protected:
         EXPECT_GE(column, 0) << field;
         return column < 0 ? Cell() : table.cell(0, column);
     }
+    /// The texts of cells and of controls that are named with blanks between, as "a|b".
+    QString cells(const Class& record, const char* fields) {
+        return eachOf(fields, [&](const char* field) { return cell(record, field).text; });
+    }
+    QString texts(const char* names) {
+        return eachOf(names, [&](const char* control) { return at(control).text; });
+    }
     /// The name of the colour of a cell's text.
     std::string colour(const Class& record, const char* field) {
         const Cell shown = cell(record, field);

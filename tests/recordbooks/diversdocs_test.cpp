@@ -29,11 +29,9 @@ TEST_F(DiversDocsTest, readsItsArchiveWithAPicture) {
 
 TEST_F(DiversDocsTest, startsWithoutDaysAndPicture) {
     book->newRecord();
-    const auto blank = built();
-    EXPECT_EQ(blank->type, 0);
-    EXPECT_TRUE(blank->date == noDate());
-    EXPECT_TRUE(blank->dateRenouvellement == noDate());
-    EXPECT_TRUE(blank->photocopy.isNull());
+    EXPECT_TRUE(holds(*built(), "type=0"));
+    EXPECT_TRUE(built()->date == noDate() && built()->dateRenouvellement == noDate());
+    EXPECT_TRUE(built()->photocopy.isNull());
     EXPECT_FALSE(at("dateRenouvellementField").enabled);
     enter("renouvelerSwitch=1");
     EXPECT_TRUE(at("dateRenouvellementField").enabled);

@@ -34,22 +34,15 @@ FieldValue valueOf(FieldKind kind, const QString& words) {
     }
 }
 
-QString said(qint32 held) {
-    return QString::number(held);
-}
-QString said(float held) {
-    return shortestText(held);
-}
-QString said(const QString& held) {
-    return held;
-}
-template <class Other>
-QString said(const Other&) {
-    return QStringLiteral("not of a kind that is said so");
-}
-
 QString said(const FieldValue& value) {
-    return std::visit([](const auto& held) { return said(held); }, value);
+    if (const auto* number = std::get_if<qint32>(&value)) {
+        return QString::number(*number);
+    }
+    if (const auto* number = std::get_if<float>(&value)) {
+        return shortestText(*number);
+    }
+    const auto* text = std::get_if<QString>(&value);
+    return text ? *text : QStringLiteral("not of a kind that is said so");
 }
 
 Field fieldOf(const RecordLayout& layout, const std::string& name) {

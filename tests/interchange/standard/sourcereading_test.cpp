@@ -33,8 +33,21 @@ QByteArray dive(const QByteArray& before, const QByteArray& rest = {}) {
            "</informationbeforedive>" + rest + "</dive></repetitiongroup></profiledata></uddf>";
 }
 
+Plongee onlyDive(const QByteArray& bytes, std::optional<SourceKind> kind = {}) {
+    return read(bytes, kind).dives.at(0).dive;
+}
 Plongee diveRead(const QByteArray& before, const QByteArray& rest = {}) {
-    return read(dive(before, rest)).dives.at(0).dive;
+    return onlyDive(dive(before, rest));
+}
+/// Waypoints of "depth" or "depth@seconds", with blanks between; "@20" has no depth.
+QByteArray samples(const QByteArray& waypoints) {
+    QByteArray all;
+    for (const QByteArray& waypoint : waypoints.split(' ')) {
+        const QList<QByteArray> parts = waypoint.split('@');
+        all += "<waypoint>" + (parts[0].isEmpty() ? QByteArray() : "<depth>" + parts[0] + "</depth>");
+        all += (parts.size() > 1 ? "<divetime>" + parts[1] + "</divetime>" : QByteArray()) + "</waypoint>";
+    }
+    return "<samples>" + all + "</samples>";
 }
 
 QString startText(const Plongee& dive) {
@@ -90,9 +103,8 @@ TEST(Uddf, samplesTwoSecondsSoThatNoDepthIsLost) {
     flagged(dive.SLOW_Flag, 8);
     flagged(dive.CEIL_Flag, 10);
     flagged(dive.SURF_Flag, 12);
-    EXPECT_EQ(dive.PRESS_Data.real(0), 200.5);
-    EXPECT_EQ(dive.PRESS_Data.real(4), 196.5);
-    EXPECT_EQ(dive.PRESS_Data.real(12), 192.5);
+    EXPECT_EQ(std::tuple(dive.PRESS_Data.real(0), dive.PRESS_Data.real(4), dive.PRESS_Data.real(12)),
+              std::tuple(200.5, 196.5, 192.5));
 }
 
 TEST(Uddf, givesTanksTheirPlacesByTheUseOfTheirGas) {
@@ -132,7 +144,8 @@ TEST(Uddf, readsARebreather) {
     EXPECT_EQ(breathedGas(dive).helium, 45);
 }
 
-TEST(Uddf, readsTheOlderPlacesOfValues) {
+TEST(Uddf, findsDivesOutsideOfProfileDataAndTheOlderPlacesOfValues) {
+    EXPECT_EQ(read("<uddf version='2.0'><repetitiongroup><dive/><dive/></repetitiongroup></uddf>").dives.size(), 2U);
     const FoundDives found = readFixture("older.uddf", SourceKind::olderUddf);
     ASSERT_EQ(found.dives.size(), 3U);
     const Plongee& dive = found.dives[0].dive;
@@ -202,15 +215,7 @@ TEST(Uddf, takesNumbersOfNoSenseForNone) {
 }
 
 TEST(Uddf, spreadsWaypointsWithoutATime) {
-    const Plongee it = diveRead({}, R"(<samples>
-        <waypoint><depth>0</depth></waypoint>
-        <waypoint><depth>4</depth><divetime>5</divetime></waypoint>
-        <waypoint><depth>8</depth></waypoint>
-        <waypoint><depth>12</depth><divetime>15</divetime></waypoint>
-        <waypoint><divetime>20</divetime></waypoint>
-        <waypoint><depth/></waypoint>
-        <waypoint><depth>2</depth></waypoint>
-        <waypoint><depth>1</depth></waypoint></samples>)");
+    const Plongee it = diveRead({}, samples("0 4@5 8 12@15 @20 - 2 1").replace('-', ""));
     EXPECT_EQ(it.samplingRate, 7) << "5 s";
     const std::array expected{0.0, 4.0, 8.0, 12.0, 12 - 10.0 / 3, 12 - 20.0 / 3, 2.0, 1.0};
     ASSERT_EQ(it.profilProfondeur.size(), expected.size());
@@ -220,19 +225,13 @@ TEST(Uddf, spreadsWaypointsWithoutATime) {
 }
 
 TEST(Uddf, readsTimesAsTheyCanOnlyBeMeant) {
-    const auto waypoint = [](int seconds, const char* depth) {
-        return "<waypoint><depth>" + QByteArray(depth) + "</depth><divetime>" + QByteArray::number(seconds) +
-               "</divetime></waypoint>";
-    };
-    const Plongee clock =
-        diveRead({}, "<samples>" + waypoint(1'000'000, "5") + waypoint(1'000'010, "7") + "</samples>");
-    EXPECT_EQ(clock.profilProfondeur, Series::ofReals({5, 7})) << "from the first waypoint on";
-    const Plongee twice =
-        diveRead({}, "<samples>" + waypoint(0, "1") + waypoint(0, "2") + waypoint(10, "3") + "</samples>");
-    EXPECT_EQ(twice.profilProfondeur, Series::ofReals({2, 3})) << "the last of a moment";
-    const Plongee minutes = diveRead({}, "<samples>" + waypoint(0, "1") + waypoint(2700, "2") +
-                                             "</samples><informationafterdive><diveduration>45</diveduration>"
-                                             "</informationafterdive>");
+    EXPECT_EQ(diveRead({}, samples("5@1000000 7@1000010")).profilProfondeur, Series::ofReals({5, 7}))
+        << "from the first waypoint on";
+    EXPECT_EQ(diveRead({}, samples("1@0 2@0 3@10")).profilProfondeur, Series::ofReals({2, 3}))
+        << "the last of a moment";
+    EXPECT_EQ(diveRead({}, samples("9@20 1@0 5@10")).profilProfondeur, Series::ofReals({1, 5, 9})) << "in their order";
+    const Plongee minutes = diveRead(
+        {}, samples("1@0 2@2700") + "<informationafterdive><diveduration>45</diveduration></informationafterdive>");
     EXPECT_EQ(minutes.temps, 45);
 }
 
@@ -250,14 +249,6 @@ TEST(Uddf, ratesASightByItsMetres) {
     }
 }
 
-TEST(Uddf, sortsWaypointsByTheirTimes) {
-    const Plongee it = diveRead({}, R"(<samples>
-        <waypoint><divetime>20</divetime><depth>9</depth></waypoint>
-        <waypoint><divetime>0</divetime><depth>1</depth></waypoint>
-        <waypoint><divetime>10</divetime><depth>5</depth></waypoint></samples>)");
-    EXPECT_EQ(it.profilProfondeur, Series::ofReals({1, 5, 9}));
-}
-
 TEST(Uddf, takesWhatTheDiveLacksFromItsWaypoints) {
     const QByteArray file = R"(<UDDF version="3.0.1"><gasDefinitions><mix ID="a"><o2>0.32</o2></mix>
         <mix id="b"><o2>0.5</o2></mix></gasDefinitions><profileData><repetitionGroup><Dive><informationBeforeDive>
@@ -269,7 +260,7 @@ TEST(Uddf, takesWhatTheDiveLacksFromItsWaypoints) {
           <tankpressure ref="a">9000000</tankpressure><tankpressure ref="b">12000000</tankpressure></waypoint>
         </samples><informationAfterDive><greatestDepth>1e32</greatestDepth><lowestTemperature>255.4</lowestTemperature>
         <diveDuration>0:42:40</diveDuration></informationAfterDive></Dive></repetitionGroup></profileData></UDDF>)";
-    const Plongee it = read(file, SourceKind::uddf).dives.at(0).dive;
+    const Plongee it = onlyDive(file, SourceKind::uddf);
     EXPECT_EQ(in(it, "profondeur temps tempEau o2Mix pressionDepart pressionFin"), u"20; 43; 12; 32; 205; 90");
     EXPECT_EQ(in(it, "pressDepartPony1 pressFinPony1"), u"150; 120") << "richer, so a stage";
     EXPECT_EQ(it.PRESS_Data.real(0), 200.0);
@@ -291,21 +282,14 @@ TEST(Uddf, tellsARebreatherFromASetPointOfOpenCircuit) {
     }
 }
 
-TEST(Uddf, findsDivesOutsideOfProfileData) {
-    EXPECT_EQ(read("<uddf version='2.0'><repetitiongroup><dive/><dive/></repetitiongroup></uddf>").dives.size(), 2U);
-}
-
 TEST(Uddf, boundsTheSamplesOfADive) {
-    QByteArray samples = "<samples>";
+    QByteArray waypoints;
     for (int second = 0; second < 100'000; ++second) {
-        samples += "<waypoint><depth>" + QByteArray::number(second % 40) + "</depth><divetime>" +
-                   QByteArray::number(second) + "</divetime></waypoint>";
+        waypoints += QByteArray::number(second % 40) + '@' + QByteArray::number(second) + ' ';
     }
-    EXPECT_EQ(diveRead({}, samples + "</samples>").profilProfondeur.size(), 100'000U);
+    EXPECT_EQ(diveRead({}, samples(waypoints.chopped(1))).profilProfondeur.size(), 100'000U);
     // A few points that would come to more samples than a dive may have.
-    EXPECT_FALSE(diveRead({}, R"(<samples><waypoint><depth>1</depth><divetime>0</divetime></waypoint>
-        <waypoint><depth>1</depth><divetime>999999999</divetime></waypoint></samples>)")
-                     .hasProfile());
+    EXPECT_FALSE(diveRead({}, samples("1@0 1@999999999")).hasProfile());
 }
 
 TEST(Udcf, isReadAsItWasMeant) {
@@ -348,22 +332,18 @@ TEST(Udcf, isReadInTheUnitsThatItSays) {
 }
 
 TEST(Udcf, takesDepthsOfNoSenseForNone) {
-    const Plongee dive = read("<PROFILE><REPGROUP><DIVE><MAXDEPTH>" + QByteArray(39, '9') +
-                              "</MAXDEPTH><SAMPLES><DELTA>10</DELTA><D>1</D><D>1e30</D><D>7</D></SAMPLES></DIVE>"
-                              "</REPGROUP></PROFILE>")
-                             .dives.at(0)
-                             .dive;
+    const Plongee dive = onlyDive("<PROFILE><REPGROUP><DIVE><MAXDEPTH>" + QByteArray(39, '9') +
+                                  "</MAXDEPTH><SAMPLES><DELTA>10</DELTA><D>1</D><D>1e30</D><D>7</D></SAMPLES></DIVE>"
+                                  "</REPGROUP></PROFILE>");
     EXPECT_EQ(dive.profondeur, 7);
     EXPECT_EQ(dive.profilProfondeur, Series::ofReals({1, 7})) << "twenty seconds apart";
 }
 
 TEST(Handheld, choosesFromTheMenusOfTheForm) {
-    const Plongee dive = read(
-                             "<log><repgroup><dive><weather>3</weather><current>5</current><visibility>0</visibility>"
-                             "<divetype>4</divetype></dive></repgroup></log>",
-                             SourceKind::handheld)
-                             .dives.at(0)
-                             .dive;
+    const Plongee dive = onlyDive(
+        "<log><repgroup><dive><weather>3</weather><current>5</current><visibility>0</visibility>"
+        "<divetype>4</divetype></dive></repgroup></log>",
+        SourceKind::handheld);
     EXPECT_EQ(in(dive, "meteo courant visibilite typePlongee"), u"3; 5; 8; 5");
 }
 
