@@ -20,8 +20,7 @@ namespace {
 
 enum Answer { save, dontSave, cancel };
 
-class Documents : public testing::Test {
-protected:
+struct Documents : testing::Test {
     QStringList names() {
         QStringList names;
         for (DocumentWindow* window : app.documents.windows()) {
@@ -434,9 +433,6 @@ TEST_F(Documents, goBackToTheirBackup) {
     DocumentWindow* window = app.documents.openFile(app.savedLogbook(QStringLiteral("dives.carnet"), 2));
     app.frontCarnet().addDive();
     ASSERT_TRUE(app.documents.saveDocument(*window));
-    app.alerts.answerNext(1);
-    EXPECT_FALSE(app.documents.revertToBackup(*window));
-    EXPECT_EQ(app.frontCarnet().count(), 3);
     app.alerts.answerNext(0);
     EXPECT_TRUE(app.documents.revertToBackup(*window));
     EXPECT_EQ(app.frontCarnet().count(), 2);

@@ -23,8 +23,7 @@ namespace tavrel {
 
 namespace {
 
-class PreferencesTest : public testing::Test {
-protected:
+struct PreferencesTest : testing::Test {
     PreferencesTest() {
         using enum Notification;
         for (const auto& [notification, name] :

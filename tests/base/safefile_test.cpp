@@ -37,8 +37,7 @@ bool setMode(const QString& path, mode_t mode) {
     return ::chmod(pathBytes(path).constData(), mode) == 0;
 }
 
-class SafeFile : public testing::Test {
-protected:
+struct SafeFile : testing::Test {
     QString path(const char* name) const { return folder_.filePath(QString::fromUtf8(name)); }
     QStringList names() const {
         return QDir(folder_.path()).entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot);
@@ -280,8 +279,7 @@ const Save saves[] = {{"new", "", 0, false},
                       {"without unnamed files", "linkat", EPERM, true},
                       {"in place", "rename", EBUSY, true}};
 
-class SaveFaults : public SafeFile, public testing::WithParamInterface<Save> {
-protected:
+struct SaveFaults : SafeFile, testing::WithParamInterface<Save> {
     SaveFaults() { qputenv("XDG_STATE_HOME", QFile::encodeName(path("state"))); }
     ~SaveFaults() override { qputenv("XDG_STATE_HOME", qgetenv("XDG_CONFIG_HOME")); }
 

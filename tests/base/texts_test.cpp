@@ -23,8 +23,7 @@ namespace {
 using Arguments = std::vector<FormatArgument>;
 using Table = std::map<QString, QString>;
 
-class Texts : public testing::Test {
-public:
+struct Texts : testing::Test {
     ~Texts() override { setTextLanguage(QStringLiteral("en")); }
 };
 

@@ -10,8 +10,7 @@ namespace tavrel {
 
 namespace {
 
-class CalculatorPages : public testing::Test {
-protected:
+struct CalculatorPages : testing::Test {
     ~CalculatorPages() override { setTextLanguage(QStringLiteral("en")); }
 };
 

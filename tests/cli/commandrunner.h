@@ -28,8 +28,7 @@ inline QStringList words(const char* command) {
 }
 
 /// Runs the command line in a folder of its own, in UTC and English, with settings of its own. Its logbook is a.carnet.
-class CommandLine : public testing::Test {
-protected:
+struct CommandLine : testing::Test {
     struct Outcome {
         int code = -1;
         QString out;
@@ -83,6 +82,17 @@ protected:
         const QString out = done(command);
         EXPECT_TRUE(out.endsWith(u"}\n")) << command << ": " << out.toStdString();
         return QJsonDocument::fromJson(out.toUtf8()).object();
+    }
+
+    /// What stands at the paths of an object, each as text: "counts.air total" as "2|4".
+    static QString at(const QJsonObject& object, const char* paths) {
+        return eachOf(paths, [&](const char* path) {
+            QJsonValue value = object;
+            for (const QString& step : QString::fromUtf8(path).split(u'.')) {
+                value = value.isArray() ? value[step.toInt()] : value[step];
+            }
+            return value.toVariant().toString();
+        });
     }
 
     void expectRefusals(std::initializer_list<Refusal> refusals) const {

@@ -5,8 +5,7 @@ namespace tavrel {
 namespace {
 
 /// A dive of four samples, ten points to the metre.
-class ProfileCommand : public CommandLine {
-protected:
+struct ProfileCommand : CommandLine {
     ProfileCommand() {
         done("new Plongee a.carnet");
         done(
@@ -35,12 +34,9 @@ TEST_F(ProfileCommand, givesSummaryAndGeometry) {
     EXPECT_EQ(path(u"axes"), u"[[[30,143],[680,143],[675,138]],[[30,143],[30,598]]]");
     EXPECT_EQ(path(u"limit"), u"[]");
     ASSERT_EQ(geometry[u"icons"].toArray().size(), 4);
-    EXPECT_EQ(geometry[u"icons"][1][u"name"].toString(), u"alarmeGAZ");
-    EXPECT_EQ(geometry[u"icons"][1][u"x"].toDouble(), 162.5 - 27);
+    EXPECT_EQ(at(geometry, "icons.1.name icons.1.x"), u"alarmeGAZ|135.5");
     const QJsonObject label = geometry[u"labels"].toArray().last().toObject();
-    EXPECT_EQ(label[u"text"].toString(), u"EAN50");
-    EXPECT_EQ(label[u"y"].toDouble(), 523 + 14);
-    EXPECT_EQ(label[u"colour"].toString(), u"#000000");
+    EXPECT_EQ(at(label, "text y colour"), u"EAN50|537|#000000");
     EXPECT_EQ(json("profile a.carnet --row 1 --json")[u"samples"].toInt(), 0);
 }
 

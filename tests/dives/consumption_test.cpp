@@ -103,12 +103,9 @@ TEST(Consumption, AuxiliaryGasesShowWithALevelFromTheThirdOn) {
         dive.levels[level].on = true;
         const auto gases = auxiliaryGases(dive);
         ASSERT_TRUE(gases[1]) << level;
-        EXPECT_EQ(gases[1]->available, 1400);
-        EXPECT_EQ(gases[1]->used, 560);
+        EXPECT_EQ(std::tuple(gases[1]->available, gases[1]->used, gases[1]->maximum, gases[1]->value, gases[1]->ticks),
+                  std::tuple(1400, 560, 200, 120, 20));
         EXPECT_EQ(gases[1]->text, u"Gas available: 1400 L\rGas used: 560 L");
-        EXPECT_EQ(gases[1]->maximum, 200);
-        EXPECT_EQ(gases[1]->value, 120);
-        EXPECT_EQ(gases[1]->ticks, 20);
         EXPECT_FALSE(gases[0]);
         EXPECT_EQ(gases[4].value().used, 10);
         EXPECT_EQ(gases[4]->ticks, 20);
@@ -151,17 +148,13 @@ TEST(Consumption, FiguresExplainThemselvesOrSayWhyNot) {
 
 TEST(OxygenClock, RatesFollowTheBands) {
     EXPECT_DOUBLE_EQ(calculSncClock(1.6, 30), 66.6);
-    struct Case {
-        double ppO2;
-        double rate;
-    };
     // Each band's two ends, the two wide bands and what lies outside.
-    for (const auto& [ppO2, rate] :
-         {Case{0, 0.14},      Case{-1, 0.14},   Case{0.62, 0.14}, Case{0.6201, 0.15}, Case{0.70, 0.18},
-          Case{0.72, 0.18},   Case{0.73, 0.19}, Case{0.88, 0.26}, Case{0.89, 0.28},   Case{1.0, 0.33},
-          Case{1.12, 0.43},   Case{1.14, 0.43}, Case{1.15, 0.44}, Case{1.22, 0.48},   Case{1.23, 0.51},
-          Case{1.4, 0.65},    Case{1.41, 0.68}, Case{1.5, 0.83},  Case{1.51, 0.93},   Case{1.58, 1.47},
-          Case{1.5801, 2.22}, Case{3, 2.22},    Case{1.33, 0.60}, Case{1.55, 1.19}}) {
+    const std::pair<double, double> cases[] = {{0, 0.14},      {-1, 0.14},   {0.62, 0.14}, {0.6201, 0.15}, {0.70, 0.18},
+                                               {0.72, 0.18},   {0.73, 0.19}, {0.88, 0.26}, {0.89, 0.28},   {1.0, 0.33},
+                                               {1.12, 0.43},   {1.14, 0.43}, {1.15, 0.44}, {1.22, 0.48},   {1.23, 0.51},
+                                               {1.4, 0.65},    {1.41, 0.68}, {1.5, 0.83},  {1.51, 0.93},   {1.58, 1.47},
+                                               {1.5801, 2.22}, {3, 2.22},    {1.33, 0.60}, {1.55, 1.19}};
+    for (const auto& [ppO2, rate] : cases) {
         EXPECT_EQ(sncRate(ppO2), rate) << ppO2;
     }
     EXPECT_EQ(oxygenBands().size(), 48U);

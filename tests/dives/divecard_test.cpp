@@ -11,8 +11,7 @@
 namespace tavrel {
 namespace {
 
-class DiveCardTest : public testing::Test {
-protected:
+struct DiveCardTest : testing::Test {
     QString cardOf(const Plongee& dive) {
         const std::vector<DivePointer> dives{std::make_shared<const Plongee>(dive)};
         return diveCard(divesIn(dives), desktop_.desktop().preferences).text();

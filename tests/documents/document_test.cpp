@@ -13,8 +13,7 @@ namespace tavrel {
 namespace {
 
 /// A document of one text, which refuses bytes that begin with '!'.
-class Note : public Document {
-public:
+struct Note : Document {
     explicit Note(Desktop& desktop) : Document(desktop) { setType(QStringLiteral("Note")); }
 
     Expected<QByteArray> dataRepresentationOfType(const QString& type) override {

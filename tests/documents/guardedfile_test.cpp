@@ -23,8 +23,7 @@ namespace {
 using State = FileIdentity::State;
 
 /// A document of one text, with a form of one control.
-class Leaf : public Document {
-public:
+struct Leaf : Document {
     explicit Leaf(Desktop& desktop) : Document(desktop) { setType(QStringLiteral("Leaf")); }
 
     Expected<QByteArray> dataRepresentationOfType(const QString&) override { return words; }
@@ -58,8 +57,7 @@ protected:
     std::optional<UnstoredForm> unstoredForm() const override { return typed; }
 };
 
-class GuardedFile : public testing::Test {
-protected:
+struct GuardedFile : testing::Test {
     QString path(const char* name) { return desktop.path(QString::fromUtf8(name)); }
     static mode_t mode(const QString& file) {
         struct stat status {};
@@ -220,8 +218,7 @@ struct ProgramRun {
     Journal journal;
 };
 
-class Journals : public GuardedFile {
-protected:
+struct Journals : GuardedFile {
     std::vector<JournalFolder::Left> left() const { return JournalFolder(parent).left(); }
 
     const QString parent = path("journal");

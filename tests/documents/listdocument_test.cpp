@@ -16,8 +16,7 @@ struct Entry : Record {
 
 constexpr RecordLayout entryLayout = recordLayout<Entry>("Entry", 1, {});
 
-class Entries : public ListDocument {
-public:
+struct Entries : ListDocument {
     explicit Entries(Desktop& desktop) : ListDocument(desktop, entryLayout) {}
 
     Expected<QByteArray> dataRepresentationOfType(const QString&) override { return QByteArray(); }

@@ -1,6 +1,7 @@
 #include "forms/entryhint.h"
 #include "forms/formentry.h"
 #include "forms/recordbinding.h"
+#include "support/records.h"
 #include "support/testdesktop.h"
 
 #include <gtest/gtest.h>
@@ -51,8 +52,7 @@ struct LoanControls : ControlTable<LoanControls> {
     const std::array<Id, 2> lines = addEach<2>({"1", "2"}, {.name = "line_%_Field"});
 };
 
-class FormStateTest : public ::testing::Test {
-protected:
+struct FormStateTest : testing::Test {
     bool enters(const char* name, const char* value) {
         return enterValue(state_, controls_.find(name), QString::fromUtf8(value)).has_value();
     }
@@ -69,15 +69,9 @@ protected:
 
 TEST_F(FormStateTest, carriesEveryKindOfFieldBothWays) {
     const RecordBinding binding(controls_, loanLayout);
+    const char* values = "item=Lamp|note=two\nlines|pieces=-7|state=4|returned=3|grade=5|price=0.1|day=12345.5";
     Loan given;
-    given.item = QStringLiteral("Lamp");
-    given.note = QStringLiteral("two\nlines");
-    given.pieces = -7;
-    given.state = 4;
-    given.returned = 3;  // a switch keeps what an old file says
-    given.grade = 5;
-    given.price = 0.1F;
-    given.day = Date(12345.5);
+    fill(given, loanLayout, values);  // a switch keeps what an old file says
     given.receipt.tiff = QByteArray("II*");
     binding.load(state_, given);
     EXPECT_EQ(state_.text(controls_.pieces), u"-7");
@@ -86,14 +80,7 @@ TEST_F(FormStateTest, carriesEveryKindOfFieldBothWays) {
 
     Loan taken;
     binding.build(state_, taken);
-    EXPECT_EQ(taken.item, given.item);
-    EXPECT_EQ(taken.note, given.note);
-    EXPECT_EQ(taken.pieces, -7);
-    EXPECT_EQ(taken.state, 4);
-    EXPECT_EQ(taken.returned, 3);
-    EXPECT_EQ(taken.grade, 5);
-    EXPECT_EQ(taken.price, 0.1F);
-    EXPECT_EQ(taken.day, given.day);
+    EXPECT_TRUE(holds(taken, loanLayout, values));
     EXPECT_EQ(taken.receipt, given.receipt);
     EXPECT_FALSE(binding.fieldKind(controls_.total.index));
 }
@@ -182,12 +169,7 @@ TEST_F(FormStateTest, tellsOfWritesOnceAndOfEntriesAlways) {
 }
 
 TEST_F(FormStateTest, hintsAtNumbersThatAreReadOtherwiseOrUnusual) {
-    struct Case {
-        LoanControls::Id id;
-        const char* typed;
-        const char* hint;
-    };
-    const Case cases[] = {
+    const std::tuple<LoanControls::Id, const char*, const char*> cases[] = {
         {controls_.pieces, "20", ""},
         {controls_.pieces, "21", "usually 1 to 20"},
         {controls_.pieces, "0", "usually 1 to 20"},

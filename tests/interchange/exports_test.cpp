@@ -34,8 +34,7 @@ Plongee wreckDive() {
     return dive;
 }
 
-class Exports : public testing::Test {
-protected:
+struct Exports : testing::Test {
     void add(std::initializer_list<Plongee> dives) { carnet.appendDives(QStringLiteral("add"), dives); }
     std::string exported(const char* name) {
         for (const LogbookExport& it : logbookExports()) {
@@ -171,11 +170,10 @@ TEST_F(Exports, leaveTheRestOfTheGasToNitrogen) {
         return QStringList{mix.last(oxygen).text(), mix.last(nitrogen).text(), mix.last(helium).text()}.join(u' ');
     };
     const auto uddf = XmlTree::parse(QByteArray::fromStdString(exported("uddf")));
-    ASSERT_TRUE(uddf);
+    const auto udcf = XmlTree::parse(QByteArray::fromStdString(exported("udcf")));
+    ASSERT_TRUE(uddf && udcf);
     EXPECT_EQ(gas(uddf->root().last("gasdefinitions").last("mixid"), "o2", "n2", "he"), u"0.180 0.370 0.450")
         << "of the first dive";
-    const auto udcf = XmlTree::parse(QByteArray::fromStdString(exported("udcf")));
-    ASSERT_TRUE(udcf);
     const XmlElement first = *udcf->root().last("REPGROUP").children("DIVE").begin();
     EXPECT_EQ(gas(first.last("GASES").last("MIX"), "O2", "N2", "HE"), u"0.18 0.37 0.45");
 }

@@ -36,8 +36,7 @@ QString in(const Plongee& dive, const char* names) {
     return fieldsOf(dive, Plongee::layout(), names);
 }
 
-class Imports : public testing::Test {
-protected:
+struct Imports : testing::Test {
     ImportResult take(const QByteArray& bytes, const Progress& progress = {}) {
         const ImportFormat format = bytes.contains("<uddf")       ? ImportFormat::uddf
                                     : bytes.contains("<repgroup") ? ImportFormat::handheld
@@ -207,8 +206,7 @@ TEST_F(Imports, numberOnFromTheLastDiveAndUndoAsOneStep) {
     carnet.appendDives(QStringLiteral("add"), {last});
     carnet.selectRows({0});
     EXPECT_EQ(take(udcf(udcfDive({}) + udcfDive({}))).message(), u"2 dives were imported. Without a date: 2.");
-    EXPECT_EQ(carnet.recordAt(1)->noPlongee, 58);
-    EXPECT_EQ(carnet.recordAt(2)->noPlongee, 59);
+    EXPECT_EQ(std::pair(carnet.recordAt(1)->noPlongee, carnet.recordAt(2)->noPlongee), std::pair(58, 59));
     EXPECT_TRUE(carnet.isChanged());
     EXPECT_TRUE(carnet.selectedRows().isEmpty()) << "the form no longer shows the dive that was selected";
     carnet.undoStack().undo();
@@ -227,8 +225,7 @@ TEST_F(Imports, stopAtADiveThatLacksAnElementAndKeepTheOthers) {
     for (const auto& [file, element] : cases) {
         const int before = carnet.count();
         const ImportResult result = take(file);
-        EXPECT_EQ(result.taken, 1);
-        EXPECT_EQ(result.stoppedAt, 2);
+        EXPECT_EQ(std::pair(result.taken, result.stoppedAt), std::pair(1, 2));
         EXPECT_TRUE(result.message().startsWith(u"One dive was imported.")) << result.message().toStdString();
         EXPECT_TRUE(result.message().contains(QLatin1String(element))) << result.message().toStdString();
         EXPECT_EQ(carnet.count(), before + 1);

@@ -15,8 +15,7 @@ namespace tavrel {
 
 namespace {
 
-class CarnetTest : public testing::Test {
-protected:
+struct CarnetTest : testing::Test {
     void hold(std::vector<Plongee> dives) {
         carnet.appendDives(QStringLiteral("Add"), std::move(dives));
         carnet.undoStack().setClean();

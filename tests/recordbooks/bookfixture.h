@@ -14,8 +14,7 @@ namespace tavrel {
 
 /// A record book of one type in a desktop of its own, driven by the names of its controls and fields.
 template <class Class, const BookDescription& (*describe)()>
-class BookFixture : public testing::Test {
-protected:
+struct BookFixture : testing::Test {
     const BookDescription& description = describe();
     TestDesktop desktop;
     std::unique_ptr<BookBase> book = description.make(desktop.desktop());

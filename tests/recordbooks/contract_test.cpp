@@ -21,8 +21,7 @@ namespace tavrel {
 
 namespace {
 
-class RecordBook : public testing::TestWithParam<BookCase> {
-protected:
+struct RecordBook : testing::TestWithParam<BookCase> {
     const BookDescription& description = GetParam().book();
     const RecordLayout& layout = description.layout();
     TestDesktop desktop;

@@ -9,8 +9,7 @@ namespace tavrel {
 
 namespace {
 
-class EntreprisesTest : public BookFixture<Entreprises, adressesEts> {
-protected:
+struct EntreprisesTest : BookFixture<Entreprises, adressesEts> {
     /// A file of one company, whose postal code and what follows the remarks are written as its version does.
     void openVersion(const char* version, const std::string& postalCode, const std::string& behind) {
         std::string hours;

@@ -17,8 +17,7 @@
 namespace tavrel {
 namespace {
 
-class FilterTest : public testing::Test {
-protected:
+struct FilterTest : testing::Test {
     FilterTest() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom)); }
     ~FilterTest() override { QLocale::setDefault(QLocale::c()); }
 
@@ -41,8 +40,7 @@ Materiel item(const char* kind, const char* notes, const char* price, QDate boug
     return made;
 }
 
-class EquipmentFilterTest : public FilterTest {
-protected:
+struct EquipmentFilterTest : FilterTest {
     EquipmentFilterTest() {
         Materiel tank = item("Tank", "Peinte à l’école\nen jaune", "265.00", {2016, 6, 30}, 1);
         tank.capaciteBloc = 12.2F;

@@ -29,8 +29,7 @@ namespace tavrel {
 
 namespace {
 
-class BookEditWindowTest : public testing::Test {
-protected:
+struct BookEditWindowTest : testing::Test {
     BookEditWindowTest() { show(); }
 
     void show() {

@@ -26,8 +26,7 @@ namespace tavrel {
 
 namespace {
 
-class BookWindowTest : public testing::Test {
-protected:
+struct BookWindowTest : testing::Test {
     BookWindowTest() { open(); }
 
     void open() {

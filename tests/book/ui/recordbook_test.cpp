@@ -43,8 +43,7 @@ namespace {
 
 enum Answer { keep, discard, cancel };
 
-class RecordBookTest : public testing::Test {
-protected:
+struct RecordBookTest : testing::Test {
     RecordBookTest() {
         window.show();
         window.activateWindow();

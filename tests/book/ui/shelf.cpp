@@ -8,8 +8,7 @@ namespace tavrel {
 namespace {
 
 /// Wears off by ten percent for each unit of its price.
-class ThingForm : public RecordForm<ThingControls, Thing> {
-public:
+struct ThingForm : RecordForm<ThingControls, Thing> {
     using RecordForm::RecordForm;
 
 protected:

@@ -12,8 +12,7 @@ namespace {
 
 const PrintSettings settings{23.2, 25, 10, 10, 0.67, true};
 
-class Printing : public testing::Test {
-protected:
+struct Printing : testing::Test {
     Printing() {
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(folder.filePath(QStringLiteral("out.pdf")));

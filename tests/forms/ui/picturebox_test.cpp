@@ -28,8 +28,7 @@ struct CopyControls : ControlTable<CopyControls> {
     }
 };
 
-class PictureBox : public testing::Test {
-protected:
+struct PictureBox : testing::Test {
     PictureBox() {
         setTextLanguage(QStringLiteral("en"));
         control = makeFormControl(state, 0, nullptr);

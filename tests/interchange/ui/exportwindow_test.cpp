@@ -18,8 +18,7 @@ namespace tavrel {
 
 namespace {
 
-class Exporting : public testing::Test {
-protected:
+struct Exporting : testing::Test {
     Exporting() {
         for (int number = 1; number <= 3; ++number) {
             Plongee dive = unknownDive();

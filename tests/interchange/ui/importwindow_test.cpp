@@ -18,8 +18,7 @@ namespace tavrel {
 
 namespace {
 
-class FoundDivesWindow : public testing::Test {
-protected:
+struct FoundDivesWindow : testing::Test {
     void show(const QByteArray& bytes, bool waits = true) {
         const QString path = desktop.path(QStringLiteral("source"));
         writeContents(path, bytes);

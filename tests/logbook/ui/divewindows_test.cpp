@@ -27,8 +27,7 @@ namespace tavrel {
 namespace {
 
 /// A logbook of three dives in its window, none selected.
-class DiveWindowsTest : public testing::Test {
-protected:
+struct DiveWindowsTest : testing::Test {
     DiveWindowsTest() : carnet(desktop.desktop()), window(newWindow()) {
         carnet.appendDives(
             QStringLiteral("Add"),

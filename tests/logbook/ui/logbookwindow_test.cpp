@@ -25,8 +25,7 @@ namespace tavrel {
 
 namespace {
 
-class LogbookWindowTest : public testing::Test {
-protected:
+struct LogbookWindowTest : testing::Test {
     TestDesktop desktop;
     Carnet carnet{desktop.desktop()};
     LogbookWindow window{carnet, desktop.desktop()};
@@ -62,10 +61,7 @@ TEST_F(LogbookWindowTest, showsWhatBecomesOfTheDivesBeforeItConvertsThem) {
     const auto cell = [&](int row, int column) { return preview->item(row, column)->text(); };
     EXPECT_EQ(preview->rowCount(), 2);
     // The user's numbers are in metres, so these are taken to be in feet.
-    EXPECT_EQ(cell(0, 0), u"5");
-    EXPECT_EQ(cell(0, 2), u"100");
-    EXPECT_EQ(cell(0, 3), u"30.48");
-    EXPECT_EQ(cell(0, 5), u"–");
+    EXPECT_EQ((QStringList{cell(0, 0), cell(0, 2), cell(0, 3), cell(0, 5)}.join(u' ')), u"5 100 30.48 –");
     EXPECT_TRUE(dialog.findChild<QLabel*>(QStringLiteral("altitudeWarning"))->isHidden());
     dialog.findChild<QRadioButton*>(QStringLiteral("toFeet"))->setChecked(true);
     EXPECT_EQ(cell(0, 3), u"328.08");

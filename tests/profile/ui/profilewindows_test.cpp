@@ -96,8 +96,7 @@ TEST(ProfileWindow, marksSamplesByPointerAndKeys) {
     EXPECT_FALSE(view.markedSample()) << "a lone sample is no profile";
 }
 
-class ProfileEditorTest : public testing::Test {
-protected:
+struct ProfileEditorTest : testing::Test {
     ProfileEditorTest() : window(desktop.preferences) {
         profile.profilProfondeur = Series::ofReals({0, 5.5, 12});
         profile.SLOW_Flag = Series::ofIntegers({0, 1, 0});
