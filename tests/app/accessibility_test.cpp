@@ -1,14 +1,12 @@
 #include "app/preferenceswindow.h"
 #include "app/testapplication.h"
 
-#include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
 #include <QMenuBar>
 #include <QScrollBar>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 

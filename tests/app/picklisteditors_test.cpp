@@ -7,7 +7,6 @@
 #include <QPushButton>
 #include <QSet>
 #include <QTest>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 

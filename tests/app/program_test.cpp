@@ -18,7 +18,6 @@
 #include <QRegularExpression>
 #include <QTableView>
 #include <QTest>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 

@@ -7,7 +7,6 @@
 #include "support/testdesktop.h"
 
 #include <QCoreApplication>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 

@@ -3,8 +3,6 @@
 #include "calculators/gpsreport.h"
 #include "support/printing.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <numbers>
 

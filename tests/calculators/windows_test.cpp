@@ -15,11 +15,9 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QTabWidget>
 #include <QTextBlock>
 #include <QTextEdit>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 
@@ -313,7 +311,6 @@ TEST(CalculatorWindows, showADecimalCommaInFrench) {
     EXPECT_EQ(named<QLineEdit>(positions, "positionField").placeholderText(), u"43° 12,345' N  5° 20,7' O");
     positions.readPosition(QStringLiteral("43° 12,345' N 5° 20,7' O"));
     EXPECT_EQ(named<QLineEdit>(positions, "longitude_inField").text(), u"-5,345");
-    setTextLanguage(QStringLiteral("en"));
 }
 
 }  // namespace

@@ -15,7 +15,6 @@
 #include <QProcessEnvironment>
 #include <QStringList>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 #include <initializer_list>
 #include <vector>
@@ -39,11 +38,6 @@ struct CommandLine : testing::Test {
         int code;
         const char* reason;  ///< is in what the command says
     };
-    struct Value {
-        std::size_t row;
-        const char *field, *value;
-    };
-
     QString path(const QString& name) const { return folder_.filePath(name); }
 
     void writeSettings(const QByteArray& bytes) const {
@@ -112,13 +106,14 @@ struct CommandLine : testing::Test {
         EXPECT_TRUE(read.has_value());
         return read ? allAs<Plongee>(read->records) : std::vector<DivePointer>();
     }
-    /// Fields of its dives, as the command line would take them.
-    void expectValues(std::initializer_list<Value> values) const {
+    /// Fields of a dive, as the command line would take them: "lieu=Nice|temps=40".
+    void expectValues(std::size_t row, const char* values) const {
         const auto held = dives();
-        for (const auto& [row, name, expected] : values) {
-            const Field field = Plongee::layout().field(name);
-            ASSERT_TRUE(row < held.size() && !field.isNull()) << row << ' ' << name;
-            EXPECT_EQ(fieldText(field.value(*held[row])), QString::fromUtf8(expected)) << row << ' ' << name;
+        ASSERT_LT(row, held.size());
+        for (const auto& [name, expected] : namedValues(values)) {
+            const Field field = Plongee::layout().field(std::string_view(name));
+            ASSERT_FALSE(field.isNull()) << name;
+            EXPECT_EQ(fieldText(field.value(*held[row])), expected) << row << ' ' << name;
         }
     }
 

@@ -5,7 +5,6 @@
 #include <CLI/CLI.hpp>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 #include <fstream>
 

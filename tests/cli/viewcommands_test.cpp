@@ -1,5 +1,7 @@
 #include "cli/commandrunner.h"
 
+#include <ranges>
+
 namespace tavrel {
 
 namespace {
@@ -22,11 +24,9 @@ QJsonValue cell(const QJsonObject& table, qsizetype row, const char* column) {
 }
 
 QString texts(const QJsonObject& table, const char* column) {
-    QStringList cells;
-    for (qsizetype row = 0; row < table[u"rows"].toArray().size(); ++row) {
-        cells.append(cell(table, row, column)[u"text"].toString());
-    }
-    return cells.join(u' ');
+    return eachOf(
+        std::views::iota(qsizetype(0), table[u"rows"].toArray().size()),
+        [&](qsizetype row) { return cell(table, row, column)[u"text"].toString(); }, u' ');
 }
 
 TEST_F(ViewCommands, tableShowsWhatTheWindowShows) {
@@ -98,27 +98,18 @@ TEST_F(ViewCommands, sortClicksTheHeadersAndSavesTheOrder) {
 }
 
 TEST_F(ViewCommands, everyTypeIsMadeByAnyOfItsNames) {
-    const std::tuple<const char*, const char*, const char*> names[] = {
-        {"Carnet de plongee", "Plongee", "carnet"},
-        {"Materiel", "Materiel", "materiel"},
-        {"Epaves", "Epaves", "epaves"},
-        {"Compresseur", "Compresseur", "compresseur"},
-        {"Rebreather", "Rebreather", "rebreather"},
-        {"Consommables", "Consommables", "consommables"},
-        {"Budget", "Budget", "budget"},
-        {"Entreprises", "Entreprises", "entreprises"},
-        {"Structures", "Structures", "structures"},
-        {"Divers documents", "DiversDocs", "documents"},
-        {"Carnet de plongée", "Plongee", "carnet"},
-        {"diversdocs", "DiversDocs", "documents"},
-    };
     int made = 0;
-    for (const auto& [name, recordClass, extension] : names) {
-        const std::string file = std::to_string(++made) + '.' + extension;
-        done(("new \"" + std::string(name) + "\" " + file).c_str());
+    for (const auto& [name, classAndEnding] :
+         namedValues("Carnet de plongee=Plongee carnet|Materiel=Materiel materiel|Epaves=Epaves epaves|"
+                     "Compresseur=Compresseur compresseur|Rebreather=Rebreather rebreather|Budget=Budget budget|"
+                     "Consommables=Consommables consommables|Entreprises=Entreprises entreprises|"
+                     "Structures=Structures structures|Divers documents=DiversDocs documents|"
+                     "Carnet de plongée=Plongee carnet|diversdocs=DiversDocs documents")) {
+        const std::string file = std::to_string(++made) + '.' + classAndEnding.section(u' ', 1).toStdString();
+        done(("new \"" + name + "\" " + file).c_str());
         done(("add " + file).c_str());
         const QJsonObject shown = json(("show --json " + file).c_str());
-        EXPECT_EQ(shown[u"class"].toString(), QString::fromUtf8(recordClass)) << name;
+        EXPECT_EQ(shown[u"class"].toString(), classAndEnding.section(u' ', 0, 0)) << name;
         EXPECT_EQ(shown[u"records"].toArray().size(), 1) << name;
         EXPECT_EQ(json(("table --json " + file).c_str())[u"rows"].toArray().size(), 1) << name;
         EXPECT_FALSE(json(("form --row 0 --json " + file).c_str())[u"controls"].toObject().isEmpty()) << name;

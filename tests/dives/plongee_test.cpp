@@ -4,8 +4,6 @@
 #include "support/files.h"
 #include "support/records.h"
 
-#include <gtest/gtest.h>
-
 #include <sstream>
 
 namespace tavrel {

@@ -4,10 +4,7 @@
 #include "dives/statisticsreport.h"
 #include "profile/profilesettings.h"
 #include "support/primitives.h"
-#include "support/printing.h"
 #include "support/testdesktop.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>

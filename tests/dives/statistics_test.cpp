@@ -1,10 +1,7 @@
 #include "dives/statistics.h"
 
-#include "support/printing.h"
 #include "support/records.h"
 #include "support/testdesktop.h"
-
-#include <gtest/gtest.h>
 
 #include <cmath>
 #include <map>

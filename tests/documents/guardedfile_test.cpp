@@ -7,12 +7,9 @@
 #include "support/testdesktop.h"
 
 #include <QDir>
-#include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
-#include <gtest/gtest.h>
 
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -59,11 +56,6 @@ protected:
 
 struct GuardedFile : testing::Test {
     QString path(const char* name) { return desktop.path(QString::fromUtf8(name)); }
-    static mode_t mode(const QString& file) {
-        struct stat status {};
-        EXPECT_EQ(::stat(pathBytes(file).constData(), &status), 0);
-        return status.st_mode & 07777U;
-    }
 
     TestDesktop desktop;
     Leaf leaf{desktop.desktop()};
@@ -173,7 +165,7 @@ TEST_F(GuardedFile, keepsWhatItWasBeforeTheFirstSave) {
         ASSERT_TRUE(leaf.save());
     }
     EXPECT_EQ(contentsOf(leaf.backupFile()), "yesterday");
-    EXPECT_EQ(mode(leaf.backupFile()), 0600U);
+    EXPECT_EQ(modeOf(leaf.backupFile()), 0600U);
     ASSERT_TRUE(leaf.revertToBackup());
     EXPECT_EQ(leaf.words, "yesterday");
     EXPECT_TRUE(leaf.isChanged());
@@ -235,7 +227,7 @@ TEST_F(Journals, keepWhatIsUnsavedForTheNextRun) {
         leaf.change("changed");
         leaf.typeIntoForm(QStringLiteral("é ß"));
         run.journal.keepNow();
-        EXPECT_EQ(mode(run.journal.file()), 0600U);
+        EXPECT_EQ(modeOf(run.journal.file()), 0600U);
         EXPECT_TRUE(left().empty()) << "the program is alive";
     }
     auto found = left();
@@ -265,8 +257,7 @@ TEST_F(Journals, keepWhatIsUnsavedForTheNextRun) {
     EXPECT_EQ(again.stateOnDisk(), State::changed);
 
     found[0].discard();
-    EXPECT_TRUE(left().empty());
-    EXPECT_TRUE(QDir(parent).isEmpty());
+    EXPECT_TRUE(left().empty() && QDir(parent).isEmpty());
 }
 
 TEST_F(Journals, writeTheContentsOnlyWhenTheyAreOthers) {
@@ -389,8 +380,7 @@ TEST_F(Journals, thatAreDamagedAreNoTrouble) {
         // Nor is a journal whose contents are not its own.
         ASSERT_TRUE(writeFile(run.kept().filePath(whole->second.name), "chanced"));
     }
-    EXPECT_TRUE(left().empty());
-    EXPECT_TRUE(QDir(parent).isEmpty());
+    EXPECT_TRUE(left().empty() && QDir(parent).isEmpty());
     // Nowhere to keep anything.
     ProgramRun nowhere(QString(), leaf);
     leaf.change("more");

@@ -2,8 +2,6 @@
 
 #include "support/testdesktop.h"
 
-#include <gtest/gtest.h>
-
 #include <random>
 
 namespace tavrel {

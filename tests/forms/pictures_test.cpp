@@ -5,17 +5,13 @@
 #include "support/files.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 
 namespace {
 
 struct Pictures : testing::Test {
-    Pictures() { setTextLanguage(QStringLiteral("en")); }
-
     QString path(const char* name) const { return folder.filePath(QString::fromUtf8(name)); }
     QString written(const char* name, const QByteArray& bytes) const {
         writeContents(path(name), bytes);

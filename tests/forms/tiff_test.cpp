@@ -266,7 +266,6 @@ TEST(Tiff, givesBackWhatItWrote) {
 }
 
 TEST(Tiff, refusesDamagedAndHugeImages) {
-    setTextLanguage(QStringLiteral("en"));
     const QByteArray whole =
         writeTiff(readTiff(TiffFile().image(2, 2, {8, 8, 8}, 2).strip("0102030a0b0cff000000ff00").bytes()).value());
     for (qsizetype size = 0; size + 4 < whole.size(); ++size) {

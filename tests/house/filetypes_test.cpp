@@ -6,12 +6,11 @@
 #include <QFile>
 #include <QMimeDatabase>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 namespace {
 
 QByteArray sample(const QString& ending) {
-    return contentsOf(QStringLiteral(TAVREL_SOURCE_FOLDER "/samples/sample.") + ending).left(4096);
+    return tavrel::contentsOf(QStringLiteral(TAVREL_SOURCE_FOLDER "/samples/sample.") + ending).left(4096);
 }
 
 TEST(FileTypes, areToldByTheirContentsAndNoOthersClaimed) {

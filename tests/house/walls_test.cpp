@@ -8,7 +8,6 @@
 #include <QRegularExpression>
 #include <QSet>
 #include <QStringList>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -51,7 +50,7 @@ QStringList breaches(const House& house, const QString& sourceFolder) {
         QDirIterator files(sourceFolder + u'/' + room, {QStringLiteral("*.h"), QStringLiteral("*.cpp")}, QDir::Files);
         while (files.hasNext()) {
             const QString path = files.next();
-            const auto lines = QString::fromUtf8(contentsOf(path)).split(u'\n');
+            const auto lines = QString::fromUtf8(tavrel::contentsOf(path)).split(u'\n');
             for (qsizetype line = 0; line < lines.size(); ++line) {
                 const auto match = include.match(lines[line]);
                 if (match.hasMatch() && !house.mayInclude(room, match.captured(1))) {
@@ -64,13 +63,13 @@ QStringList breaches(const House& house, const QString& sourceFolder) {
 }
 
 TEST(Walls, noRoomIncludesWhatItDoesNotLink) {
-    const House house(QString::fromUtf8(contentsOf(QStringLiteral(TAVREL_ROOMS))));
+    const House house(QString::fromUtf8(tavrel::contentsOf(QStringLiteral(TAVREL_ROOMS))));
     ASSERT_GT(house.rooms().size(), 10);
     EXPECT_EQ(breaches(house, QStringLiteral(TAVREL_SOURCE_FOLDER "/src")).join(u'\n').toStdString(), "");
 }
 
 TEST(Walls, everyFolderWithSourcesIsARoom) {
-    const House house(QString::fromUtf8(contentsOf(QStringLiteral(TAVREL_ROOMS))));
+    const House house(QString::fromUtf8(tavrel::contentsOf(QStringLiteral(TAVREL_ROOMS))));
     const QStringList programs{QStringLiteral("app/start")};
     const QDir source(QStringLiteral(TAVREL_SOURCE_FOLDER "/src"));
     QDirIterator files(source.path(), {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,

@@ -5,8 +5,6 @@
 #include "interchange/standardimport.h"
 #include "support/testdesktop.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <map>
 

@@ -6,7 +6,6 @@
 #include "support/testdesktop.h"
 
 #include <QSignalSpy>
-#include <gtest/gtest.h>
 
 #include <functional>
 #include <limits>
@@ -397,12 +396,11 @@ TEST_F(CarnetTest, offersItsCommandsSearchesAndPage) {
     const BookDescription& description = carnet.description();
     // The commands of a bar, those that need dives in brackets.
     const auto items = [](const ToolBarDescription& bar) {
-        QStringList words;
-        for (const ToolItem& item : bar.items) {
+        const auto named = [](const ToolItem& item) {
             const QString word = QLatin1String(item.identifier) + u':' + QLatin1String(item.image);
-            words << (item.needsRecords ? u'(' + word + u')' : word);
-        }
-        return words.join(u' ');
+            return item.needsRecords ? u'(' + word + u')' : word;
+        };
+        return eachOf(bar.items, named, u' ');
     };
     const ToolBarDescription& table = description.tableToolBar;
     EXPECT_STREQ(table.identifier, "tableViewToolbar");
@@ -427,11 +425,11 @@ TEST_F(CarnetTest, offersItsCommandsSearchesAndPage) {
     EXPECT_EQ(joined(edit.initial),
               u"addDiveToList insertDive blankFields profil profilData importUDCF importUDDF "
               "separator customise flexibleSpace");
-    QStringList searched;
-    for (const BookSearch& search : description.searches) {
-        searched << search.title.textIn(QStringLiteral("en")) + u'=' + QLatin1String(search.field);
-    }
-    EXPECT_EQ(searched.join(u' '), u"Boats=bateau Wrecks=epaves Notes=notes Computers=ordi Buddies=partenaires");
+    const auto searched = [](const BookSearch& search) {
+        return search.title.textIn(QStringLiteral("en")) + u'=' + QLatin1String(search.field);
+    };
+    EXPECT_EQ(eachOf(description.searches, searched),
+              u"Boats=bateau|Wrecks=epaves|Notes=notes|Computers=ordi|Buddies=partenaires");
     for (const bool landscape : {false, true}) {
         const PrintSettings print = Carnet::defaultPrintingSettings(landscape);
         EXPECT_EQ(std::tuple(print.top, print.bottom, print.left, print.right, print.scale, print.landscape),

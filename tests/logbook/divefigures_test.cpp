@@ -4,8 +4,6 @@
 #include "support/records.h"
 #include "support/testdesktop.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
 namespace tavrel {

@@ -3,8 +3,6 @@
 #include "support/records.h"
 #include "support/testdesktop.h"
 
-#include <gtest/gtest.h>
-
 #include <tuple>
 
 namespace tavrel {
@@ -55,7 +53,7 @@ TEST_F(DiveFormTest, replacesNumbersOutOfRange) {
             form.blankFields();
             type(control, words[0].toUtf8());
             const Plongee dive = form.addDiveToList();
-            EXPECT_EQ(fieldsOf(dive, Plongee::layout(), field), words[2]) << control << ' ' << row.toStdString();
+            EXPECT_EQ(fieldsOf(dive, field), words[2]) << control << ' ' << row.toStdString();
             EXPECT_EQ(shown(control), words[1]) << control << ' ' << row.toStdString();
         }
     }
@@ -300,22 +298,17 @@ TEST_F(DiveFormTest, offersNewWordsToTheSharedLists) {
               QStringList({QStringLiteral("Knife"), QStringLiteral("Torch")}));
 }
 
-TEST_F(DiveFormTest, hasWordsForEveryTitleInEveryLanguage) {
-    for (const char* language : {"en", "fr"}) {
-        setTextLanguage(QString::fromUtf8(language));
-        const auto check = [&](const Title& title) {
-            EXPECT_NE(title.text(), u"error !") << language << ' ' << title.key;
-        };
-        for (const auto& group : controls.groups()) {
-            check(group.title);
-        }
-        for (const auto& placed : controls.controls()) {
-            check(placed.control.label);
-            check(placed.control.unit);
-            check(placed.control.tip);
-            for (const auto& choice : placed.control.choices) {
-                check(choice.title);
-            }
+TEST_F(DiveFormTest, hasWordsForEveryTitle) {
+    const auto check = [](const Title& title) { EXPECT_NE(title.text(), u"error !") << title.key; };
+    for (const auto& group : controls.groups()) {
+        check(group.title);
+    }
+    for (const auto& placed : controls.controls()) {
+        check(placed.control.label);
+        check(placed.control.unit);
+        check(placed.control.tip);
+        for (const auto& choice : placed.control.choices) {
+            check(choice.title);
         }
     }
 }

@@ -55,9 +55,7 @@ TEST(ProfileGeometry, placesSamplesAndAxes) {
     EXPECT_EQ(geometry.surface, (Stroke{{30, 583}, {680, 583}}));
     EXPECT_EQ(geometry.axes, (std::vector<Stroke>{{{30, 143}, {680, 143}, {675, 138}}, {{30, 143}, {30, 598}}}));
     EXPECT_EQ(labelsOf(geometry, Kind::axis), (Strings{"Time (min) 600 153", "Depth (m) 8 603"}));
-    EXPECT_TRUE(geometry.dashed.empty());
-    EXPECT_TRUE(geometry.limit.empty());
-    EXPECT_TRUE(geometry.icons.empty());
+    EXPECT_TRUE(geometry.dashed.empty() && geometry.limit.empty() && geometry.icons.empty());
 }
 
 TEST(ProfileGeometry, marksEveryFiveMinutesAndMetres) {

@@ -8,8 +8,6 @@
 #include "support/streambytes.h"
 #include "support/testdesktop.h"
 
-#include <gtest/gtest.h>
-
 namespace tavrel {
 
 /// A record book of one type in a desktop of its own, driven by the names of its controls and fields.

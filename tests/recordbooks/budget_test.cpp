@@ -113,11 +113,8 @@ TEST_F(BudgetTest, readsPropertyListsOfEarlierTimes) {
     EXPECT_TRUE(holds(record(),
                       "prestation=Été & air|quantite_0=2|prixUnitaire_0=25.5|prixUnitaire_1=5|prevDepense=1|"
                       "miseAJour=2003-05-04T12:00:00Z|notes="));
-}
-
-TEST_F(BudgetTest, knowsFilesOfEarlierTimesByTheirName) {
+    // They are told by their name.
     const std::array kinds{invConso().kind, previBudget().kind};
-    const QByteArray earlier = propertyList("<dict/>");
     const auto found = documentKindOf(kinds, QStringLiteral("/home/a.BUDGET"), earlier);
     ASSERT_TRUE(found);
     EXPECT_EQ(*found, &kinds[1]);

@@ -48,10 +48,10 @@ TEST_F(CompresseurTest, showsOperationsAndAnalysesInItsColumns) {
     EXPECT_EQ(cell(*built(), "temps").text, u"");
     enter("tempsField=06:40");
     EXPECT_EQ(cell(*built(), "temps").text, u"06:40");
-    fill(service, Compresseur::layout(),
+    fill(service,
          "vidange=1|operationFiltre=1|intSoupape=1|anHuile=2.5|anH2O=2.5|anCO=2.5|anCO2=-1|anCO2Unit=1|anCOUnit=1");
     EXPECT_EQ(cells(service, columns), u"07:05|✓|Replacement|Re-setting|2.5|2.5|-|2.5 ppm");
-    fill(service, Compresseur::layout(), "anCO2=300|anCOUnit=0");
+    fill(service, "anCO2=300|anCOUnit=0");
     EXPECT_EQ(cells(service, "anCO2 anCO"), u"300 ppm|2.5");
 }
 

@@ -12,7 +12,6 @@
 
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <gtest/gtest.h>
 
 #include <set>
 #include <tuple>
@@ -98,7 +97,6 @@ TEST_P(RecordBook, startsWithABlankForm) {
     EXPECT_TRUE(desktop.alerts.failures.empty());
 }
 
-/// Something to enter into a control.
 QString entryFor(const Control& control, int place) {
     switch (control.kind) {
         case ControlKind::onOff:
@@ -149,7 +147,10 @@ TEST_P(RecordBook, bringsARecordFromTheFormAndBack) {
     EXPECT_EQ(writeRecords({again}, layout), writeRecords({record}, layout));
 }
 
-TEST_P(RecordBook, hasAControlForEveryStoredField) {
+TEST_P(RecordBook, hasAControlForEveryStoredFieldAndNarrowMargins) {
+    const PrintSettings& print = description.print;
+    EXPECT_EQ(std::tuple(print.top, print.bottom, print.left, print.right, print.scale),
+              std::tuple(24.8, 25.0, 10.0, 10.0, 0.7));
     for (const auto& item : archivedItems(GetParam())) {
         const QString name = QString::fromStdString(item.field);
         EXPECT_TRUE(book->form().state().table().find(item.field) >= 0 || book->form().holdsBeside(name)) << item.field;
@@ -229,12 +230,6 @@ TEST_P(RecordBook, offersItsCommandsInTwoToolbars) {
     }
 }
 
-TEST_P(RecordBook, printsWithinNarrowMargins) {
-    const PrintSettings& print = description.print;
-    EXPECT_EQ(std::tuple(print.top, print.bottom, print.left, print.right, print.scale),
-              std::tuple(24.8, 25.0, 10.0, 10.0, 0.7));
-}
-
 TEST_P(RecordBook, addsChangesDeletesAndTakesItBack) {
     book->newRecord();
     book->addRecord();
@@ -293,12 +288,11 @@ TEST_P(RecordBook, namesEverythingInBothLanguages) {
 }
 
 TEST(RecordBooks, areMadeByActionsOfTheirOwn) {
-    QStringList actions;
-    for (const auto& book : recordBooks) {
-        actions << QString::fromUtf8(book().newAction).remove(QStringLiteral("DocumentMenuAction"));
-    }
+    const auto action = [](const auto& book) {
+        return QString::fromUtf8(book().newAction).remove(QStringLiteral("DocumentMenuAction"));
+    };
     EXPECT_EQ(
-        actions.join(u' '),
+        eachOf(recordBooks, action, u' '),
         u"newMateriel newEpaves newCompresseur newRebreather newConsommables newBudget newEntreprise newStructure "
         u"newDocument");
 }

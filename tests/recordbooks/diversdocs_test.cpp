@@ -4,7 +4,6 @@
 #include "recordbooks/bookfixture.h"
 #include "recordbooks/recordbooks.h"
 
-#include <QFile>
 #include <QImage>
 
 namespace tavrel {
@@ -57,8 +56,7 @@ TEST_F(DiversDocsTest, takesPicturesByTheNameOfTheirFile) {
     const QString path = desktop.path(QStringLiteral("é.png"));
     ASSERT_TRUE(pixels.save(path));
     book->newRecord();
-    EXPECT_TRUE(enterValue(state(), indexOf("photocopy"), path));
-    EXPECT_TRUE(book->hasEntries());
+    EXPECT_TRUE(enterValue(state(), indexOf("photocopy"), path) && book->hasEntries());
     book->addRecord();
     const auto back = pixelsOf(record().photocopy);
     ASSERT_TRUE(back);

@@ -3,7 +3,7 @@
 #include "recordbooks/bookfixture.h"
 #include "recordbooks/recordbooks.h"
 
-#include <limits>
+#include <ranges>
 
 namespace tavrel {
 
@@ -48,7 +48,7 @@ TEST_F(EntreprisesTest, isClosedOnSundaysAtFirst) {
         setTextLanguage(QString::fromUtf8(language));
         book->newRecord();
         EXPECT_EQ(texts("horaireLundi_1Field horaireSamedi_4Field horaireDimanche_1Field"),
-                  u"-|-|" + QString::fromUtf8(closed));
+                  QStringLiteral("-|-|") + QString::fromUtf8(closed));
         EXPECT_EQ(built()->horaireDimanche_4, QString::fromUtf8(closed));
         EXPECT_EQ(built()->entreprise, u"");
         EXPECT_TRUE(built()->miseAJour == Date::fromDateTime(desktop.clock.moment));
@@ -76,11 +76,9 @@ TEST_F(EntreprisesTest, coloursCardsByTheirAge) {
     // What keeps its colour has that of the row above it.
     hold({aged(80000000), aged(31557600), aged(63115200), aged(1), aged(63115200)});
     const BookTable table(*book);
-    QStringList drawn;
-    for (int row = book->count() - 5; row < book->count(); ++row) {
-        drawn << table.cell(row, table.columnOf("miseAJour")).style.text->name();
-    }
-    EXPECT_EQ(drawn.join(u' '), u"#ff0000 #ff0000 #ff0000 #000000 #000000");
+    EXPECT_EQ(eachOf(std::views::iota(book->count() - 5, book->count()),
+                     [&](int row) { return table.cell(row, table.columnOf("miseAJour")).style.text->name(); }),
+              u"#ff0000|#ff0000|#ff0000|#000000|#000000");
     EXPECT_EQ(colour({}, "miseAJour"), "#000000");
     EXPECT_EQ(colour(filled<Entreprises>("miseAJour=-inf"), "miseAJour"), "#ff0000");
     EXPECT_EQ(colour({}, "entreprise"), "default");

@@ -75,8 +75,7 @@ TEST_F(MaterielTest, hidesWhatAnItemDoesNotHave) {
     EXPECT_EQ(visible(), u"00000000000");
     EXPECT_EQ(at("blocSwitch").tag, 0);
     EXPECT_EQ(at("tivSwitch").tag, 0);
-    EXPECT_TRUE(at("lastRevisionField").date == noDate());
-    EXPECT_TRUE(at("nextRequalificationField").date == noDate());
+    EXPECT_TRUE(at("lastRevisionField").date == noDate() && at("nextRequalificationField").date == noDate());
 }
 
 TEST_F(MaterielTest, tellsHowFarTheTimeToTheNextInspectionHasRun) {

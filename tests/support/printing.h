@@ -3,6 +3,7 @@
 #include <QByteArrayList>
 #include <QString>
 #include <QStringList>
+#include <gtest/gtest.h>
 
 #include <ostream>
 #include <span>
@@ -22,14 +23,20 @@ inline QString joined(std::span<const char* const> words) {
     return QString::fromUtf8(QByteArrayList(words.begin(), words.end()).join(' '));
 }
 
-/// What is said of each name, "temps lieu" as "42|Gozo".
+/// What is said of each thing, in one text, "42|Gozo".
+template <class Things, class Say>
+QString eachOf(const Things& things, Say say, QChar between = u'|') {
+    QStringList texts;
+    for (const auto& thing : things) {
+        texts << say(thing);
+    }
+    return texts.join(between);
+}
+
+/// What is said of each name of "temps lieu".
 template <class Say>
 QString eachOf(const char* names, Say say) {
-    QStringList texts;
-    for (const QByteArray& name : QByteArray(names).split(' ')) {
-        texts << say(name.constData());
-    }
-    return texts.join(u'|');
+    return eachOf(QByteArray(names).split(' '), [&](const QByteArray& name) { return say(name.constData()); });
 }
 
 }  // namespace tavrel

@@ -42,9 +42,14 @@ std::vector<std::pair<std::string, QString>> namedValues(const char* values);
 void fill(Record& record, const RecordLayout& layout, const char* values);
 
 template <class Class>
+void fill(Class& record, const char* values) {
+    fill(record, Class::layout(), values);
+}
+
+template <class Class>
 Class filled(const char* values) {
     Class record;
-    fill(record, Class::layout(), values);
+    fill(record, values);
     return record;
 }
 
@@ -58,5 +63,10 @@ testing::AssertionResult holds(const Class& record, const char* values) {
 
 /// What the named fields hold, "temps lieu" as "42; Gozo".
 QString fieldsOf(const Record& record, const RecordLayout& layout, const char* names);
+
+template <class Class>
+QString fieldsOf(const Class& record, const char* names) {
+    return fieldsOf(record, Class::layout(), names);
+}
 
 }  // namespace tavrel

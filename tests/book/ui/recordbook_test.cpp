@@ -32,10 +32,10 @@
 #include <QTest>
 #include <QTextEdit>
 #include <QUrl>
-#include <gtest/gtest.h>
 
 #include <cmath>
 #include <map>
+#include <ranges>
 
 namespace tavrel {
 
@@ -57,12 +57,8 @@ struct RecordBookTest : testing::Test {
         }
         book.appendRecords(QStringLiteral("Add"), listOf(things));
     }
-    QStringList names() {
-        QStringList result;
-        for (int row = 0; row < book.count(); ++row) {
-            result.append(book.record(row).name);
-        }
-        return result;
+    QString names() {
+        return eachOf(std::views::iota(0, book.count()), [this](int row) { return book.record(row).name; });
     }
     void type(auto id, const QString& text) { book.form().state().type(id.index, text); }
     void click(int row) {
@@ -121,7 +117,7 @@ TEST_F(RecordBookTest, asksOnceWhateverTheWayOutOfANewRecord) {
     type(controls.nameField, QStringLiteral("c"));
     desktop.alerts.answerNext(keep);
     click(1);
-    EXPECT_EQ(names(), (QStringList{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}));
+    EXPECT_EQ(names(), u"a|b|c");
     EXPECT_EQ(book.selectedRows(), QList<int>({1}));
     EXPECT_EQ(typedName(), u"b");
 }
@@ -142,7 +138,7 @@ TEST_F(RecordBookTest, keepsTheSelectionWhereAnEditedRecordIsNotLeft) {
     desktop.alerts.answerNext(keep);
     click(2);
     EXPECT_EQ(book.selectedRows(), QList<int>({2}));
-    EXPECT_EQ(names().front(), u"changed");
+    EXPECT_TRUE(names().startsWith(u"changed|"));
     EXPECT_EQ(typedName(), u"c");
 }
 
@@ -180,6 +176,10 @@ TEST_F(RecordBookTest, tellsTheViewWhichRowsChanged) {
     EXPECT_EQ(model.index(1, 0).data().toString(), u"b");
     EXPECT_EQ(changes.count(), 2);
     EXPECT_EQ(resets.count(), 0);
+    // A colour only where it is not that of text.
+    ASSERT_TRUE(book.setValue(1, QStringLiteral("price"), 20.0F));
+    EXPECT_FALSE(model.index(0, 1).data(Qt::ForegroundRole).isValid());
+    EXPECT_EQ(model.index(1, 1).data(Qt::ForegroundRole).value<QColor>(), QColor(255, 0, 0));
 }
 
 TEST_F(RecordBookTest, takesRowsInAndOutWithoutMovingTheOthers) {
@@ -230,25 +230,15 @@ TEST_F(RecordBookTest, takesRowsInAndOutWithoutMovingTheOthers) {
     EXPECT_EQ(model.rowCount(), 198);
 }
 
-TEST_F(RecordBookTest, showsColoursOnlyWhereTheyAreNotThatOfText) {
-    hold({QStringLiteral("cheap"), QStringLiteral("dear")});
-    ASSERT_TRUE(book.setValue(1, QStringLiteral("price"), 20.0F));
-    const auto* model = window.table().model();
-    EXPECT_FALSE(model->index(0, 1).data(Qt::ForegroundRole).isValid());
-    EXPECT_EQ(model->index(1, 1).data(Qt::ForegroundRole).value<QColor>(), QColor(255, 0, 0));
-}
-
 TEST_F(RecordBookTest, filtersAsOneTypes) {
     hold({QStringLiteral("Regulator"), QStringLiteral("Lamp 7"), QStringLiteral("Knife")});
     ASSERT_TRUE(book.setValue(2, QStringLiteral("price"), 17.5F));
     QLineEdit& field = window.filterBar().field();
     const auto* count = window.filterBar().findChild<QLabel*>(QStringLiteral("filterCount"));
+    const QAbstractItemModel& model = *window.table().model();
     const auto shown = [&] {
-        QStringList names;
-        for (int row = 0; row < window.table().model()->rowCount(); ++row) {
-            names.append(window.table().model()->index(row, 0).data().toString());
-        }
-        return names.join(u'|');
+        return eachOf(std::views::iota(0, model.rowCount()),
+                      [&](int row) { return model.index(row, 0).data().toString(); });
     };
     EXPECT_EQ(window.searchField(), nullptr);
     EXPECT_EQ(count->text(), QString());
@@ -266,8 +256,8 @@ TEST_F(RecordBookTest, filtersAsOneTypes) {
     desktop.alerts.answerNext(0);
     command("deleteThing")->trigger();
     EXPECT_EQ(desktop.alerts.questions.front().message, u"Delete 2 cards?");
-    EXPECT_EQ(names(), QStringList{QStringLiteral("Regulator")});
-    EXPECT_EQ(window.table().model()->rowCount(), 0);
+    EXPECT_EQ(names(), u"Regulator");
+    EXPECT_EQ(model.rowCount(), 0);
 
     window.filterBar().keep(QStringLiteral("Sevens & such"));
     QTest::keyClick(&field, Qt::Key_Escape);
@@ -293,11 +283,7 @@ QStringList rowsOn(const Drawing& page) {
     }
     QStringList lines;
     for (const auto& [height, cells] : rows) {
-        QStringList words;
-        for (const auto& [place, word] : cells) {
-            words.append(word);
-        }
-        lines.append(words.join(u'|'));
+        lines.append(eachOf(cells, [](const auto& cell) { return cell.second; }));
     }
     return lines;
 }
@@ -370,12 +356,11 @@ TEST_F(RecordBookTest, takesADroppedRowAsACopyOfTheLast) {
         QDropEvent drop(QPointF(5, 5), Qt::CopyAction | Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(target, &drop);
     }
-    EXPECT_EQ(names(), (QStringList{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("b")}));
+    EXPECT_EQ(names(), u"a|b|b");
 }
 
 TEST_F(RecordBookTest, showsOneActionForACommandEverywhere) {
-    EXPECT_FALSE(command("deleteThing")->isEnabled());
-    EXPECT_FALSE(command("synthese")->isEnabled());
+    EXPECT_FALSE(command("deleteThing")->isEnabled() || command("synthese")->isEnabled());
     EXPECT_TRUE(command("newThing")->isEnabled());
     hold({QStringLiteral("a")});
     EXPECT_TRUE(command("deleteThing")->isEnabled());

@@ -8,7 +8,6 @@
 #include <QListWidget>
 #include <QMainWindow>
 #include <QToolButton>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 

@@ -5,7 +5,6 @@
 #include "dives/ui/previoustotalswindow.h"
 #include "dives/ui/statisticswindow.h"
 #include "profile/profileseries.h"
-#include "support/printing.h"
 #include "support/testdesktop.h"
 
 #include <QCheckBox>
@@ -13,7 +12,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 namespace {
@@ -115,8 +113,7 @@ TEST_F(DiveWindowsTest, CardChoiceOffersWhatThereIs) {
     CardChoice choice(source(), [&](DiveChoice chosen) { made.push_back(chosen); });
     const auto button = [&](const char* name) { return choice.findChild<QRadioButton*>(QLatin1StringView(name)); };
     choice.divesForSynthesisWindow();
-    EXPECT_FALSE(button("currentDive")->isEnabled());
-    EXPECT_FALSE(button("selectedDives")->isEnabled());
+    EXPECT_FALSE(button("currentDive")->isEnabled() || button("selectedDives")->isEnabled());
     EXPECT_TRUE(button("allDives")->isChecked());
     choice.reject();
     EXPECT_TRUE(made.empty());

@@ -30,7 +30,6 @@ struct CopyControls : ControlTable<CopyControls> {
 
 struct PictureBox : testing::Test {
     PictureBox() {
-        setTextLanguage(QStringLiteral("en"));
         control = makeFormControl(state, 0, nullptr);
         control->widget()->setParent(&page);
         control->widget()->resize(400, 300);

@@ -6,8 +6,6 @@
 #include "support/printing.h"
 #include "support/records.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
 #include <cmath>
 
@@ -54,11 +52,6 @@ QString startText(const Plongee& dive) {
     return startOf(dive).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
 }
 
-/// What fields of the dive hold.
-QString in(const Plongee& dive, const char* names) {
-    return fieldsOf(dive, Plongee::layout(), names);
-}
-
 bool loses(const FoundDive& found, const char* name) {
     return std::any_of(found.lost.begin(), found.lost.end(),
                        [&](const LostItem& item) { return item.name == QLatin1String(name); });
@@ -69,13 +62,13 @@ TEST(Uddf, givesADiveEverythingThatItsLinksTell) {
     ASSERT_EQ(found.dives.size(), 1U);
     const Plongee& dive = found.dives[0].dive;
     EXPECT_EQ(startText(dive), u"2021-06-30 09:41:30") << "as the clock on the boat showed it";
-    EXPECT_EQ(in(dive, "noPlongee lieu site pays"), u"7; Port-Cros; La Gabinière; France");
-    EXPECT_EQ(in(dive, "gps epaves structure"), u"N 42° 59.298'  E 006° 23.550'; Le Donator; Club du Port");
-    EXPECT_EQ(in(dive, "partenaires surface profondeur"), u"Zoé Martin, Max; 01:31; 6.47");
-    EXPECT_EQ(in(dive, "temps tempEau tempAir gaz o2Mix heMix"), u"45; 15; 26; 1; 32; 0");
-    EXPECT_EQ(in(dive, "alliageBloc volumeBloc pressionDepart pressionFin"), u"2; 12; 201; 70");
-    EXPECT_EQ(in(dive, "visibilite courant typePlongee combinaison inoubliable lestage"), u"1; 3; 3; 1; 1; 4.5");
-    EXPECT_EQ(in(dive, "fabricant ordinateur serie equip_1 equip_2"), u"Reef; Two; 0042; Red fins; ");
+    EXPECT_EQ(fieldsOf(dive, "noPlongee lieu site pays"), u"7; Port-Cros; La Gabinière; France");
+    EXPECT_EQ(fieldsOf(dive, "gps epaves structure"), u"N 42° 59.298'  E 006° 23.550'; Le Donator; Club du Port");
+    EXPECT_EQ(fieldsOf(dive, "partenaires surface profondeur"), u"Zoé Martin, Max; 01:31; 6.47");
+    EXPECT_EQ(fieldsOf(dive, "temps tempEau tempAir gaz o2Mix heMix"), u"45; 15; 26; 1; 32; 0");
+    EXPECT_EQ(fieldsOf(dive, "alliageBloc volumeBloc pressionDepart pressionFin"), u"2; 12; 201; 70");
+    EXPECT_EQ(fieldsOf(dive, "visibilite courant typePlongee combinaison inoubliable lestage"), u"1; 3; 3; 1; 1; 4.5");
+    EXPECT_EQ(fieldsOf(dive, "fabricant ordinateur serie equip_1 equip_2"), u"Reef; Two; 0042; Red fins; ");
     EXPECT_EQ(dive.notes, u"First line\nSecond line");
     for (const char* name : {"waypoint/heartrate", "waypoint/temperature", "alarm rbt", "problems", "site/notes"}) {
         EXPECT_TRUE(loses(found.dives[0], name)) << name;
@@ -112,12 +105,12 @@ TEST(Uddf, givesTanksTheirPlacesByTheUseOfTheirGas) {
     ASSERT_EQ(found.dives.size(), 2U) << "of both groups, whatever the prefix";
     const Plongee& dive = found.dives[0].dive;
     EXPECT_EQ(startText(dive), u"2019-08-01 07:05:00");
-    EXPECT_EQ(in(dive, "gaz o2Mix heMix"), u"2; 18; 45") << "breathed at the bottom";
-    EXPECT_EQ(in(dive, "volumeBloc pressionDepart pressionFin"), u"24; 230; 80");
-    EXPECT_EQ(in(dive, "gaz_2 o2Mix_2 volumeBloc_2 pressionDepart_2 pressionFin_2"), u"1; 30; 11; 210; 150");
-    EXPECT_EQ(in(dive, "volPony1 pressDepartPony1 pressFinPony1"), u"11; 200; 110");
-    EXPECT_EQ(in(dive, "volPony2 pressDepartPony2 pressFinPony2"), u"7; 190; 120");
-    EXPECT_EQ(in(dive, "decoO2_Level_1 decoO2_Level_2 decoO2_Level_3"), u"30; 50; 100");
+    EXPECT_EQ(fieldsOf(dive, "gaz o2Mix heMix"), u"2; 18; 45") << "breathed at the bottom";
+    EXPECT_EQ(fieldsOf(dive, "volumeBloc pressionDepart pressionFin"), u"24; 230; 80");
+    EXPECT_EQ(fieldsOf(dive, "gaz_2 o2Mix_2 volumeBloc_2 pressionDepart_2 pressionFin_2"), u"1; 30; 11; 210; 150");
+    EXPECT_EQ(fieldsOf(dive, "volPony1 pressDepartPony1 pressFinPony1"), u"11; 200; 110");
+    EXPECT_EQ(fieldsOf(dive, "volPony2 pressDepartPony2 pressFinPony2"), u"7; 190; 120");
+    EXPECT_EQ(fieldsOf(dive, "decoO2_Level_1 decoO2_Level_2 decoO2_Level_3"), u"30; 50; 100");
     const int seconds = 60;
     EXPECT_EQ(dive.GAZ_Flag.integer(120 / seconds), 1);
     EXPECT_EQ(dive.GAZ_Flag.integer(1800 / seconds), 3);
@@ -133,12 +126,12 @@ TEST(Uddf, readsARebreather) {
     const FoundDives found = readFixture("rebreather.uddf", SourceKind::uddf);
     ASSERT_EQ(found.dives.size(), 1U);
     const Plongee& dive = found.dives[0].dive;
-    EXPECT_EQ(in(dive, "rebreather ppO2 lowSetpoint"), u"3; 2; 10") << "1.3 and 0.7 bar";
-    EXPECT_EQ(in(dive, "o2Mix volumeBloc pressionDepart"), u"100; 2; 180");
-    EXPECT_EQ(in(dive, "o2Mix_2 heMix_2 volumeBloc_2 pressionFin_2"), u"18; 45; 3; 160");
-    EXPECT_EQ(in(dive, "O2Bailout1 volBailout1 pressDepartBailout1 pressFinBailout1"), u"50; 11; 210; 205")
+    EXPECT_EQ(fieldsOf(dive, "rebreather ppO2 lowSetpoint"), u"3; 2; 10") << "1.3 and 0.7 bar";
+    EXPECT_EQ(fieldsOf(dive, "o2Mix volumeBloc pressionDepart"), u"100; 2; 180");
+    EXPECT_EQ(fieldsOf(dive, "o2Mix_2 heMix_2 volumeBloc_2 pressionFin_2"), u"18; 45; 3; 160");
+    EXPECT_EQ(fieldsOf(dive, "O2Bailout1 volBailout1 pressDepartBailout1 pressFinBailout1"), u"50; 11; 210; 205")
         << "litres and bar where pascal and cubic metres make no sense";
-    EXPECT_EQ(in(dive, "profondeur temps tempEau"), u"40.5; 15; 12") << "the deepest waypoint";
+    EXPECT_EQ(fieldsOf(dive, "profondeur temps tempEau"), u"40.5; 15; 12") << "the deepest waypoint";
     // 80 000 Pa stand for 1950 m in the standard atmosphere.
     EXPECT_EQ(dive.altitude, 1950);
     EXPECT_EQ(breathedGas(dive).helium, 45);
@@ -150,8 +143,8 @@ TEST(Uddf, findsDivesOutsideOfProfileDataAndTheOlderPlacesOfValues) {
     ASSERT_EQ(found.dives.size(), 3U);
     const Plongee& dive = found.dives[0].dive;
     EXPECT_EQ(startText(dive), u"2009-05-09 08:07:00");
-    EXPECT_EQ(in(dive, "profondeur tempEau gaz o2Mix"), u"31.4; 16; 0; 21");
-    EXPECT_EQ(in(dive, "lieu site notes"), u"Gozo; Blue Hole; Old times");
+    EXPECT_EQ(fieldsOf(dive, "profondeur tempEau gaz o2Mix"), u"31.4; 16; 0; 21");
+    EXPECT_EQ(fieldsOf(dive, "lieu site notes"), u"Gozo; Blue Hole; Old times");
     EXPECT_EQ(dive.samplingRate, 0);
     EXPECT_EQ(dive.profilProfondeur, Series::ofReals({4.0, 4.0, 9.5, 14.0}));
     EXPECT_EQ(startText(found.dives[1].dive), u"2009-05-10 16:30:00");
@@ -209,7 +202,7 @@ TEST(Uddf, takesNumbersOfNoSenseForNone) {
         <waypoint><depth>7</depth></waypoint>
         </samples><informationafterdive><greatestdepth>-4</greatestdepth><diveduration>0</diveduration>
         <lowesttemperature>9999</lowesttemperature></informationafterdive>)");
-    EXPECT_EQ(in(it, "altitude noPlongee tempEau profondeur"), u"0; 0; -50; 7");
+    EXPECT_EQ(fieldsOf(it, "altitude noPlongee tempEau profondeur"), u"0; 0; -50; 7");
     EXPECT_EQ(it.profilProfondeur.size(), 4U) << "from the start on";
     EXPECT_EQ(it.PRESS_Data.size(), 1U);
 }
@@ -261,8 +254,8 @@ TEST(Uddf, takesWhatTheDiveLacksFromItsWaypoints) {
         </samples><informationAfterDive><greatestDepth>1e32</greatestDepth><lowestTemperature>255.4</lowestTemperature>
         <diveDuration>0:42:40</diveDuration></informationAfterDive></Dive></repetitionGroup></profileData></UDDF>)";
     const Plongee it = onlyDive(file, SourceKind::uddf);
-    EXPECT_EQ(in(it, "profondeur temps tempEau o2Mix pressionDepart pressionFin"), u"20; 43; 12; 32; 205; 90");
-    EXPECT_EQ(in(it, "pressDepartPony1 pressFinPony1"), u"150; 120") << "richer, so a stage";
+    EXPECT_EQ(fieldsOf(it, "profondeur temps tempEau o2Mix pressionDepart pressionFin"), u"20; 43; 12; 32; 205; 90");
+    EXPECT_EQ(fieldsOf(it, "pressDepartPony1 pressFinPony1"), u"150; 120") << "richer, so a stage";
     EXPECT_EQ(it.PRESS_Data.real(0), 200.0);
 }
 
@@ -297,16 +290,16 @@ TEST(Udcf, isReadAsItWasMeant) {
     ASSERT_EQ(found.dives.size(), 2U) << "of both groups";
     const Plongee& dive = found.dives[0].dive;
     EXPECT_EQ(startText(dive), u"2012-07-14 10:45:00");
-    EXPECT_EQ(in(dive, "lieu site surface"), u"Agay; La Chrétienne; 2:30");
-    EXPECT_EQ(in(dive, "profondeur temps tempEau"), u"32.8; 41; 18");
-    EXPECT_EQ(in(dive, "gaz o2Mix volumeBloc pressionDepart pressionFin"), u"1; 36; 15; 200; 60");
-    EXPECT_EQ(in(dive, "o2Mix_2 volumeBloc_2"), u"100; 7");
+    EXPECT_EQ(fieldsOf(dive, "lieu site surface"), u"Agay; La Chrétienne; 2:30");
+    EXPECT_EQ(fieldsOf(dive, "profondeur temps tempEau"), u"32.8; 41; 18");
+    EXPECT_EQ(fieldsOf(dive, "gaz o2Mix volumeBloc pressionDepart pressionFin"), u"1; 36; 15; 200; 60");
+    EXPECT_EQ(fieldsOf(dive, "o2Mix_2 volumeBloc_2"), u"100; 7");
     EXPECT_EQ(dive.samplingRate, 1);
     EXPECT_EQ(dive.profilProfondeur, Series::ofReals({0, 12.75, 3.5}));
     EXPECT_EQ(dive.SLOW_Flag.integer(1), 1);
     EXPECT_EQ(dive.ASC_Flag.integer(1), 0);
     EXPECT_EQ(found.dives[1].dive.lieu, u"Agay");
-    EXPECT_EQ(in(dive, "fabricant ordinateur"), u"Reef; One");
+    EXPECT_EQ(fieldsOf(dive, "fabricant ordinateur"), u"Reef; One");
 }
 
 TEST(Udcf, isReadInTheUnitsThatItSays) {
@@ -320,11 +313,11 @@ TEST(Udcf, isReadInTheUnitsThatItSays) {
             "<D>20</D><SWITCH>Back</SWITCH><D>10</D><SWITCH>3</SWITCH></SAMPLES></DIVE></REPGROUP></PROFILE>",
             SourceKind::udcf)
             .dives.at(0);
-    EXPECT_EQ(in(found.dive, "profondeur altitude tempEau surface"), u"30.48; 305; 20; 01:35");
-    EXPECT_EQ(in(found.dive, "volumeBloc pressionDepart pressionFin"), u"11; 207; 34");
+    EXPECT_EQ(fieldsOf(found.dive, "profondeur altitude tempEau surface"), u"30.48; 305; 20; 01:35");
+    EXPECT_EQ(fieldsOf(found.dive, "volumeBloc pressionDepart pressionFin"), u"11; 207; 34");
     EXPECT_EQ(found.dive.profilProfondeur, Series::ofReals({0, 30.48, 6.1, 3.05}));
     EXPECT_EQ(found.dive.GAZ_Flag, Series::ofIntegers({0, 2, 1, 0}));
-    EXPECT_EQ(in(found.dive, "decoO2_Level_1 o2Mix_2"), u"50; 50");
+    EXPECT_EQ(fieldsOf(found.dive, "decoO2_Level_1 o2Mix_2"), u"50; 50");
     for (const char* name : {"DENSITY", "ALARM sun", "SAMPLES/SWITCH"}) {
         EXPECT_TRUE(loses(found, name)) << name;
     }
@@ -344,7 +337,7 @@ TEST(Handheld, choosesFromTheMenusOfTheForm) {
         "<log><repgroup><dive><weather>3</weather><current>5</current><visibility>0</visibility>"
         "<divetype>4</divetype></dive></repgroup></log>",
         SourceKind::handheld);
-    EXPECT_EQ(in(dive, "meteo courant visibilite typePlongee"), u"3; 5; 8; 5");
+    EXPECT_EQ(fieldsOf(dive, "meteo courant visibilite typePlongee"), u"3; 5; 8; 5");
 }
 
 TEST(Sources, areToldByTheirContents) {

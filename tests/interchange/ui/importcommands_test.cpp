@@ -4,8 +4,6 @@
 #include "support/queuedfiledialogs.h"
 #include "support/testdesktop.h"
 
-#include <gtest/gtest.h>
-
 namespace tavrel {
 
 namespace {

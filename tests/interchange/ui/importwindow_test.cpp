@@ -12,7 +12,6 @@
 #include <QTest>
 #include <QThread>
 #include <QTreeWidget>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 

@@ -15,11 +15,9 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScopeGuard>
 #include <QSpinBox>
 #include <QTableWidget>
 #include <QTest>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 
@@ -74,7 +72,6 @@ TEST_F(LogbookWindowTest, showsWhatBecomesOfTheDivesBeforeItConvertsThem) {
 
 TEST_F(LogbookWindowTest, showsADecimalCommaInFrenchAndKeepsThePoint) {
     setTextLanguage(QStringLiteral("fr"));
-    const auto english = qScopeGuard([] { setTextLanguage(QStringLiteral("en")); });
     LogbookWindow french(carnet, desktop.desktop());
     carnet.appendDives(QStringLiteral("Add"), {filled<Plongee>("profondeur=82.6|site=Puits 2.5|profilProfondeur=0,9"),
                                                filled<Plongee>("profondeur=9")});
