@@ -74,21 +74,20 @@ TEST_F(SafeFile, leavesEverythingAsItWasWhenItFails) {
     ASSERT_TRUE(writeFile(path("file"), "old"));
     ASSERT_TRUE(QDir(path("")).mkdir(QStringLiteral("folder")));
     ASSERT_EQ(::mkfifo(QFile::encodeName(path("pipe")).constData(), 0600), 0);
-    const QString noFolder = QStringLiteral("The folder does not exist.");
-    const QString noFile = QStringLiteral("There is no such file.");
-    const QString isFolder = QStringLiteral("It is a folder, not a file.");
-    const QString isPipe = QStringLiteral("It is not a regular file.");
-    const std::pair<const char*, std::pair<QString, QString>> cases[] = {{"missing/file", {noFolder, noFile}},
-                                                                         {"file/below", {noFolder, noFile}},
-                                                                         {"folder", {isFolder, isFolder}},
-                                                                         {"pipe", {isPipe, isPipe}}};
-    for (const auto& [file, reason] : cases) {
+    const std::tuple<const char*, const char*, const char*> cases[] = {
+        {"missing/file", "The folder does not exist.", "There is no such file."},
+        {"file/below", "The folder does not exist.", "There is no such file."},
+        {"folder", "It is a folder, not a file.", "It is a folder, not a file."},
+        {"pipe", "It is not a regular file.", "It is not a regular file."}};
+    for (const auto& [file, unwritten, unread] : cases) {
         const auto written = writeFile(path(file), "new");
         const auto read = FileBytes::open(path(file));
         ASSERT_FALSE(written || read) << file;
         const QString name = QFileInfo(path(file)).fileName();
-        EXPECT_EQ(written.error().sentence, QStringLiteral("“%1” could not be saved: %2").arg(name, reason.first));
-        EXPECT_EQ(read.error().sentence, QStringLiteral("“%1” could not be opened: %2").arg(name, reason.second));
+        EXPECT_EQ(written.error().sentence,
+                  QStringLiteral("“%1” could not be saved: %2").arg(name, QLatin1String(unwritten)));
+        EXPECT_EQ(read.error().sentence,
+                  QStringLiteral("“%1” could not be opened: %2").arg(name, QLatin1String(unread)));
         EXPECT_TRUE(written.error().detail.contains(path(file)));
     }
     EXPECT_EQ(names(), (QStringList{QStringLiteral("file"), QStringLiteral("folder"), QStringLiteral("pipe")}));

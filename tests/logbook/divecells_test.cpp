@@ -112,7 +112,9 @@ TEST(TableCells, takeTheColoursOfTheRulesInTheirOrder) {
     const auto expectLooks = [&](const char* field, const char* dives) {
         for (const auto& [dive, look] : expectations(dives)) {
             const CellStyle cell = cellOf(dive, field, style).style;
-            EXPECT_EQ(nameOf(cell.text) + u' ' + nameOf(cell.background) + (cell.bold ? u" bold" : u""), look)
+            EXPECT_EQ(
+                nameOf(cell.text) + u' ' + nameOf(cell.background) + (cell.bold ? QStringLiteral(" bold") : QString()),
+                look)
                 << field << ' ' << dives;
         }
     };
@@ -140,7 +142,7 @@ TEST(TableCells, takeTheColoursOfTheRulesInTheirOrder) {
                 "decoO2_Level_1=98>#ffffff #000000 bold");
 
     style.nightInColor = true;
-    expectLooks("visibilite", "nocturne=1>#ffffff #00004c|countryCode=EGY>- -");
+    expectLooks("visibilite", "nocturne=1>#ffffff #00004d|countryCode=EGY>- -");
     expectLooks("lieu", "countryCode=EGY>- #b9ffac");
     style.nightInColor = false;
     expectLooks("visibilite", "countryCode=FRA,nocturne=1>- -");
@@ -161,10 +163,10 @@ TEST(TableCells, takeTheColoursOfTheRulesInTheirOrder) {
     style.lowTemperature = 10;
     style.lowTemperatureColor = style.timeColor = QColor::fromRgbF(0, 0, 0.3F);
     style.depthColor = QColor::fromRgbF(0.5F, 0.0F, 0.5F);
-    expectLooks("tempEau", "countryCode=FRA,tempEau=9>#00004c -|countryCode=FRA,tempEau=10>- -");
-    expectLooks("tempEau", "countryCode=FRA,tempEau=-50>#00004c -");
+    expectLooks("tempEau", "countryCode=FRA,tempEau=9>#00004d -|countryCode=FRA,tempEau=10>- -");
+    expectLooks("tempEau", "countryCode=FRA,tempEau=-50>#00004d -");
     expectLooks("profondeur", "countryCode=EGY>#800080 #b9ffac");
-    expectLooks("temps", "countryCode=FRA>#00004c -");
+    expectLooks("temps", "countryCode=FRA>#00004d -");
 }
 
 TEST(TableCells, readTheirStyleFromThePreferences) {

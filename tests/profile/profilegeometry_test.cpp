@@ -45,6 +45,7 @@ TEST(ProfileGeometry, placesSamplesAndAxes) {
     // The deepest is 42, so D is 43 and a metre takes ten points; 13 samples stand 50 points apart.
     std::vector<double> depths(13, 42);
     depths[0] = 0;
+    depths[1] = 5.5;
     const ProfileGeometry geometry = profileGeometry(diveOf(depths), plainStyle());
     Stroke profile{{30, 583}, {30, 583}, {80, 528}};
     for (int sample = 2; sample < 13; ++sample) {

@@ -116,35 +116,29 @@ QString entryFor(const Control& control, int place) {
 TEST_P(RecordBook, bringsARecordFromTheFormAndBack) {
     book->newRecord();
     FormStateBase& state = book->form().state();
-    const auto takes = [&](std::size_t index) {
-        return takesEntries(controls[index].control.kind) && controls[index].control.kind != ControlKind::picture &&
-               !controls[index].field.empty();
-    };
-    for (std::size_t index = 0; index < controls.size(); ++index) {
-        if (takes(index)) {
-            const QString entry = entryFor(controls[index].control, static_cast<int>(index));
-            EXPECT_TRUE(enterValue(state, static_cast<int>(index), entry)) << controls[index].name;
+    std::vector<int> taking;
+    for (int index = 0; index < static_cast<int>(controls.size()); ++index) {
+        const auto& placed = controls[static_cast<std::size_t>(index)];
+        const ControlKind kind = placed.control.kind;
+        if (takesEntries(kind) && kind != ControlKind::picture && !placed.field.empty()) {
+            taking.push_back(index);
+            EXPECT_TRUE(enterValue(state, index, entryFor(placed.control, index))) << placed.name;
         }
     }
     EXPECT_TRUE(book->hasEntries());
+    const auto shown = [&] {
+        return eachOf(taking, [&](int index) {
+            const ControlState& at = state.at(index);
+            return QStringLiteral("%1: %2, %3, %4").arg(index).arg(at.text).arg(at.tag).arg(at.date.toIso());
+        });
+    };
+    const QString entered = shown();
     const auto record = book->form().buildRecord();
-    std::vector<ControlState> entered;
-    for (std::size_t index = 0; index < controls.size(); ++index) {
-        entered.push_back(state.at(static_cast<int>(index)));
-    }
     book->form().blankFields(0);
     book->form().editFields(*record);
     EXPECT_FALSE(book->hasEntries());
-    for (std::size_t index = 0; index < controls.size(); ++index) {
-        if (takes(index)) {
-            const ControlState& shown = state.at(static_cast<int>(index));
-            EXPECT_EQ(shown.text, entered[index].text) << controls[index].name;
-            EXPECT_EQ(shown.tag, entered[index].tag) << controls[index].name;
-            EXPECT_TRUE(shown.date == entered[index].date) << controls[index].name;
-        }
-    }
-    const auto again = book->form().buildRecord();
-    EXPECT_EQ(writeRecords({again}, layout), writeRecords({record}, layout));
+    EXPECT_EQ(shown(), entered);
+    EXPECT_EQ(writeRecords({book->form().buildRecord()}, layout), writeRecords({record}, layout));
 }
 
 TEST_P(RecordBook, hasAControlForEveryStoredFieldAndNarrowMargins) {

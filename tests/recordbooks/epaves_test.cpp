@@ -62,7 +62,8 @@ TEST_F(EpavesTest, coloursNamesToVisitAndTheInterestByTheDifficulty) {
     const char* colours[] = {"#000000", "#00ff00", "#0000ff", "#ff0000", "#800080", "#000000", "#000000"};
     Epaves wreck;
     for (const char* expected : colours) {
-        EXPECT_EQ(colour(wreck, "technicite"), expected) << wreck.technicite++;
+        EXPECT_EQ(colour(wreck, "technicite"), expected) << wreck.technicite;
+        ++wreck.technicite;
     }
 }
 

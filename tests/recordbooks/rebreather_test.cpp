@@ -35,10 +35,6 @@ TEST_F(RebreatherTest, showsTheLifeOfTheCellsThatAreFitted) {
     desktop.preferences.set(QStringLiteral("cell life"), QStringLiteral("12"));
     desktop.clock.moment = QDateTime(QDate(2024, 7, 1), QTime(15, 0));
     book->newRecord();
-    EXPECT_FALSE(at("nbCellsPopUp").enabled) << "offered when cells are replaced";
-    enter("cellsSwitch=1");
-    EXPECT_TRUE(at("nbCellsPopUp").enabled);
-    book->newRecord();
     EXPECT_EQ(at("cell1Progress").level, 0);
     const auto first = filled<Rebreather>("cell1=1|cell1_in=2024-01-01|cell2_in=2024-01-01");
     Rebreather second = first;
@@ -63,6 +59,13 @@ TEST_F(RebreatherTest, showsTheLifeOfTheCellsThatAreFitted) {
     book->userSelects({1});
     EXPECT_EQ(at("cell1_outField").date.toDateTime(), QDateTime(QDate(2025, 7, 1), QTime(6, 0)));
     EXPECT_EQ(at("cell2_outField").date.toDateTime(), QDateTime(QDate(2024, 12, 31), QTime(6, 0)));
+}
+
+TEST_F(RebreatherTest, offersTheNumberOfCellsOnlyWhenTheyAreReplaced) {
+    book->newRecord();
+    EXPECT_FALSE(at("nbCellsPopUp").enabled);
+    enter("cellsSwitch=1");
+    EXPECT_TRUE(at("nbCellsPopUp").enabled);
 }
 
 TEST_F(RebreatherTest, ticksOperationsInGreenAndLeavesZerosOut) {
