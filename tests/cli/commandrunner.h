@@ -123,4 +123,9 @@ private:
     QTemporaryDir folder_;
 };
 
+/// With an empty logbook.
+struct LogbookCommands : CommandLine {
+    LogbookCommands() { done("new Plongee a.carnet"); }
+};
+
 }  // namespace tavrel

@@ -4,11 +4,7 @@ namespace tavrel {
 
 namespace {
 
-struct DiveCommands : CommandLine {
-    void SetUp() override { done("new Plongee a.carnet"); }
-};
-
-TEST_F(DiveCommands, gasTellsConsumptionBottlesAndOxygen) {
+TEST_F(LogbookCommands, gasTellsConsumptionBottlesAndOxygen) {
     done(
         "add a.carnet volumeBloc=12 pressionDepart=200 pressionFin=50 temps=40 profilProfondeur=20,20,20 "
         "pressionDepart_2=100 volPony2=7 pressDepartPony2=200 pressFinPony2=120 deco_Level_3_sw=1 o2Mix=32");
@@ -35,7 +31,7 @@ TEST_F(DiveCommands, gasTellsConsumptionBottlesAndOxygen) {
     expectRefusals({{"gas a.carnet --row 2", 1, "2"}, {"gas a.carnet", 2, "--row"}});
 }
 
-TEST_F(DiveCommands, statsCountAllDivesAndThoseBefore) {
+TEST_F(LogbookCommands, statsCountAllDivesAndThoseBefore) {
     EXPECT_EQ(json("stats a.carnet --without-previous --json")[u"temperature min"].toInt(), 10000);
     done("add a.carnet profondeur=35 temps=50 gaz=Nitrox tempEau=18");
     done("add a.carnet profondeur=9.9 temps=45 tempEau=-");

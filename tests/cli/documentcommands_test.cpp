@@ -28,8 +28,7 @@ TEST_F(CommandLine, entersEveryKindOfControl) {
                  "profilProfondeur=0,5.5,12|GAZ_Flag=0,1,7|PRESS_Data=0|runtime=é ß 潜水");
 }
 
-TEST_F(CommandLine, changesFindsAndRemovesDives) {
-    done("new Plongee a.carnet");
+TEST_F(LogbookCommands, changesFindsAndRemovesDives) {
     for (const char* add : {"add a.carnet o2Mix=32 lieu=Nice", "add a.carnet o2Mix=32 lieu=Cassis",
                             "add a.carnet o2Mix=32 lieu=Bandol", "add a.carnet o2Mix=32 lieu=Port-Cros"}) {
         done(add);
@@ -57,8 +56,7 @@ TEST_F(CommandLine, changesFindsAndRemovesDives) {
     EXPECT_EQ(done("show a.carnet").split(u'\n').size(), 5);
 }
 
-TEST_F(CommandLine, endsWithTheReasonAndChangesNothing) {
-    done("new Plongee a.carnet");
+TEST_F(LogbookCommands, endsWithTheReasonAndChangesNothing) {
     done("add a.carnet lieu=Nice");
     QDir(path(QString())).mkdir(QStringLiteral("folder"));
     const QByteArray before = bytes();
@@ -104,10 +102,9 @@ TEST_F(CommandLine, endsWithTheReasonAndChangesNothing) {
     EXPECT_EQ(QDir(path(QString())).entryList(QDir::Files | QDir::Hidden), words("a.carnet a.carnet~ cut.carnet"));
 }
 
-TEST_F(CommandLine, readsTheSettingsAndLeavesThemAlone) {
+TEST_F(LogbookCommands, readsTheSettingsAndLeavesThemAlone) {
     const QByteArray written("[General]\ncountry%20code=MLT\ntank%20volume=15\n");
     writeSettings(written);
-    done("new Plongee a.carnet");
     done("add a.carnet lieu=Gozo");
     expectValues(0, "countryCode=MLT|volumeBloc=15");
     EXPECT_EQ(contentsOf(path(QStringLiteral("config/Tavrel/tavrel.ini"))), written);
@@ -122,8 +119,7 @@ TEST_F(CommandLine, speaksTheUsersLanguageAndWritesNumbersTheSameWay) {
     EXPECT_TRUE(done("show a.carnet --columns profondeur").contains(u"18.5"));
 }
 
-TEST_F(CommandLine, tellsWhatAFileHoldsInJson) {
-    done("new Plongee a.carnet");
+TEST_F(LogbookCommands, tellsWhatAFileHoldsInJson) {
     EXPECT_EQ(json("show a.carnet --json")[u"version"].toInt(), 25);
     done("add a.carnet lieu=Marseille profondeur=32.5 temps=41 tempEau=101 date=2024-05-03");
     const QJsonObject file = json("show a.carnet --json");

@@ -8,8 +8,7 @@ namespace tavrel {
 
 namespace {
 
-struct GuardedFiles : CommandLine {
-    void SetUp() override { done("new Plongee a.carnet"); }
+struct GuardedFiles : LogbookCommands {
     Outcome shell(const QByteArray& script) const {
         return run({QStringLiteral("-c"), QString::fromLatin1(script)}, QStringLiteral("/bin/bash"));
     }

@@ -22,8 +22,7 @@ TEST_F(CommandLine, exportsTheSampleLogbookInEveryFormat) {
     }
 }
 
-TEST_F(CommandLine, importsTheSampleFilesTellingTheirFormat) {
-    done("new Plongee a.carnet");
+TEST_F(LogbookCommands, importsTheSampleFilesTellingTheirFormat) {
     for (const char* import : {"import a.carnet " TAVREL_SAMPLE_FOLDER "/sample.udcf",
                                "import a.carnet " TAVREL_SAMPLE_FOLDER "/sample-2.uddf",
                                "import a.carnet " TAVREL_SAMPLE_FOLDER "/sample-3.uddf",
@@ -38,8 +37,7 @@ TEST_F(CommandLine, importsTheSampleFilesTellingTheirFormat) {
     expectValues(5, "noPlongee=6|date=2011-05-03T10:15:00Z");
 }
 
-TEST_F(CommandLine, showsWhatAFileHoldsAndTakesItOnce) {
-    done("new Plongee a.carnet");
+TEST_F(LogbookCommands, showsWhatAFileHoldsAndTakesItOnce) {
     EXPECT_EQ(done("import a.carnet " TAVREL_TEST_DATA "/exchange/stages.uddf --dry-run --json"),
               u"{\"dives\": [{\"date\": \"2019-08-01\", \"time\": \"07:05\", \"depth\": 60.2, \"minutes\": 70, "
               "\"o2\": 18, \"he\": 45, \"samples\": 71, \"duplicate\": false, \"doubts\": []}, "
@@ -53,8 +51,7 @@ TEST_F(CommandLine, showsWhatAFileHoldsAndTakesItOnce) {
     EXPECT_EQ(dives().size(), 2U);
 }
 
-TEST_F(CommandLine, saysWhyAnImportOrExportFailed) {
-    done("new Plongee a.carnet");
+TEST_F(LogbookCommands, saysWhyAnImportOrExportFailed) {
     writeContents(
         path(QStringLiteral("half.udcf")),
         "<PROFILE><REPGROUP><DIVE><SAMPLES/><GASES><MIX><TANK/></MIX></GASES></DIVE><DIVE/></REPGROUP></PROFILE>");

@@ -5,9 +5,8 @@ namespace tavrel {
 namespace {
 
 /// A dive of four samples, ten points to the metre.
-struct ProfileCommand : CommandLine {
+struct ProfileCommand : LogbookCommands {
     ProfileCommand() {
-        done("new Plongee a.carnet");
         done(
             "add a.carnet profilProfondeur=0,42,21,6 GAZ_Flag=0,1,0,2 SLOW_Flag=0,1,0,1 SURF_Flag=0,0,0,1 "
             "PRESS_Data=200,150,100,50 decoO2_Level_1=50 samplingRate=7");

@@ -69,6 +69,24 @@ void fill(Record& record, const RecordLayout& layout, const char* values) {
     }
 }
 
+FieldValue distinctValue(FieldKind kind, int number) {
+    const QString text = QStringLiteral("t%1").arg(number);
+    switch (kind) {
+        case FieldKind::integer:
+            return qint32{number};
+        case FieldKind::real:
+            return static_cast<float>(number) + 0.5F;
+        case FieldKind::text:
+            return text;
+        case FieldKind::date:
+            return Date(number * 86400.0);
+        case FieldKind::image:
+            return Image{text.toLatin1(), 20, 10, {}};
+        default:
+            return Series::ofReals({double(number), number + 0.5});
+    }
+}
+
 testing::AssertionResult holds(const Record& record, const RecordLayout& layout, const char* values) {
     auto outcome = testing::AssertionSuccess();
     for (const auto& [name, words] : namedValues(values)) {

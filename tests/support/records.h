@@ -53,6 +53,10 @@ Class filled(const char* values) {
     return record;
 }
 
+/// A value that the field of no other number has: 3, 3.5, "t3", the day 3 days after 1 January 2001, the series 3 and
+/// 3.5, a picture whose bytes are the text.
+FieldValue distinctValue(FieldKind kind, int number);
+
 /// Whether the fields hold exactly these values, given as to fill().
 testing::AssertionResult holds(const Record& record, const RecordLayout& layout, const char* values);
 
