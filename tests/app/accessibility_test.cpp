@@ -1,22 +1,21 @@
 #include "app/preferenceswindow.h"
 #include "app/testapplication.h"
 
-#include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
 #include <QMenuBar>
 #include <QScrollBar>
-#include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace tavrel {
 
 namespace {
 
 /// The windows of the whole program, each type of document with a record.
-class EveryWindow : public WholeProgram {
-protected:
+struct EveryWindow : WholeProgram {
     ~EveryWindow() override {
         for (DocumentWindow* window : documents.windows()) {
             window->document().undoStack().setClean();
@@ -71,26 +70,13 @@ bool isPart(const QWidget& widget) {
 }
 
 bool mustHaveName(const QWidget& widget) {
-    switch (QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&widget))->role()) {
-        case QAccessible::Button:
-        case QAccessible::EditableText:
-        case QAccessible::ComboBox:
-        case QAccessible::CheckBox:
-        case QAccessible::RadioButton:
-        case QAccessible::Slider:
-        case QAccessible::SpinBox:
-        case QAccessible::ProgressBar:
-        case QAccessible::Table:
-        case QAccessible::Tree:
-        case QAccessible::List:
-        case QAccessible::Graphic:
-        case QAccessible::Chart:
-        case QAccessible::Canvas:
-            return true;
-        default:
-            return widget.focusPolicy() != Qt::NoFocus && !widget.isWindow() && !widget.inherits("QScrollArea") &&
-                   !widget.inherits("QTabBar") && !widget.inherits("QTabWidget");
-    }
+    using enum QAccessible::Role;
+    constexpr QAccessible::Role named[] = {Button,      EditableText, ComboBox, CheckBox, RadioButton, Slider, SpinBox,
+                                           ProgressBar, Table,        Tree,     List,     Graphic,     Chart,  Canvas};
+    const auto role = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&widget))->role();
+    return std::find(std::begin(named), std::end(named), role) != std::end(named) ||
+           (widget.focusPolicy() != Qt::NoFocus && !widget.isWindow() && !widget.inherits("QScrollArea") &&
+            !widget.inherits("QTabBar") && !widget.inherits("QTabWidget"));
 }
 
 QStringList nameless(const QWidget& window) {

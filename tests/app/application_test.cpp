@@ -3,6 +3,7 @@
 #include "app/instanceserver.h"
 #include "app/testapplication.h"
 #include "app/windowmenus.h"
+#include "support/files.h"
 
 #include <QApplication>
 #include <QDir>
@@ -12,7 +13,6 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-#include <gtest/gtest.h>
 
 #include <thread>
 
@@ -20,8 +20,7 @@ namespace tavrel {
 
 namespace {
 
-class Menus : public testing::Test {
-protected:
+struct Menus : testing::Test {
     Menus() {
         QObject::connect(&app.documents, &MyDocumentController::windowOpened, &app.documents,
                          [this](auto* window) { new WindowMenus(app.documents, delegate, *window); });
@@ -124,9 +123,7 @@ TEST(InstanceServer, takesTheFilesOfALaterStart) {
 TEST(InstanceServer, takesOverAPlaceThatWasLeft) {
     QTemporaryDir folder;
     const QString socket = folder.filePath(QStringLiteral("socket"));
-    QFile left(socket);
-    ASSERT_TRUE(left.open(QIODevice::WriteOnly));
-    left.close();
+    writeContents(socket, "");
     InstanceServer server(socket);
     EXPECT_EQ(server.handOver({}), InstanceServer::HandedOver::toNobody);
     EXPECT_TRUE(server.listen());

@@ -5,7 +5,6 @@
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QTest>
-#include <gtest/gtest.h>
 
 #include <csignal>
 #include <cstdio>

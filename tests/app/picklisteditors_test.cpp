@@ -7,7 +7,6 @@
 #include <QPushButton>
 #include <QSet>
 #include <QTest>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 
@@ -23,8 +22,7 @@ const PickListEditorDescription& editorOf(const char* action) {
     return pickListEditors.front();
 }
 
-class PickListEditors : public testing::Test {
-protected:
+struct PickListEditors : testing::Test {
     QWidget& show(const char* action) { return *delegate.showEditor(editorOf(action)); }
 
     static void add(QWidget& window, const EditedList& list, const QString& entry) {

@@ -8,6 +8,7 @@
 #include "interchange/ui/importwindow.h"
 #include "logbook/logbooksettings.h"
 #include "logbook/ui/logbookwindow.h"
+#include "support/files.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -17,19 +18,12 @@
 #include <QRegularExpression>
 #include <QTableView>
 #include <QTest>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 
 namespace {
 
 using Program = WholeProgram;
-
-QString contents(const char* file) {
-    QFile source(QStringLiteral(TAVREL_SOURCE_FOLDER "/") + QLatin1StringView(file));
-    EXPECT_TRUE(source.open(QIODevice::ReadOnly)) << file;
-    return QString::fromUtf8(source.readAll());
-}
 
 /// Checks that no two actions of a menu share an access key, and none of the bar a shortcut.
 void expectOwnKeys(const QList<QAction*>& actions, QStringList& shortcuts) {
@@ -157,14 +151,13 @@ TEST_F(Program, mayEndWithItsWindowsOpen) {
 }
 
 TEST_F(Program, isKnownToTheDesktopForEveryTypeOfDocument) {
-    const QString entry = contents("resources/desktop/tavrel.desktop");
-    const QString package = contents("resources/desktop/tavrel.xml");
+    const QByteArray entry = contentsOf(QStringLiteral(TAVREL_SOURCE_FOLDER "/resources/desktop/tavrel.desktop"));
+    const QByteArray package = contentsOf(QStringLiteral(TAVREL_SOURCE_FOLDER "/resources/desktop/tavrel.xml"));
     for (const DocumentType& type : documents.types()) {
-        const QString mime = QStringLiteral("application/x-tavrel-") + QLatin1StringView(type.extension);
-        EXPECT_TRUE(entry.contains(mime + u';')) << type.extension;
-        EXPECT_TRUE(package.contains(QStringLiteral("<mime-type type=\"%1\">").arg(mime))) << type.extension;
-        EXPECT_TRUE(package.contains(QStringLiteral("<glob pattern=\"*.%1\"/>").arg(QLatin1StringView(type.extension))))
-            << type.extension;
+        const QByteArray mime = QByteArray("application/x-tavrel-") + type.extension;
+        EXPECT_TRUE(entry.contains(mime + ';')) << type.extension;
+        EXPECT_TRUE(package.contains("<mime-type type=\"" + mime + "\">")) << type.extension;
+        EXPECT_TRUE(package.contains(QByteArray("<glob pattern=\"*.") + type.extension + "\"/>")) << type.extension;
     }
 }
 

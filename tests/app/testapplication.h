@@ -7,13 +7,11 @@
 #include "support/testdesktop.h"
 
 #include <QCoreApplication>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 
 /// A document's window with one more window that edits.
-class TestWindow : public DocumentWindow {
-public:
+struct TestWindow : DocumentWindow {
     using DocumentWindow::DocumentWindow;
 
     void printDocument() override { ++prints; }
@@ -40,8 +38,7 @@ struct Coin : Record {
     static const RecordLayout& layout();
 };
 
-class Purse : public ListDocument {
-public:
+struct Purse : ListDocument {
     explicit Purse(Desktop& desktop) : ListDocument(desktop, Coin::layout()) { setType(QStringLiteral("Budget")); }
     Expected<QByteArray> dataRepresentationOfType(const QString&) override { return archive(); }
     Expected<void> loadDataRepresentation(QByteArrayView data, const QString&) override {
@@ -53,8 +50,7 @@ public:
 DocumentTypes testDocumentTypes();
 
 /// The document controller of an application with nothing open.
-class TestApplication : public TestDesktop {
-public:
+struct TestApplication : TestDesktop {
     TestApplication() : documents(desktop(), fileDialogs, testDocumentTypes()) {}
 
     TestWindow* frontWindow() { return static_cast<TestWindow*>(documents.windows().back()); }
@@ -67,8 +63,7 @@ public:
 };
 
 /// The documents, windows and menus of the program as it is.
-class WholeProgram : public testing::Test {
-protected:
+struct WholeProgram : testing::Test {
     WholeProgram();
     /// Opens a copy of a sample, since an open document is locked and other tests look at the samples at the same time.
     DocumentWindow* openSample(const QString& ending);

@@ -46,11 +46,6 @@ const std::string image = R"(92 8484 84"NSImage"2e 95 92 85
     92 8484 84"NSBitmapImageRep"11 8484"NSImageRep"11 95 9603 84"[3c]"616263 86
     92 8484 84"NSColor"00 95 9903 9a0000 86 92 85 86 )";
 
-TEST(ImageArchive, readsAndWritesPictures) {
-    const RecordFile file = readAndWritten(fileOf(1, "92 85 " + image + "86"));
-    EXPECT_EQ(copyOf(file, 0), (Image{"abc", 2, 1, {}}));
-}
-
 // Objects: 0 to 3 the list and its classes, 4 and 5 the paper and its class, 6 and 7 the image and its. Strings: 6
 // "NSImage" onwards.
 TEST(ImageArchive, keepsOtherLayoutsOfPicturesAsTheyWere) {
@@ -83,6 +78,7 @@ TEST(ImageArchive, keepsOtherLayoutsOfPicturesAsTheyWere) {
 }
 
 TEST(ImageArchive, givesEachPictureWhatItShares) {
+    EXPECT_EQ(copyOf(readAndWritten(fileOf(1, "92 85 " + image + "86")), 0), (Image{"abc", 2, 1, {}}));
     // The second paper holds the first one's picture by reference; the third has its background in common with it, and
     // its title is the text that names the second picture of another layout.
     const std::string second = "92 84 97 92 85 92 98 86 ";

@@ -2,8 +2,6 @@
 #include "records/floatbits.h"
 #include "support/printing.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <limits>
 

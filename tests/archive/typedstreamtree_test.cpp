@@ -43,9 +43,7 @@ TEST(TypedStreamTree, CountsAndWritesNothingOfWhatIsDamaged) {
     const auto summary = inspectStream(whole);
     ASSERT_TRUE(summary);
     EXPECT_FALSE(summary->littleEndian);
-    EXPECT_EQ(summary->groups, 2U);
-    EXPECT_EQ(summary->objects, 1U);
-    EXPECT_EQ(summary->references, 1U);
+    EXPECT_EQ(std::tuple(summary->groups, summary->objects, summary->references), std::tuple(2U, 1U, 1U));
     ASSERT_EQ(summary->classes.size(), 2U);
     EXPECT_EQ(summary->classes[0].objects, 1U);
 

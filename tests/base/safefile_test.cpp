@@ -7,7 +7,6 @@
 
 #include <QDir>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 #include <csignal>
 #include <fcntl.h>
@@ -30,15 +29,11 @@ struct stat statusOf(const QString& path) {
     EXPECT_EQ(::stat(pathBytes(path).constData(), &status), 0);
     return status;
 }
-mode_t mode(const QString& path) {
-    return statusOf(path).st_mode & 07777U;
-}
 bool setMode(const QString& path, mode_t mode) {
     return ::chmod(pathBytes(path).constData(), mode) == 0;
 }
 
-class SafeFile : public testing::Test {
-protected:
+struct SafeFile : testing::Test {
     QString path(const char* name) const { return folder_.filePath(QString::fromUtf8(name)); }
     QStringList names() const {
         return QDir(folder_.path()).entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot);
@@ -52,7 +47,7 @@ TEST_F(SafeFile, replacesAFileAndKeepsItsModeAndLinks) {
     const auto old = ::umask(027);
     EXPECT_TRUE(writeFile(path("été.carnet"), "one"));
     ::umask(old);
-    EXPECT_EQ(mode(path("été.carnet")), 0640U);
+    EXPECT_EQ(modeOf(path("été.carnet")), 0640U);
     ASSERT_TRUE(setMode(path("été.carnet"), 0604));
     ASSERT_TRUE(QDir(path("")).mkdir(QStringLiteral("sub")));
     ASSERT_TRUE(QFile::link(QStringLiteral("../été.carnet"), path("sub/link")));
@@ -63,7 +58,7 @@ TEST_F(SafeFile, replacesAFileAndKeepsItsModeAndLinks) {
     ASSERT_TRUE(before);
     EXPECT_TRUE(writeFile(path("chain"), QByteArray(100'000, 'x')));
     EXPECT_EQ(contentsOf(path("été.carnet")).size(), 100'000);
-    EXPECT_EQ(mode(path("été.carnet")), 0604U);
+    EXPECT_EQ(modeOf(path("été.carnet")), 0604U);
     EXPECT_TRUE(writeFile(path("dangling"), ""));
     EXPECT_EQ(contentsOf(path("new")), "");
     EXPECT_TRUE(QFileInfo(path("chain")).isSymLink() && QFileInfo(path("dangling")).isSymLink());
@@ -79,21 +74,20 @@ TEST_F(SafeFile, leavesEverythingAsItWasWhenItFails) {
     ASSERT_TRUE(writeFile(path("file"), "old"));
     ASSERT_TRUE(QDir(path("")).mkdir(QStringLiteral("folder")));
     ASSERT_EQ(::mkfifo(QFile::encodeName(path("pipe")).constData(), 0600), 0);
-    const QString noFolder = QStringLiteral("The folder does not exist.");
-    const QString noFile = QStringLiteral("There is no such file.");
-    const QString isFolder = QStringLiteral("It is a folder, not a file.");
-    const QString isPipe = QStringLiteral("It is not a regular file.");
-    const std::pair<const char*, std::pair<QString, QString>> cases[] = {{"missing/file", {noFolder, noFile}},
-                                                                         {"file/below", {noFolder, noFile}},
-                                                                         {"folder", {isFolder, isFolder}},
-                                                                         {"pipe", {isPipe, isPipe}}};
-    for (const auto& [file, reason] : cases) {
+    const std::tuple<const char*, const char*, const char*> cases[] = {
+        {"missing/file", "The folder does not exist.", "There is no such file."},
+        {"file/below", "The folder does not exist.", "There is no such file."},
+        {"folder", "It is a folder, not a file.", "It is a folder, not a file."},
+        {"pipe", "It is not a regular file.", "It is not a regular file."}};
+    for (const auto& [file, unwritten, unread] : cases) {
         const auto written = writeFile(path(file), "new");
         const auto read = FileBytes::open(path(file));
         ASSERT_FALSE(written || read) << file;
         const QString name = QFileInfo(path(file)).fileName();
-        EXPECT_EQ(written.error().sentence, QStringLiteral("“%1” could not be saved: %2").arg(name, reason.first));
-        EXPECT_EQ(read.error().sentence, QStringLiteral("“%1” could not be opened: %2").arg(name, reason.second));
+        EXPECT_EQ(written.error().sentence,
+                  QStringLiteral("“%1” could not be saved: %2").arg(name, QLatin1String(unwritten)));
+        EXPECT_EQ(read.error().sentence,
+                  QStringLiteral("“%1” could not be opened: %2").arg(name, QLatin1String(unread)));
         EXPECT_TRUE(written.error().detail.contains(path(file)));
     }
     EXPECT_EQ(names(), (QStringList{QStringLiteral("file"), QStringLiteral("folder"), QStringLiteral("pipe")}));
@@ -170,7 +164,7 @@ TEST_F(SafeFile, keepsAccessListsAndUserAttributes) {
     EXPECT_EQ(held, list);
     EXPECT_EQ(::getxattr(name.constData(), "user.tag", held.data(), 4), 4);
     EXPECT_EQ(held.left(4), "blue");
-    EXPECT_EQ(mode(file), 0640U);
+    EXPECT_EQ(modeOf(file), 0640U);
 
     // A folder's list is for its new files; an old one without a list gets none.
     ASSERT_EQ(::setxattr(QFile::encodeName(path("")).constData(), "system.posix_acl_default", list.constData(),
@@ -180,10 +174,10 @@ TEST_F(SafeFile, keepsAccessListsAndUserAttributes) {
     ASSERT_TRUE(setMode(file, 0660));
     ASSERT_TRUE(writeFile(file, "newer"));
     EXPECT_LT(::getxattr(name.constData(), "system.posix_acl_access", nullptr, 0), 0);
-    EXPECT_EQ(mode(file), 0660U);
+    EXPECT_EQ(modeOf(file), 0660U);
     ASSERT_TRUE(writeFile(path("second"), ""));
     EXPECT_EQ(::getxattr(QFile::encodeName(path("second")).constData(), "system.posix_acl_access", nullptr, 0), 44);
-    EXPECT_EQ(mode(path("second")), 0640U);
+    EXPECT_EQ(modeOf(path("second")), 0640U);
 }
 
 TEST_F(SafeFile, keepsWhatTheOwnerAndItsGroupMayDo) {
@@ -210,7 +204,7 @@ TEST_F(SafeFile, keepsWhatTheOwnerAndItsGroupMayDo) {
         EXPECT_EQ(contentsOf(file), "new");
         EXPECT_EQ(statusOf(file).st_uid, ownerAfterwards);
         EXPECT_EQ(statusOf(file).st_gid, shared);
-        EXPECT_EQ(mode(file), allowed);
+        EXPECT_EQ(modeOf(file), allowed);
     }
     // A file that may be written in a folder that may not.
     ASSERT_TRUE(setMode(path(""), 0755));
@@ -280,8 +274,7 @@ const Save saves[] = {{"new", "", 0, false},
                       {"without unnamed files", "linkat", EPERM, true},
                       {"in place", "rename", EBUSY, true}};
 
-class SaveFaults : public SafeFile, public testing::WithParamInterface<Save> {
-protected:
+struct SaveFaults : SafeFile, testing::WithParamInterface<Save> {
     SaveFaults() { qputenv("XDG_STATE_HOME", QFile::encodeName(path("state"))); }
     ~SaveFaults() override { qputenv("XDG_STATE_HOME", qgetenv("XDG_CONFIG_HOME")); }
 
@@ -326,7 +319,7 @@ TEST_P(SaveFaults, leaveTheFileOldOrNewWhateverFails) {
                 ASSERT_EQ(left().size(), saved || GetParam().exists ? 1 : 0);
             }
             if (GetParam().exists) {
-                ASSERT_EQ(mode(file()), 0640U);
+                ASSERT_EQ(modeOf(file()), 0640U);
             }
         } while (calls >= at);
         EXPECT_GT(at, 8);
@@ -352,11 +345,12 @@ TEST_P(SaveFaults, leaveTheFileOldOrNewWhenTheProgramEnds) {
             ASSERT_LT(at, 300);
             const bool whole = isOld() || contentsOf(file()) == bytes;
             // One that cannot be replaced has its old contents elsewhere for the time.
-            ASSERT_TRUE(whole || (!copy().isEmpty() && contentsOf(copy()) == "old" && mode(copy()) == 0600));
+            ASSERT_TRUE(whole || (!copy().isEmpty() && contentsOf(copy()) == "old" && modeOf(copy()) == 0600));
             for (const QString& name : left()) {
                 const QString path = QDir(this->path("folder")).filePath(name);
                 ASSERT_TRUE(name == u"file" || signal == SIGKILL) << name.toStdString();
-                ASSERT_TRUE(name == u"file" || mode(path) == 0600U || contentsOf(path) == bytes) << name.toStdString();
+                ASSERT_TRUE(name == u"file" || modeOf(path) == 0600U || contentsOf(path) == bytes)
+                    << name.toStdString();
             }
             ASSERT_TRUE(writeFile(file(), "next"));
             ASSERT_EQ(left(), QStringList(QStringLiteral("file"))) << "the next save sweeps";

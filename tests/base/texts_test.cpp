@@ -9,7 +9,6 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <QXmlStreamReader>
-#include <gtest/gtest.h>
 
 #include <limits>
 #include <map>
@@ -23,12 +22,7 @@ namespace {
 using Arguments = std::vector<FormatArgument>;
 using Table = std::map<QString, QString>;
 
-class Texts : public testing::Test {
-public:
-    ~Texts() override { setTextLanguage(QStringLiteral("en")); }
-};
-
-TEST_F(Texts, comeInTheChosenLanguage) {
+TEST(Texts, comeInTheChosenLanguage) {
     setTextLanguage(QStringLiteral("fr_CA.UTF-8"));
     EXPECT_EQ(textLanguage(), u"fr");
     EXPECT_EQ(text("Main", "Save"), u"Enregistrer");
@@ -41,7 +35,7 @@ TEST_F(Texts, comeInTheChosenLanguage) {
     EXPECT_EQ(text("Carnet", "\r   - Shorty"), u"\r   - Shorty");
 }
 
-TEST_F(Texts, haveTheDecimalSignOfTheLanguage) {
+TEST(Texts, haveTheDecimalSignOfTheLanguage) {
     EXPECT_EQ(withDecimalSign(QStringLiteral("1.5 m")), u"1.5 m");
     setTextLanguage(QStringLiteral("fr"));
     EXPECT_EQ(withDecimalSign(QStringLiteral("1.5 m / 0.25")), u"1,5 m / 0,25");
@@ -49,7 +43,7 @@ TEST_F(Texts, haveTheDecimalSignOfTheLanguage) {
     EXPECT_EQ(withDecimalSign(QStringLiteral(".5 5. a.b 12.x.")), u".5 5. a.b 12.x.");
 }
 
-TEST_F(Texts, thatAreMissingShowTheFallback) {
+TEST(Texts, thatAreMissingShowTheFallback) {
     setTextLanguage(QStringLiteral("fr"));
     const auto missing = [](const char* table, const char* key) { return text(table, key, QStringLiteral("N/A")); };
     EXPECT_EQ(missing("Main", "Savf"), u"N/A");
@@ -57,7 +51,7 @@ TEST_F(Texts, thatAreMissingShowTheFallback) {
     EXPECT_EQ(text(Title()), QString());
 }
 
-TEST_F(Texts, fillFormatsWithoutRegardToTheLocale) {
+TEST(Texts, fillFormatsWithoutRegardToTheLocale) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const QString words = QStringLiteral("Épave");
     const qint64 large = 5000000000;
@@ -159,7 +153,6 @@ TEST(TextTables, haveTheSameKeysAndPlaceholdersInEveryLanguage) {
             }
         }
     }
-    setTextLanguage(QStringLiteral("en"));
 }
 
 QString unescaped(QString literal) {

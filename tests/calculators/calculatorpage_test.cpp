@@ -2,20 +2,13 @@
 
 #include "support/printing.h"
 
-#include <gtest/gtest.h>
-
 #include <limits>
 
 namespace tavrel {
 
 namespace {
 
-class CalculatorPages : public testing::Test {
-protected:
-    ~CalculatorPages() override { setTextLanguage(QStringLiteral("en")); }
-};
-
-TEST_F(CalculatorPages, showEveryResultInEveryLanguage) {
+TEST(CalculatorPages, showEveryResultInEveryLanguage) {
     const double extremes[] = {
         0, 1, 16, -5, 1e300, std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()};
     for (const auto* language : {"en", "fr"}) {
@@ -35,10 +28,6 @@ TEST_F(CalculatorPages, showEveryResultInEveryLanguage) {
             }
         }
     }
-}
-
-TEST_F(CalculatorPages, printFiguresInTheLanguage) {
-    setTextLanguage(QStringLiteral("fr"));
     EXPECT_EQ(calculatorPage(CalculatorId::BestTrimix)->evaluate(std::vector{60.0, 30.0, 1.4}).text,
               u"Meilleur trimix : 20.0 % O₂, 34.9 % He");
 }

@@ -3,6 +3,7 @@
 #include "calculators/ui/gpscontroller.h"
 #include "calculators/ui/physiquecontroller.h"
 #include "support/printing.h"
+#include "support/records.h"
 
 #include <QApplication>
 #include <QButtonGroup>
@@ -14,11 +15,9 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QTabWidget>
 #include <QTextBlock>
 #include <QTextEdit>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 
@@ -228,22 +227,17 @@ TEST(GpsWindow, readsAPositionAsDiversWriteIt) {
     GpsController window;
     const auto field = [&](const char* name) { return named<QLineEdit>(window, name).text(); };
     window.readPosition(QStringLiteral("43° 12.345' N 5° 20.7' W"));
-    EXPECT_EQ(field("latitude_in_degreeField"), u"43");
-    EXPECT_EQ(field("latitude_in_minutesField"), u"12.345");
-    EXPECT_EQ(field("latitude_in_secondsField"), u"0");
+    const auto fields = [&](const char* names) { return eachOf(names, field); };
+    EXPECT_EQ(fields("latitude_in_degreeField latitude_in_minutesField latitude_in_secondsField latitude_inField"),
+              u"43|12.345|0|43.20575");
     // West: each part takes its minus sign, as the converter adds them.
-    EXPECT_EQ(field("longitude_in_degreeField"), u"-5");
-    EXPECT_EQ(field("longitude_in_minutesField"), u"-20.7");
-    EXPECT_EQ(field("latitude_inField"), u"43.20575");
-    EXPECT_EQ(field("longitude_inField"), u"-5.345");
+    EXPECT_EQ(fields("longitude_in_degreeField longitude_in_minutesField longitude_inField"), u"-5|-20.7|-5.345");
     EXPECT_TRUE(shown(window, "positionNote").contains(u"N 43° 12.345'"));
     // What is no position leaves the fields alone.
     window.readPosition(QStringLiteral("43° 12.3'"));
     EXPECT_EQ(field("latitude_inField"), u"43.20575");
     window.readPosition(QStringLiteral("S 8° 30,5' O 115°"));
-    EXPECT_EQ(field("latitude_in_degreeField"), u"-8");
-    EXPECT_EQ(field("latitude_in_minutesField"), u"-30.5");
-    EXPECT_EQ(field("longitude_inField"), u"-115");
+    EXPECT_EQ(fields("latitude_in_degreeField latitude_in_minutesField longitude_inField"), u"-8|-30.5|-115");
 }
 
 TEST(NitroxWindow, saysWhenItsResultIsOfOtherInputs) {
@@ -268,44 +262,40 @@ TEST(NitroxWindow, saysWhenItsResultIsOfOtherInputs) {
 }
 
 TEST(CalculatorWindows, nameTheInputThatGivesInfinityOrANegativeDepth) {
-    struct Case {
-        CalculatorId id;
-        const char *inputs, *field, *words;  ///< the words beside the field, beside all others none
-    };
-    const Case cases[] = {
+    // The inputs, one field, and the words beside it; beside all others there are none.
+    const std::tuple<CalculatorId, const char*, const char*, const char*> cases[] = {
         {CalculatorId::ProfMax, "fracO2Field=32", "", ""},
         {CalculatorId::ProfMax, "fracO2Field=0", "fracO2Field", "gives infinity"},
         {CalculatorId::ProfMax, "fracO2Field=150", "fracO2Field", "gives a negative depth"},
         {CalculatorId::BestMix, "profondeurMaxField=-10", "profondeurMaxField", "gives infinity, is a negative depth"},
-        {CalculatorId::EquivalentDepth, "fracO2Field=40 profondeurField=0", "profondeurField",
+        {CalculatorId::EquivalentDepth, "fracO2Field=40|profondeurField=0", "profondeurField",
          "gives a negative depth"},
-        {CalculatorId::EquivalentDepth, "fracO2Field=100 profondeurField=30", "fracO2Field", "gives a negative depth"},
-        {CalculatorId::EquivalentDepth, "fracO2Field=21 profondeurField=30", "", ""},
-        {CalculatorId::OxygenWindow, "winFO2=32 winMinPpO2=0.16", "winMinPpO2", "gives a negative depth"},
-        {CalculatorId::OxygenWindow, "winFO2=10 winMinPpO2=0.16", "", ""},
-        {CalculatorId::BlendNitrox, "pressionInitialeField=50 pressionFinaleField=50 fracO2FinaleField=32",
+        {CalculatorId::EquivalentDepth, "fracO2Field=100|profondeurField=30", "fracO2Field", "gives a negative depth"},
+        {CalculatorId::EquivalentDepth, "fracO2Field=21|profondeurField=30", "", ""},
+        {CalculatorId::OxygenWindow, "winFO2=32|winMinPpO2=0.16", "winMinPpO2", "gives a negative depth"},
+        {CalculatorId::OxygenWindow, "winFO2=10|winMinPpO2=0.16", "", ""},
+        {CalculatorId::BlendNitrox, "pressionInitialeField=50|pressionFinaleField=50|fracO2FinaleField=32",
          "pressionFinaleField", "gives infinity"},
-        {CalculatorId::TrimixEadEnd, "fracHeTxField=70 profondeurMaxField=0", "profondeurMaxField",
+        {CalculatorId::TrimixEadEnd, "fracHeTxField=70|profondeurMaxField=0", "profondeurMaxField",
          "gives a negative depth"},
-        {CalculatorId::BestTrimix, "depthTxField=60 ENDField=-3 ppO2Field=1.4", "ENDField", "is a negative depth"},
-        {CalculatorId::SodaTime, "sodaWeightField=2.5 sodaCapacityField=100", "metabolicProductionField",
+        {CalculatorId::BestTrimix, "depthTxField=60|ENDField=-3|ppO2Field=1.4", "ENDField", "is a negative depth"},
+        {CalculatorId::SodaTime, "sodaWeightField=2.5|sodaCapacityField=100", "metabolicProductionField",
          "gives infinity"},
-        {CalculatorId::BreathedFraction, "brEanxField=40 brFlowField=1 brMetabolicField=1", "brFlowField",
+        {CalculatorId::BreathedFraction, "brEanxField=40|brFlowField=1|brMetabolicField=1", "brFlowField",
          "gives infinity"},
-        {CalculatorId::IdealFlow, "idEanxField=40 idMetabolicField=1 idRealFracO2Field=40", "idRealFracO2Field",
+        {CalculatorId::IdealFlow, "idEanxField=40|idMetabolicField=1|idRealFracO2Field=40", "idRealFracO2Field",
          "gives infinity"},
     };
-    for (const Case& it : cases) {
-        CalculatorWindow window(it.id);
-        for (const QByteArray& input : QByteArray(it.inputs).split(' ')) {
-            const QList<QByteArray> parts = input.split('=');
-            type(window, parts[0], parts[1]);
+    for (const auto& [id, inputs, field, words] : cases) {
+        CalculatorWindow window(id);
+        for (const auto& [name, value] : namedValues(inputs)) {
+            type(window, name.c_str(), value.toUtf8());
         }
         window.calculate();
-        for (const CalculatorInput& input : calculatorPage(it.id)->inputs) {
-            const QByteArray field(input.field);
-            EXPECT_EQ(shown(window, field + "Fault"), QLatin1String(field == it.field ? it.words : ""))
-                << it.inputs << ": " << input.field;
+        for (const CalculatorInput& input : calculatorPage(id)->inputs) {
+            const QByteArray name(input.field);
+            EXPECT_EQ(shown(window, name + "Fault"), QLatin1String(name == field ? words : ""))
+                << inputs << ": " << input.field;
         }
     }
 }
@@ -321,7 +311,6 @@ TEST(CalculatorWindows, showADecimalCommaInFrench) {
     EXPECT_EQ(named<QLineEdit>(positions, "positionField").placeholderText(), u"43° 12,345' N  5° 20,7' O");
     positions.readPosition(QStringLiteral("43° 12,345' N 5° 20,7' O"));
     EXPECT_EQ(named<QLineEdit>(positions, "longitude_inField").text(), u"-5,345");
-    setTextLanguage(QStringLiteral("en"));
 }
 
 }  // namespace

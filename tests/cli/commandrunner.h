@@ -15,7 +15,6 @@
 #include <QProcessEnvironment>
 #include <QStringList>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 #include <initializer_list>
 #include <vector>
@@ -28,8 +27,7 @@ inline QStringList words(const char* command) {
 }
 
 /// Runs the command line in a folder of its own, in UTC and English, with settings of its own. Its logbook is a.carnet.
-class CommandLine : public testing::Test {
-protected:
+struct CommandLine : testing::Test {
     struct Outcome {
         int code = -1;
         QString out;
@@ -40,11 +38,6 @@ protected:
         int code;
         const char* reason;  ///< is in what the command says
     };
-    struct Value {
-        std::size_t row;
-        const char *field, *value;
-    };
-
     QString path(const QString& name) const { return folder_.filePath(name); }
 
     void writeSettings(const QByteArray& bytes) const {
@@ -85,6 +78,17 @@ protected:
         return QJsonDocument::fromJson(out.toUtf8()).object();
     }
 
+    /// What stands at the paths of an object, each as text: "counts.air total" as "2|4".
+    static QString at(const QJsonObject& object, const char* paths) {
+        return eachOf(paths, [&](const char* path) {
+            QJsonValue value = object;
+            for (const QString& step : QString::fromUtf8(path).split(u'.')) {
+                value = value.isArray() ? value[step.toInt()] : value[step];
+            }
+            return value.toVariant().toString();
+        });
+    }
+
     void expectRefusals(std::initializer_list<Refusal> refusals) const {
         for (const auto& [command, code, reason] : refusals) {
             const Outcome outcome = run(command);
@@ -102,13 +106,14 @@ protected:
         EXPECT_TRUE(read.has_value());
         return read ? allAs<Plongee>(read->records) : std::vector<DivePointer>();
     }
-    /// Fields of its dives, as the command line would take them.
-    void expectValues(std::initializer_list<Value> values) const {
+    /// Fields of a dive, as the command line would take them: "lieu=Nice|temps=40".
+    void expectValues(std::size_t row, const char* values) const {
         const auto held = dives();
-        for (const auto& [row, name, expected] : values) {
-            const Field field = Plongee::layout().field(name);
-            ASSERT_TRUE(row < held.size() && !field.isNull()) << row << ' ' << name;
-            EXPECT_EQ(fieldText(field.value(*held[row])), QString::fromUtf8(expected)) << row << ' ' << name;
+        ASSERT_LT(row, held.size());
+        for (const auto& [name, expected] : namedValues(values)) {
+            const Field field = Plongee::layout().field(std::string_view(name));
+            ASSERT_FALSE(field.isNull()) << name;
+            EXPECT_EQ(fieldText(field.value(*held[row])), expected) << row << ' ' << name;
         }
     }
 
@@ -116,6 +121,11 @@ protected:
 
 private:
     QTemporaryDir folder_;
+};
+
+/// With an empty logbook.
+struct LogbookCommands : CommandLine {
+    LogbookCommands() { done("new Plongee a.carnet"); }
 };
 
 }  // namespace tavrel

@@ -8,54 +8,33 @@ TEST_F(CommandLine, addsDivesThroughTheForm) {
     EXPECT_EQ(done("new \"Carnet de plongee\" a.carnet"), QString());
     EXPECT_EQ(done("add a.carnet lieu=Marseille profondeur=32.5 temps=41 tempEau=101"), QString());
     done("add a.carnet notes=a=b site= heMix=87");
-    expectValues({{0, "noPlongee", "1"},
-                  {0, "lieu", "Marseille"},
-                  {0, "profondeur", "32.5"},
-                  {0, "tempEau", "-50"},
-                  {0, "typePlongee", "8"},
-                  {1, "noPlongee", "2"},
-                  {1, "notes", "a=b"},
-                  {1, "heMix", "0"}});
+    expectValues(0, "noPlongee=1|lieu=Marseille|profondeur=32.5|tempEau=-50|typePlongee=8");
+    expectValues(1, "noPlongee=2|notes=a=b|heMix=0");
 }
 
 TEST_F(CommandLine, entersEveryKindOfControl) {
-    const std::tuple<const char*, const char*, const char*> cases[] = {
-        {"profondeurField=18,5", "profondeur", "18.5"},
-        {"lowGF=30", "lowGF", "30"},
-        {"meteo=5", "meteo", "5"},
-        {"visibilite=TableView good", "visibilite", "2"},
-        {"typePlongee=under ICE", "typePlongee", "10"},
-        {"rebreather=hCCR", "rebreather", "4"},
-        {"ppO2=1,3 bar", "ppO2", "2"},
-        {"nocturne=yes", "nocturne", "1"},
-        {"deco_Level_6_sw=1", "deco_Level_6_sw", "1"},
-        {"difficulte=5", "difficulte", "5"},
-        {"date=2024-05-03", "date", "2024-05-03T00:00:00Z"},
-        {"heure=10:30", "heure", "2001-01-01T10:30:00Z"},
-        {"profilProfondeur=0,5.5,12", "profilProfondeur", "0,5.5,12"},
-        {"GAZ_Flag=0, 1,7", "GAZ_Flag", "0,1,7"},
-        {"PRESS_Data=", "PRESS_Data", "0"},
-        {"runtime=é ß 潜水", "runtime", "é ß 潜水"},
-    };
     done("new \"dive logbook\" a.carnet");
     QStringList arguments = words("add a.carnet");
-    for (const auto& [entry, field, value] : cases) {
-        arguments.append(QString::fromUtf8(entry));
+    for (const auto& [name, entry] :
+         namedValues("profondeurField=18,5|lowGF=30|meteo=5|visibilite=TableView good|typePlongee=under ICE|"
+                     "rebreather=hCCR|ppO2=1,3 bar|nocturne=yes|deco_Level_6_sw=1|difficulte=5|date=2024-05-03|"
+                     "heure=10:30|profilProfondeur=0,5.5,12|GAZ_Flag=0, 1,7|PRESS_Data=|runtime=é ß 潜水")) {
+        arguments.append(QString::fromStdString(name) + u'=' + entry);
     }
     done(arguments);
-    for (const auto& [entry, field, value] : cases) {
-        expectValues({{0, field, value}});
-    }
+    expectValues(0,
+                 "profondeur=18.5|lowGF=30|meteo=5|visibilite=2|typePlongee=10|rebreather=4|ppO2=2|nocturne=1|"
+                 "deco_Level_6_sw=1|difficulte=5|date=2024-05-03T00:00:00Z|heure=2001-01-01T10:30:00Z|"
+                 "profilProfondeur=0,5.5,12|GAZ_Flag=0,1,7|PRESS_Data=0|runtime=é ß 潜水");
 }
 
-TEST_F(CommandLine, changesFindsAndRemovesDives) {
-    done("new Plongee a.carnet");
+TEST_F(LogbookCommands, changesFindsAndRemovesDives) {
     for (const char* add : {"add a.carnet o2Mix=32 lieu=Nice", "add a.carnet o2Mix=32 lieu=Cassis",
                             "add a.carnet o2Mix=32 lieu=Bandol", "add a.carnet o2Mix=32 lieu=Port-Cros"}) {
         done(add);
     }
     done("set a.carnet 1 temps=50 o2Mix=0 date=2023-01-31T23:59:58Z");
-    expectValues({{1, "temps", "50"}, {1, "o2Mix", "21"}, {1, "lieu", "Cassis"}, {1, "date", "2023-01-31T23:59:58Z"}});
+    expectValues(1, "temps=50|o2Mix=21|lieu=Cassis|date=2023-01-31T23:59:58Z");
 
     EXPECT_TRUE(done("find a.carnet lieu AS").contains(u"One dive found"));
     const QString found = done("find a.carnet lieu n");
@@ -66,7 +45,8 @@ TEST_F(CommandLine, changesFindsAndRemovesDives) {
     done("delete a.carnet 3 0 3");
     done("renumber a.carnet 10");
     ASSERT_EQ(dives().size(), 2U);
-    expectValues({{0, "lieu", "Cassis"}, {1, "noPlongee", "11"}});
+    expectValues(0, "lieu=Cassis");
+    expectValues(1, "noPlongee=11");
 
     const QString table = done("show a.carnet --columns lieu,o2Mix,PRESS_Data");
     const QStringList lines = table.split(u'\n');
@@ -76,8 +56,7 @@ TEST_F(CommandLine, changesFindsAndRemovesDives) {
     EXPECT_EQ(done("show a.carnet").split(u'\n').size(), 5);
 }
 
-TEST_F(CommandLine, endsWithTheReasonAndChangesNothing) {
-    done("new Plongee a.carnet");
+TEST_F(LogbookCommands, endsWithTheReasonAndChangesNothing) {
     done("add a.carnet lieu=Nice");
     QDir(path(QString())).mkdir(QStringLiteral("folder"));
     const QByteArray before = bytes();
@@ -123,12 +102,11 @@ TEST_F(CommandLine, endsWithTheReasonAndChangesNothing) {
     EXPECT_EQ(QDir(path(QString())).entryList(QDir::Files | QDir::Hidden), words("a.carnet a.carnet~ cut.carnet"));
 }
 
-TEST_F(CommandLine, readsTheSettingsAndLeavesThemAlone) {
+TEST_F(LogbookCommands, readsTheSettingsAndLeavesThemAlone) {
     const QByteArray written("[General]\ncountry%20code=MLT\ntank%20volume=15\n");
     writeSettings(written);
-    done("new Plongee a.carnet");
     done("add a.carnet lieu=Gozo");
-    expectValues({{0, "countryCode", "MLT"}, {0, "volumeBloc", "15"}});
+    expectValues(0, "countryCode=MLT|volumeBloc=15");
     EXPECT_EQ(contentsOf(path(QStringLiteral("config/Tavrel/tavrel.ini"))), written);
     EXPECT_EQ(QDir(path(QStringLiteral("config/Tavrel"))).entryList(QDir::Files), words("tavrel.ini"));
 }
@@ -141,28 +119,20 @@ TEST_F(CommandLine, speaksTheUsersLanguageAndWritesNumbersTheSameWay) {
     EXPECT_TRUE(done("show a.carnet --columns profondeur").contains(u"18.5"));
 }
 
-TEST_F(CommandLine, tellsWhatAFileHoldsInJson) {
-    done("new Plongee a.carnet");
+TEST_F(LogbookCommands, tellsWhatAFileHoldsInJson) {
     EXPECT_EQ(json("show a.carnet --json")[u"version"].toInt(), 25);
     done("add a.carnet lieu=Marseille profondeur=32.5 temps=41 tempEau=101 date=2024-05-03");
     const QJsonObject file = json("show a.carnet --json");
-    EXPECT_EQ(file[u"type"].toString(), u"Dive logbook");
-    EXPECT_EQ(file[u"class"].toString(), u"Plongee");
     ASSERT_EQ(file[u"records"].toArray().size(), 1);
-    const QJsonObject dive = file[u"records"].toArray()[0].toObject();
-    EXPECT_EQ(dive.size(), 134);
-    EXPECT_EQ(dive[u"noPlongee"].toInt(), 1);
-    EXPECT_EQ(dive[u"tempEau"].toInt(), -50);
-    EXPECT_EQ(dive[u"profondeur"].toDouble(), 32.5);
-    EXPECT_EQ(dive[u"date"].toString(), u"2024-05-03T00:00:00Z");
+    EXPECT_EQ(at(file, "class records.0.noPlongee records.0.tempEau records.0.profondeur records.0.date"),
+              u"Plongee|1|-50|32.5|2024-05-03T00:00:00Z");
+    EXPECT_EQ(file[u"type"].toString(), u"Dive logbook");
+    EXPECT_EQ(file[u"records"][0].toObject().size(), 134);
 
     EXPECT_TRUE(done("inspect a.carnet").contains(u"Plongee, version 25: 1 objects"));
     const QJsonObject tree = json("inspect a.carnet --json");
-    EXPECT_EQ(tree[u"byteOrder"].toString(), u"little");
-    EXPECT_EQ(tree[u"system"].toInt(), 1000);
     ASSERT_EQ(tree[u"groups"].toArray().size(), 1);
-    const QJsonValue root = tree[u"groups"][0][1][0];
-    EXPECT_EQ(root[u"classes"][0][0].toString(), u"NSMutableArray");
+    EXPECT_EQ(at(tree, "byteOrder system groups.0.1.0.classes.0.0"), u"little|1000|NSMutableArray");
 }
 
 TEST_F(CommandLine, makesTheSampleLogbookAnew) {

@@ -8,9 +8,7 @@ namespace tavrel {
 
 namespace {
 
-class GuardedFiles : public CommandLine {
-protected:
-    void SetUp() override { done("new Plongee a.carnet"); }
+struct GuardedFiles : LogbookCommands {
     Outcome shell(const QByteArray& script) const {
         return run({QStringLiteral("-c"), QString::fromLatin1(script)}, QStringLiteral("/bin/bash"));
     }
@@ -55,7 +53,7 @@ TEST_F(GuardedFiles, mayHaveNamesOfAnyBytes) {
         shell("mv a.carnet $'\\xe9t\\xe9.carnet' && '" TAVREL_CLI
               "' add $'\\xe9t\\xe9.carnet' lieu=here && mv $'\\xe9t\\xe9.carnet' a.carnet && rm -f *$'\\xe9'*");
     EXPECT_EQ(outcome.code, 0) << outcome.error.toStdString();
-    expectValues({{0, "lieu", "here"}});
+    expectValues(0, "lieu=here");
 }
 
 TEST_F(GuardedFiles, exportToPipesAndDevices) {

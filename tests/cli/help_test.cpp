@@ -16,8 +16,7 @@ QStringList descriptions(const QString& page) {
     return found;
 }
 
-class Help : public CommandLine {
-protected:
+struct Help : CommandLine {
     void SetUp() override { language = QStringLiteral("fr_FR.UTF-8"); }
 };
 

@@ -5,10 +5,8 @@ namespace tavrel {
 namespace {
 
 /// A dive of four samples, ten points to the metre.
-class ProfileCommand : public CommandLine {
-protected:
+struct ProfileCommand : LogbookCommands {
     ProfileCommand() {
-        done("new Plongee a.carnet");
         done(
             "add a.carnet profilProfondeur=0,42,21,6 GAZ_Flag=0,1,0,2 SLOW_Flag=0,1,0,1 SURF_Flag=0,0,0,1 "
             "PRESS_Data=200,150,100,50 decoO2_Level_1=50 samplingRate=7");
@@ -35,12 +33,9 @@ TEST_F(ProfileCommand, givesSummaryAndGeometry) {
     EXPECT_EQ(path(u"axes"), u"[[[30,143],[680,143],[675,138]],[[30,143],[30,598]]]");
     EXPECT_EQ(path(u"limit"), u"[]");
     ASSERT_EQ(geometry[u"icons"].toArray().size(), 4);
-    EXPECT_EQ(geometry[u"icons"][1][u"name"].toString(), u"alarmeGAZ");
-    EXPECT_EQ(geometry[u"icons"][1][u"x"].toDouble(), 162.5 - 27);
+    EXPECT_EQ(at(geometry, "icons.1.name icons.1.x"), u"alarmeGAZ|135.5");
     const QJsonObject label = geometry[u"labels"].toArray().last().toObject();
-    EXPECT_EQ(label[u"text"].toString(), u"EAN50");
-    EXPECT_EQ(label[u"y"].toDouble(), 523 + 14);
-    EXPECT_EQ(label[u"colour"].toString(), u"#000000");
+    EXPECT_EQ(at(label, "text y colour"), u"EAN50|537|#000000");
     EXPECT_EQ(json("profile a.carnet --row 1 --json")[u"samples"].toInt(), 0);
 }
 

@@ -5,7 +5,6 @@
 #include <CLI/CLI.hpp>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 #include <fstream>
 
@@ -13,8 +12,7 @@ namespace tavrel {
 
 namespace {
 
-class ShellFiles : public testing::Test {
-protected:
+struct ShellFiles : testing::Test {
     ShellFiles() : app("The program's own words - and more", "some-program") {
         app.set_version_flag("--version", "1");
         app.footer("Ends with 0.\n.5 is a number.");

@@ -1,11 +1,12 @@
 #include "cli/commandrunner.h"
 
+#include <ranges>
+
 namespace tavrel {
 
 namespace {
 
-class ViewCommands : public CommandLine {
-protected:
+struct ViewCommands : CommandLine {
     using CommandLine::json;
     /// With preferences of this run.
     QJsonObject json(const char* command, std::initializer_list<const char*> preferences) const {
@@ -17,21 +18,15 @@ protected:
     }
 };
 
-QJsonValue control(const QJsonObject& form, QStringView name) {
-    return form[u"controls"][name];
-}
-
 QJsonValue cell(const QJsonObject& table, qsizetype row, const char* column) {
     const auto place = table[u"columns"].toArray().toVariantList().indexOf(QString::fromUtf8(column));
     return table[u"rows"][row][place];
 }
 
 QString texts(const QJsonObject& table, const char* column) {
-    QStringList cells;
-    for (qsizetype row = 0; row < table[u"rows"].toArray().size(); ++row) {
-        cells.append(cell(table, row, column)[u"text"].toString());
-    }
-    return cells.join(u' ');
+    return eachOf(
+        std::views::iota(qsizetype(0), table[u"rows"].toArray().size()),
+        [&](qsizetype row) { return cell(table, row, column)[u"text"].toString(); }, u' ');
 }
 
 TEST_F(ViewCommands, tableShowsWhatTheWindowShows) {
@@ -64,13 +59,11 @@ TEST_F(ViewCommands, formShowsWhatItWorksOut) {
     done("add m.materiel noInspection=0 lastRevision=2020-01-01 nextRevision=2022-01-01 bloc=1");
     // 366 of 731 days.
     const QJsonObject inTime = json("form m.materiel --row 0 --json --now 2021-01-01T00:00:00");
-    EXPECT_NEAR(control(inTime, u"tempsProgress")[u"value"].toDouble(), 100.0 * 366 / 731, 1e-9);
-    EXPECT_EQ(control(inTime, u"pourcentageRevField")[u"value"], QStringLiteral("50 %"));
-    EXPECT_TRUE(control(inTime, u"delaiDepasseField")[u"colour"].isUndefined());
-    EXPECT_EQ(control(inTime, u"capaciteField")[u"visible"], true);
+    EXPECT_NEAR(inTime[u"controls"][u"tempsProgress"][u"value"].toDouble(), 100.0 * 366 / 731, 1e-9);
+    EXPECT_EQ(at(inTime, "controls.pourcentageRevField.value controls.capaciteField.visible"), u"50 %|true");
+    EXPECT_TRUE(inTime[u"controls"][u"delaiDepasseField"][u"colour"].isUndefined());
     const QJsonObject late = json("form m.materiel --row 0 bloc=0 --json --now 2022-01-01T00:00:00");
-    EXPECT_EQ(control(late, u"delaiDepasseField")[u"colour"], QStringLiteral("#ff0000"));
-    EXPECT_EQ(control(late, u"capaciteField")[u"visible"], false);
+    EXPECT_EQ(at(late, "controls.delaiDepasseField.colour controls.capaciteField.visible"), u"#ff0000|false");
 }
 
 TEST_F(ViewCommands, formShowsEntriesAndStoresNothing) {
@@ -78,17 +71,14 @@ TEST_F(ViewCommands, formShowsEntriesAndStoresNothing) {
     done("add a.carnet profondeur=20 rebreather=mCCR");
     const QByteArray before = bytes();
     const QJsonObject blank = json("form a.carnet --new --json --now 2019-05-03T10:30:00");
-    EXPECT_EQ(control(blank, u"noPlongeeField")[u"value"], QStringLiteral("2"));
-    EXPECT_EQ(control(blank, u"dateField")[u"value"], QStringLiteral("2019-05-03"));
-    EXPECT_EQ(control(blank, u"flowField")[u"enabled"], false);
-    EXPECT_EQ(control(blank, u"flowField")[u"visible"], true);
+    EXPECT_EQ(at(blank, "controls.noPlongeeField.value controls.dateField.value"), u"2|2019-05-03");
+    EXPECT_EQ(at(blank, "controls.flowField.enabled controls.flowField.visible"), u"false|true");
 
     const QJsonObject edited = json("form a.carnet --row 0 profondeur=33.5 rebreather=1 nocturne=yes --json");
-    EXPECT_EQ(control(edited, u"profondeurField")[u"value"], QStringLiteral("33.5"));
-    EXPECT_EQ(control(edited, u"rebreatherMatrix")[u"value"], 1);
-    EXPECT_EQ(control(edited, u"nocturneSwitch")[u"value"], 1);
-    EXPECT_EQ(control(edited, u"flowField")[u"enabled"], true);
-    EXPECT_EQ(control(edited, u"n2MixField")[u"value"], QStringLiteral("0"));
+    EXPECT_EQ(
+        at(edited, "controls.profondeurField.value controls.rebreatherMatrix.value controls.nocturneSwitch.value"),
+        u"33.5|1|1");
+    EXPECT_EQ(at(edited, "controls.flowField.enabled controls.n2MixField.value"), u"true|0");
     EXPECT_EQ(bytes(), before);
     expectRefusals({{"form a.carnet --json", 2, "--row"},
                     {"form a.carnet --row 1 --json", 1, "1"},
@@ -97,9 +87,8 @@ TEST_F(ViewCommands, formShowsEntriesAndStoresNothing) {
 
 TEST_F(ViewCommands, sortClicksTheHeadersAndSavesTheOrder) {
     done("new Budget b.budget");
-    for (const char* add :
-         {"add b.budget prestation=Air", "add b.budget prestation=Nitrox", "add b.budget prestation=Gear"}) {
-        done(add);
+    for (const char* add : {"prestation=Air", "prestation=Nitrox", "prestation=Gear"}) {
+        done(words("add b.budget") << QString::fromLatin1(add));
     }
     done("sort b.budget prestation");
     EXPECT_EQ(texts(json("table b.budget --json"), "prestation"), u"Nitrox Gear Air");
@@ -109,27 +98,18 @@ TEST_F(ViewCommands, sortClicksTheHeadersAndSavesTheOrder) {
 }
 
 TEST_F(ViewCommands, everyTypeIsMadeByAnyOfItsNames) {
-    const std::tuple<const char*, const char*, const char*> names[] = {
-        {"Carnet de plongee", "Plongee", "carnet"},
-        {"Materiel", "Materiel", "materiel"},
-        {"Epaves", "Epaves", "epaves"},
-        {"Compresseur", "Compresseur", "compresseur"},
-        {"Rebreather", "Rebreather", "rebreather"},
-        {"Consommables", "Consommables", "consommables"},
-        {"Budget", "Budget", "budget"},
-        {"Entreprises", "Entreprises", "entreprises"},
-        {"Structures", "Structures", "structures"},
-        {"Divers documents", "DiversDocs", "documents"},
-        {"Carnet de plongée", "Plongee", "carnet"},
-        {"diversdocs", "DiversDocs", "documents"},
-    };
     int made = 0;
-    for (const auto& [name, recordClass, extension] : names) {
-        const std::string file = std::to_string(++made) + '.' + extension;
-        done(("new \"" + std::string(name) + "\" " + file).c_str());
+    for (const auto& [name, classAndEnding] :
+         namedValues("Carnet de plongee=Plongee carnet|Materiel=Materiel materiel|Epaves=Epaves epaves|"
+                     "Compresseur=Compresseur compresseur|Rebreather=Rebreather rebreather|Budget=Budget budget|"
+                     "Consommables=Consommables consommables|Entreprises=Entreprises entreprises|"
+                     "Structures=Structures structures|Divers documents=DiversDocs documents|"
+                     "Carnet de plongée=Plongee carnet|diversdocs=DiversDocs documents")) {
+        const std::string file = std::to_string(++made) + '.' + classAndEnding.section(u' ', 1).toStdString();
+        done(("new \"" + name + "\" " + file).c_str());
         done(("add " + file).c_str());
         const QJsonObject shown = json(("show --json " + file).c_str());
-        EXPECT_EQ(shown[u"class"].toString(), QString::fromUtf8(recordClass)) << name;
+        EXPECT_EQ(shown[u"class"].toString(), classAndEnding.section(u' ', 0, 0)) << name;
         EXPECT_EQ(shown[u"records"].toArray().size(), 1) << name;
         EXPECT_EQ(json(("table --json " + file).c_str())[u"rows"].toArray().size(), 1) << name;
         EXPECT_FALSE(json(("form --row 0 --json " + file).c_str())[u"controls"].toObject().isEmpty()) << name;
@@ -142,7 +122,7 @@ TEST_F(ViewCommands, cardsAndPagesComeFromTheSameRooms) {
     done("add m.materiel marqueMatos=Beta");
     const QJsonObject card = json("card m.materiel --row 1 --json");
     const QString whole = card[u"text"].toString();
-    EXPECT_TRUE(whole.contains(QStringLiteral("Beta")) && !whole.contains(QStringLiteral("Alpha")));
+    EXPECT_TRUE(whole.contains(u"Beta") && !whole.contains(u"Alpha"));
     QString runs;
     for (const auto& each : card[u"runs"].toArray()) {
         runs += each.toObject()[u"text"].toString();

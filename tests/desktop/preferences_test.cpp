@@ -3,9 +3,8 @@
 #include "archive/colorarchive.h"
 #include "desktop/defaults.h"
 #include "support/files.h"
+#include "support/records.h"
 #include "support/testdesktop.h"
-
-#include <gtest/gtest.h>
 
 #include <sys/stat.h>
 
@@ -17,36 +16,24 @@ constexpr Setting<QColor> plotColor{"plot color", Rgb{1, 0, 0}};
 const QString key = QStringLiteral("low temperature value");
 
 /// The preferences as another run of the program finds them: a copy of the file, which no open store knows.
-class NextRun {
-public:
-    explicit NextRun(const TestDesktop& desktop) : store(copied(desktop)) {}
-    Preferences store;
-
-private:
-    static QString copied(const TestDesktop& desktop) {
-        const QString copy = desktop.path(QStringLiteral("next.ini"));
-        EXPECT_TRUE(QFile::copy(desktop.path(QStringLiteral("preferences.ini")), copy));
-        return copy;
-    }
-};
+std::unique_ptr<Preferences> nextRun(const TestDesktop& desktop) {
+    const QString copy = desktop.path(QStringLiteral("next.ini"));
+    EXPECT_TRUE(QFile::copy(desktop.path(QStringLiteral("preferences.ini")), copy));
+    return std::make_unique<Preferences>(copy);
+}
 
 TEST(Preferences, readEveryKindBackInTheNextRun) {
     TestDesktop desktop;
     Preferences& now = desktop.preferences;
-    const QStringList texts{
-        QString(),
-        QStringLiteral("yes, \"quoted\"; = [x] % \\ é ß 潜水"),
-        QStringLiteral(" blanks around "),
-        QStringLiteral("@Invalid()"),
-        QStringLiteral("two\r\nlines\ttab"),
-    };
+    const QStringList texts{QString(), QStringLiteral("yes, \"quoted\"; = [x] % \\ é ß 潜水"),
+                            QStringLiteral(" blanks around "), QStringLiteral("@Invalid()"),
+                            QStringLiteral("two\r\nlines\ttab")};
     const QList<QStringList> lists{
         {},
         {QString()},
         {QString(), QString()},
         {QStringLiteral("Port-Cros, la Gabinière")},
-        {QStringLiteral("@home"), QStringLiteral("Ärger, Öl"), QString(), QStringLiteral(" x ")},
-    };
+        {QStringLiteral("@home"), QStringLiteral("Ärger, Öl"), QString(), QStringLiteral(" x ")}};
     {
         const Preferences::Together together(now);
         now.set(QStringLiteral("yes"), true);
@@ -62,8 +49,8 @@ TEST(Preferences, readEveryKindBackInTheNextRun) {
         now.set(plotColor, QColor::fromRgbF(1.0F, 0.5F, 0.0F, 0.25F));
         now.setWindowState(QStringLiteral("Nitrox Prof Max"), QByteArray("\0\xff,x", 4));
     }
-    const NextRun next(desktop);
-    for (const Preferences* run : std::initializer_list<const Preferences*>{&now, &next.store}) {
+    const auto next = nextRun(desktop);
+    for (const Preferences* run : std::initializer_list<const Preferences*>{&now, next.get()}) {
         EXPECT_TRUE(run->boolean(QStringLiteral("yes")));
         EXPECT_EQ(run->string(QStringLiteral("yes")), u"1");
         EXPECT_TRUE(run->isStored(QStringLiteral("no")));
@@ -120,24 +107,14 @@ TEST(Preferences, readAWrongKindAsTheDefault) {
 TEST(Preferences, readTextsAsBooleansAndNumbers) {
     TestDesktop desktop;
     Preferences& preferences = desktop.preferences;
-    const std::tuple<const char*, bool, qint32, double> cases[] = {
-        {"YES", true, 0, 0},
-        {"yes", true, 0, 0},
-        {"true", true, 0, 0},
-        {"NO", false, 0, 0},
-        {"1", true, 1, 1},
-        {"0", false, 0, 0},
-        {"0.5", true, 0, 0.5},
-        {"-3,7 m", true, -3, -3.7},
-        {"", false, 0, 0},
-        {"0.0", false, 0, 0},
-        {"1e10", true, std::numeric_limits<qint32>::max(), 1e10},
-    };
-    for (const auto& [text, boolean, integer, real] : cases) {
-        preferences.set(key, QLatin1String(text));
-        EXPECT_EQ(preferences.boolean(key), boolean) << text;
-        EXPECT_EQ(preferences.integer(key), integer) << text;
-        EXPECT_EQ(preferences.real(key), real) << text;
+    for (const auto& [text, expected] :
+         namedValues("YES=true 0 0|yes=true 0 0|true=true 0 0|NO=false 0 0|1=true 1 1|0=false 0 0|0.5=true 0 0.5|"
+                     "-3,7 m=true -3 -3.7|=false 0 0|0.0=false 0 0|1e10=true 2147483647 1e+10")) {
+        preferences.set(key, QString::fromStdString(text));
+        EXPECT_EQ(QVariant(preferences.boolean(key)).toString() + u' ' + QString::number(preferences.integer(key)) +
+                      u' ' + QString::number(preferences.real(key)),
+                  expected)
+            << text;
     }
 }
 
@@ -199,9 +176,9 @@ TEST(Preferences, ofOneRunLeaveTheFileAsItIs) {
         run.set(QStringLiteral("country code"), QStringLiteral("EGY"));
         EXPECT_EQ(run.string(QStringLiteral("country code")), u"EGY");
     }
-    const NextRun next(desktop);
-    EXPECT_EQ(next.store.string(QStringLiteral("country code")), u"FRA");
-    EXPECT_EQ(next.store.integer(QStringLiteral("tank volume")), 12);
+    const auto next = nextRun(desktop);
+    EXPECT_EQ(next->string(QStringLiteral("country code")), u"FRA");
+    EXPECT_EQ(next->integer(QStringLiteral("tank volume")), 12);
 }
 
 TEST(PickLists, areFilledStoredAndSortedByCharacterCode) {
@@ -219,9 +196,9 @@ TEST(PickLists, areFilledStoredAndSortedByCharacterCode) {
                              QStringLiteral("été")};
     EXPECT_EQ(lists[PickList::tableauDesLieux], sorted);
 
-    NextRun next(desktop);
-    PickLists filled(next.store);
-    startDesktop(next.store, filled);
+    const auto next = nextRun(desktop);
+    PickLists filled(*next);
+    startDesktop(*next, filled);
     EXPECT_EQ(filled[PickList::tableauDesLieux], sorted);
     filled.remove(PickList::tableauDesLieux, {4, 0, 4, 2, 99, -1});
     EXPECT_EQ(filled[PickList::tableauDesLieux], (QStringList{QStringLiteral("Zoo"), QStringLiteral("abc")}));
@@ -234,9 +211,9 @@ TEST(PickLists, defaultToWhatIsStoredAndTheActivitiesToTheServices) {
     desktop.pickLists.append(PickList::tableauDesPrestations, QStringLiteral("Baptême"));
     desktop.pickLists.store(PickList::tableauDesPrestations);
     desktop.pickLists.store(PickList::tableauDesPrestations, QStringLiteral("type materiel"));
-    NextRun next(desktop);
-    PickLists lists(next.store);
-    startDesktop(next.store, lists);
+    const auto next = nextRun(desktop);
+    PickLists lists(*next);
+    startDesktop(*next, lists);
     const QStringList services{QStringLiteral("Baptême")};
     EXPECT_EQ(lists[PickList::tableauDesTypesMatos], services);
     EXPECT_TRUE(lists[PickList::tableauDesActivites].isEmpty());
@@ -244,7 +221,7 @@ TEST(PickLists, defaultToWhatIsStoredAndTheActivitiesToTheServices) {
     lists.store(PickList::tableauDesPrestations);
     lists.reload(PickList::tableauDesActivites);
     EXPECT_EQ(lists[PickList::tableauDesActivites], services);
-    next.store.set(QStringLiteral("activite"), QStringList());
+    next->set(QStringLiteral("activite"), QStringList());
     lists.reload(PickList::tableauDesActivites);
     EXPECT_TRUE(lists[PickList::tableauDesActivites].isEmpty());
 }
@@ -272,16 +249,11 @@ TEST(Preferences, areReadFromSaneFilesOnly) {
 TEST(Preferences, areReadByTheirUserAlone) {
     TestDesktop desktop;
     const QString path = desktop.path(QStringLiteral("own/settings.ini"));
-    const auto mode = [&] {
-        struct stat status {};
-        EXPECT_EQ(::stat(QFile::encodeName(path).constData(), &status), 0);
-        return status.st_mode & 07777U;
-    };
     Preferences(path).set(key, 5);
-    EXPECT_EQ(mode(), 0600U);
+    EXPECT_EQ(modeOf(path), 0600U);
     ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), 0644), 0);
     Preferences(path).set(key, 6);
-    EXPECT_EQ(mode(), 0600U);
+    EXPECT_EQ(modeOf(path), 0600U);
 }
 
 }  // namespace

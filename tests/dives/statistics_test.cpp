@@ -1,10 +1,7 @@
 #include "dives/statistics.h"
 
-#include "support/printing.h"
 #include "support/records.h"
 #include "support/testdesktop.h"
-
-#include <gtest/gtest.h>
 
 #include <cmath>
 #include <map>
@@ -69,17 +66,11 @@ TEST(Statistics, CountsKindsByTheirCode) {
 }
 
 TEST(Statistics, GasFollowsTheBreathingSystem) {
-    struct Case {
-        qint32 apparatus;
-        qint32 gas;
-        StatCount system;
-        StatCount counted;
-    };
     using enum StatCount;
-    for (const auto& [apparatus, gas, system, counted] :
-         {Case{0, 0, co, air}, Case{0, 1, co, nitrox}, Case{1, 2, scr, trimix}, Case{0, 3, co, heliox},
-          Case{0, 4, co, trimix}, Case{0, 5, co, trimix}, Case{1, 6, scr, heliox}, Case{2, 2, ccr, nitrox},
-          Case{3, 0, ccr, nitrox}, Case{4, 3, ccr, nitrox}}) {
+    const std::tuple<int, int, StatCount, StatCount> cases[] = {
+        {0, 0, co, air},    {0, 1, co, nitrox},  {1, 2, scr, trimix}, {0, 3, co, heliox},  {0, 4, co, trimix},
+        {0, 5, co, trimix}, {1, 6, scr, heliox}, {2, 2, ccr, nitrox}, {3, 0, ccr, nitrox}, {4, 3, ccr, nitrox}};
+    for (const auto& [apparatus, gas, system, counted] : cases) {
         const Statistics statistics =
             statisticsOf({dive("rebreather=" + std::to_string(apparatus) + "|gaz=" + std::to_string(gas))});
         for (const auto& name : statCountNames()) {
@@ -122,22 +113,13 @@ TEST(Statistics, PreviousTotalsEnterEveryFigureButTheMeanTemperature) {
     const PreviousTotals previous = PreviousTotals::read(preferences);
     const Dives dives{dive("gaz=2|profondeur=45|temps=100|tempEau=15")};
     const Statistics with = statisticsOf(dives, &previous);
-    EXPECT_EQ(with.total(), 10);
-    EXPECT_EQ(with.count(StatCount::trimix), 5);
-    EXPECT_FLOAT_EQ(with.share(StatCount::trimix), 50);
-    EXPECT_EQ(with.deepest(), 70);
-    EXPECT_EQ(with.longest(), 100);
-    EXPECT_EQ(with.totalDepth(), 145);
-    EXPECT_EQ(with.averageDepth(), 14);
-    EXPECT_EQ(with.totalTime(), 70);
-    EXPECT_EQ(with.coldest(), 8);
-    EXPECT_EQ(with.warmest(), 31);
-    EXPECT_EQ(with.meanTemperature(), 15);
+    EXPECT_EQ(std::tuple(with.total(), with.count(StatCount::trimix), with.share(StatCount::trimix), with.deepest(),
+                         with.longest(), with.totalDepth(), with.averageDepth(), with.totalTime()),
+              std::tuple(10, 5, 50.0F, 70, 100, 145, 14, 70));
+    EXPECT_EQ(std::tuple(with.coldest(), with.warmest(), with.meanTemperature()), std::tuple(8, 31, 15));
 
     const Statistics without = statisticsOf(dives);
-    EXPECT_EQ(without.total(), 1);
-    EXPECT_EQ(without.count(StatCount::trimix), 1);
-    EXPECT_EQ(without.coldest(), 15);
+    EXPECT_EQ(std::tuple(without.total(), without.count(StatCount::trimix), without.coldest()), std::tuple(1, 1, 15));
 
     EXPECT_EQ(PreviousTotals::of(previous.values()).counts, previous.counts);
     EXPECT_EQ(PreviousTotals::of(previous.values()).measures, previous.measures);

@@ -7,12 +7,9 @@
 #include "support/testdesktop.h"
 
 #include <QDir>
-#include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
-#include <gtest/gtest.h>
 
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -23,8 +20,7 @@ namespace {
 using State = FileIdentity::State;
 
 /// A document of one text, with a form of one control.
-class Leaf : public Document {
-public:
+struct Leaf : Document {
     explicit Leaf(Desktop& desktop) : Document(desktop) { setType(QStringLiteral("Leaf")); }
 
     Expected<QByteArray> dataRepresentationOfType(const QString&) override { return words; }
@@ -58,14 +54,8 @@ protected:
     std::optional<UnstoredForm> unstoredForm() const override { return typed; }
 };
 
-class GuardedFile : public testing::Test {
-protected:
+struct GuardedFile : testing::Test {
     QString path(const char* name) { return desktop.path(QString::fromUtf8(name)); }
-    static mode_t mode(const QString& file) {
-        struct stat status {};
-        EXPECT_EQ(::stat(pathBytes(file).constData(), &status), 0);
-        return status.st_mode & 07777U;
-    }
 
     TestDesktop desktop;
     Leaf leaf{desktop.desktop()};
@@ -175,7 +165,7 @@ TEST_F(GuardedFile, keepsWhatItWasBeforeTheFirstSave) {
         ASSERT_TRUE(leaf.save());
     }
     EXPECT_EQ(contentsOf(leaf.backupFile()), "yesterday");
-    EXPECT_EQ(mode(leaf.backupFile()), 0600U);
+    EXPECT_EQ(modeOf(leaf.backupFile()), 0600U);
     ASSERT_TRUE(leaf.revertToBackup());
     EXPECT_EQ(leaf.words, "yesterday");
     EXPECT_TRUE(leaf.isChanged());
@@ -220,8 +210,7 @@ struct ProgramRun {
     Journal journal;
 };
 
-class Journals : public GuardedFile {
-protected:
+struct Journals : GuardedFile {
     std::vector<JournalFolder::Left> left() const { return JournalFolder(parent).left(); }
 
     const QString parent = path("journal");
@@ -238,25 +227,20 @@ TEST_F(Journals, keepWhatIsUnsavedForTheNextRun) {
         leaf.change("changed");
         leaf.typeIntoForm(QStringLiteral("é ß"));
         run.journal.keepNow();
-        EXPECT_EQ(mode(run.journal.file()), 0600U);
+        EXPECT_EQ(modeOf(run.journal.file()), 0600U);
         EXPECT_TRUE(left().empty()) << "the program is alive";
     }
     auto found = left();
     ASSERT_EQ(found.size(), 1U);
     ASSERT_EQ(found[0].documents.size(), 1U);
     const Unsaved& unsaved = found[0].documents[0];
-    EXPECT_EQ(unsaved.recordClass, u"Leaf");
-    EXPECT_EQ(unsaved.name, u"leaf");
-    EXPECT_EQ(unsaved.file, file);
-    EXPECT_EQ(unsaved.records, 7);
-    EXPECT_EQ(unsaved.time, desktop.clock.moment);
-    ASSERT_TRUE(unsaved.form);
+    EXPECT_EQ(std::tuple(unsaved.recordClass, unsaved.name, unsaved.file, unsaved.records, unsaved.time),
+              std::tuple(QStringLiteral("Leaf"), QStringLiteral("leaf"), file, 7, desktop.clock.moment));
+    ASSERT_TRUE(unsaved.form && unsaved.form->controls.size() == 2);
     EXPECT_EQ(unsaved.form->row, 3);
-    ASSERT_EQ(unsaved.form->controls.size(), 2U);
-    EXPECT_EQ(unsaved.form->controls[0].name, u"field");
-    EXPECT_EQ(unsaved.form->controls[0].text, u"é ß");
-    EXPECT_EQ(unsaved.form->controls[0].tag, 7);
-    EXPECT_EQ(unsaved.form->controls[0].date.secondsSince2001(), 12.5);
+    const auto& field = unsaved.form->controls[0];
+    EXPECT_EQ(std::tuple(field.name, field.text, field.tag, field.date.secondsSince2001()),
+              std::tuple(QStringLiteral("field"), QStringLiteral("é ß"), 7, 12.5));
     EXPECT_TRUE(unsaved.form->controls[1].date.isNull());
     ASSERT_TRUE(unsaved.form->beside);
     EXPECT_EQ(unsaved.form->beside(), "beside");
@@ -273,8 +257,7 @@ TEST_F(Journals, keepWhatIsUnsavedForTheNextRun) {
     EXPECT_EQ(again.stateOnDisk(), State::changed);
 
     found[0].discard();
-    EXPECT_TRUE(left().empty());
-    EXPECT_TRUE(QDir(parent).isEmpty());
+    EXPECT_TRUE(left().empty() && QDir(parent).isEmpty());
 }
 
 TEST_F(Journals, writeTheContentsOnlyWhenTheyAreOthers) {
@@ -340,18 +323,19 @@ TEST_F(Journals, knowASaveThatTheyDidNotOutlive) {
         QObject::disconnect(copying);
     };
     endWhileSaving(true);
+    // What the journal holds, and whether the file has it already.
+    const auto holds = [](const std::vector<JournalFolder::Left>& found, const char* contents, bool isChanged) {
+        return found.size() == 1 && found[0].documents[0].contents() == contents &&
+               found[0].documents[0].isChanged == isChanged;
+    };
     auto found = left();
-    ASSERT_EQ(found.size(), 1U);
-    EXPECT_FALSE(found[0].documents[0].isChanged);
-    EXPECT_EQ(found[0].documents[0].contents(), "third");
+    ASSERT_TRUE(holds(found, "third", false));
     ASSERT_TRUE(found[0].documents[0].form);
     found.clear();
     // The save did not come about: the journal is what there is.
     ASSERT_TRUE(writeFile(file, "first"));
     found = left();
-    ASSERT_EQ(found.size(), 1U);
-    EXPECT_TRUE(found[0].documents[0].isChanged);
-    EXPECT_EQ(found[0].documents[0].contents(), "second");
+    ASSERT_TRUE(holds(found, "second", true));
     found[0].discard();
     // Without a form there is nothing to offer.
     endWhileSaving(false);
@@ -367,8 +351,7 @@ TEST_F(Journals, knowASaveThatTheyDidNotOutlive) {
         run.journal.keepNow();
     }
     found = left();
-    ASSERT_EQ(found.size(), 1U);
-    EXPECT_EQ(found[0].documents[0].contents(), "fifth");
+    ASSERT_TRUE(holds(found, "fifth", true));
     found[0].discard();
     EXPECT_TRUE(QDir(parent).isEmpty());
 }
@@ -397,8 +380,7 @@ TEST_F(Journals, thatAreDamagedAreNoTrouble) {
         // Nor is a journal whose contents are not its own.
         ASSERT_TRUE(writeFile(run.kept().filePath(whole->second.name), "chanced"));
     }
-    EXPECT_TRUE(left().empty());
-    EXPECT_TRUE(QDir(parent).isEmpty());
+    EXPECT_TRUE(left().empty() && QDir(parent).isEmpty());
     // Nowhere to keep anything.
     ProgramRun nowhere(QString(), leaf);
     leaf.change("more");

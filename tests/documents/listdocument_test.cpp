@@ -2,8 +2,6 @@
 
 #include "support/testdesktop.h"
 
-#include <gtest/gtest.h>
-
 #include <random>
 
 namespace tavrel {
@@ -16,8 +14,7 @@ struct Entry : Record {
 
 constexpr RecordLayout entryLayout = recordLayout<Entry>("Entry", 1, {});
 
-class Entries : public ListDocument {
-public:
+struct Entries : ListDocument {
     explicit Entries(Desktop& desktop) : ListDocument(desktop, entryLayout) {}
 
     Expected<QByteArray> dataRepresentationOfType(const QString&) override { return QByteArray(); }

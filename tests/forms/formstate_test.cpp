@@ -1,9 +1,8 @@
 #include "forms/entryhint.h"
 #include "forms/formentry.h"
 #include "forms/recordbinding.h"
+#include "support/records.h"
 #include "support/testdesktop.h"
-
-#include <gtest/gtest.h>
 
 namespace tavrel {
 
@@ -51,8 +50,7 @@ struct LoanControls : ControlTable<LoanControls> {
     const std::array<Id, 2> lines = addEach<2>({"1", "2"}, {.name = "line_%_Field"});
 };
 
-class FormStateTest : public ::testing::Test {
-protected:
+struct FormStateTest : testing::Test {
     bool enters(const char* name, const char* value) {
         return enterValue(state_, controls_.find(name), QString::fromUtf8(value)).has_value();
     }
@@ -69,15 +67,9 @@ protected:
 
 TEST_F(FormStateTest, carriesEveryKindOfFieldBothWays) {
     const RecordBinding binding(controls_, loanLayout);
+    const char* values = "item=Lamp|note=two\nlines|pieces=-7|state=4|returned=3|grade=5|price=0.1|day=12345.5";
     Loan given;
-    given.item = QStringLiteral("Lamp");
-    given.note = QStringLiteral("two\nlines");
-    given.pieces = -7;
-    given.state = 4;
-    given.returned = 3;  // a switch keeps what an old file says
-    given.grade = 5;
-    given.price = 0.1F;
-    given.day = Date(12345.5);
+    fill(given, loanLayout, values);  // a switch keeps what an old file says
     given.receipt.tiff = QByteArray("II*");
     binding.load(state_, given);
     EXPECT_EQ(state_.text(controls_.pieces), u"-7");
@@ -86,14 +78,7 @@ TEST_F(FormStateTest, carriesEveryKindOfFieldBothWays) {
 
     Loan taken;
     binding.build(state_, taken);
-    EXPECT_EQ(taken.item, given.item);
-    EXPECT_EQ(taken.note, given.note);
-    EXPECT_EQ(taken.pieces, -7);
-    EXPECT_EQ(taken.state, 4);
-    EXPECT_EQ(taken.returned, 3);
-    EXPECT_EQ(taken.grade, 5);
-    EXPECT_EQ(taken.price, 0.1F);
-    EXPECT_EQ(taken.day, given.day);
+    EXPECT_TRUE(holds(taken, loanLayout, values));
     EXPECT_EQ(taken.receipt, given.receipt);
     EXPECT_FALSE(binding.fieldKind(controls_.total.index));
 }
@@ -119,35 +104,26 @@ TEST_F(FormStateTest, refusesControlsThatCannotCarryTheirField) {
 
 TEST_F(FormStateTest, entersWhatAUserCouldAndNothingElse) {
     EXPECT_EQ(state_.tag(controls_.state), 7);
-    EXPECT_TRUE(enters("statePopUp", "2"));
-    EXPECT_EQ(state_.tag(controls_.state), 2);
-    EXPECT_TRUE(enters("state", "LOST"));
-    EXPECT_EQ(state_.tag(controls_.state), 4);
-    EXPECT_FALSE(enters("state", "3"));
-    EXPECT_FALSE(enters("state", "gone"));
-    EXPECT_EQ(state_.tag(controls_.state), 4);
-
-    EXPECT_TRUE(enters("returned", "Yes"));
-    EXPECT_TRUE(state_.isOn(controls_.returned));
-    EXPECT_TRUE(enters("returned", "0"));
-    EXPECT_FALSE(state_.isOn(controls_.returned));
-    EXPECT_FALSE(enters("returned", "2"));
-
-    EXPECT_TRUE(enters("grade", "-2"));
-    EXPECT_FALSE(enters("grade", "6"));
-    EXPECT_FALSE(enters("grade", "-3"));
-    EXPECT_EQ(state_.tag(controls_.grade), -2);
-
-    EXPECT_TRUE(enters("dayPicker", "2024-02-29"));
-    EXPECT_TRUE(enters("hourPicker", "18:45"));
+    // The tag behind each entry; what is refused leaves it as it was.
+    const std::tuple<const char*, LoanControls::Id, const char*, bool, int> cases[] = {
+        {"statePopUp", controls_.state, "2", true, 2},    {"state", controls_.state, "LOST", true, 4},
+        {"state", controls_.state, "3", false, 4},        {"state", controls_.state, "gone", false, 4},
+        {"returned", controls_.returned, "Yes", true, 1}, {"returned", controls_.returned, "0", true, 0},
+        {"returned", controls_.returned, "2", false, 0},  {"grade", controls_.grade, "-2", true, -2},
+        {"grade", controls_.grade, "6", false, -2},       {"grade", controls_.grade, "-3", false, -2}};
+    for (const auto& [name, id, value, taken, tag] : cases) {
+        EXPECT_EQ(enters(name, value), taken) << name << ' ' << value;
+        EXPECT_EQ(state_.tag(id), tag) << name << ' ' << value;
+    }
+    EXPECT_TRUE(enters("dayPicker", "2024-02-29") && enters("hourPicker", "18:45"));
     EXPECT_EQ(state_.date(controls_.hour).toDateTime().time(), QTime(18, 45));
-    EXPECT_FALSE(enters("dayPicker", "2023-02-29"));
-    EXPECT_FALSE(enters("dayPicker", "2024-02-29 at noon"));
+    for (const char* wrong : {"2023-02-29", "2024-02-29 at noon"}) {
+        EXPECT_FALSE(enters("dayPicker", wrong)) << wrong;
+    }
     EXPECT_FALSE(enters("hourPicker", "25:00"));
     EXPECT_TRUE(enters("line_2_Field", "second"));
     EXPECT_EQ(state_.text(controls_.lines[1]), u"second");
-    EXPECT_FALSE(takesEntries(ControlKind::readOnly));
-    EXPECT_FALSE(takesEntries(ControlKind::button));
+    EXPECT_FALSE(takesEntries(ControlKind::readOnly) || takesEntries(ControlKind::button));
 }
 
 TEST_F(FormStateTest, tellsOfWritesOnceAndOfEntriesAlways) {
@@ -182,27 +158,18 @@ TEST_F(FormStateTest, tellsOfWritesOnceAndOfEntriesAlways) {
 }
 
 TEST_F(FormStateTest, hintsAtNumbersThatAreReadOtherwiseOrUnusual) {
-    struct Case {
-        LoanControls::Id id;
-        const char* typed;
-        const char* hint;
-    };
-    const Case cases[] = {
-        {controls_.pieces, "20", ""},
-        {controls_.pieces, "21", "usually 1 to 20"},
-        {controls_.pieces, "0", "usually 1 to 20"},
-        {controls_.pieces, "12.5", "read as 12"},
-        {controls_.pieces, "abc", "read as 0"},
-        {controls_.pieces, " -- ", ""},
-        {controls_.price, "1000", ""},
-        {controls_.price, "1000.5", "usually at most 1000"},
-        {controls_.price, "12.50 euros", "read as 12.5"},
-        {controls_.item, "12x", ""},  // a text is what was typed
-    };
-    for (const auto& [id, typed, expected] : cases) {
-        state_.setText(id, QString::fromUtf8(typed));
-        EXPECT_EQ(hint(id), QLatin1StringView(expected)) << typed;
+    const std::pair<LoanControls::Id, const char*> cases[] = {
+        {controls_.pieces, "20=|21=usually 1 to 20|0=usually 1 to 20|12.5=read as 12|abc=read as 0|--="},
+        {controls_.price, "1000=|1000.5=usually at most 1000|12.50 euros=read as 12.5"},
+        {controls_.item, "12x="}};  // a text is what was typed
+    for (const auto& [id, rows] : cases) {
+        for (const auto& [typed, expected] : namedValues(rows)) {
+            state_.setText(id, QString::fromStdString(typed));
+            EXPECT_EQ(hint(id), expected) << typed;
+        }
     }
+    state_.setText(controls_.pieces, QStringLiteral(" -- "));
+    EXPECT_EQ(hint(controls_.pieces), u"");
     state_.setText(controls_.pieces, QStringLiteral("abc"));
     state_.setEnabled(controls_.pieces, false);
     EXPECT_EQ(hint(controls_.pieces), u"");

@@ -2,26 +2,20 @@
 
 #include "base/texts.h"
 #include "forms/tiff.h"
+#include "support/files.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 
 namespace {
 
-class Pictures : public testing::Test {
-protected:
-    Pictures() { setTextLanguage(QStringLiteral("en")); }
-
+struct Pictures : testing::Test {
     QString path(const char* name) const { return folder.filePath(QString::fromUtf8(name)); }
     QString written(const char* name, const QByteArray& bytes) const {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        return file.fileName();
+        writeContents(path(name), bytes);
+        return path(name);
     }
     static QImage painted() {
         QImage image(6, 4, QImage::Format_ARGB32);
@@ -54,9 +48,7 @@ TEST_F(Pictures, goInAndOutPixelForPixel) {
     ASSERT_TRUE(same);
     EXPECT_EQ(same->tiff, tiff);
     ASSERT_TRUE(writePicture(*same, path("out.TIFF")));
-    QFile out(path("out.TIFF"));
-    ASSERT_TRUE(out.open(QIODevice::ReadOnly));
-    EXPECT_EQ(out.readAll(), tiff);
+    EXPECT_EQ(contentsOf(path("out.TIFF")), tiff);
 }
 
 TEST_F(Pictures, withoutAResolutionMeasureAPointAPixel) {
@@ -79,9 +71,8 @@ TEST_F(Pictures, sayWhatIsWrong) {
     EXPECT_NE(reason(pictureOfFile(path("none.png"))).find("There is no such file."), std::string::npos);
     EXPECT_NE(reason(pictureOfFile(written("text.png", "Hello"))).find("is no picture"), std::string::npos);
     ASSERT_TRUE(painted().save(path("in.png")));
-    QFile file(path("in.png"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_NE(reason(pictureOfFile(written("cut.png", file.readAll().left(60)))).find("is damaged"), std::string::npos);
+    EXPECT_NE(reason(pictureOfFile(written("cut.png", contentsOf(path("in.png")).left(60)))).find("is damaged"),
+              std::string::npos);
     EXPECT_EQ(reason(pixelsOf({"II*\0garbage", 1, 1, {}})), "The file is no picture that this program can read.");
     EXPECT_EQ(reason(pixelsOf({QByteArray("II*\0\xff\xff\xff\xff", 8), 1, 1, {}})), "The picture is damaged.");
     EXPECT_EQ(reason(pixelsOf({{}, 0, 0, "kept"})),

@@ -1,17 +1,16 @@
 // Whether a desktop that has the program's description of file types tells its documents by what they hold.
 
+#include "support/files.h"
+
 #include <QDir>
 #include <QFile>
 #include <QMimeDatabase>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 namespace {
 
 QByteArray sample(const QString& ending) {
-    QFile file(QStringLiteral(TAVREL_SOURCE_FOLDER "/samples/sample.") + ending);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << ending.toStdString();
-    return file.read(4096);
+    return tavrel::contentsOf(QStringLiteral(TAVREL_SOURCE_FOLDER "/samples/sample.") + ending).left(4096);
 }
 
 TEST(FileTypes, areToldByTheirContentsAndNoOthersClaimed) {

@@ -1,19 +1,15 @@
 // Holds every include of every room against the links that the room's CMake file declares.
 
+#include "support/files.h"
+
+#include <QDir>
 #include <QDirIterator>
-#include <QFile>
 #include <QHash>
 #include <QRegularExpression>
 #include <QSet>
 #include <QStringList>
-#include <gtest/gtest.h>
 
 namespace {
-
-QString contents(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
 
 /// The rooms by their folder in src/, each with the libraries that it links, straight or through others.
 class House {
@@ -54,7 +50,7 @@ QStringList breaches(const House& house, const QString& sourceFolder) {
         QDirIterator files(sourceFolder + u'/' + room, {QStringLiteral("*.h"), QStringLiteral("*.cpp")}, QDir::Files);
         while (files.hasNext()) {
             const QString path = files.next();
-            const auto lines = contents(path).split(u'\n');
+            const auto lines = QString::fromUtf8(tavrel::contentsOf(path)).split(u'\n');
             for (qsizetype line = 0; line < lines.size(); ++line) {
                 const auto match = include.match(lines[line]);
                 if (match.hasMatch() && !house.mayInclude(room, match.captured(1))) {
@@ -67,13 +63,13 @@ QStringList breaches(const House& house, const QString& sourceFolder) {
 }
 
 TEST(Walls, noRoomIncludesWhatItDoesNotLink) {
-    const House house(contents(QStringLiteral(TAVREL_ROOMS)));
+    const House house(QString::fromUtf8(tavrel::contentsOf(QStringLiteral(TAVREL_ROOMS))));
     ASSERT_GT(house.rooms().size(), 10);
     EXPECT_EQ(breaches(house, QStringLiteral(TAVREL_SOURCE_FOLDER "/src")).join(u'\n').toStdString(), "");
 }
 
 TEST(Walls, everyFolderWithSourcesIsARoom) {
-    const House house(contents(QStringLiteral(TAVREL_ROOMS)));
+    const House house(QString::fromUtf8(tavrel::contentsOf(QStringLiteral(TAVREL_ROOMS))));
     const QStringList programs{QStringLiteral("app/start")};
     const QDir source(QStringLiteral(TAVREL_SOURCE_FOLDER "/src"));
     QDirIterator files(source.path(), {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,

@@ -2,12 +2,10 @@
 
 #include "interchange/exports.h"
 #include "interchange/frenchlocale.h"
-#include "support/printing.h"
 #include "support/records.h"
 #include "support/testdesktop.h"
 
 #include <QDir>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 
@@ -31,13 +29,7 @@ QByteArray udcfDive(const QByteArray& elements, const QByteArray& mix = "<TANK/>
     return "<DIVE>" + elements + "<GASES><MIX>" + mix + "</MIX></GASES><SAMPLES>" + samples + "</SAMPLES></DIVE>";
 }
 
-/// What fields of the dive hold.
-QString in(const Plongee& dive, const char* names) {
-    return fieldsOf(dive, Plongee::layout(), names);
-}
-
-class Imports : public testing::Test {
-protected:
+struct Imports : testing::Test {
     ImportResult take(const QByteArray& bytes, const Progress& progress = {}) {
         const ImportFormat format = bytes.contains("<uddf")       ? ImportFormat::uddf
                                     : bytes.contains("<repgroup") ? ImportFormat::handheld
@@ -70,13 +62,13 @@ TEST_F(Imports, typeADiveOfUDCFIntoTheForm) {
         <TANK><TANKVOLUME>12</TANKVOLUME><TANKVOLUME>15</TANKVOLUME><PSTART>200</PSTART><PEND>210</PEND></TANK><TANK/>)",
                                               R"(<DELTA>20</DELTA><DELTA>4.9</DELTA><SWITCH>1</SWITCH><D>0.0</D>
         <D>12.7</D><ALARM>deco</ALARM><D>12.9</D><D>13,5</D><D>-40</D><D>deep</D>)")));
-    EXPECT_EQ(in(dive, "noPlongee lieu site surface"), u"1; Étretat - A & B; ; --:--");
+    EXPECT_EQ(fieldsOf(dive, "noPlongee lieu site surface"), u"1; Étretat - A & B; ; --:--");
     EXPECT_EQ(localText(dive.date), u"2014-08-01 09:05:00");
     EXPECT_EQ(dive.heure.toDateTime().time(), QTime(9, 5));
-    EXPECT_EQ(in(dive, "tempEau altitude meteo courant visibilite typePlongee"), u"-4; 0; 7; 6; 7; 8");
-    EXPECT_EQ(in(dive, "temps samplingRate"), u"4; 5") << "the interval";
+    EXPECT_EQ(fieldsOf(dive, "tempEau altitude meteo courant visibilite typePlongee"), u"-4; 0; 7; 6; 7; 8");
+    EXPECT_EQ(fieldsOf(dive, "temps samplingRate"), u"4; 5") << "the interval";
     EXPECT_EQ(dive.profondeur, 13.0F) << "the greatest depth without its fraction";
-    EXPECT_EQ(in(dive, "gaz o2Mix heMix volumeBloc pressionDepart pressionFin"), u"2; 18; 45; 15; 200; 210");
+    EXPECT_EQ(fieldsOf(dive, "gaz o2Mix heMix volumeBloc pressionDepart pressionFin"), u"2; 18; 45; 15; 200; 210");
     Series depths;
     depths.append(std::array{0.0F, 12.7F, 12.9F, 13.0F, -40.0F, 0.0F});
     EXPECT_EQ(dive.profilProfondeur, depths);
@@ -136,16 +128,16 @@ TEST_F(Imports, typeADiveOfUDDFIntoTheForm) {
         </samples></dive>)"));
     EXPECT_EQ(localText(dive.date), u"2019-12-24 23:59:00");
     EXPECT_EQ(dive.heure.toDateTime().time(), QTime(23, 59));
-    EXPECT_EQ(in(dive, "tempAir tempEau profondeur temps"), u"0; 27; 31.4; 49");
+    EXPECT_EQ(fieldsOf(dive, "tempAir tempEau profondeur temps"), u"0; 27; 31.4; 49");
     EXPECT_EQ(dive.notes, u"Deux raies & un congre");
     Series depths;
     depths.append(std::array{12.36F, 120.5F, 3.2592999F});
     EXPECT_EQ(dive.profilProfondeur, depths);
-    EXPECT_EQ(in(dive, "meteo courant visibilite typePlongee"), u"7; 6; 7; 8");
+    EXPECT_EQ(fieldsOf(dive, "meteo courant visibilite typePlongee"), u"7; 6; 7; 8");
 
     // Nothing but a dive: the temperatures of nothing lie outside what the form takes.
     const Plongee& bare = taken(uddf("<dive><lowesttemperature>250</lowesttemperature></dive>"));
-    EXPECT_EQ(in(bare, "noPlongee tempAir tempEau temps"), u"2; -50; -50; 0");
+    EXPECT_EQ(fieldsOf(bare, "noPlongee tempAir tempEau temps"), u"2; -50; -50; 0");
     EXPECT_EQ(taken(uddf("<dive><airtemperature>250</airtemperature></dive>")).tempAir, -23);
 }
 
@@ -158,14 +150,14 @@ TEST_F(Imports, typeADiveOfTheHandheldIntoTheForm) {
         <watertemperature>19</watertemperature><airrtemperature>25</airrtemperature><altitude>10</altitude>
         <surfaceinterval>2:30</surfaceinterval>)" +
                                          gases + "</dive>"));
-    EXPECT_EQ(in(dive, "lieu site surface"), u"Gozo; Blue Hole; --:--");
+    EXPECT_EQ(fieldsOf(dive, "lieu site surface"), u"Gozo; Blue Hole; --:--");
     EXPECT_EQ(localText(dive.date), u"2011-05-03 10:00:00");
-    EXPECT_EQ(in(dive, "meteo courant visibilite typePlongee"), u"3; 2; 8; 0");
-    EXPECT_EQ(in(dive, "profondeur temps tempEau tempAir altitude volumeBloc"), u"32; 41; 19; 25; 10; 12");
+    EXPECT_EQ(fieldsOf(dive, "meteo courant visibilite typePlongee"), u"3; 2; 8; 0");
+    EXPECT_EQ(fieldsOf(dive, "profondeur temps tempEau tempAir altitude volumeBloc"), u"32; 41; 19; 25; 10; 12");
     EXPECT_EQ(dive.profilProfondeur, Series::ofReals({0}));
 
     const Plongee& bare = taken(handheld("<dive><airtemperature>25</airtemperature>" + gases + "</dive>"));
-    EXPECT_EQ(in(bare, "meteo visibilite tempEau tempAir"), u"7; 7; -50; -50");
+    EXPECT_EQ(fieldsOf(bare, "meteo visibilite tempEau tempAir"), u"7; 7; -50; -50");
     EXPECT_EQ(bare.date.toIso().left(13), bare.heure.toIso().left(13));
 }
 
@@ -207,8 +199,7 @@ TEST_F(Imports, numberOnFromTheLastDiveAndUndoAsOneStep) {
     carnet.appendDives(QStringLiteral("add"), {last});
     carnet.selectRows({0});
     EXPECT_EQ(take(udcf(udcfDive({}) + udcfDive({}))).message(), u"2 dives were imported. Without a date: 2.");
-    EXPECT_EQ(carnet.recordAt(1)->noPlongee, 58);
-    EXPECT_EQ(carnet.recordAt(2)->noPlongee, 59);
+    EXPECT_EQ(std::pair(carnet.recordAt(1)->noPlongee, carnet.recordAt(2)->noPlongee), std::pair(58, 59));
     EXPECT_TRUE(carnet.isChanged());
     EXPECT_TRUE(carnet.selectedRows().isEmpty()) << "the form no longer shows the dive that was selected";
     carnet.undoStack().undo();
@@ -227,8 +218,7 @@ TEST_F(Imports, stopAtADiveThatLacksAnElementAndKeepTheOthers) {
     for (const auto& [file, element] : cases) {
         const int before = carnet.count();
         const ImportResult result = take(file);
-        EXPECT_EQ(result.taken, 1);
-        EXPECT_EQ(result.stoppedAt, 2);
+        EXPECT_EQ(std::pair(result.taken, result.stoppedAt), std::pair(1, 2));
         EXPECT_TRUE(result.message().startsWith(u"One dive was imported.")) << result.message().toStdString();
         EXPECT_TRUE(result.message().contains(QLatin1String(element))) << result.message().toStdString();
         EXPECT_EQ(carnet.count(), before + 1);
@@ -279,14 +269,13 @@ TEST_F(Imports, canBeCancelledAndKeepWhatWasTaken) {
 
 TEST_F(Imports, takeBackWhatTheExportsWrite) {
     Plongee dive;
-    fill(dive, Plongee::layout(),
-         "lieu=Bonifacio|site=Mérouville|profilProfondeur=3.14,20|samplingRate=6|temps=33|o2Mix=21");
+    fill(dive, "lieu=Bonifacio|site=Mérouville|profilProfondeur=3.14,20|samplingRate=6|temps=33|o2Mix=21");
     dive.ASC_Flag = Series::ofIntegers({1, 1});
     dive.date = Date::fromDateTime(QDateTime(QDate(2020, 2, 29), QTime(0, 0)));
     dive.heure = Date::fromDateTime(QDateTime(QDate(2020, 2, 29), QTime(14, 45)));
     carnet.appendDives(QStringLiteral("add"), {dive});
     const Plongee& again = taken(*exportUDCFFormat(carnet));
-    EXPECT_EQ(in(again, "lieu samplingRate temps"), u"Bonifacio - Mérouville; 7; 5");
+    EXPECT_EQ(fieldsOf(again, "lieu samplingRate temps"), u"Bonifacio - Mérouville; 7; 5");
     EXPECT_EQ(localText(again.date), u"2020-02-29 14:45:00");
     Series depths;
     depths.append(std::array{0.0F, 3.1F, 20.0F, 0.0F});

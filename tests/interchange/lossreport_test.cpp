@@ -5,8 +5,6 @@
 #include "interchange/standardimport.h"
 #include "support/testdesktop.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <map>
 
@@ -19,8 +17,7 @@ const LogbookExport& formatNamed(std::string_view name) {
     return *std::find_if(all.begin(), all.end(), [&](const LogbookExport& each) { return each.name == name; });
 }
 
-class LossReport : public testing::Test {
-protected:
+struct LossReport : testing::Test {
     std::map<QString, int> losses(const char* format, const QStringList& columns = {}) {
         const auto found = lossesOf(carnet, formatNamed(format), carnet.records(), columns);
         EXPECT_TRUE(found);

@@ -6,7 +6,6 @@
 #include "support/testdesktop.h"
 
 #include <QSignalSpy>
-#include <gtest/gtest.h>
 
 #include <functional>
 #include <limits>
@@ -15,8 +14,7 @@ namespace tavrel {
 
 namespace {
 
-class CarnetTest : public testing::Test {
-protected:
+struct CarnetTest : testing::Test {
     void hold(std::vector<Plongee> dives) {
         carnet.appendDives(QStringLiteral("Add"), std::move(dives));
         carnet.undoStack().setClean();
@@ -39,13 +37,8 @@ protected:
         carnet.form().state().type(control.index, QString::fromUtf8(text));
     }
     QString shown(ControlId<DiveControls> control) const { return carnet.form().state().text(control); }
-    /// The texts of controls, named with blanks between, as "a|b".
     QString shown(const char* names) const {
-        QStringList texts;
-        for (const QString& name : QString::fromLatin1(names).split(u' ')) {
-            texts.append(carnet.form().state().at(controls.find(name.toStdString())).text);
-        }
-        return texts.join(u'|');
+        return eachOf(names, [this](const char* name) { return carnet.form().state().at(controls.find(name)).text; });
     }
 
     TestDesktop desktop;
@@ -153,9 +146,8 @@ TEST_F(CarnetTest, aSiteDivedBeforeFillsWhatIsEmpty) {
     type(controls.siteField, "arche");
     type(controls.paysField, "Malta");
     carnet.form().endEditing(controls.siteField.index);
-    EXPECT_EQ(shown(controls.lieuField), u"Marseille") << "of the last dive there";
-    EXPECT_EQ(shown(controls.paysField), u"Malta") << "what is typed stays";
-    EXPECT_EQ(shown(controls.gpsField), u"N 43° 12.345'  E 005° 20.700'");
+    EXPECT_EQ(shown("lieuField paysField gpsField"), u"Marseille|Malta|N 43° 12.345'  E 005° 20.700'")
+        << "of the last dive there; what is typed stays";
     EXPECT_EQ(carnet.form().state().tag(controls.gpsSystemPopUp), 0);
     EXPECT_EQ(carnet.form().hint(controls.siteField.index), u"From dive no. 2: Place, GPS position");
     carnet.addDive();
@@ -236,25 +228,6 @@ TEST_F(CarnetTest, goesFromDiveToDiveStoringTheForm) {
     carnet.undoStack().setClean();
     carnet.nextDive();  // nothing selected: nothing stored, nothing selected
     EXPECT_FALSE(carnet.isChanged());
-    carnet.selectRows({2});
-    type(controls.siteField, "Cave");
-    carnet.closeEditWindow();
-    EXPECT_EQ(carnet.recordAt(2)->site, u"Cave");
-}
-
-TEST_F(CarnetTest, storesNothingThatNobodyEntered) {
-    holdNumbers({1, 2});
-    carnet.selectRows({0});
-    EXPECT_TRUE(carnet.closeEditWindow());
-    type(controls.siteField, "Here");
-    type(controls.siteField, "");
-    EXPECT_TRUE(carnet.leaveForm(Leaving::saving));
-    carnet.nextDive();
-    EXPECT_FALSE(carnet.isChanged());  // stop depths that the form proposes are no entries either
-    EXPECT_EQ(carnet.recordAt(0)->decoDepth_Level_1, 0);
-    type(controls.siteField, "Here");
-    EXPECT_TRUE(carnet.leaveForm(Leaving::saving));
-    EXPECT_EQ(carnet.recordAt(1)->site, u"Here");
 }
 
 TEST_F(CarnetTest, asksWhatBecomesOfANewDiveOnEveryWayOut) {
@@ -293,26 +266,6 @@ TEST_F(CarnetTest, asksWhatBecomesOfANewDiveOnEveryWayOut) {
         EXPECT_EQ(carnet.recordAt(1)->site, QString());
         carnet.selectRows({1});
     }
-}
-
-TEST_F(CarnetTest, asksAboutAStoredDiveWhereStoringIsNoMatterOfCourse) {
-    holdNumbers({1, 2});
-    const auto site = [this](int row) { return carnet.recordAt(row)->site; };
-    carnet.selectRows({0});
-    type(controls.siteField, "Reef");
-    desktop.alerts.answerNext(2);
-    EXPECT_FALSE(carnet.userSelects({1}));
-    EXPECT_EQ(carnet.selectedRow(), 0);
-    desktop.alerts.answerNext(1);
-    EXPECT_TRUE(carnet.closeEditWindow(Leaving::escaping));
-    EXPECT_EQ(site(0), QString());
-    EXPECT_EQ(shown(controls.siteField), u"");
-    type(controls.siteField, "Wreck");
-    desktop.alerts.answerNext(0);
-    EXPECT_TRUE(carnet.userSelects({1}));
-    EXPECT_EQ(site(0), u"Wreck");
-    EXPECT_EQ(carnet.selectedRow(), 1);
-    EXPECT_EQ(desktop.alerts.questions.size(), 3U);
 }
 
 TEST_F(CarnetTest, keepsWhatIsTypedWhenAStepIsUndone) {
@@ -441,21 +394,13 @@ TEST(CarnetColumns, areSetUpWhereTheNumberIsHidden) {
 
 TEST_F(CarnetTest, offersItsCommandsSearchesAndPage) {
     const BookDescription& description = carnet.description();
-    const auto joined = [](std::span<const char* const> places) {
-        QStringList words;
-        for (const char* place : places) {
-            words << QLatin1String(place);
-        }
-        return words.join(u' ');
-    };
-    // Those that need dives in brackets.
+    // The commands of a bar, those that need dives in brackets.
     const auto items = [](const ToolBarDescription& bar) {
-        QStringList words;
-        for (const ToolItem& item : bar.items) {
+        const auto named = [](const ToolItem& item) {
             const QString word = QLatin1String(item.identifier) + u':' + QLatin1String(item.image);
-            words << (item.needsRecords ? u'(' + word + u')' : word);
-        }
-        return words.join(u' ');
+            return item.needsRecords ? u'(' + word + u')' : word;
+        };
+        return eachOf(bar.items, named, u' ');
     };
     const ToolBarDescription& table = description.tableToolBar;
     EXPECT_STREQ(table.identifier, "tableViewToolbar");
@@ -480,11 +425,11 @@ TEST_F(CarnetTest, offersItsCommandsSearchesAndPage) {
     EXPECT_EQ(joined(edit.initial),
               u"addDiveToList insertDive blankFields profil profilData importUDCF importUDDF "
               "separator customise flexibleSpace");
-    QStringList searched;
-    for (const BookSearch& search : description.searches) {
-        searched << search.title.textIn(QStringLiteral("en")) + u'=' + QLatin1String(search.field);
-    }
-    EXPECT_EQ(searched.join(u' '), u"Boats=bateau Wrecks=epaves Notes=notes Computers=ordi Buddies=partenaires");
+    const auto searched = [](const BookSearch& search) {
+        return search.title.textIn(QStringLiteral("en")) + u'=' + QLatin1String(search.field);
+    };
+    EXPECT_EQ(eachOf(description.searches, searched),
+              u"Boats=bateau|Wrecks=epaves|Notes=notes|Computers=ordi|Buddies=partenaires");
     for (const bool landscape : {false, true}) {
         const PrintSettings print = Carnet::defaultPrintingSettings(landscape);
         EXPECT_EQ(std::tuple(print.top, print.bottom, print.left, print.right, print.scale, print.landscape),

@@ -4,16 +4,13 @@
 #include "support/records.h"
 #include "support/testdesktop.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
 namespace tavrel {
 
 namespace {
 
-class DiveFiguresTest : public testing::Test {
-protected:
+struct DiveFiguresTest : testing::Test {
     KeyFigure figure(const Plongee& dive, const char* label) {
         const auto figures = keyFigures(dive, form);
         const auto found = std::find_if(figures.begin(), figures.end(), [&](const KeyFigure& each) {

@@ -66,11 +66,8 @@ TEST(ProfileSummary, countsOverTheDepthsOnly) {
     const ProfileSummary summary = summaryOf(profile);
     EXPECT_EQ(summary.maximum, 30.1F);
     EXPECT_EQ(summary.average, (12.5F + 30.1F + 4.0F) / 4);
-    EXPECT_EQ(summary.samples, 4);
-    EXPECT_EQ(summary.slow, 2);
-    EXPECT_EQ(summary.ceiling, 3);
-    EXPECT_EQ(summary.surface, 2);
-    EXPECT_EQ(summary.gasSwitches, 2);
+    EXPECT_EQ(std::tuple(summary.samples, summary.slow, summary.ceiling, summary.surface, summary.gasSwitches),
+              std::tuple(4, 2, 3, 2, 2));
     EXPECT_TRUE(summary.endsAtSurface);
 
     profile.SURF_Flag = Series::ofIntegers({1, 0, 0, 0});

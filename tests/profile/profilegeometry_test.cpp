@@ -47,19 +47,16 @@ TEST(ProfileGeometry, placesSamplesAndAxes) {
     depths[0] = 0;
     depths[1] = 5.5;
     const ProfileGeometry geometry = profileGeometry(diveOf(depths), plainStyle());
-    ASSERT_EQ(geometry.profile.size(), 15U);
-    EXPECT_EQ(geometry.profile[0], QPointF(30, 583));
-    EXPECT_EQ(geometry.profile[1], QPointF(30, 583));
-    EXPECT_EQ(geometry.profile[2], QPointF(80, 528));
-    EXPECT_EQ(geometry.profile[3], QPointF(130, 163));
-    EXPECT_EQ(geometry.profile[13], QPointF(630, 163));
-    EXPECT_EQ(geometry.profile[14], QPointF(680, 583));
+    Stroke profile{{30, 583}, {30, 583}, {80, 528}};
+    for (int sample = 2; sample < 13; ++sample) {
+        profile.emplace_back(30 + 50 * sample, 163);
+    }
+    profile.emplace_back(680, 583);
+    EXPECT_EQ(geometry.profile, profile);
     EXPECT_EQ(geometry.surface, (Stroke{{30, 583}, {680, 583}}));
     EXPECT_EQ(geometry.axes, (std::vector<Stroke>{{{30, 143}, {680, 143}, {675, 138}}, {{30, 143}, {30, 598}}}));
     EXPECT_EQ(labelsOf(geometry, Kind::axis), (Strings{"Time (min) 600 153", "Depth (m) 8 603"}));
-    EXPECT_TRUE(geometry.dashed.empty());
-    EXPECT_TRUE(geometry.limit.empty());
-    EXPECT_TRUE(geometry.icons.empty());
+    EXPECT_TRUE(geometry.dashed.empty() && geometry.limit.empty() && geometry.icons.empty());
 }
 
 TEST(ProfileGeometry, marksEveryFiveMinutesAndMetres) {

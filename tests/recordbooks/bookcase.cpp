@@ -2,6 +2,7 @@
 
 #include "archive/typedstreamtree.h"
 #include "recordbooks/recordbooks.h"
+#include "support/records.h"
 
 #include <QHash>
 #include <QJsonArray>
@@ -25,23 +26,6 @@ std::vector<ArchivedItem> archivedItems(const BookCase& book) {
     return items;
 }
 
-FieldValue valueAt(FieldKind kind, int place) {
-    switch (kind) {
-        case FieldKind::integer:
-            return qint32(place + 1);
-        case FieldKind::real:
-            return static_cast<float>(place) + 1.5F;
-        case FieldKind::text:
-            return QStringLiteral("t%1").arg(place + 1);
-        case FieldKind::date:
-            return Date((place + 1) * 86400.0);
-        case FieldKind::image:
-            return Image{QByteArray("t") + QByteArray::number(place + 1), 20, 10, {}};
-        default:
-            return {};
-    }
-}
-
 std::shared_ptr<Record> distinctRecord(const BookCase& book) {
     const RecordLayout& layout = book.book().layout();
     const auto record = layout.make();
@@ -49,7 +33,7 @@ std::shared_ptr<Record> distinctRecord(const BookCase& book) {
     for (std::size_t place = 0; place < items.size(); ++place) {
         const Field field = layout.field(std::string_view(items[place].field));
         if (!field.isNull()) {
-            field.setValue(*record, valueAt(field.kind(), static_cast<int>(place)));
+            field.setValue(*record, distinctValue(field.kind(), static_cast<int>(place) + 1));
         }
     }
     return record;

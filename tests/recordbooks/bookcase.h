@@ -42,12 +42,8 @@ struct ArchivedItem {
 /// The items of a case's list.
 std::vector<ArchivedItem> archivedItems(const BookCase& book);
 
-/// A record in which the field at each place of the list has a value of its own; see valueAt.
+/// A record in which the field at each place of the list, counted from 1, has a value of its own; see distinctValue().
 std::shared_ptr<Record> distinctRecord(const BookCase& book);
-
-/// The value of the field at a place from 0: the whole number place + 1, the decimal place + 1.5, the text "t" with
-/// place + 1, the day that lies place + 1 days after 1 January 2001, a picture whose bytes are that text.
-FieldValue valueAt(FieldKind kind, int place);
 
 /// What a file of one record holds, item by item: "i 3", "f 4.5", "@ t1", "@ 86400", "@ nil".
 QStringList itemsOf(const QByteArray& file);

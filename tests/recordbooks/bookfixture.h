@@ -8,14 +8,11 @@
 #include "support/streambytes.h"
 #include "support/testdesktop.h"
 
-#include <gtest/gtest.h>
-
 namespace tavrel {
 
 /// A record book of one type in a desktop of its own, driven by the names of its controls and fields.
 template <class Class, const BookDescription& (*describe)()>
-class BookFixture : public testing::Test {
-protected:
+struct BookFixture : testing::Test {
     const BookDescription& description = describe();
     TestDesktop desktop;
     std::unique_ptr<BookBase> book = description.make(desktop.desktop());
@@ -42,6 +39,13 @@ protected:
         const int column = table.columnOf(field);
         EXPECT_GE(column, 0) << field;
         return column < 0 ? Cell() : table.cell(0, column);
+    }
+    /// The texts of cells and of controls that are named with blanks between, as "a|b".
+    QString cells(const Class& record, const char* fields) {
+        return eachOf(fields, [&](const char* field) { return cell(record, field).text; });
+    }
+    QString texts(const char* names) {
+        return eachOf(names, [&](const char* control) { return at(control).text; });
     }
     /// The name of the colour of a cell's text.
     std::string colour(const Class& record, const char* field) {

@@ -12,9 +12,7 @@ using CompresseurTest = BookFixture<Compresseur, maintComp>;
 TEST_F(CompresseurTest, takesADashAndWhatLiesBelowMinusOneAsNotMeasured) {
     book->newRecord();
     EXPECT_TRUE(holds(*built(), "anHuile=-1|anCO2=-1|anCO=-1|anH2O=-1"));
-    for (const char* control : {"anHuileField", "anCO2Field", "anCOField", "anH2OField"}) {
-        EXPECT_EQ(at(control).text, u"-") << control;
-    }
+    EXPECT_EQ(texts("anHuileField anCO2Field anCOField anH2OField"), u"-|-|-|-");
     enter("anHuileField=-5|anCO2Field=-1|anCOField=0|anH2OField=-1.5");
     const auto service = built();
     EXPECT_TRUE(holds(*service, "anHuile=-1|anCO2=-1|anCO=0|anH2O=-1.5"));
@@ -22,59 +20,39 @@ TEST_F(CompresseurTest, takesADashAndWhatLiesBelowMinusOneAsNotMeasured) {
     EXPECT_EQ(built()->anHuile, 0.45F);
 
     book->form().editFields(*service);
-    EXPECT_EQ(at("anHuileField").text, u"-");
-    EXPECT_EQ(at("anCOField").text, u"0");
+    EXPECT_EQ(texts("anHuileField anCOField"), u"-|0");
 }
 
 TEST_F(CompresseurTest, offersChoicesOnlyForWhatWasDone) {
     book->newRecord();
     const auto offered = [this] {
-        QString letters;
-        for (const auto& [letter, control] :
-             {std::pair(u'h', "typeHuileMatrix"), std::pair(u'f', "operationFiltreMatrix"),
-              std::pair(u's', "intSoupapeMatrix"), std::pair(u'c', "charbonSwitch"), std::pair(u'a', "alumineSwitch"),
-              std::pair(u't', "tamisSwitch")}) {
-            letters += at(control).enabled ? QString(letter) : QString();
-        }
-        return letters;
+        return eachOf("typeHuileMatrix operationFiltreMatrix intSoupapeMatrix charbonSwitch alumineSwitch tamisSwitch",
+                      [this](const char* control) { return QString::number(at(control).enabled); });
     };
-    EXPECT_EQ(offered(), u"");
-    for (const auto& [control, choices] : {std::pair("vidangeSwitch", u"h"), std::pair("filtreAirSwitch", u"f"),
-                                           std::pair("soupapesSwitch", u"s"), std::pair("cartoucheSwitch", u"cat")}) {
+    EXPECT_EQ(offered(), u"0|0|0|0|0|0");
+    for (const auto& [control, choices] :
+         {std::pair("vidangeSwitch", u"1|0|0|0|0|0"), std::pair("filtreAirSwitch", u"0|1|0|0|0|0"),
+          std::pair("soupapesSwitch", u"0|0|1|0|0|0"), std::pair("cartoucheSwitch", u"0|0|0|1|1|1")}) {
         state().choose(indexOf(control), 1);
         EXPECT_EQ(offered(), choices) << control;
         state().choose(indexOf(control), 0);
-        EXPECT_EQ(offered(), u"") << control;
+        EXPECT_EQ(offered(), u"0|0|0|0|0|0") << control;
     }
 }
 
 TEST_F(CompresseurTest, showsOperationsAndAnalysesInItsColumns) {
-    Compresseur service;
-    service.temps = Date::fromDateTime(QDateTime(QDate(2001, 1, 1), QTime(7, 5)));
-    EXPECT_EQ(cell(service, "temps").text, u"07:05");
+    const char* columns = "temps vidange operationFiltre intSoupape anHuile anH2O anCO2 anCO";
+    auto service = filled<Compresseur>("temps=2001-01-01T07:05|anCO2=0");
+    EXPECT_EQ(cells(service, columns), u"07:05||Cleaning|Verification|0|0|0|0");
     book->form().blankFields(0);
     EXPECT_EQ(cell(*built(), "temps").text, u"");
     enter("tempsField=06:40");
     EXPECT_EQ(cell(*built(), "temps").text, u"06:40");
-    EXPECT_EQ(cell(service, "vidange").text, u"");
-    EXPECT_EQ(cell(service, "operationFiltre").text, u"Cleaning");
-    EXPECT_EQ(cell(service, "intSoupape").text, u"Verification");
-    EXPECT_EQ(cell(service, "anCO2").text, u"0");
-    service.vidange = service.operationFiltre = service.intSoupape = 1;
-    EXPECT_EQ(cell(service, "vidange").text, u"✓");
-    EXPECT_EQ(cell(service, "operationFiltre").text, u"Replacement");
-    EXPECT_EQ(cell(service, "intSoupape").text, u"Re-setting");
-    service.anHuile = service.anH2O = service.anCO = 2.5F;
-    service.anCO2 = -1;
-    service.anCO2Unit = service.anCOUnit = 1;
-    EXPECT_EQ(cell(service, "anHuile").text, u"2.5");
-    EXPECT_EQ(cell(service, "anH2O").text, u"2.5");
-    EXPECT_EQ(cell(service, "anCO").text, u"2.5 ppm");
-    EXPECT_EQ(cell(service, "anCO2").text, u"-");
-    service.anCO2 = 300;
-    service.anCOUnit = 0;
-    EXPECT_EQ(cell(service, "anCO2").text, u"300 ppm");
-    EXPECT_EQ(cell(service, "anCO").text, u"2.5");
+    fill(service,
+         "vidange=1|operationFiltre=1|intSoupape=1|anHuile=2.5|anH2O=2.5|anCO=2.5|anCO2=-1|anCO2Unit=1|anCOUnit=1");
+    EXPECT_EQ(cells(service, columns), u"07:05|✓|Replacement|Re-setting|2.5|2.5|-|2.5 ppm");
+    fill(service, "anCO2=300|anCOUnit=0");
+    EXPECT_EQ(cells(service, "anCO2 anCO"), u"300 ppm|2.5");
 }
 
 TEST_F(CompresseurTest, writesACardOfTheOperationsDoneUnderTheFirstBrand) {
@@ -100,10 +78,7 @@ TEST_F(CompresseurTest, writesACardOfTheOperationsDoneUnderTheFirstBrand) {
 
 TEST_F(CompresseurTest, countsServicesAndNamesThemByTheirDay) {
     EXPECT_EQ(book->countText(), u"0 services");
-    Compresseur service;
-    service.date = day(2024, 5, 3);
-    service.typeHuile = 7;
-    hold({service});
+    hold({filled<Compresseur>("date=2024-05-03|typeHuile=7")});
     EXPECT_EQ(book->countText(), u"One service");
     book->userSelects({0});
     EXPECT_TRUE(book->editWindowTitle().contains(u"2024")) << book->editWindowTitle().toStdString();

@@ -11,13 +11,6 @@ namespace {
 
 using ConsommablesTest = BookFixture<Consommables, invConso>;
 
-Consommables stocked(float stock, float reserve) {
-    Consommables part;
-    part.stock = stock;
-    part.reserve = reserve;
-    return part;
-}
-
 TEST_F(ConsommablesTest, readsVersion1WithWholeNumbers) {
     open("01", R"(
         92 8484 84"NSString"01 95 84"+" "R1" 86 92 84 99 99 "Aqua" 86 92 84 99 99 "hose" 86
@@ -33,20 +26,26 @@ TEST_F(ConsommablesTest, coloursWhatIsBelowItsReserve) {
         {2, 5, "#ff0000", "#ff0000"},   {5, 5, "#ff8000", "#000000"},     {6, 5, "#000000", "#000000"},
         {nan, 5, "#000000", "#000000"}, {nan, nan, "#000000", "#000000"}, {5, nan, "#000000", "#000000"},
     };
+    Consommables part;
     for (const auto& [stock, reserve, reference, quantity] : cases) {
-        EXPECT_EQ(colour(stocked(stock, reserve), "reference"), reference) << stock << ' ' << reserve;
-        EXPECT_EQ(colour(stocked(stock, reserve), "stock"), quantity) << stock << ' ' << reserve;
+        part.stock = stock;
+        part.reserve = reserve;
+        EXPECT_EQ(colour(part, "reference"), reference) << stock << ' ' << reserve;
+        EXPECT_EQ(colour(part, "stock"), quantity) << stock << ' ' << reserve;
     }
-    EXPECT_EQ(colour(stocked(2, 5), "reserve"), "default");
+    EXPECT_EQ(colour(part, "reserve"), "default");
 }
 
 TEST_F(ConsommablesTest, measuresTheStockInTenthsOfTheReserve) {
-    EXPECT_EQ(cell(stocked(2, 5), "progress").text, u"4.000000");
-    EXPECT_EQ(cell(stocked(5, 5), "progress").text, u"10.000000");
-    EXPECT_EQ(cell(stocked(2.5F, 0), "progress").text, u"25.000000");
-    EXPECT_EQ(cell(stocked(1, 3), "progress").text, u"3.333333");
-    // In single precision the product is 167772144, and a tenth of it 16777214.
-    EXPECT_EQ(cell(stocked(16777215, 10), "progress").text, u"16777214.000000");
+    // In single precision the last product is 167772144, and a tenth of it 16777214.
+    const std::pair<const char*, const char16_t*> cases[] = {{"stock=2|reserve=5", u"4.000000"},
+                                                             {"stock=5|reserve=5", u"10.000000"},
+                                                             {"stock=2.5|reserve=0", u"25.000000"},
+                                                             {"stock=1|reserve=3", u"3.333333"},
+                                                             {"stock=16777215|reserve=10", u"16777214.000000"}};
+    for (const auto& [held, tenths] : cases) {
+        EXPECT_EQ(cell(filled<Consommables>(held), "progress").text, tenths);
+    }
 }
 
 TEST_F(ConsommablesTest, marksWhatItBuildsAndHidesTheDayOfWhatIsNotCounted) {

@@ -12,7 +12,6 @@
 
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <gtest/gtest.h>
 
 #include <set>
 #include <tuple>
@@ -21,21 +20,12 @@ namespace tavrel {
 
 namespace {
 
-class RecordBook : public testing::TestWithParam<BookCase> {
-protected:
+struct RecordBook : testing::TestWithParam<BookCase> {
     const BookDescription& description = GetParam().book();
     const RecordLayout& layout = description.layout();
     TestDesktop desktop;
     std::unique_ptr<BookBase> book = description.make(desktop.desktop());
     const std::vector<PlacedControl>& controls = book->form().state().table().controls();
-
-    static QString identifiers(std::span<const char* const> places) {
-        QStringList list;
-        for (const char* place : places) {
-            list << QString::fromUtf8(place);
-        }
-        return list.join(u' ');
-    }
 };
 
 TEST_P(RecordBook, archivesItsFieldsInOrder) {
@@ -107,64 +97,54 @@ TEST_P(RecordBook, startsWithABlankForm) {
     EXPECT_TRUE(desktop.alerts.failures.empty());
 }
 
-/// Something to enter into a control of that kind.
-QString entryFor(const PlacedControl& placed, int place) {
-    switch (placed.control.kind) {
-        case ControlKind::wholeNumber:
-        case ControlKind::decimal:
-            return QString::number(place + 1);
+QString entryFor(const Control& control, int place) {
+    switch (control.kind) {
         case ControlKind::onOff:
             return QStringLiteral("1");
-        case ControlKind::popUp:
-        case ControlKind::radio:
-            return QString::number(placed.control.choices.back().tag);
         case ControlKind::slider:
         case ControlKind::rating:
-            return QString::number(placed.control.maximum);
+            return QString::number(control.maximum);
         case ControlKind::date:
             return QStringLiteral("2020-01-%1").arg(place % 28 + 1, 2, 10, QLatin1Char('0'));
         case ControlKind::time:
             return QStringLiteral("07:%1").arg(place % 60, 2, 10, QLatin1Char('0'));
         default:
-            return QStringLiteral("entry %1").arg(place);
+            return QString::number(control.choices.empty() ? place + 1 : control.choices.back().tag);
     }
 }
 
 TEST_P(RecordBook, bringsARecordFromTheFormAndBack) {
     book->newRecord();
     FormStateBase& state = book->form().state();
-    const auto takes = [&](std::size_t index) {
-        return takesEntries(controls[index].control.kind) && controls[index].control.kind != ControlKind::picture &&
-               !controls[index].field.empty();
-    };
-    for (std::size_t index = 0; index < controls.size(); ++index) {
-        if (takes(index)) {
-            const QString entry = entryFor(controls[index], static_cast<int>(index));
-            EXPECT_TRUE(enterValue(state, static_cast<int>(index), entry)) << controls[index].name;
+    std::vector<int> taking;
+    for (int index = 0; index < static_cast<int>(controls.size()); ++index) {
+        const auto& placed = controls[static_cast<std::size_t>(index)];
+        const ControlKind kind = placed.control.kind;
+        if (takesEntries(kind) && kind != ControlKind::picture && !placed.field.empty()) {
+            taking.push_back(index);
+            EXPECT_TRUE(enterValue(state, index, entryFor(placed.control, index))) << placed.name;
         }
     }
     EXPECT_TRUE(book->hasEntries());
+    const auto shown = [&] {
+        return eachOf(taking, [&](int index) {
+            const ControlState& at = state.at(index);
+            return QStringLiteral("%1: %2, %3, %4").arg(index).arg(at.text).arg(at.tag).arg(at.date.toIso());
+        });
+    };
+    const QString entered = shown();
     const auto record = book->form().buildRecord();
-    std::vector<ControlState> entered;
-    for (std::size_t index = 0; index < controls.size(); ++index) {
-        entered.push_back(state.at(static_cast<int>(index)));
-    }
     book->form().blankFields(0);
     book->form().editFields(*record);
     EXPECT_FALSE(book->hasEntries());
-    for (std::size_t index = 0; index < controls.size(); ++index) {
-        if (takes(index)) {
-            const ControlState& shown = state.at(static_cast<int>(index));
-            EXPECT_EQ(shown.text, entered[index].text) << controls[index].name;
-            EXPECT_EQ(shown.tag, entered[index].tag) << controls[index].name;
-            EXPECT_TRUE(shown.date == entered[index].date) << controls[index].name;
-        }
-    }
-    const auto again = book->form().buildRecord();
-    EXPECT_EQ(writeRecords({again}, layout), writeRecords({record}, layout));
+    EXPECT_EQ(shown(), entered);
+    EXPECT_EQ(writeRecords({book->form().buildRecord()}, layout), writeRecords({record}, layout));
 }
 
-TEST_P(RecordBook, hasAControlForEveryStoredField) {
+TEST_P(RecordBook, hasAControlForEveryStoredFieldAndNarrowMargins) {
+    const PrintSettings& print = description.print;
+    EXPECT_EQ(std::tuple(print.top, print.bottom, print.left, print.right, print.scale),
+              std::tuple(24.8, 25.0, 10.0, 10.0, 0.7));
     for (const auto& item : archivedItems(GetParam())) {
         const QString name = QString::fromStdString(item.field);
         EXPECT_TRUE(book->form().state().table().find(item.field) >= 0 || book->form().holdsBeside(name)) << item.field;
@@ -230,10 +210,10 @@ TEST_P(RecordBook, offersItsCommandsInTwoToolbars) {
                             .arg(divider, QString::fromUtf8(toolCustomise), QString::fromUtf8(toolFlexibleSpace));
     const QString table = QStringLiteral("saveDocument imprimer %1 %2 %3").arg(divider, words[0], words[4]) + end;
     const QString edit = QStringLiteral("%1 %2 %3 blankFields").arg(words[1], words[2], words[3]) + end;
-    EXPECT_EQ(identifiers(description.tableToolBar.initial), table);
-    EXPECT_EQ(identifiers(description.tableToolBar.allowed), table);
-    EXPECT_EQ(identifiers(description.editToolBar.initial), edit);
-    EXPECT_EQ(identifiers(description.editToolBar.allowed), edit);
+    EXPECT_EQ(joined(description.tableToolBar.initial), table);
+    EXPECT_EQ(joined(description.tableToolBar.allowed), table);
+    EXPECT_EQ(joined(description.editToolBar.initial), edit);
+    EXPECT_EQ(joined(description.editToolBar.allowed), edit);
     const QStringList needRecords{QStringLiteral("imprimer"), words[2], words[3], words[4], QStringLiteral("synthese")};
     for (const auto& bar : {description.tableToolBar, description.editToolBar}) {
         for (const ToolItem& item : bar.items) {
@@ -242,12 +222,6 @@ TEST_P(RecordBook, offersItsCommandsInTwoToolbars) {
             EXPECT_NE(item.tip.text(), missingText());
         }
     }
-}
-
-TEST_P(RecordBook, printsWithinNarrowMargins) {
-    const PrintSettings& print = description.print;
-    EXPECT_EQ(std::tuple(print.top, print.bottom, print.left, print.right, print.scale),
-              std::tuple(24.8, 25.0, 10.0, 10.0, 0.7));
 }
 
 TEST_P(RecordBook, addsChangesDeletesAndTakesItBack) {
@@ -308,12 +282,11 @@ TEST_P(RecordBook, namesEverythingInBothLanguages) {
 }
 
 TEST(RecordBooks, areMadeByActionsOfTheirOwn) {
-    QStringList actions;
-    for (const auto& book : recordBooks) {
-        actions << QString::fromUtf8(book().newAction).remove(QStringLiteral("DocumentMenuAction"));
-    }
+    const auto action = [](const auto& book) {
+        return QString::fromUtf8(book().newAction).remove(QStringLiteral("DocumentMenuAction"));
+    };
     EXPECT_EQ(
-        actions.join(u' '),
+        eachOf(recordBooks, action, u' '),
         u"newMateriel newEpaves newCompresseur newRebreather newConsommables newBudget newEntreprise newStructure "
         u"newDocument");
 }

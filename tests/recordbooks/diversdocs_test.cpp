@@ -4,7 +4,6 @@
 #include "recordbooks/bookfixture.h"
 #include "recordbooks/recordbooks.h"
 
-#include <QFile>
 #include <QImage>
 
 namespace tavrel {
@@ -29,11 +28,9 @@ TEST_F(DiversDocsTest, readsItsArchiveWithAPicture) {
 
 TEST_F(DiversDocsTest, startsWithoutDaysAndPicture) {
     book->newRecord();
-    const auto blank = built();
-    EXPECT_EQ(blank->type, 0);
-    EXPECT_TRUE(blank->date == noDate());
-    EXPECT_TRUE(blank->dateRenouvellement == noDate());
-    EXPECT_TRUE(blank->photocopy.isNull());
+    EXPECT_TRUE(holds(*built(), "type=0"));
+    EXPECT_TRUE(built()->date == noDate() && built()->dateRenouvellement == noDate());
+    EXPECT_TRUE(built()->photocopy.isNull());
     EXPECT_FALSE(at("dateRenouvellementField").enabled);
     enter("renouvelerSwitch=1");
     EXPECT_TRUE(at("dateRenouvellementField").enabled);
@@ -59,8 +56,7 @@ TEST_F(DiversDocsTest, takesPicturesByTheNameOfTheirFile) {
     const QString path = desktop.path(QStringLiteral("é.png"));
     ASSERT_TRUE(pixels.save(path));
     book->newRecord();
-    EXPECT_TRUE(enterValue(state(), indexOf("photocopy"), path));
-    EXPECT_TRUE(book->hasEntries());
+    EXPECT_TRUE(enterValue(state(), indexOf("photocopy"), path) && book->hasEntries());
     book->addRecord();
     const auto back = pixelsOf(record().photocopy);
     ASSERT_TRUE(back);

@@ -3,14 +3,13 @@
 #include "recordbooks/bookfixture.h"
 #include "recordbooks/recordbooks.h"
 
-#include <limits>
+#include <ranges>
 
 namespace tavrel {
 
 namespace {
 
-class EntreprisesTest : public BookFixture<Entreprises, adressesEts> {
-protected:
+struct EntreprisesTest : BookFixture<Entreprises, adressesEts> {
     /// A file of one company, whose postal code and what follows the remarks are written as its version does.
     void openVersion(const char* version, const std::string& postalCode, const std::string& behind) {
         std::string hours;
@@ -48,9 +47,8 @@ TEST_F(EntreprisesTest, isClosedOnSundaysAtFirst) {
     for (const auto& [language, closed] : {std::pair("fr", "Fermé"), std::pair("en", "Closed")}) {
         setTextLanguage(QString::fromUtf8(language));
         book->newRecord();
-        EXPECT_EQ(at("horaireLundi_1Field").text, u"-");
-        EXPECT_EQ(at("horaireSamedi_4Field").text, u"-");
-        EXPECT_EQ(at("horaireDimanche_1Field").text, QString::fromUtf8(closed));
+        EXPECT_EQ(texts("horaireLundi_1Field horaireSamedi_4Field horaireDimanche_1Field"),
+                  QStringLiteral("-|-|") + QString::fromUtf8(closed));
         EXPECT_EQ(built()->horaireDimanche_4, QString::fromUtf8(closed));
         EXPECT_EQ(built()->entreprise, u"");
         EXPECT_TRUE(built()->miseAJour == Date::fromDateTime(desktop.clock.moment));
@@ -78,16 +76,12 @@ TEST_F(EntreprisesTest, coloursCardsByTheirAge) {
     // What keeps its colour has that of the row above it.
     hold({aged(80000000), aged(31557600), aged(63115200), aged(1), aged(63115200)});
     const BookTable table(*book);
-    QStringList drawn;
-    for (int row = book->count() - 5; row < book->count(); ++row) {
-        drawn << table.cell(row, table.columnOf("miseAJour")).style.text->name();
-    }
-    EXPECT_EQ(drawn.join(u' '), u"#ff0000 #ff0000 #ff0000 #000000 #000000");
-    Entreprises odd;
-    EXPECT_EQ(colour(odd, "miseAJour"), "#000000");
-    odd.miseAJour = Date(-std::numeric_limits<double>::infinity());
-    EXPECT_EQ(colour(odd, "miseAJour"), "#ff0000");
-    EXPECT_EQ(colour(odd, "entreprise"), "default");
+    EXPECT_EQ(eachOf(std::views::iota(book->count() - 5, book->count()),
+                     [&](int row) { return table.cell(row, table.columnOf("miseAJour")).style.text->name(); }),
+              u"#ff0000|#ff0000|#ff0000|#000000|#000000");
+    EXPECT_EQ(colour({}, "miseAJour"), "#000000");
+    EXPECT_EQ(colour(filled<Entreprises>("miseAJour=-inf"), "miseAJour"), "#ff0000");
+    EXPECT_EQ(colour({}, "entreprise"), "default");
 }
 
 TEST_F(EntreprisesTest, showsRatingsAsStars) {

@@ -12,13 +12,11 @@
 #include "support/testdesktop.h"
 
 #include <QSignalSpy>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 namespace {
 
-class FilterTest : public testing::Test {
-protected:
+struct FilterTest : testing::Test {
     FilterTest() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom)); }
     ~FilterTest() override { QLocale::setDefault(QLocale::c()); }
 
@@ -41,8 +39,7 @@ Materiel item(const char* kind, const char* notes, const char* price, QDate boug
     return made;
 }
 
-class EquipmentFilterTest : public FilterTest {
-protected:
+struct EquipmentFilterTest : FilterTest {
     EquipmentFilterTest() {
         Materiel tank = item("Tank", "Peinte à l’école\nen jaune", "265.00", {2016, 6, 30}, 1);
         tank.capaciteBloc = 12.2F;
@@ -125,8 +122,7 @@ TEST_F(EquipmentFilterTest, marksWhatMatchesInTheFieldsAskedFor) {
     static_cast<void>(shown("tank state:repair quantity>0"));
     EXPECT_EQ(marks("typeMatos", u"Tank, tank"), (QList<TextRange>{{0, 4}, {6, 4}}));
     EXPECT_EQ(marks("equipState", u"To repair"), (QList<TextRange>{{3, 6}}));
-    EXPECT_TRUE(marks("lieuAchatMatos", u"repair shop").isEmpty());
-    EXPECT_TRUE(marks("quantiteMatos", u"0").isEmpty());
+    EXPECT_TRUE(marks("lieuAchatMatos", u"repair shop").isEmpty() && marks("quantiteMatos", u"0").isEmpty());
     static_cast<void>(shown(""));
     EXPECT_TRUE(marks("typeMatos", u"Tank").isEmpty());
 }
@@ -158,14 +154,12 @@ TEST_F(EquipmentFilterTest, keepsInSightWhatIsEditedAddedOrBroughtBack) {
     EXPECT_EQ(shown("torch"), (std::vector{1, 3}));
     book->sortBy(QStringLiteral("quantiteMatos"));
     for (const int row : book->filter().shownRows()) {
-        EXPECT_EQ(static_cast<const Materiel&>(*book->recordAt(row)).typeMatos, u"Torch");
+        EXPECT_EQ(as<Materiel>(book->recordAt(row)).typeMatos, u"Torch");
     }
     EXPECT_EQ(book->filter().shownCount(), 2);
     RecordList all;
     for (const RecordPointer& each : book->records()) {
-        auto copy = std::make_shared<Materiel>(static_cast<const Materiel&>(*each));
-        copy->marqueMatos = QStringLiteral("Other");
-        all.push_back(std::move(copy));
+        all.push_back(std::make_shared<Materiel>(as<Materiel>(each)));
     }
     book->changeList(QStringLiteral("All"), std::move(all));
     EXPECT_EQ(book->filter().shownCount(), 2) << "many at once are filtered again";

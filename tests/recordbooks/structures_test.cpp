@@ -32,10 +32,7 @@ TEST_F(StructuresTest, startsAsACommercialClubThatIsOpenAnyDay) {
     const auto blank = built();
     EXPECT_TRUE(holds(*blank, "type=1|cotation=0|horaireLundi_1=-|horaireDimanche_4=-"));
     EXPECT_TRUE(blank->miseAJour == Date::fromDateTime(desktop.clock.moment));
-}
-
-TEST_F(StructuresTest, holdsPostalCodesAsNumbers) {
-    book->newRecord();
+    // Postal codes are numbers here.
     enter("codePostalField=01000");
     const auto club = built();
     EXPECT_EQ(club->codePostal, 1000);
@@ -45,28 +42,22 @@ TEST_F(StructuresTest, holdsPostalCodesAsNumbers) {
 }
 
 TEST_F(StructuresTest, coloursRatingsAndNothingByAge) {
-    Structures club;
-    EXPECT_EQ(colour(club, "cotation"), "#000000");
-    club.cotation = 6;
-    EXPECT_EQ(colour(club, "cotation"), "#996633");
-    EXPECT_EQ(cell(club, "cotation").text, u"☆");
-    club.miseAJour = Date(0);
-    EXPECT_EQ(colour(club, "miseAJour"), "default");
+    EXPECT_EQ(colour({}, "cotation"), "#000000");
+    EXPECT_EQ(colour(filled<Structures>("cotation=6"), "cotation"), "#996633");
+    EXPECT_EQ(cell(filled<Structures>("cotation=6"), "cotation").text, u"☆");
+    EXPECT_EQ(colour(filled<Structures>("miseAJour=0"), "miseAJour"), "default");
 }
 
 TEST_F(StructuresTest, listsPricesOfWhatHasAName) {
     auto club = filled<Structures>(
-        "nom=Club|affiliation=FF|gerant=Anne|adresse=Quay "
-        "3|ville=Nice|pays=France|telephone=1|portable=2|fax=3|email=a@b|"
-        "url=w|remarques=fine|cotation=7|bapteme=45|prix_1=99|plongee_2=Boat dive|prix_2=32.5|formation_6=Nitrox|"
-        "prixForm_6=120.999|nbPlongees=12");
+        "nom=Club|affiliation=FF|gerant=Anne|adresse=Quay 3|ville=Nice|pays=France|telephone=1|portable=2|fax=3|"
+        "email=a@b|url=w|remarques=fine|cotation=7|bapteme=45|prix_1=99|plongee_2=Boat dive|prix_2=32.5|"
+        "formation_6=Nitrox|prixForm_6=120.999|nbPlongees=12");
     const QString text = card({club});
-    EXPECT_TRUE(
-        text.startsWith(u"Club address book/Name: Club/Type: Non-profit/Affiliation: FF/Manager: Anne/Address: Quay 3 "
-                        u"0 Nice France/Telephone: 1/"
-                        u"Mobile: 2/Fax: 3/E-mail: a@b/Web: w/Rating: 7/Updated on: /Prices:/Bapteme : 45.00 €/Boat "
-                        u"dive : 32.50 €/Nitrox : 121.00 €/"
-                        u"/Opening hours:/   Monday:  -  /  - "))
+    EXPECT_TRUE(text.startsWith(
+        u"Club address book/Name: Club/Type: Non-profit/Affiliation: FF/Manager: Anne/Address: Quay 3 0 Nice France"
+        u"/Telephone: 1/Mobile: 2/Fax: 3/E-mail: a@b/Web: w/Rating: 7/Updated on: /Prices:/Bapteme : 45.00 €"
+        u"/Boat dive : 32.50 €/Nitrox : 121.00 €//Opening hours:/   Monday:  -  /  - "))
         << text.toStdString();
     EXPECT_TRUE(text.endsWith(u"/   Sunday:  -  /  - /Dives made: 12/Remarks: fine")) << text.toStdString();
     for (const auto* kind : {u"/Type: Commercial/", u"/Type: Unknown/", u"/Type: /"}) {

@@ -2,8 +2,6 @@
 
 #include "support/printing.h"
 
-#include <gtest/gtest.h>
-
 #include <limits>
 
 namespace tavrel {

@@ -8,8 +8,7 @@
 namespace tavrel {
 
 /// Answers with the names queued for it, as a user who chooses them; cancels when there are none.
-class QueuedFileDialogs : public FileDialogs {
-public:
+struct QueuedFileDialogs : FileDialogs {
     QStringList filesToOpen(QWidget* parent, const QString&, const QList<FileFilter>& filters, bool several) override {
         askedBy = parent;
         severalAllowed = several;

@@ -34,22 +34,15 @@ FieldValue valueOf(FieldKind kind, const QString& words) {
     }
 }
 
-QString said(qint32 held) {
-    return QString::number(held);
-}
-QString said(float held) {
-    return shortestText(held);
-}
-QString said(const QString& held) {
-    return held;
-}
-template <class Other>
-QString said(const Other&) {
-    return QStringLiteral("not of a kind that is said so");
-}
-
 QString said(const FieldValue& value) {
-    return std::visit([](const auto& held) { return said(held); }, value);
+    if (const auto* number = std::get_if<qint32>(&value)) {
+        return QString::number(*number);
+    }
+    if (const auto* number = std::get_if<float>(&value)) {
+        return shortestText(*number);
+    }
+    const auto* text = std::get_if<QString>(&value);
+    return text ? *text : QStringLiteral("not of a kind that is said so");
 }
 
 Field fieldOf(const RecordLayout& layout, const std::string& name) {
@@ -73,6 +66,24 @@ void fill(Record& record, const RecordLayout& layout, const char* values) {
         if (const Field field = fieldOf(layout, name); !field.isNull()) {
             EXPECT_TRUE(field.setValue(record, valueOf(field.kind(), words))) << name;
         }
+    }
+}
+
+FieldValue distinctValue(FieldKind kind, int number) {
+    const QString text = QStringLiteral("t%1").arg(number);
+    switch (kind) {
+        case FieldKind::integer:
+            return qint32{number};
+        case FieldKind::real:
+            return static_cast<float>(number) + 0.5F;
+        case FieldKind::text:
+            return text;
+        case FieldKind::date:
+            return Date(number * 86400.0);
+        case FieldKind::image:
+            return Image{text.toLatin1(), 20, 10, {}};
+        default:
+            return Series::ofReals({double(number), number + 0.5});
     }
 }
 

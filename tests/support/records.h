@@ -42,11 +42,20 @@ std::vector<std::pair<std::string, QString>> namedValues(const char* values);
 void fill(Record& record, const RecordLayout& layout, const char* values);
 
 template <class Class>
+void fill(Class& record, const char* values) {
+    fill(record, Class::layout(), values);
+}
+
+template <class Class>
 Class filled(const char* values) {
     Class record;
-    fill(record, Class::layout(), values);
+    fill(record, values);
     return record;
 }
+
+/// A value that the field of no other number has: 3, 3.5, "t3", the day 3 days after 1 January 2001, the series 3 and
+/// 3.5, a picture whose bytes are the text.
+FieldValue distinctValue(FieldKind kind, int number);
 
 /// Whether the fields hold exactly these values, given as to fill().
 testing::AssertionResult holds(const Record& record, const RecordLayout& layout, const char* values);
@@ -58,5 +67,10 @@ testing::AssertionResult holds(const Class& record, const char* values) {
 
 /// What the named fields hold, "temps lieu" as "42; Gozo".
 QString fieldsOf(const Record& record, const RecordLayout& layout, const char* names);
+
+template <class Class>
+QString fieldsOf(const Class& record, const char* names) {
+    return fieldsOf(record, Class::layout(), names);
+}
 
 }  // namespace tavrel

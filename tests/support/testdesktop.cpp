@@ -2,8 +2,6 @@
 
 #include "desktop/defaults.h"
 
-#include <gtest/gtest.h>
-
 namespace tavrel {
 
 void RecordingAlerts::clear() {

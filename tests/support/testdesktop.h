@@ -20,8 +20,7 @@ namespace tavrel {
 
 /// Records what the program says and answers its questions with the queued answers; an unexpected question fails the
 /// test and is answered with the last button.
-class RecordingAlerts : public Alerts {
-public:
+struct RecordingAlerts : Alerts {
     struct Question {
         QString message;
         QStringList buttons;
@@ -46,8 +45,7 @@ private:
 };
 
 /// A clock that stands still until it is set.
-class FixedClock : public Clock {
-public:
+struct FixedClock : Clock {
     QDateTime now() const override { return moment; }
 
     QDateTime moment{QDate(2024, 6, 15), QTime(14, 30)};

@@ -5,8 +5,6 @@
 #include "recordbooks/recordbooks.h"
 #include "support/testdesktop.h"
 
-#include <gtest/gtest.h>
-
 namespace tavrel {
 
 namespace {

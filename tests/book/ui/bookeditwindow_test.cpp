@@ -8,8 +8,6 @@
 #include "logbook/carnet.h"
 #include "support/testdesktop.h"
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -21,7 +19,6 @@
 #include <QSlider>
 #include <QTest>
 #include <QWheelEvent>
-#include <gtest/gtest.h>
 
 #include <set>
 
@@ -29,8 +26,7 @@ namespace tavrel {
 
 namespace {
 
-class BookEditWindowTest : public testing::Test {
-protected:
+struct BookEditWindowTest : testing::Test {
     BookEditWindowTest() { show(); }
 
     void show() {
@@ -72,14 +68,11 @@ ControlState BookEditWindowTest::use(int index) {
     const Control& control = placed()[static_cast<std::size_t>(index)].control;
     ControlState expected = state().at(index);
     QWidget* used = widget(index);
-    if (auto* line = qobject_cast<QLineEdit*>(used)) {
+    const auto* combo = qobject_cast<ListCombo*>(used);
+    if (auto* line = combo ? combo->lineEdit() : qobject_cast<QLineEdit*>(used)) {
         line->selectAll();
         QTest::keyClicks(line, QStringLiteral("4x2"));
         expected.text = QStringLiteral("4x2");
-    } else if (auto* combo = qobject_cast<ListCombo*>(used)) {
-        combo->lineEdit()->selectAll();
-        QTest::keyClicks(combo->lineEdit(), QStringLiteral("Other"));
-        expected.text = QStringLiteral("Other");
     } else if (auto* menu = qobject_cast<QComboBox*>(used)) {
         const int row = menu->currentIndex() == 0 ? 1 : 0;
         menu->setFocus();
@@ -354,8 +347,7 @@ TEST_F(BookEditWindowTest, storesNothingThatNobodyTyped) {
     QTest::keyClicks(boat, QStringLiteral("x"));
     QTest::keyClick(boat, Qt::Key_Backspace);
     QTest::keyClick(&window, Qt::Key_Escape);
-    EXPECT_FALSE(window.isVisible());
-    EXPECT_FALSE(carnet.isChanged());
+    EXPECT_FALSE(window.isVisible() || carnet.isChanged());
 
     // Nor is a new dive added that nobody touched, though the button adds what it is told to.
     carnet.newDive();

@@ -18,9 +18,7 @@
 
 #include <QAbstractItemModelTester>
 #include <QApplication>
-#include <QDesktopServices>
 #include <QDragEnterEvent>
-#include <QDragMoveEvent>
 #include <QDropEvent>
 #include <QFontMetricsF>
 #include <QHeaderView>
@@ -31,14 +29,13 @@
 #include <QProgressBar>
 #include <QScrollBar>
 #include <QSignalSpy>
-#include <QStatusBar>
 #include <QTest>
 #include <QTextEdit>
 #include <QUrl>
-#include <gtest/gtest.h>
 
 #include <cmath>
 #include <map>
+#include <ranges>
 
 namespace tavrel {
 
@@ -46,8 +43,7 @@ namespace {
 
 enum Answer { keep, discard, cancel };
 
-class RecordBookTest : public testing::Test {
-protected:
+struct RecordBookTest : testing::Test {
     RecordBookTest() {
         window.show();
         window.activateWindow();
@@ -61,12 +57,8 @@ protected:
         }
         book.appendRecords(QStringLiteral("Add"), listOf(things));
     }
-    QStringList names() {
-        QStringList result;
-        for (int row = 0; row < book.count(); ++row) {
-            result.append(book.record(row).name);
-        }
-        return result;
+    QString names() {
+        return eachOf(std::views::iota(0, book.count()), [this](int row) { return book.record(row).name; });
     }
     void type(auto id, const QString& text) { book.form().state().type(id.index, text); }
     void click(int row) {
@@ -88,10 +80,7 @@ protected:
 
 TEST_F(RecordBookTest, asksOnceWhateverTheWayOutOfANewRecord) {
     hold({QStringLiteral("a"), QStringLiteral("b")});
-    const struct {
-        const char* what;
-        std::function<void()> leave;
-    } ways[] = {
+    const std::pair<const char*, std::function<void()>> ways[] = {
         {"another row", [&] { click(1); }},
         {"the arrow key", [&] { QTest::keyClick(&window.table(), Qt::Key_Up); }},
         {"all rows", [&] { command("selectAll")->trigger(); }},
@@ -107,13 +96,13 @@ TEST_F(RecordBookTest, asksOnceWhateverTheWayOutOfANewRecord) {
         {"leaving", [&] { EXPECT_FALSE(window.leaveEditing(Settling::leaving)); }},
         {"printing", [&] { command("imprimer")->trigger(); }},
     };
-    for (const auto& way : ways) {
-        SCOPED_TRACE(way.what);
+    for (const auto& [what, leave] : ways) {
+        SCOPED_TRACE(what);
         desktop.alerts.clear();
         command("newThing")->trigger();
         type(controls.nameField, QStringLiteral("typed"));
         desktop.alerts.answerNext(cancel);
-        way.leave();
+        leave();
         EXPECT_EQ(desktop.alerts.questions.size(), 1U);
         EXPECT_TRUE(window.editWindow().isVisible());
         EXPECT_EQ(typedName(), u"typed");
@@ -128,7 +117,7 @@ TEST_F(RecordBookTest, asksOnceWhateverTheWayOutOfANewRecord) {
     type(controls.nameField, QStringLiteral("c"));
     desktop.alerts.answerNext(keep);
     click(1);
-    EXPECT_EQ(names(), (QStringList{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}));
+    EXPECT_EQ(names(), u"a|b|c");
     EXPECT_EQ(book.selectedRows(), QList<int>({1}));
     EXPECT_EQ(typedName(), u"b");
 }
@@ -149,7 +138,7 @@ TEST_F(RecordBookTest, keepsTheSelectionWhereAnEditedRecordIsNotLeft) {
     desktop.alerts.answerNext(keep);
     click(2);
     EXPECT_EQ(book.selectedRows(), QList<int>({2}));
-    EXPECT_EQ(names().front(), u"changed");
+    EXPECT_TRUE(names().startsWith(u"changed|"));
     EXPECT_EQ(typedName(), u"c");
 }
 
@@ -176,17 +165,21 @@ TEST_F(RecordBookTest, opensNothingWhereNoRowIsSelected) {
 
 TEST_F(RecordBookTest, tellsTheViewWhichRowsChanged) {
     hold({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
-    const QSignalSpy resets(window.table().model(), &QAbstractItemModel::modelReset);
-    const QSignalSpy changes(window.table().model(), &QAbstractItemModel::dataChanged);
+    const QAbstractItemModel& model = *window.table().model();
+    const QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+    const QSignalSpy changes(&model, &QAbstractItemModel::dataChanged);
     ASSERT_TRUE(book.setValue(1, QStringLiteral("name"), QStringLiteral("B")));
     ASSERT_EQ(changes.count(), 1);
-    EXPECT_EQ(changes[0][0].toModelIndex().row(), 1);
-    EXPECT_EQ(changes[0][1].toModelIndex().row(), 1);
-    EXPECT_EQ(window.table().model()->index(1, 0).data().toString(), u"B");
-    EXPECT_EQ(resets.count(), 0);
+    EXPECT_EQ(std::pair(changes[0][0].toModelIndex().row(), changes[0][1].toModelIndex().row()), std::pair(1, 1));
+    EXPECT_EQ(model.index(1, 0).data().toString(), u"B");
     book.undoStack().undo();
-    EXPECT_EQ(window.table().model()->index(1, 0).data().toString(), u"b");
+    EXPECT_EQ(model.index(1, 0).data().toString(), u"b");
     EXPECT_EQ(changes.count(), 2);
+    EXPECT_EQ(resets.count(), 0);
+    // A colour only where it is not that of text.
+    ASSERT_TRUE(book.setValue(1, QStringLiteral("price"), 20.0F));
+    EXPECT_FALSE(model.index(0, 1).data(Qt::ForegroundRole).isValid());
+    EXPECT_EQ(model.index(1, 1).data(Qt::ForegroundRole).value<QColor>(), QColor(255, 0, 0));
 }
 
 TEST_F(RecordBookTest, takesRowsInAndOutWithoutMovingTheOthers) {
@@ -237,25 +230,15 @@ TEST_F(RecordBookTest, takesRowsInAndOutWithoutMovingTheOthers) {
     EXPECT_EQ(model.rowCount(), 198);
 }
 
-TEST_F(RecordBookTest, showsColoursOnlyWhereTheyAreNotThatOfText) {
-    hold({QStringLiteral("cheap"), QStringLiteral("dear")});
-    ASSERT_TRUE(book.setValue(1, QStringLiteral("price"), 20.0F));
-    const auto* model = window.table().model();
-    EXPECT_FALSE(model->index(0, 1).data(Qt::ForegroundRole).isValid());
-    EXPECT_EQ(model->index(1, 1).data(Qt::ForegroundRole).value<QColor>(), QColor(255, 0, 0));
-}
-
 TEST_F(RecordBookTest, filtersAsOneTypes) {
     hold({QStringLiteral("Regulator"), QStringLiteral("Lamp 7"), QStringLiteral("Knife")});
     ASSERT_TRUE(book.setValue(2, QStringLiteral("price"), 17.5F));
     QLineEdit& field = window.filterBar().field();
     const auto* count = window.filterBar().findChild<QLabel*>(QStringLiteral("filterCount"));
+    const QAbstractItemModel& model = *window.table().model();
     const auto shown = [&] {
-        QStringList names;
-        for (int row = 0; row < window.table().model()->rowCount(); ++row) {
-            names.append(window.table().model()->index(row, 0).data().toString());
-        }
-        return names.join(u'|');
+        return eachOf(std::views::iota(0, model.rowCount()),
+                      [&](int row) { return model.index(row, 0).data().toString(); });
     };
     EXPECT_EQ(window.searchField(), nullptr);
     EXPECT_EQ(count->text(), QString());
@@ -273,8 +256,8 @@ TEST_F(RecordBookTest, filtersAsOneTypes) {
     desktop.alerts.answerNext(0);
     command("deleteThing")->trigger();
     EXPECT_EQ(desktop.alerts.questions.front().message, u"Delete 2 cards?");
-    EXPECT_EQ(names(), QStringList{QStringLiteral("Regulator")});
-    EXPECT_EQ(window.table().model()->rowCount(), 0);
+    EXPECT_EQ(names(), u"Regulator");
+    EXPECT_EQ(model.rowCount(), 0);
 
     window.filterBar().keep(QStringLiteral("Sevens & such"));
     QTest::keyClick(&field, Qt::Key_Escape);
@@ -300,11 +283,7 @@ QStringList rowsOn(const Drawing& page) {
     }
     QStringList lines;
     for (const auto& [height, cells] : rows) {
-        QStringList words;
-        for (const auto& [place, word] : cells) {
-            words.append(word);
-        }
-        lines.append(words.join(u'|'));
+        lines.append(eachOf(cells, [](const auto& cell) { return cell.second; }));
     }
     return lines;
 }
@@ -377,12 +356,11 @@ TEST_F(RecordBookTest, takesADroppedRowAsACopyOfTheLast) {
         QDropEvent drop(QPointF(5, 5), Qt::CopyAction | Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(target, &drop);
     }
-    EXPECT_EQ(names(), (QStringList{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("b")}));
+    EXPECT_EQ(names(), u"a|b|b");
 }
 
 TEST_F(RecordBookTest, showsOneActionForACommandEverywhere) {
-    EXPECT_FALSE(command("deleteThing")->isEnabled());
-    EXPECT_FALSE(command("synthese")->isEnabled());
+    EXPECT_FALSE(command("deleteThing")->isEnabled() || command("synthese")->isEnabled());
     EXPECT_TRUE(command("newThing")->isEnabled());
     hold({QStringLiteral("a")});
     EXPECT_TRUE(command("deleteThing")->isEnabled());
@@ -480,14 +458,10 @@ TEST_F(RecordBookTest, showsDaysStarsBarsAndColours) {
 }
 
 TEST(AddressOf, leadsOutOnlyWhereAnAddressDoes) {
-    const struct {
-        Opens opens;
-        const char* text;
-        const char* address;
-    } cases[] = {
+    const std::tuple<Opens, const char*, const char*> cases[] = {
         {Opens::mail, " club@example.org ", "mailto:club@example.org"},
         {Opens::mail, "none", ""},
-        {Opens::phone, "+33 (0)1 23.45", "tel:+331 2345"},
+        {Opens::phone, "+33 (0)1 23.45", "tel:+3312345"},
         {Opens::phone, "01 23 / 06 45", "tel:0123"},
         {Opens::phone, "ask", ""},
         {Opens::web, "example.org/a", "http://example.org/a"},
@@ -496,10 +470,8 @@ TEST(AddressOf, leadsOutOnlyWhereAnAddressDoes) {
         {Opens::web, "/etc/passwd", ""},
         {Opens::nothing, "https://example.org", ""},
     };
-    for (const auto& it : cases) {
-        EXPECT_EQ(addressOf(it.opens, QString::fromUtf8(it.text)).toString(),
-                  QString::fromUtf8(it.address).remove(u' '))
-            << it.text;
+    for (const auto& [opens, text, address] : cases) {
+        EXPECT_EQ(addressOf(opens, QString::fromUtf8(text)).toString(), QString::fromUtf8(address)) << text;
     }
 }
 

@@ -8,8 +8,7 @@ namespace tavrel {
 namespace {
 
 /// Wears off by ten percent for each unit of its price.
-class ThingForm : public RecordForm<ThingControls, Thing> {
-public:
+struct ThingForm : RecordForm<ThingControls, Thing> {
     using RecordForm::RecordForm;
 
 protected:
@@ -91,11 +90,7 @@ const BookDescription& shelf() {
         it.commands = {"newThing", "addThing", "insertThing", "updateThing", "deleteThing"};
         it.words.windowTitle = literal("Thing %@");
         it.words.newRecord = literal("New Thing");
-        it.words.editRecord = literal("Edit Thing");
-        it.words.insertRecord = literal("Insert Thing");
         it.words.deleteRecords = literal("Delete Things");
-        it.words.previousRecord = literal("Previous Thing");
-        it.words.nextRecord = literal("Next Thing");
         it.words.menu = literal("Things");
         it.words.tableName = literal("Table of things");
         it.words.emptyTable = literal("No things yet: %@");

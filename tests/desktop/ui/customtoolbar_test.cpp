@@ -8,7 +8,6 @@
 #include <QListWidget>
 #include <QMainWindow>
 #include <QToolButton>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 
@@ -22,8 +21,7 @@ constexpr const char* allowed[] = {"save", "print", toolSpace, toolSeparator, to
 constexpr const char* initial[] = {"save", toolSeparator, "later", toolSeparator, "print", toolFlexibleSpace, "find"};
 constexpr ToolBarDescription description{"testToolbar", items, allowed, initial};
 
-class ToolBar : public testing::Test {
-protected:
+struct ToolBar : testing::Test {
     /// A toolbar that can save, print and find, but nothing later.
     std::unique_ptr<CustomToolBar> make() {
         auto bar = std::make_unique<CustomToolBar>(description, desktop.preferences, &window);

@@ -4,7 +4,6 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 

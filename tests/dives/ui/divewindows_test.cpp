@@ -5,7 +5,6 @@
 #include "dives/ui/previoustotalswindow.h"
 #include "dives/ui/statisticswindow.h"
 #include "profile/profileseries.h"
-#include "support/printing.h"
 #include "support/testdesktop.h"
 
 #include <QCheckBox>
@@ -13,13 +12,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 namespace {
 
-class DiveWindowsTest : public testing::Test {
-protected:
+struct DiveWindowsTest : testing::Test {
     DiveWindowsTest() {
         for (const float depth : {5.0F, 25.0F, 35.0F, 62.0F}) {
             Plongee dive;
@@ -54,9 +51,10 @@ TEST_F(DiveWindowsTest, StatisticsFollowTheChoiceThePreviousTotalsAndTheSwitch) 
     StatisticsWindow window(source(), desktop_.desktop(), {});
     window.showStatisticsWindow();
     EXPECT_EQ(window.windowTitle(), u"Statistics of Lagoon");
-    EXPECT_EQ(shown(window, "statDivesField"), u"4 dives");
-    EXPECT_EQ(shown(window, "statProf_7Field"), u"1");
-    EXPECT_EQ(shown(window, "statP_Prof_7Field"), u"25.0 %");
+    const auto figures = [&](const char* names) {
+        return eachOf(names, [&](const char* name) { return shown(window, name); });
+    };
+    EXPECT_EQ(figures("statDivesField statProf_7Field statP_Prof_7Field"), u"4 dives|1|25.0 %");
     EXPECT_EQ(window.findChild<QLabel*>(QStringLiteral("statP_Prof_7Field"))->toolTip(),
               u"Share = 1 / 4 × 100 = 25.0 %");
     EXPECT_EQ(shown(window, "statTempsField"), u"0 h 00 min.\n(0 min.)");
@@ -71,21 +69,17 @@ TEST_F(DiveWindowsTest, StatisticsFollowTheChoiceThePreviousTotalsAndTheSwitch) 
     previous.findChild<QLineEdit*>(QStringLiteral("statSumRecupField"))->setText(QStringLiteral("-3"));
     previous.validateStatisticsValues();
     EXPECT_FALSE(previous.isVisible());
-    EXPECT_EQ(shown(window, "statP_Prof_7Field"), u"50.0 %");
-    EXPECT_EQ(shown(window, "statRecupField"), u"-3");
+    EXPECT_EQ(figures("statP_Prof_7Field statRecupField statTempMinField"), u"50.0 %|-3|0\u00a0°C");
     EXPECT_EQ(PreviousTotals::read(desktop_.desktop().preferences).of(StatCount::recuperation), -3);
-    EXPECT_EQ(shown(window, "statTempMinField"), u"0\u00a0°C");
 
     window.findChild<QCheckBox*>(QStringLiteral("previousDivesNoSwitch"))->click();
-    EXPECT_EQ(shown(window, "statProf_7Field"), u"1");
-    EXPECT_EQ(shown(window, "statTempMinField"), u"15\u00a0°C");
+    EXPECT_EQ(figures("statProf_7Field statTempMinField"), u"1|15\u00a0°C");
 
     selected_ = 2;
     auto* choice = window.findChild<QComboBox*>(QStringLiteral("diveChoice"));
     choice->setCurrentIndex(1);
     Q_EMIT choice->activated(1);
-    EXPECT_EQ(shown(window, "statDivesField"), u"2 dives");
-    EXPECT_EQ(shown(window, "statProfMaxField"), u"25 m");
+    EXPECT_EQ(figures("statDivesField statProfMaxField"), u"2 dives|25 m");
     selected_ = 1;
     window.updateStatistics();
     EXPECT_EQ(shown(window, "statProfMaxField"), u"5 m");
@@ -119,8 +113,7 @@ TEST_F(DiveWindowsTest, CardChoiceOffersWhatThereIs) {
     CardChoice choice(source(), [&](DiveChoice chosen) { made.push_back(chosen); });
     const auto button = [&](const char* name) { return choice.findChild<QRadioButton*>(QLatin1StringView(name)); };
     choice.divesForSynthesisWindow();
-    EXPECT_FALSE(button("currentDive")->isEnabled());
-    EXPECT_FALSE(button("selectedDives")->isEnabled());
+    EXPECT_FALSE(button("currentDive")->isEnabled() || button("selectedDives")->isEnabled());
     EXPECT_TRUE(button("allDives")->isChecked());
     choice.reject();
     EXPECT_TRUE(made.empty());

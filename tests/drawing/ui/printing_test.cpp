@@ -4,7 +4,6 @@
 
 #include <QPrinter>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 
@@ -12,8 +11,7 @@ namespace {
 
 const PrintSettings settings{23.2, 25, 10, 10, 0.67, true};
 
-class Printing : public testing::Test {
-protected:
+struct Printing : testing::Test {
     Printing() {
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(folder.filePath(QStringLiteral("out.pdf")));
@@ -58,9 +56,6 @@ TEST_F(Printing, givesPagesThePapersSizeAndMargins) {
     // As many as a file of the same pages has.
     EXPECT_EQ(pdf.count("/Type /Page\n"), pagesOf(text, given).count);
     EXPECT_GT(pdf.count("/Type /Page\n"), 2);
-}
-
-TEST_F(Printing, tellsWhenNothingCameOut) {
     printer.setOutputFileName(folder.filePath(QStringLiteral("no folder/out.pdf")));
     EXPECT_FALSE(printOn(printer, card, nullptr));
 }

@@ -28,10 +28,8 @@ struct CopyControls : ControlTable<CopyControls> {
     }
 };
 
-class PictureBox : public testing::Test {
-protected:
+struct PictureBox : testing::Test {
     PictureBox() {
-        setTextLanguage(QStringLiteral("en"));
         control = makeFormControl(state, 0, nullptr);
         control->widget()->setParent(&page);
         control->widget()->resize(400, 300);

@@ -6,8 +6,6 @@
 #include "support/printing.h"
 #include "support/records.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
 #include <cmath>
 
@@ -33,17 +31,25 @@ QByteArray dive(const QByteArray& before, const QByteArray& rest = {}) {
            "</informationbeforedive>" + rest + "</dive></repetitiongroup></profiledata></uddf>";
 }
 
+Plongee onlyDive(const QByteArray& bytes, std::optional<SourceKind> kind = {}) {
+    return read(bytes, kind).dives.at(0).dive;
+}
 Plongee diveRead(const QByteArray& before, const QByteArray& rest = {}) {
-    return read(dive(before, rest)).dives.at(0).dive;
+    return onlyDive(dive(before, rest));
+}
+/// Waypoints of "depth" or "depth@seconds", with blanks between; "@20" has no depth.
+QByteArray samples(const QByteArray& waypoints) {
+    QByteArray all;
+    for (const QByteArray& waypoint : waypoints.split(' ')) {
+        const QList<QByteArray> parts = waypoint.split('@');
+        all += "<waypoint>" + (parts[0].isEmpty() ? QByteArray() : "<depth>" + parts[0] + "</depth>");
+        all += (parts.size() > 1 ? "<divetime>" + parts[1] + "</divetime>" : QByteArray()) + "</waypoint>";
+    }
+    return "<samples>" + all + "</samples>";
 }
 
 QString startText(const Plongee& dive) {
     return startOf(dive).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
-}
-
-/// What fields of the dive hold.
-QString in(const Plongee& dive, const char* names) {
-    return fieldsOf(dive, Plongee::layout(), names);
 }
 
 bool loses(const FoundDive& found, const char* name) {
@@ -56,13 +62,13 @@ TEST(Uddf, givesADiveEverythingThatItsLinksTell) {
     ASSERT_EQ(found.dives.size(), 1U);
     const Plongee& dive = found.dives[0].dive;
     EXPECT_EQ(startText(dive), u"2021-06-30 09:41:30") << "as the clock on the boat showed it";
-    EXPECT_EQ(in(dive, "noPlongee lieu site pays"), u"7; Port-Cros; La Gabinière; France");
-    EXPECT_EQ(in(dive, "gps epaves structure"), u"N 42° 59.298'  E 006° 23.550'; Le Donator; Club du Port");
-    EXPECT_EQ(in(dive, "partenaires surface profondeur"), u"Zoé Martin, Max; 01:31; 6.47");
-    EXPECT_EQ(in(dive, "temps tempEau tempAir gaz o2Mix heMix"), u"45; 15; 26; 1; 32; 0");
-    EXPECT_EQ(in(dive, "alliageBloc volumeBloc pressionDepart pressionFin"), u"2; 12; 201; 70");
-    EXPECT_EQ(in(dive, "visibilite courant typePlongee combinaison inoubliable lestage"), u"1; 3; 3; 1; 1; 4.5");
-    EXPECT_EQ(in(dive, "fabricant ordinateur serie equip_1 equip_2"), u"Reef; Two; 0042; Red fins; ");
+    EXPECT_EQ(fieldsOf(dive, "noPlongee lieu site pays"), u"7; Port-Cros; La Gabinière; France");
+    EXPECT_EQ(fieldsOf(dive, "gps epaves structure"), u"N 42° 59.298'  E 006° 23.550'; Le Donator; Club du Port");
+    EXPECT_EQ(fieldsOf(dive, "partenaires surface profondeur"), u"Zoé Martin, Max; 01:31; 6.47");
+    EXPECT_EQ(fieldsOf(dive, "temps tempEau tempAir gaz o2Mix heMix"), u"45; 15; 26; 1; 32; 0");
+    EXPECT_EQ(fieldsOf(dive, "alliageBloc volumeBloc pressionDepart pressionFin"), u"2; 12; 201; 70");
+    EXPECT_EQ(fieldsOf(dive, "visibilite courant typePlongee combinaison inoubliable lestage"), u"1; 3; 3; 1; 1; 4.5");
+    EXPECT_EQ(fieldsOf(dive, "fabricant ordinateur serie equip_1 equip_2"), u"Reef; Two; 0042; Red fins; ");
     EXPECT_EQ(dive.notes, u"First line\nSecond line");
     for (const char* name : {"waypoint/heartrate", "waypoint/temperature", "alarm rbt", "problems", "site/notes"}) {
         EXPECT_TRUE(loses(found.dives[0], name)) << name;
@@ -90,9 +96,8 @@ TEST(Uddf, samplesTwoSecondsSoThatNoDepthIsLost) {
     flagged(dive.SLOW_Flag, 8);
     flagged(dive.CEIL_Flag, 10);
     flagged(dive.SURF_Flag, 12);
-    EXPECT_EQ(dive.PRESS_Data.real(0), 200.5);
-    EXPECT_EQ(dive.PRESS_Data.real(4), 196.5);
-    EXPECT_EQ(dive.PRESS_Data.real(12), 192.5);
+    EXPECT_EQ(std::tuple(dive.PRESS_Data.real(0), dive.PRESS_Data.real(4), dive.PRESS_Data.real(12)),
+              std::tuple(200.5, 196.5, 192.5));
 }
 
 TEST(Uddf, givesTanksTheirPlacesByTheUseOfTheirGas) {
@@ -100,12 +105,12 @@ TEST(Uddf, givesTanksTheirPlacesByTheUseOfTheirGas) {
     ASSERT_EQ(found.dives.size(), 2U) << "of both groups, whatever the prefix";
     const Plongee& dive = found.dives[0].dive;
     EXPECT_EQ(startText(dive), u"2019-08-01 07:05:00");
-    EXPECT_EQ(in(dive, "gaz o2Mix heMix"), u"2; 18; 45") << "breathed at the bottom";
-    EXPECT_EQ(in(dive, "volumeBloc pressionDepart pressionFin"), u"24; 230; 80");
-    EXPECT_EQ(in(dive, "gaz_2 o2Mix_2 volumeBloc_2 pressionDepart_2 pressionFin_2"), u"1; 30; 11; 210; 150");
-    EXPECT_EQ(in(dive, "volPony1 pressDepartPony1 pressFinPony1"), u"11; 200; 110");
-    EXPECT_EQ(in(dive, "volPony2 pressDepartPony2 pressFinPony2"), u"7; 190; 120");
-    EXPECT_EQ(in(dive, "decoO2_Level_1 decoO2_Level_2 decoO2_Level_3"), u"30; 50; 100");
+    EXPECT_EQ(fieldsOf(dive, "gaz o2Mix heMix"), u"2; 18; 45") << "breathed at the bottom";
+    EXPECT_EQ(fieldsOf(dive, "volumeBloc pressionDepart pressionFin"), u"24; 230; 80");
+    EXPECT_EQ(fieldsOf(dive, "gaz_2 o2Mix_2 volumeBloc_2 pressionDepart_2 pressionFin_2"), u"1; 30; 11; 210; 150");
+    EXPECT_EQ(fieldsOf(dive, "volPony1 pressDepartPony1 pressFinPony1"), u"11; 200; 110");
+    EXPECT_EQ(fieldsOf(dive, "volPony2 pressDepartPony2 pressFinPony2"), u"7; 190; 120");
+    EXPECT_EQ(fieldsOf(dive, "decoO2_Level_1 decoO2_Level_2 decoO2_Level_3"), u"30; 50; 100");
     const int seconds = 60;
     EXPECT_EQ(dive.GAZ_Flag.integer(120 / seconds), 1);
     EXPECT_EQ(dive.GAZ_Flag.integer(1800 / seconds), 3);
@@ -121,24 +126,25 @@ TEST(Uddf, readsARebreather) {
     const FoundDives found = readFixture("rebreather.uddf", SourceKind::uddf);
     ASSERT_EQ(found.dives.size(), 1U);
     const Plongee& dive = found.dives[0].dive;
-    EXPECT_EQ(in(dive, "rebreather ppO2 lowSetpoint"), u"3; 2; 10") << "1.3 and 0.7 bar";
-    EXPECT_EQ(in(dive, "o2Mix volumeBloc pressionDepart"), u"100; 2; 180");
-    EXPECT_EQ(in(dive, "o2Mix_2 heMix_2 volumeBloc_2 pressionFin_2"), u"18; 45; 3; 160");
-    EXPECT_EQ(in(dive, "O2Bailout1 volBailout1 pressDepartBailout1 pressFinBailout1"), u"50; 11; 210; 205")
+    EXPECT_EQ(fieldsOf(dive, "rebreather ppO2 lowSetpoint"), u"3; 2; 10") << "1.3 and 0.7 bar";
+    EXPECT_EQ(fieldsOf(dive, "o2Mix volumeBloc pressionDepart"), u"100; 2; 180");
+    EXPECT_EQ(fieldsOf(dive, "o2Mix_2 heMix_2 volumeBloc_2 pressionFin_2"), u"18; 45; 3; 160");
+    EXPECT_EQ(fieldsOf(dive, "O2Bailout1 volBailout1 pressDepartBailout1 pressFinBailout1"), u"50; 11; 210; 205")
         << "litres and bar where pascal and cubic metres make no sense";
-    EXPECT_EQ(in(dive, "profondeur temps tempEau"), u"40.5; 15; 12") << "the deepest waypoint";
+    EXPECT_EQ(fieldsOf(dive, "profondeur temps tempEau"), u"40.5; 15; 12") << "the deepest waypoint";
     // 80 000 Pa stand for 1950 m in the standard atmosphere.
     EXPECT_EQ(dive.altitude, 1950);
     EXPECT_EQ(breathedGas(dive).helium, 45);
 }
 
-TEST(Uddf, readsTheOlderPlacesOfValues) {
+TEST(Uddf, findsDivesOutsideOfProfileDataAndTheOlderPlacesOfValues) {
+    EXPECT_EQ(read("<uddf version='2.0'><repetitiongroup><dive/><dive/></repetitiongroup></uddf>").dives.size(), 2U);
     const FoundDives found = readFixture("older.uddf", SourceKind::olderUddf);
     ASSERT_EQ(found.dives.size(), 3U);
     const Plongee& dive = found.dives[0].dive;
     EXPECT_EQ(startText(dive), u"2009-05-09 08:07:00");
-    EXPECT_EQ(in(dive, "profondeur tempEau gaz o2Mix"), u"31.4; 16; 0; 21");
-    EXPECT_EQ(in(dive, "lieu site notes"), u"Gozo; Blue Hole; Old times");
+    EXPECT_EQ(fieldsOf(dive, "profondeur tempEau gaz o2Mix"), u"31.4; 16; 0; 21");
+    EXPECT_EQ(fieldsOf(dive, "lieu site notes"), u"Gozo; Blue Hole; Old times");
     EXPECT_EQ(dive.samplingRate, 0);
     EXPECT_EQ(dive.profilProfondeur, Series::ofReals({4.0, 4.0, 9.5, 14.0}));
     EXPECT_EQ(startText(found.dives[1].dive), u"2009-05-10 16:30:00");
@@ -196,21 +202,13 @@ TEST(Uddf, takesNumbersOfNoSenseForNone) {
         <waypoint><depth>7</depth></waypoint>
         </samples><informationafterdive><greatestdepth>-4</greatestdepth><diveduration>0</diveduration>
         <lowesttemperature>9999</lowesttemperature></informationafterdive>)");
-    EXPECT_EQ(in(it, "altitude noPlongee tempEau profondeur"), u"0; 0; -50; 7");
+    EXPECT_EQ(fieldsOf(it, "altitude noPlongee tempEau profondeur"), u"0; 0; -50; 7");
     EXPECT_EQ(it.profilProfondeur.size(), 4U) << "from the start on";
     EXPECT_EQ(it.PRESS_Data.size(), 1U);
 }
 
 TEST(Uddf, spreadsWaypointsWithoutATime) {
-    const Plongee it = diveRead({}, R"(<samples>
-        <waypoint><depth>0</depth></waypoint>
-        <waypoint><depth>4</depth><divetime>5</divetime></waypoint>
-        <waypoint><depth>8</depth></waypoint>
-        <waypoint><depth>12</depth><divetime>15</divetime></waypoint>
-        <waypoint><divetime>20</divetime></waypoint>
-        <waypoint><depth/></waypoint>
-        <waypoint><depth>2</depth></waypoint>
-        <waypoint><depth>1</depth></waypoint></samples>)");
+    const Plongee it = diveRead({}, samples("0 4@5 8 12@15 @20 - 2 1").replace('-', ""));
     EXPECT_EQ(it.samplingRate, 7) << "5 s";
     const std::array expected{0.0, 4.0, 8.0, 12.0, 12 - 10.0 / 3, 12 - 20.0 / 3, 2.0, 1.0};
     ASSERT_EQ(it.profilProfondeur.size(), expected.size());
@@ -220,19 +218,13 @@ TEST(Uddf, spreadsWaypointsWithoutATime) {
 }
 
 TEST(Uddf, readsTimesAsTheyCanOnlyBeMeant) {
-    const auto waypoint = [](int seconds, const char* depth) {
-        return "<waypoint><depth>" + QByteArray(depth) + "</depth><divetime>" + QByteArray::number(seconds) +
-               "</divetime></waypoint>";
-    };
-    const Plongee clock =
-        diveRead({}, "<samples>" + waypoint(1'000'000, "5") + waypoint(1'000'010, "7") + "</samples>");
-    EXPECT_EQ(clock.profilProfondeur, Series::ofReals({5, 7})) << "from the first waypoint on";
-    const Plongee twice =
-        diveRead({}, "<samples>" + waypoint(0, "1") + waypoint(0, "2") + waypoint(10, "3") + "</samples>");
-    EXPECT_EQ(twice.profilProfondeur, Series::ofReals({2, 3})) << "the last of a moment";
-    const Plongee minutes = diveRead({}, "<samples>" + waypoint(0, "1") + waypoint(2700, "2") +
-                                             "</samples><informationafterdive><diveduration>45</diveduration>"
-                                             "</informationafterdive>");
+    EXPECT_EQ(diveRead({}, samples("5@1000000 7@1000010")).profilProfondeur, Series::ofReals({5, 7}))
+        << "from the first waypoint on";
+    EXPECT_EQ(diveRead({}, samples("1@0 2@0 3@10")).profilProfondeur, Series::ofReals({2, 3}))
+        << "the last of a moment";
+    EXPECT_EQ(diveRead({}, samples("9@20 1@0 5@10")).profilProfondeur, Series::ofReals({1, 5, 9})) << "in their order";
+    const Plongee minutes = diveRead(
+        {}, samples("1@0 2@2700") + "<informationafterdive><diveduration>45</diveduration></informationafterdive>");
     EXPECT_EQ(minutes.temps, 45);
 }
 
@@ -250,14 +242,6 @@ TEST(Uddf, ratesASightByItsMetres) {
     }
 }
 
-TEST(Uddf, sortsWaypointsByTheirTimes) {
-    const Plongee it = diveRead({}, R"(<samples>
-        <waypoint><divetime>20</divetime><depth>9</depth></waypoint>
-        <waypoint><divetime>0</divetime><depth>1</depth></waypoint>
-        <waypoint><divetime>10</divetime><depth>5</depth></waypoint></samples>)");
-    EXPECT_EQ(it.profilProfondeur, Series::ofReals({1, 5, 9}));
-}
-
 TEST(Uddf, takesWhatTheDiveLacksFromItsWaypoints) {
     const QByteArray file = R"(<UDDF version="3.0.1"><gasDefinitions><mix ID="a"><o2>0.32</o2></mix>
         <mix id="b"><o2>0.5</o2></mix></gasDefinitions><profileData><repetitionGroup><Dive><informationBeforeDive>
@@ -269,9 +253,9 @@ TEST(Uddf, takesWhatTheDiveLacksFromItsWaypoints) {
           <tankpressure ref="a">9000000</tankpressure><tankpressure ref="b">12000000</tankpressure></waypoint>
         </samples><informationAfterDive><greatestDepth>1e32</greatestDepth><lowestTemperature>255.4</lowestTemperature>
         <diveDuration>0:42:40</diveDuration></informationAfterDive></Dive></repetitionGroup></profileData></UDDF>)";
-    const Plongee it = read(file, SourceKind::uddf).dives.at(0).dive;
-    EXPECT_EQ(in(it, "profondeur temps tempEau o2Mix pressionDepart pressionFin"), u"20; 43; 12; 32; 205; 90");
-    EXPECT_EQ(in(it, "pressDepartPony1 pressFinPony1"), u"150; 120") << "richer, so a stage";
+    const Plongee it = onlyDive(file, SourceKind::uddf);
+    EXPECT_EQ(fieldsOf(it, "profondeur temps tempEau o2Mix pressionDepart pressionFin"), u"20; 43; 12; 32; 205; 90");
+    EXPECT_EQ(fieldsOf(it, "pressDepartPony1 pressFinPony1"), u"150; 120") << "richer, so a stage";
     EXPECT_EQ(it.PRESS_Data.real(0), 200.0);
 }
 
@@ -291,21 +275,14 @@ TEST(Uddf, tellsARebreatherFromASetPointOfOpenCircuit) {
     }
 }
 
-TEST(Uddf, findsDivesOutsideOfProfileData) {
-    EXPECT_EQ(read("<uddf version='2.0'><repetitiongroup><dive/><dive/></repetitiongroup></uddf>").dives.size(), 2U);
-}
-
 TEST(Uddf, boundsTheSamplesOfADive) {
-    QByteArray samples = "<samples>";
+    QByteArray waypoints;
     for (int second = 0; second < 100'000; ++second) {
-        samples += "<waypoint><depth>" + QByteArray::number(second % 40) + "</depth><divetime>" +
-                   QByteArray::number(second) + "</divetime></waypoint>";
+        waypoints += QByteArray::number(second % 40) + '@' + QByteArray::number(second) + ' ';
     }
-    EXPECT_EQ(diveRead({}, samples + "</samples>").profilProfondeur.size(), 100'000U);
+    EXPECT_EQ(diveRead({}, samples(waypoints.chopped(1))).profilProfondeur.size(), 100'000U);
     // A few points that would come to more samples than a dive may have.
-    EXPECT_FALSE(diveRead({}, R"(<samples><waypoint><depth>1</depth><divetime>0</divetime></waypoint>
-        <waypoint><depth>1</depth><divetime>999999999</divetime></waypoint></samples>)")
-                     .hasProfile());
+    EXPECT_FALSE(diveRead({}, samples("1@0 1@999999999")).hasProfile());
 }
 
 TEST(Udcf, isReadAsItWasMeant) {
@@ -313,16 +290,16 @@ TEST(Udcf, isReadAsItWasMeant) {
     ASSERT_EQ(found.dives.size(), 2U) << "of both groups";
     const Plongee& dive = found.dives[0].dive;
     EXPECT_EQ(startText(dive), u"2012-07-14 10:45:00");
-    EXPECT_EQ(in(dive, "lieu site surface"), u"Agay; La Chrétienne; 2:30");
-    EXPECT_EQ(in(dive, "profondeur temps tempEau"), u"32.8; 41; 18");
-    EXPECT_EQ(in(dive, "gaz o2Mix volumeBloc pressionDepart pressionFin"), u"1; 36; 15; 200; 60");
-    EXPECT_EQ(in(dive, "o2Mix_2 volumeBloc_2"), u"100; 7");
+    EXPECT_EQ(fieldsOf(dive, "lieu site surface"), u"Agay; La Chrétienne; 2:30");
+    EXPECT_EQ(fieldsOf(dive, "profondeur temps tempEau"), u"32.8; 41; 18");
+    EXPECT_EQ(fieldsOf(dive, "gaz o2Mix volumeBloc pressionDepart pressionFin"), u"1; 36; 15; 200; 60");
+    EXPECT_EQ(fieldsOf(dive, "o2Mix_2 volumeBloc_2"), u"100; 7");
     EXPECT_EQ(dive.samplingRate, 1);
     EXPECT_EQ(dive.profilProfondeur, Series::ofReals({0, 12.75, 3.5}));
     EXPECT_EQ(dive.SLOW_Flag.integer(1), 1);
     EXPECT_EQ(dive.ASC_Flag.integer(1), 0);
     EXPECT_EQ(found.dives[1].dive.lieu, u"Agay");
-    EXPECT_EQ(in(dive, "fabricant ordinateur"), u"Reef; One");
+    EXPECT_EQ(fieldsOf(dive, "fabricant ordinateur"), u"Reef; One");
 }
 
 TEST(Udcf, isReadInTheUnitsThatItSays) {
@@ -336,11 +313,11 @@ TEST(Udcf, isReadInTheUnitsThatItSays) {
             "<D>20</D><SWITCH>Back</SWITCH><D>10</D><SWITCH>3</SWITCH></SAMPLES></DIVE></REPGROUP></PROFILE>",
             SourceKind::udcf)
             .dives.at(0);
-    EXPECT_EQ(in(found.dive, "profondeur altitude tempEau surface"), u"30.48; 305; 20; 01:35");
-    EXPECT_EQ(in(found.dive, "volumeBloc pressionDepart pressionFin"), u"11; 207; 34");
+    EXPECT_EQ(fieldsOf(found.dive, "profondeur altitude tempEau surface"), u"30.48; 305; 20; 01:35");
+    EXPECT_EQ(fieldsOf(found.dive, "volumeBloc pressionDepart pressionFin"), u"11; 207; 34");
     EXPECT_EQ(found.dive.profilProfondeur, Series::ofReals({0, 30.48, 6.1, 3.05}));
     EXPECT_EQ(found.dive.GAZ_Flag, Series::ofIntegers({0, 2, 1, 0}));
-    EXPECT_EQ(in(found.dive, "decoO2_Level_1 o2Mix_2"), u"50; 50");
+    EXPECT_EQ(fieldsOf(found.dive, "decoO2_Level_1 o2Mix_2"), u"50; 50");
     for (const char* name : {"DENSITY", "ALARM sun", "SAMPLES/SWITCH"}) {
         EXPECT_TRUE(loses(found, name)) << name;
     }
@@ -348,23 +325,19 @@ TEST(Udcf, isReadInTheUnitsThatItSays) {
 }
 
 TEST(Udcf, takesDepthsOfNoSenseForNone) {
-    const Plongee dive = read("<PROFILE><REPGROUP><DIVE><MAXDEPTH>" + QByteArray(39, '9') +
-                              "</MAXDEPTH><SAMPLES><DELTA>10</DELTA><D>1</D><D>1e30</D><D>7</D></SAMPLES></DIVE>"
-                              "</REPGROUP></PROFILE>")
-                             .dives.at(0)
-                             .dive;
+    const Plongee dive = onlyDive("<PROFILE><REPGROUP><DIVE><MAXDEPTH>" + QByteArray(39, '9') +
+                                  "</MAXDEPTH><SAMPLES><DELTA>10</DELTA><D>1</D><D>1e30</D><D>7</D></SAMPLES></DIVE>"
+                                  "</REPGROUP></PROFILE>");
     EXPECT_EQ(dive.profondeur, 7);
     EXPECT_EQ(dive.profilProfondeur, Series::ofReals({1, 7})) << "twenty seconds apart";
 }
 
 TEST(Handheld, choosesFromTheMenusOfTheForm) {
-    const Plongee dive = read(
-                             "<log><repgroup><dive><weather>3</weather><current>5</current><visibility>0</visibility>"
-                             "<divetype>4</divetype></dive></repgroup></log>",
-                             SourceKind::handheld)
-                             .dives.at(0)
-                             .dive;
-    EXPECT_EQ(in(dive, "meteo courant visibilite typePlongee"), u"3; 5; 8; 5");
+    const Plongee dive = onlyDive(
+        "<log><repgroup><dive><weather>3</weather><current>5</current><visibility>0</visibility>"
+        "<divetype>4</divetype></dive></repgroup></log>",
+        SourceKind::handheld);
+    EXPECT_EQ(fieldsOf(dive, "meteo courant visibilite typePlongee"), u"3; 5; 8; 5");
 }
 
 TEST(Sources, areToldByTheirContents) {

@@ -5,8 +5,6 @@
 #include "support/printing.h"
 #include "support/records.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
 
 namespace tavrel {
@@ -34,8 +32,7 @@ TEST(TableReading, takesCellsWhateverSeparatesAndQuotesThem) {
         ASSERT_EQ(table.found.dives.size(), 1U) << file;
         const Plongee& dive = table.found.dives[0].dive;
         EXPECT_EQ(startText(table.found.dives[0]), u"2021-07-01 09:30:00") << file;
-        EXPECT_EQ(fieldsOf(dive, Plongee::layout(), "lieu notes profondeur temps"), u"Port, \"Vieux\"; a\nb; 12.5; 40")
-            << file;
+        EXPECT_EQ(fieldsOf(dive, "lieu notes profondeur temps"), u"Port, \"Vieux\"; a\nb; 12.5; 40") << file;
         EXPECT_EQ(dive.tempEau, unknownDive().tempEau) << "not given";
         EXPECT_TRUE(table.found.dives[0].lost.empty());
     }

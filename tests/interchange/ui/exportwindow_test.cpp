@@ -5,21 +5,18 @@
 #include "support/queuedfiledialogs.h"
 #include "support/testdesktop.h"
 
-#include <QAction>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 
 namespace {
 
-class Exporting : public testing::Test {
-protected:
+struct Exporting : testing::Test {
     Exporting() {
         for (int number = 1; number <= 3; ++number) {
             Plongee dive = unknownDive();
@@ -129,8 +126,7 @@ TEST_F(Exporting, offersOnlyDivesThatThereAre) {
     show();
     const auto choices = window->findChildren<QRadioButton*>();
     EXPECT_TRUE(choices[0]->isEnabled());
-    EXPECT_FALSE(choices[1]->isEnabled());
-    EXPECT_FALSE(choices[2]->isEnabled());
+    EXPECT_FALSE(choices[1]->isEnabled() || choices[2]->isEnabled());
     choose("csv");
     EXPECT_TRUE(button()->isEnabled());
     tick({});

@@ -4,8 +4,6 @@
 #include "support/queuedfiledialogs.h"
 #include "support/testdesktop.h"
 
-#include <gtest/gtest.h>
-
 namespace tavrel {
 
 namespace {
@@ -24,32 +22,29 @@ TEST(ImportCommands, askForAFileAndTellWhatCameIn) {
     };
     const QByteArray dive = "<DIVE><SAMPLES/><GASES><MIX><TANK/></MIX></GASES></DIVE>";
     const QByteArray gases = "<gases><mix><tank/></mix></gases>";
-    struct Case {
-        const char* extension;
-        QByteArray file;
-        int count;
-        const char* told;
-    };
-    const Case cases[] = {
-        {"udcf", "<PROFILE><REPGROUP>" + dive + dive + "</REPGROUP></PROFILE>", 2,
+    const std::tuple<QString, QByteArray, int, const char*> cases[] = {
+        {QStringLiteral("udcf"), "<PROFILE><REPGROUP>" + dive + dive + "</REPGROUP></PROFILE>", 2,
          "2 dives were imported. Without a date: 2."},
-        {"uddf", "<uddf><profiledata><repetitiongroup><dive/></repetitiongroup></profiledata></uddf>", 3,
-         "One dive was imported. Without a date: 1."},
-        {nullptr, "<log><repgroup><dive>" + gases + "</dive><dive/></repgroup></log>", 4,
+        {QStringLiteral("uddf"), "<uddf><profiledata><repetitiongroup><dive/></repetitiongroup></profiledata></uddf>",
+         3, "One dive was imported. Without a date: 1."},
+        {{},
+         "<log><repgroup><dive>" + gases + "</dive><dive/></repgroup></log>",
+         4,
          "One dive was imported. The import stopped at dive 2 of the file: the element gases is missing. Without a "
          "date: 1."},
     };
     const QList<QAction*> actions = window.importActions();
     ASSERT_EQ(actions.size(), std::ssize(cases) + 1);
-    for (const Case& it : cases) {
-        choose(it.file);
-        actions[&it - cases]->trigger();
-        QStringList extensions{QStringLiteral("txt"), QStringLiteral("xml")};
+    for (qsizetype place = 0; place < std::ssize(cases); ++place) {
+        const auto& [extension, bytes, count, told] = cases[place];
+        choose(bytes);
+        actions[place]->trigger();
+        const QStringList extensions{QStringLiteral("txt"), QStringLiteral("xml")};
         EXPECT_TRUE(dialogs.askedBy && !dialogs.severalAllowed);
         EXPECT_EQ(dialogs.offered.value(0).extensions,
-                  it.extension ? extensions << QLatin1String(it.extension) : extensions);
-        EXPECT_EQ(carnet.count(), it.count);
-        EXPECT_EQ(desktop.alerts.told.value(desktop.alerts.told.size() - 1), QLatin1String(it.told));
+                  extension.isEmpty() ? extensions : extensions + QStringList{extension});
+        EXPECT_EQ(carnet.count(), count);
+        EXPECT_EQ(desktop.alerts.told.last(), QLatin1String(told));
     }
     commands->importUDCF();
     EXPECT_EQ(desktop.alerts.told.size(), 3) << "nothing chosen, nothing told";

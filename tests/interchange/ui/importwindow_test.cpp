@@ -12,14 +12,12 @@
 #include <QTest>
 #include <QThread>
 #include <QTreeWidget>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 
 namespace {
 
-class FoundDivesWindow : public testing::Test {
-protected:
+struct FoundDivesWindow : testing::Test {
     void show(const QByteArray& bytes, bool waits = true) {
         const QString path = desktop.path(QStringLiteral("source"));
         writeContents(path, bytes);

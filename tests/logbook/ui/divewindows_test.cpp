@@ -20,15 +20,13 @@
 #include <QRadioButton>
 #include <QSplitter>
 #include <QTest>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 
 namespace {
 
 /// A logbook of three dives in its window, none selected.
-class DiveWindowsTest : public testing::Test {
-protected:
+struct DiveWindowsTest : testing::Test {
     DiveWindowsTest() : carnet(desktop.desktop()), window(newWindow()) {
         carnet.appendDives(
             QStringLiteral("Add"),
@@ -107,8 +105,7 @@ TEST_F(DiveWindowsTest, consumptionIsThatOfTheForm) {
     carnet.selectRows({1});
     command.trigger();
     ConsumptionSheet& sheet = window->diveWindows().consumptionSheet();
-    EXPECT_TRUE(sheet.isVisible());
-    EXPECT_TRUE(window->editWindow().isVisible());
+    EXPECT_TRUE(sheet.isVisible() && window->editWindow().isVisible());
     EXPECT_EQ(sheet.windowTitle(), u"Gas consumption: Dive no.\u00a02");
     const auto report = [&] { return sheet.findChild<QLabel*>(QStringLiteral("consoField"))->text(); };
     EXPECT_TRUE(report().startsWith(u"Gas available: 0 L\n"));

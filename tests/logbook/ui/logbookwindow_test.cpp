@@ -15,18 +15,15 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScopeGuard>
 #include <QSpinBox>
 #include <QTableWidget>
 #include <QTest>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 
 namespace {
 
-class LogbookWindowTest : public testing::Test {
-protected:
+struct LogbookWindowTest : testing::Test {
     TestDesktop desktop;
     Carnet carnet{desktop.desktop()};
     LogbookWindow window{carnet, desktop.desktop()};
@@ -62,10 +59,7 @@ TEST_F(LogbookWindowTest, showsWhatBecomesOfTheDivesBeforeItConvertsThem) {
     const auto cell = [&](int row, int column) { return preview->item(row, column)->text(); };
     EXPECT_EQ(preview->rowCount(), 2);
     // The user's numbers are in metres, so these are taken to be in feet.
-    EXPECT_EQ(cell(0, 0), u"5");
-    EXPECT_EQ(cell(0, 2), u"100");
-    EXPECT_EQ(cell(0, 3), u"30.48");
-    EXPECT_EQ(cell(0, 5), u"–");
+    EXPECT_EQ((QStringList{cell(0, 0), cell(0, 2), cell(0, 3), cell(0, 5)}.join(u' ')), u"5 100 30.48 –");
     EXPECT_TRUE(dialog.findChild<QLabel*>(QStringLiteral("altitudeWarning"))->isHidden());
     dialog.findChild<QRadioButton*>(QStringLiteral("toFeet"))->setChecked(true);
     EXPECT_EQ(cell(0, 3), u"328.08");
@@ -78,7 +72,6 @@ TEST_F(LogbookWindowTest, showsWhatBecomesOfTheDivesBeforeItConvertsThem) {
 
 TEST_F(LogbookWindowTest, showsADecimalCommaInFrenchAndKeepsThePoint) {
     setTextLanguage(QStringLiteral("fr"));
-    const auto english = qScopeGuard([] { setTextLanguage(QStringLiteral("en")); });
     LogbookWindow french(carnet, desktop.desktop());
     carnet.appendDives(QStringLiteral("Add"), {filled<Plongee>("profondeur=82.6|site=Puits 2.5|profilProfondeur=0,9"),
                                                filled<Plongee>("profondeur=9")});

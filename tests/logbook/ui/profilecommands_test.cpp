@@ -12,15 +12,13 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
-#include <gtest/gtest.h>
 
 namespace tavrel {
 
 namespace {
 
 /// A logbook of two dives with profiles, the first selected.
-class ProfileCommandsTest : public testing::Test {
-protected:
+struct ProfileCommandsTest : testing::Test {
     ProfileCommandsTest() : carnet(desktop.desktop()), window(carnet, desktop.desktop()) {
         carnet.appendDives(QStringLiteral("Add"), {filled<Plongee>("noPlongee=7|profilProfondeur=0,20,0"),
                                                    filled<Plongee>("noPlongee=8|profilProfondeur=0,30,30,0|o2Mix=32")});

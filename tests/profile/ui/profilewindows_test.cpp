@@ -13,7 +13,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
-#include <gtest/gtest.h>
 
 #include <optional>
 
@@ -96,8 +95,7 @@ TEST(ProfileWindow, marksSamplesByPointerAndKeys) {
     EXPECT_FALSE(view.markedSample()) << "a lone sample is no profile";
 }
 
-class ProfileEditorTest : public testing::Test {
-protected:
+struct ProfileEditorTest : testing::Test {
     ProfileEditorTest() : window(desktop.preferences) {
         profile.profilProfondeur = Series::ofReals({0, 5.5, 12});
         profile.SLOW_Flag = Series::ofIntegers({0, 1, 0});
