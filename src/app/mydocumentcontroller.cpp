@@ -73,6 +73,8 @@ MyDocumentController::~MyDocumentController() {
         // Closed while whole: what closing tells others makes them ask the window.
         each.window->closeWithDocument();
     }
+    // Those closed before are still to be deleted, and know the desktop, which goes next.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 QList<DocumentWindow*> MyDocumentController::windows() const {

@@ -10,6 +10,7 @@
 #include <QDropEvent>
 #include <QFile>
 #include <QMimeData>
+#include <QPointer>
 #include <QTest>
 #include <QUrl>
 
@@ -264,6 +265,16 @@ TEST_F(Documents, stayAsTheyWereWhenTheUserWouldRatherNotLeave) {
     EXPECT_EQ(app.alerts.questions.size(), 1U);
     EXPECT_EQ(settled, QList{Entries::stored});
     EXPECT_EQ(app.documents.windows().size(), 2);
+}
+
+TEST_F(Documents, goNoLaterThanWhatTheyAreMadeOf) {
+    QPointer<QWidget> closed;
+    {
+        TestApplication other;
+        closed = other.documents.newDocument();
+        EXPECT_TRUE(other.documents.closeDocument(*other.frontWindow()));
+    }
+    EXPECT_TRUE(closed.isNull());
 }
 
 TEST_F(Documents, openAtTheStart) {
