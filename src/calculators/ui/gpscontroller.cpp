@@ -196,7 +196,7 @@ QGroupBox* GpsController::newSexagesimal() {
     auto* layout = new QVBoxLayout(group);
     layout->addLayout(grid);
     layout->addWidget(new QLabel(text(Title("Calculators", "Signs hint")), group));
-    layout->addWidget(newFormulaLabel(sexagesimalFormula(), group));
+    layout->addWidget(newFormulaLabel(withDecimalSign(sexagesimalFormula()), group));
     layout->addWidget(convert, 0, Qt::AlignRight);
     return group;
 }
@@ -220,7 +220,7 @@ QGroupBox* GpsController::newDecimal() {
     connect(convert, &QPushButton::clicked, this, &GpsController::convertGPS2);
     auto* layout = new QVBoxLayout(group);
     layout->addLayout(grid);
-    layout->addWidget(newFormulaLabel(decimalFormula(), group));
+    layout->addWidget(newFormulaLabel(withDecimalSign(decimalFormula()), group));
     layout->addWidget(convert, 0, Qt::AlignRight);
     return group;
 }

@@ -17,6 +17,7 @@ namespace tavrel {
 
 class Alerts;
 class Preferences;
+struct PrintJob;
 class ProfileView;
 
 /// The window of a dive's profile: the picture, what the pointer reads on it, the marked sample's own values, and the
@@ -37,8 +38,10 @@ public:
 
     /// Asks for a printer, then prints the picture, landscape.
     void print();
+    void preview();
 
 private:
+    PrintJob printJob() const;
     void showReadOut();
     void addShortcut(QKeySequence::StandardKey keys, std::function<void()> command);
 

@@ -1,5 +1,6 @@
 #include "book/ui/bookwindow.h"
 
+#include "book/tablepages.h"
 #include "book/ui/bookeditwindow.h"
 #include "book/ui/booksearchfield.h"
 #include "book/ui/booktableview.h"
@@ -158,7 +159,7 @@ TEST_F(BookWindowTest, hidesColumnsAndPutsThemBackInTheirPlace) {
     for (const char* field : {"deco", "coeff"}) {
         table().columnsMenu()->findChild<QAction*>(QString::fromUtf8(field))->trigger();
     }
-    EXPECT_FALSE(desktop.preferences.boolean(QStringLiteral("column coeff")));
+    EXPECT_FALSE(desktop.preferences.get(Setting<bool>{"column coeff"}));
     QStringList fewer = all;
     fewer.removeAll(QStringLiteral("deco"));
     fewer.removeAll(QStringLiteral("coeff"));
@@ -195,6 +196,22 @@ TEST_F(BookWindowTest, readsAgainOncePerChange) {
     QTest::qWait(0);
     window->grab();
     EXPECT_EQ(resets.count(), 1);
+}
+
+TEST_F(BookWindowTest, printsAPictureBelowItsHeading) {
+    hold(1);
+    ASSERT_TRUE(carnet.setValue(0, QStringLiteral("inoubliable"), 1));
+    double heading = 0;
+    double picture = -1;
+    for (const auto& each :
+         pagesOf(carnet, wholeTable(carnet), Paper{QSizeF(2000, 300), {}, {}, {}}).page(0).primitives()) {
+        if (const auto* text = std::get_if<Drawing::Text>(&each); text && text->text == u"Rating") {
+            heading = text->at.x();
+        } else if (const auto* icon = std::get_if<Drawing::Icon>(&each)) {
+            picture = icon->at.x() + icon->size.width() / 2;
+        }
+    }
+    EXPECT_NEAR(picture, heading, 0.01);
 }
 
 TEST_F(BookWindowTest, copiesTheSelectedRows) {
