@@ -267,7 +267,7 @@ QList<QAction*> BookWindow::ownMenuActions() {
 }
 
 QList<QAction*> BookWindow::viewActions() {
-    QList<QAction*> actions{toolBar_->action(QLatin1StringView(toolCustomise)), command("printPreview")};
+    QList<QAction*> actions{toolBar_->action(QLatin1StringView(toolCustomise))};
     if (table_->columnsMenu()) {
         actions.prepend(table_->columnsMenu()->menuAction());
     }
@@ -283,9 +283,9 @@ QList<QAction*> BookWindow::editActions() {
 }
 
 QAction* BookWindow::commandAction(const QString& name) {
-    return name == u"printDocument"  ? command(book_.description().commands.print)
-           : name == u"saveDocument" ? command("saveDocument")
-                                     : nullptr;
+    return name == u"printDocument"                             ? command(book_.description().commands.print)
+           : name == u"saveDocument" || name == u"printPreview" ? command(name.toUtf8())
+                                                                : nullptr;
 }
 
 QList<QWidget*> BookWindow::furtherWindows() {

@@ -173,7 +173,7 @@ PrintJob StatisticsWindow::printJob() {
     refresh();
     const bool graphs = pages_->currentWidget() == graphes_;
     PrintJob job{print_, windowTitle(), desktop_.clock.now().date(), [this, graphs](const Paper& paper) {
-                     return graphs ? pagesOf(graphes_->drawing())
+                     return graphs ? pagesOf(graphes_->drawing(), paper)
                                    : pagesOf(statisticsReport(*statistics_, source_.name(), withDecimalSign), paper);
                  }};
     job.settings.landscape = graphs;

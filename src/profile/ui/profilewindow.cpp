@@ -2,6 +2,8 @@
 
 #include "base/decimalsign.h"
 #include "base/texts.h"
+#include "desktop/clock.h"
+#include "desktop/desktop.h"
 #include "desktop/ui/icons.h"
 #include "desktop/ui/keptframe.h"
 #include "drawing/ui/printing.h"
@@ -18,8 +20,8 @@
 
 namespace tavrel {
 
-ProfileWindow::ProfileWindow(Preferences& preferences, Alerts& alerts)
-    : alerts_(alerts),
+ProfileWindow::ProfileWindow(Desktop& desktop)
+    : desktop_(desktop),
       view_(new ProfileView),
       readOut_(new QLabel),
       sample_(new QLabel),
@@ -69,7 +71,7 @@ ProfileWindow::ProfileWindow(Preferences& preferences, Alerts& alerts)
     addShortcut(QKeySequence::Print, [this] { print(); });
     addShortcut(QKeySequence::Close, [this] { close(); });
     resize(780, 760);
-    new KeptFrame(*this, preferences, QStringLiteral("Profil"));
+    new KeptFrame(*this, desktop.preferences, QStringLiteral("Profil"));
     view_->setFocus();
 }
 
@@ -104,14 +106,16 @@ QString ProfileWindow::sampleValues() const {
 }
 
 PrintJob ProfileWindow::printJob() const {
-    PrintJob job{{}, view_->drawing().title, {}, [this](const Paper&) { return pagesOf(view_->drawing()); }};
+    PrintJob job{{}, windowTitle(), desktop_.clock.now().date(), [this](const Paper& paper) {
+                     return pagesOf(view_->drawing(), paper);
+                 }};
     job.settings.top = job.settings.bottom = job.settings.left = job.settings.right = 25;
     job.settings.landscape = true;
     return job;
 }
 
 void ProfileWindow::print() {
-    runPrint(this, printJob(), alerts_);
+    runPrint(this, printJob(), desktop_.alerts);
 }
 
 void ProfileWindow::preview() {

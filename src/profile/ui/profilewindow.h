@@ -15,8 +15,7 @@ class QLabel;
 
 namespace tavrel {
 
-class Alerts;
-class Preferences;
+struct Desktop;
 struct PrintJob;
 class ProfileView;
 
@@ -26,7 +25,7 @@ class ProfileWindow : public QWidget {
     Q_OBJECT
 
 public:
-    ProfileWindow(Preferences& preferences, Alerts& alerts);
+    explicit ProfileWindow(Desktop& desktop);
 
     /// Shows a profile under a title; the interval chosen becomes the dive's own.
     void setProfile(const ProfileDive& dive, const ProfileStyle& style, const QString& title);
@@ -45,7 +44,7 @@ private:
     void showReadOut();
     void addShortcut(QKeySequence::StandardKey keys, std::function<void()> command);
 
-    Alerts& alerts_;
+    Desktop& desktop_;
     ProfileView* view_;
     QLabel* readOut_;
     QLabel* sample_;

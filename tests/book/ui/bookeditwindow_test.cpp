@@ -342,6 +342,22 @@ TEST_F(BookEditWindowTest, storesTheFormAndGoesFromRecordToRecord) {
     number->selectAll();
     QTest::keyClicks(number, QStringLiteral("77"));
     EXPECT_EQ(window.windowTitle(), textWith("Carnet", "Dive number title", 77));
+    carnet.blankFields();
+    EXPECT_EQ(window.windowTitle(), u"New Dive");
+}
+
+TEST_F(BookEditWindowTest, turnsItsPagesByKeysWhateverIsSelected) {
+    addDives(3);
+    carnet.selectRows({1});
+    carnet.editWindow();
+    const int top = window.currentPage();
+    QTest::keyClick(&window, Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(window.currentPage(), top + 1);
+    QTest::keyClick(&window, Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(window.currentPage(), top);
+    EXPECT_EQ(carnet.selectedRow(), 1);
+    QTest::keyClick(&window, Qt::Key_PageDown, Qt::AltModifier);
+    EXPECT_EQ(carnet.selectedRow(), 2);
 }
 
 TEST_F(BookEditWindowTest, storesNothingThatNobodyTyped) {

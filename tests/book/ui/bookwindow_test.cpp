@@ -203,8 +203,9 @@ TEST_F(BookWindowTest, printsAPictureBelowItsHeading) {
     ASSERT_TRUE(carnet.setValue(0, QStringLiteral("inoubliable"), 1));
     double heading = 0;
     double picture = -1;
-    for (const auto& each :
-         pagesOf(carnet, wholeTable(carnet), Paper{QSizeF(2000, 300), {}, {}, {}}).page(0).primitives()) {
+    const Paper paper{QSizeF(2000, 300), {}, {}, {}};
+    const Drawing page = pagesOf(carnet, wholeTable(carnet), paper).page(0);
+    for (const auto& each : page.primitives()) {
         if (const auto* text = std::get_if<Drawing::Text>(&each); text && text->text == u"Rating") {
             heading = text->at.x();
         } else if (const auto* icon = std::get_if<Drawing::Icon>(&each)) {
