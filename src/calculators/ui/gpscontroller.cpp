@@ -6,6 +6,7 @@
 #include "calculators/position.h"
 #include "calculators/ui/calculatorwidgets.h"
 #include "calculators/ui/resultmark.h"
+#include "desktop/ui/fittedtoscreen.h"
 #include "desktop/ui/fixedpitch.h"
 
 #include <QComboBox>
@@ -99,6 +100,7 @@ GpsController::GpsController(QWidget* parent) : QDialog(parent), mark_(new Resul
                                          geodesiePopUp, longitude_inField, latitude_inField, altitude_inField}) {
         mark_->watch(input);
     }
+    fitToScreen(*this);
     longitude_in_degreeField->setFocus();
 }
 

@@ -4,6 +4,7 @@
 #include "base/texts.h"
 #include "desktop/clock.h"
 #include "desktop/desktop.h"
+#include "desktop/ui/fittedtoscreen.h"
 #include "desktop/ui/icons.h"
 #include "desktop/ui/keptframe.h"
 #include "drawing/ui/printing.h"
@@ -71,6 +72,7 @@ ProfileWindow::ProfileWindow(Desktop& desktop)
     addShortcut(QKeySequence::Print, [this] { print(); });
     addShortcut(QKeySequence::Close, [this] { close(); });
     resize(780, 760);
+    fitToScreen(*this);
     new KeptFrame(*this, desktop.preferences, QStringLiteral("Profil"));
     view_->setFocus();
 }
