@@ -42,7 +42,8 @@ void fitToScreen(QWidget& window) {
     auto* layout = new QVBoxLayout(&window);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(area);
-    window.resize(area->sizeHint().boundedTo(room));
+    const QSize wanted = window.testAttribute(Qt::WA_Resized) ? window.size() : area->sizeHint();
+    window.resize(wanted.boundedTo(room));
 }
 
 }  // namespace tavrel

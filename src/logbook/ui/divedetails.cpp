@@ -98,7 +98,6 @@ QWidget* DiveDetails::newFigures() {
     auto* area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);
     area->setFocusPolicy(Qt::NoFocus);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setWidgetResizable(true);
     area->setWidget(contents);
     return area;
