@@ -9,8 +9,10 @@
 #include "support/testdesktop.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
+#include <QCompleter>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -215,6 +217,16 @@ TEST_F(BookEditWindowTest, combosFollowTheSharedListsAndKeepWhatIsTyped) {
     combo->lineEdit()->setFocus();
     EXPECT_EQ(combo->proposals().join(u'|'), QStringLiteral("Calvi|Élbe|Nice"));
     EXPECT_EQ(combo->count(), 2) << "the list itself stays as it is";
+    // One that the keys take is what was typed, and is asked about once.
+    combo->lineEdit()->selectAll();
+    QTest::keyClicks(combo->lineEdit(), QStringLiteral("lb"));
+    QTest::keyClick(combo->completer()->popup(), Qt::Key_Down);
+    desktop.alerts.answerNext(1);
+    QTest::keyClick(combo->completer()->popup(), Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return desktop.alerts.questions.size() == 1; }));
+    EXPECT_EQ(state().at(controls.lieuField.index).text, u"Élbe");
+    combo->lineEdit()->clearFocus();
+    QCoreApplication::processEvents();
     carnet.undoStack().clear();
     carnet.replaceList({});
 
@@ -223,7 +235,7 @@ TEST_F(BookEditWindowTest, combosFollowTheSharedListsAndKeepWhatIsTyped) {
     QTest::keyClicks(combo->lineEdit(), QStringLiteral("CALVI"));
     desktop.alerts.answerNext(0);
     QTest::keyClick(combo->lineEdit(), Qt::Key_Return);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return desktop.alerts.questions.size() == 1; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return desktop.alerts.questions.size() == 2; }));
     EXPECT_EQ(combo->count(), 3);
     EXPECT_EQ(state().at(controls.lieuField.index).text, u"CALVI");
     QTest::keyClick(combo->lineEdit(), Qt::Key_Return);
@@ -233,7 +245,7 @@ TEST_F(BookEditWindowTest, combosFollowTheSharedListsAndKeepWhatIsTyped) {
     desktop.alerts.answerNext(1);
     window.toolBar().action(QStringLiteral("addDiveToList"))->trigger();
     QCoreApplication::processEvents();
-    EXPECT_EQ(desktop.alerts.questions.size(), 2U);
+    EXPECT_EQ(desktop.alerts.questions.size(), 3U);
     EXPECT_EQ(carnet.recordAt(0)->lieu, u"Sete");
 
     combo->setFocus();
