@@ -215,6 +215,15 @@ TEST_F(BookWindowTest, printsAPictureBelowItsHeading) {
     EXPECT_NEAR(picture, heading, 0.01);
 }
 
+TEST_F(BookWindowTest, findsWhereItsToolBarIsTooNarrowForTheField) {
+    window->resize(400, 500);
+    QCoreApplication::processEvents();
+    ASSERT_FALSE(window->searchField()->isVisible());
+    command("find")->trigger();
+    EXPECT_TRUE(window->searchField()->isVisible());
+    EXPECT_TRUE(window->searchField()->hasFocus());
+}
+
 TEST_F(BookWindowTest, copiesTheSelectedRows) {
     hold(3);
     for (const auto& column : diveColumns()) {
