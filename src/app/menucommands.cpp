@@ -63,6 +63,8 @@ const MenuEntry entries[] = {
     {Menu::file, Part::separator},
     {Menu::file, Part::command, "runPageLayout", Title("Main", "Menu page setup"), "Ctrl+Shift+P", "",
      [](Context& context) { runPageLayout(&context.window, QPageLayout::Landscape); }},
+    {Menu::file, Part::command, "printPreview", Title("Main", "Menu print preview"), "", "",
+     [](Context& context) { context.window.previewDocument(); }},
     {Menu::file, Part::command, "printDocument", Title("Main", "Menu print"), "Ctrl+P", "imprimante",
      [](Context& context) { context.window.printDocument(); }},
     {Menu::file, Part::separator},

@@ -4,6 +4,7 @@
 #include "base/texts.h"
 #include "desktop/alerts.h"
 #include "desktop/preferences.h"
+#include "desktop/ui/fittedtoscreen.h"
 #include "desktop/ui/keptframe.h"
 #include "desktop/ui/windowkeys.h"
 #include "forms/picklistentry.h"
@@ -261,6 +262,7 @@ PickListWindow::PickListWindow(Desktop& desktop, const PickListEditorDescription
         layout->addWidget(new PickListEditor(desktop, *description.second, usage, this));
     }
     addCloseKeys(*this);
+    fitToScreen(*this);
     new KeptFrame(*this, desktop.preferences, QString::fromLatin1(description.layout));
 }
 

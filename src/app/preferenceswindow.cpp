@@ -4,6 +4,7 @@
 #include "desktop/commonsettings.h"
 #include "desktop/preferences.h"
 #include "desktop/ui/customtoolbar.h"
+#include "desktop/ui/fittedtoscreen.h"
 #include "desktop/ui/keptframe.h"
 #include "desktop/ui/windowkeys.h"
 #include "logbook/logbooksettings.h"
@@ -14,6 +15,7 @@
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -57,8 +59,10 @@ PreferencesWindow::PreferencesWindow(Desktop& desktop)
       toolBar_(new CustomToolBar(toolBarDescription, desktop.preferences, this)) {
     setObjectName(QStringLiteral("Preferences"));
     stack_->addWidget(blank_);
+    // Above and below a page stand the toolbar and the buttons.
+    const int pageRoom = screen()->availableSize().height() - 12 * fontMetrics().lineSpacing();
     for (int page = 1; page <= static_cast<int>(pageItems.size()); ++page) {
-        pages_.push_back(newPage(page));
+        pages_.push_back(scrolledBeyond(pageRoom, newPage(page)));
         stack_->addWidget(pages_.back());
     }
     auto* resetButton = new QPushButton(text("Preferences", "Reset"), this);
@@ -204,7 +208,7 @@ void PreferencesWindow::goView(int page) {
     centralWidget()->layout()->activate();
     centralWidget()->updateGeometry();
     layout()->activate();
-    resize(sizeHint());
+    resize(sizeHint().boundedTo(screen()->availableSize()));
     stack_->setCurrentWidget(shown);
     QAction* action = toolBar_->action(QString::fromLatin1(pageItems[place].identifier));
     action->setChecked(true);

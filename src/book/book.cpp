@@ -320,6 +320,7 @@ void BookBase::blankFields() {
     form_->state().requestFocus(form_->state().table().find(description_.numberField));
     form_->remember();
     showsSelectedRecord_ = false;
+    titleEditWindow();
     Q_EMIT stateChanged();
 }
 
@@ -340,7 +341,8 @@ void BookBase::updateUI() {
 
 QString BookBase::formTitle() const {
     const int control = form_->state().table().find(description_.numberField);
-    return textWith(description_.words.windowTitle, form_->state().at(control).text);
+    const QString& name = form_->state().at(control).text;
+    return textWith(description_.words.windowTitle, name.isEmpty() ? QStringLiteral("…") : name);
 }
 
 void BookBase::titleEditWindow() {

@@ -17,6 +17,12 @@ int entryIndex(const FormStateBase& form, const QString& name) {
 
 }  // namespace
 
+bool readsFile(const BookForm& form, const QString& name) {
+    const int index = entryIndex(form.state(), name);
+    return index >= 0 &&
+           form.state().table().controls()[static_cast<std::size_t>(index)].control.kind == ControlKind::picture;
+}
+
 Expected<void> enterByName(BookForm& form, const QString& name, const QString& value) {
     if (const int index = entryIndex(form.state(), name); index >= 0) {
         return enterValue(form.state(), index, value);

@@ -12,4 +12,7 @@ class BookForm;
 /// where there is none or the control does not have the value.
 Expected<void> enterByName(BookForm& form, const QString& name, const QString& value);
 
+/// Whether the control of that name, or of that field, is given the name of a file, which is then read.
+bool readsFile(const BookForm& form, const QString& name);
+
 }  // namespace tavrel

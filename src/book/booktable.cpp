@@ -1,5 +1,6 @@
 #include "book/booktable.h"
 
+#include "base/decimalsign.h"
 #include "desktop/preferences.h"
 
 namespace tavrel {
@@ -46,6 +47,14 @@ Cell BookTable::ownCell(const Record& record, int column) const {
         placed.column->cell(record, *style_, cell);
     }
     return cell;
+}
+
+QString BookTable::onScreen(int column, const QString& words) const {
+    const Placed& placed = columns_[static_cast<std::size_t>(column)];
+    const FieldKind kind = placed.field.isNull() ? FieldKind::real : placed.field.kind();
+    const bool isNumber = kind == FieldKind::integer || kind == FieldKind::real ||
+                          (kind == FieldKind::text && placed.column->alignment == Qt::AlignRight);
+    return isNumber ? withDecimalSign(words) : words;
 }
 
 void BookTable::reload() {

@@ -29,6 +29,9 @@ public:
     Cell cell(int row, int column) const { return cell(book_.records(), row, column); }
     /// The same of a row of other records, of whom one may take its colour from those above.
     Cell cell(const RecordList& records, int row, int column) const;
+    /// Words of a column's cells as a window shows them: numbers with the decimal sign of the language, texts as they
+    /// are.
+    QString onScreen(int column, const QString& words) const;
     /// Reads the settings and the day again.
     void reload();
     const TableStyle& style() const { return *style_; }

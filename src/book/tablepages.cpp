@@ -97,6 +97,10 @@ private:
         return *table_.columns()[static_cast<std::size_t>(part_.columns[column].column)].column;
     }
 
+    QString wordsOf(const Cell& cell, int column) const {
+        return part_.isAsOnScreen ? table_.onScreen(column, shownIn(cell)) : shownIn(cell);
+    }
+
     double neededBy(const TablePart::Chosen& chosen) const {
         const Column& column = *table_.columns()[static_cast<std::size_t>(chosen.column)].column;
         const double broad = bold_.horizontalAdvance(u'W');
@@ -171,18 +175,21 @@ private:
     }
 
     void drawCell(Drawing& page, const QRectF& box, int row, std::size_t column) const {
-        const Cell cell = table_.cell(part_.records, row, part_.columns[column].column);
+        const int place = part_.columns[column].column;
+        const Cell cell = table_.cell(part_.records, row, place);
+        const QString words = wordsOf(cell, place);
         if (cell.style.background) {
             fill(page, box, *cell.style.background);
         }
         QRectF rest = box;
         if (!cell.image.isEmpty()) {
-            const QPointF corner(box.left() + padding, page.size().height() - box.center().y() - iconSize / 2);
+            const bool isCentred = words.isEmpty() && columnAt(column).alignment & Qt::AlignHCenter;
+            const QPointF corner(isCentred ? box.center().x() - iconSize / 2 : box.left() + padding,
+                                 page.size().height() - box.center().y() - iconSize / 2);
             page.add(Drawing::Icon{corner, {iconSize, iconSize}, cell.image});
             rest.setLeft(corner.x() + iconSize);
         }
-        drawText(page, rest, shownIn(cell), columnAt(column).alignment, cell.style.bold,
-                 cell.style.text.value_or(Qt::black));
+        drawText(page, rest, words, columnAt(column).alignment, cell.style.bold, cell.style.text.value_or(Qt::black));
     }
 
     BookTable table_;

@@ -16,6 +16,7 @@ struct TablePart {
 
     RecordList records;
     std::vector<Chosen> columns;
+    bool isAsOnScreen = false;  ///< with the decimal sign of the language
 };
 
 /// All records, with the columns that the settings show.

@@ -141,6 +141,9 @@ FoundUnit conversionUnit(const QString& name) {
 double inUnit(const char* to, const char* from, double value) {
     const FoundUnit source = conversionUnit(QString::fromLatin1(from));
     const FoundUnit target = conversionUnit(QString::fromLatin1(to));
+    if (!source.tab || source.tab != target.tab) {
+        qFatal("There is no way from %s to %s", from, to);
+    }
     return source.tab->convert(source.tab->units[source.position].tag, value)[target.position];
 }
 

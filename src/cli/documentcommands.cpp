@@ -59,17 +59,23 @@ void changeFile(const DocumentArguments& arguments, Console& console, Work work)
 
 }  // namespace
 
-void enterAll(BookForm& form, const std::vector<std::string>& entries) {
+Expected<void> enterAll(BookForm& form, const std::vector<std::string>& entries) {
     for (const std::string& argument : entries) {
         const QString entry = fromArgument(argument);
         const auto equals = entry.indexOf(u'=');
         if (equals < 1) {
             wrongUsage(textWith("Cli", "Not an entry", entry));
         }
-        if (const auto entered = enterByName(form, entry.left(equals), entry.mid(equals + 1)); !entered) {
+        const QString name = entry.left(equals);
+        const auto entered = enterByName(form, name, entry.mid(equals + 1));
+        if (!entered && readsFile(form, name)) {
+            return entered;
+        }
+        if (!entered) {
             wrongUsage(entered.error().message());
         }
     }
+    return {};
 }
 
 namespace {
@@ -97,19 +103,18 @@ void runNew(const DocumentArguments& arguments, Console& console) {
 void runAdd(const DocumentArguments& arguments, Console& console) {
     changeFile(arguments, console, [&](Session& session) -> Expected<void> {
         session.book->newRecord();
-        enterAll(session.book->form(), arguments.entries);
-        session.book->addRecord();
-        return {};
+        return enterAll(session.book->form(), arguments.entries).map([&] { session.book->addRecord(); });
     });
 }
 
 void runSet(const DocumentArguments& arguments, Console& console) {
     changeFile(arguments, console, [&](Session& session) {
-        return session.checkRow(arguments.row).map([&] {
-            session.book->selectRows({arguments.row});
-            enterAll(session.book->form(), arguments.entries);
-            session.book->updateRecord();
-        });
+        return session.checkRow(arguments.row)
+            .and_then([&] {
+                session.book->selectRows({arguments.row});
+                return enterAll(session.book->form(), arguments.entries);
+            })
+            .map([&] { session.book->updateRecord(); });
     });
 }
 

@@ -9,8 +9,9 @@ namespace tavrel {
 
 class BookForm;
 
-/// Enters every "field=value" into the form. What the form does not have is wrong usage.
-void enterAll(BookForm& form, const std::vector<std::string>& entries);
+/// Enters every "field=value" into the form; a failure when a file among them cannot be read. What the form does not
+/// have is wrong usage.
+Expected<void> enterAll(BookForm& form, const std::vector<std::string>& entries);
 
 /// Adds the commands that work on documents: show, new, add, set, delete, renumber, find and sort. A command changes
 /// the file as a whole or, when it fails, not at all.

@@ -188,7 +188,9 @@ void runForm(const ViewArguments& arguments, Console& console) {
         } else {
             book.selectRows({*arguments.row});
         }
-        enterAll(book.form(), arguments.entries);
+        if (auto entered = enterAll(book.form(), arguments.entries); !entered) {
+            return entered;
+        }
         book.updateUI();
         if (arguments.json) {
             JsonWriter json = jsonOn(console);

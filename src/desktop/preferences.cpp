@@ -232,12 +232,6 @@ auto Preferences::find(const QString& key, Reader reader) const {
     return value;
 }
 
-bool Preferences::boolean(const QString& key) const {
-    return find(key, readBoolean).value_or(false);
-}
-qint32 Preferences::integer(const QString& key) const {
-    return find(key, readInteger).value_or(0);
-}
 double Preferences::real(const QString& key) const {
     return find(key, readReal).value_or(0);
 }
@@ -249,9 +243,6 @@ QStringList Preferences::strings(const QString& key) const {
 }
 QVariantMap Preferences::dictionary(const QString& key) const {
     return find(key, readDictionary).value_or(QVariantMap());
-}
-QColor Preferences::color(const QString& key) const {
-    return find(key, readColor).value_or(QColor());
 }
 
 void Preferences::set(const QString& key, const QVariant& value) {

@@ -35,20 +35,16 @@ public:
     void registerDefaults(const QVariantMap& defaults);
 
     bool isStored(const QString& key) const;
-    /// The value of a setting, or its fallback while the user has none.
+    /// The value of a setting, or its fallback while the user has none. "YES", "yes", "true", "1" and any number but 0
+    /// are true, "NO", "false" and 0 are not; whole numbers are read like real ones.
     template <class Value>
     Value get(const Setting<Value>& setting) const;
-    /// "YES", "yes", "true", "1" and any number but 0 are true; "NO", "false" and 0 are false.
-    bool boolean(const QString& key) const;
     /// Numbers and the leading number of texts.
-    qint32 integer(const QString& key) const;
     double real(const QString& key) const;
     QString string(const QString& key) const;
     QStringList strings(const QString& key) const;
     /// Numbers and texts by name; the file holds it as the text of a JSON object.
     QVariantMap dictionary(const QString& key) const;
-    /// Reads the archived colour; invalid when neither the store nor the defaults hold one.
-    QColor color(const QString& key) const;
 
     /// Stores a boolean (as 0 or 1), number, string, string list, dictionary or bytes. Values reach the disk at once,
     /// the old file staying whole until the new one is complete.

@@ -4,11 +4,12 @@
 
 namespace tavrel {
 
-StyledText statisticsReport(const Statistics& statistics, const QString& logbook) {
+StyledText statisticsReport(const Statistics& statistics, const QString& logbook, QString (*asOnScreen)(QString)) {
     StyledText report;
     const auto row = [&](const QString& label, QString value) {
         report.append(QStringLiteral("\r   ") + textWith("Carnet", "Stat label", label), cardcolours::label);
-        report.append(value.replace(u'\r', u' '), cardcolours::value);
+        value.replace(u'\r', u' ');
+        report.append(asOnScreen ? asOnScreen(value) : value, cardcolours::value);
     };
     const auto heading = [&](const Title& title) {
         report.append(QStringLiteral("\r\r") + title.text(), cardcolours::heading);

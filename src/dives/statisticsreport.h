@@ -23,6 +23,8 @@ inline constexpr std::array<StatGroupName, 4> statGroupNames{{
 }};
 
 /// The statistics to print: a title that names the logbook, then every figure under its heading. Lines start with "\r".
-StyledText statisticsReport(const Statistics& statistics, const QString& logbook);
+/// A window's paper has the figures `asOnScreen`.
+StyledText statisticsReport(const Statistics& statistics, const QString& logbook,
+                            QString (*asOnScreen)(QString) = nullptr);
 
 }  // namespace tavrel

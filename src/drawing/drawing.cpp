@@ -163,7 +163,6 @@ void Drawing::reword(const std::function<QString(const QString&)>& words) {
             label->text = words(label->text);
         }
     }
-    title = words(title);
     description = words(description);
     if (table.cell) {
         table.cell = [words, plain = table.cell](int row, int column) { return words(plain(row, column)); };

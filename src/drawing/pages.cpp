@@ -14,8 +14,11 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSvgGenerator>
+#include <QTransform>
 
+#include <algorithm>
 #include <array>
+#include <variant>
 
 namespace tavrel {
 
@@ -112,6 +115,21 @@ Expected<QByteArray> pdfBytes(const Pages& pages) {
     return file.data();
 }
 
+/// A drawing's primitive elsewhere.
+Drawing::Primitive moved(Drawing::Primitive primitive, QPointF by) {
+    if (auto* area = std::get_if<Drawing::Area>(&primitive)) {
+        area->path.translate(by);
+        area->brush.setTransform(area->brush.transform() * QTransform::fromTranslate(by.x(), by.y()));
+    } else if (auto* line = std::get_if<Drawing::Line>(&primitive)) {
+        line->path.translate(by);
+    } else if (auto* label = std::get_if<Drawing::Text>(&primitive)) {
+        label->at += by;
+    } else {
+        std::get<Drawing::Icon>(primitive).at += by;
+    }
+    return primitive;
+}
+
 /// NAME.png, NAME-2.png …
 QString nameOfPage(const QString& path, int page) {
     if (page == 0) {
@@ -134,6 +152,23 @@ Pages pagesOf(const Drawing& drawing) {
     pages.page = [drawing](int) { return drawing; };
     pages.title = drawing.title;
     pages.description = drawing.description;
+    return pages;
+}
+
+Pages pagesOf(const Drawing& drawing, const Paper& paper) {
+    const QSizeF needed = drawing.size() + QSizeF(0, footHeight);
+    const QSizeF room = roomOn(paper);
+    const double scale = std::min(room.width() / needed.width(), room.height() / needed.height());
+    Pages pages = pagesFor(paper, 1);
+    pages.description = drawing.description;
+    pages.page = [drawing, paper, scale](int number) {
+        Drawing page = newPage(paper, scale, number, 1);
+        const QSizeF beside = page.size() - drawing.size();
+        for (const Drawing::Primitive& each : drawing.primitives()) {
+            page.add(moved(each, {beside.width() / 2, beside.height()}));
+        }
+        return page;
+    };
     return pages;
 }
 

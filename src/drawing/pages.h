@@ -46,6 +46,8 @@ struct Pages {
 
 /// One page, as large as the drawing.
 Pages pagesOf(const Drawing& drawing);
+/// One page of a paper, the drawing on it as large as it fits, a foot below.
+Pages pagesOf(const Drawing& drawing, const Paper& paper);
 /// A text broken into pages of a paper, a foot below each.
 Pages pagesOf(const StyledText& text, const Paper& paper);
 

@@ -160,7 +160,10 @@ void Carnet::proposeNumber() {
 }
 
 QString Carnet::formTitle() const {
-    return textWith(description().words.windowTitle, form().state().integer(form().controls().noPlongeeField));
+    const auto& number = form().controls().noPlongeeField;
+    return form().state().text(number).isEmpty()
+               ? description().words.newRecord.text()
+               : textWith(description().words.windowTitle, form().state().integer(number));
 }
 
 bool Carnet::renumDives(qint32 first, const Progress& progress) {

@@ -246,13 +246,11 @@ struct EpavesControls : ControlTable<EpavesControls> {
                                   .kind = ControlKind::rating,
                                   .field = "interet",
                                   .label = {"Epaves", "Label interest"},
-                                  .choices = cotations,
                                   .maximum = highestCotation});
     const Id techniciteSlider = add({.name = "techniciteSlider",
                                      .kind = ControlKind::rating,
                                      .field = "technicite",
                                      .label = {"Epaves", "Label difficulty"},
-                                     .choices = cotations,
                                      .maximum = highestCotation});
 
     const int notesGroup = group({5, {"Epaves", "Group remarks"}});

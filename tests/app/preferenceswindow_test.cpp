@@ -94,7 +94,7 @@ TEST_F(PreferencesTest, resetGivesEverySettingItsValueAndStoresIt) {
         {"fill color", {0.1F, 0.1F, 1}},      {"gradient lines color", {0.702F, 0.702F, 0.702F}},
     };
     for (const auto& [key, value] : colors) {
-        EXPECT_EQ(store->color(QString::fromLatin1(key)).name(), value.color().name()) << key;
+        EXPECT_EQ(store->get(Setting<QColor>{key}).name(), value.color().name()) << key;
     }
     // Keys without a control stay as they are registered; the interval's other spelling is one of them.
     EXPECT_FALSE(store->isStored(QStringLiteral("stop_interval")));
@@ -172,7 +172,7 @@ TEST_F(PreferencesTest, everyChangeIsStoredAndTellsItsFollowers) {
              "tank volume=12|coloured theme=2|us units=1|alpha fill color=0.5")) {
         EXPECT_EQ(store->string(QString::fromStdString(key)), value) << key;
     }
-    EXPECT_EQ(store->color(QStringLiteral("fill color")).name(), QColor(10, 20, 30).name());
+    EXPECT_EQ(store->get(Setting<QColor>{"fill color"}).name(), QColor(10, 20, 30).name());
 
     // A second window shows what was stored.
     PreferencesWindow second(desktop.desktop());
@@ -189,13 +189,13 @@ TEST_F(PreferencesTest, decoAndRebreatherStoreAfterTheyTold) {
     window().control(&settings::cellLife).setValue(QStringLiteral("20"));
     window().updateDecoNotification();
     EXPECT_EQ(intervalWhenPosted, QString());
-    EXPECT_EQ(desktop.preferences.integer(QStringLiteral("stop interval")), 4);
-    EXPECT_EQ(desktop.preferences.integer(QStringLiteral("low GF")), 30);
+    EXPECT_EQ(desktop.preferences.get(Setting<qint32>{"stop interval"}), 4);
+    EXPECT_EQ(desktop.preferences.get(Setting<qint32>{"low GF"}), 30);
     // The window showed the stored values again, which took the unsaved lifetime with it.
     EXPECT_EQ(window().control(&settings::cellLife).value().toString(), QString());
     window().control(&settings::cellLife).setValue(QStringLiteral("20"));
     window().updateRebreatherNotification();
-    EXPECT_EQ(desktop.preferences.integer(QStringLiteral("cell life")), 20);
+    EXPECT_EQ(desktop.preferences.get(Setting<qint32>{"cell life"}), 20);
 }
 
 TEST_F(PreferencesTest, switchesEnableWhatDependsOnThem) {
@@ -242,7 +242,7 @@ TEST_F(PreferencesTest, fieldsCountWhenTheUserGoesToAnotherWindow) {
     logbook.show();
     logbook.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&logbook));
-    EXPECT_EQ(readBack()->integer(QStringLiteral("tank volume")), 12);
+    EXPECT_EQ(readBack()->get(Setting<qint32>{"tank volume"}), 12);
 }
 
 TEST_F(PreferencesTest, pagesAndResetButton) {

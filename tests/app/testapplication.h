@@ -15,6 +15,7 @@ struct TestWindow : DocumentWindow {
     using DocumentWindow::DocumentWindow;
 
     void printDocument() override { ++prints; }
+    void previewDocument() override {}
     QString ownMenuTitle() const override { return QStringLiteral("Dive"); }
     QList<QWidget*> furtherWindows() override { return {&further}; }
     std::optional<Entries> askAboutEntries(Settling next) override {

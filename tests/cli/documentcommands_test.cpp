@@ -58,6 +58,7 @@ TEST_F(LogbookCommands, changesFindsAndRemovesDives) {
 
 TEST_F(LogbookCommands, endsWithTheReasonAndChangesNothing) {
     done("add a.carnet lieu=Nice");
+    done("new DiversDocs a.documents");
     QDir(path(QString())).mkdir(QStringLiteral("folder"));
     const QByteArray before = bytes();
     writeContents(path(QStringLiteral("cut.carnet")), before.chopped(7));
@@ -90,6 +91,8 @@ TEST_F(LogbookCommands, endsWithTheReasonAndChangesNothing) {
         {"add a.carnet heure=25:00", 2, "25:00"},
         {"add a.carnet profilProfondeur=0,deep", 2, "deep"},
         {"add a.carnet ASC_Flag=0,,1", 2, "ASC_Flag"},
+        {"add a.documents photocopy=cut.carnet", 1, "cut.carnet"},
+        {"form a.documents --new photocopy=missing.png", 1, "missing.png"},
         {"set a.carnet 0", 2, "ENTRIES"},
         {"set a.carnet one lieu=Nice", 2, "one"},
         {"set a.carnet 1 lieu=Nice", 1, "1"},
@@ -99,7 +102,8 @@ TEST_F(LogbookCommands, endsWithTheReasonAndChangesNothing) {
         {"find a.carnet ordi x", 2, "ordi"},
     });
     EXPECT_EQ(bytes(), before);
-    EXPECT_EQ(QDir(path(QString())).entryList(QDir::Files | QDir::Hidden), words("a.carnet a.carnet~ cut.carnet"));
+    EXPECT_EQ(QDir(path(QString())).entryList(QDir::Files | QDir::Hidden),
+              words("a.carnet a.carnet~ a.documents cut.carnet"));
 }
 
 TEST_F(LogbookCommands, readsTheSettingsAndLeavesThemAlone) {

@@ -13,7 +13,8 @@ namespace tavrel {
 namespace {
 
 constexpr Setting<QColor> plotColor{"plot color", Rgb{1, 0, 0}};
-const QString key = QStringLiteral("low temperature value");
+constexpr const char* settingKey = "low temperature value";
+const QString key = QString::fromLatin1(settingKey);
 
 /// The preferences as another run of the program finds them: a copy of the file, which no open store knows.
 std::unique_ptr<Preferences> nextRun(const TestDesktop& desktop) {
@@ -51,11 +52,11 @@ TEST(Preferences, readEveryKindBackInTheNextRun) {
     }
     const auto next = nextRun(desktop);
     for (const Preferences* run : std::initializer_list<const Preferences*>{&now, next.get()}) {
-        EXPECT_TRUE(run->boolean(QStringLiteral("yes")));
+        EXPECT_TRUE(run->get(Setting<bool>{"yes"}));
         EXPECT_EQ(run->string(QStringLiteral("yes")), u"1");
         EXPECT_TRUE(run->isStored(QStringLiteral("no")));
-        EXPECT_FALSE(run->boolean(QStringLiteral("no")));
-        EXPECT_EQ(run->integer(QStringLiteral("whole")), -50);
+        EXPECT_FALSE(run->get(Setting<bool>{"no"}));
+        EXPECT_EQ(run->get(Setting<qint32>{"whole"}), -50);
         EXPECT_EQ(run->real(QStringLiteral("fraction")), 0.1);
         for (int i = 0; i < texts.size(); ++i) {
             EXPECT_EQ(run->string(QStringLiteral("text %1").arg(i)), texts[i]);
@@ -64,7 +65,7 @@ TEST(Preferences, readEveryKindBackInTheNextRun) {
             EXPECT_TRUE(run->isStored(QStringLiteral("list %1").arg(i)));
             EXPECT_EQ(run->strings(QStringLiteral("list %1").arg(i)), lists[i]) << i;
         }
-        const QColor color = run->color(QStringLiteral("plot color"));
+        const QColor color = run->get(Setting<QColor>{"plot color"});
         EXPECT_NEAR(color.greenF(), 0.5, 1e-4);
         EXPECT_NEAR(color.alphaF(), 0.25, 1e-4);
         EXPECT_EQ(run->windowState(QStringLiteral("Nitrox Prof Max")), QByteArray("\0\xff,x", 4));
@@ -84,8 +85,8 @@ TEST(Preferences, readAWrongKindAsTheDefault) {
     }
     preferences.set(QStringLiteral("l"), QByteArray("bytes"));
     preferences.set(plotColor.name(), QStringLiteral("blue"));
-    EXPECT_TRUE(preferences.boolean(QStringLiteral("b")));
-    EXPECT_EQ(preferences.integer(QStringLiteral("n")), 7);
+    EXPECT_TRUE(preferences.get(Setting<bool>{"b"}));
+    EXPECT_EQ(preferences.get(Setting<qint32>{"n"}), 7);
     EXPECT_EQ(preferences.string(QStringLiteral("s")), u"FRA");
     EXPECT_EQ(preferences.strings(QStringLiteral("l")).size(), 2);
     EXPECT_EQ(preferences.get(plotColor), QColor(Qt::red));
@@ -96,12 +97,12 @@ TEST(Preferences, readAWrongKindAsTheDefault) {
     preferences.set(QStringLiteral("n"), QStringLiteral("deep"));
     preferences.set(QStringLiteral("b"), QStringLiteral("perhaps"));
     EXPECT_EQ(preferences.real(QStringLiteral("n")), 7.0);
-    EXPECT_TRUE(preferences.boolean(QStringLiteral("b")));
+    EXPECT_TRUE(preferences.get(Setting<bool>{"b"}));
     // Without a default either: the zero of the kind.
     preferences.set(key, list);
-    EXPECT_EQ(preferences.integer(key), 0);
-    EXPECT_FALSE(preferences.boolean(key));
-    EXPECT_FALSE(preferences.color(QStringLiteral("no such color")).isValid());
+    EXPECT_EQ(preferences.get(Setting<qint32>{settingKey}), 0);
+    EXPECT_FALSE(preferences.get(Setting<bool>{settingKey}));
+    EXPECT_FALSE(preferences.get(Setting<QColor>{"no such color"}).isValid());
 }
 
 TEST(Preferences, readTextsAsBooleansAndNumbers) {
@@ -111,8 +112,9 @@ TEST(Preferences, readTextsAsBooleansAndNumbers) {
          namedValues("YES=true 0 0|yes=true 0 0|true=true 0 0|NO=false 0 0|1=true 1 1|0=false 0 0|0.5=true 0 0.5|"
                      "-3,7 m=true -3 -3.7|=false 0 0|0.0=false 0 0|1e10=true 2147483647 1e+10")) {
         preferences.set(key, QString::fromStdString(text));
-        EXPECT_EQ(QVariant(preferences.boolean(key)).toString() + u' ' + QString::number(preferences.integer(key)) +
-                      u' ' + QString::number(preferences.real(key)),
+        EXPECT_EQ(QVariant(preferences.get(Setting<bool>{settingKey})).toString() + u' ' +
+                      QString::number(preferences.get(Setting<qint32>{settingKey})) + u' ' +
+                      QString::number(preferences.real(key)),
                   expected)
             << text;
     }
@@ -125,7 +127,7 @@ TEST(Preferences, thatCannotBeWrittenStayInMemory) {
     const QString file = obstacle + QStringLiteral("/folder/tavrel.ini");
     Preferences preferences(file);
     preferences.set(key, 12);
-    EXPECT_EQ(preferences.integer(key), 12);
+    EXPECT_EQ(preferences.get(Setting<qint32>{settingKey}), 12);
     RecordingAlerts alerts;
     preferences.synchronize(alerts);
     preferences.synchronize(alerts);
@@ -143,7 +145,7 @@ TEST(Preferences, registerWhatNoSettingFallsBackTo) {
     const TestDesktop desktop;
     EXPECT_EQ(desktop.preferences.string(QStringLiteral("stop_interval")), u"3");
     EXPECT_EQ(desktop.preferences.string(QStringLiteral("stop interval")), QString());
-    EXPECT_EQ(desktop.preferences.color(QStringLiteral("ASC color")), QColor(Qt::yellow));
+    EXPECT_EQ(desktop.preferences.get(Setting<QColor>{"ASC color"}), QColor(Qt::yellow));
 }
 
 TEST(Preferences, keepTheSpaceOfAColor) {
@@ -178,7 +180,7 @@ TEST(Preferences, ofOneRunLeaveTheFileAsItIs) {
     }
     const auto next = nextRun(desktop);
     EXPECT_EQ(next->string(QStringLiteral("country code")), u"FRA");
-    EXPECT_EQ(next->integer(QStringLiteral("tank volume")), 12);
+    EXPECT_EQ(next->get(Setting<qint32>{"tank volume"}), 12);
 }
 
 TEST(PickLists, areFilledStoredAndSortedByCharacterCode) {
@@ -236,7 +238,7 @@ TEST(Preferences, areReadFromSaneFilesOnly) {
     for (const QString& path : {pipe, large, QStringLiteral("/dev/zero"), desktop.path(QString())}) {
         Preferences preferences(path);
         preferences.set(key, 5);
-        EXPECT_EQ(preferences.integer(key), 5) << path.toStdString();
+        EXPECT_EQ(preferences.get(Setting<qint32>{settingKey}), 5) << path.toStdString();
         desktop.alerts.clear();
         preferences.synchronize(desktop.alerts);
         preferences.synchronize(desktop.alerts);

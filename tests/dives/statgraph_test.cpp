@@ -1,5 +1,6 @@
 #include "dives/statgraph.h"
 
+#include "base/decimalsign.h"
 #include "dives/statistics.h"
 #include "dives/statisticsreport.h"
 #include "profile/profilesettings.h"
@@ -126,6 +127,12 @@ TEST(StatisticsReport, NamesEveryFigureUnderItsHeading) {
     EXPECT_TRUE(report.contains(u"\r   Total time: 0 h 00 min. (0 min.)\r"));
     EXPECT_TRUE(report.contains(u"\r\rGases\r   Air: 3 (75.0 %)\r   Nitrox: 0 (0.0 %)\r"));
     EXPECT_TRUE(report.endsWith(u"\r   60 m and more: 1 (25.0 %)"));
+    setTextLanguage(QStringLiteral("fr"));
+    const QString paper =
+        statisticsReport(Statistics(divesIn(list), nullptr), QStringLiteral("Lot 1.5"), withDecimalSign).text();
+    EXPECT_TRUE(paper.startsWith(u"Statistiques de Lot 1.5\r\r"));
+    EXPECT_TRUE(paper.endsWith(u"1 (25,0 %)"));
+    setTextLanguage(QStringLiteral("en"));
 }
 
 }  // namespace

@@ -164,6 +164,26 @@ TEST(Pictures, ofADrawingHaveItsSizeAndTitle) {
     EXPECT_TRUE(pdf.contains("/MediaBox [0 0 40.0"));
 }
 
+TEST(Pictures, takeTheRoomOfAPaperAboveTheFoot) {
+    // Half as large on 200 by 100 inside the margins; the lower left quarter stands ten points above the edge.
+    Drawing picture(QSizeF(400, 180));
+    picture.add(Drawing::Area{rectangle(0, 0, 200, 90), QColor(Qt::red)});
+    const Paper paper{QSizeF(220, 100), {0, 0, 10, 10, 1}, QStringLiteral("Reef"), QDate(2024, 6, 15)};
+    const Pages pages = pagesOf(picture, paper);
+    EXPECT_EQ(pages.paper(), paper.size);
+    const QImage png = QImage::fromData(bytesOf(pages, PictureFormat::png));
+    for (const auto& [x, y, colour] : {std::tuple(109, 46, Qt::red),
+                                       {109, 89, Qt::red},
+                                       {109, 44, Qt::white},
+                                       {111, 60, Qt::white},
+                                       {9, 60, Qt::white},
+                                       {70, 91, Qt::white}}) {
+        EXPECT_EQ(png.pixelColor(2 * x, 2 * y), QColor(colour)) << x << ' ' << y;
+    }
+    const Drawing page = pages.page(0);
+    EXPECT_EQ(std::get<Drawing::Text>(page.primitives().front()).text, u"Reef");
+}
+
 TEST(Pictures, areWrittenByTheEndingOfTheName) {
     const QTemporaryDir folder;
     const auto path = [&](const char* name) { return folder.filePath(QLatin1StringView(name)); };

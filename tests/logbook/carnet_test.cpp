@@ -378,7 +378,7 @@ TEST_F(CarnetTest, setsAFieldByItsName) {
 TEST(CarnetColumns, areSetUpWhereTheNumberIsHidden) {
     TestDesktop desktop;
     auto& preferences = desktop.preferences;
-    const auto shown = [&](const char* key) { return preferences.boolean(QString::fromUtf8(key)); };
+    const auto shown = [&](const char* key) { return preferences.get(Setting<bool>{key}); };
     preferences.set(QStringLiteral("column gaz"), false);
     const Carnet first(desktop.desktop());
     for (const auto& column : diveColumns()) {

@@ -307,7 +307,7 @@
 <message><source>Pony 1 title</source><translation>Pony 1 : %d m - %d %% O₂</translation></message>
 <message><source>Pony 2 title</source><translation>Pony 2 : %d m - %d %% O₂</translation></message>
 <message><source>Pony 3 title</source><translation>Pony 3 : %d m - %d %% O₂</translation></message>
-<message><source>PpO2</source><translation>PpO₂ (bar)</translation></message>
+<message><source>PpO2</source><translation>ppO₂ (bar)</translation></message>
 <message><source>Previous dive</source><translation>Previous dive</translation></message>
 <message><source>Previous dives edit</source><translation>Previous dives…</translation></message>
 <message><source>Previous dives hint</source><translation>What you enter here is added to the statistics of every logbook.</translation></message>

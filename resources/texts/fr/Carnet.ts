@@ -418,9 +418,9 @@
 <message><source>UDDF files</source><translation>Fichiers UDDF</translation></message>
 <message><source>Under ice</source><translation>Sous glace</translation></message>
 <message><source>Undo add</source><translation>Ajouter la plongée</translation></message>
-<message><source>Undo convert units</source><translation>la conversion des unités</translation></message>
+<message><source>Undo convert units</source><translation>Convertir les unités</translation></message>
 <message><source>Undo delete</source><translation>Supprimer les plongées</translation></message>
-<message><source>Undo import</source><translation>Importation</translation></message>
+<message><source>Undo import</source><translation>Importer les plongées</translation></message>
 <message><source>Undo insert</source><translation>Insérer la plongée</translation></message>
 <message><source>Undo renumber</source><translation>Renuméroter les plongées</translation></message>
 <message><source>Undo update</source><translation>Modifier la plongée</translation></message>

@@ -47,9 +47,9 @@ void BookActions::addBookCommands() {
     });
     add(QStringLiteral("editWindow"), words.editRecord.text(), "texte", Qt::CTRL | Qt::Key_E, withSelection,
         [this] { book_.editWindow(); });
-    add(QStringLiteral("previousRecord"), words.previousRecord.text(), "precedent", Qt::CTRL | Qt::Key_PageUp, backward,
+    add(QStringLiteral("previousRecord"), words.previousRecord.text(), "precedent", Qt::ALT | Qt::Key_PageUp, backward,
         [this] { book_.previousRecord(); });
-    add(QStringLiteral("nextRecord"), words.nextRecord.text(), "suivant", Qt::CTRL | Qt::Key_PageDown, forward,
+    add(QStringLiteral("nextRecord"), words.nextRecord.text(), "suivant", Qt::ALT | Qt::Key_PageDown, forward,
         [this] { book_.nextRecord(); });
 }
 

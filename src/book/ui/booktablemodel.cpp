@@ -1,10 +1,11 @@
 #include "book/ui/booktablemodel.h"
 
-#include "base/decimalsign.h"
 #include "book/bookfilter.h"
 #include "desktop/ui/icons.h"
 
 #include <algorithm>
+#include <memory>
+#include <utility>
 
 namespace tavrel {
 
@@ -64,17 +65,30 @@ ListChange BookTableModel::changeOfRows() const {
     return {first, before - first - last, after - first - last};
 }
 
-void BookTableModel::insertOrRemove(const ListChange& change) {
-    if (change.removed == 0) {
-        beginInsertRows({}, change.first, change.first + change.inserted - 1);
+void BookTableModel::show(const ListChange& change) {
+    const int exchanged = std::min(change.removed, change.inserted);
+    const int more = change.inserted - change.removed;
+    if (more != 0) {
+        RecordList before;
+        for (int row = change.first; row < change.first + exchanged; ++row) {
+            before.push_back((*records_)[static_cast<std::size_t>(recordOf(row))]);
+        }
+        const int first = change.first + exchanged;
+        more > 0 ? beginInsertRows({}, first, first + more - 1) : beginRemoveRows({}, first, first - more - 1);
         showRows();
-        endInsertRows();
-    } else if (change.inserted == 0) {
-        beginRemoveRows({}, change.first, change.first + change.removed - 1);
-        showRows();
-        endRemoveRows();
-    } else {
-        reload();
+        if (exchanged > 0) {  // while rows come or go, all others are as they were
+            auto between = std::make_shared<RecordList>(*records_);
+            for (std::size_t place = 0; place < before.size(); ++place) {
+                const int record = recordOf(change.first + static_cast<int>(place));
+                (*between)[static_cast<std::size_t>(record)] = before[place];
+            }
+            records_ = std::move(between);
+        }
+        more > 0 ? endInsertRows() : endRemoveRows();
+    }
+    showRows();
+    if (exchanged > 0) {
+        Q_EMIT dataChanged(index(change.first, 0), index(change.first + exchanged - 1, columnCount() - 1));
     }
 }
 
@@ -82,25 +96,12 @@ void BookTableModel::followList() {
     if (book_.filter().isActive()) {
         return;  // the filter says itself what has become of its rows
     }
-    const ListChange change = changeOfRows();
-    if (change.removed != change.inserted) {
-        insertOrRemove(change);
-        return;
-    }
-    showRows();
-    if (change.inserted > 0) {
-        Q_EMIT dataChanged(index(change.first, 0), index(change.first + change.inserted - 1, columnCount() - 1));
-    }
+    show(changeOfRows());
 }
 
 void BookTableModel::followFilter() {
-    const ListChange change = changeOfRows();
-    if (change.removed > 0 || change.inserted > 0) {
-        insertOrRemove(change);
-        return;
-    }
-    showRows();
-    if (rowCount() > 0) {  // other words are marked in the same rows
+    show(changeOfRows());
+    if (rowCount() > 0) {  // other words are marked in all of them
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
     }
 }
@@ -121,24 +122,16 @@ const Cell& BookTableModel::cellAt(const QModelIndex& index) const {
     return cell_;
 }
 
-QString BookTableModel::onScreen(const QModelIndex& index, const QString& words) const {
-    const BookTable::Placed& placed = table_.columns()[static_cast<std::size_t>(index.column())];
-    const FieldKind kind = placed.field.isNull() ? FieldKind::real : placed.field.kind();
-    const bool isNumber = kind == FieldKind::integer || kind == FieldKind::real ||
-                          (kind == FieldKind::text && placed.column->alignment == Qt::AlignRight);
-    return isNumber ? withDecimalSign(words) : words;
-}
-
 QVariant BookTableModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
         return {};
     }
     switch (role) {
         case Qt::DisplayRole:
-            return onScreen(index, cellAt(index).text);
+            return table_.onScreen(index.column(), cellAt(index).text);
         case Qt::ToolTipRole:
         case Qt::AccessibleTextRole:
-            return onScreen(index, cellAt(index).inWords());
+            return table_.onScreen(index.column(), cellAt(index).inWords());
         case Qt::DecorationRole: {
             const QString& name = cellAt(index).image;
             return name.isEmpty() ? QVariant() : QVariant(iconNamed(name));

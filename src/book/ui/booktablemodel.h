@@ -39,11 +39,9 @@ private:
     void followList();
     void followFilter();
     void showRows();
-    /// Takes rows in or out where the change does only that, and reads all of them again where it does more.
-    void insertOrRemove(const ListChange& change);
+    /// Takes rows in or out, as many as the change makes more or fewer, and shows the others of the change anew.
+    void show(const ListChange& change);
     const Cell& cellAt(const QModelIndex& index) const;
-    /// The words of a cell as the user writes numbers; texts stay as they are.
-    QString onScreen(const QModelIndex& index, const QString& words) const;
 
     BookBase& book_;
     BookTable table_;

@@ -128,6 +128,7 @@ void BookTableView::setColumn(const QString& field, bool visible) {
 
 TablePart BookTableView::shownPart() const {
     TablePart part;
+    part.isAsOnScreen = true;
     const double digit = QFontMetricsF(font()).horizontalAdvance(u'0');
     const QHeaderView& header = *horizontalHeader();
     for (int place = 0; place < header.count(); ++place) {

@@ -20,9 +20,22 @@
 #include <QMenu>
 #include <QScreen>
 #include <QStatusBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace tavrel {
+
+namespace {
+
+/// Shows the items that a toolbar has no room for, below it, as the arrow at its end does.
+void unfold(const QToolBar& bar) {
+    if (auto* arrow = bar.findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"));
+        arrow && !arrow->isChecked()) {
+        arrow->click();
+    }
+}
+
+}  // namespace
 
 BookWindow::BookWindow(BookBase& book, Desktop& desktop)
     : DocumentWindow(book, desktop),
@@ -102,6 +115,14 @@ void BookWindow::addCommands() {
     if (!description.searches.empty()) {
         actions_->add(QStringLiteral("find"), text("Main", "Menu find"), "chercher", Qt::CTRL | Qt::SHIFT | Qt::Key_F,
                       BookActions::always, [this] {
+                          if (!search_->isVisible()) {
+                              setAnimated(false);  // the field is there at once
+                              unfold(*toolBar_);
+                              setAnimated(true);
+                          }
+                          if (!search_->isVisible()) {
+                              return filter_->edit();  // the user took the field out of the toolbar
+                          }
                           search_->setFocus(Qt::ShortcutFocusReason);
                           search_->selectAll();
                       });
@@ -267,7 +288,7 @@ QList<QAction*> BookWindow::ownMenuActions() {
 }
 
 QList<QAction*> BookWindow::viewActions() {
-    QList<QAction*> actions{toolBar_->action(QLatin1StringView(toolCustomise)), command("printPreview")};
+    QList<QAction*> actions{toolBar_->action(QLatin1StringView(toolCustomise))};
     if (table_->columnsMenu()) {
         actions.prepend(table_->columnsMenu()->menuAction());
     }
@@ -283,9 +304,9 @@ QList<QAction*> BookWindow::editActions() {
 }
 
 QAction* BookWindow::commandAction(const QString& name) {
-    return name == u"printDocument"  ? command(book_.description().commands.print)
-           : name == u"saveDocument" ? command("saveDocument")
-                                     : nullptr;
+    return name == u"printDocument"                             ? command(book_.description().commands.print)
+           : name == u"saveDocument" || name == u"printPreview" ? command(name.toUtf8())
+                                                                : nullptr;
 }
 
 QList<QWidget*> BookWindow::furtherWindows() {

@@ -54,7 +54,7 @@ public:
     /// Prints the table, landscape, with nothing selected; the selection comes back afterwards.
     void printDocument() override;
     /// Shows the pages of that before they are printed.
-    void previewDocument();
+    void previewDocument() override;
     QList<QWidget*> furtherWindows() override;
     std::optional<Entries> askAboutEntries(Settling next) override;
     void settleEntries(Entries entries) override;

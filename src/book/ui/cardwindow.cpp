@@ -41,6 +41,8 @@ void CardWindow::buildCommands() {
         bar->addAction(iconNamed(QStringLiteral("imprimante")), text("Main", "Print"), this, &CardWindow::print);
     print->setObjectName(QStringLiteral("printCard"));
     print->setShortcut(QKeySequence::Print);
+    bar->addAction(iconNamed(QStringLiteral("chercher")), text("Main", "Menu print preview"), this,
+                   &CardWindow::preview);
     addCloseKeys(*this);
 }
 
@@ -72,10 +74,17 @@ void CardWindow::bringToFront() {
     shown_->setFocus();
 }
 
+PrintJob CardWindow::printJob() const {
+    return {print_, windowTitle(), desktop_.clock.now().date(),
+            [this](const Paper& paper) { return pagesOf(card_, paper); }};
+}
+
 void CardWindow::print() {
-    const PrintJob job{print_, windowTitle(), desktop_.clock.now().date(),
-                       [this](const Paper& paper) { return pagesOf(card_, paper); }};
-    runPrint(this, job, desktop_.alerts);
+    runPrint(this, printJob(), desktop_.alerts);
+}
+
+void CardWindow::preview() {
+    runPrintPreview(this, printJob());
 }
 
 void CardWindow::changeEvent(QEvent* event) {

@@ -10,6 +10,8 @@ class QTextEdit;
 
 namespace tavrel {
 
+struct PrintJob;
+
 /// Shows a card: a text in several colours, to read, copy and print. On the screen its colours are shifted where the
 /// background would swallow them, and black is the colour of text; paper gets the plain ones.
 class CardWindow : public QMainWindow {
@@ -24,12 +26,14 @@ public:
     const StyledText& card() const { return card_; }
     void bringToFront();
     void print();
+    void preview();
 
 protected:
     void changeEvent(QEvent* event) override;
 
 private:
     void buildCommands();
+    PrintJob printJob() const;
     void showText();
 
     Desktop& desktop_;

@@ -5,6 +5,7 @@
 #include "calculators/nitrox.h"
 #include "calculators/ui/calculatorwidgets.h"
 #include "calculators/ui/resultmark.h"
+#include "desktop/ui/fittedtoscreen.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -71,6 +72,7 @@ CalculatorWindow::CalculatorWindow(CalculatorId id, QWidget* parent)
     copy->setShortcut(QKeySequence::Copy);
     connect(copy, &QAction::triggered, this, [this] { copyResult(resultText()); });
     addAction(copy);
+    fitToScreen(*this);
 }
 
 QGroupBox* CalculatorWindow::newInputs() {

@@ -6,6 +6,7 @@
 #include "calculators/position.h"
 #include "calculators/ui/calculatorwidgets.h"
 #include "calculators/ui/resultmark.h"
+#include "desktop/ui/fittedtoscreen.h"
 #include "desktop/ui/fixedpitch.h"
 
 #include <QComboBox>
@@ -99,6 +100,7 @@ GpsController::GpsController(QWidget* parent) : QDialog(parent), mark_(new Resul
                                          geodesiePopUp, longitude_inField, latitude_inField, altitude_inField}) {
         mark_->watch(input);
     }
+    fitToScreen(*this);
     longitude_in_degreeField->setFocus();
 }
 
@@ -196,7 +198,7 @@ QGroupBox* GpsController::newSexagesimal() {
     auto* layout = new QVBoxLayout(group);
     layout->addLayout(grid);
     layout->addWidget(new QLabel(text(Title("Calculators", "Signs hint")), group));
-    layout->addWidget(newFormulaLabel(sexagesimalFormula(), group));
+    layout->addWidget(newFormulaLabel(withDecimalSign(sexagesimalFormula()), group));
     layout->addWidget(convert, 0, Qt::AlignRight);
     return group;
 }
@@ -220,7 +222,7 @@ QGroupBox* GpsController::newDecimal() {
     connect(convert, &QPushButton::clicked, this, &GpsController::convertGPS2);
     auto* layout = new QVBoxLayout(group);
     layout->addLayout(grid);
-    layout->addWidget(newFormulaLabel(decimalFormula(), group));
+    layout->addWidget(newFormulaLabel(withDecimalSign(decimalFormula()), group));
     layout->addWidget(convert, 0, Qt::AlignRight);
     return group;
 }

@@ -4,6 +4,7 @@
 #include "base/numbers.h"
 #include "calculators/calculators.h"
 #include "calculators/ui/calculatorwidgets.h"
+#include "desktop/ui/fittedtoscreen.h"
 
 #include <QButtonGroup>
 #include <QGraphicsEffect>
@@ -61,6 +62,7 @@ PhysiqueController::PhysiqueController(QWidget* parent) : QDialog(parent), conve
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(conversionsTabView);
     layout->addLayout(buttons);
+    fitToScreen(*this);
     fieldOf(this, conversionTabs().front().units.front())->setFocus();
 }
 

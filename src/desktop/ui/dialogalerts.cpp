@@ -11,12 +11,18 @@ namespace tavrel {
 
 namespace {
 
+/// The first line of a message, which says what it is about; a long one is cut.
+QString titleOf(const QString& message) {
+    constexpr qsizetype longest = 80;
+    const QString line = message.section(u'\n', 0, 0);
+    return line.size() <= longest ? line : line.left(longest - 1) + u'…';
+}
+
 /// Names of files and fields are shown as they are, so nothing in an alert is taken for markup.
 class AlertBox : public QMessageBox {
 public:
     AlertBox(Icon icon, const QString& message)
-        : QMessageBox(icon, QApplication::applicationDisplayName(), printable(message), NoButton,
-                      QApplication::activeWindow()) {
+        : QMessageBox(icon, titleOf(printable(message)), printable(message), NoButton, QApplication::activeWindow()) {
         setTextFormat(Qt::PlainText);
         setWindowModality(parentWidget() ? Qt::WindowModal : Qt::ApplicationModal);
     }

@@ -135,11 +135,13 @@ void ToolBarDialog::fill(const QStringList& identifiers) {
 
 void ToolBarDialog::offer(const QStringList& present) {
     offered_->clear();
+    QStringList met;  // a separator is allowed as often as the arrangement has one
     for (const char* allowed : toolBar_.description().allowed) {
         const QString identifier = QLatin1StringView(allowed);
         const bool place = CustomToolBar::isPlace(identifier);
-        if (place || (toolBar_.action(identifier) && !present.contains(identifier))) {
+        if (!met.contains(identifier) && (place || (toolBar_.action(identifier) && !present.contains(identifier)))) {
             offered_->addItem(makeItem(identifier));
+            met.append(identifier);
         }
     }
     updateButtons();

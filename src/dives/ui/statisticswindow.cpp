@@ -52,6 +52,8 @@ void StatisticsWindow::buildToolBar() {
     auto* print = bar->addAction(iconNamed(QStringLiteral("imprimante")), text("Main", "Print"), this,
                                  &StatisticsWindow::printStatistics);
     print->setShortcut(QKeySequence::Print);
+    bar->addAction(iconNamed(QStringLiteral("chercher")), text("Main", "Menu print preview"), this,
+                   &StatisticsWindow::preview);
     bar->addAction(text("Carnet", "Previous dives edit"), this,
                    [this] { previousTotals().showEditStatisticsWindow(); });
     bar->addSeparator();
@@ -167,15 +169,23 @@ void StatisticsWindow::refresh() {
     setWindowTitle(textWith("Carnet", "Statistics of", source_.name()));
 }
 
-void StatisticsWindow::printStatistics() {
+PrintJob StatisticsWindow::printJob() {
     refresh();
     const bool graphs = pages_->currentWidget() == graphes_;
     PrintJob job{print_, windowTitle(), desktop_.clock.now().date(), [this, graphs](const Paper& paper) {
-                     return graphs ? pagesOf(graphes_->drawing())
-                                   : pagesOf(statisticsReport(*statistics_, source_.name()), paper);
+                     return graphs ? pagesOf(graphes_->drawing(), paper)
+                                   : pagesOf(statisticsReport(*statistics_, source_.name(), withDecimalSign), paper);
                  }};
     job.settings.landscape = graphs;
-    runPrint(this, job, desktop_.alerts);
+    return job;
+}
+
+void StatisticsWindow::printStatistics() {
+    runPrint(this, printJob(), desktop_.alerts);
+}
+
+void StatisticsWindow::preview() {
+    runPrintPreview(this, printJob());
 }
 
 }  // namespace tavrel

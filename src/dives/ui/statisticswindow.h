@@ -18,6 +18,7 @@ class QTabWidget;
 namespace tavrel {
 
 class Graphes;
+struct PrintJob;
 class PreviousTotalsWindow;
 
 /// The statistics of a logbook's dives: figures and graphs, of all dives, the selected ones or those found, with or
@@ -36,6 +37,7 @@ public:
     void updateStatistics();
     /// Prints the page in front: figures as a text, or the graphs.
     void printStatistics();
+    void preview();
 
     const Statistics& statistics() const { return *statistics_; }
     PreviousTotalsWindow& previousTotals();
@@ -46,6 +48,8 @@ private:
     QWidget* newFiguresPage();
     QLabel* newFigure(const QString& field, const QString& label);
     void refresh();
+    /// What the page in front prints, worked out anew.
+    PrintJob printJob();
 
     DiveSource source_;
     Desktop& desktop_;

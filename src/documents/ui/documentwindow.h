@@ -43,6 +43,7 @@ public:
     /// Imports of the File menu.
     virtual QList<QAction*> importActions() { return {}; }
     virtual void printDocument() = 0;
+    virtual void previewDocument() = 0;
     /// The document's further windows (edit form …), closed with it.
     virtual QList<QWidget*> furtherWindows() { return {}; }
     /// Settles what the user entered and the document does not hold yet; false when the user wants to go on entering,

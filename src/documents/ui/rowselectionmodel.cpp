@@ -35,6 +35,7 @@ RowSelectionModel::RowSelectionModel(QAbstractItemModel* model, ListDocument& do
     connect(model, &QAbstractItemModel::modelReset, this, &RowSelectionModel::mirror);
     connect(model, &QAbstractItemModel::rowsInserted, this, &RowSelectionModel::mirror);
     connect(model, &QAbstractItemModel::rowsRemoved, this, &RowSelectionModel::mirror);
+    connect(model, &QAbstractItemModel::dataChanged, this, &RowSelectionModel::mirror);  // of other records now
     connect(&document, &ListDocument::listChanged, this, &RowSelectionModel::mirror);
     connect(&document, &ListDocument::selectionChanged, this, &RowSelectionModel::mirror);
     mirror();

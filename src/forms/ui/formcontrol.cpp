@@ -89,6 +89,9 @@ public:
         : FormControl(state, index, new ListCombo(list)) {
         combo()->lineEdit()->setMaxLength(lineBound);
         connect(combo(), &ListCombo::entered, this, [this](const QString& text) {
+            if (!typed_ && text == held().text) {
+                return;  // a proposal is taken after the field was left with it
+            }
             typed_ = text;
             FormControl::state().type(FormControl::index(), text);
         });

@@ -39,6 +39,9 @@ ListCombo::ListCombo(QStringListModel* list, QWidget* parent)
 
     connect(lineEdit(), &QLineEdit::textEdited, this, &ListCombo::entered);
     connect(lineEdit(), &QLineEdit::editingFinished, this, &ListCombo::finished);
+    // A proposal that the keys reach is in the field already, and Return ends the editing before it is taken.
+    connect(proposals, qOverload<const QString&>(&QCompleter::highlighted), this, &ListCombo::entered);
+    connect(proposals, qOverload<const QString&>(&QCompleter::activated), this, &ListCombo::entered);
     connect(this, &QComboBox::activated, this, [this](int row) { Q_EMIT entered(itemText(row)); });
     connect(list, &QAbstractItemModel::modelReset, this, &ListCombo::listReset);
     connect(list, &QAbstractItemModel::modelReset, this, &ListCombo::gatherProposals);

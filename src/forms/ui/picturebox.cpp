@@ -114,7 +114,7 @@ protected:
             say({});
         }
         view_->showPicture(held.image);
-        export_->setEnabled(!held.image.isNull());
+        export_->setEnabled(!held.image.tiff.isEmpty());
         remove_->setEnabled(!held.image.isNull());
         if (held.image.isNull()) {
             enable();
@@ -131,7 +131,7 @@ private:
         state().place(index(), *picture);
     }
 
-    /// A picture that cannot be shown can be exported as it is stored, but not enlarged nor copied.
+    /// A picture file that cannot be shown can be exported as it is, but not enlarged nor copied.
     void enable() {
         const bool isShown = !view_->pixels().isNull();
         enlarge_->setEnabled(isShown);

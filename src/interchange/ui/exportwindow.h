@@ -26,7 +26,6 @@ public:
 
     /// Asks for the file and writes it; closes when it is written.
     void exportDives();
-    bool isReporting() const { return due_.isActive(); }
 
 private:
     enum Choice { allDives, selectedDives, foundDives };

@@ -261,10 +261,14 @@ void ImportWindow::showFound() {
             addRow(index);
         }
     }
-    // The remarks take what is left.
+    // The remarks take what is left, which is to be enough for a few words.
+    int taken = fontMetrics().averageCharWidth() * 30;
     for (int column = 0; column < remarks; ++column) {
         list_->resizeColumnToContents(column);
+        taken += column == place ? 0 : list_->columnWidth(column);
     }
+    const int placeRoom = std::max(list_->viewport()->width() - taken, fontMetrics().averageCharWidth() * 16);
+    list_->setColumnWidth(place, std::min(list_->columnWidth(place), placeRoom));
     const QStringList lost = lostItemLines(found_);
     lost_->setVisible(!lost.isEmpty());
     const QString more = lost.size() > mostLostShown ? QStringLiteral(", …") : QString();
@@ -296,6 +300,7 @@ void ImportWindow::addRow(int index) {
     row->setCheckState(start, found.duplicate ? Qt::Unchecked : Qt::Checked);
     row->setText(start, startWords(found.dive));
     row->setText(place, joined(found.dive.lieu, found.dive.site));
+    row->setToolTip(place, row->text(place));
     row->setText(deepest,
                  withDecimalSign(shortestText(found.dive.profondeur)) +
                      (desktop_.preferences.get(settings::usUnits) ? QStringLiteral(" ft") : QStringLiteral(" m")));

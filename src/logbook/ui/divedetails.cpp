@@ -45,6 +45,7 @@ void DiveDetails::makePage() {
     sample_->setObjectName(QStringLiteral("sampleField"));
     sample_->setAlignment(Qt::AlignCenter);
     sample_->setMinimumWidth(1);
+    profile_->setMinimumHeight(6 * fontMetrics().lineSpacing());
     connect(profile_, &ProfileView::sampleMarked, this, &DiveDetails::showSample);
     auto* picture = new QVBoxLayout;
     picture->setSpacing(2);
@@ -97,7 +98,6 @@ QWidget* DiveDetails::newFigures() {
     auto* area = new QScrollArea;
     area->setFrameShape(QFrame::NoFrame);
     area->setFocusPolicy(Qt::NoFocus);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setWidgetResizable(true);
     area->setWidget(contents);
     return area;

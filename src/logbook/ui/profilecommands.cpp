@@ -53,7 +53,7 @@ bool ProfileCommands::eventFilter(QObject* watched, QEvent* event) {
 
 ProfileWindow& ProfileCommands::profileWindow() {
     if (!profileWindow_) {
-        profileWindow_ = std::make_unique<ProfileWindow>(desktop_.preferences, desktop_.alerts);
+        profileWindow_ = std::make_unique<ProfileWindow>(desktop_);
     }
     return *profileWindow_;
 }

@@ -1,5 +1,6 @@
 #include "profile/ui/profileeditorwindow.h"
 
+#include "desktop/ui/fittedtoscreen.h"
 #include "desktop/ui/fixedpitch.h"
 #include "desktop/ui/keptframe.h"
 
@@ -58,6 +59,7 @@ ProfileEditorWindow::ProfileEditorWindow(Preferences& preferences)
     layout->addLayout(grid, 1);
     layout->addLayout(bottom);
     resize(1040, 560);
+    fitToScreen(*this);
     new KeptFrame(*this, preferences, QStringLiteral("editProfil"));
 }
 

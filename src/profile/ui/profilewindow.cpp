@@ -2,6 +2,9 @@
 
 #include "base/decimalsign.h"
 #include "base/texts.h"
+#include "desktop/clock.h"
+#include "desktop/desktop.h"
+#include "desktop/ui/fittedtoscreen.h"
 #include "desktop/ui/icons.h"
 #include "desktop/ui/keptframe.h"
 #include "drawing/ui/printing.h"
@@ -18,8 +21,8 @@
 
 namespace tavrel {
 
-ProfileWindow::ProfileWindow(Preferences& preferences, Alerts& alerts)
-    : alerts_(alerts),
+ProfileWindow::ProfileWindow(Desktop& desktop)
+    : desktop_(desktop),
       view_(new ProfileView),
       readOut_(new QLabel),
       sample_(new QLabel),
@@ -41,22 +44,23 @@ ProfileWindow::ProfileWindow(Preferences& preferences, Alerts& alerts)
     auto* dataButton = new QPushButton(text("Profil", "Data"));
     auto* pageLayout = new QPushButton(text("Profil", "Page layout"));
     auto* printButton = new QPushButton(iconNamed(QStringLiteral("imprimante")), text("Main", "Print"));
+    auto* previewButton = new QPushButton(iconNamed(QStringLiteral("chercher")), text("Main", "Menu print preview"));
     connect(dataButton, &QPushButton::clicked, view_, &DrawingView::showData);
     connect(pageLayout, &QPushButton::clicked, this, [this] { runPageLayout(this); });
     connect(printButton, &QPushButton::clicked, this, &ProfileWindow::print);
+    connect(previewButton, &QPushButton::clicked, this, &ProfileWindow::preview);
 
-    auto* readings = new QVBoxLayout;
-    readings->addWidget(readOut_);
-    readings->addWidget(sample_);
     auto* row = new QHBoxLayout;
-    row->addLayout(readings, 1);
-    for (QWidget* widget :
-         {static_cast<QWidget*>(intervalLabel), static_cast<QWidget*>(samplingRatePopUp_),
-          static_cast<QWidget*>(dataButton), static_cast<QWidget*>(pageLayout), static_cast<QWidget*>(printButton)}) {
+    for (QWidget* widget : {static_cast<QWidget*>(intervalLabel), static_cast<QWidget*>(samplingRatePopUp_),
+                            static_cast<QWidget*>(dataButton), static_cast<QWidget*>(pageLayout),
+                            static_cast<QWidget*>(previewButton), static_cast<QWidget*>(printButton)}) {
         row->addWidget(widget, 0, Qt::AlignVCenter);
     }
+    row->insertStretch(2, 1);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(view_, 1);
+    layout->addWidget(readOut_);
+    layout->addWidget(sample_);
     layout->addLayout(row);
 
     connect(view_, &ProfileView::pointerMoved, this, [this](const QPointF& point) {
@@ -68,7 +72,8 @@ ProfileWindow::ProfileWindow(Preferences& preferences, Alerts& alerts)
     addShortcut(QKeySequence::Print, [this] { print(); });
     addShortcut(QKeySequence::Close, [this] { close(); });
     resize(780, 760);
-    new KeptFrame(*this, preferences, QStringLiteral("Profil"));
+    fitToScreen(*this);
+    new KeptFrame(*this, desktop.preferences, QStringLiteral("Profil"));
     view_->setFocus();
 }
 
@@ -102,11 +107,21 @@ QString ProfileWindow::sampleValues() const {
     return sample_->text();
 }
 
-void ProfileWindow::print() {
-    PrintJob job{{}, view_->drawing().title, {}, [this](const Paper&) { return pagesOf(view_->drawing()); }};
+PrintJob ProfileWindow::printJob() const {
+    PrintJob job{{}, windowTitle(), desktop_.clock.now().date(), [this](const Paper& paper) {
+                     return pagesOf(view_->drawing(), paper);
+                 }};
     job.settings.top = job.settings.bottom = job.settings.left = job.settings.right = 25;
     job.settings.landscape = true;
-    runPrint(this, job, alerts_);
+    return job;
+}
+
+void ProfileWindow::print() {
+    runPrint(this, printJob(), desktop_.alerts);
+}
+
+void ProfileWindow::preview() {
+    runPrintPreview(this, printJob());
 }
 
 }  // namespace tavrel

@@ -15,8 +15,8 @@ class QLabel;
 
 namespace tavrel {
 
-class Alerts;
-class Preferences;
+struct Desktop;
+struct PrintJob;
 class ProfileView;
 
 /// The window of a dive's profile: the picture, what the pointer reads on it, the marked sample's own values, and the
@@ -25,7 +25,7 @@ class ProfileWindow : public QWidget {
     Q_OBJECT
 
 public:
-    ProfileWindow(Preferences& preferences, Alerts& alerts);
+    explicit ProfileWindow(Desktop& desktop);
 
     /// Shows a profile under a title; the interval chosen becomes the dive's own.
     void setProfile(const ProfileDive& dive, const ProfileStyle& style, const QString& title);
@@ -37,12 +37,14 @@ public:
 
     /// Asks for a printer, then prints the picture, landscape.
     void print();
+    void preview();
 
 private:
+    PrintJob printJob() const;
     void showReadOut();
     void addShortcut(QKeySequence::StandardKey keys, std::function<void()> command);
 
-    Alerts& alerts_;
+    Desktop& desktop_;
     ProfileView* view_;
     QLabel* readOut_;
     QLabel* sample_;

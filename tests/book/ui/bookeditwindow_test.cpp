@@ -8,7 +8,10 @@
 #include "logbook/carnet.h"
 #include "support/testdesktop.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QCheckBox>
+#include <QCompleter>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -208,6 +211,16 @@ TEST_F(BookEditWindowTest, combosFollowTheSharedListsAndKeepWhatIsTyped) {
     combo->lineEdit()->setFocus();
     EXPECT_EQ(combo->proposals().join(u'|'), QStringLiteral("Calvi|Élbe|Nice"));
     EXPECT_EQ(combo->count(), 2) << "the list itself stays as it is";
+    // One that the keys take is what was typed, and is asked about once.
+    combo->lineEdit()->selectAll();
+    QTest::keyClicks(combo->lineEdit(), QStringLiteral("lb"));
+    QTest::keyClick(combo->completer()->popup(), Qt::Key_Down);
+    desktop.alerts.answerNext(1);
+    QTest::keyClick(combo->completer()->popup(), Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return desktop.alerts.questions.size() == 1; }));
+    EXPECT_EQ(state().at(controls.lieuField.index).text, u"Élbe");
+    combo->lineEdit()->clearFocus();
+    QCoreApplication::processEvents();
     carnet.undoStack().clear();
     carnet.replaceList({});
 
@@ -216,7 +229,7 @@ TEST_F(BookEditWindowTest, combosFollowTheSharedListsAndKeepWhatIsTyped) {
     QTest::keyClicks(combo->lineEdit(), QStringLiteral("CALVI"));
     desktop.alerts.answerNext(0);
     QTest::keyClick(combo->lineEdit(), Qt::Key_Return);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return desktop.alerts.questions.size() == 1; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return desktop.alerts.questions.size() == 2; }));
     EXPECT_EQ(combo->count(), 3);
     EXPECT_EQ(state().at(controls.lieuField.index).text, u"CALVI");
     QTest::keyClick(combo->lineEdit(), Qt::Key_Return);
@@ -226,7 +239,7 @@ TEST_F(BookEditWindowTest, combosFollowTheSharedListsAndKeepWhatIsTyped) {
     desktop.alerts.answerNext(1);
     window.toolBar().action(QStringLiteral("addDiveToList"))->trigger();
     QCoreApplication::processEvents();
-    EXPECT_EQ(desktop.alerts.questions.size(), 2U);
+    EXPECT_EQ(desktop.alerts.questions.size(), 3U);
     EXPECT_EQ(carnet.recordAt(0)->lieu, u"Sete");
 
     combo->setFocus();
@@ -335,6 +348,22 @@ TEST_F(BookEditWindowTest, storesTheFormAndGoesFromRecordToRecord) {
     number->selectAll();
     QTest::keyClicks(number, QStringLiteral("77"));
     EXPECT_EQ(window.windowTitle(), textWith("Carnet", "Dive number title", 77));
+    carnet.blankFields();
+    EXPECT_EQ(window.windowTitle(), u"New Dive");
+}
+
+TEST_F(BookEditWindowTest, turnsItsPagesByKeysWhateverIsSelected) {
+    addDives(3);
+    carnet.selectRows({1});
+    carnet.editWindow();
+    const int top = window.currentPage();
+    QTest::keyClick(&window, Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(window.currentPage(), top + 1);
+    QTest::keyClick(&window, Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(window.currentPage(), top);
+    EXPECT_EQ(carnet.selectedRow(), 1);
+    QTest::keyClick(&window, Qt::Key_PageDown, Qt::AltModifier);
+    EXPECT_EQ(carnet.selectedRow(), 2);
 }
 
 TEST_F(BookEditWindowTest, storesNothingThatNobodyTyped) {

@@ -1,5 +1,6 @@
 #include "book/ui/bookwindow.h"
 
+#include "book/tablepages.h"
 #include "book/ui/bookeditwindow.h"
 #include "book/ui/booksearchfield.h"
 #include "book/ui/booktableview.h"
@@ -147,7 +148,7 @@ TEST_F(BookWindowTest, hidesColumnsAndPutsThemBackInTheirPlace) {
     for (const char* field : {"deco", "coeff"}) {
         table().columnsMenu()->findChild<QAction*>(QString::fromUtf8(field))->trigger();
     }
-    EXPECT_FALSE(desktop.preferences.boolean(QStringLiteral("column coeff")));
+    EXPECT_FALSE(desktop.preferences.get(Setting<bool>{"column coeff"}));
     QStringList fewer = all;
     fewer.removeAll(QStringLiteral("deco"));
     fewer.removeAll(QStringLiteral("coeff"));
@@ -184,6 +185,32 @@ TEST_F(BookWindowTest, readsAgainOncePerChange) {
     QTest::qWait(0);
     window->grab();
     EXPECT_EQ(resets.count(), 1);
+}
+
+TEST_F(BookWindowTest, printsAPictureBelowItsHeading) {
+    hold(1);
+    ASSERT_TRUE(carnet.setValue(0, QStringLiteral("inoubliable"), 1));
+    double heading = 0;
+    double picture = -1;
+    const Paper paper{QSizeF(2000, 300), {}, {}, {}};
+    const Drawing page = pagesOf(carnet, wholeTable(carnet), paper).page(0);
+    for (const auto& each : page.primitives()) {
+        if (const auto* text = std::get_if<Drawing::Text>(&each); text && text->text == u"Rating") {
+            heading = text->at.x();
+        } else if (const auto* icon = std::get_if<Drawing::Icon>(&each)) {
+            picture = icon->at.x() + icon->size.width() / 2;
+        }
+    }
+    EXPECT_NEAR(picture, heading, 0.01);
+}
+
+TEST_F(BookWindowTest, findsWhereItsToolBarIsTooNarrowForTheField) {
+    window->resize(400, 500);
+    QCoreApplication::processEvents();
+    ASSERT_FALSE(window->searchField()->isVisible());
+    command("find")->trigger();
+    EXPECT_TRUE(window->searchField()->isVisible());
+    EXPECT_TRUE(window->searchField()->hasFocus());
 }
 
 TEST_F(BookWindowTest, copiesTheSelectedRows) {

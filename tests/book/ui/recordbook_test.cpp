@@ -191,7 +191,6 @@ TEST_F(RecordBookTest, takesRowsInAndOutWithoutMovingTheOthers) {
     QAbstractItemModel& model = *window.table().model();
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
     const QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
-    const QSignalSpy removals(&model, &QAbstractItemModel::rowsRemoved);
     auto& scroll = *window.table().verticalScrollBar();
     const auto at = [&](int row) { return model.index(row, 0).data().toString(); };
     const auto changed = [&](auto change) {
@@ -207,7 +206,6 @@ TEST_F(RecordBookTest, takesRowsInAndOutWithoutMovingTheOthers) {
 
     changed([](RecordList& list) { list.erase(list.begin() + 150, list.begin() + 152); });
     changed([](RecordList& list) { list.insert(list.begin() + 170, list.front()); });
-    EXPECT_EQ(removals.count(), 1);
     EXPECT_EQ(model.rowCount(), 199);
     EXPECT_EQ(at(150), u"thing 152");
     EXPECT_EQ(at(170), u"thing 0");
@@ -218,16 +216,24 @@ TEST_F(RecordBookTest, takesRowsInAndOutWithoutMovingTheOthers) {
     EXPECT_EQ(scroll.value(), scrolled);
     EXPECT_EQ(book.selectedRows(), QList<int>({100}));
     EXPECT_TRUE(window.table().selectionModel()->isRowSelected(100, {}));
-    EXPECT_EQ(resets.count(), 0);
+    changed([](RecordList& list) {
+        list.erase(list.begin() + 10, list.begin() + 12);
+        list[10] = list.front();
+    });
+    EXPECT_EQ(at(10), u"thing 0");
+    EXPECT_EQ(kept.row(), 98);
+    book.undoStack().undo();
+    EXPECT_EQ(at(10), u"thing 10");
+    EXPECT_EQ(kept.row(), 100);
 
     // Under a filter the rows shown are others than the list's.
     window.filterBar().field().setText(QStringLiteral("19"));
     EXPECT_EQ(model.rowCount(), 12) << "19, 119, 190 to 199";
     changed([](RecordList& list) { list.erase(list.begin() + 19); });
     EXPECT_EQ(at(0), u"thing 119");
-    EXPECT_EQ(removals.count(), 3);
     window.filterBar().field().clear();
     EXPECT_EQ(model.rowCount(), 198);
+    EXPECT_EQ(resets.count(), 0);
 }
 
 TEST_F(RecordBookTest, filtersAsOneTypes) {
@@ -242,6 +248,14 @@ TEST_F(RecordBookTest, filtersAsOneTypes) {
     };
     EXPECT_EQ(window.searchField(), nullptr);
     EXPECT_EQ(count->text(), QString());
+    field.setText(QStringLiteral("la"));
+    book.selectRows({1});
+    EXPECT_EQ(shown(), u"Regulator|Lamp 7");
+    field.setText(QStringLiteral("7"));
+    EXPECT_TRUE(window.table().selectionModel()->isRowSelected(0, {})) << "the record stands elsewhere";
+    EXPECT_FALSE(window.table().selectionModel()->isRowSelected(1, {}));
+    field.clear();
+    book.deselectAll();
     command("filter")->trigger();
     EXPECT_TRUE(field.hasFocus());
     QTest::keyClicks(&field, QStringLiteral("7"));
@@ -302,6 +316,10 @@ TEST_F(RecordBookTest, goesToPaperAsItIsShown) {
     EXPECT_EQ(pages.size, QSizeF(330, 270));
     EXPECT_EQ(rowsOn(pages.page(0)),
               (QStringList{QStringLiteral("Price|Name"), QStringLiteral("17.5|Lamp 7"), QStringLiteral("0|Knife 7")}));
+    setTextLanguage(QStringLiteral("fr"));
+    EXPECT_EQ(rowsOn(pages.page(0))[1], u"17,5|Lamp 7");
+    EXPECT_EQ(rowsOn(pagesOf(book, wholeTable(book), paper).page(0))[2], u"Lamp 7|17.5|0") << "not of a window";
+    setTextLanguage(QStringLiteral("en"));
 }
 
 TEST_F(RecordBookTest, breaksItsTableIntoPages) {
@@ -374,7 +392,7 @@ TEST_F(RecordBookTest, showsOneActionForACommandEverywhere) {
     EXPECT_EQ(window.commandAction(QStringLiteral("saveDocument")), command("saveDocument"));
     EXPECT_EQ(window.commandAction(QStringLiteral("printDocument")), command("imprimer"));
     EXPECT_FALSE(window.ownMenuActions().contains(command("imprimer")));
-    EXPECT_EQ(window.viewActions().size(), 2) << "no columns to choose";
+    EXPECT_EQ(window.viewActions().size(), 1) << "no columns to choose";
 
     QTest::keyClick(&window.table(), Qt::Key_Delete);  // nothing selected
     EXPECT_EQ(desktop.alerts.questions.size(), 0U);

@@ -52,13 +52,14 @@ TEST(DialogAlerts, tellFailuresWithTheirDetail) {
     window.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     withNextBox([&](QMessageBox& box) {
-        EXPECT_EQ(box.text(), u"It failed.");
+        EXPECT_EQ(box.windowTitle(), u"It failed.");
+        EXPECT_EQ(box.text(), u"It failed.\nBadly.");
         EXPECT_EQ(box.informativeText(), u"at byte 12");
         EXPECT_EQ(box.parentWidget(), &window);
         EXPECT_EQ(box.windowModality(), Qt::WindowModal);
         box.close();
     });
-    alerts.fail({QStringLiteral("It failed."), QStringLiteral("at byte 12")});
+    alerts.fail({QStringLiteral("It failed.\nBadly."), QStringLiteral("at byte 12")});
 }
 
 TEST(DialogAlerts, takeNothingForMarkup) {

@@ -112,6 +112,8 @@ TEST_F(PictureBox, saysWhatCannotBeTakenOrShown) {
     EXPECT_EQ(message(), u"The picture is damaged.");
     EXPECT_FALSE(button("pictureEnlarge")->isEnabled());
     EXPECT_TRUE(button("pictureExport")->isEnabled());
+    state.setImage(0, {{}, 1, 1, "an object"});
+    EXPECT_FALSE(button("pictureExport")->isEnabled());
     state.setImage(0, {});
     EXPECT_EQ(message(), u"");
 }

@@ -39,11 +39,11 @@ struct Exporting : testing::Test {
         formats->setCurrentIndex(formats->findData(QLatin1String(format)));
     }
     QStringList losses() {
-        while (window->isReporting()) {
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        }
         QStringList lines;
         const auto* list = window->findChild<QListWidget*>(QStringLiteral("losses"));
+        while (list->item(0)->text() == text("Interchange", "Looking for losses")) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
         for (int row = 0; row < list->count(); ++row) {
             lines.append(list->item(row)->text());
         }

@@ -41,7 +41,7 @@ void moveTo(ProfileView& view, double x, double y) {
 
 TEST(ProfileWindow, readsThePointerByTheIntervalChosen) {
     TestDesktop desktop;
-    ProfileWindow window(desktop.preferences, desktop.alerts);
+    ProfileWindow window(desktop.desktop());
     window.setProfile(fortySamples(), plainStyle(), QStringLiteral("Dive 7"));
     EXPECT_EQ(window.windowTitle(), u"Dive 7");
     EXPECT_TRUE(window.readOut().startsWith(QStringLiteral("40 samples")));
@@ -63,7 +63,7 @@ TEST(ProfileWindow, readsThePointerByTheIntervalChosen) {
 
 TEST(ProfileWindow, marksSamplesByPointerAndKeys) {
     TestDesktop desktop;
-    ProfileWindow window(desktop.preferences, desktop.alerts);
+    ProfileWindow window(desktop.desktop());
     window.setProfile(fortySamples(), plainStyle(), QStringLiteral("Dive 7"));
     ProfileView& view = window.view();
     showAtItsSize(view);
