@@ -190,7 +190,7 @@
 <message><source>Import handheld</source><translation>Import from handheld</translation></message>
 <message><source>Import stopped</source><translation>The import stopped at dive %d of the file: %@.</translation></message>
 <message><source>Imported dives</source><translation>%d dives were imported.</translation></message>
-<message><source>Importing</source><translation>Importing dives …</translation></message>
+<message><source>Importing</source><translation>Importing dives…</translation></message>
 <message><source>Label air temperature</source><translation>Air temperature</translation></message>
 <message><source>Label algorithm</source><translation>Algorithm</translation></message>
 <message><source>Label altitude</source><translation>Altitude</translation></message>

@@ -26,7 +26,7 @@
 <message><source>Group supplier</source><translation>Prestataire</translation></message>
 <message><source>Group total</source><translation>Total</translation></message>
 <message><source>Inefficient</source><translation>Lent</translation></message>
-<message><source>Inventory</source><translation>Prévisions de budget</translation></message>
+<message><source>Inventory</source><translation>Budget prévisionnel</translation></message>
 <message><source>Label card price</source><translation>Prix</translation></message>
 <message><source>Label card units</source><translation>Unités</translation></message>
 <message><source>Label delay</source><translation>Réactivité</translation></message>

@@ -218,7 +218,7 @@
 <message><source>Label low GF</source><translation>GF bas</translation></message>
 <message><source>Label low setpoint</source><translation>Point de consigne bas (bar)</translation></message>
 <message><source>Label maker</source><translation>Fabricant</translation></message>
-<message><source>Label material</source><translation>Matière</translation></message>
+<message><source>Label material</source><translation>Matériau</translation></message>
 <message><source>Label maximum depth</source><translation>Profondeur max.</translation></message>
 <message><source>Label method</source><translation>Méthode</translation></message>
 <message><source>Label model</source><translation>Modèle</translation></message>
@@ -265,7 +265,7 @@
 <message><source>Menu import UDCF</source><translation>Importer UDCF…</translation></message>
 <message><source>Menu import UDDF</source><translation>Importer UDDF…</translation></message>
 <message><source>Menu import handheld</source><translation>Importer du carnet de poche…</translation></message>
-<message><source>Menu insert dive</source><translation>Insérer avant la plongée choisie</translation></message>
+<message><source>Menu insert dive</source><translation>Insérer avant la plongée sélectionnée</translation></message>
 <message><source>Menu new dive</source><translation>Nouvelle plongée</translation></message>
 <message><source>Menu previous dives</source><translation>Plongées antérieures…</translation></message>
 <message><source>Metres</source><translation>%.1f m</translation></message>
@@ -303,7 +303,7 @@
 <message><source>Parameters</source><translation>&#13;&#13;Paramètres</translation></message>
 <message><source>Pays</source><translation>&#13;Pays : </translation></message>
 <message><source>Photo dive</source><translation>Photo</translation></message>
-<message><source>Ponies</source><translation>&#13;Blocs de déco : </translation></message>
+<message><source>Ponies</source><translation>&#13;Blocs relais : </translation></message>
 <message><source>Pony 1 title</source><translation>Pony 1 : %d m - %d %% O₂</translation></message>
 <message><source>Pony 2 title</source><translation>Pony 2 : %d m - %d %% O₂</translation></message>
 <message><source>Pony 3 title</source><translation>Pony 3 : %d m - %d %% O₂</translation></message>
@@ -366,7 +366,7 @@
 <message><source>Steel</source><translation>Acier</translation></message>
 <message><source>Store dive question</source><translation>La plongée du formulaire a été modifiée et n’est pas encore enregistrée.</translation></message>
 <message><source>Strong</source><translation>Fort</translation></message>
-<message><source>Structure</source><translation>&#13;Structure : </translation></message>
+<message><source>Structure</source><translation>&#13;Club ou centre : </translation></message>
 <message><source>Surface</source><translation>&#13;Intervalle de surface : </translation></message>
 <message><source>T-shirt</source><translation>T-shirt</translation></message>
 <message><source>TTS</source><translation>&#13;Durée totale de remontée : </translation></message>

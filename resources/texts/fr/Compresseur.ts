@@ -23,7 +23,7 @@
 <message><source>Group oil and filter</source><translation>Huile et filtre à air</translation></message>
 <message><source>Group remarks</source><translation>Remarques</translation></message>
 <message><source>Group service</source><translation>Révision</translation></message>
-<message><source>Inventory</source><translation>Entretien du compresseur</translation></message>
+<message><source>Inventory</source><translation>Maintenance du compresseur</translation></message>
 <message><source>Label air filter</source><translation>Filtre à air</translation></message>
 <message><source>Label alumina</source><translation>Alumine activée</translation></message>
 <message><source>Label brand</source><translation>Marque</translation></message>
@@ -57,7 +57,7 @@
 <message><source>Page service</source><translation>Révision</translation></message>
 <message><source>Remarks</source><translation>&#13;&#13;Remarques : </translation></message>
 <message><source>Retarage</source><translation>retarage</translation></message>
-<message><source>Service</source><translation>Révision nº </translation></message>
+<message><source>Service</source><translation>Révision n° </translation></message>
 <message><source>Sum time</source><translation>&#13;Temps cumulé : </translation></message>
 <message><source>Synthetic</source><translation>Synthétique</translation></message>
 <message><source>Table name</source><translation>Révisions du compresseur</translation></message>

@@ -56,7 +56,7 @@
 <message><source>No place for</source><translation>Une plongée n’a pas de place pour : %@.</translation></message>
 <message><source>No such column</source><translation>Les plongées n’ont pas de champ « %@ ».</translation></message>
 <message><source>Nothing lost</source><translation>Rien n’est perdu.</translation></message>
-<message><source>Reading file</source><translation>Lecture de « %@ » …</translation></message>
+<message><source>Reading file</source><translation>Lecture de « %@ »…</translation></message>
 <message><source>Reads better</source><translation>Le fichier est de l’UDDF 3 ; lu selon son sens, il a ses dates, ses gaz et ses profils.</translation></message>
 <message><source>Renumber by date</source><translation>Classer toutes les plongées par date et les renuméroter</translation></message>
 <message><source>Say the date</source><translation>Indiquez la colonne de la date ; les plongées sont alors lues.</translation></message>

@@ -5,8 +5,8 @@
 <name>Materiel</name>
 <message><source>A reparer</source><translation>À réparer</translation></message>
 <message><source>Capacity</source><translation>&#13;Capacité (l) : </translation></message>
-<message><source>Card No</source><translation>&#13;Fiche nº : </translation></message>
-<message><source>Edit window title</source><translation>Fiche de matériel nº %@</translation></message>
+<message><source>Card No</source><translation>&#13;Fiche n° : </translation></message>
+<message><source>Edit window title</source><translation>Fiche de matériel n° %@</translation></message>
 <message><source>Elapsed time</source><translation>Temps écoulé</translation></message>
 <message><source>En service</source><translation>En service</translation></message>
 <message><source>Equipment state</source><translation>&#13;État : </translation></message>
@@ -60,10 +60,10 @@
 <message><source>Reforme</source><translation>Réformé</translation></message>
 <message><source>Remarks</source><translation>&#13;Remarques : </translation></message>
 <message><source>Replace</source><translation>À remplacer</translation></message>
-<message><source>Serial No</source><translation>&#13;Nº de série : </translation></message>
+<message><source>Serial No</source><translation>&#13;N° de série : </translation></message>
 <message><source>Service pressure</source><translation>&#13;Pression de service (bar) : </translation></message>
 <message><source>Sold</source><translation>Vendu</translation></message>
-<message><source>TIV No</source><translation>&#13;Nº du technicien : </translation></message>
+<message><source>TIV No</source><translation>&#13;N° du technicien : </translation></message>
 <message><source>TIV technician</source><translation>&#13;Technicien d’inspection : </translation></message>
 <message><source>Table name</source><translation>Inventaire du matériel</translation></message>
 <message><source>Test pressure</source><translation>&#13;Pression d’épreuve (bar) : </translation></message>
