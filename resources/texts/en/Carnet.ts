@@ -158,7 +158,7 @@
 <message><source>Graph bar</source><translation>Depths and gases</translation></message>
 <message><source>Graph share</source><translation>Share of dives</translation></message>
 <message><source>Group apparatus</source><translation>Breathing apparatus</translation></message>
-<message><source>Group bail-outs</source><translation>Bail-out cylinders</translation></message>
+<message><source>Group bail-outs</source><translation>Bail-out tanks</translation></message>
 <message><source>Group computer</source><translation>Dive computer</translation></message>
 <message><source>Group consumption</source><translation>Consumption and oxygen</translation></message>
 <message><source>Group decompression</source><translation>Decompression</translation></message>
