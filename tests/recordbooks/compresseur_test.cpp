@@ -57,7 +57,7 @@ TEST_F(CompresseurTest, showsOperationsAndAnalysesInItsColumns) {
 
 TEST_F(CompresseurTest, writesACardOfTheOperationsDoneUnderTheFirstBrand) {
     const auto full = filled<Compresseur>(
-        "marque=|modele=Junior|date=2024-05-03|temps=2001-01-01T07:05|cumulTemps=about 120|vidange=1|filtreAir=1|"
+        "marque=|modele=Compact|date=2024-05-03|temps=2001-01-01T07:05|cumulTemps=about 120|vidange=1|filtreAir=1|"
         "operationFiltre=1|cartouche=1|charbon=1|alumine=1|tamis=1|depoussierage=1|controles=1|soupapes=1|intSoupape=1|"
         "typeHuile=3|anHuile=0.5|anCO2=300|anCO2Unit=1|anCO=0|anH2O=25|notes=fine");
     auto other = filled<Compresseur>(
@@ -66,7 +66,7 @@ TEST_F(CompresseurTest, writesACardOfTheOperationsDoneUnderTheFirstBrand) {
     EXPECT_EQ(
         card({full, other}),
         QStringLiteral(
-            "Compressor maintenance/Brand: /Model: Junior//------------------------------/Service no. 1/"
+            "Compressor maintenance/Brand: /Model: Compact//------------------------------/Service no. 1/"
             "Date: 03/05/2024/Running time: 07 h 05 min./Running time in all: about 120//Operations"
             "/- Oil change, mineral/- Air filter replaced/- Filter cartridge/    - Activated charcoal"
             "/    - Activated alumina/    - Molecular sieve/- Dust removed/- Checks/- Valves: re-set//Air analyses"

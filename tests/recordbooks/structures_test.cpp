@@ -50,12 +50,12 @@ TEST_F(StructuresTest, coloursRatingsAndNothingByAge) {
 
 TEST_F(StructuresTest, listsPricesOfWhatHasAName) {
     auto club = filled<Structures>(
-        "nom=Club|affiliation=FF|gerant=Anne|adresse=Quay 3|ville=Nice|pays=France|telephone=1|portable=2|fax=3|"
+        "nom=Club|affiliation=FF|gerant=Chair|adresse=Quay 3|ville=Nice|pays=France|telephone=1|portable=2|fax=3|"
         "email=a@b|url=w|remarques=fine|cotation=7|bapteme=45|prix_1=99|plongee_2=Boat dive|prix_2=32.5|"
         "formation_6=Nitrox|prixForm_6=120.999|nbPlongees=12");
     const QString text = card({club});
     EXPECT_TRUE(text.startsWith(
-        u"Club address book/Name: Club/Type: Non-profit/Affiliation: FF/Manager: Anne/Address: Quay 3 0 Nice France"
+        u"Club address book/Name: Club/Type: Non-profit/Affiliation: FF/Manager: Chair/Address: Quay 3 0 Nice France"
         u"/Telephone: 1/Mobile: 2/Fax: 3/E-mail: a@b/Web: w/Rating: 7/Updated on: /Prices:/Bapteme : 45.00 €"
         u"/Boat dive : 32.50 €/Nitrox : 121.00 €//Opening hours:/   Monday:  -  /  - "))
         << text.toStdString();

@@ -158,7 +158,7 @@
 <message><source>Graph bar</source><translation>Depths and gases</translation></message>
 <message><source>Graph share</source><translation>Share of dives</translation></message>
 <message><source>Group apparatus</source><translation>Breathing apparatus</translation></message>
-<message><source>Group bail-outs</source><translation>Bail-out cylinders</translation></message>
+<message><source>Group bail-outs</source><translation>Bail-out tanks</translation></message>
 <message><source>Group computer</source><translation>Dive computer</translation></message>
 <message><source>Group consumption</source><translation>Consumption and oxygen</translation></message>
 <message><source>Group decompression</source><translation>Decompression</translation></message>
@@ -190,7 +190,7 @@
 <message><source>Import handheld</source><translation>Import from handheld</translation></message>
 <message><source>Import stopped</source><translation>The import stopped at dive %d of the file: %@.</translation></message>
 <message><source>Imported dives</source><translation>%d dives were imported.</translation></message>
-<message><source>Importing</source><translation>Importing dives …</translation></message>
+<message><source>Importing</source><translation>Importing dives…</translation></message>
 <message><source>Label air temperature</source><translation>Air temperature</translation></message>
 <message><source>Label algorithm</source><translation>Algorithm</translation></message>
 <message><source>Label altitude</source><translation>Altitude</translation></message>

@@ -56,7 +56,7 @@
 <message><source>No place for</source><translation>A dive has no place for: %@.</translation></message>
 <message><source>No such column</source><translation>Dives have no field “%@”.</translation></message>
 <message><source>Nothing lost</source><translation>Nothing is lost.</translation></message>
-<message><source>Reading file</source><translation>Reading “%@” …</translation></message>
+<message><source>Reading file</source><translation>Reading “%@”…</translation></message>
 <message><source>Reads better</source><translation>The file is UDDF 3; read by its meaning it has its dates, gases and profiles.</translation></message>
 <message><source>Renumber by date</source><translation>Order all dives by date and number them on</translation></message>
 <message><source>Say the date</source><translation>Say which column holds the date; then the dives are read.</translation></message>

@@ -12,11 +12,11 @@
 <message><source>Column unit price</source><translation>Prix unitaire</translation></message>
 <message><source>Column update</source><translation>Mise à jour</translation></message>
 <message><source>Column value</source><translation>Qualité-prix</translation></message>
-<message><source>Cotation</source><translation>&#13;Rapport qualité-prix : </translation></message>
-<message><source>Delay</source><translation>&#13;Réactivité : </translation></message>
+<message><source>Cotation</source><translation>&#13;Rapport qualité-prix : </translation></message>
+<message><source>Delay</source><translation>&#13;Réactivité : </translation></message>
 <message><source>Discount price</source><translation>%.2f € l’unité</translation></message>
-<message><source>Edit window</source><translation>Prestation : %@</translation></message>
-<message><source>Entreprise</source><translation>&#13;Entreprise : </translation></message>
+<message><source>Edit window</source><translation>Prestation : %@</translation></message>
+<message><source>Entreprise</source><translation>&#13;Entreprise : </translation></message>
 <message><source>Good</source><translation>Bon</translation></message>
 <message><source>Group cards</source><translation>Cartes</translation></message>
 <message><source>Group discount</source><translation>Tarif dégressif</translation></message>
@@ -26,7 +26,7 @@
 <message><source>Group supplier</source><translation>Prestataire</translation></message>
 <message><source>Group total</source><translation>Total</translation></message>
 <message><source>Inefficient</source><translation>Lent</translation></message>
-<message><source>Inventory</source><translation>Prévisions de budget</translation></message>
+<message><source>Inventory</source><translation>Budget prévisionnel</translation></message>
 <message><source>Label card price</source><translation>Prix</translation></message>
 <message><source>Label card units</source><translation>Unités</translation></message>
 <message><source>Label delay</source><translation>Réactivité</translation></message>
@@ -48,13 +48,13 @@
 <message><source>Page cards</source><translation>Cartes prépayées</translation></message>
 <message><source>Page service</source><translation>Prestation</translation></message>
 <message><source>Page supplier</source><translation>Prestataire</translation></message>
-<message><source>Prestation</source><translation>&#13;&#13;Prestation : </translation></message>
-<message><source>Price per unit</source><translation>&#13;Prix unitaire (€) :</translation></message>
-<message><source>Quantity</source><translation>   Quantité : </translation></message>
-<message><source>Remarks</source><translation>&#13;Remarques : </translation></message>
+<message><source>Prestation</source><translation>&#13;&#13;Prestation : </translation></message>
+<message><source>Price per unit</source><translation>&#13;Prix unitaire (€) :</translation></message>
+<message><source>Quantity</source><translation>   Quantité : </translation></message>
+<message><source>Remarks</source><translation>&#13;Remarques : </translation></message>
 <message><source>Satisfying</source><translation>Satisfaisant</translation></message>
 <message><source>Services</source><translation>Prestations prévues</translation></message>
-<message><source>Supplement</source><translation>&#13;Supplément : </translation></message>
+<message><source>Supplement</source><translation>&#13;Supplément : </translation></message>
 <message><source>Units at</source><translation> unités à</translation></message>
 <message><source>Very bad</source><translation>Très mauvais</translation></message>
 <message><source>Very good</source><translation>Très bon</translation></message>

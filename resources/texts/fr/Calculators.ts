@@ -48,7 +48,7 @@
 <message><source>Position as typed</source><translation>Position, latitude d’abord</translation></message>
 <message><source>Position hint</source><translation>Comme sur une carte ou un récepteur : 43° 12,345' N 5° 20,7' O, ou 43.2057, -5.345. Elle remplit les champs des deux convertisseurs.</translation></message>
 <message><source>Position hint short</source><translation>Degrés décimaux ou avec minutes ; N, S, E, O ou signes</translation></message>
-<message><source>Position not read</source><translation>Pas encore une position : la latitude, puis la longitude</translation></message>
+<message><source>Position not read</source><translation>Pas encore une position : la latitude, puis la longitude</translation></message>
 <message><source>Position read</source><translation>Lu : %@</translation></message>
 <message><source>Pounds (US)</source><translation>&amp;Livres (US)</translation></message>
 <message><source>Pounds per square inch</source><translation>&amp;Livres par pouce carré</translation></message>
@@ -59,8 +59,8 @@
 <message><source>Resulting altitude</source><translation>Altitude</translation></message>
 <message><source>Resulting position</source><translation>Position</translation></message>
 <message><source>Seconds</source><translation>secondes</translation></message>
-<message><source>Sexagesimal converter</source><translation>Degrés, minutes et secondes : ED50 → WGS84</translation></message>
-<message><source>Signs hint</source><translation>Les trois parties s’additionnent : à l’ouest ou
+<message><source>Sexagesimal converter</source><translation>Degrés, minutes et secondes : ED50 → WGS84</translation></message>
+<message><source>Signs hint</source><translation>Les trois parties s’additionnent : à l’ouest ou
 au sud, chacune prend son signe moins.</translation></message>
 <message><source>Stale result</source><translation>Ce résultat correspond à la saisie précédente.</translation></message>
 <message><source>Temperature</source><translation>Température</translation></message>

@@ -25,7 +25,7 @@
 <message><source>Altitude</source><translation>&#13;Altitude : </translation></message>
 <message><source>Aluminum</source><translation>Aluminium</translation></message>
 <message><source>At</source><translation> L à </translation></message>
-<message><source>Auxiliary gas</source><translation>Volume disponible : %d L&#13;Volume consommé : %d L</translation></message>
+<message><source>Auxiliary gas</source><translation>Volume disponible : %d L&#13;Volume consommé : %d L</translation></message>
 <message><source>Available gas</source><translation>&#13;Gaz disponible : </translation></message>
 <message><source>Bad</source><translation>Mauvaise</translation></message>
 <message><source>Bar per minute</source><translation>%.2f bar/min</translation></message>
@@ -42,7 +42,7 @@
 <message><source>Card of dives</source><translation>Fiche de synthèse : %@</translation></message>
 <message><source>Cave</source><translation>Souterraine</translation></message>
 <message><source>Celsius</source><translation>%d °C</translation></message>
-<message><source>Character not in Mac OS Roman</source><translation>La plongée n° %d contient le caractère « %@ » (%@), que le texte Mac OS Roman ne peut contenir.</translation></message>
+<message><source>Character not in Mac OS Roman</source><translation>La plongée n° %d contient le caractère « %@ » (%@), que le texte Mac OS Roman ne peut contenir.</translation></message>
 <message><source>Clear</source><translation>Dégagé</translation></message>
 <message><source>Cloudy</source><translation>Nuageux</translation></message>
 <message><source>Column apparatus</source><translation>Appareil</translation></message>
@@ -65,7 +65,7 @@
 <message><source>Configuration</source><translation>&#13;Configuration : </translation></message>
 <message><source>Consumption</source><translation>Consommation</translation></message>
 <message><source>Consumption of</source><translation>Consommation de gaz : %@</translation></message>
-<message><source>Convert altitudes</source><translation>Plongées dont l’altitude dépasse alors 4000 : %d. Si l’une d’elles est modifiée, le formulaire remet son altitude à 0.</translation></message>
+<message><source>Convert altitudes</source><translation>Plongées dont l’altitude dépasse alors 4000 : %d. Si l’une d’elles est modifiée, le formulaire remet son altitude à 0.</translation></message>
 <message><source>Convert depth now</source><translation>Prof. actuelle</translation></message>
 <message><source>Convert depth then</source><translation>Prof. ensuite</translation></message>
 <message><source>Convert explanation</source><translation>Les profondeurs, paliers, altitudes, températures et profils de toutes les plongées sont recalculés et enregistrés. Pressions, volumes et poids restent tels quels. Annuler rétablit les valeurs.</translation></message>
@@ -136,7 +136,7 @@
 <message><source>Figure oxygen clock</source><translation>Horloge de l’oxygène (SNC)</translation></message>
 <message><source>Figure pressure per minute</source><translation>Pression par minute</translation></message>
 <message><source>Figure water</source><translation>Température de l’eau</translation></message>
-<message><source>Filled from site</source><translation>De la plongée n° %d : %@</translation></message>
+<message><source>Filled from site</source><translation>De la plongée n° %d : %@</translation></message>
 <message><source>Find</source><translation>Rechercher</translation></message>
 <message><source>Find boats</source><translation>Bateaux</translation></message>
 <message><source>Find buddies</source><translation>Équipiers</translation></message>
@@ -146,7 +146,7 @@
 <message><source>Flow</source><translation>&#13;Débit : </translation></message>
 <message><source>Foggy</source><translation>Brumeux</translation></message>
 <message><source>Form of dive</source><translation>Plongée %d sur %d – enregistrée quand vous fermez la fenêtre ou changez de plongée</translation></message>
-<message><source>Form of new dive</source><translation>Nouvelle plongée – « Ajouter » l’inscrit à la fin du carnet</translation></message>
+<message><source>Form of new dive</source><translation>Nouvelle plongée – « Ajouter » l’inscrit à la fin du carnet</translation></message>
 <message><source>Found dives</source><translation>%d plongées trouvées</translation></message>
 <message><source>GPS template</source><translation>N 00° 00.000'  E 000° 00.000'</translation></message>
 <message><source>Gas</source><translation>&#13;&#13;Gaz</translation></message>
@@ -188,7 +188,7 @@
 <message><source>Import element missing</source><translation>l’élément %@ manque</translation></message>
 <message><source>Import format unknown</source><translation>Le fichier n’est ni de l’UDCF, ni de l’UDDF, ni un carnet de poche.</translation></message>
 <message><source>Import handheld</source><translation>Importer du carnet de poche</translation></message>
-<message><source>Import stopped</source><translation>L’importation s’est arrêtée à la plongée %d du fichier : %@.</translation></message>
+<message><source>Import stopped</source><translation>L’importation s’est arrêtée à la plongée %d du fichier : %@.</translation></message>
 <message><source>Imported dives</source><translation>%d plongées ont été importées.</translation></message>
 <message><source>Importing</source><translation>Importation des plongées…</translation></message>
 <message><source>Label air temperature</source><translation>Température de l’air</translation></message>
@@ -218,7 +218,7 @@
 <message><source>Label low GF</source><translation>GF bas</translation></message>
 <message><source>Label low setpoint</source><translation>Point de consigne bas (bar)</translation></message>
 <message><source>Label maker</source><translation>Fabricant</translation></message>
-<message><source>Label material</source><translation>Matière</translation></message>
+<message><source>Label material</source><translation>Matériau</translation></message>
 <message><source>Label maximum depth</source><translation>Profondeur max.</translation></message>
 <message><source>Label method</source><translation>Méthode</translation></message>
 <message><source>Label model</source><translation>Modèle</translation></message>
@@ -265,7 +265,7 @@
 <message><source>Menu import UDCF</source><translation>Importer UDCF…</translation></message>
 <message><source>Menu import UDDF</source><translation>Importer UDDF…</translation></message>
 <message><source>Menu import handheld</source><translation>Importer du carnet de poche…</translation></message>
-<message><source>Menu insert dive</source><translation>Insérer avant la plongée choisie</translation></message>
+<message><source>Menu insert dive</source><translation>Insérer avant la plongée sélectionnée</translation></message>
 <message><source>Menu new dive</source><translation>Nouvelle plongée</translation></message>
 <message><source>Menu previous dives</source><translation>Plongées antérieures…</translation></message>
 <message><source>Metres</source><translation>%.1f m</translation></message>
@@ -281,7 +281,7 @@
 <message><source>No dive to export</source><translation>Le carnet ne contient aucune plongée, et l’UDDF ne peut s’écrire sans.</translation></message>
 <message><source>No dives yet</source><translation>Aucune plongée. Appuyez sur %@ pour saisir la première.</translation></message>
 <message><source>No notes</source><translation>Pas de notes</translation></message>
-<message><source>No such field</source><translation>Les plongées n’ont pas de champ « %@ » utilisable ainsi.</translation></message>
+<message><source>No such field</source><translation>Les plongées n’ont pas de champ « %@ » utilisable ainsi.</translation></message>
 <message><source>No suit</source><translation>Sans combinaison</translation></message>
 <message><source>No wind</source><translation>pas de vent</translation></message>
 <message><source>None</source><translation>Nul</translation></message>
@@ -303,7 +303,7 @@
 <message><source>Parameters</source><translation>&#13;&#13;Paramètres</translation></message>
 <message><source>Pays</source><translation>&#13;Pays : </translation></message>
 <message><source>Photo dive</source><translation>Photo</translation></message>
-<message><source>Ponies</source><translation>&#13;Blocs de déco : </translation></message>
+<message><source>Ponies</source><translation>&#13;Blocs relais : </translation></message>
 <message><source>Pony 1 title</source><translation>Pony 1 : %d m - %d %% O₂</translation></message>
 <message><source>Pony 2 title</source><translation>Pony 2 : %d m - %d %% O₂</translation></message>
 <message><source>Pony 3 title</source><translation>Pony 3 : %d m - %d %% O₂</translation></message>
@@ -321,16 +321,16 @@
 <message><source>Rating never again</source><translation>Plus jamais</translation></message>
 <message><source>Rating poor</source><translation>Décevante</translation></message>
 <message><source>Rating unforgettable</source><translation>Inoubliable</translation></message>
-<message><source>Recorded points</source><translation>Points enregistrés : %d</translation></message>
+<message><source>Recorded points</source><translation>Points enregistrés : %d</translation></message>
 <message><source>Recreational</source><translation>Loisir</translation></message>
 <message><source>Recuperation</source><translation>Récupération</translation></message>
 <message><source>Renumber explanation</source><translation>Toutes les plongées sont renumérotées, dans l’ordre où le tableau les montre.</translation></message>
-<message><source>Renumber first</source><translation>Numéro de la première plongée :</translation></message>
+<message><source>Renumber first</source><translation>Numéro de la première plongée :</translation></message>
 <message><source>Renumber title</source><translation>Renuméroter les plongées</translation></message>
 <message><source>Renumbering</source><translation>Renumérotation des plongées…</translation></message>
 <message><source>S-W</source><translation>S-O</translation></message>
 <message><source>SCR rebreather</source><translation>&#13;Recycleur SCR</translation></message>
-<message><source>Sampling rate</source><translation>Intervalle d’échantillonnage : %@</translation></message>
+<message><source>Sampling rate</source><translation>Intervalle d’échantillonnage : %@</translation></message>
 <message><source>Scaphander</source><translation>&#13;Recycleur hCCR</translation></message>
 <message><source>Selected dives</source><translation>Plongées sélectionnées</translation></message>
 <message><source>Semi-dry suit</source><translation>Combinaison semi-étanche</translation></message>
@@ -366,7 +366,7 @@
 <message><source>Steel</source><translation>Acier</translation></message>
 <message><source>Store dive question</source><translation>La plongée du formulaire a été modifiée et n’est pas encore enregistrée.</translation></message>
 <message><source>Strong</source><translation>Fort</translation></message>
-<message><source>Structure</source><translation>&#13;Structure : </translation></message>
+<message><source>Structure</source><translation>&#13;Club ou centre : </translation></message>
 <message><source>Surface</source><translation>&#13;Intervalle de surface : </translation></message>
 <message><source>T-shirt</source><translation>T-shirt</translation></message>
 <message><source>TTS</source><translation>&#13;Durée totale de remontée : </translation></message>
@@ -424,12 +424,12 @@
 <message><source>Undo insert</source><translation>Insérer la plongée</translation></message>
 <message><source>Undo renumber</source><translation>Renuméroter les plongées</translation></message>
 <message><source>Undo update</source><translation>Modifier la plongée</translation></message>
-<message><source>Unknown temperature</source><translation>Donnée inconnue : aucune température n’a été indiquée</translation></message>
-<message><source>Unknown with bad samples</source><translation>Donnée inconnue : le profil contient des profondeurs qui ne sont pas des nombres</translation></message>
-<message><source>Unknown without samples</source><translation>Donnée inconnue : pas de profil, donc pas de profondeur moyenne</translation></message>
-<message><source>Unknown without start pressure</source><translation>Donnée inconnue : pas de pression de départ</translation></message>
-<message><source>Unknown without tank volume</source><translation>Donnée inconnue : pas de volume du bloc</translation></message>
-<message><source>Unknown without time</source><translation>Donnée inconnue : pas de durée de plongée</translation></message>
+<message><source>Unknown temperature</source><translation>Donnée inconnue : aucune température n’a été indiquée</translation></message>
+<message><source>Unknown with bad samples</source><translation>Donnée inconnue : le profil contient des profondeurs qui ne sont pas des nombres</translation></message>
+<message><source>Unknown without samples</source><translation>Donnée inconnue : pas de profil, donc pas de profondeur moyenne</translation></message>
+<message><source>Unknown without start pressure</source><translation>Donnée inconnue : pas de pression de départ</translation></message>
+<message><source>Unknown without tank volume</source><translation>Donnée inconnue : pas de volume du bloc</translation></message>
+<message><source>Unknown without time</source><translation>Donnée inconnue : pas de durée de plongée</translation></message>
 <message><source>Used gas</source><translation>&#13;Gaz utilisé : </translation></message>
 <message><source>Used pressure</source><translation>&#13;Pression consommée : </translation></message>
 <message><source>Very bad</source><translation>Très mauvaise</translation></message>

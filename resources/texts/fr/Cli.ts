@@ -9,7 +9,7 @@
 <message><source>File exists</source><translation>« %@ » existe déjà.</translation></message>
 <message><source>Groups</source><translation>Groupes : %d</translation></message>
 <message><source>Little-endian</source><translation>Ordre des octets : petit-boutiste</translation></message>
-<message><source>No card</source><translation>Les documents du type « %@ » n’ont pas de fiche.</translation></message>
+<message><source>No card</source><translation>Les documents du type « %@ » n’ont pas de fiche de synthèse.</translation></message>
 <message><source>No picture field</source><translation>Les documents du type « %@ » ne contiennent pas d’images.</translation></message>
 <message><source>No such row</source><translation>Il n’y a pas de ligne %d : le document compte %d fiches, numérotées à partir de 0.</translation></message>
 <message><source>No such type</source><translation>« %@ » n’est pas un type de document. Types : %@.</translation></message>

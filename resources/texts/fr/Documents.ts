@@ -10,7 +10,7 @@
 <message><source>Column title</source><translation>Titre</translation></message>
 <message><source>Column type</source><translation>Type</translation></message>
 <message><source>Documents</source><translation>Documents</translation></message>
-<message><source>Edit window</source><translation>Document : %@</translation></message>
+<message><source>Edit window</source><translation>Document : %@</translation></message>
 <message><source>Group copy</source><translation>Copie</translation></message>
 <message><source>Group document</source><translation>Document</translation></message>
 <message><source>Group notes</source><translation>Remarques</translation></message>

@@ -20,7 +20,7 @@
 <message><source>ED50 to WGS84 from "degrees minutes seconds", with a report; the parts are added, so west and south each takes its minus sign</source><translation>De ED50 vers WGS84 à partir de « degrés minutes secondes », avec un rapport ; les parties s’additionnent : à l’ouest et au sud, chacune prend son signe moins</translation></message>
 <message><source>Everything, as one JSON object</source><translation>Tout, en un objet JSON</translation></message>
 <message><source>Exit codes: 0 done, 1 failed (the reason on standard error, the file as it was), 2 wrong usage.</source><translation>Codes de retour : 0 réussi, 1 échec (la raison sur la sortie d’erreur, le fichier inchangé), 2 appel incorrect.</translation></message>
-<message><source>Gas consumption and oxygen clock of a dive</source><translation>Consommation de gaz et horloge à oxygène d’une plongée</translation></message>
+<message><source>Gas consumption and oxygen clock of a dive</source><translation>Consommation de gaz et horloge de l’oxygène d’une plongée</translation></message>
 <message><source>Height above the ellipsoid, m</source><translation>Hauteur au-dessus de l’ellipsoïde, m</translation></message>
 <message><source>How SOURCE is read; told by its contents when not given</source><translation>Comment SOURCE est lu ; reconnu par son contenu par défaut</translation></message>
 <message><source>KEY=VALUE, a setting for this run only; a dictionary as a JSON object</source><translation>CLÉ=VALEUR, un réglage pour cette fois seulement ; un dictionnaire en objet JSON</translation></message>

@@ -9,7 +9,7 @@
 <message><source>Add</source><translation>Ajouter</translation></message>
 <message><source>Add entry</source><translation>Ajouter</translation></message>
 <message><source>Add item to ComboBox</source><translation>Ajouter « %@ » à la liste ?</translation></message>
-<message><source>Add item to which list</source><translation>La liste est « %@ ». Sa fenêtre, dans le menu Listes, peut en décider une fois pour toutes.</translation></message>
+<message><source>Add item to which list</source><translation>La liste est « %@ ». Sa fenêtre, dans le menu Listes, peut en décider une fois pour toutes.</translation></message>
 <message><source>Add new card question</source><translation>Le formulaire contient une nouvelle fiche qui n’est pas encore dans la liste.</translation></message>
 <message><source>Add second</source><translation>Ajouter en double</translation></message>
 <message><source>Add to toolbar</source><translation>Ajouter à la barre d’outils</translation></message>
@@ -32,7 +32,7 @@
 <message><source>Command line help</source><translation>Afficher cette aide.</translation></message>
 <message><source>Command line version</source><translation>Afficher la version.</translation></message>
 <message><source>Copy data</source><translation>Copier les données</translation></message>
-<message><source>Copy kept</source><translation>Le contenu précédent est conservé dans « %@ ».</translation></message>
+<message><source>Copy kept</source><translation>Le contenu précédent est conservé dans « %@ ».</translation></message>
 <message><source>Copy picture</source><translation>Copier l’image</translation></message>
 <message><source>Copying</source><translation>Copie des lignes…</translation></message>
 <message><source>Cotation 0</source><translation>☆</translation></message>
@@ -62,12 +62,12 @@
 <message><source>Empty record book</source><translation>Il n’y a pas encore de fiche. %@ en crée une.</translation></message>
 <message><source>Equipment types</source><translation>Types de matériel</translation></message>
 <message><source>Erase</source><translation>Effacer</translation></message>
-<message><source>Erase card</source><translation>Supprimer la fiche sélectionnée ?</translation></message>
-<message><source>Erase cards</source><translation>Supprimer %d fiches ?</translation></message>
-<message><source>Erase dive</source><translation>Supprimer la plongée sélectionnée ?</translation></message>
-<message><source>Erase dives</source><translation>Supprimer %d plongées ?</translation></message>
-<message><source>Erase interventions</source><translation>Supprimer %d interventions ?</translation></message>
-<message><source>Erase revisions</source><translation>Supprimer %d révisions ?</translation></message>
+<message><source>Erase card</source><translation>Supprimer la fiche sélectionnée ?</translation></message>
+<message><source>Erase cards</source><translation>Supprimer %d fiches ?</translation></message>
+<message><source>Erase dive</source><translation>Supprimer la plongée sélectionnée ?</translation></message>
+<message><source>Erase dives</source><translation>Supprimer %d plongées ?</translation></message>
+<message><source>Erase interventions</source><translation>Supprimer %d interventions ?</translation></message>
+<message><source>Erase revisions</source><translation>Supprimer %d révisions ?</translation></message>
 <message><source>Erase selection</source><translation>Supprimer les éléments sélectionnés ?</translation></message>
 <message><source>Export onto document</source><translation>Une exportation ne peut pas remplacer le fichier du document lui-même.</translation></message>
 <message><source>Exporting</source><translation>Exportation…</translation></message>
@@ -83,27 +83,27 @@
 <message><source>File removed by another</source><translation>Un autre programme a supprimé ou renommé le fichier.</translation></message>
 <message><source>File system read-only</source><translation>Le disque est protégé en écriture.</translation></message>
 <message><source>Filter</source><translation>Filtre</translation></message>
-<message><source>Filter hint</source><translation>Filtrer : des mots dans tous les champs, ou champ:mot</translation></message>
+<message><source>Filter hint</source><translation>Filtrer : des mots dans tous les champs, ou champ:mot</translation></message>
 <message><source>Filter menu</source><translation>Filtres conservés et champs</translation></message>
-<message><source>Filter name</source><translation>Nom du filtre :</translation></message>
+<message><source>Filter name</source><translation>Nom du filtre :</translation></message>
 <message><source>Filter one field</source><translation>Dans un champ</translation></message>
-<message><source>Filter tip</source><translation>Des mots dans tous les champs, sans égard aux accents ni à la casse ; tous doivent être trouvés. Le nom d’un champ restreint : nom:texte, nombre&gt;30, date&gt;=2023-05. Les mots entre guillemets vont ensemble. Échap montre de nouveau tout.</translation></message>
+<message><source>Filter tip</source><translation>Des mots dans tous les champs, sans égard aux accents ni à la casse ; tous doivent être trouvés. Le nom d’un champ restreint : nom:texte, nombre&gt;30, date&gt;=2023-05. Les mots entre guillemets vont ensemble. Échap montre de nouveau tout.</translation></message>
 <message><source>Filtering</source><translation>Filtrage…</translation></message>
-<message><source>Find in</source><translation>Chercher dans : %@</translation></message>
+<message><source>Find in</source><translation>Chercher dans : %@</translation></message>
 <message><source>Find where</source><translation>Choisir où chercher</translation></message>
 <message><source>Flexible space</source><translation>Espace variable</translation></message>
 <message><source>Folder missing</source><translation>Le dossier n’existe pas.</translation></message>
 <message><source>Form of card</source><translation>Fiche %d sur %d – enregistrée quand vous fermez la fenêtre ou changez de fiche</translation></message>
-<message><source>Form of new card</source><translation>Nouvelle fiche – « Ajouter » la place à la fin de la liste</translation></message>
+<message><source>Form of new card</source><translation>Nouvelle fiche – « Ajouter » la place à la fin de la liste</translation></message>
 <message><source>Found cards</source><translation>%d fiches trouvées</translation></message>
 <message><source>General</source><translation>Général</translation></message>
 <message><source>Hint read as</source><translation>lu comme %@</translation></message>
 <message><source>Hint usual maximum</source><translation>d’ordinaire %@ au plus</translation></message>
 <message><source>Hint usual minimum</source><translation>d’ordinaire %@ au moins</translation></message>
 <message><source>Hint usual range</source><translation>d’ordinaire de %@ à %@</translation></message>
-<message><source>Import into</source><translation>« %@ » contient des plongées venues d’ailleurs. Les importer dans « %@ » ?</translation></message>
+<message><source>Import into</source><translation>« %@ » contient des plongées venues d’ailleurs. Les importer dans « %@ » ?</translation></message>
 <message><source>Import into it</source><translation>Importer…</translation></message>
-<message><source>Import into new</source><translation>« %@ » contient des plongées venues d’ailleurs. Les importer dans un nouveau carnet ?</translation></message>
+<message><source>Import into new</source><translation>« %@ » contient des plongées venues d’ailleurs. Les importer dans un nouveau carnet ?</translation></message>
 <message><source>Insert</source><translation>Insérer</translation></message>
 <message><source>Interventions</source><translation>%d interventions</translation></message>
 <message><source>Keep filter</source><translation>Conserver le filtre…</translation></message>
@@ -154,7 +154,7 @@
 <message><source>Move down</source><translation>Déplacer vers la fin</translation></message>
 <message><source>Move up</source><translation>Déplacer vers le début</translation></message>
 <message><source>New entry</source><translation>Nouvelle entrée</translation></message>
-<message><source>New words</source><translation>&amp;Mot nouveau dans un formulaire :</translation></message>
+<message><source>New words</source><translation>&amp;Mot nouveau dans un formulaire :</translation></message>
 <message><source>New words always</source><translation>Toujours l’ajouter</translation></message>
 <message><source>New words ask</source><translation>Demander</translation></message>
 <message><source>New words never</source><translation>Ne jamais l’ajouter</translation></message>
@@ -162,10 +162,10 @@
 <message><source>No</source><translation>Non</translation></message>
 <message><source>No Mac OS Roman</source><translation>Ce système ne sait pas convertir du texte en Mac OS Roman.</translation></message>
 <message><source>No space left</source><translation>Il n’y a plus assez de place sur le disque.</translation></message>
-<message><source>No such field</source><translation>Il n’y a pas de champ « %@ ».</translation></message>
-<message><source>No such value</source><translation>« %@ » ne peut pas valoir « %@ ».</translation></message>
+<message><source>No such field</source><translation>Il n’y a pas de champ « %@ ».</translation></message>
+<message><source>No such value</source><translation>« %@ » ne peut pas valoir « %@ ».</translation></message>
 <message><source>No valid datas</source><translation>Les valeurs ne sont pas valables.</translation></message>
-<message><source>Not a picture format</source><translation>« %@ » ne se termine pas par .png, .svg ou .pdf.</translation></message>
+<message><source>Not a picture format</source><translation>« %@ » ne se termine pas par .png, .svg ou .pdf.</translation></message>
 <message><source>Nothing matches</source><translation>Aucune fiche ne correspond au filtre.\nÉchap dans son champ les montre de nouveau toutes.</translation></message>
 <message><source>One card</source><translation>Une fiche</translation></message>
 <message><source>One card found</source><translation>1 fiche trouvée</translation></message>
@@ -173,7 +173,7 @@
 <message><source>One revision</source><translation>Une révision</translation></message>
 <message><source>Open anyway</source><translation>Ouvrir quand même</translation></message>
 <message><source>Open document</source><translation>Ouvrir</translation></message>
-<message><source>Open elsewhere question</source><translation>« %@ » est ouvert dans %@.
+<message><source>Open elsewhere question</source><translation>« %@ » est ouvert dans %@.
 Deux programmes qui enregistrent le même document défont chacun les modifications de l’autre.</translation></message>
 <message><source>Open read-only</source><translation>Ouvrir en lecture seule</translation></message>
 <message><source>Overwrite</source><translation>Remplacer</translation></message>
@@ -187,7 +187,7 @@ Deux programmes qui enregistrent le même document défont chacun les modificati
 <message><source>Picture enlarge</source><translation>Agrandir</translation></message>
 <message><source>Picture export</source><translation>Exporter…</translation></message>
 <message><source>Picture files</source><translation>Images</translation></message>
-<message><source>Picture has too many pixels</source><translation>L’image est trop grande : %d × %d pixels, pour %d millions au plus.</translation></message>
+<message><source>Picture has too many pixels</source><translation>L’image est trop grande : %d × %d pixels, pour %d millions au plus.</translation></message>
 <message><source>Picture none</source><translation>Pas d’image. Choisissez un fichier, déposez-le ici ou collez.</translation></message>
 <message><source>Picture not shown</source><translation>L’image est d’un type qui ne peut pas être affiché. Elle est conservée telle quelle.</translation></message>
 <message><source>Picture not written</source><translation>L’image n’a pas pu être écrite.</translation></message>
@@ -208,24 +208,24 @@ Deux programmes qui enregistrent le même document défont chacun les modificati
 <message><source>Read-only title</source><translation>%@ (lecture seule)</translation></message>
 <message><source>Rebreather</source><translation>Recycleur</translation></message>
 <message><source>Redo</source><translation>Rétablir</translation></message>
-<message><source>Redo step</source><translation>Rétablir : %@</translation></message>
+<message><source>Redo step</source><translation>Rétablir : %@</translation></message>
 <message><source>Reload</source><translation>Recharger</translation></message>
 <message><source>Remove filter</source><translation>Supprimer le filtre</translation></message>
 <message><source>Remove from toolbar</source><translation>Retirer de la barre d’outils</translation></message>
 <message><source>Rename entry hint</source><translation>Un double-clic ou F2 renomme une entrée.</translation></message>
 <message><source>Restore</source><translation>Restaurer</translation></message>
 <message><source>Revert</source><translation>Revenir</translation></message>
-<message><source>Revert question</source><translation>Revenir à la version enregistrée de « %@ » ? Les modifications seront perdues.</translation></message>
-<message><source>Revert to backup question</source><translation>Voulez-vous revenir à ce que « %@ » contenait avant son premier enregistrement de cette session ou de la précédente ?
+<message><source>Revert question</source><translation>Revenir à la version enregistrée de « %@ » ? Les modifications seront perdues.</translation></message>
+<message><source>Revert to backup question</source><translation>Voulez-vous revenir à ce que « %@ » contenait avant son premier enregistrement de cette session ou de la précédente ?
 Tout ce qui a été saisi depuis est perdu, à moins de ne pas enregistrer.</translation></message>
 <message><source>Revisions</source><translation>%d révisions</translation></message>
 <message><source>Save</source><translation>Enregistrer</translation></message>
-<message><source>Save changes</source><translation>Enregistrer les modifications de « %@ » ?</translation></message>
+<message><source>Save changes</source><translation>Enregistrer les modifications de « %@ » ?</translation></message>
 <message><source>Save document as</source><translation>Enregistrer sous</translation></message>
 <message><source>Save elsewhere</source><translation>Enregistrer sous…</translation></message>
-<message><source>Save over change</source><translation>Un autre programme a modifié « %@ » depuis son ouverture.
+<message><source>Save over change</source><translation>Un autre programme a modifié « %@ » depuis son ouverture.
 Remplacer perd ce que ce programme a écrit, recharger ce que vous avez saisi.</translation></message>
-<message><source>Save over removal</source><translation>Un autre programme a supprimé ou renommé « %@ » depuis son ouverture.</translation></message>
+<message><source>Save over removal</source><translation>Un autre programme a supprimé ou renommé « %@ » depuis son ouverture.</translation></message>
 <message><source>Separator</source><translation>Séparateur</translation></message>
 <message><source>Services</source><translation>Prestations</translation></message>
 <message><source>Shops</source><translation>Magasins</translation></message>
@@ -270,17 +270,17 @@ Remplacer perd ce que ce programme a écrit, recharger ce que vous avez saisi.</
 <message><source>Undo delete card</source><translation>Supprimer les fiches</translation></message>
 <message><source>Undo import cards</source><translation>Importer les fiches</translation></message>
 <message><source>Undo insert card</source><translation>Insérer la fiche</translation></message>
-<message><source>Undo step</source><translation>Annuler : %@</translation></message>
+<message><source>Undo step</source><translation>Annuler : %@</translation></message>
 <message><source>Undo update card</source><translation>Modifier la fiche</translation></message>
-<message><source>Unknown document type</source><translation>Tavrel ne connaît pas de type de document « %@ ».</translation></message>
+<message><source>Unknown document type</source><translation>Tavrel ne connaît pas de type de document « %@ ».</translation></message>
 <message><source>Unknown kind of document</source><translation>Tavrel ne connaît pas ce genre de document.</translation></message>
-<message><source>Unsaved form</source><translation>« %@ » (%@), %@ : la saisie en cours</translation></message>
+<message><source>Unsaved form</source><translation>« %@ » (%@), %@ : la saisie en cours</translation></message>
 <message><source>Unsaved later</source><translation>Plus tard</translation></message>
-<message><source>Unsaved question</source><translation>Tavrel s’est arrêté sans enregistrer :
+<message><source>Unsaved question</source><translation>Tavrel s’est arrêté sans enregistrer :
 %@
-Voulez-vous le retrouver ?</translation></message>
-<message><source>Unsaved records</source><translation>« %@ » (%@), %@ : toutes les fiches (%@)</translation></message>
-<message><source>Unsaved records and form</source><translation>« %@ » (%@), %@ : toutes les fiches (%@) et la saisie en cours</translation></message>
+Voulez-vous le retrouver ?</translation></message>
+<message><source>Unsaved records</source><translation>« %@ » (%@), %@ : toutes les fiches (%@)</translation></message>
+<message><source>Unsaved records and form</source><translation>« %@ » (%@), %@ : toutes les fiches (%@) et la saisie en cours</translation></message>
 <message><source>Unsaved without file</source><translation>jamais enregistré</translation></message>
 <message><source>Unsaved work not readable</source><translation>Ce qui a été conservé du travail non enregistré est endommagé.</translation></message>
 <message><source>Untitled</source><translation>Sans titre</translation></message>

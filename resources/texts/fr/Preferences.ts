@@ -51,7 +51,7 @@
 <message><source>Off</source><translation>non</translation></message>
 <message><source>On</source><translation>oui</translation></message>
 <message><source>Opacity</source><translation>Opacité</translation></message>
-<message><source>Oxygen cells</source><translation>Cellules d’oxygène</translation></message>
+<message><source>Oxygen cells</source><translation>Cellules à oxygène</translation></message>
 <message><source>Percent</source><translation>%%</translation></message>
 <message><source>Plot color</source><translation>Ligne</translation></message>
 <message><source>Reset</source><translation>Tout réinitialiser…</translation></message>

@@ -9,8 +9,8 @@
 <message><source>Ceiling violated</source><translation>plafond dépassé</translation></message>
 <message><source>Data</source><translation>Données…</translation></message>
 <message><source>Depth m</source><translation>Profondeur (m)</translation></message>
-<message><source>Depth no value</source><translation>Temps : %.1f min</translation></message>
-<message><source>Depth time</source><translation>Profondeur : %.1f m   Temps : %.1f min</translation></message>
+<message><source>Depth no value</source><translation>Temps : %.1f min</translation></message>
+<message><source>Depth time</source><translation>Profondeur : %.1f m   Temps : %.1f min</translation></message>
 <message><source>Editor explanation</source><translation>Chaque ligne est un point. L’importation remplace les séries cochées par leurs textes et enregistre la plongée.</translation></message>
 <message><source>Gas bar</source><translation>Gaz (bar)</translation></message>
 <message><source>Gas switch</source><translation>passage à %d %% O₂</translation></message>
@@ -20,7 +20,7 @@
 <message><source>Page layout</source><translation>Mise en page…</translation></message>
 <message><source>PpO2</source><translation>PpO₂ %.1f bar</translation></message>
 <message><source>Profile description</source><translation>%d points sur %.0f minutes, profondeur maximale %.1f m, profondeur moyenne %.1f m.</translation></message>
-<message><source>Profile description without average</source><translation>%d points sur %.0f minutes, profondeur maximale %.1f m ; certaines profondeurs ne sont pas des nombres.</translation></message>
+<message><source>Profile description without average</source><translation>%d points sur %.0f minutes, profondeur maximale %.1f m ; certaines profondeurs ne sont pas des nombres.</translation></message>
 <message><source>Profile of the dive</source><translation>Profil de la plongée</translation></message>
 <message><source>Replace</source><translation>Remplacer</translation></message>
 <message><source>Replace all</source><translation>Tout remplacer par rien</translation></message>
@@ -41,7 +41,7 @@
 <message><source>Table sample</source><translation>Point</translation></message>
 <message><source>Table time</source><translation>Temps</translation></message>
 <message><source>Time min</source><translation>Temps (min)</translation></message>
-<message><source>Time scale</source><translation>Intervalle :</translation></message>
+<message><source>Time scale</source><translation>Intervalle :</translation></message>
 <message><source>Tip replace all</source><translation>Vide les sept textes et les choisit tous</translation></message>
 <message><source>Values of the sample</source><translation>Valeurs de l’échantillon</translation></message>
 </context>

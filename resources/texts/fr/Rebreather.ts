@@ -12,14 +12,14 @@
 <message><source>Breathed fraction legend</source><extracomment>oxygen of air, percent</extracomment><translation>Rouge : moins de %@ %%,
 l’oxygène de l’air</translation></message>
 <message><source>Carbon dioxide production</source><translation>&amp;Production de CO₂ (M)</translation></message>
-<message><source>Cell 1</source><translation>&#13;Cellule 1 : </translation></message>
-<message><source>Cell 2</source><translation>&#13;Cellule 2 : </translation></message>
-<message><source>Cell 3</source><translation>&#13;Cellule 3 : </translation></message>
-<message><source>Cell 4</source><translation>&#13;Cellule 4 : </translation></message>
-<message><source>Cell 5</source><translation>&#13;Cellule 5 : </translation></message>
+<message><source>Cell 1</source><translation>&#13;Cellule 1 : </translation></message>
+<message><source>Cell 2</source><translation>&#13;Cellule 2 : </translation></message>
+<message><source>Cell 3</source><translation>&#13;Cellule 3 : </translation></message>
+<message><source>Cell 4</source><translation>&#13;Cellule 4 : </translation></message>
+<message><source>Cell 5</source><translation>&#13;Cellule 5 : </translation></message>
 <message><source>Cells</source><translation>&#13;&#13;Cellules à oxygène</translation></message>
 <message><source>Cells replacement</source><translation>&#13;- Cellules remplacées</translation></message>
-<message><source>Date</source><translation>Date : </translation></message>
+<message><source>Date</source><translation>Date : </translation></message>
 <message><source>Disinfection</source><translation>&#13;- Désinfection</translation></message>
 <message><source>Edit window title</source><translation>Intervention du %@</translation></message>
 <message><source>Electonic head</source><translation>&#13;- Tête électronique</translation></message>
@@ -62,8 +62,8 @@ ou plus de %@ l/min</translation></message>
 <message><source>Page intervention</source><translation>Intervention</translation></message>
 <message><source>Page remarks</source><translation>Remarques</translation></message>
 <message><source>Rebreather history</source><translation>&#13;&#13;Historique</translation></message>
-<message><source>Rebreather time</source><translation>&#13;Temps de fonctionnement : </translation></message>
-<message><source>Remarks</source><translation>&#13;&#13;Remarques : </translation></message>
+<message><source>Rebreather time</source><translation>&#13;Temps de fonctionnement : </translation></message>
+<message><source>Remarks</source><translation>&#13;&#13;Remarques : </translation></message>
 <message><source>SCR breathed fraction</source><translation>Fraction d’oxygène respirée en SCR</translation></message>
 <message><source>SCR ideal flow</source><translation>Débit d’alimentation idéal en SCR</translation></message>
 <message><source>Scrubber</source><translation>&#13;- Cartouche épuratrice</translation></message>

@@ -64,7 +64,7 @@ TEST(Uddf, givesADiveEverythingThatItsLinksTell) {
     EXPECT_EQ(startText(dive), u"2021-06-30 09:41:30") << "as the clock on the boat showed it";
     EXPECT_EQ(fieldsOf(dive, "noPlongee lieu site pays"), u"7; Port-Cros; La Gabinière; France");
     EXPECT_EQ(fieldsOf(dive, "gps epaves structure"), u"N 42° 59.298'  E 006° 23.550'; Le Donator; Club du Port");
-    EXPECT_EQ(fieldsOf(dive, "partenaires surface profondeur"), u"Zoé Martin, Max; 01:31; 6.47");
+    EXPECT_EQ(fieldsOf(dive, "partenaires surface profondeur"), u"Équipière Première, Max; 01:31; 6.47");
     EXPECT_EQ(fieldsOf(dive, "temps tempEau tempAir gaz o2Mix heMix"), u"45; 15; 26; 1; 32; 0");
     EXPECT_EQ(fieldsOf(dive, "alliageBloc volumeBloc pressionDepart pressionFin"), u"2; 12; 201; 70");
     EXPECT_EQ(fieldsOf(dive, "visibilite courant typePlongee combinaison inoubliable lestage"), u"1; 3; 3; 1; 1; 4.5");

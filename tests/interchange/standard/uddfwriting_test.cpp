@@ -19,7 +19,7 @@ namespace tavrel {
 
 namespace {
 
-const UddfHeader header{QDateTime(QDate(2024, 6, 15), QTime(14, 30)), QStringLiteral("Ada Rive")};
+const UddfHeader header{QDateTime(QDate(2024, 6, 15), QTime(14, 30)), QStringLiteral("Logbook Owner")};
 
 DivePointer shared(const Plongee& dive) {
     return std::make_shared<const Plongee>(dive);
@@ -78,7 +78,7 @@ Plongee fullDive() {
     setStart(dive, QDate(2019, 7, 14), QTime(9, 5, 30));
     fill(dive, R"(noPlongee=57|coeff=95|pmBm=1|lieu=Saint-Raphaël|
         site=Lion de mer <sud> & "nord"|pays=France|countryCode=FR|gps=N 43° 24.123'  E 006° 46.456'|
-        partenaires=Zoé Martin, Max, Anne de la Tour|epaves=Le Donator, Le Grec|structure=Club du Port|
+        partenaires=Équipière Première, Max, Guide de la Tour|epaves=Le Donator, Le Grec|structure=Club du Port|
         bateau=La Palme|surface=02:05|profondeur=42.7|temps=61|altitude=320|deco=1|deco_TTS=12|
         deco_Level_1_sw=1|decoDepth_Level_1=3.5|decoTime_Level_1=14|decoO2_Level_1=100|decoDepth_Level_3=9|
         decoTime_Level_3=2|decoO2_Level_3=50|decoHe_Level_3=10|volPony1=7|pressDepartPony1=200|
