@@ -44,7 +44,7 @@
 <message><source>Label test pressure</source><translation>Test pressure</translation></message>
 <message><source>Label type</source><translation>Type</translation></message>
 <message><source>Last inspection</source><translation>&#13;Last inspection: </translation></message>
-<message><source>Litres</source><translation>l</translation></message>
+<message><source>Litres</source><translation>L</translation></message>
 <message><source>Lost</source><translation>Lost</translation></message>
 <message><source>Menu</source><translation>Equipment</translation></message>
 <message><source>Next inspection</source><translation>&#13;Next inspection: </translation></message>

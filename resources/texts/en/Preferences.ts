@@ -35,7 +35,7 @@
 <message><source>Home country code</source><translation>Home country code</translation></message>
 <message><source>Keep backup</source><translation>Keep the previous file as a backup</translation></message>
 <message><source>Kinds of dives</source><translation>Kinds of dives</translation></message>
-<message><source>Litres</source><translation>l</translation></message>
+<message><source>Litres</source><translation>L</translation></message>
 <message><source>Low gradient factor</source><translation>Low</translation></message>
 <message><source>Low temperature</source><translation>Below</translation></message>
 <message><source>Low temperatures in color</source><translation>Low temperatures in colour</translation></message>

@@ -44,7 +44,7 @@
 <message><source>Label test pressure</source><translation>Pression d’épreuve</translation></message>
 <message><source>Label type</source><translation>Type</translation></message>
 <message><source>Last inspection</source><translation>&#13;Dernière révision : </translation></message>
-<message><source>Litres</source><translation>l</translation></message>
+<message><source>Litres</source><translation>L</translation></message>
 <message><source>Lost</source><translation>Perdu</translation></message>
 <message><source>Menu</source><translation>Matériel</translation></message>
 <message><source>Next inspection</source><translation>&#13;Prochaine révision : </translation></message>

@@ -35,7 +35,7 @@
 <message><source>Home country code</source><translation>Code du pays d’origine</translation></message>
 <message><source>Keep backup</source><translation>Conserver le fichier précédent comme copie de secours</translation></message>
 <message><source>Kinds of dives</source><translation>Types de plongées</translation></message>
-<message><source>Litres</source><translation>l</translation></message>
+<message><source>Litres</source><translation>L</translation></message>
 <message><source>Low gradient factor</source><translation>Bas</translation></message>
 <message><source>Low temperature</source><translation>En dessous de</translation></message>
 <message><source>Low temperatures in color</source><translation>Basses températures en couleur</translation></message>
