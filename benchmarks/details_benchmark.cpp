@@ -67,7 +67,7 @@ void stepThroughDetails(benchmark::State& state) {
     int row = 0;
     Seconds sum{};
     Seconds slowest{};
-    for (auto turn : state) {
+    while (state.KeepRunning()) {
         const int key = row + 1 < diveCount ? Qt::Key_Down : Qt::Key_Home;
         row = row + 1 < diveCount ? row + 1 : 0;
         const auto start = Clock::now();

@@ -34,7 +34,7 @@ QStringList runToFirstWindow(const QTemporaryDir& home, const char* program, con
     process.setProcessChannelMode(QProcess::SeparateChannels);
     process.start(QString::fromLocal8Bit(program), arguments);
     process.waitForFinished(-1);
-    const QStringList size = QString::fromLatin1(process.readAllStandardOutput()).simplified().split(u' ');
+    QStringList size = QString::fromLatin1(process.readAllStandardOutput()).simplified().split(u' ');
     if (process.exitCode() != 0 || size.size() != 2) {
         std::fprintf(stderr, "%s showed no window.\n", program);
         std::abort();
