@@ -189,7 +189,7 @@ QVariant resetValue(const PreferenceKey& key) {
 }
 
 QString valueInWords(const PreferenceKey& key, const QVariant& value) {
-    const QString nothing = QStringLiteral("–");
+    QString nothing = QStringLiteral("–");
     switch (key.kind()) {
         case PreferenceKind::onOff:
             return value.toBool() ? text("Preferences", "On") : text("Preferences", "Off");

@@ -40,7 +40,8 @@ void importInto(DocumentWindow& window, const QString& file) {
 DocumentTypes tavrelDocuments(FileDialogs& fileDialogs) {
     DocumentTypes types;
     for (const CatalogueType& type : documentTypes()) {
-        DocumentType& added = types.emplace_back(DocumentType{type, type.book->title, type.book->newAction, type.make,
+        const DocumentKind& kind = type;
+        DocumentType& added = types.emplace_back(DocumentType{kind, type.book->title, type.book->newAction, type.make,
                                                               [&fileDialogs](Document& document, Desktop& desktop) {
                                                                   return newWindow(document, desktop, fileDialogs);
                                                               }});

@@ -15,7 +15,7 @@ namespace {
 /// The shortest decimal of a component that QColor holds as this level: 0.5 for 32768, not 0.50000763.
 float component(quint16 level) {
     constexpr double highest = 65535;
-    for (double parts = 1; parts < highest; parts *= 10) {
+    for (int parts = 1; parts < highest; parts *= 10) {
         const double decimal = std::round(level / highest * parts) / parts;
         if (std::lround(decimal * highest) == level) {
             return static_cast<float>(decimal);
