@@ -67,7 +67,7 @@ Expected<void> enterAll(BookForm& form, const std::vector<std::string>& entries)
             wrongUsage(textWith("Cli", "Not an entry", entry));
         }
         const QString name = entry.left(equals);
-        const auto entered = enterByName(form, name, entry.mid(equals + 1));
+        auto entered = enterByName(form, name, entry.mid(equals + 1));
         if (!entered && readsFile(form, name)) {
             return entered;
         }

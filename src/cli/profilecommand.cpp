@@ -163,7 +163,7 @@ Expected<void> run(const ProfileArguments& arguments, Console& console) {
         }
         carnet.selectRows({arguments.row});
         importProfil(carnet, *texts);
-        const auto saved = session.save();
+        auto saved = session.save();
         console.fileSaved = saved.has_value();
         return saved;
     }

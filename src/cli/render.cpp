@@ -89,6 +89,7 @@ Expected<StyledText> cardOf(Session& session, const std::vector<int>& rows) {
 
 std::vector<std::string> renderings() {
     std::vector<std::string> names;
+    names.reserve(std::size(all));
     for (const Rendering& each : all) {
         names.emplace_back(each.name);
     }

@@ -134,14 +134,14 @@ std::string bashCompletion(const CLI::App& app) {
             for (const std::string& name : namesOf(*option)) {
                 all.push_back(name);
                 if (takesValue(*option)) {
-                    line(values, path + ' ' + name, choicesOf(*option));
+                    line(values, std::string(path).append(1, ' ').append(name), choicesOf(*option));
                 }
             }
         }
         line(words, path, all);
     });
     // Where nothing fits, and for the values of options that declare none, bash completes file names.
-    const std::string program = app.get_name();
+    const std::string& program = app.get_name();
     const std::string function = '_' + CLI::detail::find_and_replace(program, "-", "_");
     std::ostringstream script;
     script << "# bash completion for " << program << "\n\n"

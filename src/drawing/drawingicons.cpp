@@ -41,7 +41,7 @@ public:
         QPainter painter(&image);
         renderer(name).render(&painter);
         painter.end();
-        return *images_.insert(key, std::move(image));
+        return *images_.insert(key, image);
     }
 
 private:

@@ -223,7 +223,7 @@ Expected<void> writePages(const QString& path, const Pages& pages) {
     }
     const int files = *format == PictureFormat::pdf ? 1 : pages.count;
     for (int file = 0; file < files; ++file) {
-        const auto written = pictureBytes(pages, *format, file).and_then([&](const QByteArray& bytes) {
+        auto written = pictureBytes(pages, *format, file).and_then([&](const QByteArray& bytes) {
             return writeFile(nameOfPage(path, file), bytes);
         });
         if (!written) {

@@ -41,7 +41,7 @@ public:
 
     QPainterPath path() {
         finishColumn();
-        return std::move(path_);
+        return path_;
     }
 
 private:

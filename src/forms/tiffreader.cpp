@@ -289,7 +289,7 @@ private:
     quint16 sample(const uchar* packed, int index) const {
         if (kind_.bits == 16) {
             quint16 value;
-            std::memcpy(&value, packed + 2 * index, sizeof value);
+            std::memcpy(&value, packed + 2 * qsizetype{index}, sizeof value);
             return value;
         }
         if (kind_.bits == 8) {
@@ -364,7 +364,7 @@ private:
             case tiff::cmyk:
                 return static_cast<Channel>(qint64{highest_ - pixel[channel]} * (highest_ - pixel[3]) / highest_);
             case tiff::palette:
-                return static_cast<Channel>(colours_[static_cast<std::size_t>((channel << kind_.bits) + pixel[0])] >>
+                return static_cast<Channel>(colours_[(static_cast<std::size_t>(channel) << kind_.bits) + pixel[0]] >>
                                             8);
             default: {
                 const int grey = kind_.photometric == tiff::whiteIsZero ? highest_ - pixel[0] : pixel[0];

@@ -37,7 +37,7 @@ QImage inWrittenFormat(const QImage& image) {
         return image.convertToFormat(QImage::Format_RGBA64);
     }
     if (image.hasAlphaChannel()) {
-        const QImage straight = image.convertToFormat(QImage::Format_RGBA8888);
+        QImage straight = image.convertToFormat(QImage::Format_RGBA8888);
         if (!isOpaque(straight)) {
             return straight;
         }
@@ -98,10 +98,10 @@ private:
     }
 
     void appendLine(const uchar* line, qsizetype size, int bytesPerSample) {
-        const qsizetype start = bytes_.size();
         bytes_.append(reinterpret_cast<const char*>(line), size);
         if (bytesPerSample == 2 && Q_BYTE_ORDER == Q_BIG_ENDIAN) {
-            qbswap<2>(bytes_.constData() + start, size / 2, bytes_.data() + start);
+            char* start = bytes_.data() + bytes_.size() - size;
+            qbswap<2>(start, size / 2, start);
         }
     }
 
