@@ -28,7 +28,7 @@ const DiveControls& DiveControls::table() {
 }
 
 DiveForm::DiveForm(Desktop& desktop) : RecordForm(desktop), controls_(controls()) {
-    rememberBeside();
+    DiveForm::rememberBeside();
 }
 
 QStringList DiveForm::ownList(int list) const {
@@ -106,7 +106,7 @@ void DiveForm::startFrom(const Plongee& previous) {
 }
 
 void DiveForm::countSurfaceInterval() {
-    constexpr qint64 longest = 48 * 60;
+    constexpr qint64 longest = qint64{48} * 60;
     const FormState<DiveControls>& fields = state();
     const QDateTime start(fields.date(controls_.dateField).toDateTime().date(),
                           fields.date(controls_.heureField).toDateTime().time());
@@ -218,7 +218,8 @@ std::function<QByteArray()> DiveForm::entriesBeside() const {
 void DiveForm::enterBesideAgain(QByteArrayView entries) {
     const auto read = readRecords(entries, Plongee::layout());
     if (read && read->records.size() == 1) {
-        _plg = static_cast<const Plongee&>(*read->records.front());
+        const Record& entered = *read->records.front();
+        _plg = static_cast<const ProfileSeries&>(static_cast<const Plongee&>(entered));
     }
 }
 
@@ -270,7 +271,7 @@ void DiveForm::show(const Plongee& dive) {
             }
         }
     }
-    _plg = dive;
+    _plg = static_cast<const ProfileSeries&>(dive);
     filledFrom_.clear();
     surfaced_.reset();
     nameDifficulty();

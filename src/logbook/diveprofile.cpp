@@ -19,7 +19,7 @@ std::optional<double> setPointOf(qint32 code) {
 
 ProfileDive profileDiveOf(const Plongee& dive) {
     ProfileDive drawn;
-    drawn.series = dive;
+    drawn.series = static_cast<const ProfileSeries&>(dive);
     drawn.series.profilArraysDefaultContent();
     drawn.samplingRate = dive.samplingRate;
     drawn.fracO2 = dive.o2Mix;

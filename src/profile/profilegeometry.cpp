@@ -47,8 +47,10 @@ private:
     template <class Draw>
     void alongTime(double step, Draw draw) {
         int number = 0;
-        for (double position = 0; position < Space::width - 20; position += step) {
+        double position = 0;
+        while (position < Space::width - 20) {
             draw(std::floor(position), number++);
+            position += step;
         }
     }
 

@@ -190,12 +190,10 @@ private:
         const QString words = wordsOf(element("apparatus")) + u' ' + QString::fromStdString(profile.mode()) + u' ' +
                               wordsOf(element("divemode")) + u' ' +
                               QString::fromStdString(std::string(element("divemode").attribute("type")));
-        if (words.contains(QLatin1String("semiclosed"), Qt::CaseInsensitive)) {
+        const auto says = [&](const char* word) { return words.contains(QLatin1String(word), Qt::CaseInsensitive); };
+        if (says("semiclosed")) {
             dive.rebreather = Apparatus::semiClosed;
-        } else if (words.contains(QLatin1String("closedcircuit"), Qt::CaseInsensitive)) {
-            dive.rebreather = Apparatus::electronicClosed;
-        } else if (words.contains(QLatin1String("rebreather"), Qt::CaseInsensitive) &&
-                   profile.mode() != "opencircuit") {
+        } else if (says("closedcircuit") || (says("rebreather") && profile.mode() != "opencircuit")) {
             dive.rebreather = Apparatus::electronicClosed;
         }
         // Some computers write a set point of the gas in use for an open circuit, too.

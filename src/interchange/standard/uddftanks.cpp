@@ -202,7 +202,7 @@ private:
                 return tank.mix;
             }
         }
-        if (const std::string mix = profile_.mixAt(profile_.deepestMoment()); document_.isMix(mix)) {
+        if (std::string mix = profile_.mixAt(profile_.deepestMoment()); document_.isMix(mix)) {
             return mix;
         }
         if (!Apparatus::isClosed(found_.dive.rebreather)) {
@@ -426,8 +426,7 @@ void giveStops(const UddfDocument& document, const std::vector<XmlElement>& part
 void markSwitches(const UddfDocument& document, const UddfProfile& profile, const Resampled& samples,
                   Assignment& assignment, FoundDive& found) {
     std::vector<qint32> flags(samples.depths.size(), 0);
-    for (std::size_t index = 0; index < profile.switches.size(); ++index) {
-        const UddfProfile::Switch& it = profile.switches[index];
+    for (const UddfProfile::Switch& it : profile.switches) {
         if (!document.isMix(it.mix)) {
             continue;
         }
