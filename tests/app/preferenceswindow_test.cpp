@@ -280,7 +280,7 @@ TEST_F(PreferencesTest, theResetSaysWhatItChanges) {
         find<QPushButton>("resetPreferences").click();
         return desktop.alerts.questions.back().message.split(u'\n');
     };
-    EXPECT_TRUE(question().contains(QStringLiteral("New dives – Tank volume: – → 15 l")));
+    EXPECT_TRUE(question().contains(QStringLiteral("New dives – Tank volume: – → 15 L")));
     EXPECT_TRUE(question().contains(QStringLiteral("Depth and time – Depths: #0000ff → #800080")))
         << "blue, then purple";
     EXPECT_FALSE(question().join(u' ').contains(u"Show units in")) << "it is on and stays on";
@@ -288,7 +288,7 @@ TEST_F(PreferencesTest, theResetSaysWhatItChanges) {
     window().resetPreferences();
     type("volumeBlocField", "12");
     find<QCheckBox>("gazColumnSwitch").click();
-    EXPECT_EQ(question().mid(2), (QStringList{QStringLiteral("New dives – Tank volume: 12 l → 15 l"),
+    EXPECT_EQ(question().mid(2), (QStringList{QStringLiteral("New dives – Tank volume: 12 L → 15 L"),
                                               QStringLiteral("Columns of the logbook – Gas: on → off")}));
 }
 
