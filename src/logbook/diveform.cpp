@@ -218,8 +218,8 @@ std::function<QByteArray()> DiveForm::entriesBeside() const {
 void DiveForm::enterBesideAgain(QByteArrayView entries) {
     const auto read = readRecords(entries, Plongee::layout());
     if (read && read->records.size() == 1) {
-        const Record& entered = *read->records.front();
-        _plg = static_cast<const ProfileSeries&>(static_cast<const Plongee&>(entered));
+        const auto& entered = static_cast<const Plongee&>(*read->records.front());
+        _plg = static_cast<const ProfileSeries&>(entered);
     }
 }
 
