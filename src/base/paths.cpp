@@ -116,7 +116,7 @@ QString canonicalPath(const QString& path) {
 QByteArray resolvedPath(const QByteArray& path) {
     QByteArray name = path;
     for (int links = 0; links <= mostLinks; ++links) {
-        if (const QByteArray real = realPath(name); !real.isEmpty() || errno != ENOENT) {
+        if (QByteArray real = realPath(name); !real.isEmpty() || errno != ENOENT) {
             return real;
         }
         // The last name leads nowhere yet: its folder must be there.
@@ -144,7 +144,7 @@ QString stateFolder() {
     if (!base.startsWith(u'/')) {
         base = QDir::homePath() + QStringLiteral("/.local/state");
     }
-    const QString folder = base + QStringLiteral("/tavrel");
+    QString folder = base + QStringLiteral("/tavrel");
     if (!QDir().mkpath(base) || (::mkdir(pathBytes(folder).constData(), 0700) != 0 && errno != EEXIST)) {
         return {};
     }

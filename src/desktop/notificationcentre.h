@@ -15,6 +15,7 @@ enum class Notification {
     updateEditDive,          ///< the units of forms changed
     updateDeco,              ///< the stop interval or a gradient factor changed
     updateRebreather,        ///< the life of oxygen cells changed
+    previousTotals,          ///< the totals of earlier dives changed
     renumDives,              ///< the user wants to renumber dives
 };
 

@@ -31,9 +31,10 @@ void GasReadings::readProfile(const ProfileSeries& profile) {
     const ProfileSummary summary = summaryOf(profile);
     averageDepth = summary.average;
     deepest = summary.maximum;
+    // What is no number is no depth; only where nothing else is there it stays.
     largestSample = samples > 0 ? static_cast<float>(depths.real(0)) : 0;
     for (std::size_t sample = 1; sample < samples; ++sample) {
-        largestSample = std::max(largestSample, static_cast<float>(depths.real(sample)));
+        largestSample = std::fmax(largestSample, static_cast<float>(depths.real(sample)));
     }
 }
 

@@ -27,7 +27,7 @@ constexpr std::pair<int, char32_t> corrections[] = {{0xC6, 0x2206}, {0xDB, 0x20A
 constexpr int firstUpper = 0x80;
 
 bool isOpen(iconv_t converter) {
-    return std::bit_cast<std::intptr_t>(converter) != -1;
+    return reinterpret_cast<std::intptr_t>(converter) != -1;
 }
 
 }  // namespace

@@ -49,9 +49,10 @@ QPainterPath pathOf(const std::vector<Stroke>& strokes) {
     return path;
 }
 
-/// Which of the labels or ticks along an axis show: all, or every n-th where they are too near to each other.
+/// Which of the labels along an axis show: all, or every n-th where they are too near to each other. Of labels that
+/// stand on one spot, by depths beyond all measure, the first.
 int everyNth(double step, double room) {
-    if (step >= room || !(step > 0)) {
+    if (step >= room) {
         return 1;
     }
     for (int nth = 1;; nth *= 10) {
@@ -80,6 +81,7 @@ public:
         paintCurve();
         paintTexts();
         paintFlags();
+        paintOverFlags();
         return std::move(drawing_);
     }
 
@@ -128,8 +130,11 @@ private:
         }
         line({profile, style_.plotColor});
         line({pathOf(geometry_.surface), Qt::blue});
+    }
+
+    void paintOverFlags() {
         line({excursions(), QColor(0, 255, 0)});
-        line({pressure, Qt::blue});
+        line({pathOf(geometry_.pressure), Qt::blue});
         line({pathOf(geometry_.limit), Qt::red, 1, 3, 3});
     }
 
@@ -304,6 +309,12 @@ private:
                                                          [&](const QRectF& other) { return other.intersects(place); });
                 if (isFree) {
                     taken_.push_back(place);
+                    // A flag that stands elsewhere is tied to its sample, which its tail marks at its right.
+                    QPainterPath tie(QPointF(place.right(), place.top()));
+                    if (place.topLeft() != usual.topLeft()) {
+                        tie.lineTo(usual.right(), usual.top());
+                        line({tie, style_.labelColor(), 0.5});
+                    }
                     drawing_.add(Drawing::Icon{place.topLeft(), size, icon.name});
                     // The words stand in the flag, which is the upper part of the icon.
                     const double flagWidth = icon.name == u"alarmeGAZO2" ? 25 * letters_ : size.width();

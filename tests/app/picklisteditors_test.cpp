@@ -90,7 +90,7 @@ TEST_F(PickListEditors, keepWhatIsTypedSortedAndDeleteSeveralAtOnce) {
     EXPECT_EQ(desktop.alerts.beeps, 0);
     EXPECT_EQ(field->text(), u"typed");
 
-    const auto select = [&](QList<int> rows) {
+    const auto select = [&](const QList<int>& rows) {
         for (const int row : rows) {
             table->selectionModel()->select(table->model()->index(row, 0), QItemSelectionModel::Select);
         }

@@ -1,7 +1,5 @@
 #include "cli/commandrunner.h"
 
-#include <ranges>
-
 namespace tavrel {
 
 namespace {
@@ -25,8 +23,8 @@ QJsonValue cell(const QJsonObject& table, qsizetype row, const char* column) {
 
 QString texts(const QJsonObject& table, const char* column) {
     return eachOf(
-        std::views::iota(qsizetype(0), table[u"rows"].toArray().size()),
-        [&](qsizetype row) { return cell(table, row, column)[u"text"].toString(); }, u' ');
+        numbers(0, int(table[u"rows"].toArray().size())),
+        [&](int row) { return cell(table, row, column)[u"text"].toString(); }, u' ');
 }
 
 TEST_F(ViewCommands, tableShowsWhatTheWindowShows) {

@@ -99,6 +99,7 @@ TEST(Consumption, FiguresExplainThemselvesOrSayWhyNot) {
     const GasReadings flat = readings(12, 200, 50, 40, {0});
     EXPECT_EQ(explainedUsed(flat).text, u"1800 L");
     const GasReadings broken = readings(12, 200, 50, 40, {20, std::nan("")});
+    EXPECT_EQ(readings(12, 200, 50, 40, {std::nan(""), 20, 30}).largestSample, 30);
     for (const auto& [figure, why] :
          {std::pair(explainedSac(flat), "no profile, so no average depth"),
           std::pair(explainedAverageDepth(flat, false), "no profile, so no average depth"),

@@ -88,6 +88,21 @@ TEST(ProfileDrawing, staysLegibleWhereFlagsAndLabelsCrowd) {
     for (std::size_t label = 1; label < times.size(); ++label) {
         EXPECT_GT(times[label] - times[label - 1], 28);
     }
+    EXPECT_LT(all<Drawing::Text>(profileDrawing(diveOf({0, 1e30, 5}, 0), style)).size(), 100U);
+}
+
+TEST(ProfileDrawing, flagMovedAsideIsTiedToItsSample) {
+    ProfileDive dive = diveOf({0, 10, 20, 10, 0}, 0);
+    dive.series.GAZ_Flag = Series::ofIntegers({1, 0, 0, 1, 0});
+    const Drawing drawing = profileDrawing(dive, plainStyle());
+    std::vector<QPointF> ends;
+    for (const auto& line : all<Drawing::Line>(drawing)) {
+        if (line.width == 0.5 && line.dash == 0) {
+            ends.push_back(line.path.currentPosition());
+        }
+    }
+    // The first stands where the axis is: its flag moves, its tail's end, 57 points right of its left, does not.
+    EXPECT_EQ(ends, (std::vector<QPointF>{{31, 583}}));
 }
 
 TEST(ProfileDrawing, lettersOfASmallPictureGrowWithoutLeavingTheirPlaces) {

@@ -3,8 +3,6 @@
 #include "recordbooks/bookfixture.h"
 #include "recordbooks/recordbooks.h"
 
-#include <ranges>
-
 namespace tavrel {
 
 namespace {
@@ -76,7 +74,7 @@ TEST_F(EntreprisesTest, coloursCardsByTheirAge) {
     // What keeps its colour has that of the row above it.
     hold({aged(80000000), aged(31557600), aged(63115200), aged(1), aged(63115200)});
     const BookTable table(*book);
-    EXPECT_EQ(eachOf(std::views::iota(book->count() - 5, book->count()),
+    EXPECT_EQ(eachOf(numbers(book->count() - 5, book->count()),
                      [&](int row) { return table.cell(row, table.columnOf("miseAJour")).style.text->name(); }),
               u"#ff0000|#ff0000|#ff0000|#000000|#000000");
     EXPECT_EQ(colour({}, "miseAJour"), "#000000");

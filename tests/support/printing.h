@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QByteArrayList>
+#include <QList>
 #include <QString>
 #include <QStringList>
 #include <gtest/gtest.h>
 
+#include <numeric>
 #include <ostream>
 #include <span>
 
@@ -21,6 +23,13 @@ namespace tavrel {
 /// A list in one text, "a b".
 inline QString joined(std::span<const char* const> words) {
     return QString::fromUtf8(QByteArrayList(words.begin(), words.end()).join(' '));
+}
+
+/// The numbers from `first` up to and without `last`. (clang 14 does not compile std::views::iota.)
+inline QList<int> numbers(int first, int last) {
+    QList<int> all(last - first);
+    std::iota(all.begin(), all.end(), first);
+    return all;
 }
 
 /// What is said of each thing, in one text, "42|Gozo".

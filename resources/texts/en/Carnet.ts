@@ -111,7 +111,7 @@
 <message><source>Excellent</source><translation>Excellent</translation></message>
 <message><source>Exceptional</source><translation>Exceptional</translation></message>
 <message><source>Execrable</source><translation>Execrable</translation></message>
-<message><source>Explain CNS</source><translation>CNS clock = %.0f min × %.2f %%/min = %.1f %%</translation></message>
+<message><source>Explain CNS</source><translation>CNS clock = %g min × %.2f %%/min = %.1f %%</translation></message>
 <message><source>Explain SAC</source><translation>SAC = %d L / %d min / %.1f bar = %.1f L/min</translation></message>
 <message><source>Explain SAC bar</source><translation>SAC = %d bar / %d min / %.1f bar = %.2f bar/min</translation></message>
 <message><source>Explain available</source><translation>Gas available = %d L × %d bar = %d L</translation></message>

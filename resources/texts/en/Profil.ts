@@ -43,6 +43,7 @@
 <message><source>Time min</source><translation>Time (min)</translation></message>
 <message><source>Time scale</source><translation>Sampling interval:</translation></message>
 <message><source>Tip replace all</source><translation>Empties the seven texts and chooses them all</translation></message>
+<message><source>Typed for dive</source><translation>Typed for dive %d</translation></message>
 <message><source>Values of the sample</source><translation>Values of the sample</translation></message>
 </context>
 </TS>

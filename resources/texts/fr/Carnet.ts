@@ -111,7 +111,7 @@
 <message><source>Excellent</source><translation>Excellente</translation></message>
 <message><source>Exceptional</source><translation>Exceptionnelle</translation></message>
 <message><source>Execrable</source><translation>Exécrable</translation></message>
-<message><source>Explain CNS</source><translation>Horloge SNC = %.0f min × %.2f %%/min = %.1f %%</translation></message>
+<message><source>Explain CNS</source><translation>Horloge SNC = %g min × %.2f %%/min = %.1f %%</translation></message>
 <message><source>Explain SAC</source><translation>SAC = %d L / %d min / %.1f bar = %.1f L/min</translation></message>
 <message><source>Explain SAC bar</source><translation>SAC = %d bar / %d min / %.1f bar = %.2f bar/min</translation></message>
 <message><source>Explain available</source><translation>Gaz disponible = %d L × %d bar = %d L</translation></message>

@@ -43,6 +43,7 @@
 <message><source>Time min</source><translation>Temps (min)</translation></message>
 <message><source>Time scale</source><translation>Intervalle :</translation></message>
 <message><source>Tip replace all</source><translation>Vide les sept textes et les choisit tous</translation></message>
+<message><source>Typed for dive</source><translation>Saisi pour la plongée %d</translation></message>
 <message><source>Values of the sample</source><translation>Valeurs de l’échantillon</translation></message>
 </context>
 </TS>

@@ -2,6 +2,7 @@
 
 #include "base/numbers.h"
 #include "base/texts.h"
+#include "desktop/notificationcentre.h"
 #include "desktop/preferences.h"
 #include "desktop/ui/bringtofront.h"
 #include "dives/statistics.h"
@@ -13,13 +14,13 @@
 #include <QIntValidator>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 namespace tavrel {
 
-PreviousTotalsWindow::PreviousTotalsWindow(Desktop& desktop, std::function<void()> stored, QWidget* parent)
-    : QDialog(parent), desktop_(desktop), stored_(std::move(stored)) {
+PreviousTotalsWindow::PreviousTotalsWindow(Desktop& desktop, QWidget* parent) : QDialog(parent), desktop_(desktop) {
     setObjectName(QStringLiteral("previousTotalsWindow"));
     setWindowTitle(text("Carnet", "Previous dives title"));
     build();
@@ -30,8 +31,13 @@ QLineEdit* PreviousTotalsWindow::addField(QGridLayout* grid, int row, const QStr
     field->setObjectName(name);
     field->setAlignment(Qt::AlignRight);
     field->setMaximumWidth(field->fontMetrics().averageCharWidth() * 14);
-    // Any whole number counts: nothing holds a diver to a range.
-    field->setValidator(new QIntValidator(field));
+    // Any whole number counts: nothing holds a diver to a range. A separator of thousands would be read as a decimal
+    // sign.
+    QLocale plain = QLocale::c();
+    plain.setNumberOptions(QLocale::RejectGroupSeparator);
+    auto* validator = new QIntValidator(field);
+    validator->setLocale(plain);
+    field->setValidator(validator);
     auto* caption = new QLabel(label);
     caption->setBuddy(field);
     field->setAccessibleName(label);
@@ -104,7 +110,7 @@ void PreviousTotalsWindow::validateStatisticsValues() {
     accept();
     desktop_.preferences.set(PreviousTotals::preferencesKey(), values);
     desktop_.preferences.synchronize(desktop_.alerts);
-    stored_();
+    desktop_.notifications.post(Notification::previousTotals);
 }
 
 }  // namespace tavrel

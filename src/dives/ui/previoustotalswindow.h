@@ -4,7 +4,6 @@
 
 #include <QDialog>
 
-#include <functional>
 #include <utility>
 #include <vector>
 
@@ -19,12 +18,11 @@ class PreviousTotalsWindow : public QDialog {
     Q_OBJECT
 
 public:
-    /// Calls stored when the user has stored the totals.
-    PreviousTotalsWindow(Desktop& desktop, std::function<void()> stored, QWidget* parent = nullptr);
+    explicit PreviousTotalsWindow(Desktop& desktop, QWidget* parent = nullptr);
 
     /// Fills the fields from the preferences and comes to the front.
     void showEditStatisticsWindow();
-    /// Stores what the fields hold, as they hold it, and closes.
+    /// Stores what the fields hold, as they hold it, closes, and tells every window of statistics.
     void validateStatisticsValues();
 
 private:
@@ -32,7 +30,6 @@ private:
     void build();
 
     Desktop& desktop_;
-    std::function<void()> stored_;
     std::vector<std::pair<QString, QLineEdit*>> fields_;  ///< by the key of the value
 };
 

@@ -41,6 +41,7 @@ StatisticsWindow::StatisticsWindow(DiveSource source, Desktop& desktop, const Pr
     setCentralWidget(pages_);
     resize(900, 640);
     new KeptFrame(*this, desktop.preferences, QStringLiteral("Statistics"));
+    totalsChanged_ = desktop.notifications.subscribe(Notification::previousTotals, [this] { updateStatistics(); });
 }
 
 StatisticsWindow::~StatisticsWindow() = default;
@@ -54,6 +55,7 @@ void StatisticsWindow::buildToolBar() {
     print->setShortcut(QKeySequence::Print);
     bar->addAction(iconNamed(QStringLiteral("chercher")), text("Main", "Menu print preview"), this,
                    &StatisticsWindow::preview);
+    bar->addAction(text("Main", "Menu page setup"), this, [this] { runPageLayout(this, orientation()); });
     bar->addAction(text("Carnet", "Previous dives edit"), this,
                    [this] { previousTotals().showEditStatisticsWindow(); });
     bar->addSeparator();
@@ -131,8 +133,7 @@ QWidget* StatisticsWindow::newFiguresPage() {
 
 PreviousTotalsWindow& StatisticsWindow::previousTotals() {
     if (!previousTotals_) {
-        previousTotals_ = new PreviousTotalsWindow(
-            desktop_, [this] { refresh(); }, this);
+        previousTotals_ = new PreviousTotalsWindow(desktop_, this);
     }
     return *previousTotals_;
 }
@@ -176,8 +177,12 @@ PrintJob StatisticsWindow::printJob() {
                      return graphs ? pagesOf(graphes_->drawing(), paper)
                                    : pagesOf(statisticsReport(*statistics_, source_.name(), withDecimalSign), paper);
                  }};
-    job.settings.landscape = graphs;
+    job.settings.landscape = orientation() == QPageLayout::Landscape;
     return job;
+}
+
+QPageLayout::Orientation StatisticsWindow::orientation() const {
+    return pages_->currentWidget() == graphes_ ? QPageLayout::Landscape : QPageLayout::Portrait;
 }
 
 void StatisticsWindow::printStatistics() {

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "desktop/desktop.h"
+#include "desktop/notificationcentre.h"
 #include "desktop/printsettings.h"
 #include "dives/statistics.h"
 #include "dives/ui/divesource.h"
 
 #include <QMainWindow>
+#include <QPageLayout>
 
 #include <map>
 #include <memory>
@@ -50,6 +52,7 @@ private:
     void refresh();
     /// What the page in front prints, worked out anew.
     PrintJob printJob();
+    QPageLayout::Orientation orientation() const;
 
     DiveSource source_;
     Desktop& desktop_;
@@ -61,6 +64,7 @@ private:
     Graphes* graphes_ = nullptr;
     std::map<QString, QLabel*> figures_;  ///< by the name of the field
     PreviousTotalsWindow* previousTotals_ = nullptr;
+    NotificationCentre::Subscription totalsChanged_;
 };
 
 }  // namespace tavrel

@@ -1,6 +1,7 @@
 #include "logbook/ui/divewindows.h"
 
 #include "base/texts.h"
+#include "book/bookfilter.h"
 #include "book/ui/bookeditwindow.h"
 #include "book/ui/cardwindow.h"
 #include "desktop/desktop.h"
@@ -21,6 +22,7 @@ DiveWindows::DiveWindows(Carnet& carnet, LogbookWindow& window, Desktop& desktop
     connect(&carnet, &Carnet::listChanged, this, &DiveWindows::scheduleRefresh);
     connect(&carnet, &Carnet::selectionChanged, this, &DiveWindows::scheduleRefresh);
     connect(&carnet, &Carnet::searched, this, &DiveWindows::scheduleRefresh);
+    connect(&carnet.filter(), &BookFilter::changed, this, &DiveWindows::scheduleRefresh);
     connect(&carnet, &Carnet::synthesisRefillRequested, this, &DiveWindows::scheduleRefresh);
 }
 

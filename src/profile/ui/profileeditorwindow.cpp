@@ -39,8 +39,11 @@ ProfileEditorWindow::ProfileEditorWindow(Preferences& preferences)
     auto* importButton = new QPushButton(text("Profil", "Import series"));
     importButton->setObjectName(QStringLiteral("importProfil"));
     const auto enable = [this, importButton] { importButton->setEnabled(anyMarked()); };
-    for (const Column& column : columns_) {
-        connect(column.erase, &QCheckBox::toggled, this, enable);
+    for (Column& column : columns_) {
+        connect(column.erase, &QCheckBox::toggled, this, [this, enable, &column] {
+            column.dive = diveNumber_;
+            enable();
+        });
     }
     enable();
     connect(eraseAllSwitch_, &QCheckBox::clicked, this, &ProfileEditorWindow::toggleAll);
@@ -81,25 +84,30 @@ ProfileEditorWindow::Column ProfileEditorWindow::newColumn(const EditedSeries& e
             erase->setChecked(true);
         }
     });
-    return {text, count, erase};
+    return {text, count, erase, 0};
 }
 
 void ProfileEditorWindow::updateProfilInfo(const ProfileSeries& profile, qint32 diveNumber) {
-    setDiveNumber(diveNumber);
     shown_ = profile;
+    setDiveNumber(diveNumber);
     showTexts();
 }
 
 void ProfileEditorWindow::followDive(const ProfileSeries& profile, qint32 diveNumber) {
-    if (anyMarked()) {
-        setDiveNumber(diveNumber);
-        shown_ = profile;
-    } else {
-        updateProfilInfo(profile, diveNumber);
+    shown_ = profile;
+    setDiveNumber(diveNumber);
+    for (std::size_t index = 0; index < columns_.size(); ++index) {
+        const Column& column = columns_[index];
+        if (!column.erase->isChecked()) {
+            showText(index);
+        } else if (column.dive != diveNumber) {
+            column.count->setText(textWith("Profil", "Typed for dive", column.dive));
+        }
     }
 }
 
 void ProfileEditorWindow::setDiveNumber(qint32 number) {
+    diveNumber_ = number;
     setWindowTitle(textWith("Carnet", "Dive number profile datas title", number));
 }
 
@@ -111,11 +119,15 @@ bool ProfileEditorWindow::anyMarked() const {
 void ProfileEditorWindow::showTexts() {
     eraseAllSwitch_->setChecked(false);
     for (std::size_t index = 0; index < columns_.size(); ++index) {
-        const Column& column = columns_[index];
-        column.text->setPlainText(editorText(shown_, editedSeries[index]));
-        column.count->setText(countText(shown_, editedSeries[index]));
-        column.erase->setChecked(false);
+        showText(index);
     }
+}
+
+void ProfileEditorWindow::showText(std::size_t index) {
+    const Column& column = columns_[index];
+    column.text->setPlainText(editorText(shown_, editedSeries[index]));
+    column.count->setText(countText(shown_, editedSeries[index]));
+    column.erase->setChecked(false);
 }
 
 void ProfileEditorWindow::selectAllSwitches() {

@@ -24,7 +24,7 @@ public:
 
     /// Shows the series of a dive, all switches off.
     void updateProfilInfo(const ProfileSeries& profile, qint32 diveNumber);
-    /// Another dive is the current one: shows its series, unless some are marked, which then are for that dive.
+    /// Another dive is the current one: shows its series. A marked text stays, and says which dive it was typed for.
     void followDive(const ProfileSeries& profile, qint32 diveNumber);
     /// Empties all texts and turns all switches on.
     void selectAllSwitches();
@@ -39,15 +39,18 @@ private:
         QPlainTextEdit* text;
         QLabel* count;
         QCheckBox* erase;
+        qint32 dive;  // that it was marked for
     };
 
     Column newColumn(const EditedSeries& edited);
     void showTexts();
+    void showText(std::size_t index);
     void setDiveNumber(qint32 number);
     bool anyMarked() const;
     void toggleAll(bool on);
 
     ProfileSeries shown_;
+    qint32 diveNumber_ = 0;
     std::array<Column, editedSeries.size()> columns_;
     QCheckBox* eraseAllSwitch_;
 };

@@ -35,7 +35,6 @@
 
 #include <cmath>
 #include <map>
-#include <ranges>
 
 namespace tavrel {
 
@@ -58,7 +57,7 @@ struct RecordBookTest : testing::Test {
         book.appendRecords(QStringLiteral("Add"), listOf(things));
     }
     QString names() {
-        return eachOf(std::views::iota(0, book.count()), [this](int row) { return book.record(row).name; });
+        return eachOf(numbers(0, book.count()), [this](int row) { return book.record(row).name; });
     }
     void type(auto id, const QString& text) { book.form().state().type(id.index, text); }
     void click(int row) {
@@ -243,8 +242,7 @@ TEST_F(RecordBookTest, filtersAsOneTypes) {
     const auto* count = window.filterBar().findChild<QLabel*>(QStringLiteral("filterCount"));
     const QAbstractItemModel& model = *window.table().model();
     const auto shown = [&] {
-        return eachOf(std::views::iota(0, model.rowCount()),
-                      [&](int row) { return model.index(row, 0).data().toString(); });
+        return eachOf(numbers(0, model.rowCount()), [&](int row) { return model.index(row, 0).data().toString(); });
     };
     EXPECT_EQ(window.searchField(), nullptr);
     EXPECT_EQ(count->text(), QString());

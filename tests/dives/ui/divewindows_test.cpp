@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QTest>
 
 namespace tavrel {
 namespace {
@@ -50,6 +51,8 @@ struct DiveWindowsTest : testing::Test {
 TEST_F(DiveWindowsTest, StatisticsFollowTheChoiceThePreviousTotalsAndTheSwitch) {
     StatisticsWindow window(source(), desktop_.desktop(), {});
     window.showStatisticsWindow();
+    StatisticsWindow other(source(), desktop_.desktop(), {});
+    other.showStatisticsWindow();
     EXPECT_EQ(window.windowTitle(), u"Statistics of Lagoon");
     const auto figures = [&](const char* names) {
         return eachOf(names, [&](const char* name) { return shown(window, name); });
@@ -64,12 +67,16 @@ TEST_F(DiveWindowsTest, StatisticsFollowTheChoiceThePreviousTotalsAndTheSwitch) 
     previous.showEditStatisticsWindow();
     EXPECT_EQ(previous.findChildren<QLineEdit*>().size(), 36);
     EXPECT_EQ(previous.findChild<QLineEdit*>(QStringLiteral("statSumTempMinField"))->text(), u"0");
-    previous.findChild<QLineEdit*>(QStringLiteral("statSumDivesField"))->setText(QStringLiteral("6"));
+    auto* dives = previous.findChild<QLineEdit*>(QStringLiteral("statSumDivesField"));
+    QTest::keyClicks(dives, QStringLiteral("1,234"));
+    EXPECT_EQ(dives->text(), u"1234");
+    dives->setText(QStringLiteral("6"));
     previous.findChild<QLineEdit*>(QStringLiteral("statSumProf_7Field"))->setText(QStringLiteral("4"));
     previous.findChild<QLineEdit*>(QStringLiteral("statSumRecupField"))->setText(QStringLiteral("-3"));
     previous.validateStatisticsValues();
     EXPECT_FALSE(previous.isVisible());
     EXPECT_EQ(figures("statP_Prof_7Field statRecupField statTempMinField"), u"50.0 %|-3|0\u00a0°C");
+    EXPECT_EQ(shown(other, "statP_Prof_7Field"), u"50.0 %");
     EXPECT_EQ(PreviousTotals::read(desktop_.desktop().preferences).of(StatCount::recuperation), -3);
 
     window.findChild<QCheckBox*>(QStringLiteral("previousDivesNoSwitch"))->click();

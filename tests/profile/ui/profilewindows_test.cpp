@@ -146,6 +146,17 @@ TEST_F(ProfileEditorTest, importsTheSeriesThatAreMarked) {
     EXPECT_EQ(find<QPlainTextEdit>("importSLOW_Field").toPlainText(), u"0\n1\n0");
 }
 
+TEST_F(ProfileEditorTest, followsTheDiveAndSaysWhoseTextsStay) {
+    QTest::keyClicks(&find<QPlainTextEdit>("importGAZ_Field"), QStringLiteral("1"));
+    profile.profilProfondeur = Series::ofReals({0, 7});
+    window.followDive(profile, 13);
+    EXPECT_EQ(find<QPlainTextEdit>("importProfondeurField").toPlainText(), u"0.0\n7.0");
+    EXPECT_EQ(find<QLabel>("countProfondeurField").text(), u"2 values");
+    EXPECT_EQ(find<QPlainTextEdit>("importGAZ_Field").toPlainText(), u"1");
+    EXPECT_EQ(find<QLabel>("countGAZ_Field").text(), u"Typed for dive 12");
+    EXPECT_EQ(window.chosenTexts()[0], std::nullopt);
+}
+
 TEST_F(ProfileEditorTest, allSwitchEmptiesAndMarksEverySeries) {
     find<QCheckBox>("eraseAllSwitch").click();
     find<QPushButton>("importProfil").click();
