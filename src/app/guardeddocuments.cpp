@@ -49,8 +49,9 @@ bool MyDocumentController::saveOverChange(DocumentWindow& window, FileIdentity::
         return saveElsewhere(window, entries);
     }
     if (answer == reload && !isGone) {
-        window.settleEntries(Entries::dropped);
-        succeeded(document.revert());
+        if (succeeded(document.revert())) {
+            window.settleEntries(Entries::dropped);
+        }
     }
     return false;
 }

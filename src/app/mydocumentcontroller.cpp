@@ -363,15 +363,24 @@ bool MyDocumentController::reload(DocumentWindow& window, const QString& questio
     if (!entries) {
         return false;
     }
-    if (!question.isEmpty()) {
+    // What was to be stored would go with the list that is read anew.
+    const QString asked = question.isEmpty() && *entries == Entries::stored
+                              ? textWith("Main", "Revert question", window.document().displayName())
+                              : question;
+    if (!asked.isEmpty()) {
         desktop_.alerts.beep();
-        if (desktop_.alerts.ask(question, {text("Main", "Revert"), text("Main", "Cancel")}) != 0) {
+        if (desktop_.alerts.ask(asked, {text("Main", "Revert"), text("Main", "Cancel")}) != 0) {
             return false;
         }
     }
-    window.settleEntries(*entries);
     const auto done = withProgress(window.document(), &window, Title("Main", "Loading"), read);
-    return done && succeeded(*done);
+    if (!done || !succeeded(*done)) {
+        return false;  // the form keeps what was typed
+    }
+    if (*entries != Entries::none) {
+        window.settleEntries(Entries::dropped);
+    }
+    return true;
 }
 
 bool MyDocumentController::revertDocument(DocumentWindow& window) {

@@ -40,7 +40,7 @@ constexpr ToolBarDescription toolBarDescription{"prefsToolbar", pageItems, pageN
 constexpr int columnsPerRow = 3;  // of the group that holds nothing but switches of columns
 
 constexpr int noteWidth = 48;      // characters
-constexpr int listedChanges = 15;  // a longer question would not fit a small screen
+constexpr int listedChanges = 24;  // a longer question would not fit a small screen
 
 bool isOf(const PreferenceKey& key, const AnySetting& setting) {
     return key.setting == setting;

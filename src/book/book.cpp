@@ -20,6 +20,7 @@ BookBase::BookBase(Desktop& desktop, const BookDescription& description)
     });
     connect(form_.get(), &BookForm::userEdited, this, &Document::touched);
     connect(this, &ListDocument::selectionChanged, this, &BookBase::followSelection);
+    connect(this, &ListDocument::listChanged, this, &BookBase::followShown);
     connect(this, &ListDocument::listChanged, this, &BookBase::stateChanged);
     connect(this, &ListDocument::listRestored, this, &BookBase::listIsRestored);
 }
@@ -96,7 +97,8 @@ void BookBase::putAt(int row, bool replacing) {
         list.insert(place, built);
     }
     changeList((replacing ? description_.words.undoUpdate : description_.words.undoInsert).text(), std::move(list));
-    showsSelectedRecord_ = true;
+    shown_ = built;
+    shownRow_ = row;
     form_->remember();
     titleEditWindow();
     updateUI();
@@ -107,7 +109,7 @@ void BookBase::insertRecord() {
 }
 
 void BookBase::updateRecord() {
-    putAt(selectedRow(), true);
+    putAt(shown_ && hasEntries() ? shownRow_ : selectedRow(), true);
 }
 
 void BookBase::deleteRecords() {
@@ -115,23 +117,23 @@ void BookBase::deleteRecords() {
         return;
     }
     desktop().alerts.beep();
-    const int doomed = static_cast<int>(selectedRows().size());
+    const QList<int> rows = selectedRows();
+    const int doomed = static_cast<int>(rows.size());
     const QString question =
         doomed == 1 ? description_.words.eraseQuestion.text() : textWith(description_.words.eraseQuestions, doomed);
     if (desktop().alerts.ask(question, {QStringLiteral("OK"), text("Main", "Cancel")}) != 0) {
         return;
     }
     RecordList list;
-    const QList<int>& rows = selectedRows();
     for (int row = 0; row < count(); ++row) {
         if (!std::binary_search(rows.begin(), rows.end(), row)) {
             list.push_back(recordAt(row));
         }
     }
-    const bool typesNewRecord = !formShowsSelectedRecord() && hasEntries();
+    const bool typesAnother = hasEntries() && !std::binary_search(rows.begin(), rows.end(), shownRow_);
     deselectAll();
     changeList(description_.words.undoDelete.text(), std::move(list));
-    if (!typesNewRecord) {
+    if (!typesAnother) {
         beginBlank();
     }
     updateUI();
@@ -140,7 +142,7 @@ void BookBase::deleteRecords() {
 void BookBase::step(int direction) {
     const int row = selectedRow();
     if (row < 0) {
-        updateRecord();
+        desktop().alerts.beep();
         return;
     }
     if (!leaveForm(Leaving::stepping)) {
@@ -184,20 +186,43 @@ void BookBase::editWindow() {
 
 void BookBase::followSelection() {
     currentIndex_ = selectedRow();
-    if (currentIndex_ >= 0 && !keepsForm_) {
-        editFields();
+    if (currentIndex_ >= 0 && !keepsForm_ && !hasEntries()) {
+        load(currentIndex_);
     }
     Q_EMIT stateChanged();
 }
 
+void BookBase::followShown(const ListChange& change) {
+    if (!shown_) {
+        return;
+    }
+    int row = shownRow_;
+    if (row >= change.first + change.removed) {
+        row += change.inserted - change.removed;
+    }
+    if (recordAt(row) != shown_) {
+        const auto found = std::find(records().begin(), records().end(), shown_);
+        const bool isReplaced = change.removed == change.inserted;
+        row = found != records().end() ? static_cast<int>(found - records().begin()) : isReplaced ? row : -1;
+    }
+    shown_ = recordAt(row);
+    shownRow_ = shown_ ? row : -1;
+    if (!shown_ && !hasEntries()) {
+        beginBlank();
+    }
+}
+
 void BookBase::listIsRestored() {
     // What is being typed outlasts an undo; so does a form for a new record.
-    const bool keeps = hasEntries() || !showsSelectedRecord_;
-    currentIndex_ = selectedRow();
-    if (!keeps) {
+    if (!hasEntries() && shown_) {
         followSelection();
         return;
     }
+    if (shown_) {
+        selectRows({shownRow_});
+    }
+    currentIndex_ = selectedRow();
+    titleEditWindow();
     Q_EMIT stateChanged();
 }
 
@@ -239,7 +264,7 @@ std::optional<Entries> BookBase::askAboutEntries(Leaving way) {
     if (!hasEntries()) {
         return Entries::none;
     }
-    if (!formShowsSelectedRecord()) {
+    if (!shown_) {
         return askAboutEntries(description_.words.addQuestion, {"Main", "Add"});
     }
     if (way == Leaving::escaping || way == Leaving::elsewhere) {
@@ -253,10 +278,11 @@ void BookBase::settleEntries(Entries entries) {
         case Entries::none:
             break;
         case Entries::stored:
-            formShowsSelectedRecord() ? updateRecord() : addRecord();
+            shown_ ? updateRecord() : addRecord();
             break;
         case Entries::dropped:
-            formShowsSelectedRecord() ? editFields() : beginBlank();
+            shown_ ? editFields() : beginBlank();
+            Q_EMIT touched();
             break;
     }
 }
@@ -273,7 +299,7 @@ std::optional<UnstoredForm> BookBase::unstoredForm() const {
     if (!hasEntries()) {
         return std::nullopt;
     }
-    return UnstoredForm{formShowsSelectedRecord() ? selectedRow() : -1, form_->entries(), form_->entriesBeside()};
+    return UnstoredForm{shownRow_, form_->entries(), form_->entriesBeside()};
 }
 
 void BookBase::showUnstored(const UnstoredForm& form) {
@@ -306,7 +332,7 @@ bool BookBase::userSelects(const QList<int>& rows) {
     selectRows(rows);
     keepsForm_ = false;
     // The selected row may be selected again while the form is cleared.
-    if (selectedRow() >= 0 && !showsSelectedRecord_) {
+    if (selectedRow() >= 0 && !shown_) {
         followSelection();
     }
     return true;
@@ -319,18 +345,24 @@ void BookBase::blankFields() {
     form_->blankFields(count());
     form_->state().requestFocus(form_->state().table().find(description_.numberField));
     form_->remember();
-    showsSelectedRecord_ = false;
+    shown_ = nullptr;
+    shownRow_ = -1;
     titleEditWindow();
     Q_EMIT stateChanged();
 }
 
 void BookBase::editFields() {
-    const RecordPointer shown = recordAt(currentIndex_);
-    if (!shown) {
+    load(shownRow_ >= 0 ? shownRow_ : currentIndex_);
+}
+
+void BookBase::load(int row) {
+    const RecordPointer stored = recordAt(row);
+    if (!stored) {
         return;
     }
-    form_->editFields(*shown);
-    showsSelectedRecord_ = true;
+    form_->editFields(*stored);
+    shown_ = stored;
+    shownRow_ = row;
     titleEditWindow();
 }
 
@@ -366,8 +398,8 @@ Expected<void> BookBase::setValue(int row, const QString& field, const FieldValu
     RecordList list = records();
     list[static_cast<std::size_t>(row)] = changed;
     changeList(description_.words.undoUpdate.text(), std::move(list));
-    if (row == currentIndex_) {
-        followSelection();
+    if (row == shownRow_ && !hasEntries()) {
+        editFields();
     }
     return {};
 }

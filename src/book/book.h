@@ -42,7 +42,9 @@ public:
     /// The row of the record last loaded into the form; -1 when none.
     int currentIndex() const { return currentIndex_; }
     /// Whether the form holds the record of the selected row rather than a new one.
-    bool formShowsSelectedRecord() const { return showsSelectedRecord_ && selectedRow() >= 0; }
+    bool formShowsSelectedRecord() const { return shownRow_ >= 0 && shownRow_ == selectedRow(); }
+    /// The row of the stored record in the form, selected or not; -1 while a new one is typed.
+    int shownRow() const { return shownRow_; }
 
     Expected<QByteArray> dataRepresentationOfType(const QString& type) override;
     /// The list is replaced before the type is checked, so a wrong type fails with the list already replaced.
@@ -62,7 +64,7 @@ public:
     /// Selects the row alone and scrolls to it; when it is not to stay selected, only scrolls.
     void selectLast(int index, bool selected);
     void editWindow();
-    /// Follows a selection: the record of the selected row goes into the form.
+    /// Follows a selection: the record of the selected row goes into the form, unless that holds entries.
     void followSelection();
     /// Appends records that were taken in from elsewhere, as one undo step.
     void appendRecords(const QString& step, const RecordList& taken);
@@ -88,7 +90,7 @@ public:
 
     // The form.
     void blankFields();
-    /// Loads the record at currentIndex into the form.
+    /// Loads the stored record that the form shows anew or, where it shows none, the one at currentIndex.
     void editFields();
     void updateUI();
 
@@ -145,6 +147,8 @@ private:
     void putAt(int row, bool replacing);
     void beginBlank();
     void titleEditWindow();
+    void load(int row);
+    void followShown(const ListChange& change);
     void listIsRestored();
     QList<int> rowsHolding(const Field& field, const QString& searched) const;
     void search(std::function<QList<int>()> matching);
@@ -156,7 +160,8 @@ private:
     std::vector<NotificationCentre::Subscription> subscriptions_;
     int currentIndex_ = -1;
     bool keepsForm_ = false;
-    bool showsSelectedRecord_ = false;  ///< rather than a cleared form
+    RecordPointer shown_;  ///< the stored record in the form; null while a new one is typed
+    int shownRow_ = -1;    ///< its row
     bool asksAboutEntries_ = false;
     QString idColonne_;
     std::map<QString, bool> ascendingDirection_;

@@ -150,7 +150,7 @@ void BookFilter::take(const Found& found) {
     }
     marked_ = filter_;
     isActive_ = true;
-    kept_ = book_.formShowsSelectedRecord() && book_.hasEntries() ? book_.recordAt(book_.selectedRow()) : nullptr;
+    kept_ = book_.hasEntries() ? book_.recordAt(book_.shownRow()) : nullptr;
     known_.clear();
     hidden_.clear();
     knownIn_ = index_;

@@ -21,10 +21,11 @@ constexpr std::size_t recordsPerQuestion = 1024;
 bool isNought(const FilterField& field, const Record& record) {
     const qint32* integer = field.field.get<qint32>(record);
     const float* real = field.field.get<float>(record);
-    return (integer && *integer == 0) || (real && *real == 0);
+    return (integer && (*integer == 0 || *integer == field.notGiven)) || (real && *real == 0);
 }
 
-/// What a field is found by beside the words of its cell; empty for switches, for numbers that are 0 and for no date.
+/// What a field is found by beside the words of its cell; empty for switches, for numbers that are 0 or stand for none,
+/// and for no date.
 QString plainWords(const FilterField& field, const Record& record, const TableStyle& style) {
     if (const qint32* tag = field.field.get<qint32>(record); tag && !field.choices.empty()) {
         const auto choice = std::find_if(field.choices.begin(), field.choices.end(),

@@ -60,6 +60,18 @@ constexpr std::array<Sign, 8> signs{{{u">=", Operator::greaterOrEqual},
                                      {u"<", Operator::less},
                                      {u"=", Operator::equal}}};
 
+bool beginsWith(QStringView text, const Sign& sign) {
+    return text.startsWith(sign.text);
+}
+
+/// Whether blanks at the front are followed by a sign of a comparison.
+bool comparesNext(QStringView text) {
+    const QStringView next = text.trimmed();
+    return std::any_of(signs.begin(), signs.end(), [next](const Sign& sign) {
+        return sign.operation != Operator::contains && beginsWith(next, sign);
+    });
+}
+
 /// A word as typed, without its quotation marks, and where its sign stands; -1 for none.
 struct Typed {
     QString text;
@@ -82,10 +94,16 @@ std::vector<Typed> parted(const QString& typed) {
         if (each == u'"' || each == u'“' || each == u'”' || each == u'«' || each == u'»') {
             isQuoted = !isQuoted;
         } else if (each.isSpace() && !isQuoted) {
-            end();
+            const bool isBehindSign = word.place > 0 && word.sign.operation != Operator::contains &&
+                                      word.text.size() == word.place + word.sign.text.size();
+            const bool isBeforeSign =
+                word.place < 0 && !word.text.isEmpty() && comparesNext(QStringView(typed).sliced(place));
+            if (!isBehindSign && !isBeforeSign) {
+                end();
+            }
         } else {
             const auto sign = std::find_if(signs.begin(), signs.end(), [&](const Sign& candidate) {
-                return QStringView(typed).sliced(place).startsWith(candidate.text);
+                return beginsWith(QStringView(typed).sliced(place), candidate);
             });
             if (!isQuoted && word.place < 0 && sign != signs.end()) {
                 word.place = word.text.size();
@@ -166,6 +184,7 @@ bool compare(Operator operation, const Value& value, const Value& first, const V
 
 std::vector<FilterField> filterFieldsOf(const BookBase& book) {
     std::vector<FilterField> fields;
+    const std::vector<Group>& groups = book.form().state().table().groups();
     for (const Item& item : book.layout().items) {
         const Field field = item.field();
         const bool isKnown =
@@ -179,6 +198,10 @@ std::vector<FilterField> filterFieldsOf(const BookBase& book) {
             if (placed.field == item.key()) {
                 found.title = text(placed.control.label, {});
                 addName(found, found.title);
+                if (found.title.isEmpty()) {  // a field that fills its group goes by the group's words
+                    addName(found, text(groups[static_cast<std::size_t>(placed.group)].title, {}));
+                }
+                found.notGiven = placed.control.notGiven;
                 found.choices =
                     placed.control.kind == ControlKind::rating ? std::span<const Choice>() : placed.control.choices;
                 found.isSwitch = placed.control.kind == ControlKind::onOff;
@@ -215,6 +238,10 @@ RecordFilter::RecordFilter(const QString& typed, const std::vector<FilterField>&
         }
         readValue(value, word);
         word.operation = each.sign.operation;
+        const auto isChoice = [&](int place) { return !fields[static_cast<std::size_t>(place)].choices.empty(); };
+        if (word.operation != Operator::contains && !std::all_of(word.fields.begin(), word.fields.end(), isChoice)) {
+            std::erase_if(word.fields, isChoice);
+        }
         if (word.operation != Operator::contains && !isComparable(word)) {
             if (word.operation != Operator::equal) {
                 word = {};
@@ -255,9 +282,11 @@ bool holds(const RecordFilter::Word& word, const FilterField& field, const Recor
             return word.firstDay.isValid() && !isNoDate(date) &&
                    compare(word.operation, moment.date(), word.firstDay, word.lastDay);
         }
-        case FieldKind::integer:
-            return word.number &&
-                   compare<double>(word.operation, *field.field.get<qint32>(record), *word.number, *word.number);
+        case FieldKind::integer: {
+            const qint32 value = *field.field.get<qint32>(record);
+            return word.number && value != field.notGiven &&
+                   compare<double>(word.operation, value, *word.number, *word.number);
+        }
         case FieldKind::real: {
             const auto value = static_cast<double>(*field.field.get<float>(record));
             // What is typed means the number that the field would hold for it.

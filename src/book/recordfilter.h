@@ -23,6 +23,7 @@ struct FilterField {
     QString title;      ///< the words that the user knows it by; empty for a field that is nowhere to be seen
     std::span<const Choice> choices = {};
     const Column* column = nullptr;
+    std::optional<int> notGiven = {};  ///< the whole number that stands for none
     bool isSwitch = false;
     bool isTime = false;  ///< a Date of which the time of day alone counts
 };
@@ -33,8 +34,9 @@ std::vector<FilterField> filterFieldsOf(const BookBase& book);
 /// What was typed into a filter, taken apart. Words stand for all of them; blanks part them, quotation marks hold them
 /// together. A word that begins with a field's name, as its key or as the user sees it, blanks left out and cut short
 /// at will, asks for that field alone: field:text, and for numbers, days and times field>30, >=, <, <= and =. A day may
-/// be a year, a month or a day: date>=2023-05. Anything else is a text to be found in any field. A field whose value is
-/// still to be typed asks for nothing.
+/// be a year, a month or a day: date>=2023-05. Blanks may stand around the signs of a comparison. A number that stands
+/// for none compares with nothing, and where a name is that of a number and of a choice, the number is compared.
+/// Anything else is a text to be found in any field. A field whose value is still to be typed asks for nothing.
 class RecordFilter {
 public:
     enum class Operator { contains, less, lessOrEqual, equal, greaterOrEqual, greater };

@@ -52,9 +52,11 @@ struct Control {
     int minimum = 0, maximum = 0;  ///< bounds of a slider or rating
     /// Numbers beyond these are stored all the same, with a hint beside them.
     std::optional<double> usualMinimum = {}, usualMaximum = {};
+    std::optional<int> notGiven = {};       ///< the number that stands for none
     std::optional<PickList> pickList = {};  ///< the shared list of a combo
     int ownList = -1;                       ///< the list of a combo that its document owns, by the document's number
     int width = 0;                          ///< in characters; 0: by kind
+    std::span<const Title> captions = {};  ///< of a caption that the program writes: the words that it may be
     bool beside = false;                    ///< stands behind the control before it instead of under a label
     bool emptyAt1900 = false;               ///< of a date: 1 January 1900 stands for none and shows as empty
     Opens opens = Opens::nothing;           ///< what a text opens on a click with the control key

@@ -17,6 +17,7 @@ struct DiveControls : ControlTable<DiveControls> {
     static constexpr std::array<const char*, 3> ponies{"1", "2", "3"};
     static constexpr std::array<const char*, 2> bailouts{"1", "2"};
     static constexpr std::array<const char*, 6> stopCaptions{"3", "6", "9", "12", "15", "18"};
+    static constexpr std::array<Title, 2> setPointCaptions{{{"Carnet", "PpO2"}, {"Carnet", "high setpoint"}}};
 
     // Page 1: the dive, where and with whom.
     const int diveGroup = group({1, {"Carnet", "Group dive"}, GroupLayout::pairs, 2});
@@ -110,7 +111,8 @@ struct DiveControls : ControlTable<DiveControls> {
                                .kind = ControlKind::wholeNumber,
                                .field = "coeff",
                                .label = {"Carnet", "Label tide coefficient"},
-                               .clearedText = "-"});
+                               .clearedText = "-",
+                               .notGiven = 0});
     const Id pmBmPopUp = add({.name = "pmBmPopUp",
                               .kind = ControlKind::popUp,
                               .field = "pmBm",
@@ -132,7 +134,8 @@ struct DiveControls : ControlTable<DiveControls> {
                                  .kind = ControlKind::wholeNumber,
                                  .field = "tempEau",
                                  .label = {"Carnet", "Label water temperature"},
-                                 .clearedText = "-"});
+                                 .clearedText = "-",
+                                 .notGiven = temperatureNotGiven});
     const Id fahrEauField = add({.name = "fahrEauField", .kind = ControlKind::readOnly, .beside = true});
 
     const int weatherGroup = group({2, {"Carnet", "Group weather"}, GroupLayout::pairs, 2});
@@ -146,7 +149,8 @@ struct DiveControls : ControlTable<DiveControls> {
                                  .kind = ControlKind::wholeNumber,
                                  .field = "tempAir",
                                  .label = {"Carnet", "Label air temperature"},
-                                 .clearedText = "-"});
+                                 .clearedText = "-",
+                                 .notGiven = temperatureNotGiven});
     const Id fahrAirField = add({.name = "fahrAirField", .kind = ControlKind::readOnly, .beside = true});
     const Id ventSecteurPopUp = add({.name = "ventSecteurPopUp",
                                      .kind = ControlKind::popUp,
@@ -280,7 +284,8 @@ struct DiveControls : ControlTable<DiveControls> {
                               .label = {"Carnet", "Label flow"},
                               .unit = literal("L/min"),
                               .clearedText = "0"});
-    const Id setPointField = add({.name = "setPointField", .kind = ControlKind::readOnly});
+    const Id setPointField =
+        add({.name = "setPointField", .kind = ControlKind::readOnly, .captions = setPointCaptions});
     const Id ppO2PopUp = add({.name = "ppO2PopUp",
                               .kind = ControlKind::popUp,
                               .field = "ppO2",

@@ -346,12 +346,12 @@ void DiveForm::refresh() {
     if (apparatus == Apparatus::manualClosed || apparatus == Apparatus::electronicClosed) {
         fields.setText(controls_.blocField[0], text("Carnet", "OXYGÈNE :"));
         fields.setText(controls_.blocField[1], text("Carnet", "DILUANT :"));
-        fields.setText(controls_.setPointField, text("Carnet", "high setpoint"));
+        fields.setText(controls_.setPointField, DiveControls::setPointCaptions[1].text());
         fields.setInteger(controls_.o2MixField[0], 100);
     } else if (apparatus == Apparatus::openCircuit || apparatus == Apparatus::semiClosed) {
         fields.setText(controls_.blocField[0], text("Carnet", "Bloc principal :"));
         fields.setText(controls_.blocField[1], text("Carnet", "Bloc secondaire :"));
-        fields.setText(controls_.setPointField, text("Carnet", "PpO2"));
+        fields.setText(controls_.setPointField, DiveControls::setPointCaptions[0].text());
     }
     fields.setEnabled(controls_.flowField, apparatus == Apparatus::semiClosed);
 

@@ -66,7 +66,7 @@ Drawing profileDrawing(const Plongee& dive, const Preferences& preferences) {
 
 void importProfil(Carnet& carnet, const SeriesTexts& texts) {
     importProfil(carnet.form().profile(), texts);
-    if (carnet.formShowsSelectedRecord()) {
+    if (carnet.shownRow() >= 0) {
         carnet.updateDive();
         carnet.editFields();
     } else {

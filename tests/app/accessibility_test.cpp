@@ -147,7 +147,7 @@ TEST_F(EveryWindow, marksTheCommandsThatOpenADialog) {
     // Written by hand: what asks for more before it does anything, and what does not.
     const char* asking =
         "openDocument saveDocumentAs exportDocument runPageLayout imprimer showPreferencePanel convertUnits customise "
-        "sendRenumDivesNotification importUDCF importUDDF revertDocumentToSaved";
+        "sendRenumDivesNotification importUDCF importUDDF revertDocumentToSaved synthese";
     const char* doing = "saveDocument closeDocument terminate undo redo performMiniaturize";
     for (const char* language : {"en", "fr"}) {
         setTextLanguage(QString::fromLatin1(language));

@@ -408,6 +408,31 @@ TEST_F(Documents, tellInTheirWindowWhatAnotherProgramDoes) {
     EXPECT_TRUE(app.alerts.questions.empty() && app.alerts.failures.empty());
 }
 
+TEST_F(Documents, reloadOnlyWhatTheUserWouldDrop) {
+    const QString file = app.savedLogbook(QStringLiteral("dives.carnet"), 2);
+    const QByteArray theirs = contentsOf(app.savedLogbook(QStringLiteral("others.carnet"), 5));
+    app.documents.openFile(file);
+    TestWindow& window = *app.frontWindow();
+    window.entries = Entries::stored;
+    ASSERT_TRUE(writeFile(file, "rubbish"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !window.messageBar().isHidden(); }));
+    auto* reload = window.messageBar().findChild<QAction*>(QStringLiteral("messageCommand"));
+    enum { revert, leave };
+    for (const int answer : {leave, revert}) {
+        app.alerts.answerNext(answer);
+        reload->trigger();
+        EXPECT_EQ(app.alerts.questions.size(), 1U) << "what was to be added would be dropped";
+        app.alerts.questions.clear();
+    }
+    EXPECT_EQ(app.alerts.failures.size(), 1U);
+    EXPECT_TRUE(window.settled.isEmpty()) << "a file that cannot be read takes nothing away";
+    ASSERT_TRUE(writeFile(file, theirs));
+    app.alerts.answerNext(revert);
+    app.documents.revertDocument(window);
+    EXPECT_EQ(window.settled, QList{Entries::dropped});
+    EXPECT_EQ(app.frontCarnet().count(), 5);
+}
+
 TEST_F(Documents, thatAnotherProgramHasOpenAreOpenedToBeLookedAt) {
     const QString file = app.savedLogbook(QStringLiteral("dives.carnet"), 2);
     FileLock other(file);

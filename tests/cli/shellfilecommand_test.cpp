@@ -68,11 +68,13 @@ TEST_F(ShellFiles, completeCommandsOptionsAndChoices) {
 
 TEST_F(ShellFiles, describeEveryCommand) {
     const QString page = QString::fromStdString(manualPage(app));
+    const char* draw =
+        ".SS \\&some\\-program draw [\\-\\-what table|card] [\\-\\-size VALUE] [\\-\\-json] FILE [ROW...]\n\\&Draws "
+        "it\n";
     for (const char* lines : {
              ".TH \\&SOME\\-PROGRAM 1\n",
              ".SH NAME\n\\&some\\-program \\- \\&The program's own words \\- and more\n",
-             ".SS \\&some\\-program draw [\\-\\-what table|card] [\\-\\-size VALUE] [\\-\\-json] FILE [ROW...]\n"
-             "\\&Draws it\n",
+             draw,
              ".TP\n.B \\&\\-w, \\-\\-what table|card\n\\&The part\n",
              ".TP\n.B \\&\\-\\-size VALUE\n\\&In points, \\en\n",
              ".TP\n.B \\&ROW\n\\&Which rows\n",

@@ -61,7 +61,7 @@ struct FormStateTest : testing::Test {
     }
 
     TestDesktop desktop_;
-    const LoanControls controls_;
+    LoanControls controls_;
     FormState<LoanControls> state_{controls_};
 };
 

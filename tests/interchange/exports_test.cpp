@@ -59,7 +59,7 @@ std::string laidOut(const std::string& elements) {
         const QString line = match.captured();
         const bool ends = line.startsWith(u"</");
         depth -= ends ? 1 : 0;
-        lines += QString(2 * depth, u' ') + line + u'\n';
+        lines += QString(qsizetype{2} * depth, u' ') + line + u'\n';
         const bool isWhole = match.capturedLength(1) > 0 || line.endsWith(u"/>") || line[1] == u'!' || line[1] == u'?';
         depth += ends || isWhole ? 0 : 1;
     }

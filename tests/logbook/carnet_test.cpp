@@ -1,5 +1,6 @@
 #include "logbook/carnet.h"
 
+#include "book/bookfilter.h"
 #include "book/booktable.h"
 #include "logbook/divecolumns.h"
 #include "support/records.h"
@@ -160,6 +161,69 @@ TEST_F(CarnetTest, aSiteDivedBeforeFillsWhatIsEmpty) {
     desktop.alerts.answerNext(1);
     carnet.form().endEditing(controls.siteField.index);
     EXPECT_EQ(shown(controls.lieuField), QString());
+}
+
+TEST_F(CarnetTest, whatIsTypedIntoAStoredDiveGoesIntoThatDive) {
+    holdNumbers({43, 42, 41});
+    carnet.selectRows({0});
+    desktop.alerts.answerNext(0);
+    carnet.deleteDive();
+    carnet.selectRows({0});
+    type(controls.lieuField, "Nice");
+    carnet.undoStack().undo();
+    EXPECT_EQ(carnet.selectedRows(), (QList<int>{1})) << "the dive in the form has moved";
+    ASSERT_TRUE(carnet.closeEditWindow());
+    EXPECT_EQ(numbers(), (QList<int>{43, 42, 41}));
+    EXPECT_EQ(carnet.record(0).lieu + u'|' + carnet.record(1).lieu, u"|Nice");
+
+    // It stays when others are shown, hidden and sorted, and where its row goes.
+    carnet.selectRows({0, 1});
+    type(controls.paysField, "France");
+    carnet.filter().setText(QStringLiteral("43"));
+    carnet.sortBy(QStringLiteral("noPlongee"));
+    carnet.sortBy(QStringLiteral("noPlongee"));
+    carnet.deselectAll();
+    EXPECT_EQ(shown("noPlongeeField paysField"), u"42|France");
+    carnet.updateDive();
+    EXPECT_EQ(carnet.record(1).noPlongee, 42);
+    EXPECT_EQ(carnet.record(1).pays, u"France");
+
+    // The dive that it was typed into is taken back: what was typed is a new one.
+    carnet.addDive();
+    carnet.selectRows({3});
+    type(controls.paysField, "Malta");
+    carnet.undoStack().undo();
+    EXPECT_EQ(carnet.shownRow(), -1);
+    EXPECT_TRUE(carnet.hasEntries());
+    EXPECT_EQ(shown(controls.paysField), u"Malta");
+}
+
+TEST_F(CarnetTest, whatIsTypedForANewDiveStaysWhateverIsSelected) {
+    holdNumbers({3, 2, 1});
+    carnet.selectRows({0, 2});
+    carnet.newDive();
+    type(controls.lieuField, "Nice");
+    carnet.sortBy(QStringLiteral("noPlongee"));
+    carnet.sortBy(QStringLiteral("noPlongee"));
+    carnet.filter().setText(QStringLiteral("3"));
+    carnet.appendDives(QStringLiteral("Import"), std::vector<Plongee>(1));
+    carnet.selectRows({0, 3});
+    carnet.undoStack().undo();
+    EXPECT_EQ(shown(controls.lieuField), u"Nice");
+    EXPECT_EQ(carnet.shownRow(), -1);
+}
+
+TEST_F(CarnetTest, theFilterTakesWhatStandsForNoneForNone) {
+    hold(
+        {filled<Plongee>("tempEau=-50|tempAir=-50|coeff=0"), filled<Plongee>("tempEau=5|tempAir=-50|coeff=80|pmBm=1")});
+    const auto found = [&](const char* typed) {
+        carnet.filter().setText(QString::fromUtf8(typed));
+        return carnet.filter().shownRows();
+    };
+    EXPECT_EQ(found("watertemperature<10"), (std::vector{1}));
+    EXPECT_EQ(found("-50"), std::vector<int>());
+    EXPECT_EQ(found("tide<50"), std::vector<int>()) << "the coefficient, not the choice beside it";
+    EXPECT_EQ(found("tide>50"), (std::vector{1}));
 }
 
 TEST_F(CarnetTest, aNewDiveStartsFromTheLastWhenAsked) {

@@ -53,11 +53,10 @@ TEST_P(RecordBook, givesItsBytesBack) {
     const QByteArray written = writeRecords({distinctRecord(GetParam()), layout.make()}, layout);
     ASSERT_TRUE(book->loadDataRepresentation(written, book->type()));
     ASSERT_EQ(book->count(), 2);
-    const auto items = archivedItems(GetParam());
-    for (std::size_t place = 0; place < items.size(); ++place) {
-        const Field field = layout.field(std::string_view(items[place].field));
-        const Field source = layout.field(std::string_view(items[place].source));
-        EXPECT_TRUE(field.value(*book->recordAt(0)) == source.value(*distinctRecord(GetParam()))) << items[place].field;
+    for (const auto& item : archivedItems(GetParam())) {
+        const Field field = layout.field(std::string_view(item.field));
+        const Field source = layout.field(std::string_view(item.source));
+        EXPECT_TRUE(field.value(*book->recordAt(0)) == source.value(*distinctRecord(GetParam()))) << item.field;
     }
     // A doubled slot settles with the first reading.
     const auto again = book->dataRepresentationOfType(book->type());

@@ -70,7 +70,7 @@ TEST_F(EquipmentFilterTest, findsAllWordsInAnyFieldAsTheUserSeesIt) {
 
 TEST_F(EquipmentFilterTest, asksOneFieldByItsKeyOrItsWordsCutShort) {
     EXPECT_EQ(shown("notesMatos:tank"), (std::vector{2}));
-    EXPECT_EQ(shown("Remarks:12"), none) << "the remarks have no words of their own in the form";
+    EXPECT_EQ(shown("Remarks:12"), (std::vector{2})) << "by the words of the group that the remarks fill";
     EXPECT_EQ(shown("type:tank"), (std::vector{0}));
     EXPECT_EQ(shown("purchasedate:2016"), (std::vector{0}));
     EXPECT_EQ(shown("purch:2016 type:t"), (std::vector{0}));
@@ -87,6 +87,7 @@ TEST_F(EquipmentFilterTest, comparesNumbersDaysAndSwitches) {
     EXPECT_EQ(shown("quantity>=2 quantity<30"), (std::vector{1}));
     EXPECT_EQ(shown("quantity≤2"), (std::vector{0, 1}));
     EXPECT_EQ(shown("quantity=30"), (std::vector{2}));
+    EXPECT_EQ(shown("tank quantity > 1"), (std::vector{2})) << "with blanks around the sign";
     EXPECT_EQ(shown("capacity=12,2"), (std::vector{0})) << "as the field holds it, decimal comma or point";
     EXPECT_EQ(shown("price<10"), (std::vector{1})) << "a number kept as typed; texts without one never";
     EXPECT_EQ(shown("purchasedate>2016"), (std::vector{1}));

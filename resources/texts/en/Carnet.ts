@@ -68,7 +68,7 @@
 <message><source>Convert altitudes</source><translation>Dives with an altitude beyond 4000 afterwards: %d. When such a dive is edited, the form sets its altitude to 0.</translation></message>
 <message><source>Convert depth now</source><translation>Depth now</translation></message>
 <message><source>Convert depth then</source><translation>Depth then</translation></message>
-<message><source>Convert explanation</source><translation>The depths, stops, altitudes, temperatures and profiles of all dives are calculated anew and stored. Pressures, volumes and weights stay as they are. Undo takes it back.</translation></message>
+<message><source>Convert explanation</source><translation>The depths, stops, altitudes, temperatures and profiles of all dives are calculated anew and stored. Pressures, volumes and weights stay as they are. Undo takes it back. Which units stand beside the numbers is chosen under Preferences &gt; General.</translation></message>
 <message><source>Convert first dives</source><translation>The first %d of %d dives</translation></message>
 <message><source>Convert preview</source><translation>Dives before and after</translation></message>
 <message><source>Convert title</source><translation>Convert units</translation></message>
@@ -257,6 +257,7 @@
 <message><source>Low tide</source><translation>Low tide</translation></message>
 <message><source>Max and average depth</source><translation>Maximum depth %.1f m, average %.1f m</translation></message>
 <message><source>Medium</source><translation>Medium</translation></message>
+<message><source>Menu card</source><translation>Summary Card…</translation></message>
 <message><source>Menu consumption</source><translation>Gas Consumption…</translation></message>
 <message><source>Menu delete dives</source><translation>Delete Dives…</translation></message>
 <message><source>Menu dive</source><translation>Dive</translation></message>

@@ -166,7 +166,8 @@
 <message><source>No such value</source><translation>“%@” cannot be “%@”.</translation></message>
 <message><source>No valid datas</source><translation>The values are not valid.</translation></message>
 <message><source>Not a picture format</source><translation>“%@” does not end in .png, .svg or .pdf.</translation></message>
-<message><source>Nothing matches</source><translation>No card matches the filter.\nEscape in its field shows all of them again.</translation></message>
+<message><source>Nothing matches</source><translation>Nothing matches the filter.
+Escape in its field shows everything again.</translation></message>
 <message><source>One card</source><translation>One card</translation></message>
 <message><source>One card found</source><translation>1 card found</translation></message>
 <message><source>One intervention</source><translation>One intervention</translation></message>

@@ -68,7 +68,7 @@
 <message><source>Convert altitudes</source><translation>Plongées dont l’altitude dépasse alors 4000 : %d. Si l’une d’elles est modifiée, le formulaire remet son altitude à 0.</translation></message>
 <message><source>Convert depth now</source><translation>Prof. actuelle</translation></message>
 <message><source>Convert depth then</source><translation>Prof. ensuite</translation></message>
-<message><source>Convert explanation</source><translation>Les profondeurs, paliers, altitudes, températures et profils de toutes les plongées sont recalculés et enregistrés. Pressions, volumes et poids restent tels quels. Annuler rétablit les valeurs.</translation></message>
+<message><source>Convert explanation</source><translation>Les profondeurs, paliers, altitudes, températures et profils de toutes les plongées sont recalculés et enregistrés. Pressions, volumes et poids restent tels quels. Annuler rétablit les valeurs. Les unités affichées à côté des nombres se choisissent dans Préférences &gt; Général.</translation></message>
 <message><source>Convert first dives</source><translation>Les %d premières plongées sur %d</translation></message>
 <message><source>Convert preview</source><translation>Plongées avant et après</translation></message>
 <message><source>Convert title</source><translation>Convertir les unités</translation></message>
@@ -257,6 +257,7 @@
 <message><source>Low tide</source><translation>Basse mer</translation></message>
 <message><source>Max and average depth</source><translation>Profondeur maximale %.1f m, moyenne %.1f m</translation></message>
 <message><source>Medium</source><translation>Moyenne</translation></message>
+<message><source>Menu card</source><translation>Fiche de synthèse…</translation></message>
 <message><source>Menu consumption</source><translation>Consommation de gaz…</translation></message>
 <message><source>Menu delete dives</source><translation>Supprimer les plongées…</translation></message>
 <message><source>Menu dive</source><translation>Plongée</translation></message>

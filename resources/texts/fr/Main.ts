@@ -166,7 +166,8 @@
 <message><source>No such value</source><translation>« %@ » ne peut pas valoir « %@ ».</translation></message>
 <message><source>No valid datas</source><translation>Les valeurs ne sont pas valables.</translation></message>
 <message><source>Not a picture format</source><translation>« %@ » ne se termine pas par .png, .svg ou .pdf.</translation></message>
-<message><source>Nothing matches</source><translation>Aucune fiche ne correspond au filtre.\nÉchap dans son champ les montre de nouveau toutes.</translation></message>
+<message><source>Nothing matches</source><translation>Rien ne correspond au filtre.
+Échap dans son champ montre de nouveau tout.</translation></message>
 <message><source>One card</source><translation>Une fiche</translation></message>
 <message><source>One card found</source><translation>1 fiche trouvée</translation></message>
 <message><source>One intervention</source><translation>Une intervention</translation></message>

@@ -15,6 +15,7 @@
 #include "desktop/ui/dialogalerts.h"
 #include "desktop/ui/filedialogs.h"
 #include "desktop/ui/icons.h"
+#include "desktop/ui/readablecolour.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -101,6 +102,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     setTextLanguage();
     nameApplication();
+    keepPlaceholdersReadable();
     QCommandLineParser parser;
     describe(parser);
     QStringList arguments;

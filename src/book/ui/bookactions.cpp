@@ -41,7 +41,7 @@ void BookActions::addBookCommands() {
         QKeySequence::Delete);
     addTool(QLatin1StringView(commands.blank), [this] {
         // What was typed for a new record goes, that is what the command is for; a stored one is asked about.
-        if (!book_.formShowsSelectedRecord() || book_.leaveForm(Leaving::elsewhere)) {
+        if (book_.shownRow() < 0 || book_.leaveForm(Leaving::elsewhere)) {
             book_.blankFields();
         }
     });
@@ -125,7 +125,7 @@ void BookActions::update() {
     }
     if (QAction* add = action(QLatin1StringView(book_.description().commands.addRecord))) {
         const ToolItem& item = *tool(add->objectName());
-        const bool addsSecond = book_.formShowsSelectedRecord();
+        const bool addsSecond = book_.shownRow() >= 0;
         add->setIconText(addsSecond ? text("Main", "Add second") : item.label.text());
         add->setToolTip(addsSecond ? text("Main", "Tip add second") : item.tip.text());
     }

@@ -164,7 +164,7 @@ void BookEditWindow::confirm() {
     if (!book_.hasEntries()) {
         return;
     }
-    if (book_.formShowsSelectedRecord()) {
+    if (book_.shownRow() >= 0) {
         book_.updateRecord();
     } else {
         book_.addRecord();
@@ -226,9 +226,8 @@ void BookEditWindow::updateTitle() {
 
 void BookEditWindow::updateState() {
     const BookWords& words = book_.description().words;
-    status_->setText(book_.formShowsSelectedRecord()
-                         ? textWith(words.formOfRecord, book_.selectedRow() + 1, book_.count())
-                         : words.formOfNew.text());
+    status_->setText(book_.shownRow() >= 0 ? textWith(words.formOfRecord, book_.shownRow() + 1, book_.count())
+                                           : words.formOfNew.text());
 }
 
 void BookEditWindow::closeEvent(QCloseEvent* event) {

@@ -24,7 +24,8 @@ public:
     AlertBox(Icon icon, const QString& message)
         : QMessageBox(icon, titleOf(printable(message)), printable(message), NoButton, QApplication::activeWindow()) {
         setTextFormat(Qt::PlainText);
-        setWindowModality(parentWidget() ? Qt::WindowModal : Qt::ApplicationModal);
+        // Form and table of a document are windows of their own: an answer is to what stood there when it was asked.
+        setWindowModality(Qt::ApplicationModal);
     }
 
     /// The format of the box is that of its first text only.

@@ -1,5 +1,9 @@
 #include "desktop/ui/readablecolour.h"
 
+#include <QApplication>
+#include <QEvent>
+#include <QPalette>
+
 #include <cmath>
 
 namespace tavrel {
@@ -14,7 +18,34 @@ double luminance(const QColor& color) {
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
+class PlaceholderColours : public QObject {
+public:
+    explicit PlaceholderColours(QObject* parent) : QObject(parent) { adopt(); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::ApplicationPaletteChange) {
+            adopt();
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    static void adopt() {
+        QPalette palette = QApplication::palette();
+        QColor wanted = palette.color(QPalette::Text);
+        wanted.setAlphaF(0.5F);
+        if (palette.color(QPalette::PlaceholderText) != wanted) {
+            palette.setColor(QPalette::PlaceholderText, wanted);  // the other roles stay the desktop's
+            QApplication::setPalette(palette);
+        }
+    }
+};
+
 }  // namespace
+
+void keepPlaceholdersReadable() {
+    qApp->installEventFilter(new PlaceholderColours(qApp));
+}
 
 QColor readableOn(const QColor& background, const QColor& color) {
     constexpr double middle = 0.18;  // the luminance on which black and white contrast alike

@@ -57,7 +57,10 @@ FormPages::FormPages(FormStateBase& state, Desktop& desktop, OwnList ownList, Hi
     for (int index = 0; index < static_cast<int>(controls.size()); ++index) {
         const Control& control = controls[static_cast<std::size_t>(index)].control;
         controls_.push_back(makeFormControl(state, index, listOf(control)));
-        connect(controls_.back().get(), &FormControl::editingFinished, this, &FormPages::editingFinished);
+        connect(controls_.back().get(), &FormControl::editingFinished, this, [this](int ended, const QString& typed) {
+            Q_EMIT editingFinished(ended, typed);
+            showHints();  // of what the form fills for itself then
+        });
         if (auto* combo = qobject_cast<ListCombo*>(controls_.back()->widget()); combo && heldTexts) {
             combo->proposeAlso([heldTexts, index] { return heldTexts(index); });
         }

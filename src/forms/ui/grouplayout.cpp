@@ -228,6 +228,10 @@ private:
             auto* caption = static_cast<QLabel*>(form(first).widget());
             caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
             caption->setBuddy(form(indexes[1]).widget());
+            for (const Title& words : control(first).captions) {  // nothing moves when the words change
+                caption->setMinimumWidth(
+                    std::max(caption->minimumWidth(), caption->fontMetrics().horizontalAdvance(words.text())));
+            }
             result_.grid->addWidget(caption, row, labelColumn(pair));
             indexes.erase(indexes.begin());
         } else if (control(first).kind != ControlKind::button && !control(first).label.isEmpty()) {

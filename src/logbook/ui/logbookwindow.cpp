@@ -28,6 +28,7 @@ LogbookWindow::LogbookWindow(Carnet& carnet, Desktop& desktop)
       panes_(new QSplitter(Qt::Vertical)),
       details_(new DiveDetails(desktop)) {
     addDetails();
+    actions().action(QStringLiteral("synthese"))->setText(text("Carnet", "Menu card"));
     connect(&carnet, &Carnet::renumberWindowRequested, this, [this] { renumberWindow().bringToFront(); });
     connect(&carnet, &Carnet::listChanged, this, &LogbookWindow::showSelectedDive);
     connect(&carnet, &Carnet::selectionChanged, this, &LogbookWindow::showSelectedDive);
@@ -55,6 +56,17 @@ void LogbookWindow::addDetails() {
                       BookActions::always, [this] { details_->setVisible(detailsShown_->isChecked()); });
     detailsShown_->setCheckable(true);
     restoreDetails();
+}
+
+std::optional<Entries> LogbookWindow::askAboutEntries(Settling next) {
+    return profile_->settleEditor() ? BookWindow::askAboutEntries(next) : std::nullopt;
+}
+
+void LogbookWindow::settleEntries(Entries entries) {
+    if (entries == Entries::dropped) {
+        profile_->discardEditor();
+    }
+    BookWindow::settleEntries(entries);
 }
 
 void LogbookWindow::restoreDetails() {

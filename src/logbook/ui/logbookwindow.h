@@ -33,6 +33,9 @@ public:
     DiveDetails& details() { return *details_; }
     /// Asks of which dives, then shows their card.
     void showCard() override;
+    /// The series typed into the profile's editor are entries too.
+    std::optional<Entries> askAboutEntries(Settling next) override;
+    void settleEntries(Entries entries) override;
 
     QList<QAction*> ownMenuActions() override;
     QList<QAction*> viewActions() override;

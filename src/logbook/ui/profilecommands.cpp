@@ -60,7 +60,7 @@ ProfileWindow& ProfileCommands::profileWindow() {
 
 ProfileEditorWindow& ProfileCommands::editorWindow() {
     if (!editorWindow_) {
-        editorWindow_ = std::make_unique<ProfileEditorWindow>(desktop_.preferences);
+        editorWindow_ = std::make_unique<ProfileEditorWindow>(desktop_);
         connect(editorWindow_.get(), &ProfileEditorWindow::importRequested, this, [this](const SeriesTexts& texts) {
             importProfil(carnet_, texts);
             editorWindow_->updateProfilInfo(carnet_.form().profile(), numberIn(carnet_.form()));
@@ -75,8 +75,22 @@ void ProfileCommands::displayProfilWindow() {
 }
 
 void ProfileCommands::profilInfo() {
-    editorWindow().updateProfilInfo(carnet_.form().profile(), numberIn(carnet_.form()));
+    if (editorWindow().isVisible()) {
+        refresh();  // what was typed stays
+    } else {
+        editorWindow_->updateProfilInfo(carnet_.form().profile(), numberIn(carnet_.form()));
+    }
     bringToFront(editorWindow_.get());
+}
+
+bool ProfileCommands::settleEditor() {
+    return !editorWindow_ || editorWindow_->settle();
+}
+
+void ProfileCommands::discardEditor() {
+    if (editorWindow_) {
+        editorWindow_->discard();
+    }
 }
 
 QList<QWidget*> ProfileCommands::windows() const {

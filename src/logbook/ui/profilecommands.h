@@ -31,6 +31,9 @@ public:
 
     void displayProfilWindow();
     void profilInfo();
+    /// Asks about series typed into the editor, as ProfileEditorWindow::settle(); true where none are.
+    bool settleEditor();
+    void discardEditor();
 
     ProfileWindow& profileWindow();
     ProfileEditorWindow& editorWindow();

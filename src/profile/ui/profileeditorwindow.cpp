@@ -1,11 +1,14 @@
 #include "profile/ui/profileeditorwindow.h"
 
+#include "desktop/alerts.h"
+#include "desktop/desktop.h"
 #include "desktop/ui/fittedtoscreen.h"
 #include "desktop/ui/fixedpitch.h"
 #include "desktop/ui/keptframe.h"
 
 #include <QAction>
 #include <QCheckBox>
+#include <QCloseEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -17,8 +20,8 @@
 
 namespace tavrel {
 
-ProfileEditorWindow::ProfileEditorWindow(Preferences& preferences)
-    : eraseAllSwitch_(new QCheckBox(text("Profil", "Replace all"))) {
+ProfileEditorWindow::ProfileEditorWindow(Desktop& desktop)
+    : desktop_(desktop), eraseAllSwitch_(new QCheckBox(text("Profil", "Replace all"))) {
     setObjectName(QStringLiteral("editProfilWindow"));
     eraseAllSwitch_->setObjectName(QStringLiteral("eraseAllSwitch"));
     eraseAllSwitch_->setToolTip(text("Profil", "Tip replace all"));
@@ -63,7 +66,7 @@ ProfileEditorWindow::ProfileEditorWindow(Preferences& preferences)
     layout->addLayout(bottom);
     resize(1040, 560);
     fitToScreen(*this);
-    new KeptFrame(*this, preferences, QStringLiteral("editProfil"));
+    new KeptFrame(*this, desktop.preferences, QStringLiteral("editProfil"));
 }
 
 ProfileEditorWindow::Column ProfileEditorWindow::newColumn(const EditedSeries& edited) {
@@ -144,6 +147,26 @@ void ProfileEditorWindow::toggleAll(bool on) {
     } else {
         showTexts();
     }
+}
+
+bool ProfileEditorWindow::settle() {
+    if (!isVisible() || !anyMarked()) {
+        return true;
+    }
+    enum Answer { take, drop };
+    const int answer =
+        desktop_.alerts.ask(tavrel::text("Profil", "Import question"),
+                            {tavrel::text("Profil", "Import series"), tavrel::text("Main", "Discard"), tavrel::text("Main", "Cancel")});
+    if (answer == take) {
+        Q_EMIT importRequested(chosenTexts());
+    } else if (answer == drop) {
+        showTexts();
+    }
+    return answer == take || answer == drop;
+}
+
+void ProfileEditorWindow::closeEvent(QCloseEvent* event) {
+    event->setAccepted(settle());
 }
 
 SeriesTexts ProfileEditorWindow::chosenTexts() const {

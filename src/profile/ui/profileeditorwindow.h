@@ -12,7 +12,7 @@ class QPlainTextEdit;
 
 namespace tavrel {
 
-class Preferences;
+struct Desktop;
 
 /// The editor of a profile's series: each as a text, with the count of its elements and a switch; importing replaces
 /// those series whose switch is on by what their text holds.
@@ -20,7 +20,7 @@ class ProfileEditorWindow : public QWidget {
     Q_OBJECT
 
 public:
-    explicit ProfileEditorWindow(Preferences& preferences);
+    explicit ProfileEditorWindow(Desktop& desktop);
 
     /// Shows the series of a dive, all switches off.
     void updateProfilInfo(const ProfileSeries& profile, qint32 diveNumber);
@@ -28,11 +28,18 @@ public:
     void followDive(const ProfileSeries& profile, qint32 diveNumber);
     /// Empties all texts and turns all switches on.
     void selectAllSwitches();
+    /// Asks what is to become of marked texts: imported, discarded, or kept by a user who cancels. False for the last.
+    bool settle();
+    /// Shows the dive's own series again.
+    void discard() { showTexts(); }
     /// The texts of the series whose switch is on.
     SeriesTexts chosenTexts() const;
 
 Q_SIGNALS:
     void importRequested(const tavrel::SeriesTexts& texts);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     struct Column {
@@ -49,6 +56,7 @@ private:
     bool anyMarked() const;
     void toggleAll(bool on);
 
+    Desktop& desktop_;
     ProfileSeries shown_;
     qint32 diveNumber_ = 0;
     std::array<Column, editedSeries.size()> columns_;

@@ -1,5 +1,8 @@
 #include "desktop/ui/fittedtoscreen.h"
 
+#include "desktop/ui/readablecolour.h"
+
+#include <QApplication>
 #include <QLabel>
 #include <QScreen>
 #include <QScrollArea>
@@ -25,6 +28,19 @@ TEST(FittedToScreen, scrollsOnlyWhatIsLargerThanTheScreen) {
         EXPECT_TRUE(window.isAncestorOf(contents));
         EXPECT_EQ(window.findChild<QScrollArea*>() != nullptr, height > room);
     }
+}
+
+TEST(Placeholders, areReadOnAnyBase) {
+    const QPalette before = QApplication::palette();
+    QPalette dark = before;
+    dark.setColor(QPalette::Base, QColor(35, 38, 41));
+    dark.setColor(QPalette::Text, QColor(252, 252, 252));
+    dark.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
+    keepPlaceholdersReadable();
+    QApplication::setPalette(dark);
+    EXPECT_EQ(QApplication::palette().color(QPalette::PlaceholderText).lightness(), 252);
+    EXPECT_EQ(QApplication::palette().color(QPalette::PlaceholderText).alpha(), 128);
+    QApplication::setPalette(before);
 }
 
 }  // namespace

@@ -6,13 +6,16 @@
 #include "book/ui/booktableview.h"
 #include "logbook/ui/convertunitswindow.h"
 #include "logbook/ui/divedetails.h"
+#include "logbook/ui/profilecommands.h"
 #include "logbook/ui/renumberwindow.h"
 #include "profile/ui/profileview.h"
 #include "support/records.h"
 #include "support/testdesktop.h"
 
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
@@ -48,6 +51,47 @@ TEST_F(LogbookWindowTest, renumbersFromTheNumberGiven) {
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(carnet.record(2).noPlongee, 12);
     EXPECT_EQ(carnet.count(), 3);
+}
+
+TEST_F(LogbookWindowTest, showsAtOnceWhatASiteFills) {
+    carnet.appendDives(QStringLiteral("Add"), {filled<Plongee>("noPlongee=5|site=Arche|lieu=Nice")});
+    desktop.pickLists.append(PickList::tableauDesSites, QStringLiteral("Arche"));
+    carnet.newDive();
+    const auto* site = window.editWindow().findChild<QComboBox*>(QStringLiteral("siteField"));
+    QTest::keyClicks(site->lineEdit(), QStringLiteral("Arche"));
+    Q_EMIT site->lineEdit()->editingFinished();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window.editWindow().findChild<QLabel*>(QStringLiteral("siteFieldHint"))->text(),
+              u"From dive no. 5: Place");
+}
+
+TEST_F(LogbookWindowTest, asksAboutSeriesTypedIntoTheEditor) {
+    carnet.appendDives(QStringLiteral("Add"), {filled<Plongee>("noPlongee=5")});
+    carnet.selectRows({0});
+    window.profileCommands().profilInfo();
+    QWidget* editor = nullptr;
+    for (QWidget* each : window.profileCommands().windows()) {
+        editor = each->objectName() == u"editProfilWindow" ? each : editor;
+    }
+    ASSERT_TRUE(editor);
+    auto* depths = editor->findChild<QPlainTextEdit*>(QStringLiteral("importProfondeurField"));
+    const auto typeThenAnswer = [&](int answer) {
+        QTest::keyClicks(depths, QStringLiteral("9"));
+        desktop.alerts.answerNext(answer);
+    };
+    enum { import, discard, cancel };
+    typeThenAnswer(cancel);
+    EXPECT_FALSE(editor->close());
+    EXPECT_TRUE(depths->toPlainText().contains(u'9'));
+    desktop.alerts.answerNext(cancel);
+    EXPECT_FALSE(window.leaveEditing(Settling::leaving));
+    desktop.alerts.answerNext(discard);
+    EXPECT_TRUE(editor->close());
+    EXPECT_EQ(depths->toPlainText(), QString());
+    window.profileCommands().profilInfo();
+    typeThenAnswer(import);
+    EXPECT_TRUE(window.leaveEditing(Settling::leaving));
+    EXPECT_EQ(carnet.record(0).profilProfondeur.real(0), 9);
 }
 
 TEST_F(LogbookWindowTest, showsWhatBecomesOfTheDivesBeforeItConvertsThem) {

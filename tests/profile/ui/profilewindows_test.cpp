@@ -96,7 +96,7 @@ TEST(ProfileWindow, marksSamplesByPointerAndKeys) {
 }
 
 struct ProfileEditorTest : testing::Test {
-    ProfileEditorTest() : window(desktop.preferences) {
+    ProfileEditorTest() : window(desktop.desktop()) {
         profile.profilProfondeur = Series::ofReals({0, 5.5, 12});
         profile.SLOW_Flag = Series::ofIntegers({0, 1, 0});
         profile.profilArraysDefaultContent();
