@@ -10,7 +10,10 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <deque>
 #include <fcntl.h>
+#include <memory>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -65,27 +68,108 @@ bool mayWriteInPlace(int error) {
     return error != ENOSPC && error != EDQUOT && error != EIO && error != EFBIG;
 }
 
-enum class Attempt { done, failed, unlinkable };
+/// New contents on their way into a file's place, in two steps, so that several files can take each together.
+class Replacement {
+public:
+    Replacement(const QString& path, QByteArrayView bytes) : path_(path), bytes_(bytes) {}
 
-/// Fills a file and puts it in the target's place. `unlinkable`: it was filled without a name and cannot get one.
-Attempt writeBeside(const QByteArray& target, QByteArrayView bytes, const struct stat* old, bool named,
-                    struct stat& written) {
-    FileBeside beside(target);
-    if (!beside.create(named)) {
-        return named ? Attempt::failed : Attempt::unlinkable;
+    /// Fills a file beside: what fails for want of room or rights fails here, but for a file to be written in place.
+    Expected<void> fill() {
+        target_ = resolvedPath(pathBytes(path_));
+        exists_ = !target_.isEmpty() && ::stat(target_.constData(), &old_) == 0;
+        if (target_.isEmpty() || (!exists_ && errno != ENOENT)) {
+            return failed();
+        }
+        if (exists_ && S_ISDIR(old_.st_mode)) {
+            return tl::unexpected(writeFailure(EISDIR, path_));
+        }
+        if (exists_ && !S_ISREG(old_.st_mode)) {
+            return tl::unexpected(savingFailure(path_, {text("Main", "File is not regular"), shownPath(path_)}));
+        }
+        // Renaming would replace a file that its owner has protected.
+        if (exists_ && ::access(target_.constData(), W_OK) != 0) {
+            return failed();
+        }
+        if (!fillBeside(false) && (beside_ || !fillBeside(true))) {
+            beside_.reset();
+            error_ = errno;
+            return mayGoInPlace() ? Expected<void>() : failed();
+        }
+        return {};
     }
-    if (!beside.write(bytes) || !(old ? beside.takeAttributesOf(target, *old) : beside.takeUsualMode()) ||
-        !beside.flush()) {
-        return Attempt::failed;
+
+    /// Gives the status of the file, empty where that cannot be told.
+    Expected<struct stat> replace() {
+        struct stat written {};
+        if (beside_) {
+            if (putInPlace()) {
+                if (!beside_->status(written)) {
+                    written = {};
+                }
+                return written;
+            }
+            error_ = errno;
+        }
+        QByteArray copyLeft;
+        errno = error_;
+        if (!mayGoInPlace() || !writeInPlace(target_, bytes_, written, copyLeft)) {
+            Failure reason = writeFailure(errno, path_);
+            if (!copyLeft.isEmpty()) {
+                reason.detail += u'\n' + textWith("Main", "Copy kept", shownPath(pathFromBytes(copyLeft)));
+            }
+            return tl::unexpected(std::move(reason));
+        }
+        return written;
     }
-    if (!beside.replaceTarget()) {
-        return named || beside.isNamed() ? Attempt::failed : Attempt::unlinkable;
+
+private:
+    tl::unexpected<Failure> failed() const { return tl::unexpected(writeFailure(errno, path_)); }
+    bool mayGoInPlace() const { return exists_ && mayWriteInPlace(errno); }
+
+    /// Leaves no file beside where none without a name can be made.
+    bool fillBeside(bool named) {
+        beside_ = std::make_unique<FileBeside>(target_);
+        if (!beside_->create(named)) {
+            beside_.reset();
+            return false;
+        }
+        return beside_->write(bytes_) &&
+               (exists_ ? beside_->takeAttributesOf(target_, old_) : beside_->takeUsualMode()) && beside_->flush();
     }
-    if (!beside.status(written)) {
-        written = {};
+
+    /// A file that was filled without a name and cannot get one is filled again with one.
+    bool putInPlace() {
+        return beside_->replaceTarget() || (!beside_->isNamed() && fillBeside(true) && beside_->replaceTarget());
     }
-    return Attempt::done;
-}
+
+    QString path_;
+    QByteArrayView bytes_;
+    QByteArray target_;
+    struct stat old_ {};
+    bool exists_ = false;
+    std::unique_ptr<FileBeside> beside_;  ///< null for a file to be written in place
+    int error_ = 0;                       ///< why it is
+};
+
+/// Lets the program have so many files open beside its others, as far as the system lets it.
+class OpenFiles {
+public:
+    explicit OpenFiles(std::size_t count) {
+        constexpr rlim_t others = 256;
+        if (::getrlimit(RLIMIT_NOFILE, &usual_) == 0 && usual_.rlim_cur < count + others) {
+            struct rlimit more = usual_;
+            more.rlim_cur = std::min<rlim_t>(count + others, usual_.rlim_max);
+            isRaised_ = ::setrlimit(RLIMIT_NOFILE, &more) == 0;
+        }
+    }
+    OpenFiles(const OpenFiles&) = delete;
+    OpenFiles& operator=(const OpenFiles&) = delete;
+    ~OpenFiles() { isRaised_ ? ::setrlimit(RLIMIT_NOFILE, &usual_) : 0; }
+
+private:
+    struct rlimit usual_ {};
+    bool isRaised_ = false;
+};
 
 }  // namespace
 
@@ -145,39 +229,27 @@ Expected<void> writeFile(const QString& path, QByteArrayView bytes) {
 }
 
 Expected<FileIdentity> replaceFile(const QString& path, QByteArrayView bytes) {
-    const QByteArray target = resolvedPath(pathBytes(path));
-    struct stat old {};
-    const bool exists = !target.isEmpty() && ::stat(target.constData(), &old) == 0;
-    if (target.isEmpty() || (!exists && errno != ENOENT)) {
-        return tl::unexpected(writeFailure(errno, path));
-    }
-    if (exists && S_ISDIR(old.st_mode)) {
-        return tl::unexpected(writeFailure(EISDIR, path));
-    }
-    if (exists && !S_ISREG(old.st_mode)) {
-        return tl::unexpected(savingFailure(path, {text("Main", "File is not regular"), shownPath(path)}));
-    }
-    // Renaming would replace a file that its owner has protected.
-    if (exists && ::access(target.constData(), W_OK) != 0) {
-        return tl::unexpected(writeFailure(errno, path));
-    }
+    Replacement replacement(path, bytes);
     auto hash = contentHashAside(bytes);
-    struct stat written {};
-    Attempt attempt = writeBeside(target, bytes, exists ? &old : nullptr, false, written);
-    if (attempt == Attempt::unlinkable) {
-        attempt = writeBeside(target, bytes, exists ? &old : nullptr, true, written);
-    }
-    if (attempt != Attempt::done) {
-        QByteArray copyLeft;
-        if (!exists || !mayWriteInPlace(errno) || !writeInPlace(target, bytes, written, copyLeft)) {
-            Failure reason = writeFailure(errno, path);
-            if (!copyLeft.isEmpty()) {
-                reason.detail += u'\n' + textWith("Main", "Copy kept", shownPath(pathFromBytes(copyLeft)));
-            }
-            return tl::unexpected(std::move(reason));
+    return replacement.fill().and_then([&] { return replacement.replace(); }).map([&](const struct stat& written) {
+        return FileIdentity(written, bytes.size(), hash.get());
+    });
+}
+
+Expected<void> writeFiles(const std::vector<FileContents>& files) {
+    const OpenFiles room(files.size());
+    std::deque<Replacement> replacements;
+    for (const FileContents& file : files) {
+        if (auto filled = replacements.emplace_back(file.path, file.bytes).fill(); !filled) {
+            return filled;
         }
     }
-    return FileIdentity(written, bytes.size(), hash.get());
+    for (Replacement& each : replacements) {
+        if (const auto replaced = each.replace(); !replaced) {
+            return tl::unexpected(replaced.error());
+        }
+    }
+    return {};
 }
 
 Expected<void> writePrivateFile(const QString& path, QByteArrayView bytes) {
@@ -200,6 +272,13 @@ Expected<void> copyFile(const QString& path, const QString& copy) {
         return tl::unexpected(writeFailure(errno, copy));
     }
     return {};
+}
+
+bool isSameFile(const QString& path, const QString& other) {
+    struct stat one {};
+    struct stat two {};
+    return ::stat(pathBytes(path).constData(), &one) == 0 && ::stat(pathBytes(other).constData(), &two) == 0 &&
+           one.st_dev == two.st_dev && one.st_ino == two.st_ino;
 }
 
 bool isOutlet(const QString& path) {

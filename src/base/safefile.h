@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <sys/stat.h>
+#include <vector>
 
 namespace tavrel {
 
@@ -32,6 +33,13 @@ Expected<void> writeFile(const QString& path, QByteArrayView bytes);
 /// The same, for those who will want to know what becomes of the file.
 Expected<FileIdentity> replaceFile(const QString& path, QByteArrayView bytes);
 
+struct FileContents {
+    QString path;
+    QByteArray bytes;
+};
+/// The same for files that belong together: none takes its place before all are filled.
+Expected<void> writeFiles(const std::vector<FileContents>& files);
+
 /// The same for a file that the program keeps for itself: readable by the user alone.
 Expected<void> writePrivateFile(const QString& path, QByteArrayView bytes);
 
@@ -39,6 +47,8 @@ Expected<void> writePrivateFile(const QString& path, QByteArrayView bytes);
 /// the other name.
 Expected<void> copyFile(const QString& path, const QString& copy);
 
+/// Whether both paths mean one existing file, whatever links lead to it.
+bool isSameFile(const QString& path, const QString& other);
 /// Whether the path means something that bytes only pass through: a pipe, a terminal, an open file's number.
 bool isOutlet(const QString& path);
 /// Writes to such a thing.

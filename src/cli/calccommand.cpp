@@ -78,8 +78,16 @@ QString ppO2Choices() {
     return titles.join(QStringLiteral(", "));
 }
 
+/// The value that an option was given. One without would take the name of the next option for it, in silence.
+QString valueOf(const std::string& argument) {
+    if (argument.starts_with("--")) {
+        wrongUsage(textWith("Cli", "Option for value", fromArgument(argument)));
+    }
+    return fromArgument(argument);
+}
+
 double inputValue(const CalculatorInput& input, const std::string& argument) {
-    const QString value = fromArgument(argument);
+    const QString value = valueOf(argument);
     // The menu's items are a convenience of the window: here any partial pressure counts, and none is no choice.
     if (input.kind == CalculatorInputKind::PpO2Menu && !startsWithNumber(value)) {
         return ppO2OfMenuIndex(-1);
@@ -131,28 +139,23 @@ void addConversions(CLI::App& calc, Console& console) {
     };
     auto arguments = std::make_shared<Arguments>();
     CLI::App* command = addCalculator(calc, CalculatorId::Conversions);
-    QStringList names;
+    std::vector<std::string> names;
     for (const ConversionTab& tab : conversionTabs()) {
         for (const ConversionUnit& unit : tab.units) {
-            names << QLatin1StringView(unit.name);
+            names.emplace_back(unit.name);
         }
     }
-    const std::string known = names.join(QStringLiteral(", ")).toStdString();
-    const auto check = [known](const std::string& argument) {
-        return conversionUnit(fromArgument(argument)).tab ? std::string() : "not one of " + known;
-    };
-    command
-        ->add_option("--from", arguments->from, toArgument(textWith("Cli", "Unit of the value", fromArgument(known))))
+    command->add_option("--from", arguments->from, "The unit of the value")
         ->type_name("")
         ->required()
-        ->check(CLI::Validator(check, ""));
+        ->check(CLI::IsMember(names));
     command->add_option("--value", arguments->value, "The value")->type_name("");
     addJsonFlag(command, arguments->json);
     command->callback([&console, arguments] {
         const FoundUnit source = conversionUnit(fromArgument(arguments->from));
         const std::span<const ConversionUnit> units = source.tab->units;
         const std::vector<double> values =
-            source.tab->convert(units[source.position].tag, doubleValue(fromArgument(arguments->value)));
+            source.tab->convert(units[source.position].tag, doubleValue(valueOf(arguments->value)));
         JsonWriter json;
         json.beginObject();
         for (std::size_t unit = 0; unit < units.size(); ++unit) {
@@ -183,8 +186,8 @@ void addCns(CLI::App& calc, Console& console) {
     command->add_option("--time", arguments->time, "Time, min")->type_name("NUMBER");
     addJsonFlag(command, arguments->json);
     command->callback([&console, arguments] {
-        const double ppO2 = doubleValue(fromArgument(arguments->ppO2));
-        const double percent = calculSncClock(ppO2, doubleValue(fromArgument(arguments->time)));
+        const double ppO2 = doubleValue(valueOf(arguments->ppO2));
+        const double percent = calculSncClock(ppO2, doubleValue(valueOf(arguments->time)));
         if (arguments->json) {
             JsonWriter json;
             json.beginObject();
@@ -231,7 +234,7 @@ QStringList angleParts(const QString& argument) {
 
 // What no field takes would be left out without a word, and the position be kilometres off.
 void checkAngle(const std::string& argument, bool sexagesimal) {
-    const QStringList parts = angleParts(fromArgument(argument));
+    const QStringList parts = angleParts(valueOf(argument));
     if (sexagesimal ? parts.size() > 3 : parts.size() > 1 && startsWithNumber(parts[1])) {
         const Title sentence = sexagesimal ? Title("Cli", "Not sexagesimal") : Title("Cli", "Not decimal degrees");
         wrongUsage(textWith(sentence, fromArgument(argument)));
@@ -260,7 +263,7 @@ constexpr const char* towardsWgs84 = "ed50-wgs84";
 void runSexagesimal(const GpsArguments& arguments, Console& console) {
     const SexagesimalConversion conversion =
         convertSexagesimal(angleOf(fromArgument(arguments.longitude)), angleOf(fromArgument(arguments.latitude)),
-                           doubleValue(fromArgument(arguments.altitude)));
+                           doubleValue(valueOf(arguments.altitude)));
     const GpsOutput output = outputOf(conversion);
     const QStringList report = reportLines(gpsReport(conversion));
     if (arguments.json) {
@@ -277,7 +280,7 @@ void runDecimal(const GpsArguments& arguments, Console& console) {
         arguments.direction == towardsEd50 ? DatumDirection::Wgs84ToEd50 : DatumDirection::Ed50ToWgs84;
     const DecimalConversion conversion = convertDecimal(
         direction, {doubleValue(fromArgument(arguments.longitude)), doubleValue(fromArgument(arguments.latitude)),
-                    doubleValue(fromArgument(arguments.altitude))});
+                    doubleValue(valueOf(arguments.altitude))});
     if (arguments.log) {
         for (const QString& line : conversion.log) {
             console.error << line.toStdString() << '\n';
@@ -324,7 +327,7 @@ void addGps(CLI::App& calc, Console& console) {
 
 void addCalcCommand(CLI::App& app, Console& console) {
     CLI::App* calc = app.add_subcommand("calc", "Diving calculators");
-    requireOneCommand(*calc, "A calculator");
+    requireOneCommand(*calc, {"Cli", "Calculator required"});
     for (const CalculatorPage& page : calculatorPages()) {
         addPage(*calc, page, console);
     }

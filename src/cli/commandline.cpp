@@ -1,7 +1,7 @@
 #include "cli/commandline.h"
 
 #include "base/printable.h"
-#include "base/texts.h"
+#include "cli/usageerrors.h"
 
 #include <CLI/CLI.hpp>
 
@@ -35,14 +35,14 @@ void fail(Console& console, const Failure& failure) {
 }
 
 void wrongUsage(const QString& sentence) {
-    throw CLI::ValidationError(toArgument(sentence));
+    throw CLI::ParseError(toArgument(sentence), exitWrongUsage);
 }
 
-void requireOneCommand(CLI::App& app, const char* what) {
+void requireOneCommand(CLI::App& app, const Title& sentence) {
     app.require_subcommand(0, 1);
-    app.final_callback([&app, what] {
+    app.final_callback([&app, sentence] {
         if (app.get_subcommands().empty()) {
-            throw CLI::RequiredError(what);
+            wrongUsage(text(sentence));
         }
     });
 }
@@ -139,7 +139,8 @@ void addRunOptions(CLI::App& app, Console& console) {
 }
 
 int runCommandLine(CLI::App& app, int argc, const char* const* argv, Console& console) {
-    requireOneCommand(app, "A command");
+    requireOneCommand(app, {"Cli", "Command required"});
+    app.failure_message(usageErrorText);
     try {
         app.parse(parserArguments(app, argc, argv));
     } catch (const CLI::ParseError& stopped) {

@@ -2,6 +2,7 @@
 
 #include "base/failure.h"
 #include "base/jsonwriter.h"
+#include "base/texts.h"
 
 #include <QDateTime>
 #include <QString>
@@ -49,9 +50,9 @@ void fail(Console& console, const Failure& failure);
 /// Leaves a command that was asked for something that does not exist; the program ends with exitWrongUsage.
 [[noreturn]] void wrongUsage(const QString& sentence);
 
-/// Requires one of the commands under this one, checked last, so that a misspelt command is named. `what` is for the
-/// message: "A command".
-void requireOneCommand(CLI::App& app, const char* what);
+/// Requires one of the commands under this one, checked last, so that a misspelt command is named. Without one the
+/// sentence is said.
+void requireOneCommand(CLI::App& app, const Title& sentence);
 
 /// Adds the options of all commands: --now and --preference.
 void addRunOptions(CLI::App& app, Console& console);

@@ -133,7 +133,13 @@ void runDelete(const DocumentArguments& arguments, Console& console) {
 
 void runRenumber(const DocumentArguments& arguments, Console& console) {
     changeFile(arguments, console, [&](Session& session) {
-        return session.logbook().map([&](Carnet* carnet) { carnet->renumDives(arguments.number); });
+        return session.logbook().and_then([&](Carnet* carnet) -> Expected<void> {
+            if (arguments.number > carnet->highestFirstNumber()) {
+                return failure(textWith("Cli", "First number too high", carnet->highestFirstNumber()));
+            }
+            carnet->renumDives(arguments.number);
+            return {};
+        });
     });
 }
 

@@ -40,11 +40,13 @@ void addPictureCommand(CLI::App& app, Console& console) {
         ->required();
     command->callback([arguments, &console] {
         Session session(console);
-        const auto done =
-            session.open(pathArgument(arguments->file))
-                .and_then([&] { return session.checkRow(arguments->row); })
-                .and_then([&] { return pictureAt(*session.book, arguments->row); })
-                .and_then([&](const Image& picture) { return writePicture(picture, pathArgument(arguments->target)); });
+        const auto done = session.open(pathArgument(arguments->file))
+                              .and_then([&] { return session.checkRow(arguments->row); })
+                              .and_then([&] { return pictureAt(*session.book, arguments->row); })
+                              .and_then([&](const Image& picture) {
+                                  const QString target = pathArgument(arguments->target);
+                                  return session.book->writeExport(target, pictureFile(picture, target));
+                              });
         if (!done) {
             fail(console, done.error());
         }

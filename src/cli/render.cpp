@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace tavrel {
 
@@ -66,12 +67,18 @@ Expected<Pages> graphPages(Session& session, const std::vector<int>&) {
 struct Rendering {
     const char* name;
     Expected<Pages> (*pages)(Session& session, const std::vector<int>& rows);
+    std::size_t mostRows = 0;
 };
 
 constexpr std::array all{
-    Rendering{"table", tablePages},  Rendering{"card", cardPages},        Rendering{"profile", profilePages},
-    Rendering{"graphs", graphPages}, Rendering{"stats", statisticsPages},
+    Rendering{"table", tablePages},        Rendering{"card", cardPages, std::numeric_limits<std::size_t>::max()},
+    Rendering{"profile", profilePages, 1}, Rendering{"graphs", graphPages},
+    Rendering{"stats", statisticsPages},
 };
+
+const Rendering& rendering(const std::string& what) {
+    return *std::find_if(all.begin(), all.end(), [&](const Rendering& each) { return each.name == what; });
+}
 
 }  // namespace
 
@@ -96,9 +103,12 @@ std::vector<std::string> renderings() {
     return names;
 }
 
+std::size_t mostRows(const std::string& what) {
+    return rendering(what).mostRows;
+}
+
 Expected<Pages> renderedPages(Session& session, const std::string& what, const std::vector<int>& rows) {
-    const auto found = std::find_if(all.begin(), all.end(), [&](const Rendering& each) { return each.name == what; });
-    return found->pages(session, rows);
+    return rendering(what).pages(session, rows);
 }
 
 }  // namespace tavrel

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <iterator>
 #include <memory>
 #include <sstream>
 
@@ -44,8 +45,8 @@ std::vector<std::string> choicesOf(const CLI::Option& option) {
     return CLI::detail::split(type.substr(open + 1, close - open - 1), ',');
 }
 
-bool takesValue(const CLI::Option& option) {
-    return option.get_items_expected_max() > 0;
+bool takesValue(const CLI::Option* option) {
+    return option->get_items_expected_max() > 0;
 }
 
 std::string joined(const std::vector<std::string>& words, const char* between) {
@@ -93,7 +94,7 @@ std::string synopsis(const CLI::App& app) {
         if (names.empty() || option == app.get_help_ptr()) {
             continue;
         }
-        const std::string one = names.back() + (takesValue(*option) ? ' ' + placeholder(*option) : std::string());
+        const std::string one = names.back() + (takesValue(option) ? ' ' + placeholder(*option) : std::string());
         words += option->get_required() ? ' ' + one : " [" + one + ']';
     }
     for (const CLI::Option* option : shown) {
@@ -110,7 +111,7 @@ void describeOptions(const CLI::App& app, std::ostream& out) {
     for (const CLI::Option* option : shownOptions(app)) {
         const auto names = namesOf(*option);
         const std::string name = names.empty() ? option->get_name(true) : joined(names, ", ");
-        const std::string value = !names.empty() && takesValue(*option) ? ' ' + placeholder(*option) : std::string();
+        const std::string value = !names.empty() && takesValue(option) ? ' ' + placeholder(*option) : std::string();
         out << ".TP\n.B " << roff(name + value) << '\n' << roff(option->get_description()) << '\n';
     }
 }
@@ -130,10 +131,15 @@ std::string bashCompletion(const CLI::App& app) {
             all.push_back(below->get_name());
             commands << "            " << quoted(path + ' ' + below->get_name()) << ") path+=\" $word\" ;;\n";
         }
-        for (const CLI::Option* option : shownOptions(command)) {
+        std::vector<const CLI::Option*> options = shownOptions(command);
+        if (&command != &app) {  // the program's own go behind any command, but for what ends it
+            const auto own = shownOptions(app);
+            std::copy_if(own.begin(), own.end(), std::back_inserter(options), takesValue);
+        }
+        for (const CLI::Option* option : options) {
             for (const std::string& name : namesOf(*option)) {
                 all.push_back(name);
-                if (takesValue(*option)) {
+                if (takesValue(option)) {
                     line(values, std::string(path).append(1, ' ').append(name), choicesOf(*option));
                 }
             }

@@ -239,9 +239,13 @@ void runRender(const ViewArguments& arguments, Console& console) {
         if (!pictureFormatOf(target)) {
             wrongUsage(text("Cli", "Picture endings"));
         }
-        return renderedPages(session, arguments.what, arguments.rows).and_then([&](const Pages& pages) {
-            return writePages(target, pages);
-        });
+        if (const std::size_t most = mostRows(arguments.what); arguments.rows.size() > most) {
+            wrongUsage(textWith(most == 0 ? Title("Cli", "Drawn without rows") : Title("Cli", "Drawn of one row"),
+                                fromArgument(arguments.what)));
+        }
+        return renderedPages(session, arguments.what, arguments.rows)
+            .and_then([&](const Pages& pages) { return pictureFiles(target, pages); })
+            .and_then([&](const std::vector<FileContents>& files) { return session.book->writeExport(files); });
     });
 }
 
@@ -274,7 +278,8 @@ void addViewCommands(CLI::App& app, Console& console) {
     CLI::App* render = add("render", "Draws what the windows print into a PDF, SVG or PNG", runRender);
     render->add_option("TARGET", arguments->target, "The file to write, ending in .pdf, .svg or .png")->required();
     render->add_option("--what", arguments->what, "What to draw")->required()->check(CLI::IsMember(renderings()));
-    render->add_option("--row", arguments->rows, "The record's row, from 0")->allow_extra_args(false);
+    render->add_option("--row", arguments->rows, "The records' rows, from 0, of a card; the dive's of a profile")
+        ->allow_extra_args(false);
 }
 
 }  // namespace tavrel

@@ -1,7 +1,6 @@
 #include "documents/document.h"
 
 #include "base/paths.h"
-#include "base/safefile.h"
 #include "base/texts.h"
 #include "desktop/clock.h"
 #include "desktop/preferences.h"
@@ -73,13 +72,19 @@ Expected<void> Document::saveAs(const QString& file, Overwriting overwriting) {
 }
 
 Expected<void> Document::writeExport(const QString& file, const Expected<QByteArray>& bytes) {
-    if (isFile(file)) {
-        return tl::unexpected(savingFailure(file, {text("Main", "Export onto document"), {}}));
-    }
     if (!bytes) {
         return tl::unexpected(savingFailure(file, bytes.error()));
     }
-    return isOutlet(file) ? writeToOutlet(file, *bytes) : writeFile(file, *bytes);
+    return isOutlet(file) ? writeToOutlet(file, *bytes) : writeExport({{file, *bytes}});
+}
+
+Expected<void> Document::writeExport(const std::vector<FileContents>& files) {
+    for (const FileContents& each : files) {
+        if (isFile(each.path)) {
+            return tl::unexpected(savingFailure(each.path, {text("Main", "Export onto document"), {}}));
+        }
+    }
+    return writeFiles(files);
 }
 
 Expected<void> Document::revert() {
@@ -175,8 +180,7 @@ void Document::markChanged() {
 
 /// Whether the name means the document's own file, also where that is gone.
 bool Document::isFile(const QString& file) const {
-    const QString real = canonicalPath(file);
-    return !file_.isEmpty() && (real.isEmpty() ? absolutePath(file) == file_ : real == canonicalPath(file_));
+    return !file_.isEmpty() && (absolutePath(file) == file_ || isSameFile(file, file_));
 }
 
 /// Keeps what a file holds before it is written for the first time. A backup that cannot be made stops no save, which

@@ -3,6 +3,7 @@
 #include "base/failure.h"
 #include "base/fileidentity.h"
 #include "base/progress.h"
+#include "base/safefile.h"
 #include "desktop/desktop.h"
 #include "documents/filelock.h"
 #include "documents/filewatch.h"
@@ -18,6 +19,7 @@
 #include <memory>
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace tavrel {
 
@@ -65,6 +67,8 @@ public:
     /// Writes the bytes of an export, or tells why there are none; the document's file and change state stay. An export
     /// loses what it does not hold, so it never takes the place of the document's own file.
     Expected<void> writeExport(const QString& file, const Expected<QByteArray>& bytes);
+    /// The same for the files of one export: all of them are written, or none.
+    Expected<void> writeExport(const std::vector<FileContents>& files);
     /// Reads its file again, dropping all changes; a failure without a file.
     Expected<void> revert();
     /// The file's contents before this program first wrote it, kept beside it under its name and "~".

@@ -1,6 +1,5 @@
 #include "drawing/pages.h"
 
-#include "base/safefile.h"
 #include "base/texts.h"
 #include "drawing/drawingfont.h"
 
@@ -18,6 +17,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 #include <variant>
 
 namespace tavrel {
@@ -216,21 +216,21 @@ Expected<QByteArray> pictureBytes(const Pages& pages, PictureFormat format, int 
     return pngBytes(pages, page);
 }
 
-Expected<void> writePages(const QString& path, const Pages& pages) {
+Expected<std::vector<FileContents>> pictureFiles(const QString& path, const Pages& pages) {
     const auto format = pictureFormatOf(path);
     if (!format) {
         return failure(textWith("Main", "Not a picture format", QFileInfo(path).fileName()));
     }
-    const int files = *format == PictureFormat::pdf ? 1 : pages.count;
-    for (int file = 0; file < files; ++file) {
-        auto written = pictureBytes(pages, *format, file).and_then([&](const QByteArray& bytes) {
-            return writeFile(nameOfPage(path, file), bytes);
-        });
-        if (!written) {
-            return written;
+    std::vector<FileContents> files;
+    const int count = *format == PictureFormat::pdf ? 1 : pages.count;
+    for (int file = 0; file < count; ++file) {
+        auto bytes = pictureBytes(pages, *format, file);
+        if (!bytes) {
+            return tl::unexpected(bytes.error());
         }
+        files.push_back({nameOfPage(path, file), std::move(*bytes)});
     }
-    return {};
+    return files;
 }
 
 }  // namespace tavrel

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/failure.h"
+#include "base/safefile.h"
 #include "desktop/printsettings.h"
 #include "drawing/drawing.h"
 #include "drawing/styledtext.h"
@@ -14,6 +15,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 class QTextDocument;
 
@@ -68,8 +70,8 @@ enum class PictureFormat { png, svg, pdf };
 std::optional<PictureFormat> pictureFormatOf(const QString& path);
 /// The bytes of a picture's file: of one page, and for PDF of all of them. A PNG has two pixels to the point.
 Expected<QByteArray> pictureBytes(const Pages& pages, PictureFormat format, int page = 0);
-/// Writes the pages in the format of the file's ending, each file whole or not at all. A PDF holds them all; of PNG and
-/// SVG the second page is written beside as NAME-2, and so on.
-Expected<void> writePages(const QString& path, const Pages& pages);
+/// The files of the pages in the format of the path's ending. A PDF holds them all; of PNG and SVG the second page goes
+/// beside as NAME-2, and so on.
+Expected<std::vector<FileContents>> pictureFiles(const QString& path, const Pages& pages);
 
 }  // namespace tavrel

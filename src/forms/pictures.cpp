@@ -123,7 +123,7 @@ Expected<QImage> pixelsOf(const Image& picture) {
     return picture.tiff.isEmpty() ? failure(text("Main", "Picture not shown")) : readImage(picture.tiff);
 }
 
-Expected<void> writePicture(const Image& picture, const QString& path) {
+Expected<QByteArray> pictureFile(const Image& picture, const QString& path) {
     const QByteArray format = QFileInfo(path).suffix().toLower().toUtf8();
     QByteArray bytes;
     if (picture.tiff.isEmpty()) {
@@ -144,7 +144,7 @@ Expected<void> writePicture(const Image& picture, const QString& path) {
             return failure(text("Main", "Picture not written"), writer.errorString());
         }
     }
-    return writeFile(path, bytes).map_error([&](const Failure& reason) { return savingFailure(path, reason); });
+    return bytes;
 }
 
 QStringList readablePictures() {

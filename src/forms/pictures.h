@@ -22,8 +22,8 @@ Expected<Image> pictureOf(const QImage& pixels);
 /// The pixels of a picture; a failure for a damaged one and for one that cannot be shown.
 Expected<QImage> pixelsOf(const Image& picture);
 
-/// Writes a picture as a file of the format that its name ends in: a TIFF file is the stored one.
-Expected<void> writePicture(const Image& picture, const QString& path);
+/// The bytes of a picture's file in the format that its name ends in: a TIFF file is the stored one.
+Expected<QByteArray> pictureFile(const Image& picture, const QString& path);
 
 /// Patterns of the files that can be read, and of those that can be written: "*.png".
 QStringList readablePictures();

@@ -172,8 +172,7 @@ bool Carnet::renumDives(qint32 first, const Progress& progress) {
     RecordList dives = records();
     for (std::size_t row = 0; row < dives.size(); ++row) {
         renumbering.editFields(*dives[row]);
-        renumbering.state().setInteger(renumbering.controls().noPlongeeField,
-                                       static_cast<qint32>(static_cast<quint32>(first) + static_cast<quint32>(row)));
+        renumbering.state().setInteger(renumbering.controls().noPlongeeField, first + static_cast<qint32>(row));
         dives[row] = renumbering.buildRecord();
         if (progress && row % divesPerReport == 0 && !progress(row, dives.size())) {
             return false;

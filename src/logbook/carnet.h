@@ -7,7 +7,9 @@
 #include "logbook/logbookexport.h"
 #include "logbook/unitconversion.h"
 
+#include <algorithm>
 #include <functional>
+#include <limits>
 #include <span>
 #include <vector>
 
@@ -45,8 +47,10 @@ public:
     void selectLastDive(int index, bool selected) { selectLast(index, selected); }
     void changementSelectionMaTableView() { followSelection(); }
 
-    /// Numbers all dives from first on, each through the form, whose corrections apply. Whether it came to its end;
-    /// cancelled, no dive is changed.
+    /// The highest first number that leaves one for the last dive.
+    qint32 highestFirstNumber() const { return std::numeric_limits<qint32>::max() - std::max(count() - 1, 0); }
+    /// Numbers all dives from first on, which is no higher than that, each through the form, whose corrections apply.
+    /// Whether it came to its end; cancelled, no dive is changed.
     bool renumDives(qint32 first, const Progress& progress = {});
     /// Takes the numbers of all dives from the other system of units into this one, as one undo step. The selection
     /// stays.

@@ -15,6 +15,7 @@
 #include <optional>
 #include <sched.h>
 #include <sys/mount.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <sys/xattr.h>
@@ -229,6 +230,26 @@ TEST_F(SafeFile, writesAFileThatIsMountedByItself) {
     });
     EXPECT_EQ(status, 0);
     EXPECT_TRUE(contentsOf(path("real")) == "new" || ::geteuid() != 0) << contentsOf(path("real")).toStdString();
+}
+
+TEST_F(SafeFile, takesTheNewContentsOfSeveralFilesTogether) {
+    ASSERT_TRUE(writeFile(path("1"), "old") && QDir(path("")).mkdir(QStringLiteral("3")));
+    EXPECT_FALSE(writeFiles({{path("1"), "new"}, {path("2"), "new"}, {path("3"), "new"}}));
+    EXPECT_EQ(contentsOf(path("1")), "old");
+    EXPECT_EQ(names(), (QStringList{QStringLiteral("1"), QStringLiteral("3")}));
+    // More of them than the program may have open.
+    EXPECT_EQ(inChild([&] {
+                  std::vector<FileContents> many;
+                  for (int number = 10; number < 50; ++number) {
+                      many.push_back({path(QByteArray::number(number).constData()), "new"});
+                  }
+                  struct rlimit few {};
+                  ::getrlimit(RLIMIT_NOFILE, &few);
+                  few.rlim_cur = 30;
+                  return ::setrlimit(RLIMIT_NOFILE, &few) == 0 && writeFiles(many).has_value();
+              }),
+              0);
+    EXPECT_EQ(contentsOf(path("49")), "new");
 }
 
 TEST_F(SafeFile, staysReadableWhenAnotherCutsItShort) {

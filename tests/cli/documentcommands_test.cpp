@@ -44,6 +44,7 @@ TEST_F(LogbookCommands, changesFindsAndRemovesDives) {
 
     done("delete a.carnet 3 0 3");
     done("renumber a.carnet 10");
+    expectRefusals({{"renumber a.carnet 2147483647", 1, "2147483646"}});
     ASSERT_EQ(dives().size(), 2U);
     expectValues(0, "lieu=Cassis");
     expectValues(1, "noPlongee=11");

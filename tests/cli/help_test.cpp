@@ -30,6 +30,20 @@ TEST_F(Help, speaksTheUsersLanguage) {
     }
 }
 
+TEST_F(Help, saysWhatIsWrongInTheUsersLanguage) {
+    expectRefusals({{"", 2, "Il manque une commande.\nL’option --help en dit plus.\n"},
+                    {"calc", 2, "calculateur"},
+                    {"show", 2, "Il manque FILE."},
+                    {"show a \x1b", 2, "Inattendu : \u241B"},
+                    {"show a --json --columns x", 2, "--json ne va pas avec --columns."},
+                    {"import a b --json", 2, "--json ne va pas sans --dry-run."},
+                    {"renumber a one", 2, "FIRST : « one » n’est pas"},
+                    {"render a b --what x", 2, "--what : « x » ne fait pas partie de table, card,"},
+                    {"calc convert --from fathoms", 2, "« fathoms »"},
+                    {"render a b --what", 2, "--what : il manque la valeur."},
+                    {"form a --row 1 --row 2", 2, "--row ne peut être donné qu’une fois."}});
+}
+
 TEST_F(Help, leavesNothingInAnotherLanguage) {
     const QStringList french = descriptions(done("shell-file man"));
     language = QStringLiteral("C.UTF-8");

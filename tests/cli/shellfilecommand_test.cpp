@@ -15,6 +15,7 @@ namespace {
 struct ShellFiles : testing::Test {
     ShellFiles() : app("The program's own words - and more", "some-program") {
         app.set_version_flag("--version", "1");
+        app.add_option("--now", text, "The moment");
         app.footer("Ends with 0.\n.5 is a number.");
         CLI::App* draw = app.add_subcommand("draw", "Draws it");
         draw->add_option("FILE", text, "What to draw")->required();
@@ -53,17 +54,18 @@ struct ShellFiles : testing::Test {
 };
 
 TEST_F(ShellFiles, completeCommandsOptionsAndChoices) {
-    EXPECT_EQ(offered("''"), u"draw calc -h --help --version");
+    EXPECT_EQ(offered("''"), u"draw calc -h --help --version --now");
     EXPECT_EQ(offered("c"), u"calc");
     EXPECT_EQ(offered("calc m"), u"mod mix");
-    EXPECT_EQ(offered("calc mod --"), u"--help --o2");
+    EXPECT_EQ(offered("calc mod --"), u"--help --o2 --now");
     EXPECT_EQ(offered("draw some.file --j"), u"--json");
     EXPECT_EQ(offered("draw --what ''"), u"table card");
     EXPECT_EQ(offered("draw -w c"), u"card");
     // A value that may be anything, and a place that takes none of the words: left to bash, which knows the files.
     EXPECT_EQ(offered("draw --size ''"), QString());
+    EXPECT_EQ(offered("draw --now ''"), QString());
     EXPECT_EQ(offered("draw calc"), QString());
-    EXPECT_EQ(offered("secret --"), u"--help --version");
+    EXPECT_EQ(offered("secret --"), u"--help --version --now");
 }
 
 TEST_F(ShellFiles, describeEveryCommand) {

@@ -156,7 +156,22 @@ TEST_F(ViewCommands, cardsAndPagesComeFromTheSameRooms) {
         EXPECT_TRUE(contentsOf(path(QString::fromUtf8(file))).contains(holds)) << command;
     }
     expectRefusals({{"render m.materiel list.txt --what table", 2, ".pdf"},
-                    {"render m.materiel list.png --what profile", 1, "m.materiel"}});
+                    {"render m.materiel list.png --what profile", 1, "m.materiel"},
+                    {"render m.materiel list.png --what table --row 0", 2, "table"},
+                    {"render a.carnet list.png --what profile --row 0 0", 2, "profile"}});
+
+    // Nothing takes the document's place, whatever link leads to it.
+    ASSERT_TRUE(QFile::copy(QStringLiteral(TAVREL_SAMPLE_FOLDER "/sample.documents"), path(QStringLiteral("d.png"))));
+    ASSERT_TRUE(QFile::link(path(QStringLiteral("m.materiel")), path(QStringLiteral("x-2.svg"))));
+    ASSERT_TRUE(QFile::link(path(QStringLiteral("d.png")), path(QStringLiteral("p.png"))));
+    const QByteArray list = contentsOf(path(QStringLiteral("m.materiel")));
+    const QByteArray pictures = contentsOf(path(QStringLiteral("d.png")));
+    expectRefusals({{"render m.materiel x.svg --what table", 1, "own file"},
+                    {"render d.png d.png --what table", 1, "own file"},
+                    {"picture d.png --row 0 p.png", 1, "own file"}});
+    EXPECT_EQ(contentsOf(path(QStringLiteral("m.materiel"))), list);
+    EXPECT_EQ(contentsOf(path(QStringLiteral("d.png"))), pictures);
+    EXPECT_FALSE(QFile::exists(path(QStringLiteral("x.svg"))));
 }
 
 }  // namespace

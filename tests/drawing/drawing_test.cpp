@@ -1,11 +1,10 @@
 #include "drawing/drawing.h"
 
 #include "drawing/pages.h"
+#include "support/printing.h"
 
-#include <QDir>
 #include <QImage>
 #include <QPainter>
-#include <QTemporaryDir>
 #include <QTextDocument>
 #include <gtest/gtest.h>
 
@@ -184,22 +183,18 @@ TEST(Pictures, takeTheRoomOfAPaperAboveTheFoot) {
     EXPECT_EQ(std::get<Drawing::Text>(page.primitives().front()).text, u"Reef");
 }
 
-TEST(Pictures, areWrittenByTheEndingOfTheName) {
-    const QTemporaryDir folder;
-    const auto path = [&](const char* name) { return folder.filePath(QLatin1StringView(name)); };
+TEST(Pictures, haveFilesByTheEndingOfTheName) {
     Pages two = pagesOf(sample());
     two.count = 2;
-    EXPECT_TRUE(writePages(path("a.PNG"), two));
-    EXPECT_TRUE(writePages(path("a.pdf"), two));
-    EXPECT_TRUE(writePages(path("a.svg"), pagesOf(sample())));
-    const auto refused = writePages(path("a.gif"), pagesOf(sample()));
+    const auto named = [&](const char* path) {
+        return eachOf(*pictureFiles(QLatin1StringView(path), two), [](const FileContents& each) { return each.path; });
+    };
+    EXPECT_EQ(named("b.c/a.PNG"), u"b.c/a.PNG|b.c/a-2.PNG");
+    EXPECT_EQ(named("a.pdf"), u"a.pdf");
+    EXPECT_EQ(named("a.svg"), u"a.svg|a-2.svg");
+    const auto refused = pictureFiles(QStringLiteral("a.gif"), two);
     ASSERT_FALSE(refused);
     EXPECT_TRUE(refused.error().sentence.contains(QStringLiteral("a.gif")));
-    EXPECT_FALSE(writePages(path("missing/a.pdf"), pagesOf(sample())));
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files),
-              (QStringList{QStringLiteral("a-2.PNG"), QStringLiteral("a.pdf"), QStringLiteral("a.PNG"),
-                           QStringLiteral("a.svg")}));
-    EXPECT_EQ(QImage(path("a-2.PNG")).size(), QSize(80, 40));
 }
 
 StyledText lines(int count) {

@@ -44,7 +44,7 @@ private:
 
 /// Every include that crosses a wall, as "file:line includes header".
 QStringList breaches(const House& house, const QString& sourceFolder) {
-    static const QRegularExpression include(QStringLiteral("^\\s*#\\s*include\\s*\"(.*)/[^/\"]+\""));
+    static const QRegularExpression include(QStringLiteral("^\\s*#\\s*include\\s*([<\"])(.*)/[^/\">]+[\">]"));
     QStringList found;
     for (const auto& room : house.rooms()) {
         QDirIterator files(sourceFolder + u'/' + room, {QStringLiteral("*.h"), QStringLiteral("*.cpp")}, QDir::Files);
@@ -53,7 +53,9 @@ QStringList breaches(const House& house, const QString& sourceFolder) {
             const auto lines = QString::fromUtf8(tavrel::contentsOf(path)).split(u'\n');
             for (qsizetype line = 0; line < lines.size(); ++line) {
                 const auto match = include.match(lines[line]);
-                if (match.hasMatch() && !house.mayInclude(room, match.captured(1))) {
+                // In angle brackets stand the system's folders too.
+                const bool isRoom = match.captured(1) == u'"' || house.rooms().contains(match.captured(2));
+                if (match.hasMatch() && isRoom && !house.mayInclude(room, match.captured(2))) {
                     found << QStringLiteral("%1:%2: %3").arg(path).arg(line + 1).arg(lines[line]);
                 }
             }

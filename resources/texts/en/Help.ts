@@ -18,6 +18,7 @@
 <message><source>Diving calculators</source><translation>Diving calculators</translation></message>
 <message><source>Draws what the windows print into a PDF, SVG or PNG</source><translation>Draws what the windows print into a PDF, SVG or PNG</translation></message>
 <message><source>ED50 to WGS84 from "degrees minutes seconds", with a report; the parts are added, so west and south each takes its minus sign</source><translation>ED50 to WGS84 from "degrees minutes seconds", with a report; the parts are added, so west and south each takes its minus sign</translation></message>
+<message><source>Either</source><translation>Either</translation></message>
 <message><source>Everything, as one JSON object</source><translation>Everything, as one JSON object</translation></message>
 <message><source>Exit codes: 0 done, 1 failed (the reason on standard error, the file as it was), 2 wrong usage.</source><translation>Exit codes: 0 done, 1 failed (the reason on standard error, the file as it was), 2 wrong usage.</translation></message>
 <message><source>Gas consumption and oxygen clock of a dive</source><translation>Gas consumption and oxygen clock of a dive</translation></message>
@@ -43,6 +44,7 @@
 <message><source>Oxygen partial pressure, bar</source><translation>Oxygen partial pressure, bar</translation></message>
 <message><source>Positionals</source><translation>Positionals</translation></message>
 <message><source>Print this help message and exit</source><translation>Print this help message and exit</translation></message>
+<message><source>Prints the completion script for bash or the manual page</source><translation>Prints the completion script for bash or the manual page</translation></message>
 <message><source>Prints the dives that SOURCE holds and changes nothing</source><translation>Prints the dives that SOURCE holds and changes nothing</translation></message>
 <message><source>Prints them as JSON</source><translation>Prints them as JSON</translation></message>
 <message><source>Prints which fields the format would lose, and of how many dives; writes nothing</source><translation>Prints which fields the format would lose, and of how many dives; writes nothing</translation></message>
@@ -79,9 +81,11 @@
 <message><source>The record's row, from 0</source><translation>The record's row, from 0</translation></message>
 <message><source>The recorded profile of a dive: what it amounts to, its picture in figures, its series, and replacing them</source><translation>The recorded profile of a dive: what it amounts to, its picture in figures, its series, and replacing them</translation></message>
 <message><source>The records' rows, from 0</source><translation>The records' rows, from 0</translation></message>
+<message><source>The records' rows, from 0, of a card; the dive's of a profile</source><translation>The records' rows, from 0, of a card; the dive's of a profile</translation></message>
 <message><source>The records' rows, from 0; all when not given</source><translation>The records' rows, from 0; all when not given</translation></message>
 <message><source>The text</source><translation>The text</translation></message>
 <message><source>The type's name, such as "Carnet de plongee", or its record class</source><translation>The type's name, such as "Carnet de plongee", or its record class</translation></message>
+<message><source>The unit of the value</source><translation>The unit of the value</translation></message>
 <message><source>The value</source><translation>The value</translation></message>
 <message><source>The whole tree, as one JSON object</source><translation>The whole tree, as one JSON object</translation></message>
 <message><source>Time, min</source><translation>Time, min</translation></message>

@@ -18,6 +18,7 @@
 <message><source>Diving calculators</source><translation>Calculateurs de plongée</translation></message>
 <message><source>Draws what the windows print into a PDF, SVG or PNG</source><translation>Dessine en PDF, SVG ou PNG ce que les fenêtres impriment</translation></message>
 <message><source>ED50 to WGS84 from "degrees minutes seconds", with a report; the parts are added, so west and south each takes its minus sign</source><translation>De ED50 vers WGS84 à partir de « degrés minutes secondes », avec un rapport ; les parties s’additionnent : à l’ouest et au sud, chacune prend son signe moins</translation></message>
+<message><source>Either</source><translation>L’un ou l’autre</translation></message>
 <message><source>Everything, as one JSON object</source><translation>Tout, en un objet JSON</translation></message>
 <message><source>Exit codes: 0 done, 1 failed (the reason on standard error, the file as it was), 2 wrong usage.</source><translation>Codes de retour : 0 réussi, 1 échec (la raison sur la sortie d’erreur, le fichier inchangé), 2 appel incorrect.</translation></message>
 <message><source>Gas consumption and oxygen clock of a dive</source><translation>Consommation de gaz et horloge de l’oxygène d’une plongée</translation></message>
@@ -43,6 +44,7 @@
 <message><source>Oxygen partial pressure, bar</source><translation>Pression partielle d’oxygène, bar</translation></message>
 <message><source>Positionals</source><translation>Arguments</translation></message>
 <message><source>Print this help message and exit</source><translation>Affiche cette aide et se termine</translation></message>
+<message><source>Prints the completion script for bash or the manual page</source><translation>Affiche le script de complétion pour bash ou la page de manuel</translation></message>
 <message><source>Prints the dives that SOURCE holds and changes nothing</source><translation>Affiche les plongées que contient SOURCE et ne change rien</translation></message>
 <message><source>Prints them as JSON</source><translation>Les affiche en JSON</translation></message>
 <message><source>Prints which fields the format would lose, and of how many dives; writes nothing</source><translation>Dit quels champs le format perdrait, et pour combien de plongées ; n’écrit rien</translation></message>
@@ -79,9 +81,11 @@
 <message><source>The record's row, from 0</source><translation>La ligne de la fiche, à partir de 0</translation></message>
 <message><source>The recorded profile of a dive: what it amounts to, its picture in figures, its series, and replacing them</source><translation>Le profil enregistré d’une plongée : son résumé, son tracé en chiffres, ses séries, et leur remplacement</translation></message>
 <message><source>The records' rows, from 0</source><translation>Les lignes des fiches, à partir de 0</translation></message>
+<message><source>The records' rows, from 0, of a card; the dive's of a profile</source><translation>Les lignes des fiches, à partir de 0, pour une fiche de synthèse ; celle de la plongée pour un profil</translation></message>
 <message><source>The records' rows, from 0; all when not given</source><translation>Les lignes des fiches, à partir de 0 ; toutes par défaut</translation></message>
 <message><source>The text</source><translation>Le texte</translation></message>
 <message><source>The type's name, such as "Carnet de plongee", or its record class</source><translation>Le nom du type, comme « Carnet de plongee », ou la classe de ses fiches</translation></message>
+<message><source>The unit of the value</source><translation>L’unité de la valeur</translation></message>
 <message><source>The value</source><translation>La valeur</translation></message>
 <message><source>The whole tree, as one JSON object</source><translation>L’arbre entier, en un objet JSON</translation></message>
 <message><source>Time, min</source><translation>Durée, min</translation></message>

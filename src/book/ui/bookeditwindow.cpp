@@ -56,6 +56,8 @@ BookEditWindow::BookEditWindow(BookBase& book, BookActions& actions, QWidget* pa
             [this](int control, const QString& typed) { book_.form().endEditing(control, typed); });
     connect(&book.form().state(), &FormStateBase::focusRequested, this, &BookEditWindow::takeFocus);
     connect(&book, &BookBase::stateChanged, this, &BookEditWindow::updateState);
+    setWindowFilePath(book.file());
+    connect(&book, &BookBase::fileChanged, this, [this] { setWindowFilePath(book_.file()); });
     connect(&book, &BookBase::editWindowTitleChanged, this, &BookEditWindow::updateTitle);
     connect(&book, &BookBase::editWindowRequested, this, &BookEditWindow::bringToFront);
     connect(&book, &BookBase::editWindowClosed, this, [this] {

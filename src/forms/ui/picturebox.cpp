@@ -1,5 +1,6 @@
 #include "forms/ui/picturebox.h"
 
+#include "base/safefile.h"
 #include "base/texts.h"
 #include "forms/pictures.h"
 #include "forms/ui/pictureview.h"
@@ -168,10 +169,20 @@ private:
         dialog.setAcceptMode(QFileDialog::AcceptSave);
         dialog.setDefaultSuffix(QStringLiteral("png"));
         if (dialog.exec() == QDialog::Accepted) {
-            if (const auto written = writePicture(held().image, dialog.selectedFiles().front()); !written) {
+            if (const auto written = writeTo(dialog.selectedFiles().front()); !written) {
                 say(written.error().sentence);
             }
         }
+    }
+
+    /// Never over the document that the picture is of.
+    Expected<void> writeTo(const QString& path) {
+        if (isSameFile(path, widget()->window()->windowFilePath())) {
+            return tl::unexpected(savingFailure(path, {text("Main", "Export onto document"), {}}));
+        }
+        return pictureFile(held().image, path).and_then([&](const QByteArray& bytes) {
+            return writeFile(path, bytes);
+        });
     }
 
     void paste() {

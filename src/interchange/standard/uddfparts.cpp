@@ -3,6 +3,7 @@
 #include "base/numbers.h"
 #include "calculators/gps.h"
 #include "calculators/position.h"
+#include "dives/divecodes.h"
 #include "dives/divetanks.h"
 #include "interchange/standard/gasmix.h"
 #include "interchange/standard/uddfwords.h"
@@ -18,7 +19,7 @@ std::optional<std::pair<double, double>> wgs84Of(const Plongee& dive) {
     if (!position) {
         return std::nullopt;
     }
-    if (dive.gpsSystem != 0) {
+    if (dive.gpsSystem != Datum::ed50) {
         return std::pair(position->latitude, position->longitude);
     }
     const auto converted = convertSexagesimal({position->longitude, 0, 0}, {position->latitude, 0, 0}, 0).wgs84;

@@ -1,6 +1,7 @@
 #include "interchange/standard/uddfwriting.h"
 
 #include "base/texts.h"
+#include "dives/divecodes.h"
 #include "dives/divetanks.h"
 #include "interchange/standard/founddive.h"
 #include "interchange/standard/uddfparts.h"
@@ -255,7 +256,9 @@ private:
         if (const QString current = currentWord(dive.courant); !current.isEmpty()) {
             xml_.element("current", current);
         }
-        const std::string_view plan = dive.deco == 0 ? "dive-computer" : dive.deco <= 2 ? "table" : "none";
+        const std::string_view plan = dive.deco == DecoMethod::computer       ? "dive-computer"
+                                      : dive.deco <= DecoMethod::nitroxTables ? "table"
+                                                                              : "none";
         xml_.element("diveplan", plan);
         if (!dive.notes.isEmpty()) {
             xml_.begin("notes");

@@ -11,8 +11,6 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
-#include <limits>
-
 namespace tavrel {
 
 RenumberWindow::RenumberWindow(Carnet& carnet, DocumentWindow* parent)
@@ -20,7 +18,6 @@ RenumberWindow::RenumberWindow(Carnet& carnet, DocumentWindow* parent)
     setObjectName(QStringLiteral("renumberWindow"));
     setWindowTitle(text("Carnet", "Renumber title"));
     first_->setObjectName(QStringLiteral("firstNumber"));
-    first_->setRange(0, std::numeric_limits<int>::max());
     first_->setValue(1);
 
     auto* explanation = new QLabel(text("Carnet", "Renumber explanation"));
@@ -44,6 +41,7 @@ RenumberWindow::RenumberWindow(Carnet& carnet, DocumentWindow* parent)
 }
 
 void RenumberWindow::bringToFront() {
+    first_->setRange(0, carnet_.highestFirstNumber());
     tavrel::bringToFront(this);
     first_->setFocus();
     first_->selectAll();
@@ -54,6 +52,7 @@ void RenumberWindow::accept() {
     if (!window_.leaveEditing(Settling::leaving)) {
         return;
     }
+    first_->setMaximum(carnet_.highestFirstNumber());  // the form may have given a dive
     ProgressWindow progress(this, text("Carnet", "Renumbering"));
     carnet_.renumDives(first_->value(), progress.progress());
 }
