@@ -44,6 +44,7 @@ public:
     /// Whether the form holds the record of the selected row rather than a new one.
     bool formShowsSelectedRecord() const { return showsSelectedRecord_ && selectedRow() >= 0; }
 
+    /// The archived list, whatever the type.
     Expected<QByteArray> dataRepresentationOfType(const QString& type) override;
     /// The list is replaced before the type is checked, so a wrong type fails with the list already replaced.
     Expected<void> loadDataRepresentation(QByteArrayView data, const QString& type) override;
