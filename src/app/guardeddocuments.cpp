@@ -60,7 +60,7 @@ void MyDocumentController::tellStateOnDisk(DocumentWindow& window, FileIdentity:
     MessageBar& bar = window.messageBar();
     switch (state) {
         case FileIdentity::State::same:
-            bar.tell({});
+            bar.tell(window.document().isOfNewerVersion() ? text("Main", "File of newer version") : QString());
             break;
         case FileIdentity::State::changed:
             bar.tell(text("Main", "File changed by another"), text("Main", "Reload"), [this, &window] {

@@ -137,6 +137,7 @@ DocumentWindow* MyDocumentController::addWindow(const DocumentType& type, std::u
     connect(&added->document(), &Document::fileChanged, this, &MyDocumentController::windowsChanged);
     connect(&added->document(), &Document::stateOnDiskChanged, added,
             [this, added](FileIdentity::State state) { tellStateOnDisk(*added, state); });
+    tellStateOnDisk(*added, FileIdentity::State::same);
     added->document().watchFile();
     Q_EMIT windowOpened(added);
     bringToFront(added);

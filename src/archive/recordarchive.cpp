@@ -120,11 +120,16 @@ public:
 Expected<QString> recordClassOf(QByteArrayView bytes) {
     TypedStreamReader reader(bytes);
     const std::size_t count = reader.openRoot();
-    const QString name = count > 0 ? reader.nextElementClass() : QString();
+    const QString name = count > 0 ? reader.nextElementClass().name : QString();
     if (!reader.ok()) {
         return tl::unexpected(reader.failure());
     }
     return name;
+}
+
+std::int64_t recordVersionOf(QByteArrayView bytes) {
+    TypedStreamReader reader(bytes);
+    return reader.openRoot() > 0 ? reader.nextElementClass().version : 0;
 }
 
 Expected<RecordFile> readRecords(QByteArrayView bytes, const RecordLayout& layout, const Progress& progress,

@@ -8,6 +8,8 @@
 #include <QByteArray>
 #include <QByteArrayView>
 
+#include <cstdint>
+
 namespace tavrel {
 
 /// The records of a document file, and the class version that the first of them was archived with (the version that
@@ -20,6 +22,8 @@ struct RecordFile {
 
 /// The class of the first record of a document file, which tells the type of document; null when it holds none.
 Expected<QString> recordClassOf(QByteArrayView bytes);
+/// The version of that class; 0 when there is none.
+std::int64_t recordVersionOf(QByteArrayView bytes);
 
 /// Reads a document file in one pass. Every item that the layout names for the record's class version must stand there
 /// in order and with its type; groups beyond them, which a later version may have added, are skipped. Fails as a whole,

@@ -4,6 +4,8 @@
 
 #include <QCryptographicHash>
 
+#include <algorithm>
+
 namespace tavrel {
 
 namespace {
@@ -58,6 +60,14 @@ QString latin(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+/// What the present version stores, and what only the file's own does.
+bool isListed(const Item& item, int version, const RecordLayout& layout) {
+    return item.travels(layout.version) ||
+           (item.travels(version) && std::none_of(layout.items.begin(), layout.items.end(), [&](const Item& other) {
+                return other.key() == item.key() && other.travels(layout.version);
+            }));
+}
+
 }  // namespace
 
 void writeRecordsJson(JsonWriter& json, const QString& type, const RecordFile& file, const RecordLayout& layout) {
@@ -70,7 +80,7 @@ void writeRecordsJson(JsonWriter& json, const QString& type, const RecordFile& f
     for (const auto& record : file.records) {
         json.beginObject();
         for (const auto& item : layout.items) {
-            if (item.travels(layout.version)) {
+            if (isListed(item, file.version, layout)) {
                 json.key(latin(item.key()));
                 item.field().visit(*record, [&json](const auto& value) { write(json, value); });
             }

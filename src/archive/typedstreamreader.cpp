@@ -107,14 +107,18 @@ std::size_t TypedStreamReader::readElement() {
     return entry.payload();
 }
 
-QString TypedStreamReader::nextElementClass() {
+TypedStreamReader::ElementClass TypedStreamReader::nextElementClass() {
     const std::size_t start = scanner_.offset();
     requireObjectGroup(StreamFault::wrongClass);
     const ObjectHead head = scanner_.readObjectHead();
     if (scanner_.ok() && head.form != ObjectHead::literal) {
         scanner_.fail(StreamFault::wrongClass, start);
     }
-    return scanner_.ok() ? textOf(scanner_.classAt(head.classIndex).name) : QString();
+    if (!scanner_.ok()) {
+        return {};
+    }
+    const StreamClass& found = scanner_.classAt(head.classIndex);
+    return {textOf(found.name), found.version};
 }
 
 QColor TypedStreamReader::readRootColor() {

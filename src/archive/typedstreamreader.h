@@ -56,8 +56,12 @@ public:
     std::size_t readElement();
     /// Reads the end of the root array. What follows in the data is of no concern.
     void closeRoot() { scanner_.readObjectEnd(); }
+    struct ElementClass {
+        QString name;
+        std::int64_t version = 0;
+    };
     /// The class of the root array's next element, which is a literal.
-    QString nextElementClass();
+    ElementClass nextElementClass();
     /// Reads the root object of an archived colour.
     QColor readRootColor();
 

@@ -31,10 +31,7 @@ void BookBase::listen(Notification name, std::function<void()> handler) {
     subscriptions_.push_back(desktop().notifications.subscribe(name, std::move(handler)));
 }
 
-Expected<QByteArray> BookBase::dataRepresentationOfType(const QString& type) {
-    if (description_.typeCheck == TypeCheck::exact && type != this->type()) {
-        return failure(textWith("Main", "Unknown document type", type));
-    }
+Expected<QByteArray> BookBase::dataRepresentationOfType(const QString&) {
     return archive();
 }
 
@@ -389,11 +386,11 @@ Expected<void> BookBase::setValue(int row, const QString& field, const FieldValu
     const Field found = layout().field(field);
     const RecordPointer held = recordAt(row);
     if (found.isNull() || !held) {
-        return failure(textWith("Carnet", "No such field", field));
+        return failure(textWith("Main", "No usable field", field));
     }
     const std::shared_ptr<Record> changed = layout().copy(*held);
     if (!found.setValue(*changed, value)) {
-        return failure(textWith("Carnet", "No such field", field));
+        return failure(textWith("Main", "No usable field", field));
     }
     RecordList list = records();
     list[static_cast<std::size_t>(row)] = changed;
@@ -442,7 +439,7 @@ Expected<int> BookBase::findTextWithField(const QString& field, const QString& s
     deselectAll();
     const Field found = layout().field(field);
     if (found.isNull() || found.kind() != FieldKind::text) {
-        return failure(textWith("Carnet", "No such field", field));
+        return failure(textWith("Main", "No usable field", field));
     }
     search([this, found, searched] { return rowsHolding(found, searched); });
     return static_cast<int>(selectedRows().size());

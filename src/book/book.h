@@ -46,6 +46,7 @@ public:
     /// The row of the stored record in the form, selected or not; -1 while a new one is typed.
     int shownRow() const { return shownRow_; }
 
+    /// The archived list, whatever the type.
     Expected<QByteArray> dataRepresentationOfType(const QString& type) override;
     /// The list is replaced before the type is checked, so a wrong type fails with the list already replaced.
     Expected<void> loadDataRepresentation(QByteArrayView data, const QString& type) override;

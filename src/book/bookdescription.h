@@ -2,6 +2,7 @@
 
 #include "base/failure.h"
 #include "base/texts.h"
+#include "book/cardrecords.h"
 #include "book/column.h"
 #include "desktop/printsettings.h"
 #include "desktop/toolbar.h"
@@ -86,7 +87,7 @@ struct BookDescription {
 
     /// The card of the records, in their order; null: the type has none. `file` is what the closing line calls the
     /// document's file.
-    StyledText (*card)(const RecordList& records, const Desktop& desktop, const QString& file) = nullptr;
+    StyledText (*card)(const CardRecords& records, const Desktop& desktop, const QString& file) = nullptr;
 
     std::unique_ptr<BookForm> (*makeForm)(Desktop& desktop);
     std::unique_ptr<BookBase> (*make)(Desktop& desktop);

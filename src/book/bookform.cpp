@@ -135,7 +135,7 @@ bool BookForm::holdsBeside(const QString&) const {
 }
 
 Expected<void> BookForm::enterBeside(const QString& field, const QString&) {
-    return failure(textWith("Carnet", "No such field", field));
+    return failure(textWith("Main", "No usable field", field));
 }
 
 void BookForm::clear(int) {}

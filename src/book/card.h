@@ -29,7 +29,7 @@ public:
     void beginRecord();
     void entry(const Title& label, const QString& value);
     void entry(const Title& label, int value);
-    /// "dd/MM/yyyy"; nothing for no date.
+    /// "dd/MM/yyyy", also of the day that stands for none in a form; nothing for a null date.
     void entry(const Title& label, const Date& value);
     /// A label that stands alone.
     void heading(const Title& label) { add(label.text(), plaincolour::black); }

@@ -80,6 +80,17 @@ Expected<void> enterAll(BookForm& form, const std::vector<std::string>& entries)
 
 namespace {
 
+/// Says what was entered into controls that no record holds.
+void tellUnstored(const BookForm& form, Console& console) {
+    const auto& controls = form.state().table().controls();
+    for (std::size_t index = 0; index < controls.size(); ++index) {
+        const QString hint = controls[index].field.empty() ? form.hint(static_cast<int>(index)) : QString();
+        if (!hint.isEmpty()) {
+            console.error << controls[index].name << ": " << toArgument(hint) << '\n';
+        }
+    }
+}
+
 void runNew(const DocumentArguments& arguments, Console& console) {
     const CatalogueType* type = documentTypeMeantBy(fromArgument(arguments.type));
     if (!type) {
@@ -103,7 +114,10 @@ void runNew(const DocumentArguments& arguments, Console& console) {
 void runAdd(const DocumentArguments& arguments, Console& console) {
     changeFile(arguments, console, [&](Session& session) -> Expected<void> {
         session.book->newRecord();
-        return enterAll(session.book->form(), arguments.entries).map([&] { session.book->addRecord(); });
+        return enterAll(session.book->form(), arguments.entries).map([&] {
+            tellUnstored(session.book->form(), console);
+            session.book->addRecord();
+        });
     });
 }
 
@@ -114,7 +128,10 @@ void runSet(const DocumentArguments& arguments, Console& console) {
                 session.book->selectRows({arguments.row});
                 return enterAll(session.book->form(), arguments.entries);
             })
-            .map([&] { session.book->updateRecord(); });
+            .map([&] {
+                tellUnstored(session.book->form(), console);
+                session.book->updateRecord();
+            });
     });
 }
 
@@ -181,9 +198,15 @@ Expected<void> showJson(const QString& path, Console& console) {
     }
     const auto written = documentKindOf(documentTypes(), path, bytes->bytes()).and_then([&](const CatalogueType* type) {
         const RecordLayout& layout = type->book->layout();
-        return readRecords(bytes->bytes(), layout).map([&](const RecordFile& file) {
+        auto file = readRecords(bytes->bytes(), layout);
+        if (!file && type->book->olderFormat) {
+            file = type->book->olderFormat(bytes->bytes()).map([&](RecordList&& records) {
+                return RecordFile{layout.version, std::move(records)};
+            });
+        }
+        return file.map([&](const RecordFile& read) {
             JsonWriter json = jsonOn(console);
-            writeRecordsJson(json, type->name.text(), file, layout);
+            writeRecordsJson(json, type->name.text(), read, layout);
             console.out << '\n';
         });
     });

@@ -87,11 +87,8 @@ Expected<StyledText> cardOf(Session& session, const std::vector<int>& rows) {
     if (!book.description().card) {
         return failure(textWith("Cli", "No card", book.type()));
     }
-    RecordList records;
-    for (const int row : rows) {
-        records.push_back(book.recordAt(row));
-    }
-    return book.description().card(rows.empty() ? book.records() : records, session.desktop.desktop(), book.file());
+    const CardRecords records = rows.empty() ? CardRecords(book.records()) : CardRecords(book.records(), rows);
+    return book.description().card(records, session.desktop.desktop(), book.file());
 }
 
 std::vector<std::string> renderings() {

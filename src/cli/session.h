@@ -13,7 +13,8 @@ namespace tavrel {
 QString pathArgument(const std::string& argument);
 
 /// What --force is for, where a command changes a file.
-inline constexpr char forceHelp[] = "Changes the file although another program has it open or changes it meanwhile";
+inline constexpr char forceHelp[] =
+    "Changes the file although another program has it open or changes it meanwhile, or a newer version wrote it";
 
 /// An open document on a desktop of its own.
 struct Session {

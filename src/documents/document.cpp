@@ -38,6 +38,7 @@ Expected<void> Document::open(const QString& file) {
         return tl::unexpected(openingFailure(file, loaded.error()));
     }
     becomeFile(file, bytes->identity(hash.get()));
+    noteVersion(bytes->bytes());
     undoStack_.clear();
     tellChangedState();
     return {};
@@ -58,6 +59,9 @@ Expected<void> Document::saveAs(const QString& file, Overwriting overwriting) {
     if (overwriting == Overwriting::no && isFile(file) && stateOnDisk() != FileIdentity::State::same) {
         return tl::unexpected(savingFailure(file, {text("Main", "File changed by another"), {}}));
     }
+    if (overwriting == Overwriting::no && isFile(file) && isOfNewerVersion()) {
+        return tl::unexpected(savingFailure(file, {text("Main", "File of newer version"), {}}));
+    }
     keepBackup(file);
     Q_EMIT aboutToWrite(absolutePath(file), *bytes);
     auto written = replaceFile(file, *bytes);
@@ -66,6 +70,7 @@ Expected<void> Document::saveAs(const QString& file, Overwriting overwriting) {
     }
     becomeFile(file, std::move(*written));
     setReadOnly(false);
+    noteVersion(*bytes);
     undoStack_.setClean();
     tellChangedState();
     return {};
@@ -140,6 +145,13 @@ void Document::setReadOnly(bool readOnly) {
     }
 }
 
+void Document::noteVersion(QByteArrayView contents) {
+    const bool newer = isNewer(contents);
+    if (std::exchange(ofNewerVersion_, newer) != newer) {
+        Q_EMIT fileChanged();
+    }
+}
+
 std::optional<Unsaved> Document::unsaved() const {
     Unsaved kept;
     kept.isChanged = isChanged();
@@ -164,6 +176,10 @@ Expected<void> Document::restore(const Unsaved& unsaved) {
     }
     if (!unsaved.file.isEmpty()) {
         becomeFile(unsaved.file, FileIdentity({}, unsaved.fileSize, unsaved.fileHash));
+        // What was kept is of the present version, whatever the file is.
+        if (const auto bytes = FileBytes::open(unsaved.file)) {
+            noteVersion(bytes->bytes());
+        }
     }
     undoStack_.clear();
     if (unsaved.isChanged) {

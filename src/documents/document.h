@@ -61,7 +61,7 @@ public:
     /// Writes the document under its own type, atomically, to its file or to the one given, which becomes its file. The
     /// first time a file is written its contents before are kept beside it, as the user wishes. On failure the
     /// document, its change state and the file on the disk are as they were. A file of its own that another program has
-    /// changed since is a failure, unless it is to be written over.
+    /// changed since, or that a newer version wrote, is a failure, unless it is to be written over.
     Expected<void> save(Overwriting overwriting = Overwriting::no);
     Expected<void> saveAs(const QString& file, Overwriting overwriting = Overwriting::no);
     /// Writes the bytes of an export, or tells why there are none; the document's file and change state stay. An export
@@ -93,9 +93,11 @@ public:
     std::optional<LockHolder> claimFile(const QString& file, std::chrono::milliseconds patience = {});
     /// The document is closed: its file is anyone's.
     void releaseFile();
-    /// Whether the user opened a file to look at it only, because another program has it open. It can be saved
-    /// elsewhere.
-    bool isReadOnly() const { return readOnly_; }
+    /// Whether the file is to be looked at only, because another program has it open or a newer version of this one
+    /// wrote it. The document can be saved elsewhere.
+    bool isReadOnly() const { return readOnly_ || ofNewerVersion_; }
+    /// Whether the file holds more than this version knows, which saving over it would lose.
+    bool isOfNewerVersion() const { return ofNewerVersion_; }
     void setReadOnly(bool readOnly);
 
 Q_SIGNALS:
@@ -117,6 +119,11 @@ protected:
     virtual int recordCount() const { return 0; }
     /// What is typed in the form and stored nowhere.
     virtual std::optional<UnstoredForm> unstoredForm() const { return std::nullopt; }
+    /// Whether a newer version of the program wrote these contents.
+    virtual bool isNewer(QByteArrayView contents) const {
+        static_cast<void>(contents);
+        return false;
+    }
     /// For changes that no undo step carries.
     void markChanged();
 
@@ -125,6 +132,7 @@ private:
     void keepBackup(const QString& file);
     void becomeFile(const QString& file, FileIdentity identity);
     void tellChangedState();
+    void noteVersion(QByteArrayView contents);
 
     Desktop& desktop_;
     QString type_;
@@ -136,6 +144,7 @@ private:
     std::unique_ptr<FileLock> lock_;
     QString backedUp_;  ///< the file whose contents before were kept already
     bool readOnly_ = false;
+    bool ofNewerVersion_ = false;
     bool changedBesideStack_ = false;
     bool toldChanged_ = false;
 };

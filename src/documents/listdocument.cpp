@@ -130,6 +130,10 @@ QByteArray ListDocument::archive() const {
     return writeRecords(*list_, layout_);
 }
 
+bool ListDocument::isNewer(QByteArrayView contents) const {
+    return recordVersionOf(contents) > layout_.version;
+}
+
 /// The records never change, so another thread may read them while the list goes on to be another one.
 std::function<QByteArray()> ListDocument::contentsLater() const {
     return [list = list_, &layout = layout_] { return writeRecords(*list, layout); };

@@ -64,6 +64,7 @@ Q_SIGNALS:
 protected:
     QByteArray archive() const;
     Expected<RecordList> unarchive(QByteArrayView data) const;
+    bool isNewer(QByteArrayView contents) const override;
     std::function<QByteArray()> contentsLater() const override;
     std::shared_ptr<const void> contentsVersion() const override { return list_; }
     int recordCount() const override { return count(); }

@@ -93,7 +93,7 @@ QStringList patternsOf(const QByteArrayList& formats) {
 Expected<Image> pictureOfFile(const QString& path) {
     const auto file = FileBytes::open(path);
     if (!file) {
-        return tl::unexpected(openingFailure(path, file.error()));
+        return tl::unexpected(file.error());
     }
     return pictureOfBytes(file->bytes().toByteArray()).map_error([&](const Failure& reason) {
         return openingFailure(path, reason);

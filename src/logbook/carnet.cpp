@@ -86,8 +86,8 @@ const BookDescription& carnetDescription() {
         .words = words,
         .searches = searches,
         .print = Carnet::defaultPrintingSettings(true),
-        .card = [](const RecordList& records, const Desktop& desktop,
-                   const QString&) { return diveCard(divesIn(records), desktop.preferences); },
+        .card = [](const CardRecords& records, const Desktop& desktop,
+                   const QString&) { return diveCard(divesIn(records.chosen()), desktop.preferences); },
         .makeForm = [](Desktop& desktop) -> std::unique_ptr<BookForm> { return std::make_unique<DiveForm>(desktop); },
         .make = [](Desktop& desktop) -> std::unique_ptr<BookBase> { return std::make_unique<Carnet>(desktop); },
     };
@@ -141,7 +141,8 @@ Expected<QByteArray> Carnet::dataRepresentationOfType(const QString& type) {
             return each.produce(*this);
         }
     }
-    return Book::dataRepresentationOfType(type);
+    return type == this->type() ? Book::dataRepresentationOfType(type)
+                                : failure(textWith("Main", "Unknown document type", type));
 }
 
 qint32 Carnet::nextDiveNumber() const {

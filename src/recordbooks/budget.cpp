@@ -167,8 +167,15 @@ class BudgetForm : public RecordBookForm<BudgetControls, Budget> {
 public:
     using RecordBookForm::RecordBookForm;
 
+    QString hint(int control) const override {
+        const bool isUnstored =
+            control == controls().supplement_5Field.index && !state().text(controls().supplement_5Field).isEmpty();
+        return isUnstored ? text("Budget", "Hint not stored") : RecordBookForm::hint(control);
+    }
+
 protected:
     void clear(int) override { state().setDate(controls().miseAJourField, noDate()); }
+    void show(const Budget&) override { state().setText(controls().supplement_5Field, {}); }
 
     void refresh() override {
         state().setText(controls().totalField, shortestText(total()));
@@ -241,7 +248,7 @@ void addCard(CardBuilder& card, qint32 units, float price) {
     card.heading({"Budget", "Money"});
 }
 
-StyledText cardOf(const RecordList& records, const Desktop& desktop, const QString& file) {
+StyledText cardOf(const CardRecords& records, const Desktop& desktop, const QString& file) {
     CardBuilder card({"Budget", "Inventory"});
     for (const RecordPointer& record : records) {
         const auto& service = static_cast<const Budget&>(*record);

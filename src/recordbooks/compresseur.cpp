@@ -318,18 +318,19 @@ void addAnalyses(CardBuilder& card, const Compresseur& service) {
     add({"Compresseur", "Analyse H2O"}, service.anH2O, QStringLiteral("ml/m3"));
 }
 
-StyledText card(const RecordList& records, const Desktop& desktop, const QString& file) {
+StyledText card(const CardRecords& records, const Desktop& desktop, const QString& file) {
     CardBuilder card({"Compresseur", "Inventory"});
-    int position = 0;
-    for (const auto& record : records) {
-        const auto& service = static_cast<const Compresseur&>(*record);
-        if (++position == 1) {
-            // The compressor is that of the first service.
-            card.entry({"Compresseur", "Trade mark"}, service.marque);
-            card.entry({"Compresseur", "Model"}, service.modele);
-        }
+    if (!records.list().empty()) {
+        // The compressor is that of the first service in the list.
+        const auto& first = static_cast<const Compresseur&>(*records.list().front());
+        card.entry({"Compresseur", "Trade mark"}, first.marque);
+        card.entry({"Compresseur", "Model"}, first.modele);
+    }
+    for (std::size_t index = 0; index < records.size(); ++index) {
+        const auto& service = static_cast<const Compresseur&>(*records[index]);
         card.add(QStringLiteral("\r\r------------------------------\r"), plaincolour::black);
-        card.entry({"Compresseur", "Service"}, fillFormat(QStringLiteral("%d\r"), {formatArgument(position)}));
+        card.entry({"Compresseur", "Service"},
+                   fillFormat(QStringLiteral("%d\r"), {formatArgument(records.row(index) + 1)}));
         card.entry({"Compresseur", "Date"}, service.date);
         card.entry({"Compresseur", "Time"}, service.temps.toDateTime().time().toString(u"HH 'h' mm 'min.'"));
         card.entry({"Compresseur", "Sum time"}, service.cumulTemps);

@@ -115,7 +115,7 @@ constexpr Column columns[] = {
      cellHook<inventoryDateCell>},
 };
 
-StyledText card(const RecordList& records, const Desktop& desktop, const QString& file) {
+StyledText card(const CardRecords& records, const Desktop& desktop, const QString& file) {
     CardBuilder card({"Consommables", "Inventory"});
     for (const auto& record : records) {
         const auto& part = static_cast<const Consommables&>(*record);

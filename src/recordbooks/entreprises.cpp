@@ -158,7 +158,7 @@ constexpr Title days[daysInWeek] = {
     {"Entreprises", "Monday"}, {"Entreprises", "Tuesday"},  {"Entreprises", "Wednesday"}, {"Entreprises", "Thursday"},
     {"Entreprises", "Friday"}, {"Entreprises", "Saturday"}, {"Entreprises", "Sunday"}};
 
-StyledText cardOf(const RecordList& records, const Desktop& desktop, const QString& file) {
+StyledText cardOf(const CardRecords& records, const Desktop& desktop, const QString& file) {
     CardBuilder card({"Entreprises", "Inventory"});
     for (std::size_t row = 0; row < records.size(); ++row) {
         const auto& company = static_cast<const Entreprises&>(*records[row]);

@@ -411,7 +411,7 @@ void addPlace(CardBuilder& card, const Epaves& wreck) {
     card.entry({"Epaves", "Remarks"}, wreck.notes);
 }
 
-StyledText card(const RecordList& records, const Desktop& desktop, const QString& file) {
+StyledText card(const CardRecords& records, const Desktop& desktop, const QString& file) {
     const QString separator = QStringLiteral("\r--------------------\r");
     CardBuilder card({"Epaves", "Wrecks"});
     for (const auto& record : records) {

@@ -6,6 +6,7 @@
 #include "recordbooks/recordbooks.h"
 
 #include <array>
+#include <tuple>
 
 namespace tavrel {
 
@@ -43,6 +44,11 @@ void afterReading(Materiel& item, int version) {
     if (version <= 2) {
         const QDate day = QDate::fromString(item.dateAchatMatos.trimmed(), QStringLiteral("d/M/yyyy"));
         item.dateAchat = Date::fromDateTime(day.startOfDay());
+        if (!day.isValid() && !item.dateAchatMatos.trimmed().isEmpty()) {
+            // The present version has no other place for it.
+            const QString line = textWith("Materiel", "Purchase date as text", item.dateAchatMatos);
+            item.notesMatos = item.notesMatos.isEmpty() ? line : item.notesMatos + u'\n' + line;
+        }
     }
     if (version < 2) {
         item.lieuAchatMatos = QStringLiteral("");
@@ -173,6 +179,15 @@ struct MaterielControls : ControlTable<MaterielControls> {
     }
 };
 
+/// What the switch for no inspection hides and sets back.
+struct Inspection {
+    std::array<qint32, 2> switches{};  ///< tank and technician
+    std::array<Date, 3> dates;         ///< last and next inspection, next pressure test
+
+    static Inspection none() { return {{}, {noDate(), noDate(), noDate()}}; }
+    bool operator==(const Inspection&) const = default;
+};
+
 class MaterielForm : public RecordBookForm<MaterielControls, Materiel> {
 public:
     using RecordBookForm::RecordBookForm;
@@ -182,17 +197,43 @@ protected:
         const auto& form = controls();
         state().setInteger(form.matosNoField, qint64(count) + 1);
         state().setDate(form.dateAchatField, today());
+        put(Inspection::none());
+        held_ = shown_ = stored_ = Inspection::none();
+    }
+
+    void show(const Materiel&) override {
+        held_ = current();
+        shown_ = stored_ = isInspected() ? Inspection::none() : held_;
+    }
+
+    void entered(int control) override {
+        const bool isSwitch = control == controls().noInspectionSwitch.index;
+        if (isSwitch && isInspected()) {
+            put(held_);
+        } else if (isSwitch) {
+            stored_ = held_ == shown_ ? shown_ : Inspection::none();
+        } else if (!isInspected()) {
+            takeHidden(control);
+        }
+        RecordBookForm::entered(control);
+    }
+
+    /// What the record has behind the switch stays there, unless the user turned it on.
+    void complete(Materiel& item) override {
+        if (!isInspected()) {
+            std::tie(item.bloc, item.tiv) = std::tie(stored_.switches[0], stored_.switches[1]);
+            std::tie(item.lastRevision, item.nextRevision, item.nextRequalification) =
+                std::tie(stored_.dates[0], stored_.dates[1], stored_.dates[2]);
+        }
     }
 
     void refresh() override {
         const auto& form = controls();
-        const bool inspected = !state().isOn(form.noInspectionSwitch);
-        if (!inspected) {
-            state().setTag(form.blocSwitch, 0);
-            state().setTag(form.tivSwitch, 0);
-            for (const auto& date : {form.lastRevisionField, form.nextRevisionField, form.nextRequalificationField}) {
-                state().setDate(date, noDate());
-            }
+        const bool inspected = isInspected();
+        if (inspected) {
+            held_ = current();
+        } else {
+            put(Inspection::none());
         }
         const bool tank = state().isOn(form.blocSwitch);
         state().setVisible(form.blocSwitch, inspected);
@@ -210,6 +251,45 @@ protected:
     }
 
 private:
+    bool isInspected() const { return !state().isOn(controls().noInspectionSwitch); }
+
+    auto switches() const { return std::array{controls().blocSwitch, controls().tivSwitch}; }
+    auto dates() const {
+        return std::array{controls().lastRevisionField, controls().nextRevisionField,
+                          controls().nextRequalificationField};
+    }
+
+    Inspection current() const {
+        const auto [tank, technician] = switches();
+        const auto [last, next, pressureTest] = dates();
+        return {{state().tag(tank), state().tag(technician)},
+                {state().date(last), state().date(next), state().date(pressureTest)}};
+    }
+
+    void put(const Inspection& values) {
+        for (std::size_t place = 0; place < values.switches.size(); ++place) {
+            state().setTag(switches()[place], values.switches[place]);
+        }
+        for (std::size_t place = 0; place < values.dates.size(); ++place) {
+            state().setDate(dates()[place], values.dates[place]);
+        }
+    }
+
+    /// The command line enters into what the switch hides, too.
+    void takeHidden(int control) {
+        const Inspection typed = current();
+        for (std::size_t place = 0; place < typed.switches.size(); ++place) {
+            if (control == switches()[place].index) {
+                held_.switches[place] = stored_.switches[place] = typed.switches[place];
+            }
+        }
+        for (std::size_t place = 0; place < typed.dates.size(); ++place) {
+            if (control == dates()[place].index) {
+                held_.dates[place] = stored_.dates[place] = typed.dates[place];
+            }
+        }
+    }
+
     void showProgress(bool inspected) {
         const auto& form = controls();
         Materiel dates;
@@ -224,6 +304,10 @@ private:
                         late ? text("Materiel", "Out of date") : text("Materiel", "Elapsed time"));
         state().setColour(form.delaiDepasseField, late ? plaincolour::red : QColor());
     }
+
+    Inspection held_;    ///< as last seen without the switch
+    Inspection shown_;   ///< behind the switch of the record that is shown
+    Inspection stored_;  ///< what is stored while the switch is on
 };
 
 void numberCell(const Materiel&, const TableStyle&, Cell& cell) {
@@ -275,7 +359,7 @@ constexpr Column columns[] = {
     {"progress", {"Materiel", "Label inspection progress"}, 11, Qt::AlignRight, cellHook<progressCell>},
 };
 
-StyledText card(const RecordList& records, const Desktop& desktop, const QString& file) {
+StyledText card(const CardRecords& records, const Desktop& desktop, const QString& file) {
     CardBuilder card({"Materiel", "Inventory"});
     for (const auto& record : records) {
         const auto& item = static_cast<const Materiel&>(*record);

@@ -301,11 +301,11 @@ void addHistory(CardBuilder& card, const Rebreather& intervention) {
     card.entry({"Rebreather", "Remarks"}, intervention.notes);
 }
 
-StyledText card(const RecordList& records, const Desktop& desktop, const QString& file) {
+StyledText card(const CardRecords& records, const Desktop& desktop, const QString& file) {
     const QString separator = QStringLiteral("\r----------------------------------------\r");
     CardBuilder card({"Rebreather", "Inventory"});
-    if (!records.empty()) {
-        addCells(card, static_cast<const Rebreather&>(*records.back()));
+    if (!records.list().empty()) {
+        addCells(card, static_cast<const Rebreather&>(*records.list().back()));
     }
     for (const auto& record : records) {
         card.add(separator, plaincolour::black);

@@ -208,7 +208,7 @@ QString priceList(const Structures& club) {
     return list;
 }
 
-StyledText cardOf(const RecordList& records, const Desktop& desktop, const QString& file) {
+StyledText cardOf(const CardRecords& records, const Desktop& desktop, const QString& file) {
     CardBuilder card({"Structures", "Inventory"});
     for (std::size_t row = 0; row < records.size(); ++row) {
         const auto& club = static_cast<const Structures&>(*records[row]);

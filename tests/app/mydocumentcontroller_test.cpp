@@ -460,6 +460,24 @@ TEST_F(Documents, thatAnotherProgramHasOpenAreOpenedToBeLookedAt) {
     EXPECT_TRUE(app.documents.saveDocument(*window));
 }
 
+TEST_F(Documents, ofANewerVersionAreNotSavedOver) {
+    const QString file = app.savedLogbook(QStringLiteral("dives.carnet"), 2);
+    const QByteArray newer = contentsOf(file).replace("Plongee\x19", "Plongee\x1a");
+    ASSERT_TRUE(writeFile(file, newer));
+    DocumentWindow* window = app.documents.openFile(file);
+    EXPECT_EQ(window->windowTitle(), u"dives.carnet (read-only)[*]");
+    EXPECT_TRUE(window->messageBar().message().contains(u"newer version"));
+    app.frontCarnet().addDive();
+    app.fileDialogs.save = {{file}};
+    EXPECT_FALSE(app.documents.saveDocument(*window));
+    EXPECT_EQ(contentsOf(file), newer);
+    ASSERT_EQ(app.alerts.failures.size(), 1U);
+    app.fileDialogs.save = {{app.path(QStringLiteral("copy.carnet"))}};
+    EXPECT_TRUE(app.documents.saveDocument(*window));
+    EXPECT_EQ(window->windowTitle(), u"copy.carnet[*]");
+    EXPECT_TRUE(window->messageBar().isHidden());
+}
+
 TEST_F(Documents, goBackToTheirBackup) {
     DocumentWindow* window = app.documents.openFile(app.savedLogbook(QStringLiteral("dives.carnet"), 2));
     app.frontCarnet().addDive();

@@ -47,6 +47,18 @@ TEST_F(GuardedFiles, areLeftToTheProgramThatHasThemOpen) {
     EXPECT_EQ(dives().size(), 1U);
 }
 
+TEST_F(GuardedFiles, keepWhatANewerVersionWrote) {
+    done("new Materiel m.materiel");
+    done("add m.materiel");
+    const QString file = path(QStringLiteral("m.materiel"));
+    const QByteArray newer = contentsOf(file).replace("Materiel\x03", "Materiel\x04");
+    writeContents(file, newer);
+    expectRefusals({{"set m.materiel 0 notesMatos=x", 1, "newer version"}});
+    EXPECT_EQ(contentsOf(file), newer);
+    done("set m.materiel 0 notesMatos=x --force");
+    EXPECT_TRUE(contentsOf(file).contains("Materiel\x03"));
+}
+
 TEST_F(GuardedFiles, mayHaveNamesOfAnyBytes) {
     // As a script hands them over: not through text.
     const Outcome outcome =

@@ -93,6 +93,10 @@ TEST_F(ViewCommands, sortClicksTheHeadersAndSavesTheOrder) {
     done("sort b.budget prestation prestation");
     EXPECT_EQ(texts(json("table b.budget --json"), "prestation"), u"Air Gear Nitrox");
     expectRefusals({{"sort b.budget nothing", 2, "nothing"}});
+    EXPECT_TRUE(run("add b.budget supplement_5Field=lamp").error.startsWith(u"supplement_5Field: This label"));
+    writeContents(path(QStringLiteral("old.budget")),
+                  "<plist><array><dict><key>prestation</key><string>Air</string></dict></array></plist>");
+    EXPECT_EQ(at(json("show old.budget --json"), "class version records.0.prestation"), u"Budget|1|Air");
 }
 
 TEST_F(ViewCommands, everyTypeIsMadeByAnyOfItsNames) {

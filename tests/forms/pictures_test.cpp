@@ -67,7 +67,8 @@ TEST_F(Pictures, sayWhatIsWrong) {
     const auto reason = [](const auto& result) {
         return result ? std::string() : result.error().message().toStdString();
     };
-    EXPECT_NE(reason(pictureOfFile(path("none.png"))).find("There is no such file."), std::string::npos);
+    EXPECT_EQ(reason(pictureOfFile(path("none.png"))).find("“none.png” could not be opened: There is no such file."),
+              0U);
     EXPECT_NE(reason(pictureOfFile(written("text.png", "Hello"))).find("is no picture"), std::string::npos);
     ASSERT_TRUE(painted().save(path("in.png")));
     EXPECT_NE(reason(pictureOfFile(written("cut.png", contentsOf(path("in.png")).left(60)))).find("is damaged"),

@@ -38,6 +38,16 @@ TEST_F(BudgetTest, addsUpAllLinesButTheFifthSupplement) {
     EXPECT_EQ(at("totalField").text, u"55.75");
 }
 
+TEST_F(BudgetTest, saysThatTheFifthLabelIsNotStoredAndDropsItWithItsCard) {
+    book->newRecord();
+    EXPECT_EQ(book->form().hint(indexOf("supplement_5Field")), u"");
+    enter("supplement_4Field=lamp|supplement_5Field=suit");
+    EXPECT_EQ(book->form().hint(indexOf("supplement_4Field")), u"");
+    EXPECT_TRUE(book->form().hint(indexOf("supplement_5Field")).contains(u"not stored"));
+    book->form().editFields(Budget());
+    EXPECT_EQ(at("supplement_5Field").text, u"");
+}
+
 TEST_F(BudgetTest, worksOutTheUnitPriceOfCards) {
     book->newRecord();
     EXPECT_FALSE(at("unitesCarte_1Field").enabled || at("prixCarte_4Field").enabled);

@@ -74,6 +74,10 @@ TEST_F(CompresseurTest, writesACardOfTheOperationsDoneUnderTheFirstBrand) {
             "//------------------------------/Service no. 2/Date: 04/06/2024/Running time: 00 h 00 min."
             "/Running time in all: //Operations/- Oil change, synthetic/- Air filter cleaned/- Valves: verified"
             "//Air analyses//Remarks: /--------------------/"));
+    const RecordList list = listOf<Compresseur>({full, other});
+    const QString second = description.card({list, {1}}, desktop.desktop(), QString()).text();
+    EXPECT_TRUE(second.contains(u"Model: Compact") && second.contains(u"Service no. 2\r"));
+    EXPECT_FALSE(second.contains(u"Service no. 1\r"));
 }
 
 TEST_F(CompresseurTest, countsServicesAndNamesThemByTheirDay) {

@@ -59,7 +59,7 @@ TEST_P(RecordBook, givesItsBytesBack) {
         EXPECT_TRUE(field.value(*book->recordAt(0)) == source.value(*distinctRecord(GetParam()))) << item.field;
     }
     // A doubled slot settles with the first reading.
-    const auto again = book->dataRepresentationOfType(book->type());
+    const auto again = book->dataRepresentationOfType(QStringLiteral("Any"));
     ASSERT_TRUE(again);
     EXPECT_EQ(*again, written);
     EXPECT_EQ(*recordClassOf(*again), QString::fromUtf8(description.kind.recordClass));

@@ -35,7 +35,7 @@ TEST_F(MaterielTest, readsVersion2WithItsStateInvoiceAndShop) {
     EXPECT_TRUE(holds(record(), "dateAchat=2003-11-12|equipState=5|factureMatos=1|lieuAchatMatos=Shop|matosNo=nil"));
     // A day that is none is kept as it was written.
     openBought(R"("long ago")", "9600 9600 92 85");
-    EXPECT_TRUE(holds(record(), "dateAchat=nil|dateAchatMatos=long ago"));
+    EXPECT_TRUE(holds(record(), "dateAchat=nil|dateAchatMatos=long ago|notesMatos=Purchase date: long ago"));
 }
 
 TEST_F(MaterielTest, proposesTheNextNumberTodayAndOnePieceWithoutInspection) {
@@ -76,6 +76,34 @@ TEST_F(MaterielTest, hidesWhatAnItemDoesNotHave) {
     EXPECT_EQ(at("blocSwitch").tag, 0);
     EXPECT_EQ(at("tivSwitch").tag, 0);
     EXPECT_TRUE(at("lastRevisionField").date == noDate() && at("nextRequalificationField").date == noDate());
+}
+
+TEST_F(MaterielTest, keepsWhatTheSwitchForNoInspectionHides) {
+    const char* values = "bloc=1|tiv=1|lastRevision=2020-01-01|nextRevision=2021-01-01|nextRequalification=2022-01-01";
+    const char* nothing = "noInspection=1|bloc=0|tiv=0";
+    auto item = filled<Materiel>(values);
+    hold({item});
+    book->userSelects({0});
+    enter("noInspectionSwitch=1|notesMatosField=x");
+    EXPECT_TRUE(holds(*built(), nothing) && built()->lastRevision == noDate());
+    enter("noInspectionSwitch=0");
+    EXPECT_TRUE(holds(*built(), values));
+
+    item.noInspection = 1;
+    book->form().editFields(item);
+    EXPECT_TRUE(at("blocSwitch").tag == 0 && at("nextRevisionField").date == noDate());
+    enter("notesMatosField=x");
+    EXPECT_TRUE(holds(*built(), values));
+    enter("noInspectionSwitch=0|noInspectionSwitch=1");
+    EXPECT_TRUE(holds(*built(), values));
+    enter("noInspectionSwitch=0|nextRevisionField=2030-01-01|noInspectionSwitch=1");
+    EXPECT_TRUE(holds(*built(), nothing) && built()->nextRevision == noDate());
+
+    // The order of entries does not matter, and nothing comes from the record before.
+    book->form().blankFields(1);
+    enter("lastRevisionField=2020-01-01|blocSwitch=1|noInspectionSwitch=0");
+    EXPECT_TRUE(holds(*built(), "noInspection=0|bloc=1|tiv=0|lastRevision=2020-01-01"));
+    EXPECT_TRUE(built()->nextRevision == noDate());
 }
 
 TEST_F(MaterielTest, tellsHowFarTheTimeToTheNextInspectionHasRun) {

@@ -103,6 +103,10 @@ TEST_F(RebreatherTest, writesACardWithTheCellsOfTheLastIntervention) {
                   "//Remarks: fine/----------------------------------------/Date: 04/06/2024//History/Running time: "
                   "/Absorbent time: 00:00 h/- Disinfection/- Cells replaced/- Valve/- Electronic head//Remarks: "
                   "/----------------------------------------/"));
+    const RecordList list = listOf<Rebreather>({first, last});
+    EXPECT_TRUE(description.card({list, {0}}, desktop.desktop(), QString())
+                    .text()
+                    .contains(u"Oxygen cells\rCell 1: 02/01/2024"));
 }
 
 }  // namespace

@@ -25,6 +25,7 @@
 <message><source>Group supplements</source><translation>Supplements (the last line does not count in the total)</translation></message>
 <message><source>Group supplier</source><translation>Supplier</translation></message>
 <message><source>Group total</source><translation>Total</translation></message>
+<message><source>Hint not stored</source><translation>This label is not stored: a card keeps the labels of four supplements.</translation></message>
 <message><source>Inefficient</source><translation>Slow</translation></message>
 <message><source>Inventory</source><translation>Budget forecast</translation></message>
 <message><source>Label card price</source><translation>Price</translation></message>

@@ -282,7 +282,6 @@
 <message><source>No dive to export</source><translation>The logbook holds no dive, and UDDF cannot be written without one.</translation></message>
 <message><source>No dives yet</source><translation>No dives yet. Press %@ to enter the first one.</translation></message>
 <message><source>No notes</source><translation>No notes</translation></message>
-<message><source>No such field</source><translation>Dives have no field "%@" that can be used this way.</translation></message>
 <message><source>No suit</source><translation>No suit</translation></message>
 <message><source>No wind</source><translation>no wind</translation></message>
 <message><source>None</source><translation>None</translation></message>

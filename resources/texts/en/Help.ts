@@ -12,7 +12,7 @@
 <message><source>As one JSON object</source><translation>As one JSON object</translation></message>
 <message><source>COMMANDS</source><translation>COMMANDS</translation></message>
 <message><source>Changes a record through the document's form</source><translation>Changes a record through the document's form</translation></message>
-<message><source>Changes the file although another program has it open or changes it meanwhile</source><translation>Changes the file although another program has it open or changes it meanwhile</translation></message>
+<message><source>Changes the file although another program has it open or changes it meanwhile, or a newer version wrote it</source><translation>Changes the file although another program has it open or changes it meanwhile, or a newer version wrote it</translation></message>
 <message><source>Decimal degrees: ed50-wgs84 (default) or wgs84-ed50</source><translation>Decimal degrees: ed50-wgs84 (default) or wgs84-ed50</translation></message>
 <message><source>Display program version information and exit</source><translation>Display program version information and exit</translation></message>
 <message><source>Diving calculators</source><translation>Diving calculators</translation></message>

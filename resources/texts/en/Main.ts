@@ -78,6 +78,7 @@
 <message><source>File missing</source><translation>There is no such file.</translation></message>
 <message><source>File not readable</source><translation>The file cannot be read.</translation></message>
 <message><source>File not writable</source><translation>The file cannot be written.</translation></message>
+<message><source>File of newer version</source><translation>A newer version of Tavrel wrote the file. What this version does not know of it would be lost by saving over it.</translation></message>
 <message><source>File open elsewhere</source><translation>It is open in %@.</translation></message>
 <message><source>File permission denied</source><translation>You do not have permission to do so.</translation></message>
 <message><source>File removed by another</source><translation>Another program has removed or renamed the file.</translation></message>
@@ -164,6 +165,7 @@
 <message><source>No space left</source><translation>There is not enough space on the disk.</translation></message>
 <message><source>No such field</source><translation>There is no field “%@”.</translation></message>
 <message><source>No such value</source><translation>“%@” cannot be “%@”.</translation></message>
+<message><source>No usable field</source><translation>There is no field “%@” that can be used this way.</translation></message>
 <message><source>No valid datas</source><translation>The values are not valid.</translation></message>
 <message><source>Not a picture format</source><translation>“%@” does not end in .png, .svg or .pdf.</translation></message>
 <message><source>Nothing matches</source><translation>Nothing matches the filter.

@@ -55,6 +55,7 @@
 <message><source>Page remarks</source><translation>Remarks</translation></message>
 <message><source>Price</source><translation>&#13;Price: </translation></message>
 <message><source>Purchase date</source><translation>&#13;Purchase date: </translation></message>
+<message><source>Purchase date as text</source><translation>Purchase date: %@</translation></message>
 <message><source>Purchase location</source><translation>&#13;Place of purchase: </translation></message>
 <message><source>Quantity</source><translation>&#13;Quantity: </translation></message>
 <message><source>Reforme</source><translation>Scrapped</translation></message>

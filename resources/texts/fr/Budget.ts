@@ -25,6 +25,7 @@
 <message><source>Group supplements</source><translation>Suppléments (la dernière ligne ne compte pas dans le total)</translation></message>
 <message><source>Group supplier</source><translation>Prestataire</translation></message>
 <message><source>Group total</source><translation>Total</translation></message>
+<message><source>Hint not stored</source><translation>Ce libellé n’est pas enregistré : une fiche garde les libellés de quatre suppléments.</translation></message>
 <message><source>Inefficient</source><translation>Lent</translation></message>
 <message><source>Inventory</source><translation>Budget prévisionnel</translation></message>
 <message><source>Label card price</source><translation>Prix</translation></message>

@@ -282,7 +282,6 @@
 <message><source>No dive to export</source><translation>Le carnet ne contient aucune plongée, et l’UDDF ne peut s’écrire sans.</translation></message>
 <message><source>No dives yet</source><translation>Aucune plongée. Appuyez sur %@ pour saisir la première.</translation></message>
 <message><source>No notes</source><translation>Pas de notes</translation></message>
-<message><source>No such field</source><translation>Les plongées n’ont pas de champ « %@ » utilisable ainsi.</translation></message>
 <message><source>No suit</source><translation>Sans combinaison</translation></message>
 <message><source>No wind</source><translation>pas de vent</translation></message>
 <message><source>None</source><translation>Nul</translation></message>

@@ -12,7 +12,7 @@
 <message><source>As one JSON object</source><translation>En un objet JSON</translation></message>
 <message><source>COMMANDS</source><translation>COMMANDES</translation></message>
 <message><source>Changes a record through the document's form</source><translation>Modifie une fiche par le formulaire du document</translation></message>
-<message><source>Changes the file although another program has it open or changes it meanwhile</source><translation>Modifie le fichier même si un autre programme l’a ouvert ou le modifie entre-temps</translation></message>
+<message><source>Changes the file although another program has it open or changes it meanwhile, or a newer version wrote it</source><translation>Modifie le fichier même si un autre programme l’a ouvert ou le modifie entre-temps, ou si une version plus récente l’a écrit</translation></message>
 <message><source>Decimal degrees: ed50-wgs84 (default) or wgs84-ed50</source><translation>Degrés décimaux : ed50-wgs84 (par défaut) ou wgs84-ed50</translation></message>
 <message><source>Display program version information and exit</source><translation>Affiche la version du programme et se termine</translation></message>
 <message><source>Diving calculators</source><translation>Calculateurs de plongée</translation></message>

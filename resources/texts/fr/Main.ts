@@ -78,6 +78,7 @@
 <message><source>File missing</source><translation>Ce fichier n’existe pas.</translation></message>
 <message><source>File not readable</source><translation>Le fichier ne peut pas être lu.</translation></message>
 <message><source>File not writable</source><translation>Le fichier ne peut pas être écrit.</translation></message>
+<message><source>File of newer version</source><translation>Une version plus récente de Tavrel a écrit le fichier. Ce que celle-ci n’en connaît pas serait perdu en l’enregistrant par-dessus.</translation></message>
 <message><source>File open elsewhere</source><translation>Il est ouvert dans %@.</translation></message>
 <message><source>File permission denied</source><translation>Vous n’en avez pas l’autorisation.</translation></message>
 <message><source>File removed by another</source><translation>Un autre programme a supprimé ou renommé le fichier.</translation></message>
@@ -164,6 +165,7 @@
 <message><source>No space left</source><translation>Il n’y a plus assez de place sur le disque.</translation></message>
 <message><source>No such field</source><translation>Il n’y a pas de champ « %@ ».</translation></message>
 <message><source>No such value</source><translation>« %@ » ne peut pas valoir « %@ ».</translation></message>
+<message><source>No usable field</source><translation>Il n’y a pas de champ « %@ » utilisable ainsi.</translation></message>
 <message><source>No valid datas</source><translation>Les valeurs ne sont pas valables.</translation></message>
 <message><source>Not a picture format</source><translation>« %@ » ne se termine pas par .png, .svg ou .pdf.</translation></message>
 <message><source>Nothing matches</source><translation>Rien ne correspond au filtre.

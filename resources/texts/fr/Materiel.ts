@@ -55,6 +55,7 @@
 <message><source>Page remarks</source><translation>Remarques</translation></message>
 <message><source>Price</source><translation>&#13;Prix : </translation></message>
 <message><source>Purchase date</source><translation>&#13;Date d’achat : </translation></message>
+<message><source>Purchase date as text</source><translation>Date d’achat : %@</translation></message>
 <message><source>Purchase location</source><translation>&#13;Lieu d’achat : </translation></message>
 <message><source>Quantity</source><translation>&#13;Quantité : </translation></message>
 <message><source>Reforme</source><translation>Réformé</translation></message>

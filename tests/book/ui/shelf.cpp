@@ -24,7 +24,7 @@ void priceCell(const Thing& thing, const TableStyle&, Cell& cell) {
     cell.style.text = thing.price > 10 ? plaincolour::red : plaincolour::black;
 }
 
-StyledText thingCard(const RecordList& records, const Desktop&, const QString& file) {
+StyledText thingCard(const CardRecords& records, const Desktop&, const QString& file) {
     CardBuilder card({"Main", "Materiel"});
     for (const auto& record : records) {
         card.beginRecord();
