@@ -408,6 +408,23 @@ TEST(Udcf, isReadInTheUnitsThatItSays) {
     EXPECT_EQ(found.lost.size(), 3U);
 }
 
+TEST(Udcf, takesUnitsOfPhysicsForWhatTheyAre) {
+    const QByteArray rest =
+        "<SURFACEINTERVAL>5400</SURFACEINTERVAL><DIVETIME>1860</DIVETIME><TEMPERATURE>288</"
+        "TEMPERATURE><GASES><MIX><TANK>"
+        "<TANKVOLUME>0.012</TANKVOLUME><PSTART>20000000</PSTART><PEND>5000000</PEND></TANK></MIX></GASES></DIVE></"
+        "REPGROUP>"
+        "</PROFILE>";
+    const Plongee si = onlyDive("<PROFILE><UNITS>SI</UNITS><REPGROUP><DIVE>" + rest);
+    EXPECT_EQ(fieldsOf(si, "temps tempEau volumeBloc pressionDepart pressionFin surface"),
+              u"31; 15; 12; 200; 50; 01:30");
+    EXPECT_EQ(fieldsOf(onlyDive("<PROFILE><REPGROUP><DIVE>" + rest), "temps pressionFin"), u"31; 50");
+    const Plongee own = onlyDive(
+        "<PROFILE><DEVICE><VENDOR>Tavrel</VENDOR></DEVICE><REPGROUP><DIVE><GASES><MIX><TANK>"
+        "<PSTART>3000</PSTART></TANK></MIX></GASES></DIVE></REPGROUP></PROFILE>");
+    EXPECT_EQ(own.pressionDepart, 3000) << "the logbook's own number, of pounds";
+}
+
 TEST(Udcf, takesDepthsOfNoSenseForNone) {
     const Plongee dive = onlyDive("<PROFILE><REPGROUP><DIVE><MAXDEPTH>" + QByteArray(39, '9') +
                                   "</MAXDEPTH><SAMPLES><DELTA>10</DELTA><D>1</D><D>1e30</D><D>7</D></SAMPLES></DIVE>"
