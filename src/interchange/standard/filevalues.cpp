@@ -71,11 +71,15 @@ qint32 rounded(double value) {
     return std::isnan(value) ? 0 : truncated(std::round(value));
 }
 
+double celsiusOf(double kelvin) {
+    return kelvin < coldestKelvin ? kelvin : kelvin - zeroCelsius;
+}
+
 std::optional<qint32> celsius(std::optional<double> kelvin) {
     if (!kelvin || *kelvin == 0) {
         return std::nullopt;
     }
-    return thinkableCelsius(*kelvin < coldestKelvin ? *kelvin : *kelvin - zeroCelsius);
+    return thinkableCelsius(celsiusOf(*kelvin));
 }
 
 std::optional<qint32> thinkableCelsius(std::optional<double> degrees) {
@@ -95,7 +99,8 @@ std::optional<qint32> waterCelsius(std::optional<double> kelvin) {
 std::optional<double> secondsOf(XmlElement element) {
     static const QRegularExpression clock(QStringLiteral(R"(^(?:(\d{1,3}):)?(\d{1,4}):(\d\d)(?:[.,]\d+)?$)"));
     const auto number = numberOf(element);
-    if (!number) {
+    std::string buffer;
+    if (!number || element.text(buffer).find(':') == std::string_view::npos) {
         return number;
     }
     const auto match = clock.match(wordsOf(element));

@@ -28,8 +28,9 @@ inline constexpr double deepestThinkable = 12'000;
 /// The nearest whole number that 32 bits hold.
 qint32 rounded(double value);
 
-/// Kelvin to whole degrees Celsius; what is too cold for kelvin counts as degrees Celsius. Nothing for 0, which stands
-/// for none, and for what no diver meets.
+/// Kelvin to degrees Celsius; what is too cold for kelvin counts as degrees Celsius.
+double celsiusOf(double kelvin);
+/// The same in whole degrees. Nothing for 0, which stands for none, and for what no diver meets.
 std::optional<qint32> celsius(std::optional<double> kelvin);
 /// Degrees Celsius as whole ones; nothing for what no diver meets.
 std::optional<qint32> thinkableCelsius(std::optional<double> degrees);

@@ -9,6 +9,7 @@
 #include "interchange/standard/gasmix.h"
 #include "interchange/standard/resampling.h"
 #include "interchange/standard/udcfunits.h"
+#include "interchange/standard/unread.h"
 
 #include <algorithm>
 #include <array>
@@ -63,28 +64,28 @@ public:
         readNumbers();
         readGases();
         readSamples();
-        nameLost(dive_, {},
-                 {"PLACE",
-                  "SITE",
-                  "DATE",
-                  "TIME",
-                  "DIVENUMBER",
-                  "MAXDEPTH",
-                  "DIVETIME",
-                  "TEMPERATURE",
-                  "WATERTEMPERATURE",
-                  "AIRTEMPERATURE",
-                  "AIRRTEMPERATURE",
-                  "ALTITUDE",
-                  "SURFACEINTERVAL",
-                  "NOTES",
-                  "WEATHER",
-                  "CURRENT",
-                  "VISIBILITY",
-                  "DIVETYPE",
-                  "GASES",
-                  "DELTAMODE",
-                  "SAMPLES"});
+        loseUnread(found_, dive_, {},
+                   {"PLACE",
+                    "SITE",
+                    "DATE",
+                    "TIME",
+                    "DIVENUMBER",
+                    "MAXDEPTH",
+                    "DIVETIME",
+                    "TEMPERATURE",
+                    "WATERTEMPERATURE",
+                    "AIRTEMPERATURE",
+                    "AIRRTEMPERATURE",
+                    "ALTITUDE",
+                    "SURFACEINTERVAL",
+                    "NOTES",
+                    "WEATHER",
+                    "CURRENT",
+                    "VISIBILITY",
+                    "DIVETYPE",
+                    "GASES",
+                    "DELTAMODE",
+                    "SAMPLES"});
         return std::move(found_);
     }
 
@@ -141,29 +142,34 @@ private:
         const auto degrees = numberOf(element);
         return degrees ? thinkableCelsius(file_.units.celsius(*degrees)) : std::nullopt;
     }
-
-    /// Names the children that nothing reads.
-    void nameLost(XmlElement parent, const char* prefix, std::initializer_list<std::string_view> read) {
-        for (XmlElement it = parent.firstElement(); !it.isNull(); it = it.nextElement()) {
-            if (std::any_of(read.begin(), read.end(), [&](std::string_view name) { return isNamed(it, name); })) {
-                continue;
-            }
-            if (const QString words = wordsOf(it); !words.isEmpty()) {
-                found_.lose(QLatin1String(prefix) + QString::fromUtf8(it.name().data(), qsizetype(it.name().size())),
-                            numberOf(it) ? QString() : words.simplified());
-            }
+    /// Names an element that was read but not understood.
+    void loseUnless(bool understood, XmlElement element) {
+        if (!understood && !file_.own) {
+            const std::string_view name = element.name();
+            loseValue(found_, element, QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
         }
     }
 
     void readNumbers() {
         Plongee& dive = found_.dive;
         dive.noPlongee = rounded(std::clamp(numberOf(child({"DIVENUMBER"})).value_or(0), 0.0, 1e9));
+        loseUnless(dive.noPlongee > 0, child({"DIVENUMBER"}));
         dive.profondeur = static_cast<float>(std::max(0.0, depthOf(child({"MAXDEPTH"})).value_or(0)));
-        dive.temps = rounded(std::clamp(numberOf(child({"DIVETIME"})).value_or(0), 0.0, 1e6));
-        dive.tempEau = ofWater(temperature(child({"TEMPERATURE", "WATERTEMPERATURE"}))).value_or(temperatureNotGiven);
-        dive.tempAir = temperature(child({"AIRTEMPERATURE", "AIRRTEMPERATURE"})).value_or(temperatureNotGiven);
+        loseUnless(dive.profondeur > 0, child({"MAXDEPTH"}));
+        told_ = file_.units.seconds(std::clamp(numberOf(child({"DIVETIME"})).value_or(0), 0.0, 1e6));
+        dive.temps = rounded(told_ / 60);
+        loseUnless(told_ > 0, child({"DIVETIME"}));
+        const XmlElement waterElement = child({"TEMPERATURE", "WATERTEMPERATURE"});
+        const auto water = ofWater(temperature(waterElement));
+        dive.tempEau = water.value_or(temperatureNotGiven);
+        loseUnless(water.has_value(), waterElement);
+        const XmlElement airElement = child({"AIRTEMPERATURE", "AIRRTEMPERATURE"});
+        const auto air = temperature(airElement);
+        dive.tempAir = air.value_or(temperatureNotGiven);
+        loseUnless(air.has_value(), airElement);
         const double altitude = metres(numberOf(child({"ALTITUDE"})).value_or(0));
         dive.altitude = altitude > 0 && altitude <= highestAltitude ? rounded(altitude) : 0;
+        loseUnless(dive.altitude > 0, child({"ALTITUDE"}));
         readSurfaceInterval(wordsOf(child({"SURFACEINTERVAL"})));
         if (const QString notes = wordsOf(child({"NOTES"})); !notes.isEmpty()) {
             dive.notes = notes;
@@ -171,9 +177,9 @@ private:
         // The handheld tells positions in the form's menus.
         const auto choose = [&](const char* name, std::span<const Choice> menu, qint32& tag) {
             const auto position = numberOf(child({name}));
-            if (position && *position >= 0 && *position < static_cast<double>(menu.size())) {
-                tag = menu[static_cast<std::size_t>(*position)].tag;
-            }
+            const bool isOne = position && *position >= 0 && *position < static_cast<double>(menu.size());
+            tag = isOne ? menu[static_cast<std::size_t>(*position)].tag : tag;
+            loseUnless(isOne, child({name}));
         };
         choose("WEATHER", choices::weather, dive.meteo);
         choose("CURRENT", choices::current, dive.courant);
@@ -183,10 +189,12 @@ private:
 
     /// "infinity" for the first dive of a series, minutes, or hours and minutes.
     void readSurfaceInterval(const QString& words) {
+        constexpr double shortest = 600;  // seconds; surfacing for less is within one dive
         bool isNumber = false;
-        const int minutes = words.toInt(&isNumber);
-        if (isNumber && minutes > 0) {
-            found_.dive.surface = intervalText(minutes);
+        const double told = words.toDouble(&isNumber);
+        if (isNumber && told > 0 && told < 1e8) {
+            const bool inSeconds = file_.units.inSeconds() && told >= shortest;
+            found_.dive.surface = intervalText(rounded(inSeconds ? told / 60 : told));
         } else if (words.contains(u':')) {
             found_.dive.surface = words;
         } else if (!isNumber && !words.isEmpty() && words.compare(u"infinity", Qt::CaseInsensitive) != 0) {
@@ -197,14 +205,14 @@ private:
     void readGases() {
         Plongee& dive = found_.dive;
         std::size_t tanks = 0;
-        nameLost(child({"GASES"}), "GASES/", {"MIX"});
+        loseUnread(found_, child({"GASES"}), QStringLiteral("GASES/"), {"MIX"});
         for (const XmlElement mix : childrenOf(child({"GASES"}), "MIX")) {
             const QString name = wordsOf(childOf(mix, {"MIXNAME"}));
             const auto oxygen = numberOf(childOf(mix, {"O2"}));
             const GasMix gas = oxygen && *oxygen > 0 ? gasMix(*oxygen, numberOf(childOf(mix, {"HE"})).value_or(0), name)
                                                      : gasMixNamed(name);
             mixes_.emplace_back(name, gas);
-            nameLost(mix, "MIX/", {"MIXNAME", "TANK", "O2", "N2", "HE"});
+            loseUnread(found_, mix, QStringLiteral("MIX/"), {"MIXNAME", "TANK", "O2", "N2", "HE"});
             auto its = childrenOf(mix, "TANK");
             if (its.empty()) {
                 its.emplace_back();
@@ -212,7 +220,7 @@ private:
             for (const XmlElement tank : its) {
                 const double size = numberOf(childOf(tank, {"TANKVOLUME"})).value_or(0);
                 const qint32 volume = rounded(file_.units.litres(size));
-                nameLost(tank, "TANK/", {"TANKVOLUME", "PSTART", "PEND"});
+                loseUnread(found_, tank, QStringLiteral("TANK/"), {"TANKVOLUME", "PSTART", "PEND"});
                 const qint32 start = rounded(pressure(childOf(tank, {"PSTART"})));
                 const qint32 end = rounded(pressure(childOf(tank, {"PEND"})));
                 if (tanks == 0) {
@@ -230,8 +238,9 @@ private:
         }
     }
 
-    double pressure(XmlElement element) const {
-        return file_.units.bars(std::clamp(numberOf(element).value_or(0), 0.0, 1e6));
+    double pressure(XmlElement element) {
+        loseUnless(numberOf(element).value_or(0) > 0, element);
+        return file_.units.bars(std::clamp(numberOf(element).value_or(0), 0.0, 1e9));
     }
 
     void readSamples() {
@@ -262,7 +271,7 @@ private:
                 switches.emplace_back(moment, wordsOf(it));
             }
         }
-        nameLost(samples, "SAMPLES/", {"DELTA", "T", "D", "ALARM", "SWITCH"});
+        loseUnread(found_, samples, QStringLiteral("SAMPLES/"), {"DELTA", "T", "D", "ALARM", "SWITCH"});
         if (file_.own && depths.size() >= 2) {
             withoutSurface(depths, raised, delta);
         }
@@ -297,8 +306,11 @@ private:
         if (!sampled) {
             return sampled;
         }
-        if (dive.temps == 0) {
-            dive.temps = rounded(depths.back().seconds / 60);
+        // Minutes where seconds were said show by the samples.
+        const double last = depths.back().seconds;
+        const bool inMinutes = file_.units.inSeconds() && last > 20 * told_ && std::abs(60 * told_ - last) < 300;
+        if (dive.temps == 0 || inMinutes) {
+            dive.temps = rounded(last / 60);
         }
         dive.samplingRate = sampled->code;
         dive.profilProfondeur = Series::ofReals(sampled->depths);
@@ -373,6 +385,7 @@ private:
     XmlElement dive_;
     const File& file_;
     FoundDive found_;
+    double told_ = 0;  // how long the file says that the dive was, seconds
     std::vector<std::pair<QString, GasMix>> mixes_;
 };
 
@@ -388,13 +401,12 @@ FoundDives readUdcf(XmlElement root, const Progress& progress) {
         const auto its = childrenOf(group, "DIVE");
         dives.insert(dives.end(), its.begin(), its.end());
     }
-    const bool imperial =
-        wordsOf(childOf(root, {"UNITS"})).compare(QLatin1String("IMPERIAL"), Qt::CaseInsensitive) == 0;
     // This program's exports name it as the maker, in either vocabulary.
     const bool own = wordsOf(childOf(childOf(root, {"DEVICE"}), {"VENDOR"})).startsWith(QLatin1String("Tavrel")) ||
                      wordsOf(childOf(childOf(root, {"generator"}), {"name"})).startsWith(QLatin1String("Tavrel"));
     const XmlElement device = childOf(root, {"DEVICE"});
-    const File file{UdcfUnits(imperial), own, own ? QString() : wordsOf(childOf(device, {"VENDOR"})),
+    const File file{UdcfUnits(wordsOf(childOf(root, {"UNITS"})), own), own,
+                    own ? QString() : wordsOf(childOf(device, {"VENDOR"})),
                     own ? QString() : wordsOf(childOf(device, {"MODEL"}))};
     FoundDives found;
     found.asStored = own;

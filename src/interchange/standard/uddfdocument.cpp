@@ -36,7 +36,8 @@ std::string uddfReference(XmlElement element) {
     return first == std::string_view::npos ? std::string() : std::string(reference.substr(first, last - first + 1));
 }
 
-UddfDocument::UddfDocument(XmlElement root) : root_(root) {
+UddfDocument::UddfDocument(XmlElement root)
+    : root_(root), isOwn_(wordsOf(root.first("generator").first("name")).startsWith(QLatin1String("Tavrel"))) {
     for (XmlElement part = root.firstElement(); !part.isNull(); part = part.nextElement()) {
         // The dives are walked by themselves; their ids stay theirs.
         if (part.name() != "profiledata") {
@@ -82,6 +83,11 @@ XmlElement UddfDocument::withId(const std::string& id, std::string_view name) co
 GasMix UddfDocument::mix(const std::string& id) const {
     const auto found = mixes_.find(id);
     return found == mixes_.end() ? GasMix() : found->second;
+}
+
+std::string UddfDocument::mixOfTank(const std::string& id) const {
+    std::string mix = uddfReference(withId(id, "tank").first("link"));
+    return isMix(mix) ? mix : std::string();
 }
 
 XmlElement UddfDocument::onlyPiece(const char* name) const {

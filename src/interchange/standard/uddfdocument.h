@@ -22,6 +22,8 @@ public:
     explicit UddfDocument(XmlElement root);
 
     XmlElement root() const { return root_; }
+    /// Whether this program wrote the file, from the numbers of a logbook.
+    bool isOwn() const { return isOwn_; }
     /// All elements of an id, in the file's order: files that count each kind from 1 use one for several.
     std::vector<XmlElement> withId(const std::string& id) const;
     /// The element of an id that has this name; null when there is none.
@@ -29,6 +31,8 @@ public:
     bool isMix(const std::string& id) const { return mixes_.count(id) > 0; }
     /// The gas of an id; air for one that the file does not define.
     GasMix mix(const std::string& id) const;
+    /// The id of the gas that a tank among the equipment holds; empty when that does not say.
+    std::string mixOfTank(const std::string& id) const;
     const std::vector<std::string>& mixIds() const { return mixIds_; }
 
     /// The owner's only piece of equipment of that name; null when there is none or more than one.
@@ -38,6 +42,7 @@ private:
     void collect(XmlElement parent);
 
     XmlElement root_;
+    bool isOwn_;
     std::unordered_multimap<std::string, XmlElement> byId_;
     std::unordered_map<std::string, GasMix> mixes_;
     std::vector<std::string> mixIds_;

@@ -2,12 +2,14 @@
 
 #include "interchange/standard/filevalues.h"
 #include "interchange/standard/uddfdocument.h"
+#include "interchange/standard/uddfwords.h"
+#include "interchange/standard/unread.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
-#include <set>
+#include <string>
 
 namespace tavrel {
 
@@ -15,7 +17,6 @@ namespace {
 
 constexpr double latestMoment = 1e9;  // seconds
 constexpr double unknownMoment = -1;
-constexpr double latestStart = 86'400;  // seconds; a first waypoint behind it counts from another moment
 
 template <class Item>
 void sortByTime(std::vector<Item>& items, double (*timeOf)(const Item&)) {
@@ -29,15 +30,22 @@ double momentOf(const TimedValue& value) {
     return value.seconds;
 }
 
-/// One value at each moment, the last of those that the file gives it.
-void uniteMoments(std::vector<TimedValue>& values) {
+double laterOf(double, double later) {
+    return later;
+}
+double deeperOf(double one, double other) {
+    return std::max(one, other);
+}
+
+/// One value at each moment, chosen of those that the file gives it in the order of the file.
+void uniteMoments(std::vector<TimedValue>& values, double (*chosen)(double, double)) {
     sortByTime(values, momentOf);
     std::size_t kept = 0;
-    for (std::size_t index = 0; index < values.size(); ++index) {
-        if (kept > 0 && values[kept - 1].seconds == values[index].seconds) {
-            values[kept - 1] = values[index];
+    for (const TimedValue& it : values) {
+        if (kept > 0 && values[kept - 1].seconds == it.seconds) {
+            values[kept - 1].value = chosen(values[kept - 1].value, it.value);
         } else {
-            values[kept++] = values[index];
+            values[kept++] = it;
         }
     }
     values.resize(kept);
@@ -50,6 +58,9 @@ public:
     void read(XmlElement waypoint, double moment) {
         moment_ = moment;
         profile_.lastMoment = std::max(profile_.lastMoment, moment_);
+        if (waypoint.firstElement().isNull() && waypoint.hasAttributes()) {
+            found_.lose(QStringLiteral("samples"));
+        }
         for (XmlElement it = waypoint.firstElement(); !it.isNull(); it = it.nextElement()) {
             take(it, it.name());
         }
@@ -57,10 +68,8 @@ public:
 
     /// Names what the waypoints held beyond the profile.
     void tellLost() {
-        for (const std::string_view name : unknown_) {
-            const QString words = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
-            found_.lose(QStringLiteral("waypoint/") + words);
-        }
+        unknown_.tell(found_, QStringLiteral("waypoint/"));
+        unknownAlarms_.tell(found_, QStringLiteral("alarm "));
     }
 
 private:
@@ -71,19 +80,23 @@ private:
         if (name == "depth") {
             if (const auto depth = numberOf(it); depth && std::abs(*depth) <= deepestThinkable) {
                 profile_.depths.push_back({moment_, *depth});
+            } else if (!wordsOf(it).isEmpty()) {
+                unknown_.add(name, it);
             }
         } else if (name == "temperature") {
             const auto kelvin = numberOf(it);
             if (waterCelsius(kelvin)) {
                 profile_.lowestTemperature = std::min(profile_.lowestTemperature.value_or(*kelvin), *kelvin);
-                unknown_.insert(name);
+                unknown_.add(name);
             }
         } else if (name == "tankpressure") {
             if (const auto bar = bars(numberOf(it))) {
                 profile_.pressures[std::string(it.attribute("ref"))].push_back({moment_, *bar});
             }
         } else if (name == "switchmix") {
-            profile_.switches.push_back({moment_, uddfReference(it)});
+            profile_.switches.push_back({moment_, uddfReference(it), {}});
+        } else if (name == "switchtank") {
+            profile_.switches.push_back({moment_, {}, uddfReference(it)});
         } else if (name == "alarm") {
             takeAlarm(it);
         } else if (name == "setpo2") {
@@ -96,8 +109,11 @@ private:
             if (profile_.modes.empty() || profile_.modes.back() != mode) {
                 profile_.modes.push_back(mode);
             }
+            if (!mode.empty() && !isCircuit(QString::fromStdString(mode))) {
+                unknown_.add("divemode " + mode);
+            }
         } else {
-            unknown_.insert(name);
+            unknown_.add(name, it);
         }
     }
 
@@ -113,14 +129,15 @@ private:
         } else if (kind == QLatin1String("surface")) {
             profile_.alarms.emplace_back(moment_, UddfProfile::Alarm::surface);
         } else if (!kind.isEmpty()) {
-            found_.lose(QStringLiteral("alarm ") + kind.left(40));
+            unknownAlarms_.add(kind.left(40).toStdString());
         }
     }
 
     UddfProfile& profile_;
     FoundDive& found_;
     double moment_ = 0;
-    std::set<std::string_view> unknown_;
+    LostNames unknown_;
+    LostNames unknownAlarms_;
 };
 
 /// Gives each waypoint a moment: what lies between two known ones is spread evenly, what comes after goes on in the
@@ -150,10 +167,53 @@ void fillMoments(std::vector<double>& moments) {
     }
 }
 
+/// Spreads waypoints of one moment and different depths evenly up to the next: times in whole minutes, say. One that
+/// repeats the depth before it tells something else of the same moment, which it keeps.
+void spreadMoments(const std::vector<XmlElement>& waypoints, std::vector<double>& moments) {
+    constexpr double widest = 60;  // seconds
+    double step = widest;
+    for (std::size_t first = 0; first < moments.size();) {
+        const double moment = moments[first];
+        std::size_t behind = first + 1;
+        while (behind < moments.size() && moments[behind] == moment) {
+            ++behind;
+        }
+        const double next = behind < moments.size() && moments[behind] > moment ? moments[behind] - moment : step;
+        if (behind - first > 1) {
+            std::vector<std::size_t> places;  // how many depths lie before each waypoint of the moment
+            std::optional<double> before;
+            std::size_t depths = 0;
+            for (std::size_t index = first; index < behind; ++index) {
+                const auto depth = numberOf(waypoints[index].first("depth"));
+                depths += depth && before && *depth != *before ? 1 : 0;
+                before = depth ? depth : before;
+                places.push_back(depths);
+            }
+            for (std::size_t index = first; index < behind; ++index) {
+                moments[index] = moment + std::min(step, next) * static_cast<double>(places[index - first]) /
+                                              static_cast<double>(depths + 1);
+            }
+        }
+        step = std::min(next, widest);
+        first = behind;
+    }
+}
+
+/// Whether times that begin there, seconds, count from another moment than the dive's start: a clock's, say.
+bool beginElsewhere(double start, double length, double duration) {
+    constexpr double tenMinutes = 600;
+    constexpr double hour = 3600;
+    constexpr double day = 24 * hour;
+    return start > day || (duration > 0 ? start > tenMinutes && start >= duration : start > hour && start > 2 * length);
+}
+
 /// Moves everything to the start of the dive where the waypoints count from another moment.
-void moveToStart(UddfProfile& profile) {
-    const double start = profile.depths.empty() ? 0 : profile.depths.front().seconds;
-    if (start <= latestStart) {
+void moveToStart(UddfProfile& profile, double duration) {
+    if (profile.depths.empty()) {
+        return;
+    }
+    const double start = profile.depths.front().seconds;
+    if (!beginElsewhere(start, profile.depths.back().seconds - start, duration)) {
         return;
     }
     const auto moved = [start](double& moment) { moment = std::max(0.0, moment - start); };
@@ -208,18 +268,29 @@ std::string UddfProfile::mode() const {
     return closed != modes.end() ? *closed : modes.empty() ? std::string() : modes.front();
 }
 
-UddfProfile readUddfProfile(XmlElement dive, FoundDive& found, const std::function<bool()>& goesOn) {
+bool UddfProfile::findGases(const std::map<std::string, std::string>& mixOfTank) {
+    for (Switch& it : switches) {
+        if (const auto its = mixOfTank.find(it.tank); its != mixOfTank.end() && !it.tank.empty()) {
+            it.mix = its->second;
+        }
+    }
+    return std::erase_if(switches, [](const Switch& it) { return !it.tank.empty() && it.mix.empty(); }) == 0;
+}
+
+UddfProfile readUddfProfile(XmlElement dive, double duration, FoundDive& found, const std::function<bool()>& goesOn) {
     constexpr std::size_t waypointsPerLook = 4096;
     std::vector<XmlElement> waypoints;
     std::vector<double> moments;
     for (const XmlElement samples : dive.children("samples")) {
+        loseUnread(found, samples, QStringLiteral("samples/"), {"waypoint"});
         for (const XmlElement waypoint : samples.children("waypoint")) {
-            const double moment = numberOf(waypoint.first("divetime")).value_or(-1);
+            const double moment = secondsOf(waypoint.first("divetime")).value_or(-1);
             waypoints.push_back(waypoint);
             moments.push_back(moment >= 0 && moment <= latestMoment ? moment : unknownMoment);
         }
     }
     fillMoments(moments);
+    spreadMoments(waypoints, moments);
     UddfProfile profile;
     WaypointReader reader(profile, found);
     for (std::size_t index = 0; index < waypoints.size(); ++index) {
@@ -229,12 +300,12 @@ UddfProfile readUddfProfile(XmlElement dive, FoundDive& found, const std::functi
         reader.read(waypoints[index], moments[index]);
     }
     reader.tellLost();
-    uniteMoments(profile.depths);
+    uniteMoments(profile.depths, deeperOf);
     for (auto& [tank, values] : profile.pressures) {
-        uniteMoments(values);
+        uniteMoments(values, laterOf);
     }
     sortByTime<UddfProfile::Switch>(profile.switches, [](const UddfProfile::Switch& it) { return it.seconds; });
-    moveToStart(profile);
+    moveToStart(profile, duration);
     return profile;
 }
 

@@ -18,6 +18,7 @@ struct UddfProfile {
     struct Switch {
         double seconds;
         std::string mix;
+        std::string tank;  ///< whose gas it is, where the file names that instead
     };
 
     std::vector<TimedValue> depths;
@@ -36,11 +37,14 @@ struct UddfProfile {
     std::string mode() const;
     /// When the diver was deepest.
     double deepestMoment() const;
+    /// Gives the switches to tanks the gases of these. One that leads to no gas is left out, and false comes back.
+    bool findGases(const std::map<std::string, std::string>& mixOfTank);
 };
 
 /// Reads the waypoints of one or more samples elements, naming in the dive what they hold beyond a profile. Waypoints
-/// without a time lie evenly between those beside them that have one, and go on in the last step. Ends early once
-/// `goesOn`, asked now and then, is false.
-UddfProfile readUddfProfile(XmlElement dive, FoundDive& found, const std::function<bool()>& goesOn);
+/// without a time lie evenly between those beside them that have one, and go on in the last step; depths that share one
+/// lie evenly up to the next. Where the first lies behind the end of a dive of `duration` seconds, 0 for not known, the
+/// times count from another moment and are taken from it on. Ends early once `goesOn`, asked now and then, is false.
+UddfProfile readUddfProfile(XmlElement dive, double duration, FoundDive& found, const std::function<bool()>& goesOn);
 
 }  // namespace tavrel

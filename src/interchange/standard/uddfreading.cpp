@@ -1,56 +1,25 @@
 #include "interchange/standard/uddfreading.h"
 
-#include "calculators/position.h"
 #include "dives/divelimits.h"
-#include "dives/divetanks.h"
 #include "interchange/standard/filetime.h"
 #include "interchange/standard/filevalues.h"
 #include "interchange/standard/uddfdocument.h"
+#include "interchange/standard/uddfpieces.h"
 #include "interchange/standard/uddfprofile.h"
 #include "interchange/standard/uddfstart.h"
 #include "interchange/standard/uddftanks.h"
 #include "interchange/standard/uddfwords.h"
+#include "interchange/standard/unread.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <functional>
-#include <set>
+#include <map>
 
 namespace tavrel {
 
 namespace {
-
-/// The texts of notes: paragraphs in newer files, texts in older ones, or the element's own.
-QString notesOf(XmlElement notes) {
-    QStringList paragraphs;
-    bool inParts = false;
-    for (XmlElement it = notes.firstElement(); !it.isNull(); it = it.nextElement()) {
-        if (it.name() == "para" || it.name() == "text") {
-            paragraphs.append(it.text());
-            inParts = true;
-        }
-    }
-    return inParts ? paragraphs.join(u'\n') : wordsOf(notes);
-}
-
-QString withoutRepeats(QStringList words) {
-    words.removeAll(QString());
-    words.removeDuplicates();
-    return words.join(QStringLiteral(", "));
-}
-
-QString personName(XmlElement person) {
-    const XmlElement personal = person.first("personal");
-    const XmlElement holder = personal.isNull() ? person : personal;
-    QStringList parts;
-    for (const char* part : {"firstname", "middlename", "lastname"}) {
-        if (const QString words = wordsOf(holder.first(part)); !words.isEmpty()) {
-            parts.append(words);
-        }
-    }
-    return parts.isEmpty() ? wordsOf(person.first("name")) : parts.join(u' ');
-}
 
 /// One dive, read part by part.
 class DiveReader {
@@ -67,26 +36,18 @@ public:
     }
 
     FoundDive read() {
-        const UddfProfile profile = readUddfProfile(dive_, found_, goesOn_);
+        UddfProfile profile = readUddfProfile(dive_, secondsOf(element("diveduration")).value_or(0), found_, goesOn_);
         readStart();
         readNumbers(profile);
         readSurfaceInterval();
         readWords();
         readApparatus(profile);
-        for (const XmlElement part : parts_) {
-            for (const XmlElement link : part.children("link")) {
-                follow(uddfReference(link));
-            }
-            for (const XmlElement used : part.children("equipmentused")) {
-                for (const XmlElement link : used.children("link")) {
-                    follow(uddfReference(link));
-                }
-            }
-            follow(part.first("tripmembership"));
+        readLinks();
+        const std::optional<Resampled> samples = readSamples(profile);
+        if (!samples) {
+            loseValue(found_, element("averagedepth"), QStringLiteral("averagedepth"));
         }
-        finishWords();
-        std::optional<Resampled> samples = readSamples(profile);
-        giveUddfTanks(document_, parts_, profile, namedMix_, samples, found_);
+        giveUddfTanks(document_, parts_, profile, pieces_.equipment(), samples, found_);
         nameLost();
         return std::move(found_);
     }
@@ -105,40 +66,79 @@ private:
     }
     std::optional<double> number(const char* name) const { return numberOf(element(name)); }
 
+    /// Names an element that was read but not understood.
+    void loseUnless(bool understood, const char* name) {
+        if (!understood) {
+            loseValue(found_, element(name), QLatin1String(name));
+        }
+    }
+
     void readStart() {
-        if (const auto start = uddfStart(parts_)) {
+        const auto start = uddfStart(parts_);
+        if (start) {
             setStart(found_.dive, start->day, start->time);
+            loseUnless(start->time.isValid(), "time");
+        } else if (!wordsOf(element("datetime")).startsWith(QLatin1String("0001-01-01"))) {
+            loseUnless(false, "datetime");
+            loseUnless(false, "date");
         }
     }
 
     void readNumbers(const UddfProfile& profile) {
         Plongee& dive = found_.dive;
         dive.noPlongee = rounded(std::clamp(number("divenumber").value_or(0), 0.0, 1e9));
-        const double depth = greatestDepth();
-        dive.profondeur = static_cast<float>(depth > 0 ? depth : profile.deepest());
+        loseUnless(dive.noPlongee > 0, "divenumber");
+        const double depth = greatestDepth(profile);
+        dive.profondeur = static_cast<float>(depth);
+        loseUnless(depth == number("greatestdepth"), "greatestdepth");
         dive.temps = minutes(profile);
         const auto coldest = waterCelsius(number("lowesttemperature"));
         dive.tempEau = (coldest ? coldest : waterCelsius(profile.lowestTemperature)).value_or(temperatureNotGiven);
-        dive.tempAir = celsius(number("airtemperature")).value_or(temperatureNotGiven);
+        loseUnless(coldest || isZeroFahrenheit(number("lowesttemperature")), "lowesttemperature");
+        const auto air = celsius(number("airtemperature"));
+        dive.tempAir = air.value_or(temperatureNotGiven);
+        loseUnless(air.has_value(), "airtemperature");
         dive.altitude = altitude();
-        const double lead =
-            number("leadquantity").value_or(numberOf(element("equipmentused").first("leadquantity")).value_or(0));
-        dive.lestage = static_cast<float>(lead > 0 && lead < 1000 ? lead : 0);
+        loseUnless(dive.altitude > 0, "altitude");
+        const XmlElement used = element("equipmentused").first("leadquantity");
+        const XmlElement lead = number("leadquantity") ? element("leadquantity") : used;
+        const double kilograms = numberOf(lead).value_or(0);
+        if (kilograms > 0 && kilograms < 1000) {
+            dive.lestage = static_cast<float>(kilograms);
+        } else {
+            loseValue(found_, lead, QStringLiteral("leadquantity"));
+        }
     }
 
-    /// A depth of no sense is none.
-    double greatestDepth() const {
-        const double depth = number("greatestdepth").value_or(0);
-        return depth < deepestThinkable ? depth : 0;
+    /// Computers that count in Fahrenheit have it for a temperature that they did not measure.
+    static bool isZeroFahrenheit(std::optional<double> kelvin) { return kelvin && std::abs(*kelvin - 255.37) < 0.1; }
+
+    /// What the dive says, unless it makes no sense or the waypoints show that it cannot be; then what these show.
+    double greatestDepth(const UddfProfile& profile) const {
+        constexpr double apart = 0.5;  // metres
+        const double told = number("greatestdepth").value_or(0);
+        const double shown = profile.deepest();
+        if (!(told > 0 && told < deepestThinkable)) {
+            return shown;
+        }
+        const bool areShown = shown > 0 && shown <= implausibleDepth && !document_.isOwn();
+        return areShown && (told > implausibleDepth || told < shown - apart) ? shown : told;
     }
 
-    /// Seconds as whole minutes; a duration that only makes sense as minutes is taken for them.
-    qint32 minutes(const UddfProfile& profile) const {
+    /// Seconds as whole minutes; a duration that only makes sense as minutes is taken for them, and one beyond a day
+    /// gives way to the last waypoint.
+    qint32 minutes(const UddfProfile& profile) {
+        constexpr double day = 86'400;
+        const double last = profile.lastMoment;
         double seconds = secondsOf(element("diveduration")).value_or(0);
         if (!(seconds > 0)) {
-            seconds = profile.lastMoment;
-        } else if (profile.lastMoment > 20 * seconds && std::abs(seconds * 60 - profile.lastMoment) < 300) {
+            loseUnless(false, "diveduration");
+            seconds = last;
+        } else if (last > 20 * seconds && std::abs(seconds * 60 - last) < 300) {
             seconds *= 60;
+        } else if (seconds > day && !document_.isOwn() && (last > 0 || seconds > double{mostSamples})) {
+            loseUnless(std::abs(seconds - last) < 60, "diveduration");
+            seconds = last;
         }
         return rounded(std::min(seconds, 1e9) / 60);
     }
@@ -163,21 +163,42 @@ private:
         const auto seconds = numberOf(interval.first("passedtime"));
         if (seconds && *seconds > 0 && *seconds < 1e9) {
             found_.dive.surface = intervalText(rounded(*seconds / 60));
+        } else {
+            loseValue(found_, interval.first("passedtime"), QStringLiteral("surfaceinterval/passedtime"));
         }
+        loseUnread(found_, interval, QStringLiteral("surfaceinterval/"), {"passedtime", "infinity"});
     }
 
     void readWords() {
         Plongee& dive = found_.dive;
-        dive.notes = notesOf(element("notes"));
+        QStringList notes;
+        for (const XmlElement part : parts_) {
+            for (const XmlElement it : part.children("notes")) {
+                notes.append(notesOf(it));
+            }
+        }
+        notes.removeAll(QString());
+        notes.removeDuplicates();
+        dive.notes = notes.isEmpty() ? QStringLiteral("") : notes.join(u'\n');
         if (const auto metres = number("visibility"); metres && *metres > 0) {
             dive.visibilite = visibilityRating(*metres);
+        } else {
+            loseUnless(false, "visibility");
         }
-        dive.courant = currentOf(wordsOf(element("current"))).value_or(dive.courant);
-        dive.typePlongee = purposeOf(wordsOf(element("purpose"))).value_or(dive.typePlongee);
-        dive.deco =
-            wordsOf(element("diveplan")) == QLatin1String("table") ? DecoMethod::airTables : DecoMethod::computer;
+        const auto current = currentOf(wordsOf(element("current")));
+        dive.courant = current.value_or(dive.courant);
+        loseUnless(current.has_value(), "current");
+        const QString purpose = wordsOf(element("purpose"));
+        dive.typePlongee = purposeOf(purpose).value_or(dive.typePlongee);
+        loseUnless(dive.typePlongee != DiveKind::other || purpose == QLatin1String("other"), "purpose");
+        const QString plan = wordsOf(element("diveplan"));
+        dive.deco = plan == QLatin1String("table") ? DecoMethod::airTables : DecoMethod::computer;
+        loseUnless(dive.deco == DecoMethod::airTables || plan == QLatin1String("dive-computer") ||
+                       plan == QLatin1String("none"),
+                   "diveplan");
         const XmlElement rating = element("rating");
         dive.inoubliable = ratingOf(numberOf(rating.first("ratingvalue")).value_or(numberOf(rating).value_or(0)));
+        loseUnless(dive.inoubliable != Rating::none, "rating");
         for (const XmlElement part : parts_) {
             if (!part.first("nosuit").isNull()) {
                 dive.combinaison = Suit::none;
@@ -187,14 +208,19 @@ private:
 
     void readApparatus(const UddfProfile& profile) {
         Plongee& dive = found_.dive;
-        const QString words = wordsOf(element("apparatus")) + u' ' + QString::fromStdString(profile.mode()) + u' ' +
-                              wordsOf(element("divemode")) + u' ' +
-                              QString::fromStdString(std::string(element("divemode").attribute("type")));
+        const QString apparatus = wordsOf(element("apparatus"));
+        const XmlElement modeElement = element("divemode");
+        const QString mode = wordsOf(modeElement) + QString::fromStdString(std::string(modeElement.attribute("type")));
+        const QString words = apparatus + u' ' + QString::fromStdString(profile.mode()) + u' ' + mode;
         const auto says = [&](const char* word) { return words.contains(QLatin1String(word), Qt::CaseInsensitive); };
         if (says("semiclosed")) {
             dive.rebreather = Apparatus::semiClosed;
         } else if (says("closedcircuit") || (says("rebreather") && profile.mode() != "opencircuit")) {
             dive.rebreather = Apparatus::electronicClosed;
+        }
+        loseUnless(isCircuit(apparatus), "apparatus");
+        if (!mode.isEmpty() && !isCircuit(mode)) {
+            found_.lose(QStringLiteral("divemode"), mode);
         }
         // Some computers write a set point of the gas in use for an open circuit, too.
         const bool isOpen = dive.rebreather == Apparatus::openCircuit && profile.mode() == "opencircuit";
@@ -213,125 +239,6 @@ private:
         }
         if (dive.rebreather == Apparatus::openCircuit) {
             dive.rebreather = Apparatus::electronicClosed;
-        }
-    }
-
-    void follow(XmlElement link) {
-        if (!link.isNull()) {
-            follow(uddfReference(link));
-        }
-    }
-
-    void follow(const std::string& id) {
-        if (id.empty()) {
-            return;
-        }
-        if (document_.isMix(id)) {
-            namedMix_ = namedMix_.empty() ? id : namedMix_;
-        }
-        for (const XmlElement target : document_.withId(id)) {
-            take(target, target.name());
-        }
-    }
-
-    void take(XmlElement target, std::string_view name) {
-        Plongee& dive = found_.dive;
-        const QString title = wordsOf(target.first("name"));
-        if (name == "site") {
-            takeSite(target);
-        } else if (name == "divebase") {
-            dive.structure = dive.structure.isEmpty() ? title : dive.structure;
-        } else if (name == "buddy") {
-            buddies_.append(personName(target));
-        } else if (name == "divecomputer") {
-            takeComputer(target);
-        } else if (name == "trip") {
-            const XmlElement vessel = target.first("trippart").first("vessel");
-            dive.bateau = dive.bateau.isEmpty() ? wordsOf(vessel.first("name")) : dive.bateau;
-        } else if (name == "vessel") {
-            dive.bateau = title;
-        } else if (name == "suit") {
-            dive.combinaison = suitOf(title, wordsOf(target.first("suittype"))).value_or(dive.combinaison);
-        } else if (name == "rebreather") {
-            dive.rebreather = apparatusOf(title).value_or(
-                dive.rebreather == Apparatus::openCircuit ? qint32(Apparatus::electronicClosed) : dive.rebreather);
-        } else if (name == "equipmentconfiguration") {
-            for (const XmlElement link : target.children("link")) {
-                if (linkedOnce_.insert(uddfReference(link)).second) {
-                    follow(link);
-                }
-            }
-        } else if (name != "mix" && name != "tank" && name != "owner" && name != "dive") {
-            equipment_.append(title.isEmpty() ? wordsOf(target.first("model")) : title);
-        }
-    }
-
-    void takeSite(XmlElement site) {
-        Plongee& dive = found_.dive;
-        if (!dive.site.isEmpty() || !dive.lieu.isEmpty()) {
-            return;
-        }
-        dive.site = wordsOf(site.first("name"));
-        const XmlElement geography = site.first("geography");
-        dive.lieu = wordsOf(geography.first("location"));
-        dive.pays = wordsOf(childOf(geography.first("address"), {"country"}));
-        if (dive.pays.isEmpty()) {
-            dive.pays = wordsOf(geography.first("country"));
-        }
-        const auto latitude = numberOf(geography.first("latitude"));
-        const auto longitude = numberOf(geography.first("longitude"));
-        if (latitude && longitude && std::abs(*latitude) <= 90 && std::abs(*longitude) <= 180 &&
-            (*latitude != 0 || *longitude != 0)) {
-            dive.gps = positionText({*latitude, *longitude});
-        }
-        if (const auto metres = numberOf(geography.first("altitude"));
-            metres && dive.altitude == 0 && *metres > 0 && *metres <= highestAltitude) {
-            dive.altitude = rounded(*metres);
-        }
-        QStringList wrecks;
-        for (const XmlElement wreck : site.first("sitedata").children("wreck")) {
-            wrecks.append(wordsOf(wreck.first("name")));
-        }
-        dive.epaves = withoutRepeats(wrecks);
-        dive.difficulte = difficultyOf(numberOf(site.first("sitedata").first("difficulty")).value_or(0));
-        const QString environment = wordsOf(site.first("environment"));
-        if (dive.typePlongee == DiveKind::other) {
-            dive.typePlongee = environmentKind(environment).value_or(qint32(DiveKind::other));
-        }
-        if (const QString notes = notesOf(site.first("notes")); !notes.trimmed().isEmpty()) {
-            found_.lose(QStringLiteral("site/notes"), notes);
-        }
-    }
-
-    void takeComputer(XmlElement computer) {
-        Plongee& dive = found_.dive;
-        if (!dive.ordinateur.isEmpty()) {
-            return;
-        }
-        dive.fabricant = wordsOf(computer.first("manufacturer").first("name"));
-        dive.ordinateur = wordsOf(computer.first("model"));
-        if (dive.ordinateur.isEmpty()) {
-            dive.ordinateur = wordsOf(computer.first("name"));
-        }
-        dive.serie = wordsOf(computer.first("serialnumber"));
-    }
-
-    void finishWords() {
-        Plongee& dive = found_.dive;
-        dive.partenaires = withoutRepeats(buddies_);
-        if (dive.ordinateur.isEmpty()) {
-            // A dive that names no computer was logged by the only one of the owner.
-            if (const XmlElement only = document_.onlyPiece("divecomputer"); !only.isNull()) {
-                takeComputer(only);
-            }
-        }
-        equipment_.removeAll(QString());
-        for (qsizetype piece = 0; piece < equipment_.size(); ++piece) {
-            if (static_cast<std::size_t>(piece) < equipmentFields.size()) {
-                dive.*equipmentFields[static_cast<std::size_t>(piece)] = equipment_[piece];
-            } else {
-                found_.lose(QStringLiteral("equipmentused"), equipment_[piece]);
-            }
         }
     }
 
@@ -367,55 +274,78 @@ private:
         return samples;
     }
 
-    /// Names the elements of the dive's parts that nothing above has read.
+    void readLinks() {
+        for (const XmlElement part : parts_) {
+            for (const XmlElement link : part.children("link")) {
+                pieces_.follow(uddfReference(link));
+            }
+            for (const XmlElement used : part.children("equipmentused")) {
+                for (const XmlElement link : used.children("link")) {
+                    pieces_.follow(uddfReference(link));
+                }
+                loseUnread(found_, used, QStringLiteral("equipmentused/"), {"link", "leadquantity"});
+            }
+            pieces_.follow(uddfReference(part.first("tripmembership")));
+        }
+        pieces_.finish();
+    }
+
+    /// Names the elements of the dive's parts that nothing above has read, and what stands twice where one is read.
     void nameLost() {
-        static const std::set<std::string_view> read{
-            "informationbeforedive",
-            "informationafterdive",
-            "diveinformation",
-            "samples",
-            "tankdata",
-            "link",
-            "divenumber",
-            "datetime",
-            "date",
-            "time",
-            "airtemperature",
-            "surfaceintervalbeforedive",
-            "surfaceinterval",
-            "altitude",
-            "equipmentused",
-            "apparatus",
-            "purpose",
-            "nosuit",
-            "plannedprofile",
-            "tripmembership",
-            "lowesttemperature",
-            "greatestdepth",
-            "diveduration",
-            "visibility",
-            "current",
-            "diveplan",
-            "notes",
-            "rating",
-            "averagedepth",
-            "divemode",
-            "leadquantity",
+        enum class Read { all, one };
+        static const std::map<std::string_view, Read> read{
+            {"informationbeforedive", Read::all},
+            {"informationafterdive", Read::all},
+            {"diveinformation", Read::all},
+            {"samples", Read::all},
+            {"tankdata", Read::all},
+            {"link", Read::all},
+            {"equipmentused", Read::all},
+            {"notes", Read::all},
+            {"nosuit", Read::all},
+            {"divenumber", Read::one},
+            {"datetime", Read::one},
+            {"date", Read::one},
+            {"time", Read::one},
+            {"airtemperature", Read::one},
+            {"surfaceintervalbeforedive", Read::one},
+            {"surfaceinterval", Read::one},
+            {"altitude", Read::one},
+            {"apparatus", Read::one},
+            {"purpose", Read::one},
+            {"plannedprofile", Read::one},
+            {"tripmembership", Read::one},
+            {"lowesttemperature", Read::one},
+            {"greatestdepth", Read::one},
+            {"diveduration", Read::one},
+            {"visibility", Read::one},
+            {"current", Read::one},
+            {"diveplan", Read::one},
+            {"rating", Read::one},
+            {"averagedepth", Read::one},
+            {"divemode", Read::one},
+            {"leadquantity", Read::one},
         };
+        std::map<std::string_view, std::string> first;
+        LostNames lost;
         for (const XmlElement part : parts_) {
             for (XmlElement it = part.firstElement(); !it.isNull(); it = it.nextElement()) {
-                if (read.count(it.name()) > 0) {
-                    continue;
-                }
-                const QString words = wordsOf(it);
-                const bool isNumber = numberOf(it).has_value();
-                if (!words.isEmpty() || !it.firstElement().isNull() || it.hasAttributes()) {
-                    const std::string_view name = it.name();
-                    found_.lose(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())),
-                                isNumber ? QString() : words.simplified());
+                const std::string_view name = it.name();
+                const auto how = read.find(name);
+                if (how == read.end()) {
+                    if (!wordsOf(it).isEmpty() || !it.firstElement().isNull() || it.hasAttributes()) {
+                        lost.add(name, it);
+                    }
+                } else if (how->second == Read::one) {
+                    const std::string its = uddfReference(it);
+                    if (!its.empty() && first.emplace(name, its).first->second != its) {
+                        found_.lose(QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size())),
+                                    wordsOf(it).simplified());
+                    }
                 }
             }
         }
+        lost.tell(found_, {});
     }
 
     const UddfDocument& document_;
@@ -423,10 +353,7 @@ private:
     const std::function<bool()>& goesOn_;
     std::vector<XmlElement> parts_;
     FoundDive found_;
-    std::string namedMix_;
-    QStringList buddies_;
-    QStringList equipment_;
-    std::set<std::string> linkedOnce_;
+    UddfPieces pieces_{document_, found_};
 };
 
 }  // namespace

@@ -196,6 +196,11 @@ double setPointBar(qint32 tag) {
     return SetPoint::tenthsOfBar(tag) / 10.0;
 }
 
+bool isCircuit(const QString& word) {
+    const auto says = [&](const char* part) { return word.contains(QLatin1String(part), Qt::CaseInsensitive); };
+    return says("scuba") || says("circuit") || says("rebreather");
+}
+
 std::optional<qint32> apparatusOf(const QString& name) {
     for (const auto& [tag, word] : apparatuses) {
         if (name.contains(QLatin1String(word), Qt::CaseInsensitive)) {

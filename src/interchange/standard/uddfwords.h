@@ -43,6 +43,8 @@ QString suitKind(qint32 suit);
 qint32 setPointTag(double bar);
 double setPointBar(qint32 tag);
 
+/// Whether a word for a way to breathe tells one that a dive knows: open-scuba, rebreather, opencircuit and the like.
+bool isCircuit(const QString& word);
 /// The rebreather that a name holds: "mCCR", "eCCR", "hCCR", "SCR".
 std::optional<qint32> apparatusOf(const QString& name);
 QString apparatusName(qint32 apparatus);

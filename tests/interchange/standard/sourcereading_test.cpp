@@ -218,10 +218,17 @@ TEST(Uddf, spreadsWaypointsWithoutATime) {
 }
 
 TEST(Uddf, readsTimesAsTheyCanOnlyBeMeant) {
-    EXPECT_EQ(diveRead({}, samples("5@1000000 7@1000010")).profilProfondeur, Series::ofReals({5, 7}))
-        << "from the first waypoint on";
-    EXPECT_EQ(diveRead({}, samples("1@0 2@0 3@10")).profilProfondeur, Series::ofReals({2, 3}))
-        << "the last of a moment";
+    const QByteArray lasted40 = "<informationafterdive><diveduration>40</diveduration></informationafterdive>";
+    const QByteArray onAClock = samples("5@36000 9@36010 7@36040");
+    for (const QByteArray& elsewhere : {samples("5@1000000 9@1000010 7@1000040"), onAClock, onAClock + lasted40,
+                                        samples("5@0:00 9@0:10 7@00:00:40")}) {
+        EXPECT_EQ(diveRead({}, elsewhere).profilProfondeur.size(), 5U) << "from the first waypoint on";
+    }
+    const QByteArray lasted30 = "<informationafterdive><diveduration>1800</diveduration></informationafterdive>";
+    EXPECT_EQ(diveRead({}, samples("5@900 9@1800") + lasted30).profilProfondeur.size(), 16U);
+    const Plongee shared = diveRead({}, samples("0@0 5@0 30.5@60 30.5@60 9@60 4@120 2@120"));
+    EXPECT_EQ(shared.profondeur, 30.5F);
+    EXPECT_EQ(shared.profilProfondeur, Series::ofReals({0, 5, 30.5, 9, 4, 2})) << "evenly, each depth once";
     EXPECT_EQ(diveRead({}, samples("9@20 1@0 5@10")).profilProfondeur, Series::ofReals({1, 5, 9})) << "in their order";
     const Plongee minutes = diveRead(
         {}, samples("1@0 2@2700") + "<informationafterdive><diveduration>45</diveduration></informationafterdive>");
@@ -257,6 +264,83 @@ TEST(Uddf, takesWhatTheDiveLacksFromItsWaypoints) {
     EXPECT_EQ(fieldsOf(it, "profondeur temps tempEau o2Mix pressionDepart pressionFin"), u"20; 43; 12; 32; 205; 90");
     EXPECT_EQ(fieldsOf(it, "pressDepartPony1 pressFinPony1"), u"150; 120") << "richer, so a stage";
     EXPECT_EQ(it.PRESS_Data.real(0), 200.0);
+}
+
+TEST(Uddf, findsTheGasOfEachTankAndSwitch) {
+    // A tank named by a switch, one among the equipment alone, gases that no switch names, one that repeats.
+    const QByteArray head =
+        "<uddf version='3.3.1'><diver><owner><equipment><tank id='t1'><name>Red</name><ratedpressure>23200000"
+        "</ratedpressure><tankvolume>0.012</tankvolume></tank></equipment></owner></diver><gasdefinitions>"
+        "<mix id='tx'><o2>0.18</o2><he>0.45</he></mix><mix id='n32'><o2>0.32</o2></mix><mix id='n50'><o2>0.5</o2></mix>"
+        "</gasdefinitions><profiledata><repetitiongroup><dive>";
+    const QByteArray tail = "</dive></repetitiongroup></profiledata></uddf>";
+    const Plongee deep =
+        onlyDive(head + R"(<tankdata><tankused id='u1'><link ref='n32'/></tankused><tankused id='u2'><link ref='tx'/>
+        <link ref='t1'/></tankused></tankdata><samples><waypoint><depth>0</depth><divetime>0</divetime>
+        <switchtank ref='u1'/></waypoint><waypoint><depth>50</depth><divetime>10</divetime><switchtank ref='t1'/>
+        </waypoint><waypoint><depth>40</depth><divetime>20</divetime><switchtank ref='u2'/><switchmix ref='tx'/>
+        </waypoint><waypoint><depth>5</depth><divetime>30</divetime><switchmix ref='n32'/></waypoint></samples>)" +
+                 tail);
+    EXPECT_EQ(fieldsOf(deep, "o2Mix heMix pressionBloc volumeBloc"), u"18; 45; 232; 12");
+    EXPECT_EQ(deep.GAZ_Flag, Series::ofIntegers({2, 1, 0, 2})) << "a gas that is breathed already is no switch";
+    const Plongee shallow = onlyDive(head + R"(<equipmentused><link ref='t1'/></equipmentused>
+        <tankdata><link ref='n32'/></tankdata>)" +
+                                     tail);
+    EXPECT_EQ(fieldsOf(shallow, "o2Mix volumeBloc pressionBloc"), u"32; 12; 232");
+    const FoundDive staged = read(head + R"(<equipmentused><link ref='t1'/></equipmentused><tankdata><link ref='n32'/>
+        </tankdata><tankdata><link ref='n50'/><tankvolume>0.011</tankvolume></tankdata><samples><waypoint>
+        <depth>9</depth><switchtank ref='t9'/><switchmix ref='zz'/></waypoint><waypoint><depth>5</depth></waypoint>
+        </samples>)" + tail)
+                                 .dives.at(0);
+    EXPECT_EQ(fieldsOf(staged.dive, "volPony1 decoO2_Level_1 decoO2_Level_2"), u"11; 50; 0");
+    for (const char* name : {"equipmentused/tank", "waypoint/switchtank", "waypoint/switchmix"}) {
+        EXPECT_TRUE(loses(staged, name)) << name;
+    }
+}
+
+TEST(Uddf, believesNoNumberThatTheWaypointsContradict) {
+    const std::tuple<const char*, const char*, const char16_t*> cases[] = {
+        {"6553.5", "60", u"20.4; 1"},    {"2.04", "4294967295", u"20.4; 2"},
+        {"19.95", "90000", u"19.95; 2"}, {"21", "86000", u"21; 1433"},
+        {"340", "0", u"340; 2"},
+    };
+    for (const auto& [depth, duration, expected] : cases) {
+        const FoundDive it =
+            read(dive({}, samples("0@0 20.4@60 3@120") + "<informationafterdive><greatestdepth>" + depth +
+                              "</greatestdepth><diveduration>" + duration + "</diveduration></informationafterdive>"))
+                .dives.at(0);
+        EXPECT_EQ(fieldsOf(it.dive, "profondeur temps"), QStringView(expected)) << depth;
+        EXPECT_EQ(loses(it, "greatestdepth"), it.dive.profondeur == 20.4F) << depth;
+    }
+}
+
+TEST(Uddf, namesWhatItDoesNotUnderstandOrHasNoPlaceFor) {
+    const FoundDive it = read(R"(<uddf version='3.2'><diver><owner><equipment>
+        <divecomputer id='dc'><model>M</model><softwareversion>v3</softwareversion></divecomputer></equipment></owner>
+        <buddy id='b'><personal><firstname>Jo</firstname></personal><contact><email>jo@host</email></contact></buddy></diver>
+        <divesite><site id='s'><name>One</name><ecology><fauna/><notes><para>fish</para><para>crab</para></notes></ecology>
+        <sitedata><bottom>sand</bottom></sitedata><geography><location>L</location><address><city>Town</city></address>
+        </geography></site><site id='s2'><name>Two</name></site></divesite><profiledata><repetitiongroup><dive>
+        <informationbeforedive><datetime>5 July 2019 10:42</datetime><divenumber>A-12</divenumber><link ref='s'/>
+        <link ref='s'/><link ref='s2'/><link ref='b'/><link ref='dc'/><altitude>5200</altitude>
+        <apparatus>surface-supplied</apparatus><purpose>spearfishing</purpose><notes>First</notes></informationbeforedive>
+        <samples><d>3</d><waypoint><setmarker>turtle seen</setmarker><divemode type='apnoe'/></waypoint></samples>
+        <informationafterdive><averagedepth>7</averagedepth><current>strong</current><visibility>milky</visibility>
+        <lowesttemperature>260</lowesttemperature><rating>7</rating><rating>3</rating><notes>Second</notes>
+        <airtemperature>0</airtemperature></informationafterdive></dive></repetitiongroup></profiledata></uddf>)")
+                             .dives.at(0);
+    QStringList lost;
+    for (const LostItem& item : it.lost) {
+        lost.append(item.text.isEmpty() ? item.name : item.name + u'=' + item.text);
+    }
+    lost.sort();
+    const QString expected = QStringLiteral(
+        "address/city=Town; altitude=5200; apparatus=surface-supplied; averagedepth=7; buddy/contact=jo@host; "
+        "current=strong; datetime=5 July 2019 10:42; divecomputer/softwareversion=v3; divenumber=A-12; "
+        "lowesttemperature=260; purpose=spearfishing; rating=3; samples/d; site/ecology=fish, crab; site=Two; "
+        "sitedata/bottom=sand; visibility=milky; waypoint/divemode apnoe; waypoint/setmarker=turtle seen");
+    EXPECT_EQ(lost.join(QStringLiteral("; ")), expected);
+    EXPECT_EQ(it.dive.notes, u"First\nSecond");
 }
 
 TEST(Uddf, tellsARebreatherFromASetPointOfOpenCircuit) {
@@ -322,6 +406,23 @@ TEST(Udcf, isReadInTheUnitsThatItSays) {
         EXPECT_TRUE(loses(found, name)) << name;
     }
     EXPECT_EQ(found.lost.size(), 3U);
+}
+
+TEST(Udcf, takesUnitsOfPhysicsForWhatTheyAre) {
+    const QByteArray rest =
+        "<SURFACEINTERVAL>5400</SURFACEINTERVAL><DIVETIME>1860</DIVETIME><TEMPERATURE>288</"
+        "TEMPERATURE><GASES><MIX><TANK>"
+        "<TANKVOLUME>0.012</TANKVOLUME><PSTART>20000000</PSTART><PEND>5000000</PEND></TANK></MIX></GASES></DIVE></"
+        "REPGROUP>"
+        "</PROFILE>";
+    const Plongee si = onlyDive("<PROFILE><UNITS>SI</UNITS><REPGROUP><DIVE>" + rest);
+    EXPECT_EQ(fieldsOf(si, "temps tempEau volumeBloc pressionDepart pressionFin surface"),
+              u"31; 15; 12; 200; 50; 01:30");
+    EXPECT_EQ(fieldsOf(onlyDive("<PROFILE><REPGROUP><DIVE>" + rest), "temps pressionFin"), u"31; 50");
+    const Plongee own = onlyDive(
+        "<PROFILE><DEVICE><VENDOR>Tavrel</VENDOR></DEVICE><REPGROUP><DIVE><GASES><MIX><TANK>"
+        "<PSTART>3000</PSTART></TANK></MIX></GASES></DIVE></REPGROUP></PROFILE>");
+    EXPECT_EQ(own.pressionDepart, 3000) << "the logbook's own number, of pounds";
 }
 
 TEST(Udcf, takesDepthsOfNoSenseForNone) {

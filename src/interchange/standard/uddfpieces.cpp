@@ -1,0 +1,250 @@
+#include "interchange/standard/uddfpieces.h"
+
+#include "calculators/position.h"
+#include "dives/divelimits.h"
+#include "dives/divetanks.h"
+#include "interchange/standard/filevalues.h"
+#include "interchange/standard/uddfwords.h"
+#include "interchange/standard/unread.h"
+
+#include <cmath>
+
+namespace tavrel {
+
+namespace {
+
+QString withoutRepeats(QStringList words) {
+    words.removeAll(QString());
+    words.removeDuplicates();
+    return words.isEmpty() ? QStringLiteral("") : words.join(QStringLiteral(", "));
+}
+
+QString personName(XmlElement person) {
+    const XmlElement personal = person.first("personal");
+    const XmlElement holder = personal.isNull() ? person : personal;
+    QStringList parts;
+    for (const char* part : {"firstname", "middlename", "lastname"}) {
+        if (const QString words = wordsOf(holder.first(part)); !words.isEmpty()) {
+            parts.append(words);
+        }
+    }
+    return parts.isEmpty() ? wordsOf(person.first("name")) : parts.join(u' ');
+}
+
+}  // namespace
+
+QString notesOf(XmlElement notes) {
+    QStringList paragraphs;
+    bool inParts = false;
+    for (XmlElement it = notes.firstElement(); !it.isNull(); it = it.nextElement()) {
+        if (it.name() == "para" || it.name() == "text") {
+            paragraphs.append(it.text());
+            inParts = true;
+        }
+    }
+    return inParts ? paragraphs.join(u'\n') : wordsOf(notes);
+}
+
+void UddfPieces::follow(const std::string& id) {
+    open_.assign(1, id);
+    for (std::size_t next = 0; next < open_.size(); ++next) {
+        const std::string its = open_[next];
+        if (its.empty()) {
+            continue;
+        }
+        if (document_.isMix(its) && equipment_.mix.empty()) {
+            equipment_.mix = its;
+        }
+        const std::vector<XmlElement> targets = document_.withId(its);
+        for (const XmlElement target : targets) {
+            take(target, its);
+            // An id that several kinds share does not say that a tank is meant.
+            if (target.name() == "tank" && targets.size() == 1) {
+                equipment_.tanks.push_back(its);
+            }
+        }
+    }
+}
+
+void UddfPieces::take(XmlElement target, const std::string& id) {
+    const std::string_view name = target.name();
+    if (name == "site") {
+        takeSite(target, id);
+    } else if (name == "buddy") {
+        takeBuddy(target);
+    } else if (name == "divecomputer") {
+        takeComputer(target, id);
+    } else if (name == "trip") {
+        takeBoat(target);
+    } else if (name == "equipmentconfiguration") {
+        if (configurations_.insert(id).second) {
+            for (const XmlElement link : target.children("link")) {
+                open_.push_back(uddfReference(link));
+            }
+            loseRest(target, "equipmentconfiguration/", {"link"});
+        }
+    } else if (name != "mix" && name != "tank" && name != "owner" && name != "dive") {
+        takeKnown(target, name, wordsOf(target.first("name")));
+    }
+}
+
+void UddfPieces::takeKnown(XmlElement target, std::string_view name, const QString& title) {
+    Plongee& dive = found_.dive;
+    const std::string prefix = std::string(name) + '/';
+    // Where the name becomes a choice, what else it says is lost.
+    bool isNameRead = true;
+    if (name == "divebase") {
+        isNameRead = dive.structure.isEmpty() || dive.structure == title;
+        dive.structure = dive.structure.isEmpty() ? title : dive.structure;
+    } else if (name == "vessel") {
+        dive.bateau = title;
+    } else if (name == "suit") {
+        const QString kind = wordsOf(target.first("suittype"));
+        isNameRead = suitOf(title, {}).has_value();
+        const auto suit = suitOf(title, kind);
+        dive.combinaison = suit.value_or(dive.combinaison);
+        if (!suit) {
+            loseValue(found_, target.first("suittype"), QStringLiteral("suit/suittype"));
+        }
+    } else if (name == "rebreather") {
+        isNameRead = apparatusOf(title).has_value();
+        dive.rebreather = apparatusOf(title).value_or(
+            dive.rebreather == Apparatus::openCircuit ? qint32(Apparatus::electronicClosed) : dive.rebreather);
+    } else {
+        pieces_.append(title.isEmpty() ? wordsOf(target.first("model")) : title);
+        loseRest(target, prefix.c_str(), {"name", std::string_view(title.isEmpty() ? "model" : "name")});
+        return;
+    }
+    loseRest(target, prefix.c_str(), {"suittype", std::string_view(isNameRead ? "name" : "suittype")});
+}
+
+void UddfPieces::takeBuddy(XmlElement buddy) {
+    buddies_.append(personName(buddy));
+    loseRest(buddy, "buddy/", {"personal", "firstname", "middlename", "lastname", "name"});
+    loseRest(buddy.first("personal"), "buddy/", {"firstname", "middlename", "lastname"});
+}
+
+void UddfPieces::takeBoat(XmlElement trip) {
+    const XmlElement part = trip.first("trippart");
+    const XmlElement vessel = part.first("vessel");
+    found_.dive.bateau = found_.dive.bateau.isEmpty() ? wordsOf(vessel.first("name")) : found_.dive.bateau;
+    loseRest(trip, "trip/", {"trippart"});
+    loseRest(part, "trip/", {"vessel"});
+    loseRest(vessel, "vessel/", {"name"});
+}
+
+void UddfPieces::takeSite(XmlElement site, const std::string& id) {
+    Plongee& dive = found_.dive;
+    if (!dive.site.isEmpty() || !dive.lieu.isEmpty()) {
+        if (id != site_) {
+            found_.lose(QStringLiteral("site"), spokenWords(site));
+        }
+        return;
+    }
+    site_ = id;
+    dive.site = wordsOf(site.first("name"));
+    takeGeography(site.first("geography"));
+    const XmlElement data = site.first("sitedata");
+    QStringList wrecks;
+    for (const XmlElement wreck : data.children("wreck")) {
+        wrecks.append(wordsOf(wreck.first("name")));
+        loseRest(wreck, "wreck/", {"name"});
+    }
+    dive.epaves = withoutRepeats(wrecks);
+    dive.difficulte = difficultyOf(numberOf(data.first("difficulty")).value_or(0));
+    if (dive.difficulte == 0) {
+        loseValue(found_, data.first("difficulty"), QStringLiteral("sitedata/difficulty"));
+    }
+    loseRest(data, "sitedata/", {"wreck", "difficulty"});
+    const XmlElement environment = site.first("environment");
+    const auto kind = environmentKind(wordsOf(environment));
+    if (dive.typePlongee == DiveKind::other) {
+        dive.typePlongee = kind.value_or(qint32(DiveKind::other));
+    }
+    if (kind != dive.typePlongee && wordsOf(environment) != QLatin1String("unknown")) {
+        loseValue(found_, environment, QStringLiteral("site/environment"));
+    }
+    if (const QString notes = notesOf(site.first("notes")); !notes.trimmed().isEmpty()) {
+        found_.lose(QStringLiteral("site/notes"), notes);
+    }
+    loseRest(site, "site/", {"name", "geography", "sitedata", "environment", "notes"});
+}
+
+void UddfPieces::takeGeography(XmlElement geography) {
+    Plongee& dive = found_.dive;
+    dive.lieu = wordsOf(geography.first("location"));
+    const XmlElement address = geography.first("address");
+    dive.pays = wordsOf(address.first("country"));
+    if (dive.pays.isEmpty()) {
+        dive.pays = wordsOf(geography.first("country"));
+    }
+    const XmlElement north = geography.first("latitude");
+    const XmlElement east = geography.first("longitude");
+    const auto latitude = numberOf(north);
+    const auto longitude = numberOf(east);
+    if (latitude && longitude && std::abs(*latitude) <= 90 && std::abs(*longitude) <= 180) {
+        if (*latitude != 0 || *longitude != 0) {
+            dive.gps = positionText({*latitude, *longitude});
+        }
+    } else {
+        loseValue(found_, north, QStringLiteral("geography/latitude"));
+        loseValue(found_, east, QStringLiteral("geography/longitude"));
+    }
+    const XmlElement height = geography.first("altitude");
+    const auto metres = numberOf(height);
+    if (metres && dive.altitude == 0 && *metres > 0 && *metres <= highestAltitude) {
+        dive.altitude = rounded(*metres);
+    } else if (!metres || rounded(*metres) != dive.altitude) {
+        loseValue(found_, height, QStringLiteral("geography/altitude"));
+    }
+    loseRest(geography, "geography/", {"location", "address", "country", "latitude", "longitude", "altitude"});
+    loseRest(address, "address/", {"country"});
+}
+
+void UddfPieces::takeComputer(XmlElement computer, const std::string& id) {
+    Plongee& dive = found_.dive;
+    const QString model = wordsOf(computer.first("model"));
+    const QString name = wordsOf(computer.first("name"));
+    if (!dive.ordinateur.isEmpty()) {
+        if (id != computer_) {
+            found_.lose(QStringLiteral("divecomputer"), model.isEmpty() ? name : model);
+        }
+        return;
+    }
+    computer_ = id;
+    dive.fabricant = wordsOf(computer.first("manufacturer").first("name"));
+    dive.ordinateur = model.isEmpty() ? name : model;
+    dive.serie = wordsOf(computer.first("serialnumber"));
+    const bool isNameHeld = (dive.fabricant + u' ' + dive.ordinateur).contains(name, Qt::CaseInsensitive);
+    loseRest(computer, "divecomputer/",
+             {"manufacturer", "model", "serialnumber", std::string_view(isNameHeld ? "name" : "model")});
+    loseRest(computer.first("manufacturer"), "manufacturer/", {"name"});
+}
+
+void UddfPieces::finish() {
+    Plongee& dive = found_.dive;
+    dive.partenaires = withoutRepeats(buddies_);
+    if (dive.ordinateur.isEmpty()) {
+        // A dive that names no computer was logged by the only one of the owner.
+        if (const XmlElement only = document_.onlyPiece("divecomputer"); !only.isNull()) {
+            takeComputer(only, {});
+        }
+    }
+    pieces_.removeAll(QString());
+    for (qsizetype piece = 0; piece < pieces_.size(); ++piece) {
+        if (static_cast<std::size_t>(piece) < equipmentFields.size()) {
+            dive.*equipmentFields[static_cast<std::size_t>(piece)] = pieces_[piece];
+        } else {
+            found_.lose(QStringLiteral("equipmentused"), pieces_[piece]);
+        }
+    }
+}
+
+/// This program's own files hold nothing that it does not read, but for what the format demands.
+void UddfPieces::loseRest(XmlElement piece, const char* prefix, std::initializer_list<std::string_view> read) {
+    if (!document_.isOwn()) {
+        loseUnread(found_, piece, QLatin1String(prefix), read);
+    }
+}
+
+}  // namespace tavrel
