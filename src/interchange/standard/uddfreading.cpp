@@ -37,7 +37,8 @@ QString notesOf(XmlElement notes) {
 QString withoutRepeats(QStringList words) {
     words.removeAll(QString());
     words.removeDuplicates();
-    return words.join(QStringLiteral(", "));
+    // None are an empty text, as in a cleared form, and not the lack of one.
+    return words.isEmpty() ? QStringLiteral("") : words.join(QStringLiteral(", "));
 }
 
 QString personName(XmlElement person) {
