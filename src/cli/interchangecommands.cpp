@@ -89,6 +89,12 @@ Expected<Reading> readingOf(Carnet& carnet, const InterchangeArguments& argument
         });
 }
 
+/// What the dives lack of the file, and what the file may lack.
+QStringList lostLines(const FoundDives& found) {
+    const QStringList lines = lostItemLines(found);
+    return found.damage.isEmpty() ? lines : lines + QStringList(damageText(found.damage));
+}
+
 void writeFound(const FoundDives& found, JsonWriter json) {
     json.beginObject();
     json.key(u"dives");
@@ -116,7 +122,7 @@ void writeFound(const FoundDives& found, JsonWriter json) {
     json.endArray();
     json.key(u"lost");
     json.beginArray();
-    for (const QString& line : lostItemLines(found)) {
+    for (const QString& line : lostLines(found)) {
         json.value(line);
     }
     json.endArray();
@@ -139,7 +145,7 @@ void printFound(const FoundDives& found, const QString& length, Console& console
         };
         print(console, cells.join(QStringLiteral("  ")).trimmed());
     }
-    for (const QString& line : lostItemLines(found)) {
+    for (const QString& line : lostLines(found)) {
         print(console, line);
     }
 }

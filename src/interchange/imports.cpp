@@ -62,6 +62,7 @@ public:
         }
         takeDives(source, dives);
         result_.leftOut = static_cast<int>(divesInAllGroups(source, tree->root()) - dives.count());
+        result_.damage = tree->damage();
         result_.readsBetter = format == ImportFormat::uddf && kindOfRoot(tree->root()) == SourceKind::uddf;
         return result_;
     }
@@ -148,6 +149,10 @@ Expected<ImportResult> importFile(Carnet& carnet, const QString& file, ImportFor
 
 }  // namespace
 
+QString damageText(const QString& place) {
+    return textWith("Interchange", "Damaged", place);
+}
+
 QString ImportResult::message() const {
     QString message = taken == 1 ? text("Carnet", "One dive imported") : textWith("Carnet", "Imported dives", taken);
     if (cancelled) {
@@ -164,6 +169,12 @@ QString ImportResult::message() const {
         if (number > 0) {
             message += u' ' + textWith(remark, number);
         }
+    }
+    if (renumbered) {
+        message += u' ' + text("Interchange", "Numbered on");
+    }
+    if (!damage.isEmpty()) {
+        message += u' ' + damageText(damage);
     }
     if (readsBetter) {
         message += u' ' + text("Interchange", "Reads better");

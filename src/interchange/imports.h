@@ -32,6 +32,8 @@ struct ImportResult {
     int twice = 0;             ///< in the logbook already, or twice in the file
     int leftOut = 0;           ///< in groups of the file that the format's import passes over
     int skipped = 0;           ///< not taken because they are there twice
+    bool renumbered = false;   ///< numbered on, as their numbers in the file repeat or are in use
+    QString damage;            ///< where the file is damaged, line:column; dives behind it may be missing
     bool readsBetter = false;  ///< the file is of a newer version, which is read by its meaning on the other road
 
     /// Adds up what a dive taken is remarkable for.
@@ -40,6 +42,9 @@ struct ImportResult {
     /// All of it as sentences for the user.
     QString message() const;
 };
+
+/// What is told of a file that is damaged at a place.
+QString damageText(const QString& place);
 
 /// Appends the dives of a file to the logbook as one undo step. Each goes through the logbook's form, with all its
 /// corrections: the form is cleared, filled and built from, and holds the last dive afterwards, with no dive selected.

@@ -2,12 +2,14 @@
 
 #include "base/safefile.h"
 #include "desktop/clock.h"
+#include "desktop/commonsettings.h"
 #include "desktop/preferences.h"
 #include "interchange/logbookunits.h"
 #include "interchange/standard/csvtext.h"
 #include "logbook/divecontrols.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace tavrel {
 
@@ -18,38 +20,46 @@ using List = RecordList;
 /// The setting with the fields of table columns by their headings.
 constexpr const char* columnsKey = "tableColumns";
 
-/// Whether the numbers that the dives bring go on from those of the logbook.
-bool numbersGoOn(const Carnet& carnet, const std::vector<Plongee>& dives) {
-    qint32 last = carnet.records().empty() ? 0 : asDive(carnet.records().back()).noPlongee;
-    for (const Plongee& dive : dives) {
-        if (dive.noPlongee <= last) {
-            return false;
-        }
-        last = dive.noPlongee;
+bool hasNumber(const Plongee& dive) {
+    return dive.noPlongee > 0;
+}
+
+/// Whether all dives bring a number that no other has, in the file or the logbook.
+bool areNumbersFree(const Carnet& carnet, const std::vector<Plongee>& dives) {
+    std::unordered_set<qint32> known;
+    for (const RecordPointer& record : carnet.records()) {
+        known.insert(asDive(record).noPlongee);
     }
-    return true;
+    return std::all_of(dives.begin(), dives.end(),
+                       [&](const Plongee& dive) { return hasNumber(dive) && known.insert(dive.noPlongee).second; });
 }
 
 void numberOn(const Carnet& carnet, std::vector<Plongee>& dives) {
     qint32 number = carnet.nextDiveNumber();
+    for (const RecordPointer& record : carnet.records()) {
+        number = std::max(number, Carnet::numberAfter(asDive(record)));
+    }
     for (Plongee& dive : dives) {
         dive.noPlongee = number;
         number = Carnet::numberAfter(dive);
     }
 }
 
-/// All dives in the order of their starts, those without one last, numbered on from the first number there is.
-List byDate(List list) {
+qint32 firstNumber(const List& list) {
+    qint32 number = list.empty() ? 1 : asDive(list.front()).noPlongee;
+    for (const RecordPointer& dive : list) {
+        number = std::min(number, asDive(dive).noPlongee);
+    }
+    return std::max(number, 1);
+}
+
+/// All dives in the order of their starts, those without one last, numbered on from a number.
+List byDate(List list, qint32 number) {
     const auto startsBefore = [](const RecordPointer& one, const RecordPointer& other) {
         const QDateTime start = startOf(asDive(one));
         const QDateTime otherStart = startOf(asDive(other));
         return start.isValid() && (!otherStart.isValid() || start < otherStart);
     };
-    qint32 number = list.empty() ? 1 : asDive(list.front()).noPlongee;
-    for (const RecordPointer& dive : list) {
-        number = std::min(number, asDive(dive).noPlongee);
-    }
-    number = std::max(number, 1);
     std::stable_sort(list.begin(), list.end(), startsBefore);
     for (RecordPointer& dive : list) {
         if (asDive(dive).noPlongee != number) {
@@ -73,7 +83,9 @@ void append(Carnet& carnet, std::vector<Plongee> dives, bool renumberByDate) {
     for (Plongee& dive : dives) {
         list.push_back(std::make_shared<const Plongee>(std::move(dive)));
     }
-    carnet.changeList(text("Carnet", "Undo import"), byDate(std::move(list)));
+    // The logbook goes on from its own first number.
+    const qint32 number = firstNumber(carnet.records().empty() ? list : carnet.records());
+    carnet.changeList(text("Carnet", "Undo import"), byDate(std::move(list), number));
 }
 
 FoundDives foundFrom(const List& records, std::size_t first) {
@@ -89,10 +101,12 @@ FoundDives foundFrom(const List& records, std::size_t first) {
 }  // namespace
 
 Expected<Source> findDives(const Carnet& carnet, QByteArrayView bytes, const Progress& progress) {
-    return readSource(bytes, progress, tableColumns(carnet.desktop().preferences)).map([&](Source&& source) {
-        judge(carnet, source.found);
-        return std::move(source);
-    });
+    const Preferences& preferences = carnet.desktop().preferences;
+    return readSource(bytes, progress, tableColumns(preferences), preferences.get(settings::usUnits))
+        .map([&](Source&& source) {
+            judge(carnet, source.found);
+            return std::move(source);
+        });
 }
 
 TableColumns tableColumns(const Preferences& preferences) {
@@ -140,8 +154,8 @@ QStringList lostItemLines(const FoundDives& found) {
 
 ImportResult takeDives(Carnet& carnet, FoundDives found, const TakeChoices& choices) {
     ImportResult result;
+    result.damage = found.damage;
     std::vector<Plongee> dives;
-    FoundDives taken;
     for (FoundDive& it : found.dives) {
         if (choices.skipDuplicates && it.duplicate) {
             ++result.skipped;
@@ -154,7 +168,8 @@ ImportResult takeDives(Carnet& carnet, FoundDives found, const TakeChoices& choi
         result.count(it);
         dives.push_back(std::move(it.dive));
     }
-    if (!numbersGoOn(carnet, dives)) {
+    if (!areNumbersFree(carnet, dives)) {
+        result.renumbered = !choices.renumberByDate && std::any_of(dives.begin(), dives.end(), hasNumber);
         numberOn(carnet, dives);
     }
     result.taken = static_cast<int>(dives.size());
@@ -177,6 +192,7 @@ Expected<FoundDives> previewOwnImport(Carnet& carnet, const QString& file, Impor
         if (result.leftOut > 0) {
             found.lostWithFile.append(textWith("Interchange", "Left out", result.leftOut));
         }
+        found.damage = result.damage;
         if (result.stoppedAt > 0) {
             found.lostWithFile.append(textWith("Carnet", "Import stopped", result.stoppedAt, result.why));
         }

@@ -33,8 +33,8 @@ struct TakeChoices {
     bool keepLostTexts = false;   ///< words that have no field of their own go to the notes
 };
 
-/// Appends found dives as one undo step. They keep their numbers where these go on from the last of the logbook, or it
-/// is empty; else they are numbered on.
+/// Appends found dives as one undo step. They keep their numbers where each has one that no other dive has, in the file
+/// or the logbook; else all are numbered on.
 ImportResult takeDives(Carnet& carnet, FoundDives found, const TakeChoices& choices);
 
 /// What a format's own import would bring, as found dives, with the logbook left as it was; and

@@ -51,11 +51,35 @@ TEST_F(LogbookCommands, showsWhatAFileHoldsAndTakesItOnce) {
     EXPECT_EQ(dives().size(), 2U);
 }
 
+TEST_F(LogbookCommands, keepsTheNumbersOfAFileOrSaysThatItDoesNot) {
+    int day = 30;
+    const auto numbered = [&](const QByteArray& numbers) {
+        QByteArray file = "date,noPlongee\n";
+        for (const QByteArray& number : numbers.split(' ')) {
+            file += "2020-01-" + QByteArray::number(day--) + ',' + number + '\n';
+        }
+        writeContents(path(QStringLiteral("in.csv")), file);
+        return done("import a.carnet in.csv");
+    };
+    EXPECT_EQ(numbered("203 202 201"), u"3 dives were imported.\n");
+    expectValues(0, "noPlongee=203");
+    EXPECT_EQ(numbered("108 107"), u"2 dives were imported.\n");
+    expectValues(4, "noPlongee=107");
+    for (const char* numbers : {"6 6", "202 7", "7 0"}) {
+        EXPECT_TRUE(numbered(numbers).contains(u"they were numbered on")) << numbers;
+    }
+    expectValues(6, "noPlongee=205");
+    EXPECT_EQ(numbered("0 0"), u"2 dives were imported.\n") << "no numbers to keep";
+}
+
 TEST_F(LogbookCommands, saysWhyAnImportOrExportFailed) {
     writeContents(
         path(QStringLiteral("half.udcf")),
         "<PROFILE><REPGROUP><DIVE><SAMPLES/><GASES><MIX><TANK/></MIX></GASES></DIVE><DIVE/></REPGROUP></PROFILE>");
     writeContents(path(QStringLiteral("notes.txt")), "no dives here");
+    writeContents(path(QStringLiteral("cut.uddf")), "<uddf version='3'><profiledata><dive><divenumber>7");
+    EXPECT_TRUE(done("import a.carnet cut.uddf --dry-run --json").contains(u"The file is damaged at 1:"));
+    EXPECT_TRUE(done("import a.carnet cut.uddf --format uddf").contains(u"The file is damaged at 1:"));
     expectRefusals({
         {"import a.carnet half.udcf", 1, "One dive was imported. The import stopped at dive 2 of the file"},
         {"import a.carnet notes.txt", 1, "not XML"},

@@ -18,6 +18,7 @@
 <message><source>Column remarks</source><translation>Remarks</translation></message>
 <message><source>Column start</source><translation>Date and time</translation></message>
 <message><source>Columns of table</source><translation>Columns of the table</translation></message>
+<message><source>Damaged</source><translation>The file is damaged at %@ (line:column); dives or words behind it may be missing.</translation></message>
 <message><source>Dive files</source><translation>Files with dives</translation></message>
 <message><source>Dives found</source><translation>Dives found: %d</translation></message>
 <message><source>Dives last found</source><translation>Found (%d)</translation></message>
@@ -56,6 +57,7 @@
 <message><source>No place for</source><translation>A dive has no place for: %@.</translation></message>
 <message><source>No such column</source><translation>Dives have no field “%@”.</translation></message>
 <message><source>Nothing lost</source><translation>Nothing is lost.</translation></message>
+<message><source>Numbered on</source><translation>Their numbers in the file are missing, repeat or are in use; they were numbered on.</translation></message>
 <message><source>Reading file</source><translation>Reading “%@”…</translation></message>
 <message><source>Reads better</source><translation>The file is UDDF 3; read by its meaning it has its dates, gases and profiles.</translation></message>
 <message><source>Renumber by date</source><translation>Order all dives by date and number them on</translation></message>

@@ -18,6 +18,7 @@
 <message><source>Column remarks</source><translation>Remarques</translation></message>
 <message><source>Column start</source><translation>Date et heure</translation></message>
 <message><source>Columns of table</source><translation>Colonnes du tableau</translation></message>
+<message><source>Damaged</source><translation>Le fichier est endommagé en %@ (ligne:colonne) ; des plongées ou des mots peuvent manquer après cet endroit.</translation></message>
 <message><source>Dive files</source><translation>Fichiers de plongées</translation></message>
 <message><source>Dives found</source><translation>Plongées trouvées : %d</translation></message>
 <message><source>Dives last found</source><translation>Trouvées (%d)</translation></message>
@@ -56,6 +57,7 @@
 <message><source>No place for</source><translation>Une plongée n’a pas de place pour : %@.</translation></message>
 <message><source>No such column</source><translation>Les plongées n’ont pas de champ « %@ ».</translation></message>
 <message><source>Nothing lost</source><translation>Rien n’est perdu.</translation></message>
+<message><source>Numbered on</source><translation>Leurs numéros dans le fichier manquent, se répètent ou existent déjà ; elles ont été numérotées à la suite.</translation></message>
 <message><source>Reading file</source><translation>Lecture de « %@ »…</translation></message>
 <message><source>Reads better</source><translation>Le fichier est de l’UDDF 3 ; lu selon son sens, il a ses dates, ses gaz et ses profils.</translation></message>
 <message><source>Renumber by date</source><translation>Classer toutes les plongées par date et les renuméroter</translation></message>

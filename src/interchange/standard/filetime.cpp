@@ -2,25 +2,50 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
+#include <utility>
+
 namespace tavrel {
 
 namespace {
 
 constexpr int earliestYear = 1900;
 
-const QString clockPattern = QStringLiteral(R"((\d{1,2}):(\d{1,2})(?::(\d{1,2})(?:[.,]\d+)?)?\s*([AaPp][Mm])?)");
+/// A time of day, or 24:00, which is the midnight behind it.
+struct Clock {
+    QTime time;
+    bool endsDay = false;
+};
 
-QTime clockOf(const QRegularExpressionMatch& match, int first) {
-    int hour = match.captured(first).toInt();
-    const QString half = match.captured(first + 3).toLower();
+/// The time of day that a text begins with.
+Clock clockAtStart(const QString& text) {
+    static const QRegularExpression apart(QStringLiteral(
+        R"(^\s*(\d{1,2})([:.-])(\d\d|(?<=:)\d)(?:\2(\d{1,2})(?![\d:])(?:[.,]\d+)?)?(?!\d)\s*([AaPp][Mm])?)"));
+    static const QRegularExpression together(QStringLiteral(R"(^\s*(\d\d)()(\d\d)(\d\d)?(?!\d))"));
+    auto match = apart.match(text);
+    match = match.hasMatch() ? match : together.match(text);
+    if (!match.hasMatch()) {
+        return {};
+    }
+    int hour = match.captured(1).toInt();
+    const int minute = match.captured(3).toInt();
+    // A leap second's 60 is the last moment of what it belongs to.
+    const int second = std::min(match.captured(4).toInt(), 59);
+    const QString half = match.captured(5).toLower();
     if (half == QLatin1String("pm") && hour < 12) {
         hour += 12;
     } else if (half == QLatin1String("am") && hour == 12) {
         hour = 0;
     }
-    // 24:00 and a leap second's 60 are the last moments of what they belong to.
-    const int second = std::min(match.captured(first + 2).toInt(), 59);
-    return hour == 24 ? QTime(0, 0) : QTime(hour, match.captured(first + 1).toInt(), second);
+    return hour == 24 ? Clock{QTime(0, 0), true} : Clock{QTime(hour, minute, second)};
+}
+
+/// The moment of a day and what stands behind it, where that is a time.
+std::optional<FileTime> momentOf(std::optional<QDate> day, const QString& behind) {
+    // A hyphen leads to an offset unless a time with its seconds follows.
+    static const QRegularExpression between(QStringLiteral(R"(^(?:[T,\s]\s*|-(?=\d\d:\d\d:\d\d)))"));
+    const Clock clock = clockAtStart(QString(behind).remove(between));
+    return day ? std::optional(FileTime{day->addDays(clock.endsDay ? 1 : 0), clock.time}) : std::nullopt;
 }
 
 }  // namespace
@@ -30,49 +55,43 @@ std::optional<QDate> fileDay(int year, int month, int day) {
     return date.isValid() && year >= earliestYear ? std::optional(date) : std::nullopt;
 }
 
+void FileTime::settleTime(const QTime& apart) {
+    if (apart.isValid() && (!time.isValid() || time == QTime(0, 0))) {
+        time = apart;
+    }
+}
+
 QTime fileClock(const QString& text) {
-    static const QRegularExpression clock(QStringLiteral("^\\s*") + clockPattern);
-    const auto match = clock.match(text);
-    return match.hasMatch() ? clockOf(match, 1) : QTime();
+    static const QRegularExpression day(QStringLiteral(R"(^\s*\d{1,4}[-/.]\d{1,2}[-/.]\d{1,4}[T\s])"));
+    return clockAtStart(QString(text).remove(day)).time;
 }
 
 std::optional<FileTime> fileTime(const QString& text) {
-    static const QRegularExpression yearFirst(
-        QStringLiteral(R"(^\s*(\d{4})[-/.](\d{1,2})[-/.](\d{1,2})(?:[T\s]\s*)?)") + QStringLiteral("(?:") +
-        clockPattern + QStringLiteral(")?"));
-    static const QRegularExpression basic(QStringLiteral(R"(^\s*(\d{4})(\d\d)(\d\d)(?:T?(\d\d)(\d\d)(\d\d)?)?(?!\d))"));
-    static const QRegularExpression yearLast(
-        QStringLiteral(R"(^\s*(\d{1,2})[-/.](\d{1,2})[-/.](\d{4})(?:[T,\s]\s*)?)") + QStringLiteral("(?:") +
-        clockPattern + QStringLiteral(")?"));
-    const auto made = [](std::optional<QDate> day, QTime time) {
-        return day ? std::optional(FileTime{*day, time}) : std::nullopt;
-    };
-    if (const auto match = yearFirst.match(text); match.hasMatch()) {
-        return made(fileDay(match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt()),
-                    match.captured(4).isEmpty() ? QTime() : clockOf(match, 4));
-    }
-    if (const auto match = basic.match(text); match.hasMatch()) {
-        return made(fileDay(match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt()),
-                    match.captured(4).isEmpty()
-                        ? QTime()
-                        : QTime(match.captured(4).toInt(), match.captured(5).toInt(), match.captured(6).toInt()));
-    }
-    if (const auto match = yearLast.match(text); match.hasMatch()) {
-        int day = match.captured(1).toInt();
-        int month = match.captured(2).toInt();
-        const bool monthFirst = month > 12;
-        if (monthFirst) {
-            std::swap(day, month);
+    static const QRegularExpression yearFirst(QStringLiteral(R"(^\s*(\d{4})[-/.](\d{1,2})[-/.](\d{1,2}))"));
+    static const QRegularExpression basic(QStringLiteral(R"(^\s*(\d{4})(\d\d)(\d\d)(?=(?:T?\d{4}(?:\d\d)?)?(?!\d)))"));
+    static const QRegularExpression yearLast(QStringLiteral(R"(^\s*(\d{1,2})[-/.](\d{1,2})[-/.](\d{4}))"));
+    for (const QRegularExpression& pattern : {yearFirst, basic}) {
+        if (const auto match = pattern.match(text); match.hasMatch()) {
+            const auto day = fileDay(match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt());
+            return momentOf(day, text.mid(match.capturedEnd()));
         }
-        auto moment = made(fileDay(match.captured(3).toInt(), month, day),
-                           match.captured(4).isEmpty() ? QTime() : clockOf(match, 4));
-        if (moment && day != month) {
-            using Order = FileTime::Order;
-            moment->order = monthFirst ? Order::monthFirst : day > 12 ? Order::dayFirst : Order::either;
-        }
-        return moment;
     }
-    return std::nullopt;
+    const auto match = yearLast.match(text);
+    if (!match.hasMatch()) {
+        return std::nullopt;
+    }
+    int day = match.captured(1).toInt();
+    int month = match.captured(2).toInt();
+    const bool monthFirst = month > 12;
+    if (monthFirst) {
+        std::swap(day, month);
+    }
+    auto moment = momentOf(fileDay(match.captured(3).toInt(), month, day), text.mid(match.capturedEnd()));
+    if (moment && day != month) {
+        using Order = FileTime::Order;
+        moment->order = monthFirst ? Order::monthFirst : day > 12 ? Order::dayFirst : Order::either;
+    }
+    return moment;
 }
 
 }  // namespace tavrel

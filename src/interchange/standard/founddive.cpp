@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 #include <unordered_map>
 
 namespace tavrel {
@@ -60,8 +61,12 @@ private:
 
 /// Whether two dives of a file are one: two computers of one diver tell the same dive differently, and are two.
 bool isSame(const Plongee& one, const Plongee& other) {
-    return one.profondeur == other.profondeur && one.temps == other.temps &&
-           one.profilProfondeur == other.profilProfondeur;
+    const bool isAlike = one.profondeur == other.profondeur && one.temps == other.temps &&
+                         one.profilProfondeur == other.profilProfondeur;
+    // Two dives of a day may well be as deep and as long where no clock or profile tells them apart.
+    const bool tellsLittle = startOf(one).time() == QTime(0, 0) || !one.hasProfile();
+    const auto words = [](const Plongee& dive) { return std::tie(dive.noPlongee, dive.lieu, dive.site, dive.notes); };
+    return isAlike && (!tellsLittle || words(one) == words(other));
 }
 
 struct DoubtWords {

@@ -44,6 +44,7 @@ inline constexpr std::size_t mostDives = 500'000;
 struct FoundDives {
     std::vector<FoundDive> dives;
     QStringList lostWithFile;  ///< what belongs to no dive
+    QString damage;            ///< where the file is damaged, line:column; dives behind it may be missing
     bool tooMany = false;      ///< more than anyone dives, and so not read
     bool asStored = false;     ///< the numbers are those of a logbook, in its units; else metres and degrees Celsius
 
@@ -74,7 +75,8 @@ void doubt(FoundDives& found, const QDateTime& now);
 
 /// Marks the dives that are in the list already: the same start within two minutes, the depth within a metre or 5 %,
 /// the time within two minutes or 10 %; and those that the file names twice, with the same start, depth, time and
-/// profile. Dives without a date are never the same.
+/// profile, and without a time of day or a profile the same number, place and notes. Dives without a date are never the
+/// same.
 void markDuplicates(FoundDives& found, const RecordList& held);
 
 /// The gas that a dive was made on, percent: that of the first tank, with a closed rebreather the diluent.

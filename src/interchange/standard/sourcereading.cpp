@@ -91,7 +91,7 @@ std::optional<SourceKind> kindOfStart(QByteArrayView bytes) {
     return tree ? kindOfTree(*tree) : std::nullopt;
 }
 
-Expected<Source> readSource(QByteArrayView bytes, const Progress& progress, const TableColumns& chosen) {
+Expected<Source> readSource(QByteArrayView bytes, const Progress& progress, const TableColumns& chosen, bool usUnits) {
     if (isTypedStream(bytes)) {
         return readLogbook(bytes, progress);
     }
@@ -104,7 +104,8 @@ Expected<Source> readSource(QByteArrayView bytes, const Progress& progress, cons
     };
     if (!looksLikeXml(bytes)) {
         auto table = readTable(
-            bytes, chosen, [&](std::size_t done, std::size_t total) { return advance(done, total, 0, thousandths); });
+            bytes, chosen, [&](std::size_t done, std::size_t total) { return advance(done, total, 0, thousandths); },
+            usUnits);
         if (cancelled) {
             return failure(text("Main", "Cancelled"));
         }
@@ -129,6 +130,7 @@ Expected<Source> readSource(QByteArrayView bytes, const Progress& progress, cons
     Source source{*kind, readTree(*kind, tree->root(), [&](std::size_t done, std::size_t total) {
                       return advance(done, total, thousandthsOfParsing, thousandths - thousandthsOfParsing);
                   })};
+    source.found.damage = tree->damage();
     if (source.found.tooMany) {
         return failure(text("Main", "XML file beyond limits"));
     }

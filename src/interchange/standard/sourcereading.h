@@ -38,7 +38,8 @@ struct Source {
 };
 
 /// Fails when the file is nothing that holds dives, or cannot be read. The columns of a table are taken for what was
-/// chosen; one of which none holds the day comes without dives.
-Expected<Source> readSource(QByteArrayView bytes, const Progress& progress = {}, const TableColumns& chosen = {});
+/// chosen, its numbers for the logbook's in US or metric units; one of which none holds the day comes without dives.
+Expected<Source> readSource(QByteArrayView bytes, const Progress& progress = {}, const TableColumns& chosen = {},
+                            bool usUnits = false);
 
 }  // namespace tavrel

@@ -2,10 +2,13 @@
 
 #include "base/numbers.h"
 #include "base/texts.h"
+#include "calculators/conversions.h"
 #include "dives/divewords.h"
 #include "interchange/standard/csvtext.h"
 #include "interchange/standard/filetime.h"
+#include "interchange/standard/filevalues.h"
 
+#include <QRegularExpression>
 #include <QStringDecoder>
 
 #include <algorithm>
@@ -87,14 +90,39 @@ std::span<const Title> wordsOf(std::string_view key) {
                                  : std::span<const Title>();
 }
 
+/// The number that a cell begins with, in the logbook's unit, where the cell names another of a length or a
+/// temperature.
+std::optional<double> fromNamedUnit(const QString& cell, std::string_view key, bool usUnits) {
+    static const QRegularExpression unit(
+        QStringLiteral(R"([\d.,]\s*(?:(ft|feet|foot|pieds?)|(m|m[eè]tres?|meters?)|°?\s*(?:(F)|(C)))\.?\s*$)"),
+        QRegularExpression::CaseInsensitiveOption);
+    constexpr double hundredths = 100;
+    const auto match = unit.match(cell);
+    const auto names = [&](int group) { return !match.captured(group).isEmpty(); };
+    const auto length = [](double converted) { return std::round(converted * hundredths) / hundredths; };
+    const double number = doubleValue(cell);
+    // The m of a time is a minute.
+    if (!match.hasMatch() || key == "temps") {
+        return std::nullopt;
+    }
+    if (names(usUnits ? 2 : 1)) {
+        return length(usUnits ? inUnit("feet", "metres", number) : inUnit("metres", "feet", number));
+    }
+    if (names(usUnits ? 4 : 3)) {
+        return usUnits ? inUnit("fahrenheit", "celsius", number) : inUnit("celsius", "fahrenheit", number);
+    }
+    return std::nullopt;
+}
+
 /// Takes a cell into a dive; false where it is no value of the field.
 struct TakeCell {
     std::string_view key;
     const QString& cell;
+    bool usUnits;
 
     bool operator()(qint32& value) const {
         if (startsWithNumber(cell)) {
-            value = integerValue(cell);
+            value = rounded(fromNamedUnit(cell, key, usUnits).value_or(doubleValue(cell)));
             return true;
         }
         const auto itsWords = wordsOf(key);
@@ -108,8 +136,10 @@ struct TakeCell {
         return true;
     }
     bool operator()(float& value) const {
-        const bool isValue = startsWithNumber(cell) && std::isfinite(floatValue(cell));
-        value = isValue ? floatValue(cell) : value;
+        const auto converted = fromNamedUnit(cell, key, usUnits);
+        const float number = converted ? static_cast<float>(*converted) : floatValue(cell);
+        const bool isValue = startsWithNumber(cell) && std::isfinite(number);
+        value = isValue ? number : value;
         return isValue;
     }
     bool operator()(QString& value) const {
@@ -134,7 +164,8 @@ struct TakeCell {
 /// Reads the lines below the headings.
 class TableReader {
 public:
-    TableReader(Table& table, const std::vector<const Item*>& items) : table_(table), items_(items) {}
+    TableReader(Table& table, const std::vector<const Item*>& items, bool usUnits)
+        : table_(table), items_(items), usUnits_(usUnits) {}
 
     FoundDive read(const QStringList& row) {
         FoundDive found;
@@ -157,7 +188,7 @@ public:
                 time = moment ? moment->time : fileClock(cell);
                 isTaken = time.isValid();
             } else if (item) {
-                isTaken = item->field().visit(found.dive, TakeCell{item->key(), cell});
+                isTaken = item->field().visit(found.dive, TakeCell{item->key(), cell, usUnits_});
             }
             if (!isTaken) {
                 found.lose(table_.columns[column].heading, cell);
@@ -220,6 +251,7 @@ private:
 
     Table& table_;
     const std::vector<const Item*>& items_;
+    bool usUnits_;
     std::size_t read_ = 0;
     bool dayFirst_ = false;
     bool monthFirst_ = false;
@@ -248,7 +280,8 @@ bool holdsDay(const std::vector<TableColumn>& columns) {
                        [](const TableColumn& column) { return column.field == QLatin1String("date"); });
 }
 
-std::optional<Table> readTable(QByteArrayView bytes, const TableColumns& chosen, const Progress& progress) {
+std::optional<Table> readTable(QByteArrayView bytes, const TableColumns& chosen, const Progress& progress,
+                               bool usUnits) {
     constexpr std::size_t rowsPerProgress = 64;
     constexpr std::size_t rowsOfExamples = 20;
     const QString whole = decoded(bytes);
@@ -269,7 +302,7 @@ std::optional<Table> readTable(QByteArrayView bytes, const TableColumns& chosen,
         table.columns.push_back({heading.trimmed(), field, {}});
     }
     const bool hasDay = holdsDay(table.columns);
-    TableReader reader(table, items);
+    TableReader reader(table, items, usUnits);
     bool isEven = true;
     for (std::size_t number = 0; const auto row = rows.next(); ++number) {
         if (row->size() <= 1 && row->value(0).isEmpty()) {

@@ -32,8 +32,10 @@ bool holdsDay(const std::vector<TableColumn>& columns);
 
 /// The dives of a text of cells with commas, semicolons or tabs between, below a line of headings. A heading means what
 /// was chosen for it, or else names a field, or is one of the older text exports'; cells of other columns, and those
-/// that are no value of their field, are named as lost. Nothing for a text that is no such table: with fewer than two
+/// that are no value of their field, are named as lost. Numbers are in the logbook's units, US or metric, unless a cell
+/// names another. Nothing for a text that is no such table: with fewer than two
 /// headings, or neither a day nor lines of as many cells.
-std::optional<Table> readTable(QByteArrayView bytes, const TableColumns& chosen = {}, const Progress& progress = {});
+std::optional<Table> readTable(QByteArrayView bytes, const TableColumns& chosen = {}, const Progress& progress = {},
+                               bool usUnits = false);
 
 }  // namespace tavrel

@@ -127,8 +127,9 @@ private:
             if (const auto day = fileDay(*year, part(date, "MONTH").value_or(0), part(date, "DAY").value_or(0))) {
                 setStart(found_.dive, *day, time);
             }
-        } else if (const auto moment = fileTime(wordsOf(date))) {
-            setStart(found_.dive, moment->day, moment->time.isValid() ? moment->time : time);
+        } else if (auto moment = fileTime(wordsOf(date))) {
+            moment->settleTime(time);
+            setStart(found_.dive, moment->day, moment->time);
         }
     }
 

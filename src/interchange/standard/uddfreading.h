@@ -6,8 +6,11 @@
 
 namespace tavrel {
 
-/// How such a file is parsed: with attributes, and names without the prefix of the root's namespace.
-inline constexpr XmlMarkup uddfMarkup{true, true};
+/// Elements of dive files that never stand in one of their own name.
+inline constexpr std::string_view neverNestedInDives[] = {"dive", "repetitiongroup", "repgroup", "waypoint"};
+
+/// How such a file is parsed: with attributes, names without the prefix of the root's namespace, and damage mended.
+inline constexpr XmlMarkup uddfMarkup{true, true, true, neverNestedInDives};
 
 /// The dives of a UDDF file, versions 2 and 3, by the meaning of its elements: every group of every profiledata, values
 /// wherever the versions put them, links followed, SI units turned into a dive's. What a dive cannot hold is named in

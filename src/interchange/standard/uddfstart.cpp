@@ -34,8 +34,8 @@ std::optional<FileTime> momentOf(XmlElement element) {
     for (const char* name : {"datetime", "date"}) {
         if (const XmlElement inner = element.first(name); !inner.isNull()) {
             auto moment = momentOf(inner);
-            if (moment && !moment->time.isValid()) {
-                moment->time = clockOf(element);
+            if (moment) {
+                moment->settleTime(clockOf(element));
             }
             return moment;
         }
@@ -63,8 +63,8 @@ std::optional<FileTime> uddfStart(const std::vector<XmlElement>& parts) {
     }
     for (const XmlElement part : parts) {
         for (const XmlElement element : part.children("time")) {
-            if (start && !start->time.isValid()) {
-                start->time = clockOf(element);
+            if (start) {
+                start->settleTime(clockOf(element));
             }
         }
     }

@@ -205,7 +205,8 @@ void ImportWindow::stopReading() {
 void ImportWindow::startReading() {
     state_ = std::make_shared<Reading>();
     const auto state = state_;
-    thread_ = QThread::create([this, state, file = file_, columns = tableColumns(desktop_.preferences)] {
+    thread_ = QThread::create([this, state, file = file_, columns = tableColumns(desktop_.preferences),
+                               usUnits = desktop_.preferences.get(settings::usUnits)] {
         const auto bytes = FileBytes::open(file);
         if (!bytes) {
             state->source = tl::unexpected(bytes.error());
@@ -224,7 +225,7 @@ void ImportWindow::startReading() {
                 }
                 return !state->cancelled;
             },
-            columns);
+            columns, usUnits);
         if (!state->source) {
             state->source = tl::unexpected(openingFailure(file, state->source.error()));
         }
@@ -245,15 +246,16 @@ void ImportWindow::advance(int thousandths) {
 
 void ImportWindow::showFound() {
     progress_->hide();
+    heading_->setWordWrap(true);
     if (!state_->source) {
         heading_->setText(state_->source.error().message());
-        heading_->setWordWrap(true);
         return;
     }
     found_ = std::move(state_->source->found);
     showTable();
     judge(carnet_, found_);
-    heading_->setText(textWith("Interchange", "Dives found", static_cast<int>(found_.dives.size())));
+    const QString damage = found_.damage.isEmpty() ? QString() : u'\n' + damageText(found_.damage);
+    heading_->setText(textWith("Interchange", "Dives found", static_cast<int>(found_.dives.size())) + damage);
     {
         const QSignalBlocker quiet(list_);
         list_->clear();
@@ -344,6 +346,7 @@ void ImportWindow::importChosen() {
         return;
     }
     FoundDives chosen;
+    chosen.damage = found_.damage;
     for (int index = 0; index < list_->topLevelItemCount(); ++index) {
         if (list_->topLevelItem(index)->checkState(start) == Qt::Checked) {
             chosen.dives.push_back(found_.dives[static_cast<std::size_t>(index)]);

@@ -1,15 +1,15 @@
 #include "interchange/xml/xmltree.h"
 
 #include "base/texts.h"
+#include "interchange/xml/xmlencoding.h"
 
-#include <QStringDecoder>
 #include <libxml/SAX2.h>
 #include <libxml/parser.h>
 #include <libxml/tree.h>
 
 #include <algorithm>
-#include <cstring>
 #include <limits>
+#include <utility>
 
 namespace tavrel {
 
@@ -37,13 +37,16 @@ class Builder {
 public:
     explicit Builder(XmlNodes& tree) : tree_(tree) {}
 
-    void begin(const char* name) {
+    /// The plain name is that without a prefix; it lives as long as the builder.
+    void begin(const char* name, const char* plainName) {
         if (!open_.empty()) {
             endRun(true);
         }
         const std::uint32_t index = append({name, none, none, none, 0, tree_.texts.size()});
-        open_.push_back({index, none});
+        open_.push_back({index, none, plainName});
     }
+
+    std::size_t levels() const { return open_.size(); }
 
     /// Of the element that began last.
     void attribute(const char* name, std::string_view value) {
@@ -71,6 +74,15 @@ public:
         }
     }
 
+    /// Ends the innermost open element of this plain name, with all that is open in it; nothing when there is none.
+    template <class IsNamed>
+    void endNamed(IsNamed isNamed) {
+        const auto its = std::find_if(open_.rbegin(), open_.rend(), [&](const Open& it) { return isNamed(it.name); });
+        for (auto levels = its == open_.rend() ? 0 : its - open_.rbegin() + 1; levels > 0; --levels) {
+            end();
+        }
+    }
+
     /// Ends what a truncated file leaves open.
     void endAll() {
         while (!open_.empty()) {
@@ -82,6 +94,7 @@ private:
     struct Open {
         std::uint32_t index;
         std::uint32_t lastChild;
+        const char* name;  ///< without a prefix
     };
 
     std::uint32_t append(const Node& node) {
@@ -124,6 +137,7 @@ private:
 constexpr int mostAttributes = 1000;  ///< of an element
 constexpr int mostNamespaces = 250;   ///< in force at one place
 constexpr std::size_t mostElements = 32'000'000;
+constexpr std::size_t mostLevels = 256;  ///< the parser's own, which what a mended file leaves open may pass
 constexpr std::size_t mostDeclarations = 1000;
 constexpr std::size_t mostDeclaredAttributes = 32;
 
@@ -136,13 +150,17 @@ struct Reading {
     Builder builder;
     XmlMarkup markup;
     const xmlChar* rootNamespace = nullptr;
+    const xmlChar* rootPrefix = nullptr;
     std::size_t elements = 0;
     std::size_t declarations = 0;
     std::size_t declaredAttributes = 0;
     std::size_t entityBytes = 0;
     bool cancelled = false;
     bool limit = false;
+    bool isUnreadable = false;  ///< in the encoding that it declares
     QString firstError = {};
+    QString damage = {};
+    std::string endTag = {};  ///< that does not end the element open last; without a prefix
 };
 
 constexpr int partsOfAttribute = 5;  // name, prefix, namespace, start and end of the value
@@ -187,23 +205,44 @@ int readBytes(void* context, char* buffer, int length) {
     return static_cast<int>(count);
 }
 
+bool isCalled(std::string_view name, std::string_view other) {
+    return qstrnicmp(name.data(), static_cast<qsizetype>(name.size()), other.data(),
+                     static_cast<qsizetype>(other.size())) == 0;
+}
+
+/// Ends an element that the one about to begin cannot stand in.
+void endNeverNested(Reading& state, const char* name) {
+    for (const std::string_view single : state.markup.neverNested) {
+        if (isCalled(name, single)) {
+            state.builder.endNamed([&](const char* open) { return isCalled(open, single); });
+        }
+    }
+}
+
 void startElement(void* context, const xmlChar* name, const xmlChar* prefix, const xmlChar* uri, int, const xmlChar**,
                   int attributes, int, const xmlChar** attribute) {
     Reading* state = reading(context);
     if (!state) {
         return;
     }
-    if (++state->elements > mostElements || attributes > mostAttributes || state->parser->nsNr > 2 * mostNamespaces) {
+    const bool isTooDeep = state->markup.mended && state->builder.levels() > mostLevels;
+    if (++state->elements > mostElements || attributes > mostAttributes || state->parser->nsNr > 2 * mostNamespaces ||
+        isTooDeep) {
         stopBeyondLimits(*state);
         return;
     }
     if (state->elements == 1) {
         state->rootNamespace = uri;
+        state->rootPrefix = prefix;
     }
-    // Names and namespaces are of the parser's dictionary: equal ones are one pointer.
-    const bool plain = !prefix || (state->markup.plainNames && uri && uri == state->rootNamespace);
+    // Names and namespaces are of the parser's dictionary: equal ones are one pointer. A prefix that the root does not
+    // declare stands for no namespace, which is the root's own.
+    const bool isRoots = uri == state->rootNamespace && (uri || prefix == state->rootPrefix);
+    const bool plain = !prefix || (state->markup.plainNames && isRoots);
     const xmlChar* whole = plain ? name : xmlDictQLookup(state->parser->dict, prefix, name);
-    state->builder.begin(reinterpret_cast<const char*>(whole));
+    const auto* plainName = reinterpret_cast<const char*>(name);
+    endNeverNested(*state, plainName);
+    state->builder.begin(reinterpret_cast<const char*>(whole), plainName);
     for (int index = 0; state->markup.attributes && index < attributes; ++index, attribute += partsOfAttribute) {
         const auto* value = reinterpret_cast<const char*>(attribute[3]);
         const auto length = static_cast<std::size_t>(attribute[4] - attribute[3]);
@@ -211,10 +250,19 @@ void startElement(void* context, const xmlChar* name, const xmlChar* prefix, con
     }
 }
 
-void endElement(void* context, const xmlChar*, const xmlChar*, const xmlChar*) {
-    if (Reading* state = reading(context)) {
-        state->builder.end();
+void endElement(void* context, const xmlChar* name, const xmlChar*, const xmlChar*) {
+    Reading* state = reading(context);
+    if (!state) {
+        return;
     }
+    if (!state->markup.mended) {
+        state->builder.end();
+        return;
+    }
+    // What the parser takes for the end of its innermost element may be that of another.
+    const std::string other = std::exchange(state->endTag, {});
+    const std::string_view ended = other.empty() ? reinterpret_cast<const char*>(name) : std::string_view(other);
+    state->builder.endNamed([&](const char* open) { return ended == open; });
 }
 
 void characters(void* context, const xmlChar* text, int length) {
@@ -290,8 +338,22 @@ void declareUnparsedEntity(void* context, const xmlChar*, const xmlChar*, const 
     mayDeclare(context);
 }
 
+/// Errors of the parser behind which nothing is missing.
+bool isHarmless(int code) {
+    // Text that is no UTF-8 stays as it is, and the declaration is known behind blanks, too.
+    return code == XML_ERR_INVALID_ENCODING || code == XML_ERR_RESERVED_XML_NAME;
+}
+
 void noteError(void* context, xmlErrorPtr error) {
     auto& state = *static_cast<Reading*>(static_cast<xmlParserCtxtPtr>(context)->_private);
+    if (error->level == XML_ERR_FATAL && state.damage.isEmpty() && !isHarmless(error->code)) {
+        state.damage = QStringLiteral("%1:%2").arg(error->line).arg(error->int2);
+    }
+    state.isUnreadable = state.isUnreadable || error->code == XML_ERR_UNSUPPORTED_ENCODING;
+    if (error->code == XML_ERR_TAG_NAME_MISMATCH && error->str2 && context == state.parser) {
+        const std::string_view name = error->str2;
+        state.endTag = name.substr(name.find(':') + 1);
+    }
     state.limit = state.limit || error->code == XML_ERR_ENTITY_LOOP || error->code == XML_ERR_NO_MEMORY;
     if (state.firstError.isEmpty() && error->message) {
         state.firstError = QString::fromUtf8(error->message).trimmed();
@@ -322,11 +384,15 @@ void listen(xmlSAXHandler& events) {
     events.serror = noteError;
 }
 
-/// While it lives the library prints nothing of its own, as it would about characters that it cannot convert.
+/// While it lives the library prints nothing of its own, as it would about characters that it cannot convert. These
+/// make the file unreadable.
 class Silence {
 public:
-    Silence() : handler_(xmlStructuredError), context_(xmlStructuredErrorContext) {
-        xmlSetStructuredErrorFunc(nullptr, [](void*, xmlErrorPtr) {});
+    explicit Silence(Reading& state) : handler_(xmlStructuredError), context_(xmlStructuredErrorContext) {
+        xmlSetStructuredErrorFunc(&state, [](void* context, xmlErrorPtr error) {
+            auto* its = static_cast<Reading*>(context);
+            its->isUnreadable = its->isUnreadable || error->domain == XML_FROM_I18N;
+        });
     }
     ~Silence() { xmlSetStructuredErrorFunc(context_, handler_); }
     Silence(const Silence&) = delete;
@@ -345,117 +411,6 @@ struct FreeParser {
 };
 
 }  // namespace
-
-XmlElement XmlElement::matching(const char* name) const {
-    XmlElement element = *this;
-    while (!element.isNull() && !(element.node().name && std::strcmp(element.node().name, name) == 0)) {
-        element = at(element.node().next);
-    }
-    return element;
-}
-
-XmlElement XmlElement::orNextElement() const {
-    XmlElement element = *this;
-    while (!element.isNull() && !element.node().name) {
-        element = at(element.node().next);
-    }
-    return element;
-}
-
-namespace {
-
-/// The attributes of an element and of those behind it.
-auto attributesFrom(const XmlNodes& tree, std::uint32_t element) {
-    return std::lower_bound(
-        tree.attributes.begin(), tree.attributes.end(), element,
-        [](const XmlNodes::Attribute& attribute, std::uint32_t index) { return attribute.element < index; });
-}
-
-}  // namespace
-
-std::string_view XmlElement::attribute(std::string_view name) const {
-    if (!isNull()) {
-        const auto end = tree_->attributes.end();
-        for (auto it = attributesFrom(*tree_, index_); it != end && it->element == index_; ++it) {
-            if (name == it->name) {
-                return std::string_view(tree_->texts).substr(it->offset, it->length);
-            }
-        }
-    }
-    return {};
-}
-
-bool XmlElement::hasAttributes() const {
-    if (isNull()) {
-        return false;
-    }
-    const auto first = attributesFrom(*tree_, index_);
-    return first != tree_->attributes.end() && first->element == index_;
-}
-
-XmlElement::Children XmlElement::children(const char* name) const {
-    return {first(name), name};
-}
-
-XmlElement XmlElement::first(const char* name) const {
-    return isNull() ? XmlElement() : at(node().first).matching(name);
-}
-
-XmlElement XmlElement::last(const char* name) const {
-    XmlElement found;
-    for (const XmlElement child : children(name)) {
-        found = child;
-    }
-    return found;
-}
-
-XmlElement::Children::Iterator& XmlElement::Children::Iterator::operator++() {
-    element_ = element_.at(element_.node().next).matching(name_);
-    return *this;
-}
-
-std::size_t XmlElement::Children::count() const {
-    std::size_t number = 0;
-    for ([[maybe_unused]] const XmlElement child : *this) {
-        ++number;
-    }
-    return number;
-}
-
-std::string_view XmlElement::text(std::string& buffer) const {
-    if (isNull()) {
-        return {};
-    }
-    if (node().first == none) {
-        return tree_->textOf(node());
-    }
-    // The descendants in document order, without recursion.
-    buffer.clear();
-    std::uint32_t index = node().first;
-    while (index != index_) {
-        const Node& here = tree_->nodes[index];
-        if (here.first != none) {
-            index = here.first;
-            continue;
-        }
-        buffer += tree_->textOf(here);
-        while (index != index_ && tree_->nodes[index].next == none) {
-            index = tree_->nodes[index].parent;
-        }
-        index = index == index_ ? index_ : tree_->nodes[index].next;
-    }
-    return buffer;
-}
-
-QString XmlElement::text() const {
-    std::string buffer;
-    const std::string_view whole = text(buffer);
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    const QByteArrayView bytes(whole.data(), static_cast<qsizetype>(whole.size()));
-    const QString decoded = decoder(bytes);
-    // A file that declares no encoding and is not UTF-8 leaves its bytes as they are.
-    return decoder.hasError() ? QString::fromLatin1(bytes) : decoded;
-}
 
 void XmlTree::Free::operator()(void* names) const {
     xmlDictFree(static_cast<xmlDictPtr>(names));
@@ -485,6 +440,16 @@ void XmlTree::lowerNames() {
 }
 
 Expected<XmlTree> XmlTree::parse(QByteArrayView bytes, const Progress& progress, XmlMarkup markup) {
+    bool isReadable = true;
+    if (!markup.mended) {
+        return parsedIn(Encoding::declared, bytes, progress, markup, isReadable);
+    }
+    auto tree = parsedIn(hasUtf8Mark(bytes) ? Encoding::utf8 : Encoding::declared, bytes, progress, markup, isReadable);
+    return isReadable ? std::move(tree) : parsedIn(Encoding::utf8, xmlInUtf8(bytes), progress, markup, isReadable);
+}
+
+Expected<XmlTree> XmlTree::parsedIn(Encoding encoding, QByteArrayView bytes, const Progress& progress,
+                                    const XmlMarkup& markup, bool& isReadable) {
     const std::unique_ptr<xmlParserCtxt, FreeParser> parser(xmlNewParserCtxt());
     if (bytes.size() > std::numeric_limits<int>::max() || !parser) {
         return failure(text("Main", "XML file too large"));
@@ -493,12 +458,13 @@ Expected<XmlTree> XmlTree::parse(QByteArrayView bytes, const Progress& progress,
     xmlDictReference(parser->dict);
     tree.names_.reset(parser->dict);
 
-    const Silence silence;
     Reading state{progress, static_cast<std::size_t>(bytes.size()), bytes, parser.get(), Builder(*tree.nodes_), markup};
+    const Silence silence(state);
     parser->_private = &state;
     listen(*parser->sax);
     // Without XML_PARSE_NOENT, XML_PARSE_DTDLOAD and XML_PARSE_HUGE: nothing is resolved and the limits hold.
-    constexpr int options = XML_PARSE_RECOVER | XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
+    const int options = XML_PARSE_RECOVER | XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING |
+                        (encoding == Encoding::utf8 ? XML_PARSE_IGNORE_ENC : 0);
     parser->myDoc = xmlCtxtReadIO(parser.get(), readBytes, nullptr, &state, nullptr, nullptr, options);
     state.builder.endAll();
     if (state.cancelled) {
@@ -508,9 +474,11 @@ Expected<XmlTree> XmlTree::parse(QByteArrayView bytes, const Progress& progress,
     if (state.limit || parser->disableSAX != 0) {
         return failure(text("Main", "XML file beyond limits"), state.firstError);
     }
+    isReadable = !state.isUnreadable && !tree.root().isNull();
     if (tree.root().isNull()) {
         return failure(text("Main", "XML file without elements"), state.firstError);
     }
+    tree.damage_ = state.damage;
     return tree;
 }
 

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -121,18 +122,28 @@ struct XmlMarkup {
     bool attributes = false;
     /// Leaves out the prefixes of the root's own namespace, so that names do not depend on how the file spells it.
     bool plainNames = false;
+    /// Reads a damaged file for all that it holds, beyond the parser's own repair: an end tag ends the element of its
+    /// name, with what was left open in it, and nothing where none is open; text that its declared encoding does not
+    /// tell is read in the one that it seems to have.
+    bool mended = false;
+    /// With that, the small names of elements that never stand in one of their own name: where one does, case aside,
+    /// the end of the outer one is missing.
+    std::span<const std::string_view> neverNested = {};
 };
 
 /// An XML file as a tree of elements and texts, with attributes where they are asked for. Malformed markup is repaired
-/// as far as libxml2's parser recovers it, and texts are converted from the encoding that the file declares. Nothing
-/// outside the bytes is ever read: entities, external references and inclusions stay unresolved, and the network is out
-/// of reach. Fails when the bytes hold no element, or when they nest or grow beyond the parser's limits (256 levels,
-/// names of 50 kB) or name entities whose texts add up to far more than the file.
+/// as far as libxml2's parser recovers it or, on request, further, and texts are converted from the encoding that the
+/// file declares. Nothing outside the bytes is ever read: entities, external references and inclusions stay unresolved,
+/// and the network is out of reach. Fails when the bytes hold no element, or when they nest or grow beyond the parser's
+/// limits (256 levels, names of 50 kB) or name entities whose texts add up to far more than the file.
 class XmlTree {
 public:
     /// The progress counts bytes.
     static Expected<XmlTree> parse(QByteArrayView bytes, const Progress& progress = {}, XmlMarkup markup = {});
 
+    /// Where the markup is damaged first, as "line:column", behind which elements or texts may be missing; empty for a
+    /// sound file.
+    const QString& damage() const { return damage_; }
     XmlElement root() const { return nodes_->nodes.empty() ? XmlElement() : XmlElement(nodes_.get(), 0); }
 
     /// Turns the names of all elements and attributes into lower case, for files that do not keep to their format's.
@@ -143,9 +154,15 @@ private:
         void operator()(void* names) const;
     };
 
+    /// What the file's encoding is taken from, and whether its bytes could be read by it.
+    enum class Encoding { declared, utf8 };
+    static Expected<XmlTree> parsedIn(Encoding encoding, QByteArrayView bytes, const Progress& progress,
+                                      const XmlMarkup& markup, bool& isReadable);
+
     XmlTree() : nodes_(std::make_unique<XmlNodes>()) {}
 
     std::unique_ptr<XmlNodes> nodes_;
+    QString damage_;
     std::unique_ptr<void, Free> names_;  // the parser's dictionary, which holds the names of the nodes
 };
 

@@ -168,6 +168,16 @@ TEST(Uddf, readsTheClockHoweverItIsWritten) {
          u"2010-08-14 10:02:00"},
         {"<datetime><date><year>2010</year><month>8</month><day>4</day></date><time><hour>9</hour></time></datetime>",
          u"2010-08-04 09:00:00"},
+        {"<date>2010-08-14T00:00:00</date><time>10:42</time>", u"2010-08-14 10:42:00"},
+        {"<datetime>2010-08-14T00:00:00</datetime><time>0001-01-01T10:42:00</time>", u"2010-08-14 10:42:00"},
+        {"<datetime>2010-08-14T09:02:00</datetime><time>10:42</time>", u"2010-08-14 09:02:00"},
+        {"<date>2010-08-14</date><time>10.42</time>", u"2010-08-14 10:42:00"},
+        {"<datetime>2010-08-14T1042</datetime>", u"2010-08-14 10:42:00"},
+        {"<datetime>2010-08-14T10-42-31</datetime>", u"2010-08-14 10:42:31"},
+        {"<datetime>2010-08-14-10:42:31</datetime>", u"2010-08-14 10:42:31"},
+        {"<date>2010-08-14-02:00</date>", u"2010-08-14 00:00:00"},
+        {"<datetime>2010-08-14T10:42-05:00</datetime>", u"2010-08-14 10:42:00"},
+        {"<datetime>2010-08-31T24:00:00</datetime>", u"2010-09-01 00:00:00"},
         {"<datetime>0001-01-01T00:00:00</datetime>", u""},
         {"<datetime>2010-02-30T10:00:00</datetime>", u""},
         {"<datetime>yesterday</datetime>", u""},
@@ -386,6 +396,25 @@ TEST(Udcf, isReadAsItWasMeant) {
     EXPECT_EQ(fieldsOf(dive, "fabricant ordinateur"), u"Reef; One");
 }
 
+TEST(Sources, loseNoDiveThatStandsBehindDamage) {
+    const QByteArray whole = dive("<divenumber>1</divenumber>", "<notes><para>n</para></notes>");
+    const QByteArray broken = dive("<divenumber>1</divenumber>",
+                                   "<notes><b>n</notes><samples><waypoint><depth>9</depth>"
+                                   "<waypoint><depth>5</depth></waypoint></samples>");
+    const qsizetype first = whole.indexOf("<dive ");
+    const qsizetype end = whole.indexOf("</repetitiongroup>");
+    for (const QByteArray& damaged : {broken, QByteArray(broken).replace("</dive>", "")}) {
+        QByteArray file = damaged;
+        file.insert(file.indexOf("</repetitiongroup>"), whole.mid(first, end - first).repeated(2));
+        const FoundDives found = read(file);
+        ASSERT_EQ(found.dives.size(), 3U);
+        EXPECT_FALSE(found.damage.isEmpty());
+        EXPECT_EQ(found.dives[0].dive.profilProfondeur, Series::ofReals({9, 5}));
+        EXPECT_EQ(fieldsOf(found.dives[2].dive, "noPlongee notes"), u"1; n");
+    }
+    EXPECT_EQ(read(whole).damage, u"");
+}
+
 TEST(Udcf, isReadInTheUnitsThatItSays) {
     const FoundDive found =
         read(
@@ -504,6 +533,17 @@ TEST(FoundDives, areRecognisedWithinTwoMinutesAndLikeDepthAndLength) {
     markDuplicates(twins, {});
     EXPECT_FALSE(twins.dives[0].duplicate || twins.dives[1].duplicate);
     EXPECT_TRUE(twins.dives[2].duplicate);
+    // Without a time of day, or a profile, two dives of a day may be as long and deep.
+    twins.dives.resize(2);
+    twins.dives[1].dive = held;
+    twins.dives[1].dive.site = QStringLiteral("other");
+    markDuplicates(twins, {});
+    EXPECT_FALSE(twins.dives[1].duplicate);
+    for (FoundDive& twin : twins.dives) {
+        twin.dive.profilProfondeur = Series::ofReals({1, 2});
+    }
+    markDuplicates(twins, {});
+    EXPECT_TRUE(twins.dives[1].duplicate);
     FoundDives undated;
     undated.dives.resize(2);
     markDuplicates(undated, {});

@@ -11,8 +11,8 @@ namespace tavrel {
 
 namespace {
 
-Table read(const QByteArray& bytes, const TableColumns& chosen = {}) {
-    const auto table = readTable(bytes, chosen);
+Table read(const QByteArray& bytes, const TableColumns& chosen = {}, bool usUnits = false) {
+    const auto table = readTable(bytes, chosen, {}, usUnits);
     EXPECT_TRUE(table) << bytes.left(80).toStdString();
     return table ? *table : Table();
 }
@@ -45,6 +45,18 @@ TEST(TableReading, readsTheOlderExportsWithTheirWords) {
     const Plongee& dive = table.found.dives.at(0).dive;
     EXPECT_EQ(startText(table.found.dives[0]), u"2010-08-14 10:02:00");
     EXPECT_EQ((std::array{dive.noPlongee, dive.meteo, dive.courant, dive.visibilite}), (std::array{7, 3, 6, 8}));
+}
+
+TEST(TableReading, takesTheUnitsThatCellsName) {
+    const QByteArray file =
+        "date;profondeur;temps;tempEau;tempAir;altitude\n2020-01-01;40 ft;45,6 m;14,7 °C;59F;1200 m\n"
+        "2020-01-01;12;30;20;21;300\n";
+    const std::vector<FoundDive> metric = read(file).found.dives;
+    const std::vector<FoundDive> us = read(file, {}, true).found.dives;
+    const char* fields = "profondeur temps tempEau tempAir altitude";
+    EXPECT_EQ(fieldsOf(metric.at(0).dive, fields), u"12.19; 46; 15; 15; 1200");
+    EXPECT_EQ(fieldsOf(us.at(0).dive, fields), u"40; 46; 58; 59; 3937");
+    EXPECT_EQ(fieldsOf(us.at(1).dive, fields), fieldsOf(metric.at(1).dive, fields));
 }
 
 TEST(TableReading, namesWhatIsNoValueOfADive) {

@@ -54,6 +54,58 @@ TEST(XmlTree, readsTheDeclaredEncoding) {
     }
 }
 
+/// The texts of the root's children in a file that is mended, with where it is damaged.
+QString mended(const QByteArray& file) {
+    static constexpr std::string_view single[] = {"d", "g"};
+    const auto tree = XmlTree::parse(file, {}, {true, true, true, single});
+    QString texts;
+    for (XmlElement it = tree ? tree->root().firstElement() : XmlElement(); !it.isNull(); it = it.nextElement()) {
+        texts += it.text() + u'|';
+    }
+    return tree ? texts + tree->damage() : tree.error().message();
+}
+
+TEST(XmlTree, mendsADamagedFileOnRequest) {
+    const std::pair<const char*, const char16_t*> cases[] = {
+        {"<p><d>1</d>\n<d>2</d></p>", u"1|2|"},
+        {"<p><d>1<n><b>x</n>y</d>\n<d>2</d><d>3</d></p>", u"1xy|2|3|1:17"},
+        {"<p><d>1\n<d>2<n>x\n<D>3</D></p>", u"1\n|2x\n|3|3:13"},
+        {"<p><g><d>1</x>y</d><d>2</d></g></p>", u"1y2|1:15"},
+        {"<p><d>1</d><d>2", u"1|2|1:16"},
+        {"<u:p><u:d>1</u:d><v:d>2</v:d></u:p>", u"1|2|"},
+    };
+    for (const auto& [file, texts] : cases) {
+        EXPECT_EQ(mended(file), QStringView(texts)) << file;
+    }
+    EXPECT_EQ(XmlTree::parse("<u:p><u:d/><v:d/></u:p>", {}, {true, true})->root().firstElement().name(), "d");
+    // What is left open may nest without the parser's knowing.
+    EXPECT_TRUE(
+        mended("<p>" + QByteArray("<a></b>").repeated(100'000)).contains(text("Main", "XML file beyond limits")));
+}
+
+TEST(XmlTree, readsTextThatItsDeclaredEncodingDoesNotTell) {
+    const auto declared = [](const char* encoding, const QByteArray& text) {
+        return "<?xml version='1.0' encoding='" + QByteArray(encoding) + "'?><p><d>" + text + "</d><d>\xc9</d></p>";
+    };
+    QByteArray utf16("\xff\xfe", 2);
+    const QString lone = QStringLiteral("<p><d>1") + QChar(0xD800) + QStringLiteral("</d><d>É</d></p>");
+    utf16.append(reinterpret_cast<const char*>(lone.utf16()), lone.size() * 2);
+    const std::pair<QByteArray, const char16_t*> cases[] = {
+        {declared("windows-1252", "\x80\x81"), u"€\uFFFD|É|"},
+        {declared("us-ascii", "1"), u"1|É|"},
+        {declared("us-ascii", "\xc3\xa9").replace('\xc9', "\xc3\x89"), u"é|É|"},
+        {declared("Shift_JIS", "\x83\x41\xff").replace("\xc9", "I"), u"ア\u00ff|I|"},
+        {declared("ANSI", "\x80"), u"€|É|"},
+        {declared("unicode", "\xc3\xa9").replace('\xc9', "\xc3\x89"), u"é|É|"},
+        {"\xef\xbb\xbf" + declared("iso-8859-1", "\xc3\xa9").replace('\xc9', "\xc3\x89"), u"é|É|"},
+        {"\n" + declared("UTF-8", "\xc3\xa9"), u"é|É|"},
+        {utf16, u"1\uFFFD|É|"},
+    };
+    for (const auto& [file, texts] : cases) {
+        EXPECT_EQ(mended(file), QStringView(texts)) << file.toStdString();
+    }
+}
+
 QByteArray nested(int levels) {
     return QByteArray("<p>") + QByteArray("<a>").repeated(levels) + QByteArray("</a>").repeated(levels) + "</p>";
 }
