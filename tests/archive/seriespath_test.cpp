@@ -23,10 +23,10 @@ std::vector<Series> variedSeries() {
     for (int index = 0; index < 300; ++index) {
         all[0].appendReal(index % 7 == 0 ? -0.0 : std::sin(index / 40));
         all[1].append(Number::ofReal(widened(static_cast<float>(index % 50) / 8), 'f'));
-        all[2].appendInteger(std::int64_t{index} * index * 97 - 40000);
+        all[2].appendInteger(index * index * 97 - 40000);
         all[3].append(Number::ofInteger(index % 3 - 1, index < 200 ? 'c' : 's'));
         all[4].append(Number::ofInteger(index % 5 == 0 ? std::int64_t{-5000000000} - index % 2 : index, 'q'));
-        all[5].append(Number::ofInteger(index * 1000, 'I'));
+        all[5].append(Number::ofInteger(std::int64_t{index} * 1000, 'I'));
     }
     for (const char code : {'c', 'C', 's', 'S', 'i', 'I', 'l', 'L', 'q', 'Q', 'B', 'c'}) {
         all[6].append(Number::ofInteger(100, code));

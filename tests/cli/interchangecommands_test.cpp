@@ -27,7 +27,7 @@ TEST_F(LogbookCommands, importsTheSampleFilesTellingTheirFormat) {
                                "import a.carnet " TAVREL_SAMPLE_FOLDER "/sample-2.uddf",
                                "import a.carnet " TAVREL_SAMPLE_FOLDER "/sample-3.uddf",
                                "import a.carnet " TAVREL_SAMPLE_FOLDER "/sample-handheld.xml"}) {
-        EXPECT_TRUE(done(import).endsWith(QStringLiteral("imported.\n"))) << import;
+        EXPECT_TRUE(done(import).contains(QStringLiteral("imported."))) << import;
     }
     expectValues(0, "lieu=Port-Cros - Pointe du Vaisseau|date=2019-06-22T09:40:00Z");
     expectValues(1, "pressionFin=60|tempEau=18");

@@ -115,14 +115,14 @@ private:
 
     /// What the dive says, unless it makes no sense or the waypoints show that it cannot be; then what these show.
     double greatestDepth(const UddfProfile& profile) const {
-        constexpr double apart = 0.5;  // metres
+        constexpr double share = 0.95, apart = 0.5;  // of the depth, that the water's density makes; metres
         const double told = number("greatestdepth").value_or(0);
         const double shown = profile.deepest();
         if (!(told > 0 && told < deepestThinkable)) {
             return shown;
         }
         const bool areShown = shown > 0 && shown <= implausibleDepth && !document_.isOwn();
-        return areShown && (told > implausibleDepth || told < shown - apart) ? shown : told;
+        return areShown && (told > implausibleDepth || told < share * shown - apart) ? shown : told;
     }
 
     /// Seconds as whole minutes; a duration that only makes sense as minutes is taken for them, and one beyond a day

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <cerrno>
 #include <cstdint>
 #include <optional>
@@ -32,13 +31,18 @@ QByteArray strayByte(char byte) {
     return QString(sign.isPrint() ? sign : QChar(QChar::ReplacementCharacter)).toUtf8();
 }
 
+struct Converted {
+    QByteArray text;
+    bool isWhole = true;  ///< every byte is a sign
+};
+
 /// Nothing where the system does not know the encoding, or it is none in which the bytes could begin as they do.
-std::optional<QByteArray> converted(QByteArrayView bytes, const char* encoding) {
+std::optional<Converted> converted(QByteArrayView bytes, const char* encoding) {
     const iconv_t converter = iconv_open("UTF-8", encoding);
-    if (std::bit_cast<std::intptr_t>(converter) == -1) {
+    if (reinterpret_cast<std::intptr_t>(converter) == -1) {
         return std::nullopt;
     }
-    QByteArray text;
+    Converted result;
     std::array<char, 1 << 15> piece{};
     // The converter's interface is not const, though it changes nothing.
     char* in = const_cast<char*>(bytes.data());
@@ -48,34 +52,38 @@ std::optional<QByteArray> converted(QByteArrayView bytes, const char* encoding) 
         std::size_t outLeft = piece.size();
         const bool isWhole = iconv(converter, &in, &inLeft, &out, &outLeft) != static_cast<std::size_t>(-1);
         const int why = errno;
-        text.append(piece.data(), out - piece.data());
+        result.text.append(piece.data(), out - piece.data());
         if (!isWhole && why != E2BIG) {
-            text += strayByte(*in++);
+            result.isWhole = false;
+            result.text += strayByte(*in++);
             --inLeft;
         }
     }
     iconv_close(converter);
-    return text.startsWith(bytes.first(std::min<qsizetype>(bytes.size(), 5)).toByteArray()) ? std::optional(text)
-                                                                                            : std::nullopt;
+    const auto start = bytes.first(std::min<qsizetype>(bytes.size(), 5));
+    return result.text.startsWith(start) ? std::optional(std::move(result)) : std::nullopt;
 }
 
 }  // namespace
 
-bool hasUtf8Mark(QByteArrayView bytes) {
-    return bytes.startsWith("\xEF\xBB\xBF");
-}
-
-QByteArray xmlInUtf8(QByteArrayView bytes) {
-    if (const auto shown = QStringConverter::encodingForData(bytes, u'<')) {
+std::optional<QByteArray> xmlInUtf8(QByteArrayView bytes) {
+    if (bytes.startsWith("\xEF\xBB\xBF")) {
+        return bytes.isValidUtf8() ? std::nullopt : std::optional(QString::fromUtf8(bytes).toUtf8());
+    }
+    if (const auto shown = QStringConverter::encodingForData(bytes, u'<'); shown && *shown != QStringConverter::Utf8) {
         return QString(QStringDecoder(*shown)(bytes)).toUtf8();
     }
-    if (bytes.isValidUtf8()) {
-        return bytes.toByteArray();
-    }
     const QByteArray declared = declaredEncoding(bytes);
+    const bool isUtf8 = bytes.isValidUtf8();
+    if (isUtf8 && (declared.isEmpty() || declared.compare("utf-8", Qt::CaseInsensitive) == 0)) {
+        return std::nullopt;
+    }
     auto text = declared.isEmpty() ? std::nullopt : converted(bytes, declared.constData());
-    text = text ? text : converted(bytes, commonEncoding);
-    return text.value_or(QString::fromLatin1(bytes).toUtf8());
+    if (isUtf8 && !(text && text->isWhole)) {
+        return std::nullopt;
+    }
+    text = text ? std::move(text) : converted(bytes, commonEncoding);
+    return text ? std::move(text->text) : QString::fromLatin1(bytes).toUtf8();
 }
 
 }  // namespace tavrel

@@ -3,14 +3,14 @@
 #include <QByteArray>
 #include <QByteArrayView>
 
+#include <optional>
+
 namespace tavrel {
 
-/// Whether the bytes begin with the mark of UTF-8, which outranks what an XML file declares.
-bool hasUtf8Mark(QByteArrayView bytes);
-
-/// An XML file in UTF-8 that its declared encoding does not tell, because it is unknown, wrong or broken in places:
-/// read in the encoding that its first bytes show, in UTF-8 where it is that throughout, else in the declared one or,
-/// where that is none, the common one of Windows. A byte that is no sign there stays as the sign that it is in Latin-1.
-QByteArray xmlInUtf8(QByteArrayView bytes);
+/// An XML file in UTF-8, nothing where it is in UTF-8 already: read in the encoding that its first bytes show, which
+/// outranks the declared one; else in the declared one; where that is unknown or broken in places, in UTF-8 if the file
+/// is that throughout, and else in the common one of Windows. A byte that is no sign there stays as the sign that it is
+/// in Latin-1.
+std::optional<QByteArray> xmlInUtf8(QByteArrayView bytes);
 
 }  // namespace tavrel

@@ -157,7 +157,6 @@ struct Reading {
     std::size_t entityBytes = 0;
     bool cancelled = false;
     bool limit = false;
-    bool isUnreadable = false;  ///< in the encoding that it declares
     QString firstError = {};
     QString damage = {};
     std::string endTag = {};  ///< that does not end the element open last; without a prefix
@@ -349,7 +348,6 @@ void noteError(void* context, xmlErrorPtr error) {
     if (error->level == XML_ERR_FATAL && state.damage.isEmpty() && !isHarmless(error->code)) {
         state.damage = QStringLiteral("%1:%2").arg(error->line).arg(error->int2);
     }
-    state.isUnreadable = state.isUnreadable || error->code == XML_ERR_UNSUPPORTED_ENCODING;
     if (error->code == XML_ERR_TAG_NAME_MISMATCH && error->str2 && context == state.parser) {
         const std::string_view name = error->str2;
         state.endTag = name.substr(name.find(':') + 1);
@@ -384,15 +382,11 @@ void listen(xmlSAXHandler& events) {
     events.serror = noteError;
 }
 
-/// While it lives the library prints nothing of its own, as it would about characters that it cannot convert. These
-/// make the file unreadable.
+/// While it lives the library prints nothing of its own, as it would about characters that it cannot convert.
 class Silence {
 public:
-    explicit Silence(Reading& state) : handler_(xmlStructuredError), context_(xmlStructuredErrorContext) {
-        xmlSetStructuredErrorFunc(&state, [](void* context, xmlErrorPtr error) {
-            auto* its = static_cast<Reading*>(context);
-            its->isUnreadable = its->isUnreadable || error->domain == XML_FROM_I18N;
-        });
+    Silence() : handler_(xmlStructuredError), context_(xmlStructuredErrorContext) {
+        xmlSetStructuredErrorFunc(nullptr, [](void*, xmlErrorPtr) {});
     }
     ~Silence() { xmlSetStructuredErrorFunc(context_, handler_); }
     Silence(const Silence&) = delete;
@@ -440,16 +434,15 @@ void XmlTree::lowerNames() {
 }
 
 Expected<XmlTree> XmlTree::parse(QByteArrayView bytes, const Progress& progress, XmlMarkup markup) {
-    bool isReadable = true;
     if (!markup.mended) {
-        return parsedIn(Encoding::declared, bytes, progress, markup, isReadable);
+        return parsedIn(Encoding::declared, bytes, progress, markup);
     }
-    auto tree = parsedIn(hasUtf8Mark(bytes) ? Encoding::utf8 : Encoding::declared, bytes, progress, markup, isReadable);
-    return isReadable ? std::move(tree) : parsedIn(Encoding::utf8, xmlInUtf8(bytes), progress, markup, isReadable);
+    const auto converted = xmlInUtf8(bytes);
+    return parsedIn(Encoding::utf8, converted ? QByteArrayView(*converted) : bytes, progress, markup);
 }
 
 Expected<XmlTree> XmlTree::parsedIn(Encoding encoding, QByteArrayView bytes, const Progress& progress,
-                                    const XmlMarkup& markup, bool& isReadable) {
+                                    const XmlMarkup& markup) {
     const std::unique_ptr<xmlParserCtxt, FreeParser> parser(xmlNewParserCtxt());
     if (bytes.size() > std::numeric_limits<int>::max() || !parser) {
         return failure(text("Main", "XML file too large"));
@@ -459,7 +452,7 @@ Expected<XmlTree> XmlTree::parsedIn(Encoding encoding, QByteArrayView bytes, con
     tree.names_.reset(parser->dict);
 
     Reading state{progress, static_cast<std::size_t>(bytes.size()), bytes, parser.get(), Builder(*tree.nodes_), markup};
-    const Silence silence(state);
+    const Silence silence;
     parser->_private = &state;
     listen(*parser->sax);
     // Without XML_PARSE_NOENT, XML_PARSE_DTDLOAD and XML_PARSE_HUGE: nothing is resolved and the limits hold.
@@ -474,7 +467,6 @@ Expected<XmlTree> XmlTree::parsedIn(Encoding encoding, QByteArrayView bytes, con
     if (state.limit || parser->disableSAX != 0) {
         return failure(text("Main", "XML file beyond limits"), state.firstError);
     }
-    isReadable = !state.isUnreadable && !tree.root().isNull();
     if (tree.root().isNull()) {
         return failure(text("Main", "XML file without elements"), state.firstError);
     }

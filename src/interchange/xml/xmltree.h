@@ -157,7 +157,7 @@ private:
     /// What the file's encoding is taken from, and whether its bytes could be read by it.
     enum class Encoding { declared, utf8 };
     static Expected<XmlTree> parsedIn(Encoding encoding, QByteArrayView bytes, const Progress& progress,
-                                      const XmlMarkup& markup, bool& isReadable);
+                                      const XmlMarkup& markup);
 
     XmlTree() : nodes_(std::make_unique<XmlNodes>()) {}
 
