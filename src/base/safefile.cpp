@@ -71,7 +71,7 @@ enum class Attempt { done, failed, unlinkable };
 Attempt writeBeside(const QByteArray& target, QByteArrayView bytes, const struct stat* old, bool named,
                     struct stat& written) {
     FileBeside beside(target);
-    if (!beside.create(named)) {
+    if (!beside.create(named, old ? FileBeside::Access::owner : FileBeside::Access::usual)) {
         return named ? Attempt::failed : Attempt::unlinkable;
     }
     if (!beside.write(bytes) || !(old ? beside.takeAttributesOf(target, *old) : beside.takeUsualMode()) ||
@@ -182,7 +182,8 @@ Expected<FileIdentity> replaceFile(const QString& path, QByteArrayView bytes) {
 
 Expected<void> writePrivateFile(const QString& path, QByteArrayView bytes) {
     FileBeside beside(pathBytes(path));
-    if (!beside.create(true) || !beside.write(bytes) || !beside.flush() || !beside.replaceTarget()) {
+    if (!beside.create(true, FileBeside::Access::owner) || !beside.write(bytes) || !beside.flush() ||
+        !beside.replaceTarget()) {
         return tl::unexpected(writeFailure(errno, path));
     }
     return {};
@@ -195,8 +196,9 @@ Expected<void> copyFile(const QString& path, const QString& copy) {
     }
     // A link of the copy's name is replaced, not followed.
     FileBeside beside(pathBytes(absolutePath(copy)));
-    if (!beside.create(true) || !beside.write(bytes->bytes()) ||
-        !beside.takeAttributesOf(pathBytes(path), bytes->status()) || !beside.flush() || !beside.replaceTarget()) {
+    if (!beside.create(true, FileBeside::Access::owner) || !beside.write(bytes->bytes()) ||
+        (!beside.takeAttributesOf(pathBytes(path), bytes->status()) && !beside.stayPrivate()) || !beside.flush() ||
+        !beside.replaceTarget()) {
         return tl::unexpected(writeFailure(errno, copy));
     }
     return {};

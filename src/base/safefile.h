@@ -36,7 +36,7 @@ Expected<FileIdentity> replaceFile(const QString& path, QByteArrayView bytes);
 Expected<void> writePrivateFile(const QString& path, QByteArrayView bytes);
 
 /// Makes a copy of a file, with its owner, permissions, access list and user attributes, in the place of whatever bears
-/// the other name.
+/// the other name. Where these cannot be kept, as of another user's file, the user alone may read the copy.
 Expected<void> copyFile(const QString& path, const QString& copy);
 
 /// Whether the path means something that bytes only pass through: a pipe, a terminal, an open file's number.
