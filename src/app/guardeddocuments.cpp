@@ -91,7 +91,11 @@ bool MyDocumentController::claim(Document& document, const QString& file) {
 
 void MyDocumentController::offerUnsaved() {
     enum Answer { restoreIt, discardIt, leaveIt };
-    for (JournalFolder::Left& left : journals_.left()) {
+    auto found = journals_.left();
+    if (const QString& aside = journals_.keptAside(); !aside.isEmpty()) {
+        desktop_.alerts.tell(textWith("Main", "Unsaved work kept aside", shownPath(aside)));
+    }
+    for (JournalFolder::Left& left : found) {
         QStringList lines;
         for (const Unsaved& each : left.documents) {
             lines.append(lineOf(each));

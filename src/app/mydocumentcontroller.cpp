@@ -128,6 +128,8 @@ DocumentWindow* MyDocumentController::addWindow(const DocumentType& type, std::u
     auto window = type.makeWindow(*document, desktop_);
     DocumentWindow* added = window.get();
     auto journal = std::make_unique<Journal>(journals_, *document, QString::fromLatin1(type.recordClass));
+    connect(journal.get(), &Journal::notKept, added,
+            [added] { added->messageBar().tell(text("Main", "Unsaved work not kept")); });
     open_.push_back({&type, std::move(document), std::move(window), std::move(journal)});
     connect(&added->document(), &Document::touched, this, [this, added] { ++touches_[added]; });
     connect(added, &DocumentWindow::closeRequested, this, [this, added] { closeDocument(*added); });

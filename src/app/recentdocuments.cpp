@@ -1,5 +1,7 @@
 #include "app/recentdocuments.h"
 
+#include "base/paths.h"
+
 namespace tavrel {
 
 namespace {
@@ -10,11 +12,31 @@ QString key() {
     return QStringLiteral("recent documents");
 }
 
+const QString bytesMark = QStringLiteral("file://");
+
+// The store holds text only. A name whose bytes are none stands as a URL, which no absolute path looks like.
+
+QString storedName(const QString& file) {
+    return shownPath(file) == file
+               ? file
+               : bytesMark + QString::fromLatin1(pathBytes(file).toPercentEncoding(QByteArrayLiteral("/")));
+}
+
+QString fileOfStored(const QString& name) {
+    return name.startsWith(bytesMark)
+               ? pathFromBytes(QByteArray::fromPercentEncoding(name.sliced(bytesMark.size()).toLatin1()))
+               : name;
+}
+
 }  // namespace
 
 QStringList RecentDocuments::files() const {
-    QStringList files = preferences_.strings(key());
-    files.removeAll(QString());
+    QStringList files;
+    for (const QString& name : preferences_.strings(key())) {
+        if (!name.isEmpty()) {
+            files.append(fileOfStored(name));
+        }
+    }
     return files;
 }
 
@@ -40,7 +62,11 @@ void RecentDocuments::clear() {
 }
 
 void RecentDocuments::keep(const QStringList& files) {
-    preferences_.set(key(), files);
+    QStringList names;
+    for (const QString& file : files) {
+        names.append(storedName(file));
+    }
+    preferences_.set(key(), names);
 }
 
 }  // namespace tavrel

@@ -3,13 +3,13 @@
 #include "app/appdelegate.h"
 #include "app/mydocumentcontroller.h"
 #include "app/picklisteditors.h"
+#include "base/paths.h"
 #include "base/texts.h"
 #include "desktop/ui/bringtofront.h"
 #include "desktop/ui/icons.h"
 #include "desktop/ui/menuwords.h"
 
 #include <QApplication>
-#include <QFileInfo>
 #include <QMenuBar>
 
 #include <algorithm>
@@ -231,9 +231,9 @@ void WindowMenus::addActions(QMenu& menu, const QList<QAction*>& actions) {
 void WindowMenus::fillRecentDocuments(QMenu& menu) {
     menu.clear();
     for (const QString& file : context_.documents.recentDocuments().files()) {
-        QAction* action = menu.addAction(menuWords(QFileInfo(file).fileName()));
-        action->setToolTip(file);
-        action->setStatusTip(file);
+        QAction* action = menu.addAction(menuWords(shownName(file)));
+        action->setToolTip(shownPath(file));
+        action->setStatusTip(shownPath(file));
         connect(action, &QAction::triggered, this, [this, file] { context_.documents.openFile(file); });
     }
     menu.setToolTipsVisible(true);

@@ -125,15 +125,16 @@ FileBeside::~FileBeside() {
     errno = error;
 }
 
-bool FileBeside::create(bool named) {
+bool FileBeside::create(bool named, Access access) {
     sweep(folder_);
     // What the system gives a new file, the folder's access list considered, is noted and taken back while it fills.
-    constexpr mode_t anyNew = 0666;
+    // It never is what others may not read: they could have it open by then.
+    const mode_t mode = access == Access::usual ? 0666 : 0600;
     if (named) {
         int attempts = 0;
         do {
             name_ = newName(folder_);
-            descriptor_ = ::open(name_.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, anyNew);
+            descriptor_ = ::open(name_.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode);
         } while (descriptor_ < 0 && errno == EEXIST && ++attempts < 100);
         if (descriptor_ < 0) {
             name_.clear();
@@ -143,14 +144,14 @@ bool FileBeside::create(bool named) {
             return false;
         }
     } else {
-        descriptor_ = ::open(folder_.constData(), O_TMPFILE | O_RDWR | O_CLOEXEC, anyNew);
+        descriptor_ = ::open(folder_.constData(), O_TMPFILE | O_RDWR | O_CLOEXEC, mode);
     }
     struct stat status {};
     if (descriptor_ < 0 || ::fstat(descriptor_, &status) != 0) {
         return false;
     }
     usualMode_ = status.st_mode & 07777U;
-    return ::fchmod(descriptor_, 0600) == 0;
+    return stayPrivate();
 }
 
 /// Locks the file, so that nobody sweeps it, and has signals remove it. A file system without locks does without:
@@ -188,6 +189,11 @@ bool FileBeside::write(QByteArrayView bytes) {
 
 bool FileBeside::takeAttributesOf(const QByteArray& path, const struct stat& old) {
     return copyAttributes(path, old, descriptor_);
+}
+
+bool FileBeside::stayPrivate() {
+    // Of an access list this leaves the owner's part alone.
+    return ::fchmod(descriptor_, 0600) == 0;
 }
 
 bool FileBeside::takeUsualMode() {

@@ -19,13 +19,19 @@ public:
     FileBeside& operator=(const FileBeside&) = delete;
     ~FileBeside();
 
+    enum class Access {
+        usual,  ///< it is to have the permissions of any new file: takeUsualMode()
+        owner,  ///< nobody else ever has it open, unless takeAttributesOf() lets others in
+    };
     /// Named: from the start with a name.
-    bool create(bool named);
+    bool create(bool named, Access access);
     bool isNamed() const { return !name_.isEmpty(); }
     bool write(QByteArrayView bytes);
     /// Gives the file the owner, group, access lists, user attributes and permissions of another.
     /// False, too, where its owner would lose an access that cannot be kept.
     bool takeAttributesOf(const QByteArray& path, const struct stat& old);
+    /// Only its writer may read it, whatever of another's attributes it took.
+    bool stayPrivate();
     /// The permissions of any new file.
     bool takeUsualMode();
     bool flush();

@@ -129,7 +129,7 @@ private:
     /// Leaves no file beside where none without a name can be made.
     bool fillBeside(bool named) {
         beside_ = std::make_unique<FileBeside>(target_);
-        if (!beside_->create(named)) {
+        if (!beside_->create(named, exists_ ? FileBeside::Access::owner : FileBeside::Access::usual)) {
             beside_.reset();
             return false;
         }
@@ -254,7 +254,8 @@ Expected<void> writeFiles(const std::vector<FileContents>& files) {
 
 Expected<void> writePrivateFile(const QString& path, QByteArrayView bytes) {
     FileBeside beside(pathBytes(path));
-    if (!beside.create(true) || !beside.write(bytes) || !beside.flush() || !beside.replaceTarget()) {
+    if (!beside.create(true, FileBeside::Access::owner) || !beside.write(bytes) || !beside.flush() ||
+        !beside.replaceTarget()) {
         return tl::unexpected(writeFailure(errno, path));
     }
     return {};
@@ -267,8 +268,9 @@ Expected<void> copyFile(const QString& path, const QString& copy) {
     }
     // A link of the copy's name is replaced, not followed.
     FileBeside beside(pathBytes(absolutePath(copy)));
-    if (!beside.create(true) || !beside.write(bytes->bytes()) ||
-        !beside.takeAttributesOf(pathBytes(path), bytes->status()) || !beside.flush() || !beside.replaceTarget()) {
+    if (!beside.create(true, FileBeside::Access::owner) || !beside.write(bytes->bytes()) ||
+        (!beside.takeAttributesOf(pathBytes(path), bytes->status()) && !beside.stayPrivate()) || !beside.flush() ||
+        !beside.replaceTarget()) {
         return tl::unexpected(writeFailure(errno, copy));
     }
     return {};

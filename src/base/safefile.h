@@ -44,7 +44,7 @@ Expected<void> writeFiles(const std::vector<FileContents>& files);
 Expected<void> writePrivateFile(const QString& path, QByteArrayView bytes);
 
 /// Makes a copy of a file, with its owner, permissions, access list and user attributes, in the place of whatever bears
-/// the other name.
+/// the other name. Where these cannot be kept, as of another user's file, the user alone may read the copy.
 Expected<void> copyFile(const QString& path, const QString& copy);
 
 /// Whether both paths mean one existing file, whatever links lead to it.

@@ -171,8 +171,10 @@ std::optional<Unsaved> Document::unsaved() const {
 }
 
 Expected<void> Document::restore(const Unsaved& unsaved) {
-    if (auto loaded = loadDataRepresentation(unsaved.contents(), type_); !loaded) {
-        return loaded;
+    if (unsaved.contents) {
+        if (auto loaded = loadDataRepresentation(unsaved.contents(), type_); !loaded) {
+            return loaded;
+        }
     }
     if (!unsaved.file.isEmpty()) {
         becomeFile(unsaved.file, FileIdentity({}, unsaved.fileSize, unsaved.fileHash));
@@ -203,10 +205,10 @@ bool Document::isFile(const QString& file) const {
 /// leaves the file whole by itself.
 void Document::keepBackup(const QString& file) {
     const QString path = absolutePath(file);
-    if (backedUp_ != path && pathExists(path) && desktop_.preferences.get(settings::keepsBackup)) {
+    if (!backedUp_.contains(path) && pathExists(path) && desktop_.preferences.get(settings::keepsBackup)) {
         static_cast<void>(copyFile(path, path + u'~'));
     }
-    backedUp_ = path;
+    backedUp_.insert(path);
 }
 
 void Document::becomeFile(const QString& file, FileIdentity identity) {

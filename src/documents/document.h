@@ -12,6 +12,7 @@
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QObject>
+#include <QSet>
 #include <QString>
 #include <QUndoStack>
 
@@ -142,7 +143,7 @@ private:
     FileIdentity identity_;  ///< of the file as it was read or written last
     std::unique_ptr<FileWatch> watch_;
     std::unique_ptr<FileLock> lock_;
-    QString backedUp_;  ///< the file whose contents before were kept already
+    QSet<QString> backedUp_;  ///< the files whose contents before were kept already
     bool readOnly_ = false;
     bool ofNewerVersion_ = false;
     bool changedBesideStack_ = false;

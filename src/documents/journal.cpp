@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QPointer>
 #include <QUuid>
 
 #include <algorithm>
@@ -26,6 +27,9 @@ qint64 now() {
 }
 
 const QString contentsEnding = QStringLiteral(".contents");
+/// The folder, among those of the runs, of what could not be read.
+const QString asideName = QStringLiteral("unreadable");
+constexpr qint64 daysAside = 180;
 
 /// Beside a journal: a save that was begun when the document had been kept so many times.
 struct BegunSave {
@@ -33,6 +37,10 @@ struct BegunSave {
     QString file;
     QByteArray hash;  ///< of what the file was to hold
 };
+
+bool makePrivateFolder(const QString& folder) {
+    return QDir().mkdir(folder, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+}
 
 QString begunSaveBeside(const QString& journal) {
     return journal + QStringLiteral(".save");
@@ -56,37 +64,70 @@ BegunSave readBegunSave(const QString& journal) {
     return save;
 }
 
-/// Takes the records from the file where the journal is older than that, because the program ended when it had saved
-/// and not yet kept what was left. Only the form can be unsaved then.
-void takeBegunSave(Unsaved& unsaved, const BegunSave& save) {
-    if (save.hash.isEmpty() || unsaved.number > save.number) {
-        return;
+/// Takes the records from that file, if it holds what it is to hold. Only the form is unsaved then.
+bool takeFile(Unsaved& unsaved, const QString& file, const std::optional<QByteArray>& hash) {
+    const auto bytes = FileBytes::open(file);
+    if (!bytes) {
+        return false;
     }
-    const auto bytes = FileBytes::open(save.file);
-    if (!bytes || contentHash(bytes->bytes()) != save.hash) {
-        return;
+    const QByteArray held = contentHash(bytes->bytes());
+    if (hash && held != *hash) {
+        return false;
     }
-    unsaved.file = save.file;
-    unsaved.fileHash = save.hash;
+    unsaved.file = file;
+    unsaved.fileHash = held;
     unsaved.fileSize = bytes->bytes().size();
     unsaved.isChanged = false;
-    unsaved.contents = [held = bytes->bytes().toByteArray()] { return held; };
+    unsaved.contents = [records = bytes->bytes().toByteArray()] { return records; };
+    return true;
 }
 
-/// What was kept in a file, its contents included.
-Expected<Unsaved> readUnsaved(const QString& file) {
+/// Takes the records from the file where the journal is older than that, because the program ended when it had saved
+/// and not yet kept what was left.
+bool takeBegunSave(Unsaved& unsaved, const BegunSave& save) {
+    return !save.hash.isEmpty() && unsaved.number <= save.number && takeFile(unsaved, save.file, save.hash);
+}
+
+/// The records are lost: leaves what was typed, as a new record, beside the records of the file as it is now, or beside
+/// none. It need not be the row of the same record there.
+void takeFormAlone(Unsaved& unsaved) {
+    if (!takeFile(unsaved, unsaved.file, std::nullopt)) {
+        unsaved.file.clear();
+        unsaved.isChanged = false;
+    }
+    unsaved.form->row = -1;
+}
+
+/// What was kept in a file, and the name of its contents if they were needed and are damaged.
+struct ReadJournal {
+    Unsaved unsaved;
+    QString damaged = {};
+};
+
+Expected<ReadJournal> readJournal(const QDir& folder, const QString& name) {
+    const QString file = folder.filePath(name);
     return FileBytes::open(file)
         .and_then([](const FileBytes& bytes) { return unarchivedUnsaved(bytes.bytes()); })
-        .and_then([&](auto&& read) -> Expected<Unsaved> {
+        .and_then([&](auto&& read) -> Expected<ReadJournal> {
             auto& [unsaved, contents] = read;
+            if (takeBegunSave(unsaved, readBegunSave(file))) {
+                return ReadJournal{std::move(unsaved)};
+            }
             // A name of its own folder only.
-            const auto bytes = FileBytes::open(QFileInfo(file).path() + u'/' + QFileInfo(contents.name).fileName());
-            if (!bytes || contentHash(bytes->bytes()) != contents.hash) {
+            const QString contentsName = QFileInfo(contents.name).fileName();
+            const auto bytes = FileBytes::open(folder.filePath(contentsName));
+            if (bytes && contentHash(bytes->bytes()) == contents.hash) {
+                unsaved.contents = [held = bytes->bytes().toByteArray()] { return held; };
+                return ReadJournal{std::move(unsaved)};
+            }
+            if (!unsaved.isChanged && takeFile(unsaved, unsaved.file, unsaved.fileHash)) {
+                return ReadJournal{std::move(unsaved)};
+            }
+            if (!unsaved.form) {
                 return failure(text("Main", "Unsaved work not readable"));
             }
-            unsaved.contents = [held = bytes->bytes().toByteArray()] { return held; };
-            takeBegunSave(unsaved, readBegunSave(file));
-            return std::move(unsaved);
+            takeFormAlone(unsaved);
+            return ReadJournal{std::move(unsaved), contentsName};
         });
 }
 
@@ -108,12 +149,12 @@ qint64 JournalPace::wait(qint64 now) const {
 }
 
 void JournalFolder::Left::discard() {
-    // Also what was being written when the program ended; the lock removes itself.
+    // Also what was being written when the program ended, and nothing of anyone else's; the lock removes itself.
     const QDir files(folder);
-    for (const QString& name : files.entryList(QDir::Files | QDir::Hidden)) {
-        if (files.filePath(name) != lockIn(folder)) {
-            QFile::remove(files.filePath(name));
-        }
+    const QStringList own{QStringLiteral("*.journal"), QStringLiteral("*.journal.save"), u'*' + contentsEnding,
+                          QStringLiteral(".tavrel-*")};
+    for (const QString& name : files.entryList(own, QDir::Files | QDir::Hidden)) {
+        QFile::remove(files.filePath(name));
     }
     lock.reset();
     QDir().rmdir(folder);
@@ -133,17 +174,23 @@ JournalFolder::~JournalFolder() {
 }
 
 bool JournalFolder::make() {
-    if (lock_ || parent_.isEmpty()) {
-        return lock_ != nullptr;
+    if (parent_.isEmpty()) {
+        return false;
     }
-    folder_ = parent_ + u'/' + QUuid::createUuid().toString(QUuid::WithoutBraces);
-    if (!QDir().mkpath(parent_) ||
-        !QDir().mkdir(folder_, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner)) {
+    if (folder_.isEmpty()) {
+        folder_ = parent_ + u'/' + QUuid::createUuid().toString(QUuid::WithoutBraces);
+    }
+    // Whoever tidies up may remove it while the program runs.
+    if (lock_ && pathExists(lockIn(folder_))) {
+        return true;
+    }
+    lock_.reset();
+    if (!QDir().mkpath(parent_) || (!makePrivateFolder(folder_) && !QFileInfo(folder_).isDir())) {
         return false;
     }
     auto lock = std::make_unique<QLockFile>(lockIn(folder_));
     lock->setStaleLockTime(0);
-    if (!lock->tryLock()) {
+    if (!lock->tryLock(0)) {
         return false;
     }
     lock_ = std::move(lock);
@@ -151,30 +198,71 @@ bool JournalFolder::make() {
 }
 
 QString JournalFolder::newFile() {
-    return make() ? folder_ + u'/' + QString::number(++files_) + QStringLiteral(".journal") : QString();
+    return folder_ + u'/' + QString::number(++files_) + QStringLiteral(".journal");
 }
 
-std::vector<JournalFolder::Left> JournalFolder::left() const {
+/// False when something of it stays where it is.
+bool JournalFolder::keepAside(const QString& folder, const QStringList& names) {
+    const QString aside = parent_ + u'/' + asideName;
+    makePrivateFolder(aside);
+    keptAside_ = aside;
+    return std::all_of(names.begin(), names.end(), [&](const QString& name) {
+        return QFile::rename(folder + u'/' + name, aside + u'/' + QFileInfo(folder).fileName() + u'-' + name);
+    });
+}
+
+void JournalFolder::sweepAside() const {
+    const QDir aside(parent_ + u'/' + asideName);
+    const QDateTime oldest = QDateTime::currentDateTime().addDays(-daysAside);
+    for (const QFileInfo& file : aside.entryInfoList(QDir::Files | QDir::Hidden)) {
+        if (file.lastModified() < oldest) {
+            QFile::remove(file.filePath());
+        }
+    }
+    // Only when nothing is left in it.
+    QDir().rmdir(aside.path());
+}
+
+std::vector<JournalFolder::Left> JournalFolder::left() {
     std::vector<Left> all;
+    keptAside_.clear();
+    // No name would mean the folder that the program was started in.
+    if (!keepsAnything()) {
+        return all;
+    }
+    sweepAside();
     const QDir parent(parent_);
     for (const QString& name : parent.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Time | QDir::Reversed)) {
+        if (name == asideName) {
+            continue;
+        }
         Left left;
         left.folder = parent.filePath(name);
         left.lock = std::make_unique<QLockFile>(lockIn(left.folder));
         left.lock->setStaleLockTime(0);
-        if (left.folder == folder_ || !left.lock->tryLock()) {
+        if (left.folder == folder_ || FileLock::take(*left.lock, {}) || !left.lock->isLocked()) {
             continue;
         }
         const QDir folder(left.folder);
+        bool isSafe = true;
         for (const QString& file : folder.entryList({QStringLiteral("*.journal")}, QDir::Files, QDir::Name)) {
-            if (auto unsaved = readUnsaved(folder.filePath(file)); unsaved && (unsaved->isChanged || unsaved->form)) {
-                left.documents.push_back(std::move(*unsaved));
+            auto read = readJournal(folder, file);
+            if (!read) {
+                const QString contents = QFileInfo(file).baseName() + u'-' + u'*' + contentsEnding;
+                isSafe = keepAside(left.folder, folder.entryList({contents}, QDir::Files) << file) && isSafe;
+                continue;
+            }
+            if (!read->damaged.isEmpty() && folder.exists(read->damaged)) {
+                keepAside(left.folder, {read->damaged});
+            }
+            if (read->unsaved.isChanged || read->unsaved.form) {
+                left.documents.push_back(std::move(read->unsaved));
             }
         }
-        if (left.documents.empty()) {
-            left.discard();
-        } else {
+        if (!left.documents.empty()) {
             all.push_back(std::move(left));
+        } else if (isSafe) {
+            left.discard();
         }
     }
     return all;
@@ -220,11 +308,15 @@ void Journal::keep() {
         drop();
         return;
     }
-    if (file_.isEmpty()) {
-        file_ = folder_.newFile();
+    if (!folder_.keepsAnything()) {
+        return;
+    }
+    if (!folder_.make()) {
+        noteOutcome(false);
+        return;
     }
     if (file_.isEmpty()) {
-        return;
+        file_ = folder_.newFile();
     }
     unsaved->recordClass = recordClass_;
     unsaved->number = ++keptTimes_;
@@ -233,26 +325,47 @@ void Journal::keep() {
         ++contentsNumber_;
         version_ = unsaved->version;
     }
-    folder_.work().start([file = file_, number = contentsNumber_, last = kept_, now = std::move(*unsaved)] {
-        // A journal that cannot be written must not disturb the work that it is for.
+    auto write = [file = file_, number = contentsNumber_, last = kept_, now = std::move(*unsaved)] {
         const QString folder = QFileInfo(file).path() + u'/';
         ContentsFile contents = last->file;
-        if (last->number != number) {
+        if (last->number != number || !QFile::exists(folder + contents.name)) {
             const QByteArray bytes = now.contents();
             contents = {QFileInfo(file).baseName() + u'-' + QString::number(number) + contentsEnding,
                         contentHash(bytes)};
             if (!writePrivateFile(folder + contents.name, bytes)) {
-                return;
+                return false;
             }
         }
         if (!writePrivateFile(file, archived(now, contents))) {
-            return;
+            return false;
         }
         if (last->number != number && last->number > 0) {
             QFile::remove(folder + last->file.name);
         }
         *last = {number, contents};
+        return true;
+    };
+    folder_.work().start([write = std::move(write), reports = &folder_.reports(), journal = QPointer<Journal>(this)] {
+        const auto tell = [journal, isWritten = write()] {
+            if (journal) {
+                journal->noteOutcome(isWritten);
+            }
+        };
+        QMetaObject::invokeMethod(reports, tell, Qt::QueuedConnection);
     });
+}
+
+/// A journal that cannot be written must not disturb the work that it is for; that it cannot is told once. What stands
+/// in the way may go, so it is tried again though nothing more is typed.
+void Journal::noteOutcome(bool isWritten) {
+    const bool wasTroubled = std::exchange(isTroubled_, !isWritten);
+    if (!isWritten) {
+        pace_.touch(now());
+        timer_.start(static_cast<int>(folder_.times().longest));
+        if (!wasTroubled) {
+            Q_EMIT notKept();
+        }
+    }
 }
 
 void Journal::keepNow() {

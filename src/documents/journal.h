@@ -53,28 +53,39 @@ public:
         void discard();
     };
 
-    /// Within the folder given; nothing is made before it is needed. Without one nothing is kept.
+    /// Within the folder given; nothing is made before it is needed. Without a name nothing is kept.
     explicit JournalFolder(const QString& parent, JournalPace::Times times = {});
     ~JournalFolder();
     JournalFolder(const JournalFolder&) = delete;
     JournalFolder& operator=(const JournalFolder&) = delete;
 
-    /// A name for one more document.
+    bool keepsAnything() const { return !parent_.isEmpty(); }
+    /// Makes the folder, also when it was removed meanwhile; false when nothing can be kept.
+    bool make();
+    /// A name for one more document, once the folder is made.
     QString newFile();
-    /// What runs that have ended have left, unless another program looks at it just now.
-    std::vector<Left> left() const;
+    /// What runs that have ended have left, unless another program looks at it just now. What cannot be read is kept
+    /// aside for some months.
+    std::vector<Left> left();
+    /// Where that lies, when left() found any; otherwise empty.
+    const QString& keptAside() const { return keptAside_; }
     /// Writing and removing happen one after the other, beside the windows.
     QThreadPool& work() { return work_; }
+    /// Lives in the windows' thread: what work reports, it reports through this.
+    QObject& reports() { return reports_; }
     JournalPace::Times times() const { return times_; }
 
 private:
-    bool make();
+    bool keepAside(const QString& folder, const QStringList& names);
+    void sweepAside() const;
 
     QString parent_;
     JournalPace::Times times_;
     QString folder_;
     int files_ = 0;
     std::unique_ptr<QLockFile> lock_;
+    QString keptAside_;
+    QObject reports_;
     QThreadPool work_;
 };
 
@@ -94,10 +105,15 @@ public:
     /// Where it is kept.
     const QString& file() const { return file_; }
 
+Q_SIGNALS:
+    /// What is unsaved could not be kept; told again only when it could be kept meanwhile.
+    void notKept();
+
 private:
     void touch();
     void keepWhenDue();
     void keep();
+    void noteOutcome(bool isWritten);
     /// Should the program end in the middle of a save, the journal is older than the file, and tells so.
     void noteSave(const QString& file, const QByteArray& bytes);
 
@@ -108,6 +124,7 @@ private:
     JournalPace pace_;
     QTimer timer_;
     bool isKept_ = false;
+    bool isTroubled_ = false;
     qint64 keptTimes_ = 0;
     // The contents are written only when they are others than before. The number names their file.
     std::weak_ptr<const void> version_;

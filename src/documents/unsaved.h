@@ -54,7 +54,8 @@ struct Unsaved {
     std::optional<UnstoredForm> form;
     /// As long as this is the same, the contents are; null: they may be others each time.
     std::shared_ptr<const void> version;
-    /// Works out the document's file as it would be saved; may be called in another thread.
+    /// Works out the document's file as it would be saved; may be called in another thread. Null: what was kept of it
+    /// is lost, and so is the file.
     std::function<QByteArray()> contents;
 };
 

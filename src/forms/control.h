@@ -56,7 +56,7 @@ struct Control {
     std::optional<PickList> pickList = {};  ///< the shared list of a combo
     int ownList = -1;                       ///< the list of a combo that its document owns, by the document's number
     int width = 0;                          ///< in characters; 0: by kind
-    std::span<const Title> captions = {};  ///< of a caption that the program writes: the words that it may be
+    std::span<const Title> captions = {};   ///< of a caption that the program writes: the words that it may be
     bool beside = false;                    ///< stands behind the control before it instead of under a label
     bool emptyAt1900 = false;               ///< of a date: 1 January 1900 stands for none and shows as empty
     Opens opens = Opens::nothing;           ///< what a text opens on a click with the control key

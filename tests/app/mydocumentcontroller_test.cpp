@@ -2,11 +2,13 @@
 
 #include "app/testapplication.h"
 #include "archive/recordarchive.h"
+#include "base/paths.h"
 #include "base/safefile.h"
 #include "support/files.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QDropEvent>
 #include <QFile>
 #include <QMimeData>
@@ -300,6 +302,12 @@ TEST_F(Documents, openAtTheStart) {
     EXPECT_EQ(names(), u"Untitled");
     EXPECT_EQ(app.alerts.failures.size(), 1U);
     EXPECT_EQ(recent(), QStringList{first});
+    // A name whose bytes are no text comes back from a store that holds nothing else.
+    const QString bytes = pathFromBytes("/%E8/caf\xe8");
+    app.documents.recentDocuments().note(bytes);
+    EXPECT_EQ(recent(), (QStringList{bytes, first}));
+    const QString stored = app.preferences.strings(QStringLiteral("recent documents")).constFirst();
+    EXPECT_EQ(shownPath(stored), stored);
     app.frontCarnet().addDive();
     app.documents.launch({first});
     EXPECT_EQ(app.documents.windows().size(), 2);
@@ -565,6 +573,32 @@ TEST_F(Documents, bringBackWhatASuddenEndTook) {
     EXPECT_EQ(message.count(u'\n'), 3);
     EXPECT_TRUE(message.contains(u"dives.carnet") && message.contains(u": what was being typed\n"));
     EXPECT_TRUE(message.contains(u"never saved") && message.contains(u": all records (1)\n")) << message.toStdString();
+}
+
+TEST_F(Documents, tellWhatCannotBeKeptOrReadAgain) {
+    const QString journals = app.path(QStringLiteral("journal"));
+    {
+        OneRun run(app);
+        run.documents.newDocument();
+        run.carnet().addDive();
+        run.documents.keepUnsaved();
+    }
+    QDirIterator kept(journals, {QStringLiteral("*.journal")}, QDir::Files, QDirIterator::Subdirectories);
+    writeContents(kept.next(), "damaged");
+    {
+        OneRun run(app);
+        run.documents.offerUnsaved();
+        run.documents.offerUnsaved();
+        EXPECT_EQ(app.alerts.told.size(), 1);
+    }
+    ASSERT_TRUE(QDir(journals).removeRecursively());
+    writeContents(journals, "in the way");
+    OneRun run(app);
+    DocumentWindow* window = run.documents.newDocument();
+    EXPECT_TRUE(window->messageBar().message().isEmpty());
+    run.carnet().addDive();
+    run.documents.keepUnsaved();
+    EXPECT_FALSE(window->messageBar().message().isEmpty());
 }
 
 }  // namespace

@@ -206,6 +206,11 @@ TEST_F(SafeFile, keepsWhatTheOwnerAndItsGroupMayDo) {
         EXPECT_EQ(statusOf(file).st_uid, ownerAfterwards);
         EXPECT_EQ(statusOf(file).st_gid, shared);
         EXPECT_EQ(modeOf(file), allowed);
+        // Where a copy cannot have the same, it is its maker's alone.
+        const QString copy = file + u'~';
+        EXPECT_EQ(inChild([&] { return becomeUser(writer, {writer, shared}) && copyFile(file, copy).has_value(); }), 0);
+        EXPECT_EQ(statusOf(copy).st_uid, writer);
+        EXPECT_EQ(modeOf(copy), ownerAfterwards == writer ? allowed : 0600U);
     }
     // A file that may be written in a folder that may not.
     ASSERT_TRUE(setMode(path(""), 0755));

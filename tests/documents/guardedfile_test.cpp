@@ -10,6 +10,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -121,6 +123,13 @@ TEST_F(GuardedFile, isWatchedWhileItIsOpen) {
     EXPECT_EQ(next(), State::changed);
 }
 
+/// As one that died on the way leaves it.
+void makeUnsignedLock(const QString& file) {
+    writeContents(file, "");
+    const timespec longAgo[] = {{1'000'000, 0}, {1'000'000, 0}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, pathBytes(file).constData(), longAgo, 0), 0);
+}
+
 TEST_F(GuardedFile, isClaimedByOneProgram) {
     const QString file = path("leaf");
     ASSERT_TRUE(leaf.saveAs(file));
@@ -151,6 +160,18 @@ TEST_F(GuardedFile, isClaimedByOneProgram) {
     ASSERT_EQ(status, 0);
     ASSERT_TRUE(pathExists(path(".orphan.lock")));
     EXPECT_FALSE(leaf.claimFile(path("orphan")));
+    // Nor is one that died before it had signed, or what is no lock at all.
+    makeUnsignedLock(path(".empty.lock"));
+    ASSERT_EQ(::mkfifo(pathBytes(path(".pipe.lock")).constData(), 0600), 0);
+    EXPECT_FALSE(leaf.claimFile(path("empty")));
+    EXPECT_TRUE(other.claimFile(path("empty")));
+    EXPECT_FALSE(other.claimFile(path("pipe")));
+    // Names of other bytes are other files.
+    FileLock grave(pathFromBytes(pathBytes(path("caf")) + "\xe8"));
+    FileLock acute(pathFromBytes(pathBytes(path("caf")) + "\xe9"));
+    EXPECT_FALSE(grave.take({}) || acute.take({}));
+    FileLock again(grave.file());
+    EXPECT_TRUE(again.take({}));
     // A folder that is not there takes no lock; the file is opened all the same.
     EXPECT_FALSE(leaf.claimFile(path("missing/file")));
 }
@@ -164,6 +185,9 @@ TEST_F(GuardedFile, keepsWhatItWasBeforeTheFirstSave) {
         leaf.change(words);
         ASSERT_TRUE(leaf.save());
     }
+    // Meanwhile it is saved elsewhere, where nothing was before.
+    ASSERT_TRUE(leaf.saveAs(path("other")) && leaf.save() && leaf.saveAs(file));
+    EXPECT_FALSE(pathExists(path("other~")));
     EXPECT_EQ(contentsOf(leaf.backupFile()), "yesterday");
     EXPECT_EQ(modeOf(leaf.backupFile()), 0600U);
     ASSERT_TRUE(leaf.revertToBackup());
@@ -211,9 +235,15 @@ struct ProgramRun {
 };
 
 struct Journals : GuardedFile {
-    std::vector<JournalFolder::Left> left() const { return JournalFolder(parent).left(); }
+    std::vector<JournalFolder::Left> left() {
+        JournalFolder next(parent);
+        auto found = next.left();
+        aside = next.keptAside();
+        return found;
+    }
 
     const QString parent = path("journal");
+    QString aside;
 };
 
 TEST_F(Journals, keepWhatIsUnsavedForTheNextRun) {
@@ -230,6 +260,10 @@ TEST_F(Journals, keepWhatIsUnsavedForTheNextRun) {
         EXPECT_EQ(modeOf(run.journal.file()), 0600U);
         EXPECT_TRUE(left().empty()) << "the program is alive";
     }
+    // A power cut may leave the lock without the name that was to be in it.
+    const QString lock =
+        QDir(parent).filePath(QDir(parent).entryList(QDir::Dirs | QDir::NoDotAndDotDot)[0]) + QStringLiteral("/lock");
+    makeUnsignedLock(lock);
     auto found = left();
     ASSERT_EQ(found.size(), 1U);
     ASSERT_EQ(found[0].documents.size(), 1U);
@@ -363,7 +397,34 @@ TEST_F(Journals, areKeptByThemselvesAfterAChange) {
         QTest::qWaitFor([&] { return !run.journal.file().isEmpty() && pathExists(run.journal.file()); }, 20'000));
 }
 
-TEST_F(Journals, thatAreDamagedAreNoTrouble) {
+TEST_F(Journals, areMadeAnewWhenTheirFolderIsRemoved) {
+    {
+        ProgramRun run(parent, leaf);
+        QSignalSpy troubles(&run.journal, &Journal::notKept);
+        leaf.version = std::make_shared<int>();
+        leaf.change("changed");
+        run.journal.keepNow();
+        ASSERT_TRUE(QDir(parent).removeRecursively());
+        writeContents(parent, "in the way");
+        for (const char* typed : {"one", "two"}) {
+            leaf.typeIntoForm(QLatin1StringView(typed));
+            run.journal.keepNow();
+        }
+        EXPECT_EQ(troubles.size(), 1);
+        ASSERT_TRUE(QFile::remove(parent));
+        leaf.typeIntoForm(QStringLiteral("three"));
+        run.journal.keepNow();
+        EXPECT_TRUE(left().empty()) << "the program is alive";
+    }
+    const auto found = left();
+    ASSERT_TRUE(found.size() == 1 && found[0].documents.size() == 1);
+    EXPECT_EQ(found[0].documents[0].contents(), "changed");
+    EXPECT_EQ(found[0].documents[0].form->controls[0].text, u"three");
+}
+
+TEST_F(Journals, thatAreDamagedAreKeptAside) {
+    const QString file = path("leaf");
+    ASSERT_TRUE(leaf.saveAs(file) && writeFile(file, "by another"));
     {
         ProgramRun run(parent, leaf);
         leaf.change("changed");
@@ -377,15 +438,59 @@ TEST_F(Journals, thatAreDamagedAreNoTrouble) {
         QByteArray flipped = bytes;
         flipped[bytes.size() - 1] = static_cast<char>(flipped[bytes.size() - 1] ^ 1);
         EXPECT_FALSE(unarchivedUnsaved(flipped));
-        // Nor is a journal whose contents are not its own.
         ASSERT_TRUE(writeFile(run.kept().filePath(whole->second.name), "chanced"));
     }
-    EXPECT_TRUE(left().empty() && QDir(parent).isEmpty());
-    // Nowhere to keep anything.
-    ProgramRun nowhere(QString(), leaf);
-    leaf.change("more");
-    nowhere.journal.keepNow();
-    EXPECT_TRUE(nowhere.journal.file().isEmpty());
+    const auto namesAside = [&] { return QDir(aside).entryList(QDir::Files); };
+    EXPECT_TRUE(left().empty());
+    ASSERT_EQ(namesAside().size(), 2);
+    EXPECT_EQ(contentsOf(QDir(aside).filePath(namesAside().first())), "chanced");
+    // Both stay for long, but not for ever, and are told of once.
+    QFile old(QDir(aside).filePath(namesAside().last()));
+    ASSERT_TRUE(old.open(QFile::Append) &&
+                old.setFileTime(QDateTime::currentDateTime().addDays(-200), QFile::FileModificationTime));
+    old.close();
+    const QString first = aside;
+    EXPECT_TRUE(left().empty() && aside.isEmpty());
+    EXPECT_EQ(QDir(first).entryList(QDir::Files).size(), 1);
+    // What was typed comes back without the records, over those of the file or over none.
+    for (const bool isThere : {true, false}) {
+        {
+            ProgramRun run(parent, leaf);
+            leaf.change("changed");
+            leaf.typeIntoForm(QStringLiteral("typed"));
+            run.journal.keepNow();
+            const QStringList contents = run.kept().entryList({QStringLiteral("*.contents")}, QDir::Files);
+            ASSERT_EQ(::truncate(pathBytes(run.kept().filePath(contents[0])).constData(), 1), 0);
+        }
+        ASSERT_TRUE(isThere || QFile::remove(file));
+        auto found = left();
+        ASSERT_TRUE(found.size() == 1 && found[0].documents.size() == 1 && !aside.isEmpty());
+        const Unsaved& unsaved = found[0].documents[0];
+        EXPECT_EQ(std::pair(unsaved.form->row, unsaved.form->controls[0].text), std::pair(-1, QStringLiteral("typed")));
+        Leaf again(desktop.desktop());
+        ASSERT_TRUE(again.restore(unsaved));
+        EXPECT_EQ(std::pair(again.words, again.file()),
+                  isThere ? std::pair(QByteArray("by another"), file) : std::pair(QByteArray(), QString()));
+        EXPECT_FALSE(again.isChanged());
+        found[0].discard();
+    }
+}
+
+TEST_F(Journals, withoutAFolderTouchNothing) {
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir().mkpath(path("here/folder")) && writeFile(path("here/folder/file"), "precious") &&
+                QDir::setCurrent(path("here")));
+    JournalFolder nowhere{QString()};
+    EXPECT_TRUE(nowhere.left().empty());
+    Journal journal(nowhere, leaf, QStringLiteral("Leaf"));
+    leaf.change("changed");
+    journal.keepNow();
+    EXPECT_TRUE(journal.file().isEmpty());
+    ASSERT_TRUE(QDir::setCurrent(before));
+    EXPECT_EQ(contentsOf(path("here/folder/file")), "precious");
+    // Nor do others lose what lies where the journals do.
+    ASSERT_TRUE(JournalFolder(path("here")).left().empty());
+    EXPECT_EQ(contentsOf(path("here/folder/file")), "precious");
 }
 
 }  // namespace

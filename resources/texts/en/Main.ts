@@ -111,6 +111,7 @@
 <message><source>Keep filter title</source><translation>Keep Filter</translation></message>
 <message><source>Loading</source><translation>Loading…</translation></message>
 <message><source>Lock holder</source><translation>%@, process %@ on %@</translation></message>
+<message><source>Lock holder unknown</source><translation>another program</translation></message>
 <message><source>Logbook</source><translation>Logbook</translation></message>
 <message><source>Materiel</source><translation>Equipment</translation></message>
 <message><source>Memo</source><translation>Memo</translation></message>
@@ -285,6 +286,8 @@ Do you want it back?</translation></message>
 <message><source>Unsaved records</source><translation>“%@” (%@), %@: all records (%@)</translation></message>
 <message><source>Unsaved records and form</source><translation>“%@” (%@), %@: all records (%@) and what was being typed</translation></message>
 <message><source>Unsaved without file</source><translation>never saved</translation></message>
+<message><source>Unsaved work kept aside</source><translation>Some unsaved work of an earlier session cannot be read. It stays in this folder for half a year: %@</translation></message>
+<message><source>Unsaved work not kept</source><translation>What is not saved yet could not be kept against a sudden end of the program. Save it soon.</translation></message>
 <message><source>Unsaved work not readable</source><translation>What was kept of the unsaved work is damaged.</translation></message>
 <message><source>Untitled</source><translation>Untitled</translation></message>
 <message><source>Update</source><translation>Update</translation></message>

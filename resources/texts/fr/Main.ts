@@ -111,6 +111,7 @@
 <message><source>Keep filter title</source><translation>Conserver le filtre</translation></message>
 <message><source>Loading</source><translation>Chargement…</translation></message>
 <message><source>Lock holder</source><translation>%@, processus %@ sur %@</translation></message>
+<message><source>Lock holder unknown</source><translation>un autre programme</translation></message>
 <message><source>Logbook</source><translation>Carnet</translation></message>
 <message><source>Materiel</source><translation>Matériel</translation></message>
 <message><source>Memo</source><translation>Pense-bête</translation></message>
@@ -285,6 +286,8 @@ Voulez-vous le retrouver ?</translation></message>
 <message><source>Unsaved records</source><translation>« %@ » (%@), %@ : toutes les fiches (%@)</translation></message>
 <message><source>Unsaved records and form</source><translation>« %@ » (%@), %@ : toutes les fiches (%@) et la saisie en cours</translation></message>
 <message><source>Unsaved without file</source><translation>jamais enregistré</translation></message>
+<message><source>Unsaved work kept aside</source><translation>Une partie du travail non enregistré d’une session précédente est illisible. Elle reste six mois dans ce dossier : %@</translation></message>
+<message><source>Unsaved work not kept</source><translation>Ce qui n’est pas encore enregistré n’a pas pu être mis à l’abri d’un arrêt soudain du programme. Enregistrez sans tarder.</translation></message>
 <message><source>Unsaved work not readable</source><translation>Ce qui a été conservé du travail non enregistré est endommagé.</translation></message>
 <message><source>Untitled</source><translation>Sans titre</translation></message>
 <message><source>Update</source><translation>Valider</translation></message>

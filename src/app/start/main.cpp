@@ -165,11 +165,11 @@ int main(int argc, char** argv) {
         QApplication::exit(128 + signal);
     });
 
-    if (files.isEmpty()) {
-        documents.applicationOpenUntitledFile();
-    } else {
-        documents.launch(files);
-    }
-    QMetaObject::invokeMethod(&documents, &MyDocumentController::offerUnsaved, Qt::QueuedConnection);
+    // Once events are seen to: a signal that comes while the start tells or asks something ends the program, too.
+    const auto begin = [&] {
+        files.isEmpty() ? static_cast<void>(documents.applicationOpenUntitledFile()) : documents.launch(files);
+        QMetaObject::invokeMethod(&documents, &MyDocumentController::offerUnsaved, Qt::QueuedConnection);
+    };
+    QMetaObject::invokeMethod(&documents, begin, Qt::QueuedConnection);
     return QApplication::exec();
 }

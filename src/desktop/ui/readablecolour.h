@@ -9,8 +9,8 @@ namespace tavrel {
 /// definitions of contrast and relative luminance of WCAG 2.1). A colour that can be read stays as it is.
 QColor readableOn(const QColor& background, const QColor& color);
 
-/// Shows hints in empty fields in the colour of texts at half its strength, now and whenever the desktop's colours change:
-/// some desktops leave them black on their dark ones. Lives as long as the application.
+/// Shows hints in empty fields in the colour of texts at half its strength, now and whenever the desktop's colours
+/// change: some desktops leave them black on their dark ones. Lives as long as the application.
 void keepPlaceholdersReadable();
 
 }  // namespace tavrel

@@ -154,9 +154,9 @@ bool ProfileEditorWindow::settle() {
         return true;
     }
     enum Answer { take, drop };
-    const int answer =
-        desktop_.alerts.ask(tavrel::text("Profil", "Import question"),
-                            {tavrel::text("Profil", "Import series"), tavrel::text("Main", "Discard"), tavrel::text("Main", "Cancel")});
+    const int answer = desktop_.alerts.ask(
+        tavrel::text("Profil", "Import question"),
+        {tavrel::text("Profil", "Import series"), tavrel::text("Main", "Discard"), tavrel::text("Main", "Cancel")});
     if (answer == take) {
         Q_EMIT importRequested(chosenTexts());
     } else if (answer == drop) {
