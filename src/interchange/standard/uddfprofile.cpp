@@ -167,9 +167,15 @@ void fillMoments(std::vector<double>& moments) {
     }
 }
 
-/// Spreads waypoints of one moment and different depths evenly up to the next: times in whole minutes, say. One that
-/// repeats the depth before it tells something else of the same moment, which it keeps.
+/// Spreads waypoints of one moment and different depths evenly up to the next where times are that coarse throughout:
+/// in whole minutes, say. One that repeats the depth before it tells something else of the same moment, which it keeps;
+/// so does one that shares a moment now and then.
 void spreadMoments(const std::vector<XmlElement>& waypoints, std::vector<double>& moments) {
+    auto distinct = moments;
+    distinct.erase(std::unique(distinct.begin(), distinct.end()), distinct.end());
+    if (moments.size() < 2 * distinct.size()) {
+        return;
+    }
     constexpr double widest = 60;  // seconds
     double step = widest;
     for (std::size_t first = 0; first < moments.size();) {

@@ -239,6 +239,8 @@ TEST(Uddf, readsTimesAsTheyCanOnlyBeMeant) {
     const Plongee shared = diveRead({}, samples("0@0 5@0 30.5@60 30.5@60 9@60 4@120 2@120"));
     EXPECT_EQ(shared.profondeur, 30.5F);
     EXPECT_EQ(shared.profilProfondeur, Series::ofReals({0, 5, 30.5, 9, 4, 2})) << "evenly, each depth once";
+    EXPECT_EQ(diveRead({}, samples("0@0 5@10 6@10 9@20 8@30")).profilProfondeur, Series::ofReals({0, 6, 9, 8}))
+        << "one moment now and then: its deepest";
     EXPECT_EQ(diveRead({}, samples("9@20 1@0 5@10")).profilProfondeur, Series::ofReals({1, 5, 9})) << "in their order";
     const Plongee minutes = diveRead(
         {}, samples("1@0 2@2700") + "<informationafterdive><diveduration>45</diveduration></informationafterdive>");
