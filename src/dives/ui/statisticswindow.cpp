@@ -39,7 +39,7 @@ StatisticsWindow::StatisticsWindow(DiveSource source, Desktop& desktop, const Pr
     pages_->addTab(newFiguresPage(), text("Carnet", "Statistics"));
     pages_->addTab(graphes_, text("Carnet", "Statistics graphs"));
     setCentralWidget(pages_);
-    resize(900, 640);
+    resize(1000, 640);
     new KeptFrame(*this, desktop.preferences, QStringLiteral("Statistics"));
     totalsChanged_ = desktop.notifications.subscribe(Notification::previousTotals, [this] { updateStatistics(); });
 }

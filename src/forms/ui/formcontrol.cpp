@@ -241,7 +241,10 @@ class LongTextControl : public FormControl {
 public:
     LongTextControl(FormStateBase& state, int index) : FormControl(state, index, new QPlainTextEdit) {
         if (control().fixedPitch) {
+            constexpr int columnWidth = 6;  // characters; four columns are in sight
             edit()->setFont(fixedPitch(edit()->font()));
+            edit()->setLineWrapMode(QPlainTextEdit::NoWrap);
+            edit()->setTabStopDistance(columnWidth * edit()->fontMetrics().horizontalAdvance(u' '));
         }
         edit()->setTabChangesFocus(true);
         edit()->setMinimumHeight(6 * edit()->fontMetrics().lineSpacing());
