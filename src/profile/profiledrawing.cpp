@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace tavrel {
 
@@ -55,16 +56,15 @@ int everyNth(double step, double room) {
     if (step >= room) {
         return 1;
     }
-    for (int nth = 1;; nth *= 10) {
+    constexpr int most = 100'000'000;
+    for (int nth = 1; nth <= most; nth *= 10) {
         for (const int factor : {1, 2, 5}) {
             if (nth * factor * step >= room) {
                 return nth * factor;
             }
         }
-        if (nth > 100000000) {
-            return nth;
-        }
     }
+    return std::numeric_limits<int>::max();
 }
 
 class PictureMaker {
