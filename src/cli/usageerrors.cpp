@@ -32,7 +32,7 @@ constexpr Wording wordings[] = {
 };
 
 QString sentenceOf(const CLI::Error& error) {
-    const QString words = fromArgument(error.what());
+    QString words = fromArgument(error.what());
     for (const Wording& each : wordings) {
         const QRegularExpression pattern(QRegularExpression::anchoredPattern(QLatin1String(each.pattern)),
                                          QRegularExpression::DotMatchesEverythingOption);

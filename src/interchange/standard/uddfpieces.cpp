@@ -47,8 +47,9 @@ QString notesOf(XmlElement notes) {
 
 void UddfPieces::follow(const std::string& id) {
     open_.assign(1, id);
-    for (std::size_t next = 0; next < open_.size(); ++next) {
-        const std::string its = open_[next];
+    std::size_t next = 0;
+    while (next < open_.size()) {  // what is taken opens more
+        const std::string its = open_[next++];
         if (its.empty()) {
             continue;
         }
