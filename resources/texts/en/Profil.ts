@@ -14,7 +14,8 @@
 <message><source>Editor explanation</source><translation>Each line is one sample. Importing replaces the series that are marked by their texts and stores the dive.</translation></message>
 <message><source>Gas bar</source><translation>Gas (bar)</translation></message>
 <message><source>Gas switch</source><translation>change to %d %% O₂</translation></message>
-<message><source>Import question</source><translation>Import the series that you typed into the dive?</translation></message>
+<message><source>Import elsewhere question</source><translation>Series were typed for dive %d. Import them into dive %d?</translation></message>
+<message><source>Import question</source><translation>Import the series that you typed into dive %d?</translation></message>
 <message><source>Import series</source><translation>Import Marked Series</translation></message>
 <message><source>No profile</source><translation>This dive has no recorded profile.</translation></message>
 <message><source>O2</source><translation>O₂</translation></message>

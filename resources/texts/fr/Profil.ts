@@ -14,7 +14,8 @@
 <message><source>Editor explanation</source><translation>Chaque ligne est un point. L’importation remplace les séries cochées par leurs textes et enregistre la plongée.</translation></message>
 <message><source>Gas bar</source><translation>Gaz (bar)</translation></message>
 <message><source>Gas switch</source><translation>passage à %d %% O₂</translation></message>
-<message><source>Import question</source><translation>Importer dans la plongée les séries saisies ?</translation></message>
+<message><source>Import elsewhere question</source><translation>Des séries ont été saisies pour la plongée %d. Les importer dans la plongée %d ?</translation></message>
+<message><source>Import question</source><translation>Importer dans la plongée %d les séries saisies ?</translation></message>
 <message><source>Import series</source><translation>Importer les séries cochées</translation></message>
 <message><source>No profile</source><translation>Cette plongée n’a pas de profil enregistré.</translation></message>
 <message><source>O2</source><translation>O₂</translation></message>

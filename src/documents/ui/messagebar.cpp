@@ -2,6 +2,8 @@
 
 #include "base/texts.h"
 
+#include <QPainter>
+
 #include <utility>
 
 namespace tavrel {
@@ -11,9 +13,6 @@ MessageBar::MessageBar(QWidget* parent) : QToolBar(parent), label_(new QLabel(th
     setMovable(false);
     setContextMenuPolicy(Qt::PreventContextMenu);
     toggleViewAction()->setVisible(false);
-    setAutoFillBackground(true);
-    setBackgroundRole(QPalette::ToolTipBase);
-    setForegroundRole(QPalette::ToolTipText);
     label_->setTextFormat(Qt::PlainText);
     label_->setWordWrap(true);
     label_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
@@ -38,7 +37,28 @@ void MessageBar::tell(const QString& message, const QString& command, std::funct
     }
     command_->setVisible(!command.isEmpty());
     run_ = std::move(run);
+    fitHeight();
     setVisible(!message.isEmpty());
+}
+
+void MessageBar::resizeEvent(QResizeEvent* event) {
+    QToolBar::resizeEvent(event);
+    fitHeight();
+}
+
+void MessageBar::fitHeight() {
+    // A tool bar asks no item for its height at a width, and keeps room for the most lines that the text might take.
+    label_->setFixedHeight(label_->heightForWidth(label_->width()));
+}
+
+void MessageBar::paintEvent(QPaintEvent*) {
+    // Not as the style paints the bars of tools: told apart from them by a touch of the palette's highlight.
+    constexpr int touch = 48;
+    QColor colour = palette().color(QPalette::Highlight);
+    colour.setAlpha(touch);
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().window());
+    painter.fillRect(rect(), colour);
 }
 
 }  // namespace tavrel

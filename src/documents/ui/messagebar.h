@@ -19,7 +19,13 @@ public:
     void tell(const QString& message, const QString& command = {}, std::function<void()> run = {});
     QString message() const { return isHidden() ? QString() : label_->text(); }
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
 private:
+    void fitHeight();
+
     QLabel* label_;
     QAction* command_;
     std::function<void()> run_;

@@ -50,7 +50,7 @@ ProfileEditorWindow::ProfileEditorWindow(Desktop& desktop)
     }
     enable();
     connect(eraseAllSwitch_, &QCheckBox::clicked, this, &ProfileEditorWindow::toggleAll);
-    connect(importButton, &QPushButton::clicked, this, [this] { Q_EMIT importRequested(chosenTexts()); });
+    connect(importButton, &QPushButton::clicked, this, &ProfileEditorWindow::importMarked);
     auto* closing = new QAction(this);
     closing->setShortcut(QKeySequence::Close);
     connect(closing, &QAction::triggered, this, &QWidget::close);
@@ -149,13 +149,34 @@ void ProfileEditorWindow::toggleAll(bool on) {
     }
 }
 
+ProfileEditorWindow::Column* ProfileEditorWindow::typedElsewhere() {
+    const auto found = std::find_if(columns_.begin(), columns_.end(), [this](const Column& column) {
+        return column.erase->isChecked() && column.dive != diveNumber_;
+    });
+    return found == columns_.end() ? nullptr : &*found;
+}
+
+QString ProfileEditorWindow::importQuestion() {
+    const Column* elsewhere = typedElsewhere();
+    return elsewhere ? textWith("Profil", "Import elsewhere question", elsewhere->dive, diveNumber_)
+                     : textWith("Profil", "Import question", diveNumber_);
+}
+
+void ProfileEditorWindow::importMarked() {
+    // The form may have gone to another dive since, whose profile would be replaced.
+    if (!typedElsewhere() || desktop_.alerts.ask(importQuestion(), {tavrel::text("Profil", "Import series"),
+                                                                    tavrel::text("Main", "Cancel")}) == 0) {
+        Q_EMIT importRequested(chosenTexts());
+    }
+}
+
 bool ProfileEditorWindow::settle() {
     if (!isVisible() || !anyMarked()) {
         return true;
     }
     enum Answer { take, drop };
     const int answer = desktop_.alerts.ask(
-        tavrel::text("Profil", "Import question"),
+        importQuestion(),
         {tavrel::text("Profil", "Import series"), tavrel::text("Main", "Discard"), tavrel::text("Main", "Cancel")});
     if (answer == take) {
         Q_EMIT importRequested(chosenTexts());

@@ -54,6 +54,10 @@ private:
     void showText(std::size_t index);
     void setDiveNumber(qint32 number);
     bool anyMarked() const;
+    /// A marked column that was typed for another dive than the one shown; null when there is none.
+    Column* typedElsewhere();
+    QString importQuestion();
+    void importMarked();
     void toggleAll(bool on);
 
     Desktop& desktop_;

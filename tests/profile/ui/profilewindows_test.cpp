@@ -155,6 +155,14 @@ TEST_F(ProfileEditorTest, followsTheDiveAndSaysWhoseTextsStay) {
     EXPECT_EQ(find<QPlainTextEdit>("importGAZ_Field").toPlainText(), u"1");
     EXPECT_EQ(find<QLabel>("countGAZ_Field").text(), u"Typed for dive 12");
     EXPECT_EQ(window.chosenTexts()[0], std::nullopt);
+
+    desktop.alerts.answerNext(1);
+    find<QPushButton>("importProfil").click();
+    EXPECT_FALSE(imported) << "into a dive that it was not typed for";
+    EXPECT_TRUE(desktop.alerts.questions.back().message.contains(u"for dive 12. Import them into dive 13?"));
+    desktop.alerts.answerNext(0);
+    find<QPushButton>("importProfil").click();
+    EXPECT_TRUE(imported);
 }
 
 TEST_F(ProfileEditorTest, allSwitchEmptiesAndMarksEverySeries) {
