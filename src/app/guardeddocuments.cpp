@@ -110,8 +110,7 @@ void MyDocumentController::offerUnsaved() {
                                  return restore(each);
                              }) == static_cast<std::ptrdiff_t>(left.documents.size());
             // What was restored is kept anew before the old goes.
-            keepUnsaved();
-            if (all) {
+            if (keepUnsaved() && all) {
                 left.discard();
             }
         }
@@ -144,10 +143,10 @@ bool MyDocumentController::restore(const Unsaved& unsaved) {
     return true;
 }
 
-void MyDocumentController::keepUnsaved() {
-    for (const OpenDocument& each : open_) {
-        each.journal->keepNow();
-    }
+bool MyDocumentController::keepUnsaved() {
+    // Each of them, also when one could not be kept.
+    return std::count_if(open_.begin(), open_.end(),
+                         [](const OpenDocument& each) { return !each.journal->keepNow(); }) == 0;
 }
 
 }  // namespace tavrel

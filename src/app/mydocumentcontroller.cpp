@@ -130,6 +130,8 @@ DocumentWindow* MyDocumentController::addWindow(const DocumentType& type, std::u
     auto journal = std::make_unique<Journal>(journals_, *document, QString::fromLatin1(type.recordClass));
     connect(journal.get(), &Journal::notKept, added,
             [added] { added->messageBar().tell(text("Main", "Unsaved work not kept")); });
+    connect(journal.get(), &Journal::keptAgain, added,
+            [this, added] { tellStateOnDisk(*added, added->document().stateOnDisk()); });
     open_.push_back({&type, std::move(document), std::move(window), std::move(journal)});
     connect(&added->document(), &Document::touched, this, [this, added] { ++touches_[added]; });
     connect(added, &DocumentWindow::closeRequested, this, [this, added] { closeDocument(*added); });

@@ -65,7 +65,7 @@ public:
     /// Offers what an earlier run of the program that ended suddenly had not saved.
     void offerUnsaved();
     /// Keeps what is unsaved for the next start, now: the program is about to end without asking anyone.
-    void keepUnsaved();
+    bool keepUnsaved();
 
     // Each says whether it came to its end; a cancel or a failure stops it.
     bool saveDocument(DocumentWindow& window);

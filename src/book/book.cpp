@@ -50,7 +50,8 @@ Expected<void> BookBase::loadDataRepresentation(QByteArrayView data, const QStri
         return failure(textWith("Main", "Unknown document type", type));
     }
     updateUI();
-    selectLast(description_.opensOnFirstRecord ? 0 : count() - 1, description_.opensOnFirstRecord);
+    const int row = shown_ ? shownRow_ : description_.opensOnFirstRecord ? 0 : count() - 1;
+    selectLast(row, description_.opensOnFirstRecord);
     return {};
 }
 
@@ -106,7 +107,9 @@ void BookBase::insertRecord() {
 }
 
 void BookBase::updateRecord() {
-    putAt(shown_ && hasEntries() ? shownRow_ : selectedRow(), true);
+    // An untouched form is stored over no record but the one that it shows.
+    const bool isElsewhere = shown_ && !hasEntries() && shownRow_ != selectedRow();
+    putAt(isElsewhere ? -1 : shown_ ? shownRow_ : selectedRow(), true);
 }
 
 void BookBase::deleteRecords() {
@@ -193,18 +196,28 @@ void BookBase::followShown(const ListChange& change) {
     if (!shown_) {
         return;
     }
+    const auto rowOf = [this](const RecordPointer& record) {
+        const auto found = record ? std::find(records().begin(), records().end(), record) : records().end();
+        return found == records().end() ? -1 : static_cast<int>(found - records().begin());
+    };
     int row = shownRow_;
     if (row >= change.first + change.removed) {
         row += change.inserted - change.removed;
     }
     if (recordAt(row) != shown_) {
-        const auto found = std::find(records().begin(), records().end(), shown_);
-        const bool isReplaced = change.removed == change.inserted;
-        row = found != records().end() ? static_cast<int>(found - records().begin()) : isReplaced ? row : -1;
+        const int held = rowOf(shown_);
+        // A change made now leaves the order as it is; an undone one may bring back the order before a sort.
+        const bool isInPlace = !isRestoring() && change.removed == change.inserted;
+        row = held >= 0 ? held : isInPlace ? row : rowOf(successorOf(shown_));
     }
-    shown_ = recordAt(row);
+    const RecordPointer before = std::exchange(shown_, recordAt(row));
     shownRow_ = shown_ ? row : -1;
-    if (!shown_ && !hasEntries()) {
+    if (shown_ == before || hasEntries()) {
+        return;
+    }
+    if (shown_) {
+        load(row);
+    } else {
         beginBlank();
     }
 }

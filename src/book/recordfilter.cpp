@@ -72,9 +72,10 @@ bool comparesNext(QStringView text) {
     });
 }
 
-/// A word as typed, without its quotation marks, and where its sign stands; -1 for none.
+/// A word without its quotation marks and the blanks around its sign, and where the sign stands; -1 for none.
 struct Typed {
     QString text;
+    QStringList parts = {QString()};  ///< the text apart at these blanks
     qsizetype place = -1;
     Sign sign = {};
 };
@@ -100,6 +101,8 @@ std::vector<Typed> parted(const QString& typed) {
                 word.place < 0 && !word.text.isEmpty() && comparesNext(QStringView(typed).sliced(place));
             if (!isBehindSign && !isBeforeSign) {
                 end();
+            } else {
+                word.parts.append(QString());
             }
         } else {
             const auto sign = std::find_if(signs.begin(), signs.end(), [&](const Sign& candidate) {
@@ -109,9 +112,11 @@ std::vector<Typed> parted(const QString& typed) {
                 word.place = word.text.size();
                 word.sign = *sign;
                 word.text += sign->text;
+                word.parts.back() += sign->text;
                 place += sign->text.size() - 1;
             } else {
                 word.text += each;
+                word.parts.back() += each;
             }
         }
     }
@@ -222,14 +227,23 @@ std::vector<FilterField> filterFieldsOf(const BookBase& book) {
 }
 
 RecordFilter::RecordFilter(const QString& typed, const std::vector<FilterField>& fields) {
+    // What asks for no field is looked for as it stands, in words.
+    const auto lookFor = [this](const Typed& each) {
+        for (const QString& part : each.parts) {
+            if (!part.isEmpty()) {
+                Word word;
+                word.text = folded(part);
+                words_.push_back(std::move(word));
+            }
+        }
+    };
     for (const Typed& each : parted(typed)) {
         Word word;
         if (each.place > 0) {
             word.fields = fieldsNamed(fields, nameOf(QStringView(each.text).first(each.place)));
         }
         if (word.fields.empty()) {
-            word.text = folded(each.text);
-            words_.push_back(std::move(word));
+            lookFor(each);
             continue;
         }
         const QString value = each.text.sliced(each.place + each.sign.text.size()).trimmed();
@@ -242,13 +256,12 @@ RecordFilter::RecordFilter(const QString& typed, const std::vector<FilterField>&
         if (word.operation != Operator::contains && !std::all_of(word.fields.begin(), word.fields.end(), isChoice)) {
             std::erase_if(word.fields, isChoice);
         }
+        if (word.operation == Operator::equal && !isComparable(word)) {
+            word.operation = Operator::contains;
+        }
         if (word.operation != Operator::contains && !isComparable(word)) {
-            if (word.operation != Operator::equal) {
-                word = {};
-                word.text = folded(each.text);
-            } else {
-                word.operation = Operator::contains;
-            }
+            lookFor(each);
+            continue;
         }
         words_.push_back(std::move(word));
     }

@@ -37,8 +37,8 @@ Expected<void> Document::open(const QString& file) {
     if (const auto loaded = loadDataRepresentation(bytes->bytes(), type_); !loaded) {
         return tl::unexpected(openingFailure(file, loaded.error()));
     }
-    becomeFile(file, bytes->identity(hash.get()));
     noteVersion(bytes->bytes());
+    becomeFile(file, bytes->identity(hash.get()));
     undoStack_.clear();
     tellChangedState();
     return {};
@@ -68,9 +68,9 @@ Expected<void> Document::saveAs(const QString& file, Overwriting overwriting) {
     if (!written) {
         return tl::unexpected(written.error());
     }
+    noteVersion(*bytes);
     becomeFile(file, std::move(*written));
     setReadOnly(false);
-    noteVersion(*bytes);
     undoStack_.setClean();
     tellChangedState();
     return {};

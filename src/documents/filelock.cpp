@@ -66,11 +66,21 @@ std::optional<LockHolder> FileLock::take(QLockFile& lock, std::chrono::milliseco
         LockHolder holder;
         const bool isSigned = lock.getLockInfo(&holder.process, &holder.host, &holder.program);
         if (!isSigned && ::access(name.constData(), R_OK) == 0 && ::lstat(name.constData(), &status) == 0) {
-            if (std::abs(std::time(nullptr) - status.st_mtime) > signingTime) {
-                if (!lock.removeStaleLockFile()) {
+            const auto isOld = [&status] { return std::abs(std::time(nullptr) - status.st_mtime) > signingTime; };
+            if (isOld()) {
+                // One at a time: the later of two would remove the lock that the earlier has made meanwhile.
+                QLockFile remover(lock.fileName() + QStringLiteral(".rmlock"));
+                const bool isAlone = remover.tryLock(0);
+                if (!isAlone && remover.error() != QLockFile::LockFailedError) {
                     return std::nullopt;
                 }
-                continue;
+                if (isAlone && !lock.getLockInfo(&holder.process, &holder.host, &holder.program) &&
+                    ::lstat(name.constData(), &status) == 0 && isOld()) {
+                    if (!lock.removeStaleLockFile()) {
+                        return std::nullopt;
+                    }
+                    continue;
+                }
             }
             if (!signing.hasExpired()) {
                 QThread::msleep(step);

@@ -4,7 +4,9 @@
 #include "base/safefile.h"
 #include "base/texts.h"
 
+#include <QCoreApplication>
 #include <QDataStream>
+#include <QDateTime>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
@@ -205,9 +207,17 @@ QString JournalFolder::newFile() {
 bool JournalFolder::keepAside(const QString& folder, const QStringList& names) {
     const QString aside = parent_ + u'/' + asideName;
     makePrivateFolder(aside);
-    keptAside_ = aside;
     return std::all_of(names.begin(), names.end(), [&](const QString& name) {
-        return QFile::rename(folder + u'/' + name, aside + u'/' + QFileInfo(folder).fileName() + u'-' + name);
+        const QString kept = aside + u'/' + QFileInfo(folder).fileName() + u'-' + name;
+        if (!QFile::rename(folder + u'/' + name, kept)) {
+            return false;
+        }
+        keptAside_ = aside;
+        // Its time there begins now, however long ago it was written.
+        QFile file(kept);
+        static_cast<void>(file.open(QIODevice::ReadWrite) &&
+                          file.setFileTime(QDateTime::currentDateTime(), QFileDevice::FileModificationTime));
+        return true;
     });
 }
 
@@ -365,12 +375,16 @@ void Journal::noteOutcome(bool isWritten) {
         if (!wasTroubled) {
             Q_EMIT notKept();
         }
+    } else if (wasTroubled) {
+        Q_EMIT keptAgain();
     }
 }
 
-void Journal::keepNow() {
+bool Journal::keepNow() {
     keep();
     folder_.work().waitForDone();
+    QCoreApplication::sendPostedEvents(&folder_.reports(), QEvent::MetaCall);
+    return !isTroubled_;
 }
 
 void Journal::noteSave(const QString& file, const QByteArray& bytes) {
@@ -381,6 +395,7 @@ void Journal::noteSave(const QString& file, const QByteArray& bytes) {
 }
 
 void Journal::drop() {
+    noteOutcome(true);
     timer_.stop();
     pace_.taken();
     if (std::exchange(isKept_, false)) {

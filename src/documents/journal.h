@@ -98,8 +98,8 @@ class Journal : public QObject {
 public:
     Journal(JournalFolder& folder, Document& document, const QString& recordClass);
 
-    /// Keeps it now; returns when it is on the disk.
-    void keepNow();
+    /// Keeps it now; returns when it is on the disk. False when it could not be kept.
+    bool keepNow();
     /// The document is closed: nothing of it is to be kept.
     void drop();
     /// Where it is kept.
@@ -108,6 +108,8 @@ public:
 Q_SIGNALS:
     /// What is unsaved could not be kept; told again only when it could be kept meanwhile.
     void notKept();
+    /// It is kept, or need no longer be, where it could not be kept before.
+    void keptAgain();
 
 private:
     void touch();

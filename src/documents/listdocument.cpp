@@ -47,7 +47,7 @@ public:
     void undo() override {
         const SharedList before = sorted_ ? sorted_ : exchanged(*document_.listOfSteps(), put_, taken_);
         document_.stepList_ = stepList_;
-        restore(before);
+        restore(before, put_, taken_);
     }
 
     void redo() override {
@@ -58,7 +58,7 @@ public:
         }
         const SharedList after = exchanged(sorted_ ? *sorted_ : *document_.listOfSteps(), taken_, put_);
         document_.stepList_.reset();
-        restore(after);
+        restore(after, taken_, put_);
     }
 
 private:
@@ -72,8 +72,10 @@ private:
         return std::make_shared<const RecordList>(std::move(result));
     }
 
-    void restore(const SharedList& list) {
+    void restore(const SharedList& list, const RecordList& old, const RecordList& replacement) {
+        document_.exchange_ = {&old, &replacement};
         document_.show(list);
+        document_.exchange_ = {};
         Q_EMIT document_.listRestored();
     }
 
@@ -103,6 +105,15 @@ void ListDocument::replaceList(RecordList list) {
         stepList_ = list_;
     }
     show(std::make_shared<const RecordList>(std::move(list)));
+}
+
+RecordPointer ListDocument::successorOf(const RecordPointer& record) const {
+    const auto& [old, replacement] = exchange_;
+    if (!old || old->size() != replacement->size()) {
+        return nullptr;
+    }
+    const auto found = std::find(old->begin(), old->end(), record);
+    return found == old->end() ? nullptr : (*replacement)[static_cast<std::size_t>(found - old->begin())];
 }
 
 void ListDocument::show(SharedList list) {

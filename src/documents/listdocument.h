@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 
 namespace tavrel {
 
@@ -62,6 +63,10 @@ Q_SIGNALS:
     void rowRevealed(int row);
 
 protected:
+    /// Whether the list changes because a step is undone or redone.
+    bool isRestoring() const { return exchange_.first != nullptr; }
+    /// What takes a record's place in the step that is undone or redone; null where nothing does.
+    RecordPointer successorOf(const RecordPointer& record) const;
     QByteArray archive() const;
     Expected<RecordList> unarchive(QByteArrayView data) const;
     bool isNewer(QByteArrayView contents) const override;
@@ -80,6 +85,8 @@ private:
     QList<int> selectedRows_;
     SharedList list_ = std::make_shared<const RecordList>();
     SharedList stepList_;  ///< the list as the steps make it, where it was replaced since (sorted, loaded)
+    /// What the step that is undone or redone takes out of the list, and what it puts in.
+    std::pair<const RecordList*, const RecordList*> exchange_{};
 };
 
 }  // namespace tavrel

@@ -142,6 +142,10 @@ TEST_F(GuardedDocuments, ofANewerVersionAreNotSavedOver) {
     EXPECT_TRUE(app.documents.saveDocument(*window));
     EXPECT_EQ(window->windowTitle(), u"copy.carnet[*]");
     EXPECT_TRUE(window->messageBar().isHidden());
+    ASSERT_TRUE(writeFile(app.path(QStringLiteral("copy.carnet")), newer));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !window->messageBar().isHidden(); }));
+    ASSERT_TRUE(window->document().revert());
+    EXPECT_TRUE(window->messageBar().message().contains(u"newer version")) << "read again";
 }
 
 TEST_F(GuardedDocuments, goBackToTheirBackup) {
@@ -257,6 +261,10 @@ TEST_F(GuardedDocuments, tellWhatCannotBeKeptOrReadAgain) {
     run.carnet().addDive();
     run.documents.keepUnsaved();
     EXPECT_FALSE(window->messageBar().message().isEmpty());
+    ASSERT_TRUE(QFile::remove(journals));
+    run.carnet().addDive();
+    EXPECT_TRUE(run.documents.keepUnsaved());
+    EXPECT_TRUE(window->messageBar().message().isEmpty());
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QSignalSpy>
 #include <QTest>
+#include <QThread>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -166,6 +167,19 @@ TEST_F(GuardedFile, isClaimedByOneProgram) {
     EXPECT_FALSE(leaf.claimFile(path("empty")));
     EXPECT_TRUE(other.claimFile(path("empty")));
     EXPECT_FALSE(other.claimFile(path("pipe")));
+    // Nor is it anybody's while another program removes it to take it.
+    makeUnsignedLock(path(".race.lock"));
+    QLockFile remover(path(".race.lock.rmlock"));
+    ASSERT_TRUE(remover.tryLock(0));
+    QLockFile taken(path(".race.lock"));
+    const std::unique_ptr<QThread> taking(QThread::create([&] {
+        QThread::msleep(200);
+        static_cast<void>(taken.removeStaleLockFile() && taken.tryLock(0));
+    }));
+    taking->start();
+    FileLock race(path("race"));
+    EXPECT_TRUE(race.take({}));
+    taking->wait();
     // Names of other bytes are other files.
     FileLock grave(pathFromBytes(pathBytes(path("caf")) + "\xe8"));
     FileLock acute(pathFromBytes(pathBytes(path("caf")) + "\xe9"));
@@ -401,6 +415,7 @@ TEST_F(Journals, areMadeAnewWhenTheirFolderIsRemoved) {
     {
         ProgramRun run(parent, leaf);
         QSignalSpy troubles(&run.journal, &Journal::notKept);
+        QSignalSpy mended(&run.journal, &Journal::keptAgain);
         leaf.version = std::make_shared<int>();
         leaf.change("changed");
         run.journal.keepNow();
@@ -408,12 +423,13 @@ TEST_F(Journals, areMadeAnewWhenTheirFolderIsRemoved) {
         writeContents(parent, "in the way");
         for (const char* typed : {"one", "two"}) {
             leaf.typeIntoForm(QLatin1StringView(typed));
-            run.journal.keepNow();
+            EXPECT_FALSE(run.journal.keepNow());
         }
-        EXPECT_EQ(troubles.size(), 1);
+        EXPECT_TRUE(troubles.size() == 1 && mended.isEmpty());
         ASSERT_TRUE(QFile::remove(parent));
         leaf.typeIntoForm(QStringLiteral("three"));
-        run.journal.keepNow();
+        EXPECT_TRUE(run.journal.keepNow());
+        EXPECT_EQ(mended.size(), 1);
         EXPECT_TRUE(left().empty()) << "the program is alive";
     }
     const auto found = left();
@@ -439,6 +455,9 @@ TEST_F(Journals, thatAreDamagedAreKeptAside) {
         flipped[bytes.size() - 1] = static_cast<char>(flipped[bytes.size() - 1] ^ 1);
         EXPECT_FALSE(unarchivedUnsaved(flipped));
         ASSERT_TRUE(writeFile(run.kept().filePath(whole->second.name), "chanced"));
+        QFile longAgo(run.journal.file());
+        ASSERT_TRUE(longAgo.open(QFile::Append) &&
+                    longAgo.setFileTime(QDateTime::currentDateTime().addDays(-200), QFile::FileModificationTime));
     }
     const auto namesAside = [&] { return QDir(aside).entryList(QDir::Files); };
     EXPECT_TRUE(left().empty());

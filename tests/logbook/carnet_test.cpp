@@ -198,6 +198,40 @@ TEST_F(CarnetTest, whatIsTypedIntoAStoredDiveGoesIntoThatDive) {
     EXPECT_EQ(shown(controls.paysField), u"Malta");
 }
 
+TEST_F(CarnetTest, theFormKeepsItsDiveWhenAnOrderComesBack) {
+    holdNumbers({1, 2, 3, 4});
+    carnet.selectRows({0});
+    type(controls.lieuField, "one");
+    carnet.updateDive();
+    carnet.sortBy(QStringLiteral("noPlongee"));
+    ASSERT_EQ(numbers(), (QList<int>{4, 3, 2, 1}));
+    type(controls.lieuField, "two");
+    carnet.undoStack().undo();
+    ASSERT_EQ(numbers(), (QList<int>{1, 2, 3, 4}));
+    EXPECT_EQ(carnet.shownRow(), 0);
+    carnet.updateDive();
+    EXPECT_EQ(numbers(), (QList<int>{1, 2, 3, 4}));
+    EXPECT_EQ(carnet.record(0).lieu, u"two");
+}
+
+TEST_F(CarnetTest, anUntouchedFormFollowsItsDiveAndNoOther) {
+    holdNumbers({1, 2});
+    carnet.selectRows({0});
+    type(controls.profondeurField, "30");
+    carnet.updateDive();
+    carnet.deselectAll();
+    carnet.convertUnits(UnitSystem::us);
+    EXPECT_EQ(shown(controls.profondeurField), u"98.43");
+    carnet.undoStack().undo();
+    EXPECT_EQ(shown(controls.profondeurField), u"30");
+    // The list is read again: the form stays where it was, and is stored nowhere else.
+    const QByteArray bytes = *carnet.dataRepresentationOfType(carnet.type());
+    ASSERT_TRUE(carnet.loadDataRepresentation(bytes, carnet.type()));
+    EXPECT_EQ(carnet.shownRow(), 0);
+    carnet.updateDive();
+    EXPECT_EQ(numbers(), (QList<int>{1, 2}));
+}
+
 TEST_F(CarnetTest, whatIsTypedForANewDiveStaysWhateverIsSelected) {
     holdNumbers({3, 2, 1});
     carnet.selectRows({0, 2});

@@ -44,7 +44,7 @@ struct EquipmentFilterTest : FilterTest {
         Materiel tank = item("Tank", "Peinte à l’école\nen jaune", "265.00", {2016, 6, 30}, 1);
         tank.capaciteBloc = 12.2F;
         tank.equipState = 1;
-        Materiel lamp = item("Lamp", "the 2016 model", "9,5", {2018, 12, 31}, 2);
+        Materiel lamp = item("Lamp", "the 2016 model, x < y", "9,5", {2018, 12, 31}, 2);
         lamp.factureMatos = 1;
         const Materiel fins = item("Fins", "Tank room, shelf 12", "as new", {1900, 1, 1}, 30);
         book->replaceList(listOf<Materiel>({tank, lamp, fins}));
@@ -66,6 +66,8 @@ TEST_F(EquipmentFilterTest, findsAllWordsInAnyFieldAsTheUserSeesIt) {
     EXPECT_EQ(shown("12.2"), (std::vector{0}));
     EXPECT_EQ(shown("repair"), (std::vector{0})) << "the word of a choice";
     EXPECT_EQ(shown("1900"), none) << "no date is empty";
+    EXPECT_EQ(shown("x < y model"), (std::vector{1})) << "no field has that name";
+    EXPECT_EQ(shown("\"x<y\""), none);
 }
 
 TEST_F(EquipmentFilterTest, asksOneFieldByItsKeyOrItsWordsCutShort) {

@@ -4,6 +4,7 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <utility>
 
 namespace tavrel {
@@ -48,7 +49,7 @@ void MessageBar::resizeEvent(QResizeEvent* event) {
 
 void MessageBar::fitHeight() {
     // A tool bar asks no item for its height at a width, and keeps room for the most lines that the text might take.
-    label_->setFixedHeight(label_->heightForWidth(label_->width()));
+    label_->setFixedHeight(std::max(0, label_->heightForWidth(label_->width())));
 }
 
 void MessageBar::paintEvent(QPaintEvent*) {
