@@ -108,22 +108,6 @@ TEST_F(BookWindowTest, selectsInTheTableAndInTheDocumentAlike) {
     EXPECT_EQ(carnet.selectedRows(), QList<int>({2}));
 }
 
-TEST_F(BookWindowTest, keepsUpWithHugeSelections) {
-    hold(100'000);
-    QList<int> even;
-    for (int row = 0; row < carnet.count(); row += 2) {
-        even.append(row);
-    }
-    carnet.selectRows(even);
-    click(1, Qt::ControlModifier);
-    EXPECT_EQ(carnet.selectedRows().size(), even.size() + 1);
-    press(Qt::Key_A, Qt::ControlModifier);
-    EXPECT_EQ(carnet.selectedRows().size(), carnet.count());
-    clickHeader("noPlongee");
-    EXPECT_EQ(carnet.selectedRows().size(), carnet.count());
-    EXPECT_EQ(shown(0, "noPlongee"), u"100000");
-}
-
 TEST_F(BookWindowTest, sortsByAClickOnAHeaderAndKeepsTheSelectedDive) {
     hold(3);
     click(0);
@@ -245,9 +229,6 @@ TEST_F(BookWindowTest, searchesTheFieldThatWasChosenLast) {
         table().viewport()->rect().contains(table().visualRect(table().model()->index(30, table().columnOf("site")))));
 
     field.menu()->findChild<QAction*>(QStringLiteral("ordi"))->trigger();
-    EXPECT_EQ(desktop.alerts.failures.size(), 1U);
-    EXPECT_EQ(carnet.selectedRow(), -1);
-
     window.reset();
     open();
     EXPECT_EQ(window->searchField()->placeholderText(), u"Find in: Computers");
