@@ -151,18 +151,6 @@ TEST_F(LogbookWindowTest, showsADecimalCommaInFrenchAndKeepsThePoint) {
     }
 }
 
-TEST_F(LogbookWindowTest, keepsItsImportsInAMenuOfTheirOwn) {
-    EXPECT_TRUE(window.importActions().isEmpty());
-    QStringList imports;
-    window.addImport(literal("UDCF"), "importUDCF", [&] { imports.append(QStringLiteral("UDCF")); });
-    window.addImport(literal("Handheld"), nullptr, [&] { imports.append(QStringLiteral("handheld")); });
-    for (QAction* action : window.importActions()) {
-        action->trigger();
-        EXPECT_FALSE(window.ownMenuActions().contains(action));
-    }
-    EXPECT_EQ(imports, (QStringList{QStringLiteral("UDCF"), QStringLiteral("handheld")}));
-}
-
 }  // namespace
 
 }  // namespace tavrel
