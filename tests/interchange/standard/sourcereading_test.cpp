@@ -7,7 +7,6 @@
 #include "support/records.h"
 
 #include <array>
-#include <cmath>
 
 namespace tavrel {
 
