@@ -48,8 +48,7 @@ void say(const char* what, int number) {
     std::fflush(stdout);
 }
 
-/// Run by the test below as a program of its own: types numbers that rise, adds dives, saves, and says what is safe,
-/// until it is killed.
+/// Run by the test below as a program of its own, until it is killed: types rising numbers, saves, says what is safe.
 TEST(Typist, DISABLED_types) {
     const QString folder = qEnvironmentVariable(folderVariable);
     KilledRun run(folder);

@@ -158,8 +158,7 @@ TEST_F(PreferencesTest, everyChangeIsStoredAndTellsItsFollowers) {
     EXPECT_EQ(postedBy("usUnitsSwitch"), u"updateTableView profile updateEditDive updateDeco updateRebreather");
 
     const auto store = readBack();
-    // What has no control of its own in the change goes along with it: the defaults, as of the alpha, become the
-    // user's.
+    // What was not changed goes along: the defaults, as of the alpha, become the user's.
     for (const auto& [key, value] : namedValues(
              "column site=0|column_epave=1|mix in color=1|stop interval=5|cell life=24|low temperature value=-1.5|"
              "tank volume=12|coloured theme=2|us units=1|alpha fill color=0.5")) {

@@ -301,7 +301,7 @@ TEST_F(CarnetTest, asksWhatBecomesOfANewDiveOnEveryWayOut) {
     EXPECT_TRUE(carnet.closeEditWindow());  // untouched: nothing to add
     EXPECT_FALSE(carnet.isChanged());
 
-    enum Answer { add, discard, cancel };
+    enum Answer { add, discard };
     const std::function<bool()> ways[] = {
         [&] { return carnet.closeEditWindow(); },
         [&] { return carnet.closeEditWindow(Leaving::escaping); },
@@ -316,11 +316,6 @@ TEST_F(CarnetTest, asksWhatBecomesOfANewDiveOnEveryWayOut) {
             type(controls.siteField, "New");
             return way();
         };
-        const QList<int> selected = carnet.selectedRows();
-        EXPECT_FALSE(answer(cancel));
-        EXPECT_EQ(carnet.selectedRows(), selected);
-        EXPECT_EQ(shown(controls.siteField), u"New");
-        EXPECT_EQ(carnet.count(), before);
         EXPECT_TRUE(answer(discard));
         EXPECT_EQ(carnet.count(), before);
         carnet.newDive();
