@@ -33,7 +33,6 @@ struct LoanControls : ControlTable<LoanControls> {
     const Id pieces = add({.name = "piecesField",
                            .kind = ControlKind::wholeNumber,
                            .field = "pieces",
-                           .clearedText = "1",
                            .usualMinimum = 1,
                            .usualMaximum = 20});
     const Id state =
@@ -146,10 +145,6 @@ TEST_F(FormStateTest, tellsOfWritesOnceAndOfEntriesAlways) {
     EXPECT_EQ(state_.tag(controls_.state), 4);
     state_.selectPosition(controls_.state, 3);
     EXPECT_EQ(state_.tag(controls_.state), 0);
-    state_.clear();
-    EXPECT_EQ(state_.text(controls_.item), u"");
-    EXPECT_EQ(state_.integer(controls_.pieces), 1);
-    EXPECT_EQ(state_.tag(controls_.state), 7);
 }
 
 TEST_F(FormStateTest, hintsAtNumbersThatAreReadOtherwiseOrUnusual) {

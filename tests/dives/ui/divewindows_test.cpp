@@ -8,7 +8,6 @@
 #include "support/testdesktop.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -48,7 +47,7 @@ struct DiveWindowsTest : testing::Test {
     std::size_t selected_ = 0;
 };
 
-TEST_F(DiveWindowsTest, StatisticsFollowTheChoiceThePreviousTotalsAndTheSwitch) {
+TEST_F(DiveWindowsTest, StatisticsFollowThePreviousTotalsAndTheSwitch) {
     StatisticsWindow window(source(), desktop_.desktop(), {});
     window.showStatisticsWindow();
     StatisticsWindow other(source(), desktop_.desktop(), {});
@@ -81,15 +80,6 @@ TEST_F(DiveWindowsTest, StatisticsFollowTheChoiceThePreviousTotalsAndTheSwitch) 
 
     window.findChild<QCheckBox*>(QStringLiteral("previousDivesNoSwitch"))->click();
     EXPECT_EQ(figures("statProf_7Field statTempMinField"), u"1|15\u00a0°C");
-
-    selected_ = 2;
-    auto* choice = window.findChild<QComboBox*>(QStringLiteral("diveChoice"));
-    choice->setCurrentIndex(1);
-    Q_EMIT choice->activated(1);
-    EXPECT_EQ(figures("statDivesField statProfMaxField"), u"2 dives|25 m");
-    selected_ = 1;
-    window.updateStatistics();
-    EXPECT_EQ(shown(window, "statProfMaxField"), u"5 m");
 }
 
 TEST_F(DiveWindowsTest, ConsumptionSheetShowsReportAndWhereItComesFrom) {
