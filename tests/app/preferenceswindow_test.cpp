@@ -6,7 +6,6 @@
 #include "desktop/defaults.h"
 #include "desktop/ui/customtoolbar.h"
 #include "logbook/logbooksettings.h"
-#include "profile/profilesettings.h"
 #include "support/records.h"
 #include "support/testdesktop.h"
 
@@ -208,13 +207,9 @@ TEST_F(PreferencesTest, switchesEnableWhatDependsOnThem) {
     EXPECT_EQ(find<QLabel>("temperatureUnit").text(), text("Carnet", "Degree Farenheit"));
 }
 
-TEST_F(PreferencesTest, unreadableValuesShowTheDefaults) {
-    desktop.preferences.set(QStringLiteral("plot color"), QStringLiteral("blue"));
-    EXPECT_EQ(window().control(&settings::plotColor).value().value<QColor>().name(), u"#ff0000");
-    // What stands in a number's place without being one is not shown as a number, nor stored as one.
+TEST_F(PreferencesTest, whatIsNoNumberIsNotShownAsOne) {
     desktop.preferences.set(QStringLiteral("low temperature value"), QStringLiteral("cold"));
-    EXPECT_EQ(PreferencesWindow(desktop.desktop()).control(&settings::lowTemperatureValue).value().toString(),
-              QString());
+    EXPECT_EQ(window().control(&settings::lowTemperatureValue).value().toString(), QString());
 }
 
 TEST_F(PreferencesTest, fieldsCountWhenTheUserGoesToAnotherWindow) {

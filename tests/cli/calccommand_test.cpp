@@ -102,10 +102,7 @@ TEST(CalcCommand, refusesWrongUsageWithCodeTwo) {
         {"gps", "--sexagesimal", "--lon", "1 2 3 4"},
         {"gps", "--lat", "48 23 12"},
         {"gps", "--lat", "--json"},
-        {"gps", "--alt", "--json"},
         {"ead", "--o2", "--depth=30"},
-        {"cns", "--ppo2", "--time=30"},
-        {"cns", "--time", "--json"},
         {"convert", "--from", "psi", "--value", "--json"},
     };
     for (const auto& arguments : wrong) {

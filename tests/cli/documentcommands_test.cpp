@@ -57,14 +57,11 @@ TEST_F(LogbookCommands, endsWithTheReasonAndChangesNothing) {
     const QByteArray before = bytes();
     writeContents(path(QStringLiteral("cut.carnet")), before.chopped(7));
     expectRefusals({
-        {"", 2, "command"},
         {"shew a.carnet", 2, "shew"},
-        {"show", 2, "FILE"},
         {"show missing.carnet", 1, "missing.carnet"},
         {"show folder", 1, "folder"},
         {"show cut.carnet", 1, "cut.carnet"},
         {"show cut.carnet --json", 1, "cut.carnet"},
-        {"show a.carnet --json --columns lieu", 2, "--json"},
         {"inspect missing.carnet", 1, "missing.carnet"},
         {"inspect cut.carnet --json", 1, "cut.carnet"},
         {"show a.carnet --columns lieu,depth", 2, "depth"},
@@ -86,7 +83,6 @@ TEST_F(LogbookCommands, endsWithTheReasonAndChangesNothing) {
         {"set a.carnet 1 lieu=Nice", 1, "1"},
         {"set a.carnet -1 lieu=Nice", 1, "-1"},
         {"delete a.carnet 0 1", 1, "1"},
-        {"renumber a.carnet first", 2, "first"},
         {"find a.carnet ordi x", 2, "ordi"},
     });
     EXPECT_EQ(bytes(), before);

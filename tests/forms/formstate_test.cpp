@@ -150,7 +150,7 @@ TEST_F(FormStateTest, tellsOfWritesOnceAndOfEntriesAlways) {
 TEST_F(FormStateTest, hintsAtNumbersThatAreReadOtherwiseOrUnusual) {
     const std::pair<LoanControls::Id, const char*> cases[] = {
         {controls_.pieces, "20=|21=usually 1 to 20|0=usually 1 to 20|12.5=read as 12|abc=read as 0|--="},
-        {controls_.price, "1000=|1000.5=usually at most 1000|12.50 euros=read as 12.5"},
+        {controls_.price, "1000=|33,5=|=|1000.5=usually at most 1000|12.50 euros=read as 12.5"},
         {controls_.item, "12x="}};  // a text is what was typed
     for (const auto& [id, rows] : cases) {
         for (const auto& [typed, expected] : namedValues(rows)) {

@@ -226,14 +226,6 @@ TEST_F(Imports, stopAtADiveThatLacksAnElementAndKeepTheOthers) {
     EXPECT_EQ(take(handheld("<dive/>")).taken, 0);
 }
 
-TEST_F(Imports, leaveTheLogbookWhenTheFileCannotBeRead) {
-    for (const QByteArray& file : {QByteArray(), QByteArray("some notes")}) {
-        EXPECT_FALSE(importDives(carnet, file, ImportFormat::udcf));
-    }
-    EXPECT_FALSE(readUDCF(carnet, desktop.path(QStringLiteral("missing.udcf"))));
-    EXPECT_EQ(carnet.undoStack().count(), 0);
-}
-
 TEST_F(Imports, surviveHostileFilesAndReadNoOther) {
     const QDir folder(QStringLiteral(TAVREL_TEST_DATA "/hostile"));
     const QStringList files = folder.entryList({QStringLiteral("import-*.xml")});

