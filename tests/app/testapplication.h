@@ -6,8 +6,6 @@
 #include "support/queuedfiledialogs.h"
 #include "support/testdesktop.h"
 
-#include <QCoreApplication>
-
 namespace tavrel {
 
 /// A document's window with one more window that edits.

@@ -14,7 +14,6 @@ TEST_F(LogbookCommands, importsTheSampleFilesTellingTheirFormat) {
     expectValues(0, "lieu=Port-Cros - Pointe du Vaisseau|date=2019-06-22T09:40:00Z");
     expectValues(1, "pressionFin=60|tempEau=18");
     expectValues(2, "notes=Lac d'Annecy, le Roc de Chère : une lotte sous le surplomb à 25 m.|temps=41");
-    expectValues(3, "temps=45");
     expectValues(4, "profondeur=16.8");
     expectValues(5, "noPlongee=6|date=2011-05-03T10:15:00Z");
 }

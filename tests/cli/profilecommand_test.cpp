@@ -39,7 +39,6 @@ TEST_F(ProfileCommand, givesSummaryAndGeometry) {
 
 TEST_F(ProfileCommand, showsAndReplacesSeries) {
     EXPECT_EQ(done("profile a.carnet --row 0 --series depth"), u"0.0\n42.0\n21.0\n6.0");
-    EXPECT_EQ(done("profile a.carnet --row 0 --series gas"), u"0\n1\n0\n2");
     EXPECT_EQ(done("profile a.carnet --row 0 --series ascent"), QString());
     writeContents(path(QStringLiteral("depth.txt")), "3\n7\n");
     writeContents(path(QStringLiteral("slow.txt")), "1\n0");

@@ -153,9 +153,7 @@ TEST_F(Exports, nameGasesAndSamplingIntervals) {
 }
 
 TEST_F(Exports, ofProfilesClearTheSelectionAndLeaveTheFormAlone) {
-    Plongee plain;
-    plain.profilProfondeur = Series::ofReals({7});
-    add({wreckDive(), plain});
+    add({wreckDive(), filled<Plongee>("profilProfondeur=7")});
     for (const char* name : {"udcf", "uddf", "profiles-csv"}) {
         carnet.selectRows({0});
         const ProfileSeries shown = carnet.form().profile();
@@ -181,9 +179,7 @@ std::string withSeparator(std::string line, const std::string& separator) {
 
 TEST_F(Exports, writeTheDiveListAsMacRomanText) {
     const FrenchLocale french;
-    Plongee coded;
-    fill(coded, "meteo=7|courant=-1|visibilite=7|profondeur=12");
-    add({wreckDive(), coded});
+    add({wreckDive(), filled<Plongee>("meteo=7|courant=-1|visibilite=7|profondeur=12")});
     // The text's own comma and quotes stand as they are.
     const std::string buddies = "Zo\x8e, \"Max\"";
     const std::string first =
@@ -204,10 +200,7 @@ TEST_F(Exports, writeEveryProfilePoint) {
     const FrenchLocale french;
     Plongee empty;
     empty.profilProfondeur = Series::empty();
-    Plongee pressures;
-    pressures.noPlongee = -3;
-    pressures.profilProfondeur = Series::ofReals({1, 2.55});
-    pressures.PRESS_Data = Series::ofReals({200, 199.96});
+    auto pressures = filled<Plongee>("noPlongee=-3|profilProfondeur=1,2.55|PRESS_Data=200,199.96");
     pressures.SURF_Flag = Series::ofIntegers({1, 0});
     pressures.CEIL_Flag = Series::ofIntegers({5, 6});
     add({wreckDive(), empty, pressures});

@@ -28,26 +28,19 @@ struct FilterTest : testing::Test {
     TestDesktop desktop;
 };
 
-Materiel item(const char* kind, const char* notes, const char* price, QDate bought, qint32 quantity) {
-    Materiel made;
-    made.typeMatos = QString::fromUtf8(kind);
-    made.notesMatos = QString::fromUtf8(notes);
-    made.prixMatos = QString::fromUtf8(price);
-    made.dateAchat = Date::ofLocalTime(bought, QTime(12, 0));
-    made.lastRevision = made.nextRevision = made.nextRequalification = noDate();
-    made.quantiteMatos = quantity;
-    return made;
-}
-
 struct EquipmentFilterTest : FilterTest {
     EquipmentFilterTest() {
-        Materiel tank = item("Tank", "Peinte à l’école\nen jaune", "265.00", {2016, 6, 30}, 1);
-        tank.capaciteBloc = 12.2F;
-        tank.equipState = 1;
-        Materiel lamp = item("Lamp", "the 2016 model", "9,5", {2018, 12, 31}, 2);
-        lamp.factureMatos = 1;
-        const Materiel fins = item("Fins", "Tank room, shelf 12", "as new", {1900, 1, 1}, 30);
-        book->replaceList(listOf<Materiel>({tank, lamp, fins}));
+        std::vector<Materiel> items{
+            filled<Materiel>("typeMatos=Tank|notesMatos=Peinte à l’école\nen jaune|prixMatos=265.00|quantiteMatos=1|"
+                             "dateAchat=2016-06-30|capaciteBloc=12.2|equipState=1"),
+            filled<Materiel>("typeMatos=Lamp|notesMatos=the 2016 model|prixMatos=9,5|quantiteMatos=2|"
+                             "dateAchat=2018-12-31|factureMatos=1"),
+            filled<Materiel>("typeMatos=Fins|notesMatos=Tank room, shelf 12|prixMatos=as new|quantiteMatos=30")};
+        items[2].dateAchat = noDate();
+        for (Materiel& item : items) {
+            item.lastRevision = item.nextRevision = item.nextRequalification = noDate();
+        }
+        book->replaceList(listOf(items));
     }
 
     std::vector<int> shown(const char* typed) { return FilterTest::shown(*book, typed); }
@@ -95,14 +88,10 @@ TEST_F(EquipmentFilterTest, comparesNumbersDaysAndSwitches) {
 
 TEST_F(FilterTest, comparesTimesOfDay) {
     const auto book = maintComp().make(desktop.desktop());
-    const auto service = [](QTime lasted) {
-        Compresseur made;
-        made.temps = Date::ofLocalTime({2020, 5, 1}, lasted);
-        return made;
-    };
-    Compresseur without;
-    without.temps = noDate();
-    book->replaceList(listOf<Compresseur>({service({6, 40}), service({11, 15}), without}));
+    std::vector<Compresseur> services{
+        filled<Compresseur>("temps=2020-05-01T06:40"), filled<Compresseur>("temps=2020-05-01T11:15"), {}};
+    services[2].temps = noDate();
+    book->replaceList(listOf(services));
     EXPECT_EQ(shown(*book, "temps>6:40"), (std::vector{1}));
     EXPECT_EQ(shown(*book, "temps<=11h15"), (std::vector{0, 1}));
     EXPECT_EQ(shown(*book, "06:40"), (std::vector{0}));

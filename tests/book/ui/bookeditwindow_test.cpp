@@ -9,7 +9,6 @@
 #include "support/testdesktop.h"
 
 #include <QAbstractItemView>
-#include <QApplication>
 #include <QCheckBox>
 #include <QCompleter>
 #include <QLabel>

@@ -5,6 +5,7 @@
 #include "dives/ui/previoustotalswindow.h"
 #include "dives/ui/statisticswindow.h"
 #include "profile/profileseries.h"
+#include "support/records.h"
 #include "support/testdesktop.h"
 
 #include <QCheckBox>
@@ -18,11 +19,9 @@ namespace {
 
 struct DiveWindowsTest : testing::Test {
     DiveWindowsTest() {
-        for (const float depth : {5.0F, 25.0F, 35.0F, 62.0F}) {
-            Plongee dive;
-            dive.profondeur = depth;
-            dive.tempEau = 15;
-            dives_.push_back(dive);
+        for (const char* fields : {"profondeur=5|tempEau=15", "profondeur=25|tempEau=15", "profondeur=35|tempEau=15",
+                                   "profondeur=62|tempEau=15"}) {
+            dives_.push_back(filled<Plongee>(fields));
         }
     }
     DiveSource source() {
