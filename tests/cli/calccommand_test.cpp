@@ -35,7 +35,6 @@ TEST(CalcCommand, printsTheResultTextOrOneJsonObject) {
         {{"mod", "--o2", "32"}, "MOD : 33.8 m\n"},
         {{"mod", "--o2=32", "--ppo2", "1,60"}, "MOD : 40.0 m\n"},
         {{"mod", "--o2", "32", "--ppo2", ""}, "MOD : 33.8 m\n"},
-        {{"ead", "--o2", "40"}, "EAD : -2.4 m\n"},
         {{"trimix-min-depth", "--o2", "17"}, "The values are not valid.\n"},
         {{"cns", "--ppo2", "1.6", "--time", "30"}, "ppO₂ 1.60 bar, CNS clock 66.6 %\n"},
         {{"cns", "--ppo2", "0,7", "--time", "100", "--json"}, "{\"cns\": 18}\n"},
