@@ -4,6 +4,7 @@
 #include "archive/recordarchive.h"
 #include "base/paths.h"
 #include "base/safefile.h"
+#include "recordbooks/recordbooks.h"
 #include "support/files.h"
 
 #include <QApplication>
@@ -49,15 +50,15 @@ TEST_F(Documents, areCreatedByTheirTypeNames) {
 }
 
 TEST_F(Documents, openByWhatIsInsideWhateverTheirName) {
-    Purse purse(app.desktop());
-    purse.changeList({}, {std::make_shared<const Coin>()});
-    ASSERT_TRUE(purse.saveAs(app.path(QStringLiteral("coins.carnet"))));
-    ASSERT_TRUE(Purse(app.desktop()).saveAs(app.path(QStringLiteral("empty.BUDGET"))));
-    ASSERT_TRUE(Purse(app.desktop()).saveAs(app.path(QStringLiteral("empty.doc"))));
+    const auto budget = previBudget().make(app.desktop());
+    ASSERT_TRUE(budget->saveAs(app.path(QStringLiteral("empty.BUDGET"))));
+    ASSERT_TRUE(budget->saveAs(app.path(QStringLiteral("empty.doc"))));
+    budget->appendRecords(QStringLiteral("Add"), {previBudget().layout().make()});
+    ASSERT_TRUE(budget->saveAs(app.path(QStringLiteral("services.carnet"))));
     const QString dives = app.savedLogbook(QStringLiteral("dives.budget"), 2);
     const std::pair<QString, const char*> cases[] = {{dives, "Plongee"},
-                                                     {app.path(QStringLiteral("coins.carnet")), "Coin"},
-                                                     {app.path(QStringLiteral("empty.BUDGET")), "Coin"},
+                                                     {app.path(QStringLiteral("services.carnet")), "Budget"},
+                                                     {app.path(QStringLiteral("empty.BUDGET")), "Budget"},
                                                      {app.path(QStringLiteral("empty.doc")), "Plongee"}};
     for (const auto& [file, recordClass] : cases) {
         DocumentWindow* window = app.documents.openFile(file);
@@ -74,7 +75,7 @@ TEST_F(Documents, openByWhatIsInsideWhateverTheirName) {
 TEST_F(Documents, thatCannotBeReadLeaveTheOpenOneAlone) {
     DocumentWindow* open = app.documents.openFile(app.savedLogbook(QStringLiteral("dives.carnet"), 2));
     const QByteArray good = contentsOf(open->document().file());
-    struct Jewel : Coin {
+    struct Jewel : Record {
         static RecordLayout layout() { return recordLayout<Jewel>("Jewel", 1, {}); }
     };
     const RecordList jewels{std::make_shared<const Jewel>()};

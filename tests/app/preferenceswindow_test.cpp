@@ -6,7 +6,6 @@
 #include "desktop/defaults.h"
 #include "desktop/ui/customtoolbar.h"
 #include "logbook/logbooksettings.h"
-#include "profile/profilesettings.h"
 #include "support/records.h"
 #include "support/testdesktop.h"
 
@@ -104,21 +103,13 @@ TEST_F(PreferencesTest, resetGivesEverySettingItsValueAndStoresIt) {
 TEST_F(PreferencesTest, settingsFallBackUntilTheyAreStored) {
     const Preferences& stored = desktop.preferences;
     using namespace settings;
-    for (const auto* setting : {&depthTimeInColor, &displayUnits, &fillPlot, &xMinorTicks, &yMinorTicks}) {
-        EXPECT_TRUE(stored.get(*setting)) << setting->key;
-    }
-    for (const auto* setting : {&colorItem, &lowTemperatureInColor, &mixInColor, &foreignInColor, &gradientYes,
-                                &dashedLines, &columnNumero, &columnEpave, &settings::usUnits}) {
+    EXPECT_TRUE(stored.get(displayUnits));
+    for (const auto* setting : {&colorItem, &lowTemperatureInColor, &columnNumero, &columnEpave}) {
         EXPECT_FALSE(stored.get(*setting)) << setting->key;
     }
-    for (const auto* setting : {&lowTemperatureColor, &depthColor, &timeColor, &fillColor}) {
+    for (const auto* setting : {&lowTemperatureColor, &timeColor}) {
         EXPECT_EQ(stored.get(*setting).name(), u"#0000ff") << setting->key;
     }
-    EXPECT_EQ(stored.get(plotColor).name(), u"#ff0000");
-    EXPECT_EQ(stored.get(backgroundColor).name(), u"#808080");
-    EXPECT_FALSE(stored.get(foreignColor).isValid());
-    EXPECT_EQ(stored.get(alphaFillColor), 0.5);
-    EXPECT_EQ(stored.get(alphaBackgroundColor), 0.5);
     EXPECT_EQ(stored.get(stopInterval), 0);
     EXPECT_EQ(stored.get(tankVolume), 0);
     EXPECT_EQ(stored.get(settings::countryCode), QString());
@@ -143,6 +134,7 @@ TEST_F(PreferencesTest, everyChangeIsStoredAndTellsItsFollowers) {
     EXPECT_EQ(postedBy("siteColumnSwitch"), u"updateColumnsTableView");
     EXPECT_EQ(postedBy("epaveColumnSwitch") + postedBy("epaveColumnSwitch"), u"");
     EXPECT_EQ(postedBy("mixInColorSwitch"), u"updateTableView");
+    EXPECT_EQ(postedBy("displayUnitsSwitch"), u"updateTableView");
     EXPECT_EQ(postedBy("dashedLinesSwitch"), u"profile");
     type("stopIntervalField", "5");
     EXPECT_EQ(takePosted(), QStringList{QStringLiteral("updateDeco")});
@@ -165,8 +157,7 @@ TEST_F(PreferencesTest, everyChangeIsStoredAndTellsItsFollowers) {
     EXPECT_EQ(postedBy("usUnitsSwitch"), u"updateTableView profile updateEditDive updateDeco updateRebreather");
 
     const auto store = readBack();
-    // What has no control of its own in the change goes along with it: the defaults, as of the alpha, become the
-    // user's.
+    // What was not changed goes along: the defaults, as of the alpha, become the user's.
     for (const auto& [key, value] : namedValues(
              "column site=0|column_epave=1|mix in color=1|stop interval=5|cell life=24|low temperature value=-1.5|"
              "tank volume=12|coloured theme=2|us units=1|alpha fill color=0.5")) {
@@ -216,19 +207,9 @@ TEST_F(PreferencesTest, switchesEnableWhatDependsOnThem) {
     EXPECT_EQ(find<QLabel>("temperatureUnit").text(), text("Carnet", "Degree Farenheit"));
 }
 
-TEST_F(PreferencesTest, unreadableValuesShowTheDefaults) {
-    for (const char* key : {"alpha fill color", "fill plot", "plot color", "tank volume", "coloured theme"}) {
-        desktop.preferences.set(QString::fromLatin1(key), QStringList{QStringLiteral("a"), QStringLiteral("b")});
-    }
-    EXPECT_EQ(window().control(&settings::alphaFillColor).value().toDouble(), 0.5);
-    EXPECT_TRUE(window().control(&settings::fillPlot).value().toBool());
-    EXPECT_EQ(window().control(&settings::plotColor).value().value<QColor>().name(), u"#ff0000");
-    EXPECT_EQ(window().control(&settings::tankVolume).value().toString(), QString());
-    EXPECT_EQ(window().control(&settings::colouredTheme).value().toInt(), 0);
-    // What stands in a number's place without being one is not shown as a number, nor stored as one.
+TEST_F(PreferencesTest, whatIsNoNumberIsNotShownAsOne) {
     desktop.preferences.set(QStringLiteral("low temperature value"), QStringLiteral("cold"));
-    EXPECT_EQ(PreferencesWindow(desktop.desktop()).control(&settings::lowTemperatureValue).value().toString(),
-              QString());
+    EXPECT_EQ(window().control(&settings::lowTemperatureValue).value().toString(), QString());
 }
 
 TEST_F(PreferencesTest, fieldsCountWhenTheUserGoesToAnotherWindow) {

@@ -2,16 +2,11 @@
 
 #include "app/tavreldocuments.h"
 #include "app/windowmenus.h"
+#include "recordbooks/recordbooks.h"
 
 #include <QFile>
 
 namespace tavrel {
-
-const RecordLayout& Coin::layout() {
-    static constexpr Item items[] = {{"name", member<&Coin::name>}};
-    static constexpr RecordLayout layout = recordLayout<Coin>("Coin", 1, items);
-    return layout;
-}
 
 DocumentTypes testDocumentTypes() {
     const auto makeWindow = [](Document& document, Desktop& desktop) {
@@ -30,11 +25,7 @@ DocumentTypes testDocumentTypes() {
     return {{carnetDescription().kind, Title("Main", "Carnet de plongee"), "newCarnetDocumentMenuAction",
              [=](Desktop& desktop) { return std::make_unique<Carnet>(desktop, counted); }, makeWindow, showExport,
              takesIn, takeIn},
-            {{literal("Budget"), "Coin", "budget"},
-             Title("Main", "Materiel"),
-             "newBudgetDocumentMenuAction",
-             [](Desktop& desktop) { return std::make_unique<Purse>(desktop); },
-             makeWindow}};
+            {previBudget().kind, previBudget().title, previBudget().newAction, previBudget().make, makeWindow}};
 }
 
 QString TestApplication::savedLogbook(const QString& name, int dives) {

@@ -6,8 +6,6 @@
 #include "support/queuedfiledialogs.h"
 #include "support/testdesktop.h"
 
-#include <QCoreApplication>
-
 namespace tavrel {
 
 /// A document's window with one more window that edits.
@@ -33,21 +31,7 @@ struct TestWindow : DocumentWindow {
     QStringList takenIn;
 };
 
-/// A second kind of document, with records of its own.
-struct Coin : Record {
-    QString name = QStringLiteral("");
-    static const RecordLayout& layout();
-};
-
-struct Purse : ListDocument {
-    explicit Purse(Desktop& desktop) : ListDocument(desktop, Coin::layout()) { setType(QStringLiteral("Budget")); }
-    Expected<QByteArray> dataRepresentationOfType(const QString&) override { return archive(); }
-    Expected<void> loadDataRepresentation(QByteArrayView data, const QString&) override {
-        return unarchive(data).map([this](RecordList list) { replaceList(std::move(list)); });
-    }
-};
-
-/// The logbook, exported to one format, and the purse, whose type name is the same in every language.
+/// The logbook, exported to one format, and the budget, whose type name is the same in every language.
 DocumentTypes testDocumentTypes();
 
 /// The document controller of an application with nothing open.

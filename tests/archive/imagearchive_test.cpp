@@ -46,11 +46,9 @@ const std::string image = R"(92 8484 84"NSImage"2e 95 92 85
     92 8484 84"NSBitmapImageRep"11 8484"NSImageRep"11 95 9603 84"[3c]"616263 86
     92 8484 84"NSColor"00 95 9903 9a0000 86 92 85 86 )";
 
-// Objects: 0 to 3 the list and its classes, 4 and 5 the paper and its class, 6 and 7 the image and its. Strings: 6
-// "NSImage" onwards.
+// Objects: 0 to 3 the list and its classes, 4 and 5 the paper, 6 and 7 the image. Strings: 6 is "NSImage".
 TEST(ImageArchive, keepsOtherLayoutsOfPicturesAsTheyWere) {
-    // A name, another version, a representation of a class that nobody knows, with values of many types, which refers
-    // back to the image.
+    // A name, another version, a representation of an unknown class, with values of many types, referring to the image.
     const RecordFile named = readAndWritten(fileOf(1, R"(92 85 92 8484 84"NSImage"30 95
         92 8484 84"NSString"01 95 84"+" "scan" 86 84"s"02
         92 8484 84"NSBitmapImageRep"11 8484"NSImageRep"11 95 9603 84"[3c]"616263 86

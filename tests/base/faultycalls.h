@@ -4,8 +4,7 @@
 
 namespace tavrel {
 
-/// Makes the system calls of a save fail. The test program's own definitions of these calls stand before the
-/// library's; unless armed they pass everything on.
+/// Makes the system calls of a save fail. The test program's own ones pass everything on unless they are armed.
 class FaultyCalls {
 public:
     /// The call of that number, from 1, fails with the error; writes that are not failed take one byte each at most

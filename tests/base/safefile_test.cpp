@@ -12,7 +12,6 @@
 #include <fcntl.h>
 #include <functional>
 #include <grp.h>
-#include <optional>
 #include <sched.h>
 #include <sys/mount.h>
 #include <sys/resource.h>

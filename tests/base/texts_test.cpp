@@ -165,8 +165,7 @@ QString unescaped(QString literal) {
 
 TEST(TextTables, holdTheKeysThatTheCodeUsesAndNoOthers) {
     const auto english = readLanguage(QStringLiteral("en"));
-    // text("Table", "Key", textWith("Table", "Key", Title("Table", "Key"), Title name{"Table", "Key"}, and titles,
-    // {"Table", "Key"}.
+    // text("Table", "Key", textWith("Table", "Key", Title("Table", "Key"), Title name{"Table", "Key"}, {"Table", "Key"}
     const QRegularExpression use(QStringLiteral(
         R"re((?:\b(text|textWith|Title(?:\s+\w+)?)\s*[({]|\{)\s*"((?:[^"\\]|\\.)*)"\s*,\s*"((?:[^"\\]|\\.)*)")re"));
     std::set<std::pair<QString, QString>> used;

@@ -4,24 +4,6 @@ namespace tavrel {
 
 namespace {
 
-TEST_F(CommandLine, exportsTheSampleLogbookInEveryFormat) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"udcf", "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<PROFILE UDCF=\"1\">\n"},
-        {"uddf", "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<uddf version=\"2.2.0\">\n"},
-        {"csv-semicolon", "\"Dive #\";\"Date\";\"Location\";"},
-        {"csv-comma", "Dive #,Date,Location,"},
-        {"tsv", "Dive #\tDate\tLocation\t"},
-        {"profiles-csv", "Dive #,Point,Depth,ASC,SLOW,CEIL,SURF,GAS,PRESS\n"},
-    };
-    language = QStringLiteral("fr_FR.UTF-8");
-    for (const auto& [format, start] : cases) {
-        const QString target = path(QString::fromLatin1(format));
-        done(words("export " TAVREL_SAMPLE_FOLDER "/sample.carnet --format") << QString::fromLatin1(format) << target);
-        EXPECT_TRUE(contentsOf(target).startsWith(start))
-            << format << ": " << contentsOf(target).left(80).toStdString();
-    }
-}
-
 TEST_F(LogbookCommands, importsTheSampleFilesTellingTheirFormat) {
     for (const char* import : {"import a.carnet " TAVREL_SAMPLE_FOLDER "/sample.udcf",
                                "import a.carnet " TAVREL_SAMPLE_FOLDER "/sample-2.uddf",
@@ -32,7 +14,6 @@ TEST_F(LogbookCommands, importsTheSampleFilesTellingTheirFormat) {
     expectValues(0, "lieu=Port-Cros - Pointe du Vaisseau|date=2019-06-22T09:40:00Z");
     expectValues(1, "pressionFin=60|tempEau=18");
     expectValues(2, "notes=Lac d'Annecy, le Roc de Chère : une lotte sous le surplomb à 25 m.|temps=41");
-    expectValues(3, "temps=45");
     expectValues(4, "profondeur=16.8");
     expectValues(5, "noPlongee=6|date=2011-05-03T10:15:00Z");
 }

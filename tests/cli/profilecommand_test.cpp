@@ -28,8 +28,6 @@ TEST_F(ProfileCommand, givesSummaryAndGeometry) {
     EXPECT_EQ(paths.keys().join(u' '), u"axes dashed limit pressure profile surface surfaceExcursions ticks");
     const auto path = [&](QStringView name) { return compact(paths[name].toArray()); };
     EXPECT_EQ(path(u"profile"), u"[[30,583],[30,583],[192.5,163],[355,373],[517.5,523],[680,583]]");
-    EXPECT_EQ(path(u"surface"), u"[[30,583],[680,583]]");
-    EXPECT_EQ(path(u"pressure"), u"[[30,80],[30,80],[192.5,65],[355,50],[517.5,35]]");
     EXPECT_EQ(path(u"axes"), u"[[[30,143],[680,143],[675,138]],[[30,143],[30,598]]]");
     EXPECT_EQ(path(u"limit"), u"[]");
     ASSERT_EQ(geometry[u"icons"].toArray().size(), 4);
@@ -41,7 +39,6 @@ TEST_F(ProfileCommand, givesSummaryAndGeometry) {
 
 TEST_F(ProfileCommand, showsAndReplacesSeries) {
     EXPECT_EQ(done("profile a.carnet --row 0 --series depth"), u"0.0\n42.0\n21.0\n6.0");
-    EXPECT_EQ(done("profile a.carnet --row 0 --series gas"), u"0\n1\n0\n2");
     EXPECT_EQ(done("profile a.carnet --row 0 --series ascent"), QString());
     writeContents(path(QStringLiteral("depth.txt")), "3\n7\n");
     writeContents(path(QStringLiteral("slow.txt")), "1\n0");

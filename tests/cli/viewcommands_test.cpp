@@ -32,7 +32,6 @@ TEST_F(ViewCommands, tableShowsWhatTheWindowShows) {
     done("add a.carnet lieu=Sete profondeur=20 epaves=Donator rebreather=1 gaz=Nitrox o2Mix=32 temps=30");
     const QJsonObject plain = json("table a.carnet --json");
     EXPECT_EQ(plain[u"columns"].toArray().size(), 14);  // the apparatus is hidden at first
-    EXPECT_EQ(plain[u"columns"].toArray().first(), QStringLiteral("noPlongee"));
     EXPECT_EQ(texts(plain, "profondeur"), u"20 m");
     EXPECT_EQ(plain[u"count"], QStringLiteral("One dive"));
     EXPECT_EQ(plain[u"rows"][0][11][u"image"], QStringLiteral("epave"));

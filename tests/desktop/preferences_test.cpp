@@ -186,14 +186,11 @@ TEST(Preferences, ofOneRunLeaveTheFileAsItIs) {
 TEST(PickLists, areFilledStoredAndSortedByCharacterCode) {
     TestDesktop desktop;
     PickLists& lists = desktop.pickLists;
-    int changes = 0;
-    QObject::connect(&lists, &PickLists::changed, &lists, [&] { ++changes; });
     for (const auto* name : {"été", "abc", "Zoo", "", "abc"}) {
         lists.append(PickList::tableauDesLieux, QString::fromUtf8(name));
     }
     lists.sort(PickList::tableauDesLieux);
     lists.store(PickList::tableauDesLieux);
-    EXPECT_GT(changes, 0);
     const QStringList sorted{QString(), QStringLiteral("Zoo"), QStringLiteral("abc"), QStringLiteral("abc"),
                              QStringLiteral("été")};
     EXPECT_EQ(lists[PickList::tableauDesLieux], sorted);

@@ -22,8 +22,7 @@ GasReadings readings(qint32 volume, qint32 start, qint32 end, qint32 time, std::
 }
 
 TEST(Consumption, UsesPressureVolumeTimeAndAverageDepth) {
-    // Available, used, pressure a minute, consumption at the surface in litres and bar; divided in single precision,
-    // where whole numbers would give 3 and 14 for the third dive.
+    // Available, used, pressure a minute, consumption at the surface in litres and bar: not divided as whole numbers.
     const std::tuple<GasReadings, int, int, float, float, float> cases[] = {
         {readings(12, 200, 50, 40, {10, 30, 20}), 2400, 1800, 3.75F, 15, 1.25F},
         {readings(15, 230, 70, 50, {10, 10}), 3450, 2400, 3.2F, 24, 1.6F},

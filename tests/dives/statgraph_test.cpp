@@ -101,10 +101,9 @@ TEST(StatGraph, DrawingFollowsThePreferencesAndKeepsLabelsOnThePaper) {
         EXPECT_EQ(filled(gas), 1) << gas.name().toStdString();
     }
 
-    const auto lines = [&] { return all<Drawing::Line>(statGraphDrawing(shares, preferences)); };
     const auto dashes = [&] {
-        const auto found = lines();
-        return std::count_if(found.begin(), found.end(), [](const auto& line) { return line.dash > 0; });
+        const auto lines = all<Drawing::Line>(statGraphDrawing(shares, preferences));
+        return std::count_if(lines.begin(), lines.end(), [](const auto& line) { return line.dash > 0; });
     };
     EXPECT_EQ(dashes(), 0);
     preferences.set(settings::gradientYes, true);

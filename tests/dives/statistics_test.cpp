@@ -140,12 +140,6 @@ TEST(Statistics, TextsHaveTheirFormats) {
     EXPECT_EQ(textsOf(statisticsOf({dive("temps=65")})).at(QStringLiteral("statTempsField")),
               u"1 h 05 min.\r(65 min.)");
     EXPECT_EQ(texts.size(), 1U + 2 * 29 + 9);
-
-    for (const auto& each : statisticsOf(dives).texts()) {
-        if (each.field == u"statP_VideoField") {
-            EXPECT_EQ(each.explanation, u"Share = 3 / 4 × 100 = 75.0 %");
-        }
-    }
 }
 
 TEST(Statistics, AnEmptyLogbookSharesNothing) {

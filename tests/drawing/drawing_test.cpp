@@ -20,8 +20,7 @@ QPainterPath rectangle(double x, double y, double width, double height) {
     return path;
 }
 
-/// 40 x 20 points: a red square in the lower left corner, a thick dashed green line along the top, an icon at the
-/// right.
+/// 40 x 20 points: a red square at the lower left, a thick dashed green line along the top, an icon at the right.
 Drawing sample() {
     Drawing drawing(QSizeF(40, 20));
     drawing.title = QStringLiteral("Squares & lines");

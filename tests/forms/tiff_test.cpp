@@ -2,6 +2,7 @@
 
 #include "base/texts.h"
 #include "forms/tiffstrips.h"
+#include "support/files.h"
 #include "support/streambytes.h"
 
 #include <QColor>
@@ -23,9 +24,8 @@ public:
 
     TiffFile& shorts(quint16 tag, const std::vector<quint16>& values) { return numbers(tag, 3, values); }
     TiffFile& longs(quint16 tag, const std::vector<quint32>& values) { return numbers(tag, 4, values); }
-    TiffFile& strip(std::string_view hex) { return packed(streamBytes(hex)); }
-    TiffFile& packed(const QByteArray& bytes) {
-        strips_.push_back(bytes);
+    TiffFile& strip(std::string_view hex) {
+        strips_.push_back(streamBytes(hex));
         return *this;
     }
     /// Width, height, bits, samples, photometric, compression, in one strip or of so many rows each.
@@ -166,51 +166,6 @@ TEST(Tiff, turnsImagesUpright) {
     }
 }
 
-/// Strings of a text as codes, written here for the reader's test.
-QByteArray lzwPacked(const std::string& text) {
-    QByteArray packed;
-    quint64 bits = 0;
-    int held = 0;
-    const auto put = [&](int code, int width) {
-        bits = bits << width | static_cast<quint64>(code);
-        for (held += width; held >= 8; held -= 8) {
-            packed.append(static_cast<char>(bits >> (held - 8) & 0xff));
-        }
-    };
-    std::map<std::string, int> codes;
-    int width = 9;
-    const auto clear = [&] {
-        put(256, width);
-        codes.clear();
-        for (int byte = 0; byte < 256; ++byte) {
-            codes[std::string(1, static_cast<char>(byte))] = byte;
-        }
-        width = 9;
-    };
-    clear();
-    int next = 258;
-    std::string known;
-    for (const char byte : text) {
-        if (codes.contains(known + byte)) {
-            known += byte;
-            continue;
-        }
-        put(codes[known], width);
-        codes[known + byte] = next++;
-        known = byte;
-        if (next == 511 + 1 || next == 1023 + 1 || next == 2047 + 1) {
-            ++width;
-        } else if (next == 4094) {
-            clear();
-            next = 258;
-        }
-    }
-    put(codes[known], width);
-    put(257, width);
-    put(0, 7);
-    return packed;
-}
-
 TEST(Tiff, unpacksLzw) {
     // Written down bit by bit: clear, 7, the string 7 7 that is only being defined, 7 7 7, end.
     EXPECT_EQ(pixelsIn(TiffFile().image(3, 2, {8}, 1, 5).strip("8001e0503808")),
@@ -222,14 +177,14 @@ TEST(Tiff, unpacksLzw) {
         text += static_cast<char>(noise >> 24 & (index % 3 == 0 ? 0xff : 0x03));
     }
     std::vector<uchar> rows(text.size());
-    const QByteArray packed = lzwPacked(text);
+    // The same noise as codes of all widths, with strings of many lengths and a table that is cleared when it is full.
+    const QByteArray packed = contentsOf(QStringLiteral(TAVREL_TEST_DATA "/pictures/noise.lzw"));
     ASSERT_TRUE(tiff::unpackLzw(packed, rows));
     EXPECT_EQ(std::string(rows.begin(), rows.end()), text);
     rows.resize(rows.size() + 1);
     EXPECT_FALSE(tiff::unpackLzw(packed, rows));
-    // Differences from the pixel before.
-    const QByteArray differences = lzwPacked(std::string("\x0a\x01\xff", 3));
-    EXPECT_EQ(pixelsIn(TiffFile().image(3, 1, {8}, 1, 5).shorts(317, {2}).packed(differences)),
+    // Differences from the pixel before: 10, 1, 255.
+    EXPECT_EQ(pixelsIn(TiffFile().image(3, 1, {8}, 1, 5).shorts(317, {2}).strip("8002802ff808")),
               "ff0a0a0a ff0b0b0b ff0a0a0a/");
     EXPECT_EQ(pixelsIn(TiffFile().image(2, 1, {8}, 1, 5).strip("8040bfffff")), "The picture is damaged.");
 }

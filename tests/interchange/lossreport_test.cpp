@@ -3,6 +3,7 @@
 #include "desktop/commonsettings.h"
 #include "interchange/standard/divedifference.h"
 #include "interchange/standardimport.h"
+#include "support/records.h"
 #include "support/testdesktop.h"
 
 #include <algorithm>
@@ -84,10 +85,7 @@ TEST_F(LossReport, keepsALogbookInFeetInFeet) {
     desktop.preferences.set(settings::usUnits, true);
     Plongee dive = unknownDive();
     setStart(dive, QDate(2020, 1, 1), QTime(10, 0));
-    dive.noPlongee = 1;
-    dive.profondeur = 33;
-    dive.tempEau = 68;
-    dive.profilProfondeur = Series::ofReals({0, 33.25, 1.5});
+    fill(dive, "noPlongee=1|profondeur=33|tempEau=68|profilProfondeur=0,33.25,1.5");
     dive.profilArraysDefaultContent();
     carnet.appendDives(QStringLiteral("add"), {dive});
     ++dive.noPlongee;

@@ -1,7 +1,5 @@
 #include "logbook/divecells.h"
 
-#include "base/texts.h"
-#include "logbook/divecolumns.h"
 #include "logbook/logbooksettings.h"
 #include "support/records.h"
 #include "support/testdesktop.h"
@@ -191,13 +189,6 @@ TEST(TableCells, readTheirStyleFromThePreferences) {
     EXPECT_EQ(style.lowTemperature, 12);
     EXPECT_EQ(style.colouredTheme, 2);
     EXPECT_EQ(style.foreignColor.name(), foreign.name());
-}
-
-TEST(DiveColumns, haveTitlesAndFields) {
-    for (const auto& column : diveColumns()) {
-        EXPECT_NE(column.title.text(), u"error !") << column.field;
-        EXPECT_TRUE(Plongee::layout().find(column.field)) << column.field;
-    }
 }
 
 }  // namespace

@@ -65,6 +65,21 @@ QStringList itemsOf(const QByteArray& file) {
     return items;
 }
 
+namespace {
+
+/// The opening hours of a week, four to the day.
+std::string week() {
+    std::string hours;
+    for (const char* day : {"Lundi", "Mardi", "Mercredi", "Jeudi", "Vendredi", "Samedi", "Dimanche"}) {
+        for (const char* place : {"_1", "_2", "_3", "_4"}) {
+            hours += std::string("horaire") + day + place + ":@ ";
+        }
+    }
+    return hours;
+}
+
+}  // namespace
+
 const std::vector<BookCase> bookCases{
     {"Materiel", &invMateriel, "Equipment", "newMatos addMatos insertMatos updateMatos deleteMatos", "One card", 3,
      "matosNo> typeMatos marqueMatos serieMatos dateAchat> quantiteMatos> prixMatos> factureMatos| "
@@ -111,12 +126,8 @@ const std::vector<BookCase> bookCases{
     {"Entreprises", &adressesEts, "Entreprises", "newFirm addFirm insertFirm updateEntreprise deleteFirm", "One card",
      3, "entreprise activite codePostal ville pays telephone email cotation miseAJour>",
      "entreprise:@ adresse:@ codePostal:@ ville:@ pays:@ telephone:@ fax:@ email:@ url:@ activite:@ "
-     "miseAJour:@ horaireLundi_1:@ horaireLundi_2:@ horaireLundi_3:@ horaireLundi_4:@ horaireMardi_1:@ "
-     "horaireMardi_2:@ horaireMardi_3:@ horaireMardi_4:@ horaireMercredi_1:@ horaireMercredi_2:@ "
-     "horaireMercredi_3:@ horaireMercredi_4:@ horaireJeudi_1:@ horaireJeudi_2:@ horaireJeudi_3:@ "
-     "horaireJeudi_4:@ horaireVendredi_1:@ horaireVendredi_2:@ horaireVendredi_3:@ horaireVendredi_4:@ "
-     "horaireSamedi_1:@ horaireSamedi_2:@ horaireSamedi_3:@ horaireSamedi_4:@ horaireDimanche_1:@ "
-     "horaireDimanche_2:@ horaireDimanche_3:@ horaireDimanche_4:@ remarques:@ cotation:i",
+     "miseAJour:@ " +
+         week() + "remarques:@ cotation:i",
      "\rFile dir : /home\r\rEdition date : 2024-06-15 ", 1},
     {"Structures", &adressesStruct, "Structures",
      "newStructure addStructure insertStructure updateStructure deleteStructure", "One card", 3,
@@ -125,13 +136,8 @@ const std::vector<BookCase> bookCases{
      "fax:@ url:@ email:@ cotation:i miseAJour:@ plongee_1:@ plongee_2:@ plongee_3:@ plongee_4:@ "
      "plongee_5:@ bapteme:f prix_1:f prix_2:f prix_3:f prix_4:f prix_5:f formation_1:@ formation_2:@ "
      "formation_3:@ formation_4:@ formation_5:@ formation_6:@ prixForm_1:f prixForm_2:f prixForm_3:f "
-     "prixForm_4:f prixForm_5:f prixForm_6:f horaireLundi_1:@ horaireLundi_2:@ horaireLundi_3:@ "
-     "horaireLundi_4:@ horaireMardi_1:@ horaireMardi_2:@ horaireMardi_3:@ horaireMardi_4:@ "
-     "horaireMercredi_1:@ horaireMercredi_2:@ horaireMercredi_3:@ horaireMercredi_4:@ horaireJeudi_1:@ "
-     "horaireJeudi_2:@ horaireJeudi_3:@ horaireJeudi_4:@ horaireVendredi_1:@ horaireVendredi_2:@ "
-     "horaireVendredi_3:@ horaireVendredi_4:@ horaireSamedi_1:@ horaireSamedi_2:@ horaireSamedi_3:@ "
-     "horaireSamedi_4:@ horaireDimanche_1:@ horaireDimanche_2:@ horaireDimanche_3:@ horaireDimanche_4:@ "
-     "nbPlongees:i remarques:@",
+     "prixForm_4:f prixForm_5:f prixForm_6:f " +
+         week() + "nbPlongees:i remarques:@",
      "\rFile dir : /home\r\rEdition date : 2024-06-15 ", 1},
     {"DiversDocs", &diversDocuments, "Miscellaneous documents", "newDoc addDoc insertDoc updateDoc deleteDoc",
      "One card", 3, "type titre emetteur date> renouveler| dateRenouvellement>",

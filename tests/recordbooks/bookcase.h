@@ -7,7 +7,7 @@
 
 #include <memory>
 #include <ostream>
-#include <string_view>
+#include <string>
 #include <vector>
 
 namespace tavrel {
@@ -22,7 +22,7 @@ struct BookCase {
     int pages;
     const char* columns;  ///< their fields in order, with ">" behind what is written at the right, "|" in the middle
     /// The items of a record in archive order, "field:code"; "field<source:code" where another field is written.
-    const char* archive;
+    std::string archive;
     /// What the last run of the card of "/home/b.file" begins with, and between or before the records of a card; null
     /// for a book without cards.
     const char* closing = "\rFile dir : /home/b.file\r\rEdition date : 2024-06-15 ";

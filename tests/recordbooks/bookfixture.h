@@ -68,10 +68,6 @@ struct BookFixture : testing::Test {
         ASSERT_TRUE(opened) << opened.error().message().toStdString();
     }
     const Class& record(int row = 0) { return as<Class>(book->recordAt(row)); }
-
-    static Date day(int year, int month, int dayOfMonth) {
-        return Date::fromDateTime(QDate(year, month, dayOfMonth).startOfDay());
-    }
 };
 
 }  // namespace tavrel

@@ -55,8 +55,7 @@ TEST_F(ConsommablesTest, marksWhatItBuildsAndHidesTheDayOfWhatIsNotCounted) {
     EXPECT_TRUE(holds(*part, "stock=2.5|reserve=4|progress=7.4"));
     EXPECT_TRUE(part->dateInventaire == noDate());
 
-    Consommables counted;
-    counted.dateInventaire = day(2024, 5, 3);
+    auto counted = filled<Consommables>("dateInventaire=2024-05-03");
     EXPECT_TRUE(cell(counted, "dateInventaire").text.contains(u"2024"));
     counted.noInventaire = 1;
     EXPECT_EQ(cell(counted, "dateInventaire").text, u"");

@@ -28,56 +28,48 @@ struct FilterTest : testing::Test {
     TestDesktop desktop;
 };
 
-Materiel item(const char* kind, const char* notes, const char* price, QDate bought, qint32 quantity) {
-    Materiel made;
-    made.typeMatos = QString::fromUtf8(kind);
-    made.notesMatos = QString::fromUtf8(notes);
-    made.prixMatos = QString::fromUtf8(price);
-    made.dateAchat = Date::ofLocalTime(bought, QTime(12, 0));
-    made.lastRevision = made.nextRevision = made.nextRequalification = noDate();
-    made.quantiteMatos = quantity;
-    return made;
-}
-
 struct EquipmentFilterTest : FilterTest {
     EquipmentFilterTest() {
-        Materiel tank = item("Tank", "Peinte à l’école\nen jaune", "265.00", {2016, 6, 30}, 1);
-        tank.capaciteBloc = 12.2F;
-        tank.equipState = 1;
-        Materiel lamp = item("Lamp", "the 2016 model, x < y", "9,5", {2018, 12, 31}, 2);
-        lamp.factureMatos = 1;
-        const Materiel fins = item("Fins", "Tank room, shelf 12", "as new", {1900, 1, 1}, 30);
-        book->replaceList(listOf<Materiel>({tank, lamp, fins}));
+        std::vector<Materiel> items{
+            filled<Materiel>("typeMatos=Tank|notesMatos=Peinte à l’école\nen jaune|prixMatos=265.00|quantiteMatos=1|"
+                             "dateAchat=2016-06-30|capaciteBloc=12.2|equipState=1"),
+            filled<Materiel>("typeMatos=Lamp|notesMatos=the 2016 model, x < y|prixMatos=9,5|quantiteMatos=2|"
+                             "dateAchat=2018-12-31|factureMatos=1"),
+            filled<Materiel>("typeMatos=Fins|notesMatos=Tank room, shelf 12|prixMatos=as new|quantiteMatos=30")};
+        items[2].dateAchat = noDate();
+        for (Materiel& item : items) {
+            item.lastRevision = item.nextRevision = item.nextRequalification = noDate();
+        }
+        book->replaceList(listOf(items));
     }
 
     std::vector<int> shown(const char* typed) { return FilterTest::shown(*book, typed); }
+    /// What is typed, and the rows that are shown then: "tank→0 2|nothing→".
+    void expectShown(const char* cases) {
+        for (const QString& each : QString::fromUtf8(cases).split(u'|')) {
+            const auto rows = shown(each.section(u'→', 0, 0).toUtf8());
+            EXPECT_EQ(eachOf(
+                          rows, [](int row) { return QString::number(row); }, u' '),
+                      each.section(u'→', 1))
+                << each.toStdString();
+        }
+    }
     std::unique_ptr<BookBase> book = invMateriel().make(desktop.desktop());
     const std::vector<int> none;
 };
 
 TEST_F(EquipmentFilterTest, findsAllWordsInAnyFieldAsTheUserSeesIt) {
-    EXPECT_EQ(shown("TANK"), (std::vector{0, 2}));
-    EXPECT_EQ(shown("tank ecole"), (std::vector{0}));
-    EXPECT_EQ(shown("l'école en"), (std::vector{0})) << "over a line end, whatever the apostrophe";
-    EXPECT_EQ(shown("\"ecole en\""), (std::vector{0}));
-    EXPECT_EQ(shown("\"en ecole\""), none);
-    EXPECT_EQ(shown("2016"), (std::vector{0, 1})) << "a date and a text";
-    EXPECT_EQ(shown("30/06"), (std::vector{0}));
-    EXPECT_EQ(shown("12.2"), (std::vector{0}));
-    EXPECT_EQ(shown("repair"), (std::vector{0})) << "the word of a choice";
-    EXPECT_EQ(shown("1900"), none) << "no date is empty";
-    EXPECT_EQ(shown("x < y model"), (std::vector{1})) << "no field has that name";
-    EXPECT_EQ(shown("\"x<y\""), none);
+    // Over a line end, whatever the apostrophe; a year in a date and in a text; a choice by its word; no date is empty.
+    expectShown(
+        "TANK→0 2|tank ecole→0|l'école en→0|\"ecole en\"→0|\"en ecole\"→|2016→0 1|30/06→0|12.2→0|repair→0|1900→|x < y "
+        "model→1|\"x<y\"→");
 }
 
 TEST_F(EquipmentFilterTest, asksOneFieldByItsKeyOrItsWordsCutShort) {
-    EXPECT_EQ(shown("notesMatos:tank"), (std::vector{2}));
-    EXPECT_EQ(shown("Remarks:12"), (std::vector{2})) << "by the words of the group that the remarks fill";
-    EXPECT_EQ(shown("type:tank"), (std::vector{0}));
-    EXPECT_EQ(shown("purchasedate:2016"), (std::vector{0}));
-    EXPECT_EQ(shown("purch:2016 type:t"), (std::vector{0}));
-    EXPECT_EQ(shown("type:\"ta nk\""), none);
-    EXPECT_EQ(shown("state:repair"), (std::vector{0}));
+    // The remarks go by the words of the group that they fill.
+    expectShown(
+        "notesMatos:tank→2|Remarks:12→2|type:tank→0|purchasedate:2016→0|purch:2016 type:t→0|type:\"ta nk\"→|"
+        "state:repair→0");
     EXPECT_EQ(shown("type:"), none) << "nothing asked yet, nothing filtered";
     EXPECT_FALSE(book->filter().isActive());
     EXPECT_EQ(shown("room,:x"), none) << "no field of that name: a text";
@@ -85,32 +77,22 @@ TEST_F(EquipmentFilterTest, asksOneFieldByItsKeyOrItsWordsCutShort) {
 }
 
 TEST_F(EquipmentFilterTest, comparesNumbersDaysAndSwitches) {
-    EXPECT_EQ(shown("quantity>1"), (std::vector{1, 2}));
-    EXPECT_EQ(shown("quantity>=2 quantity<30"), (std::vector{1}));
-    EXPECT_EQ(shown("quantity≤2"), (std::vector{0, 1}));
-    EXPECT_EQ(shown("quantity=30"), (std::vector{2}));
-    EXPECT_EQ(shown("tank quantity > 1"), (std::vector{2})) << "with blanks around the sign";
-    EXPECT_EQ(shown("capacity=12,2"), (std::vector{0})) << "as the field holds it, decimal comma or point";
-    EXPECT_EQ(shown("price<10"), (std::vector{1})) << "a number kept as typed; texts without one never";
-    EXPECT_EQ(shown("purchasedate>2016"), (std::vector{1}));
-    EXPECT_EQ(shown("purchasedate>=2016-06 purchasedate<2018-12"), (std::vector{0}));
-    EXPECT_EQ(shown("purchasedate<=2018-12-31"), (std::vector{0, 1})) << "no date is before nothing";
-    EXPECT_EQ(shown("purchasedate=30/06/2016"), (std::vector{0}));
-    EXPECT_EQ(shown("invoice:yes"), (std::vector{1}));
-    EXPECT_EQ(shown("invoice:no"), (std::vector{0, 2}));
-    EXPECT_EQ(shown("type>m"), none) << "texts are not compared";
+    expectShown("quantity>1→1 2|quantity>=2 quantity<30→1|quantity≤2→0 1|quantity=30→2|tank quantity > 1→2");
+    // Decimal comma or point; a number kept as typed, and texts without one never; no texts are compared.
+    expectShown("capacity=12,2→0|price<10→1|type>m→");
+    // No date is before nothing.
+    expectShown(
+        "purchasedate>2016→1|purchasedate>=2016-06 purchasedate<2018-12→0|purchasedate<=2018-12-31→0 1|"
+        "purchasedate=30/06/2016→0");
+    expectShown("invoice:yes→1|invoice:no→0 2");
 }
 
 TEST_F(FilterTest, comparesTimesOfDay) {
     const auto book = maintComp().make(desktop.desktop());
-    const auto service = [](QTime lasted) {
-        Compresseur made;
-        made.temps = Date::ofLocalTime({2020, 5, 1}, lasted);
-        return made;
-    };
-    Compresseur without;
-    without.temps = noDate();
-    book->replaceList(listOf<Compresseur>({service({6, 40}), service({11, 15}), without}));
+    std::vector<Compresseur> services{
+        filled<Compresseur>("temps=2020-05-01T06:40"), filled<Compresseur>("temps=2020-05-01T11:15"), {}};
+    services[2].temps = noDate();
+    book->replaceList(listOf(services));
     EXPECT_EQ(shown(*book, "temps>6:40"), (std::vector{1}));
     EXPECT_EQ(shown(*book, "temps<=11h15"), (std::vector{0, 1}));
     EXPECT_EQ(shown(*book, "06:40"), (std::vector{0}));

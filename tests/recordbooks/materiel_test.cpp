@@ -204,15 +204,6 @@ TEST_F(MaterielTest, asksWithTheTypeWhicheverListIsAddedTo) {
     EXPECT_EQ(desktop.alerts.beeps, 1);
     EXPECT_EQ(desktop.pickLists[PickList::tableauDesMarques],
               QStringList({QStringLiteral("Aqua"), QStringLiteral("Zeta")}));
-
-    // Refused, blank and known texts leave the list as it is.
-    desktop.alerts.answerNext(1);
-    book->form().endEditing(indexOf("lieuAchatMatosField"), QStringLiteral("Shop"));
-    book->form().endEditing(indexOf("marqueMatosField"), QStringLiteral("   "));
-    book->form().endEditing(indexOf("marqueMatosField"), QStringLiteral(" Zeta"));
-    EXPECT_EQ(desktop.alerts.questions.size(), 2U);
-    EXPECT_TRUE(desktop.pickLists[PickList::tableauDesMagasins].isEmpty());
-    EXPECT_EQ(desktop.preferences.strings(QStringLiteral("fabricants")).size(), 2);
 }
 
 }  // namespace

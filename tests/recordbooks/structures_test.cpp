@@ -43,8 +43,10 @@ TEST_F(StructuresTest, startsAsACommercialClubThatIsOpenAnyDay) {
 
 TEST_F(StructuresTest, coloursRatingsAndNothingByAge) {
     EXPECT_EQ(colour({}, "cotation"), "#000000");
-    EXPECT_EQ(colour(filled<Structures>("cotation=6"), "cotation"), "#996633");
-    EXPECT_EQ(cell(filled<Structures>("cotation=6"), "cotation").text, u"☆");
+    for (const char* unknown : {"cotation=6", "cotation=-1"}) {
+        EXPECT_EQ(colour(filled<Structures>(unknown), "cotation"), "#996633");
+        EXPECT_EQ(cell(filled<Structures>(unknown), "cotation").text, u"☆");
+    }
     EXPECT_EQ(colour(filled<Structures>("miseAJour=0"), "miseAJour"), "default");
 }
 

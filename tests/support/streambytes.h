@@ -6,8 +6,7 @@
 
 namespace tavrel {
 
-/// Bytes written down by hand: hexadecimal digits, and "text" for a length byte followed by the text. Blanks are
-/// ignored.
+/// Bytes written down by hand: hexadecimal digits, "text" for a length byte and the text, blanks anywhere.
 inline QByteArray streamBytes(std::string_view notation) {
     QByteArray bytes;
     int high = -1;

@@ -13,7 +13,6 @@
 
 #include <deque>
 #include <functional>
-#include <utility>
 #include <vector>
 
 namespace tavrel {

@@ -9,7 +9,6 @@
 #include "support/testdesktop.h"
 
 #include <QAbstractItemView>
-#include <QApplication>
 #include <QCheckBox>
 #include <QCompleter>
 #include <QLabel>
@@ -169,7 +168,6 @@ TEST_F(BookEditWindowTest, bindsEveryControlOfTheTableOnceAndBothWays) {
 TEST_F(BookEditWindowTest, visitsTheControlsInReadingOrder) {
     for (int page = 1; page <= window.pageCount(); ++page) {
         std::vector<std::array<int, 3>> order;
-        std::vector<QString> names;
         QWidget* first = nullptr;
         for (int index = 0; index < static_cast<int>(placed().size()) && !first; ++index) {
             if (window.pages().pageOf(index) == page && widget(index)->focusPolicy() & Qt::TabFocus) {

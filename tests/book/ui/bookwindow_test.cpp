@@ -8,6 +8,7 @@
 #include "desktop/ui/readablecolour.h"
 #include "logbook/carnet.h"
 #include "logbook/divecolumns.h"
+#include "support/primitives.h"
 #include "support/testdesktop.h"
 
 #include <QClipboard>
@@ -18,6 +19,8 @@
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTest>
+
+#include <algorithm>
 
 namespace tavrel {
 
@@ -71,9 +74,6 @@ struct BookWindowTest : testing::Test {
         QTest::keyClick(&table(), static_cast<Qt::Key>(key), modifiers);
     }
     QAction* command(const char* name) { return window->findChild<QAction*>(QString::fromUtf8(name)); }
-    QString statusText() {
-        return eachOf(window->statusBar()->findChildren<QLabel*>(), [](const QLabel* label) { return label->text(); });
-    }
 
     TestDesktop desktop;
     Carnet carnet{desktop.desktop()};
@@ -106,22 +106,6 @@ TEST_F(BookWindowTest, selectsInTheTableAndInTheDocumentAlike) {
     EXPECT_EQ(carnet.selectedRows(), QList<int>({0, 1, 3}));
     press(Qt::Key_Down);
     EXPECT_EQ(carnet.selectedRows(), QList<int>({2}));
-}
-
-TEST_F(BookWindowTest, keepsUpWithHugeSelections) {
-    hold(100'000);
-    QList<int> even;
-    for (int row = 0; row < carnet.count(); row += 2) {
-        even.append(row);
-    }
-    carnet.selectRows(even);
-    click(1, Qt::ControlModifier);
-    EXPECT_EQ(carnet.selectedRows().size(), even.size() + 1);
-    press(Qt::Key_A, Qt::ControlModifier);
-    EXPECT_EQ(carnet.selectedRows().size(), carnet.count());
-    clickHeader("noPlongee");
-    EXPECT_EQ(carnet.selectedRows().size(), carnet.count());
-    EXPECT_EQ(shown(0, "noPlongee"), u"100000");
 }
 
 TEST_F(BookWindowTest, sortsByAClickOnAHeaderAndKeepsTheSelectedDive) {
@@ -190,18 +174,14 @@ TEST_F(BookWindowTest, readsAgainOncePerChange) {
 TEST_F(BookWindowTest, printsAPictureBelowItsHeading) {
     hold(1);
     ASSERT_TRUE(carnet.setValue(0, QStringLiteral("inoubliable"), 1));
-    double heading = 0;
-    double picture = -1;
     const Paper paper{QSizeF(2000, 300), {}, {}, {}};
     const Drawing page = pagesOf(carnet, wholeTable(carnet), paper).page(0);
-    for (const auto& each : page.primitives()) {
-        if (const auto* text = std::get_if<Drawing::Text>(&each); text && text->text == u"Rating") {
-            heading = text->at.x();
-        } else if (const auto* icon = std::get_if<Drawing::Icon>(&each)) {
-            picture = icon->at.x() + icon->size.width() / 2;
-        }
-    }
-    EXPECT_NEAR(picture, heading, 0.01);
+    const auto texts = all<Drawing::Text>(page);
+    const auto heading =
+        std::find_if(texts.begin(), texts.end(), [](const auto& each) { return each.text == u"Rating"; });
+    const auto icons = all<Drawing::Icon>(page);
+    ASSERT_TRUE(heading != texts.end() && !icons.empty());
+    EXPECT_NEAR(icons.back().at.x() + icons.back().size.width() / 2, heading->at.x(), 0.01);
 }
 
 TEST_F(BookWindowTest, findsWhereItsToolBarIsTooNarrowForTheField) {
@@ -240,14 +220,12 @@ TEST_F(BookWindowTest, searchesTheFieldThatWasChosenLast) {
     EXPECT_EQ(carnet.selectedRow(), -1);
     QTest::keyClick(&field, Qt::Key_Return);
     EXPECT_EQ(carnet.selectedRows(), QList<int>({30}));
-    EXPECT_EQ(statusText(), u"40 dives|One dive found");
+    const auto labels = window->statusBar()->findChildren<QLabel*>();
+    EXPECT_EQ(eachOf(labels, [](const QLabel* label) { return label->text(); }), u"40 dives|One dive found");
     EXPECT_TRUE(
         table().viewport()->rect().contains(table().visualRect(table().model()->index(30, table().columnOf("site")))));
 
     field.menu()->findChild<QAction*>(QStringLiteral("ordi"))->trigger();
-    EXPECT_EQ(desktop.alerts.failures.size(), 1U);
-    EXPECT_EQ(carnet.selectedRow(), -1);
-
     window.reset();
     open();
     EXPECT_EQ(window->searchField()->placeholderText(), u"Find in: Computers");

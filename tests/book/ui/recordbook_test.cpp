@@ -13,6 +13,7 @@
 #include "drawing/drawingfont.h"
 #include "forms/ui/datepicker.h"
 #include "forms/ui/starrating.h"
+#include "support/primitives.h"
 #include "support/records.h"
 #include "support/testdesktop.h"
 
@@ -288,9 +289,9 @@ TEST_F(RecordBookTest, filtersAsOneTypes) {
 /// The texts of a page that stand in the table's grid, row by row.
 QStringList rowsOn(const Drawing& page) {
     std::map<int, std::map<double, QString>> rows;
-    for (const auto& primitive : page.primitives()) {
-        if (const auto* text = std::get_if<Drawing::Text>(&primitive); text && text->size == 11) {
-            rows[-qRound(text->at.y())][text->at.x()] = text->text;
+    for (const auto& text : all<Drawing::Text>(page)) {
+        if (text.size == 11) {
+            rows[-qRound(text.at.y())][text.at.x()] = text.text;
         }
     }
     QStringList lines;

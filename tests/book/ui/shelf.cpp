@@ -1,7 +1,7 @@
 #include "book/ui/shelf.h"
 
-#include "book/bookform.h"
 #include "book/card.h"
+#include "book/standardbook.h"
 
 namespace tavrel {
 
@@ -40,22 +40,8 @@ constexpr std::array columns{
     Column{"stars", literal("Stars"), 6},
 };
 constexpr std::array pages{literal("Thing")};
-constexpr std::array tableItems{
-    ToolItem{"saveDocument", {"Main", "Save"}, "enregistrer", {}},
-    ToolItem{"imprimer", {"Main", "Print"}, "imprimante", {}, true},
-    ToolItem{"newThing", {"Main", "Add"}, "ajouterMat", {}},
-    ToolItem{"deleteThing", {"Main", "Delete"}, "supprimerMat", {}, true},
-    ToolItem{"synthese", {"Main", "Synthesis card"}, "texte", {}, true},
-};
-constexpr std::array tableOrder{"saveDocument", "imprimer", "newThing", "deleteThing", "synthese", toolCustomise};
-constexpr std::array editItems{
-    ToolItem{"addThing", {"Main", "Add"}, "ajouterMat", {}},
-    ToolItem{"insertThing", {"Main", "Insert"}, "insererMat", {}, true},
-    ToolItem{"updateThing", {"Main", "Store"}, "validerMat", {}, true},
-    ToolItem{"blankFields", {"Main", "Erase"}, "raz", {}},
-    ToolItem{"synthese", {"Main", "Synthesis card"}, "texte", {}, true},
-};
-constexpr std::array editOrder{"addThing", "insertThing", "updateThing", "blankFields", "synthese"};
+constexpr BookCommands commands{"newThing", "addThing", "insertThing", "updateThing", "deleteThing"};
+constexpr RecordBookTools tools(commands);
 
 }  // namespace
 
@@ -63,8 +49,7 @@ const RecordLayout& Thing::layout() {
     static constexpr Item items[] = {{"name", member<&Thing::name>},
                                      {"price", member<&Thing::price>},
                                      {"bought", member<&Thing::bought>},
-                                     {"stars", member<&Thing::stars>},
-                                     {"mail", member<&Thing::mail>}};
+                                     {"stars", member<&Thing::stars>}};
     static constexpr RecordLayout layout = recordLayout<Thing>("Thing", 1, items);
     return layout;
 }
@@ -85,24 +70,13 @@ const BookDescription& shelf() {
         it.tableStyle = plainTableStyle;
         it.pages = pages;
         it.numberField = "nameField";
-        it.tableToolBar = {"shelfToolbar", tableItems, tableOrder, tableOrder};
-        it.editToolBar = {"shelfEditToolbar", editItems, editOrder, editOrder};
-        it.commands = {"newThing", "addThing", "insertThing", "updateThing", "deleteThing"};
-        it.words.windowTitle = literal("Thing %@");
-        it.words.newRecord = literal("New Thing");
-        it.words.deleteRecords = literal("Delete Things");
-        it.words.menu = literal("Things");
-        it.words.tableName = literal("Table of things");
-        it.words.emptyTable = literal("No things yet: %@");
-        it.words.oneRecord = literal("One thing");
-        it.words.manyRecords = literal("%d things");
+        it.tableToolBar = tools.tableToolBar("shelfToolbar");
+        it.editToolBar = tools.editToolBar("shelfEditToolbar");
+        it.commands = commands;
+        it.words = recordBookWords(literal("Thing %@"), literal("Things"), literal("Table of things"));
         it.card = thingCard;
-        it.makeForm = [](Desktop& desktop) -> std::unique_ptr<BookForm> {
-            return std::make_unique<ThingForm>(desktop);
-        };
-        it.make = [](Desktop& desktop) -> std::unique_ptr<BookBase> {
-            return std::make_unique<Book<Thing>>(desktop, shelf());
-        };
+        it.makeForm = makeRecordBookForm<ThingForm>;
+        it.make = makeRecordBook<Thing, shelf>;
         return it;
     }();
     return description;

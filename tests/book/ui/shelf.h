@@ -3,8 +3,6 @@
 #include "book/book.h"
 #include "forms/controltable.h"
 
-#include <array>
-
 namespace tavrel {
 
 /// A small record book: things with a name, a price, a day, stars and a state in colour.
@@ -13,7 +11,6 @@ struct Thing : Record {
     float price = 0;
     Date bought;
     qint32 stars = 0;
-    QString mail = QStringLiteral("");
 
     static const RecordLayout& layout();
 };
@@ -38,7 +35,6 @@ struct ThingControls : ControlTable<ThingControls> {
                                 .label = literal("Stars"),
                                 .minimum = 0,
                                 .maximum = 5});
-    const Id mailField = add({.name = "mailField", .field = "mail", .label = literal("Mail"), .opens = Opens::mail});
     const Id wearProgress = add({.name = "wearProgress", .kind = ControlKind::progress, .label = literal("Wear")});
     const Id stateField = add({.name = "stateField", .kind = ControlKind::readOnly, .label = literal("State")});
 

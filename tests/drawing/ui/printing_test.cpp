@@ -19,11 +19,6 @@ struct Printing : testing::Test {
         applyPrintSettings(printer, settings);
     }
 
-    QByteArray printed(const PrintJob& job) {
-        EXPECT_TRUE(printOn(printer, job, nullptr));
-        return contentsOf(printer.outputFileName());
-    }
-
     QTemporaryDir folder;
     QPrinter printer{QPrinter::HighResolution};
     StyledText text = [] {
@@ -44,7 +39,8 @@ TEST_F(Printing, givesPagesThePapersSizeAndMargins) {
         given = paper;
         return pagesOf(text, paper);
     };
-    const QByteArray pdf = printed(job);
+    EXPECT_TRUE(printOn(printer, job, nullptr));
+    const QByteArray pdf = contentsOf(printer.outputFileName());
     EXPECT_TRUE(pdf.contains("/MediaBox [0 0 842"));
     EXPECT_NEAR(given.size.width(), 842, 1);
     EXPECT_NEAR(given.settings.top, 23.2, 0.1);

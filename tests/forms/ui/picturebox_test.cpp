@@ -21,11 +21,6 @@ namespace {
 struct CopyControls : ControlTable<CopyControls> {
     const int copyGroup = group({1, literal("Copy")});
     const Id copyView = add({.name = "copyView", .kind = ControlKind::picture, .label = literal("Copy")});
-
-    static const CopyControls& table() {
-        static const CopyControls controls;
-        return controls;
-    }
 };
 
 struct PictureBox : testing::Test {
@@ -59,7 +54,8 @@ struct PictureBox : testing::Test {
 
     QTemporaryDir folder;
     QWidget page;
-    FormState<CopyControls> state{CopyControls::table()};
+    CopyControls controls;
+    FormState<CopyControls> state{controls};
     std::unique_ptr<FormControl> control;
 };
 

@@ -112,10 +112,7 @@ TEST(TableReading, refusesWhatIsNoTable) {
 TEST(TableReading, bringsBackWhatWasWritten) {
     Plongee dive = unknownDive();
     setStart(dive, QDate(1998, 12, 31), QTime(23, 59, 58));
-    dive.lieu = QStringLiteral(" \"é\" ");
-    dive.notes = QStringLiteral("1;2,3\t4\r\n\n");
-    dive.profondeur = 33.35F;
-    dive.profilProfondeur = Series::ofReals({0, 12.125, 3});
+    fill(dive, "lieu= \"é\" |notes=1;2,3\t4\r\n\n|profondeur=33.35|profilProfondeur=0,12.125,3");
     dive.ASC_Flag = Series::ofIntegers({0, 1, 0});
     const auto bytes = writeCsv({std::make_shared<const Plongee>(dive)});
     ASSERT_TRUE(bytes);

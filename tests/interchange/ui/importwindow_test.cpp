@@ -3,7 +3,6 @@
 #include "support/files.h"
 #include "support/testdesktop.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QPointer>

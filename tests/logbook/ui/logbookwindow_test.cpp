@@ -8,6 +8,7 @@
 #include "logbook/ui/divedetails.h"
 #include "logbook/ui/profilecommands.h"
 #include "logbook/ui/renumberwindow.h"
+#include "profile/ui/profileeditorwindow.h"
 #include "profile/ui/profileview.h"
 #include "support/records.h"
 #include "support/testdesktop.h"
@@ -69,24 +70,20 @@ TEST_F(LogbookWindowTest, asksAboutSeriesTypedIntoTheEditor) {
     carnet.appendDives(QStringLiteral("Add"), {filled<Plongee>("noPlongee=5")});
     carnet.selectRows({0});
     window.profileCommands().profilInfo();
-    QWidget* editor = nullptr;
-    for (QWidget* each : window.profileCommands().windows()) {
-        editor = each->objectName() == u"editProfilWindow" ? each : editor;
-    }
-    ASSERT_TRUE(editor);
-    auto* depths = editor->findChild<QPlainTextEdit*>(QStringLiteral("importProfondeurField"));
+    ProfileEditorWindow& editor = window.profileCommands().editorWindow();
+    auto* depths = editor.findChild<QPlainTextEdit*>(QStringLiteral("importProfondeurField"));
     const auto typeThenAnswer = [&](int answer) {
         QTest::keyClicks(depths, QStringLiteral("9"));
         desktop.alerts.answerNext(answer);
     };
     enum { import, discard, cancel };
     typeThenAnswer(cancel);
-    EXPECT_FALSE(editor->close());
+    EXPECT_FALSE(editor.close());
     EXPECT_TRUE(depths->toPlainText().contains(u'9'));
     desktop.alerts.answerNext(cancel);
     EXPECT_FALSE(window.leaveEditing(Settling::leaving));
     desktop.alerts.answerNext(discard);
-    EXPECT_TRUE(editor->close());
+    EXPECT_TRUE(editor.close());
     EXPECT_EQ(depths->toPlainText(), QString());
     window.profileCommands().profilInfo();
     typeThenAnswer(import);
@@ -149,18 +146,6 @@ TEST_F(LogbookWindowTest, showsADecimalCommaInFrenchAndKeepsThePoint) {
         EXPECT_EQ(carnet.filter().shownRows(), std::vector<int>{0}) << typed;
         EXPECT_FALSE(carnet.filter().marksIn(column, cell("profondeur")).isEmpty()) << typed;
     }
-}
-
-TEST_F(LogbookWindowTest, keepsItsImportsInAMenuOfTheirOwn) {
-    EXPECT_TRUE(window.importActions().isEmpty());
-    QStringList imports;
-    window.addImport(literal("UDCF"), "importUDCF", [&] { imports.append(QStringLiteral("UDCF")); });
-    window.addImport(literal("Handheld"), nullptr, [&] { imports.append(QStringLiteral("handheld")); });
-    for (QAction* action : window.importActions()) {
-        action->trigger();
-        EXPECT_FALSE(window.ownMenuActions().contains(action));
-    }
-    EXPECT_EQ(imports, (QStringList{QStringLiteral("UDCF"), QStringLiteral("handheld")}));
 }
 
 }  // namespace
