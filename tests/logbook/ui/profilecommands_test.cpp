@@ -88,6 +88,7 @@ TEST_F(ProfileCommandsTest, textsThatAreMarkedStayForTheNextDive) {
     carnet.selectRows({0});
     EXPECT_TRUE(QTest::qWaitFor([&] { return commands().editorWindow().windowTitle() == u"Profile data of dive 7"; }));
     EXPECT_EQ(depths().toPlainText(), u"1\n2");
+    desktop.alerts.answerNext(0);
     import();
     EXPECT_EQ(carnet.record(0).profilProfondeur, Series::ofReals({1, 2}));
 }
