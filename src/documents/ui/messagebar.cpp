@@ -2,6 +2,7 @@
 
 #include "base/texts.h"
 
+#include <QEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -18,6 +19,7 @@ MessageBar::MessageBar(QWidget* parent) : QToolBar(parent), label_(new QLabel(th
     label_->setWordWrap(true);
     label_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     label_->setContentsMargins(8, 4, 8, 4);
+    label_->installEventFilter(this);
     addWidget(label_);
     // Hidden until a message brings a command with its own words.
     command_ = addAction(text("Main", "Dismiss"), this, [this] {
@@ -42,14 +44,16 @@ void MessageBar::tell(const QString& message, const QString& command, std::funct
     setVisible(!message.isEmpty());
 }
 
-void MessageBar::resizeEvent(QResizeEvent* event) {
-    QToolBar::resizeEvent(event);
-    fitHeight();
+bool MessageBar::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == label_ && event->type() == QEvent::Resize) {
+        fitHeight();
+    }
+    return QToolBar::eventFilter(watched, event);
 }
 
 void MessageBar::fitHeight() {
     // A tool bar asks no item for its height at a width, and keeps room for the most lines that the text might take.
-    label_->setFixedHeight(std::max(0, label_->heightForWidth(label_->width())));
+    label_->setMaximumHeight(std::max(0, label_->heightForWidth(label_->width())));
 }
 
 void MessageBar::paintEvent(QPaintEvent*) {

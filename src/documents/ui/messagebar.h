@@ -20,7 +20,7 @@ public:
     QString message() const { return isHidden() ? QString() : label_->text(); }
 
 protected:
-    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
