@@ -10,11 +10,13 @@
 #include <QLineEdit>
 #include <QLockFile>
 #include <QMenu>
+#include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <thread>
+#include <tuple>
 
 namespace tavrel {
 
@@ -144,6 +146,18 @@ TEST(InstanceServer, isNotHeldUpByWhatIsInItsWay) {
     InstanceServer second(socket, brief);
     EXPECT_EQ(second.handOver({}), InstanceServer::HandedOver::busy);
     EXPECT_FALSE(second.listen());
+}
+
+TEST(ProgramFile, answersWithoutAWindow) {
+    const auto answer = [](const char* argument) {
+        QProcess program;
+        program.start(QStringLiteral(TAVREL_PROGRAM), {QLatin1StringView(argument)});
+        program.waitForFinished();
+        return std::tuple(program.exitCode(), !program.readAllStandardOutput().isEmpty(),
+                          !program.readAllStandardError().isEmpty());
+    };
+    EXPECT_EQ(answer("--version"), std::tuple(0, true, false));
+    EXPECT_EQ(answer("--nonsense"), std::tuple(2, false, true));
 }
 
 }  // namespace
