@@ -172,6 +172,10 @@ TEST(Uddf, readsTheClockHoweverItIsWritten) {
         {"<datetime>2010-08-14T00:00:00</datetime><time>0001-01-01T10:42:00</time>", u"2010-08-14 10:42:00"},
         {"<datetime>2010-08-14T09:02:00</datetime><time>10:42</time>", u"2010-08-14 09:02:00"},
         {"<date>2010-08-14</date><time>10.42</time>", u"2010-08-14 10:42:00"},
+        {"<date>2010-08-14</date><time>10:30&#x202F;PM</time>", u"2010-08-14 22:30:00"},
+        {"<date>2010-08-14</date><time>12:30&#xA0;a.m.</time>", u"2010-08-14 00:30:00"},
+        {"<date>2010-08-14</date><time>10.02.30 P. M.</time>", u"2010-08-14 22:02:30"},
+        {"<date>2010-08-14</date><time>12:30 Amsterdam</time>", u"2010-08-14 12:30:00"},
         {"<datetime>2010-08-14T1042</datetime>", u"2010-08-14 10:42:00"},
         {"<datetime>2010-08-14T10-42-31</datetime>", u"2010-08-14 10:42:31"},
         {"<datetime>2010-08-14-10:42:31</datetime>", u"2010-08-14 10:42:31"},
@@ -310,6 +314,28 @@ TEST(Uddf, findsTheGasOfEachTankAndSwitch) {
     }
 }
 
+TEST(Uddf, tellsGasesWithoutAnIdFromThoseThatAreNamed) {
+    const auto read = [](const QByteArray& gases) {
+        return fieldsOf(onlyDive("<uddf><gasdefinitions>" + gases + "<mix><o2>0.4</o2></mix></gasdefinitions>" +
+                                 dive({}, "<tankdata><link ref='a'/></tankdata>" + samples("0@0 9@60")).mid(22)),
+                        "o2Mix");
+    };
+    EXPECT_EQ(read({}), u"40") << "the only one";
+    EXPECT_EQ(read("<mix id='a'><o2>0.32</o2></mix>"), u"32");
+    EXPECT_EQ(read("<mix><o2>0.5</o2></mix>"), u"21") << "nothing says which";
+}
+
+TEST(Uddf, takesTheElementsOfAnIdInTheirOrder) {
+    QByteArray buddies;
+    for (int number = 100; number < 250; ++number) {
+        buddies +=
+            "<buddy id='1'><personal><firstname>" + QByteArray::number(number) + "</firstname></personal></buddy>";
+    }
+    const QString names =
+        onlyDive("<uddf><diver>" + buddies + "</diver>" + dive("<link ref='1'/>").mid(22)).partenaires;
+    EXPECT_TRUE(names.startsWith(QStringLiteral("100, 101, 102")) && names.endsWith(QStringLiteral("199")));
+}
+
 TEST(Uddf, believesNoNumberThatTheWaypointsContradict) {
     const std::tuple<const char*, const char*, const char16_t*> cases[] = {
         {"6553.5", "60", u"20.4; 1"},    {"2.04", "4294967295", u"20.4; 2"},
@@ -415,6 +441,30 @@ TEST(Sources, loseNoDiveThatStandsBehindDamage) {
         EXPECT_EQ(fieldsOf(found.dives[2].dive, "noPlongee notes"), u"1; n");
     }
     EXPECT_EQ(read(whole).damage, u"");
+    // Without one of the end tags before it, too.
+    const QByteArray file =
+        "<uddf version='3.2.3'><diver><owner><personal/></owner></diver><gasdefinitions><mix id='m'>"
+        "<o2>0.32</o2></mix></gasdefinitions>" +
+        dive("<divenumber>1</divenumber>", samples("9 5"))
+            .mid(22)
+            .replace("</repetitiongroup>", whole.mid(first, end - first) + "</repetitiongroup>");
+    for (const char* tags : {"</diver>", "</owner></diver>", "</gasdefinitions>", "</mix></gasdefinitions>",
+                             "</informationbeforedive>", "</divenumber></informationbeforedive>", "</samples>"}) {
+        const FoundDives found = read(QByteArray(file).replace(file.indexOf(tags), qstrlen(tags), ""));
+        ASSERT_EQ(found.dives.size(), 2U) << tags;
+        EXPECT_FALSE(found.damage.isEmpty()) << tags;
+        EXPECT_EQ(found.dives[0].dive.profilProfondeur, Series::ofReals({9, 5})) << tags;
+        EXPECT_EQ(fieldsOf(found.dives[0].dive, "noPlongee o2Mix"), u"1; 32") << tags;
+    }
+    // Nothing but the places of things is wrong.
+    const FoundDives moved = read(QByteArray(file)
+                                      .replace("</informationbeforedive><samples>", "<samples>")
+                                      .replace("</samples>", "</samples></informationbeforedive>")
+                                      .replace("</dive><dive", "</dive><profiledata><dive")
+                                      .replace("</repetitiongroup>", "</profiledata></repetitiongroup>"));
+    ASSERT_EQ(moved.dives.size(), 2U);
+    EXPECT_EQ(moved.dives[0].dive.profilProfondeur, Series::ofReals({9, 5}));
+    EXPECT_EQ(moved.damage, u"");
 }
 
 TEST(Udcf, isReadInTheUnitsThatItSays) {
