@@ -517,6 +517,7 @@ Expected<XmlTree> XmlTree::parse(QByteArrayView bytes, const Progress& progress,
     if (!sound || sound->damage_.isEmpty()) {
         return sound;
     }
+    sound->nodes_.reset();  // makes room
     const auto size = static_cast<std::size_t>(text.size());
     const Progress goOn = [&, reached = std::min(end.done, size)](std::size_t done, std::size_t) {
         return progress(std::clamp(done, reached, size), size);
