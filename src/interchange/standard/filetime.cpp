@@ -20,7 +20,7 @@ struct Clock {
 /// The time of day that a text begins with.
 Clock clockAtStart(const QString& text) {
     static const QRegularExpression apart(QStringLiteral(
-        R"(^\s*(\d{1,2})([:.-])(\d\d|(?<=:)\d)(?:\2(\d{1,2})(?![\d:])(?:[.,]\d+)?)?(?!\d)\s*([AaPp][Mm])?)"));
+        R"(^\s*(\d{1,2})([:.-])(\d\d|(?<=:)\d)(?:\2(\d{1,2})(?![\d:])(?:[.,]\d+)?)?(?!\d)\s*(?:([AaPp])\.?\s?[Mm](?![A-Za-z]))?)"));
     static const QRegularExpression together(QStringLiteral(R"(^\s*(\d\d)()(\d\d)(\d\d)?(?!\d))"));
     auto match = apart.match(text);
     match = match.hasMatch() ? match : together.match(text);
@@ -32,9 +32,9 @@ Clock clockAtStart(const QString& text) {
     // A leap second's 60 is the last moment of what it belongs to.
     const int second = std::min(match.captured(4).toInt(), 59);
     const QString half = match.captured(5).toLower();
-    if (half == QLatin1String("pm") && hour < 12) {
+    if (half == u'p' && hour < 12) {
         hour += 12;
-    } else if (half == QLatin1String("am") && hour == 12) {
+    } else if (half == u'a' && hour == 12) {
         hour = 0;
     }
     return hour == 24 ? Clock{QTime(0, 0), true} : Clock{QTime(hour, minute, second)};
@@ -45,7 +45,12 @@ std::optional<FileTime> momentOf(std::optional<QDate> day, const QString& behind
     // A hyphen leads to an offset unless a time with its seconds follows.
     static const QRegularExpression between(QStringLiteral(R"(^(?:[T,\s]\s*|-(?=\d\d:\d\d:\d\d)))"));
     const Clock clock = clockAtStart(QString(behind).remove(between));
-    return day ? std::optional(FileTime{day->addDays(clock.endsDay ? 1 : 0), clock.time}) : std::nullopt;
+    if (!day) {
+        return std::nullopt;
+    }
+    FileTime moment{day->addDays(clock.endsDay ? 1 : 0), clock.time};
+    moment.endsDay = clock.endsDay;
+    return moment;
 }
 
 }  // namespace
@@ -62,11 +67,13 @@ void FileTime::settleTime(const QTime& apart) {
 }
 
 QTime fileClock(const QString& text) {
-    static const QRegularExpression day(QStringLiteral(R"(^\s*\d{1,4}[-/.]\d{1,2}[-/.]\d{1,4}[T\s])"));
-    return clockAtStart(QString(text).remove(day)).time;
+    static const QRegularExpression day(QStringLiteral(R"(^\d{1,4}[-/.]\d{1,2}[-/.]\d{1,4}[T\s](?=\d))"));
+    return clockAtStart(text.simplified().remove(day)).time;
 }
 
-std::optional<FileTime> fileTime(const QString& text) {
+std::optional<FileTime> fileTime(const QString& words) {
+    // Blanks of any kind, which some languages have before PM.
+    const QString text = words.simplified();
     static const QRegularExpression yearFirst(QStringLiteral(R"(^\s*(\d{4})[-/.](\d{1,2})[-/.](\d{1,2}))"));
     static const QRegularExpression basic(QStringLiteral(R"(^\s*(\d{4})(\d\d)(\d\d)(?=(?:T?\d{4}(?:\d\d)?)?(?!\d)))"));
     static const QRegularExpression yearLast(QStringLiteral(R"(^\s*(\d{1,2})[-/.](\d{1,2})[-/.](\d{4}))"));

@@ -14,6 +14,7 @@ struct FileTime {
     QTime time;
     /// Which of day and month stands first, where only their numbers can tell.
     enum class Order { told, dayFirst, monthFirst, either } order = Order::told;
+    bool endsDay = false;  ///< 24:00 of the day before was written
 
     /// Takes the time of day that stands apart, where none stands with the day or a midnight that only fills it up.
     void settleTime(const QTime& apart);
@@ -23,10 +24,10 @@ struct FileTime {
 /// 10:02", "8/14/2010" or "2010-08-14"; the day stands before the month where both could be either. An offset or Z is
 /// dropped: the time stays what the diver's clock showed; 24:00 is midnight of the next day. Nothing when the text
 /// holds no day, or one before 1900, which stands for none.
-std::optional<FileTime> fileTime(const QString& text);
+std::optional<FileTime> fileTime(const QString& words);
 
-/// The time of a text such as "10:02", "10:02:30.5Z", "9:05", "10.02" or "1002", also behind a day; invalid when it
-/// holds none.
+/// The time of a text such as "10:02", "10:02:30.5Z", "9:05", "10.02", "1002" or "10:02 p.m.", also behind a day;
+/// invalid when it holds none.
 QTime fileClock(const QString& text);
 
 /// The day, where the numbers make one of 1900 or after.

@@ -7,9 +7,9 @@
 #include "interchange/standard/csvtext.h"
 #include "interchange/standard/filetime.h"
 #include "interchange/standard/filevalues.h"
+#include "interchange/xml/xmlencoding.h"
 
 #include <QRegularExpression>
-#include <QStringDecoder>
 
 #include <algorithm>
 #include <cmath>
@@ -219,9 +219,10 @@ public:
             return;
         }
         for (const auto& [number, start] : ambiguous_) {
+            const QDate written = start.day.addDays(start.endsDay ? -1 : 0);
+            const QDate swapped(written.year(), written.day(), written.month());
             Plongee& dive = table_.found.dives[number].dive;
-            const QTime time = dive.heure.toDateTime().time();
-            setStart(dive, QDate(start.year(), start.day(), start.month()), time);
+            setStart(dive, swapped.addDays(start.endsDay ? 1 : 0), dive.heure.toDateTime().time());
         }
     }
 
@@ -230,7 +231,7 @@ private:
         dayFirst_ = dayFirst_ || start.order == FileTime::Order::dayFirst;
         monthFirst_ = monthFirst_ || start.order == FileTime::Order::monthFirst;
         if (start.order == FileTime::Order::either) {
-            ambiguous_.emplace_back(read_, start.day);
+            ambiguous_.emplace_back(read_, start);
         }
     }
 
@@ -255,13 +256,12 @@ private:
     std::size_t read_ = 0;
     bool dayFirst_ = false;
     bool monthFirst_ = false;
-    std::vector<std::pair<std::size_t, QDate>> ambiguous_;  ///< by the dive's number
+    std::vector<std::pair<std::size_t, FileTime>> ambiguous_;  ///< by the dive's number
 };
 
 QString decoded(QByteArrayView bytes) {
-    QStringDecoder decoder(QStringDecoder::Utf8);
-    const QString decoded = decoder(bytes);
-    return decoder.hasError() ? QString::fromLatin1(bytes) : decoded;
+    const auto converted = textInUtf8(bytes);
+    return QString::fromUtf8(converted ? QByteArrayView(*converted) : bytes);
 }
 
 QStringView firstLine(const QString& text) {

@@ -38,46 +38,57 @@ std::string uddfReference(XmlElement element) {
 
 UddfDocument::UddfDocument(XmlElement root)
     : root_(root), isOwn_(wordsOf(root.first("generator").first("name")).startsWith(QLatin1String("Tavrel"))) {
-    for (XmlElement part = root.firstElement(); !part.isNull(); part = part.nextElement()) {
-        // The dives are walked by themselves; their ids stay theirs.
-        if (part.name() != "profiledata") {
-            collect(part);
-        }
-    }
+    collect();
     for (const XmlElement definitions : root.children("gasdefinitions")) {
         for (const XmlElement mix : definitions.children("mix")) {
-            const std::string id(mix.attribute("id"));
+            std::string id(mix.attribute("id"));
+            if (id.empty()) {
+                id = '#' + std::to_string(mixIds_.size());  // what references begin with is no part of an id
+            }
             mixIds_.push_back(id);
             mixes_.emplace(id, mixOf(mix));
         }
     }
 }
 
-void UddfDocument::collect(XmlElement parent) {
-    std::vector<XmlElement> open{parent};
+void UddfDocument::collect() {
+    constexpr std::size_t mostOfAnId = 100;
+    std::vector<XmlElement> open{root_.firstElement()};
     while (!open.empty()) {
         const XmlElement element = open.back();
         open.pop_back();
-        if (const std::string_view id = element.attribute("id"); !id.empty()) {
-            byId_.emplace(std::string(id), element);
+        if (element.isNull()) {
+            continue;
         }
-        for (XmlElement child = element.firstElement(); !child.isNull(); child = child.nextElement()) {
-            open.push_back(child);
+        open.push_back(element.nextElement());
+        // The dives are walked by themselves; their ids stay theirs.
+        if (element.name() == "profiledata") {
+            continue;
+        }
+        open.push_back(element.firstElement());
+        if (const std::string_view id = element.attribute("id"); !id.empty()) {
+            std::vector<XmlElement>& its = byId_[std::string(id)];
+            if (its.size() < mostOfAnId) {
+                its.push_back(element);
+            }
         }
     }
 }
 
 std::vector<XmlElement> UddfDocument::withId(const std::string& id) const {
-    std::vector<XmlElement> found;
-    const auto [first, last] = byId_.equal_range(id);
-    std::transform(first, last, std::back_inserter(found), [](const auto& entry) { return entry.second; });
-    return found;
+    const auto its = byId_.find(id);
+    return its == byId_.end() ? std::vector<XmlElement>() : its->second;
 }
 
 XmlElement UddfDocument::withId(const std::string& id, std::string_view name) const {
-    const auto [first, last] = byId_.equal_range(id);
-    const auto found = std::find_if(first, last, [&](const auto& entry) { return entry.second.name() == name; });
-    return found == last ? XmlElement() : found->second;
+    const auto its = byId_.find(id);
+    if (its == byId_.end()) {
+        return {};
+    }
+    const auto& elements = its->second;
+    const auto found =
+        std::find_if(elements.begin(), elements.end(), [&](XmlElement element) { return element.name() == name; });
+    return found == elements.end() ? XmlElement() : *found;
 }
 
 GasMix UddfDocument::mix(const std::string& id) const {

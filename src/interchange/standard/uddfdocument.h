@@ -24,26 +24,29 @@ public:
     XmlElement root() const { return root_; }
     /// Whether this program wrote the file, from the numbers of a logbook.
     bool isOwn() const { return isOwn_; }
-    /// All elements of an id, in the file's order: files that count each kind from 1 use one for several.
+    /// The elements of an id, the first hundred in the file's order: files that count each kind from 1 use one for
+    /// several.
     std::vector<XmlElement> withId(const std::string& id) const;
     /// The element of an id that has this name; null when there is none.
     XmlElement withId(const std::string& id, std::string_view name) const;
+    /// Whether a reference or one of mixIds() names a gas.
     bool isMix(const std::string& id) const { return mixes_.count(id) > 0; }
     /// The gas of an id; air for one that the file does not define.
     GasMix mix(const std::string& id) const;
     /// The id of the gas that a tank among the equipment holds; empty when that does not say.
     std::string mixOfTank(const std::string& id) const;
+    /// All gases; those without an id have one here that no reference can name.
     const std::vector<std::string>& mixIds() const { return mixIds_; }
 
     /// The owner's only piece of equipment of that name; null when there is none or more than one.
     XmlElement onlyPiece(const char* name) const;
 
 private:
-    void collect(XmlElement parent);
+    void collect();
 
     XmlElement root_;
     bool isOwn_;
-    std::unordered_multimap<std::string, XmlElement> byId_;
+    std::unordered_map<std::string, std::vector<XmlElement>> byId_;
     std::unordered_map<std::string, GasMix> mixes_;
     std::vector<std::string> mixIds_;
 };

@@ -9,12 +9,17 @@
 #include <cerrno>
 #include <cstdint>
 #include <optional>
+#include <string_view>
 
 namespace tavrel {
 
 namespace {
 
 constexpr const char* commonEncoding = "windows-1252";
+/// What stands there from 0x80 to 0x9F.
+constexpr std::u16string_view commonSigns =
+    u"\u20AC\uFFFD\u201A\u0192\u201E\u2026\u2020\u2021\u02C6\u2030\u0160\u2039\u0152\uFFFD\u017D\uFFFD"
+    u"\uFFFD\u2018\u2019\u201C\u201D\u2022\u2013\u2014\u02DC\u2122\u0161\u203A\u0153\uFFFD\u017E\u0178";
 
 /// The encoding that the file's first line names; empty for none.
 QByteArray declaredEncoding(QByteArrayView bytes) {
@@ -27,16 +32,18 @@ QByteArray declaredEncoding(QByteArrayView bytes) {
 
 /// What a byte is that is no sign of its encoding.
 QByteArray strayByte(char byte) {
-    const QChar sign = QLatin1Char(byte);
+    const auto code = static_cast<unsigned char>(byte);
+    const bool isCommon = code >= 0x80 && code < 0x80 + commonSigns.size();
+    const QChar sign = isCommon ? QChar(commonSigns[code - 0x80]) : QChar(QLatin1Char(byte));
     return QString(sign.isPrint() ? sign : QChar(QChar::ReplacementCharacter)).toUtf8();
 }
 
 struct Converted {
     QByteArray text;
-    bool isWhole = true;  ///< every byte is a sign
+    qsizetype strays = 0;  ///< bytes that are no sign
 };
 
-/// Nothing where the system does not know the encoding, or it is none in which the bytes could begin as they do.
+/// Nothing where the system does not know the encoding.
 std::optional<Converted> converted(QByteArrayView bytes, const char* encoding) {
     const iconv_t converter = iconv_open("UTF-8", encoding);
     if (reinterpret_cast<std::intptr_t>(converter) == -1) {
@@ -54,36 +61,55 @@ std::optional<Converted> converted(QByteArrayView bytes, const char* encoding) {
         const int why = errno;
         result.text.append(piece.data(), out - piece.data());
         if (!isWhole && why != E2BIG) {
-            result.isWhole = false;
+            ++result.strays;
             result.text += strayByte(*in++);
             --inLeft;
         }
     }
     iconv_close(converter);
-    const auto start = bytes.first(std::min<qsizetype>(bytes.size(), 5));
-    return result.text.startsWith(start) ? std::optional(std::move(result)) : std::nullopt;
+    return result;
+}
+
+/// Text of no known encoding: UTF-8 where most of what is not ASCII is that, else the common one.
+QByteArray inSeemingEncoding(QByteArrayView bytes) {
+    const auto foreign = std::count_if(bytes.begin(), bytes.end(), [](char byte) { return (byte & 0x80) != 0; });
+    auto text = converted(bytes, "UTF-8");
+    if (!text || 2 * text->strays >= foreign) {
+        text = converted(bytes, commonEncoding);
+    }
+    return text ? std::move(text->text) : QString::fromLatin1(bytes).toUtf8();
+}
+
+/// Encodings of one byte a sign, in which what is valid UTF-8 hardly ever means anything.
+bool isOfSingleBytes(const QByteArray& encoding) {
+    return encoding.startsWith("iso-8859-") || encoding.startsWith("windows-125");
 }
 
 }  // namespace
 
+std::optional<QByteArray> textInUtf8(QByteArrayView bytes) {
+    return bytes.isValidUtf8() ? std::nullopt : std::optional(inSeemingEncoding(bytes));
+}
+
 std::optional<QByteArray> xmlInUtf8(QByteArrayView bytes) {
-    if (bytes.startsWith("\xEF\xBB\xBF")) {
-        return bytes.isValidUtf8() ? std::nullopt : std::optional(QString::fromUtf8(bytes).toUtf8());
-    }
-    if (const auto shown = QStringConverter::encodingForData(bytes, u'<'); shown && *shown != QStringConverter::Utf8) {
+    const bool isUtf8 = bytes.isValidUtf8();
+    const bool isMarked = bytes.startsWith("\xEF\xBB\xBF");
+    const auto shown = QStringConverter::encodingForData(bytes, u'<');
+    if (!isMarked && shown && *shown != QStringConverter::Utf8) {
         return QString(QStringDecoder(*shown)(bytes)).toUtf8();
     }
-    const QByteArray declared = declaredEncoding(bytes);
-    const bool isUtf8 = bytes.isValidUtf8();
-    if (isUtf8 && (declared.isEmpty() || declared.compare("utf-8", Qt::CaseInsensitive) == 0)) {
+    const QByteArray declared = isMarked ? QByteArray("utf-8") : declaredEncoding(bytes).toLower();
+    if (isUtf8 && (declared.isEmpty() || declared == "utf-8" || isOfSingleBytes(declared))) {
         return std::nullopt;
     }
     auto text = declared.isEmpty() ? std::nullopt : converted(bytes, declared.constData());
-    if (isUtf8 && !(text && text->isWhole)) {
+    if (text && !text->text.startsWith(bytes.first(std::min<qsizetype>(bytes.size(), 5)))) {
+        text.reset();  // it is none in which the bytes could begin as they do
+    }
+    if (isUtf8 && !(text && text->strays == 0)) {
         return std::nullopt;
     }
-    text = text ? std::move(text) : converted(bytes, commonEncoding);
-    return text ? std::move(text->text) : QString::fromLatin1(bytes).toUtf8();
+    return text ? std::move(text->text) : inSeemingEncoding(bytes);
 }
 
 }  // namespace tavrel

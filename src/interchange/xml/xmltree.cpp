@@ -8,6 +8,7 @@
 #include <libxml/tree.h>
 
 #include <algorithm>
+#include <array>
 #include <limits>
 #include <utility>
 
@@ -47,6 +48,15 @@ public:
     }
 
     std::size_t levels() const { return open_.size(); }
+    /// The plain name of the innermost open element; there is one.
+    const char* innermost() const { return open_.back().name; }
+
+    /// How many elements are open in the innermost open one of this plain name; 0 when there is none.
+    template <class IsNamed>
+    std::size_t levelsWithin(IsNamed isNamed) const {
+        const auto its = std::find_if(open_.rbegin(), open_.rend(), [&](const Open& it) { return isNamed(it.name); });
+        return its == open_.rend() ? 0 : static_cast<std::size_t>(its - open_.rbegin());
+    }
 
     /// Of the element that began last.
     void attribute(const char* name, std::string_view value) {
@@ -138,17 +148,27 @@ constexpr int mostAttributes = 1000;  ///< of an element
 constexpr int mostNamespaces = 250;   ///< in force at one place
 constexpr std::size_t mostElements = 32'000'000;
 constexpr std::size_t mostLevels = 256;  ///< the parser's own, which what a mended file leaves open may pass
+constexpr qsizetype mostStrayEnds = 100'000;
 constexpr std::size_t mostDeclarations = 1000;
 constexpr std::size_t mostDeclaredAttributes = 32;
+
+/// How a file is gone through: as the parser takes it, or by the names of its end tags up to the first damage, and then
+/// once more beyond it.
+enum class Pass { plain, sound, mending };
 
 /// What the parser's events need while it runs.
 struct Reading {
     const Progress& progress;
-    std::size_t size;
-    QByteArrayView rest;
+    Pass pass;
+    std::size_t size;                  ///< of all pieces
+    std::span<QByteArrayView> pieces;  ///< of the file, what is left of them
+    std::size_t levelsBeforeRoot;      ///< elements that only the parser has open
     xmlParserCtxtPtr parser;
     Builder builder;
     XmlMarkup markup;
+    std::size_t done = 0;
+    qint64 rootEnds = 0;  ///< where the root's start tag ends, bytes
+    const xmlChar* rootName = nullptr;
     const xmlChar* rootNamespace = nullptr;
     const xmlChar* rootPrefix = nullptr;
     std::size_t elements = 0;
@@ -168,6 +188,8 @@ constexpr int partsOfAttribute = 5;  // name, prefix, namespace, start and end o
 std::size_t entityAllowance(std::size_t fileSize) {
     return 1'000'000 + 5 * fileSize;
 }
+
+constexpr QByteArrayView levelBeforeRoot = "<x>";
 
 /// The reading of the file; null for the contents of an entity, which the parser only checks.
 Reading* reading(void* context) {
@@ -189,31 +211,57 @@ int readBytes(void* context, char* buffer, int length) {
     if (state.parser->maxatts > 2 * 5 * mostAttributes || state.parser->nsMax > 2 * 2 * mostNamespaces) {
         state.limit = true;
     }
-    constexpr qsizetype piece = 1 << 16;
-    const qsizetype done = static_cast<qsizetype>(state.size) - state.rest.size();
-    if (state.progress && done / piece != (done + length) / piece &&
-        !state.progress(static_cast<std::size_t>(done), state.size)) {
+    constexpr std::size_t step = 1 << 16;
+    if (state.progress && state.done / step != (state.done + static_cast<std::size_t>(length)) / step &&
+        !state.progress(state.done, state.size)) {
         state.cancelled = true;
     }
-    if (state.limit || state.cancelled) {
+    const bool isKnownDamaged = state.pass == Pass::sound && state.elements > 0 && !state.damage.isEmpty();
+    while (!state.pieces.empty() && state.pieces.front().isEmpty()) {
+        state.pieces = state.pieces.subspan(1);
+    }
+    if (state.limit || state.cancelled || isKnownDamaged || state.pieces.empty()) {
         return 0;
     }
-    const qsizetype count = std::min<qsizetype>(length, state.rest.size());
-    std::copy_n(state.rest.data(), count, buffer);
-    state.rest = state.rest.sliced(count);
+    QByteArrayView& piece = state.pieces.front();
+    const qsizetype count = std::min<qsizetype>(length, piece.size());
+    std::copy_n(piece.data(), count, buffer);
+    piece = piece.sliced(count);
+    state.done += static_cast<std::size_t>(count);
     return static_cast<int>(count);
 }
 
 bool isCalled(std::string_view name, std::string_view other) {
-    return qstrnicmp(name.data(), static_cast<qsizetype>(name.size()), other.data(),
-                     static_cast<qsizetype>(other.size())) == 0;
+    const auto size = static_cast<qsizetype>(name.size());
+    return name.size() == other.size() && qstrnicmp(name.data(), size, other.data(), size) == 0;
 }
 
 /// Ends an element that the one about to begin cannot stand in.
-void endNeverNested(Reading& state, const char* name) {
+void endNeverNested(Reading& state, std::string_view name) {
     for (const std::string_view single : state.markup.neverNested) {
         if (isCalled(name, single)) {
             state.builder.endNamed([&](const char* open) { return isCalled(open, single); });
+        }
+    }
+}
+
+/// Ends what is open in the only element that the one about to begin can stand in: in a sound file no more than one
+/// that stands there, too, and so beside it.
+void endMisplaced(Reading& state, std::string_view name) {
+    for (const auto& [child, parent] : state.markup.standsIn) {
+        if (!isCalled(name, child)) {
+            continue;
+        }
+        const std::string_view its = parent;
+        const auto isBeside = [&](const auto& other) {
+            return other.second == its && isCalled(state.builder.innermost(), other.first);
+        };
+        const auto& pairs = state.markup.standsIn;
+        std::size_t levels = state.builder.levelsWithin([&](const char* open) { return isCalled(open, its); });
+        if (state.pass == Pass::mending || (levels == 1 && std::any_of(pairs.begin(), pairs.end(), isBeside))) {
+            for (; levels > 0; --levels) {
+                state.builder.end();
+            }
         }
     }
 }
@@ -222,6 +270,10 @@ void startElement(void* context, const xmlChar* name, const xmlChar* prefix, con
                   int attributes, int, const xmlChar** attribute) {
     Reading* state = reading(context);
     if (!state) {
+        return;
+    }
+    if (state->levelsBeforeRoot > 0) {
+        --state->levelsBeforeRoot;
         return;
     }
     const bool isTooDeep = state->markup.mended && state->builder.levels() > mostLevels;
@@ -233,14 +285,19 @@ void startElement(void* context, const xmlChar* name, const xmlChar* prefix, con
     if (state->elements == 1) {
         state->rootNamespace = uri;
         state->rootPrefix = prefix;
+        state->rootName = prefix ? xmlDictQLookup(state->parser->dict, prefix, name) : name;
+        state->rootEnds = state->pass == Pass::sound ? xmlByteConsumed(state->parser) : 0;
+    } else if (state->builder.levels() == 0) {
+        return;  // behind the root, which a mended file may end more than once
     }
     // Names and namespaces are of the parser's dictionary: equal ones are one pointer. A prefix that the root does not
-    // declare stands for no namespace, which is the root's own.
-    const bool isRoots = uri == state->rootNamespace && (uri || prefix == state->rootPrefix);
+    // declare, or whose declaration the parser has left behind in a damaged file, is the root's own.
+    const bool isRoots = uri ? uri == state->rootNamespace : prefix == state->rootPrefix;
     const bool plain = !prefix || (state->markup.plainNames && isRoots);
     const xmlChar* whole = plain ? name : xmlDictQLookup(state->parser->dict, prefix, name);
     const auto* plainName = reinterpret_cast<const char*>(name);
     endNeverNested(*state, plainName);
+    endMisplaced(*state, plainName);
     state->builder.begin(reinterpret_cast<const char*>(whole), plainName);
     for (int index = 0; state->markup.attributes && index < attributes; ++index, attribute += partsOfAttribute) {
         const auto* value = reinterpret_cast<const char*>(attribute[3]);
@@ -261,7 +318,7 @@ void endElement(void* context, const xmlChar* name, const xmlChar*, const xmlCha
     // What the parser takes for the end of its innermost element may be that of another.
     const std::string other = std::exchange(state->endTag, {});
     const std::string_view ended = other.empty() ? reinterpret_cast<const char*>(name) : std::string_view(other);
-    state->builder.endNamed([&](const char* open) { return ended == open; });
+    state->builder.endNamed([&](const char* open) { return isCalled(open, ended); });
 }
 
 void characters(void* context, const xmlChar* text, int length) {
@@ -404,7 +461,23 @@ struct FreeParser {
     }
 };
 
+/// What a pass tells of the file's bytes.
+struct PassEnd {
+    qsizetype root = 0;  ///< where the root begins
+    std::size_t done = 0;
+};
+
+QByteArrayView upTo(QByteArrayView bytes, qint64 end) {
+    return bytes.first(std::clamp<qsizetype>(end, 0, bytes.size()));
+}
+
 }  // namespace
+
+/// Goes through a file once.
+struct XmlTree::Parsing {
+    static Expected<XmlTree> run(Pass pass, QByteArrayView bytes, const Progress& progress, const XmlMarkup& markup,
+                                 PassEnd& end);
+};
 
 void XmlTree::Free::operator()(void* names) const {
     xmlDictFree(static_cast<xmlDictPtr>(names));
@@ -434,15 +507,30 @@ void XmlTree::lowerNames() {
 }
 
 Expected<XmlTree> XmlTree::parse(QByteArrayView bytes, const Progress& progress, XmlMarkup markup) {
+    PassEnd end;
     if (!markup.mended) {
-        return parsedIn(Encoding::declared, bytes, progress, markup);
+        return Parsing::run(Pass::plain, bytes, progress, markup, end);
     }
     const auto converted = xmlInUtf8(bytes);
-    return parsedIn(Encoding::utf8, converted ? QByteArrayView(*converted) : bytes, progress, markup);
+    const QByteArrayView text = converted ? QByteArrayView(*converted) : bytes;
+    auto sound = Parsing::run(Pass::sound, text, progress, markup, end);
+    if (!sound || sound->damage_.isEmpty()) {
+        return sound;
+    }
+    sound->nodes_.reset();  // makes room
+    const auto size = static_cast<std::size_t>(text.size());
+    const Progress goOn = [&, reached = std::min(end.done, size)](std::size_t done, std::size_t) {
+        return progress(std::clamp(done, reached, size), size);
+    };
+    auto mended = Parsing::run(Pass::mending, text, progress ? goOn : progress, markup, end);
+    if (mended) {
+        mended->damage_ = sound->damage_;
+    }
+    return mended;
 }
 
-Expected<XmlTree> XmlTree::parsedIn(Encoding encoding, QByteArrayView bytes, const Progress& progress,
-                                    const XmlMarkup& markup) {
+Expected<XmlTree> XmlTree::Parsing::run(Pass pass, QByteArrayView bytes, const Progress& progress,
+                                        const XmlMarkup& markup, PassEnd& end) {
     const std::unique_ptr<xmlParserCtxt, FreeParser> parser(xmlNewParserCtxt());
     if (bytes.size() > std::numeric_limits<int>::max() || !parser) {
         return failure(text("Main", "XML file too large"));
@@ -451,13 +539,27 @@ Expected<XmlTree> XmlTree::parsedIn(Encoding encoding, QByteArrayView bytes, con
     xmlDictReference(parser->dict);
     tree.names_.reset(parser->dict);
 
-    Reading state{progress, static_cast<std::size_t>(bytes.size()), bytes, parser.get(), Builder(*tree.nodes_), markup};
+    // Each end tag too many closes one of the parser's own levels, and with the last of them the file: it gets as many
+    // more as it may need.
+    const bool mends = pass == Pass::mending;
+    const qsizetype levels = mends ? std::min(bytes.count("</"), mostStrayEnds) : 0;
+    const QByteArray before = levelBeforeRoot.toByteArray().repeated(levels);
+    std::array<QByteArrayView, 3> pieces{bytes.first(mends ? end.root : 0), before, bytes.sliced(mends ? end.root : 0)};
+    Reading state{progress,
+                  pass,
+                  static_cast<std::size_t>(bytes.size() + before.size()),
+                  pieces,
+                  static_cast<std::size_t>(levels),
+                  parser.get(),
+                  Builder(*tree.nodes_),
+                  markup};
     const Silence silence;
     parser->_private = &state;
     listen(*parser->sax);
-    // Without XML_PARSE_NOENT, XML_PARSE_DTDLOAD and XML_PARSE_HUGE: nothing is resolved and the limits hold.
+    // Without XML_PARSE_NOENT and XML_PARSE_DTDLOAD nothing is resolved. XML_PARSE_HUGE lifts the parser's limits, of
+    // which those that keep the reading short are held here as well.
     const int options = XML_PARSE_RECOVER | XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING |
-                        (encoding == Encoding::utf8 ? XML_PARSE_IGNORE_ENC : 0);
+                        (pass == Pass::plain ? 0 : XML_PARSE_IGNORE_ENC) | (mends ? XML_PARSE_HUGE : 0);
     parser->myDoc = xmlCtxtReadIO(parser.get(), readBytes, nullptr, &state, nullptr, nullptr, options);
     state.builder.endAll();
     if (state.cancelled) {
@@ -470,6 +572,8 @@ Expected<XmlTree> XmlTree::parsedIn(Encoding encoding, QByteArrayView bytes, con
     if (tree.root().isNull()) {
         return failure(text("Main", "XML file without elements"), state.firstError);
     }
+    const QByteArray rootTag = QByteArray("<") + reinterpret_cast<const char*>(state.rootName);
+    end = {std::max<qsizetype>(0, upTo(bytes, state.rootEnds).lastIndexOf(rootTag)), state.done};
     tree.damage_ = state.damage;
     return tree;
 }

@@ -11,6 +11,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tavrel {
@@ -123,19 +124,23 @@ struct XmlMarkup {
     /// Leaves out the prefixes of the root's own namespace, so that names do not depend on how the file spells it.
     bool plainNames = false;
     /// Reads a damaged file for all that it holds, beyond the parser's own repair: an end tag ends the element of its
-    /// name, with what was left open in it, and nothing where none is open; text that its declared encoding does not
-    /// tell is read in the one that it seems to have.
+    /// name, case aside, with what was left open in it, and nothing where none is open; text that its declared encoding
+    /// does not tell is read in the one that it seems to have.
     bool mended = false;
     /// With that, the small names of elements that never stand in one of their own name: where one does, case aside,
     /// the end of the outer one is missing.
     std::span<const std::string_view> neverNested = {};
+    /// And the small names of elements with those of the only ones that they stand in: where one begins elsewhere in
+    /// there, the end of what is open is missing. A file that is else sound is only taken so where one of these stands
+    /// in another of the same parent.
+    std::span<const std::pair<std::string_view, std::string_view>> standsIn = {};
 };
 
 /// An XML file as a tree of elements and texts, with attributes where they are asked for. Malformed markup is repaired
 /// as far as libxml2's parser recovers it or, on request, further, and texts are converted from the encoding that the
 /// file declares. Nothing outside the bytes is ever read: entities, external references and inclusions stay unresolved,
 /// and the network is out of reach. Fails when the bytes hold no element, or when they nest or grow beyond the parser's
-/// limits (256 levels, names of 50 kB) or name entities whose texts add up to far more than the file.
+/// limits (256 levels, in a sound file names of 50 kB) or name entities whose texts add up to far more than the file.
 class XmlTree {
 public:
     /// The progress counts bytes.
@@ -154,10 +159,7 @@ private:
         void operator()(void* names) const;
     };
 
-    /// What the file's encoding is taken from, and whether its bytes could be read by it.
-    enum class Encoding { declared, utf8 };
-    static Expected<XmlTree> parsedIn(Encoding encoding, QByteArrayView bytes, const Progress& progress,
-                                      const XmlMarkup& markup);
+    struct Parsing;
 
     XmlTree() : nodes_(std::make_unique<XmlNodes>()) {}
 

@@ -171,6 +171,10 @@ TEST(Uddf, readsTheClockHoweverItIsWritten) {
         {"<datetime>2010-08-14T00:00:00</datetime><time>0001-01-01T10:42:00</time>", u"2010-08-14 10:42:00"},
         {"<datetime>2010-08-14T09:02:00</datetime><time>10:42</time>", u"2010-08-14 09:02:00"},
         {"<date>2010-08-14</date><time>10.42</time>", u"2010-08-14 10:42:00"},
+        {"<date>2010-08-14</date><time>10:30&#x202F;PM</time>", u"2010-08-14 22:30:00"},
+        {"<date>2010-08-14</date><time>12:30&#xA0;a.m.</time>", u"2010-08-14 00:30:00"},
+        {"<date>2010-08-14</date><time>10.02.30 P. M.</time>", u"2010-08-14 22:02:30"},
+        {"<date>2010-08-14</date><time>12:30 Amsterdam</time>", u"2010-08-14 12:30:00"},
         {"<datetime>2010-08-14T1042</datetime>", u"2010-08-14 10:42:00"},
         {"<datetime>2010-08-14T10-42-31</datetime>", u"2010-08-14 10:42:31"},
         {"<datetime>2010-08-14-10:42:31</datetime>", u"2010-08-14 10:42:31"},
@@ -309,6 +313,28 @@ TEST(Uddf, findsTheGasOfEachTankAndSwitch) {
     }
 }
 
+TEST(Uddf, tellsGasesWithoutAnIdFromThoseThatAreNamed) {
+    const auto read = [](const QByteArray& gases) {
+        return fieldsOf(onlyDive("<uddf><gasdefinitions>" + gases + "<mix><o2>0.4</o2></mix></gasdefinitions>" +
+                                 dive({}, "<tankdata><link ref='a'/></tankdata>" + samples("0@0 9@60")).mid(22)),
+                        "o2Mix");
+    };
+    EXPECT_EQ(read({}), u"40") << "the only one";
+    EXPECT_EQ(read("<mix id='a'><o2>0.32</o2></mix>"), u"32");
+    EXPECT_EQ(read("<mix><o2>0.5</o2></mix>"), u"21") << "nothing says which";
+}
+
+TEST(Uddf, takesTheElementsOfAnIdInTheirOrder) {
+    QByteArray buddies;
+    for (int number = 100; number < 250; ++number) {
+        buddies +=
+            "<buddy id='1'><personal><firstname>" + QByteArray::number(number) + "</firstname></personal></buddy>";
+    }
+    const QString names =
+        onlyDive("<uddf><diver>" + buddies + "</diver>" + dive("<link ref='1'/>").mid(22)).partenaires;
+    EXPECT_TRUE(names.startsWith(QStringLiteral("100, 101, 102")) && names.endsWith(QStringLiteral("199")));
+}
+
 TEST(Uddf, believesNoNumberThatTheWaypointsContradict) {
     const std::tuple<const char*, const char*, const char16_t*> cases[] = {
         {"6553.5", "60", u"20.4; 1"},    {"2.04", "4294967295", u"20.4; 2"},
@@ -395,25 +421,6 @@ TEST(Udcf, isReadAsItWasMeant) {
     EXPECT_EQ(dive.ASC_Flag.integer(1), 0);
     EXPECT_EQ(found.dives[1].dive.lieu, u"Agay");
     EXPECT_EQ(fieldsOf(dive, "fabricant ordinateur"), u"Reef; One");
-}
-
-TEST(Sources, loseNoDiveThatStandsBehindDamage) {
-    const QByteArray whole = dive("<divenumber>1</divenumber>", "<notes><para>n</para></notes>");
-    const QByteArray broken = dive("<divenumber>1</divenumber>",
-                                   "<notes><b>n</notes><samples><waypoint><depth>9</depth>"
-                                   "<waypoint><depth>5</depth></waypoint></samples>");
-    const qsizetype first = whole.indexOf("<dive ");
-    const qsizetype end = whole.indexOf("</repetitiongroup>");
-    for (const QByteArray& damaged : {broken, QByteArray(broken).replace("</dive>", "")}) {
-        QByteArray file = damaged;
-        file.insert(file.indexOf("</repetitiongroup>"), whole.mid(first, end - first).repeated(2));
-        const FoundDives found = read(file);
-        ASSERT_EQ(found.dives.size(), 3U);
-        EXPECT_FALSE(found.damage.isEmpty());
-        EXPECT_EQ(found.dives[0].dive.profilProfondeur, Series::ofReals({9, 5}));
-        EXPECT_EQ(fieldsOf(found.dives[2].dive, "noPlongee notes"), u"1; n");
-    }
-    EXPECT_EQ(read(whole).damage, u"");
 }
 
 TEST(Udcf, isReadInTheUnitsThatItSays) {

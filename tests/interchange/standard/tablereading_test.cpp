@@ -38,6 +38,15 @@ TEST(TableReading, takesCellsWhateverSeparatesAndQuotesThem) {
     }
 }
 
+TEST(TableReading, readsTheEncodingThatATextSeemsToHave) {
+    const std::pair<const char*, const char16_t*> cases[] = {
+        {"b\x9cuf l\x92\xe9t\xe9 \x80", u"bœuf l’été €"}, {"\xc3\xa9t\xc3\xa9 \x80", u"été €"}, {"\xc3\xa9", u"é"}};
+    for (const auto& [notes, expected] : cases) {
+        EXPECT_EQ(read(QByteArray("date,notes\n2020-01-01,") + notes).found.dives.at(0).dive.notes,
+                  QStringView(expected));
+    }
+}
+
 TEST(TableReading, readsTheOlderExportsWithTheirWords) {
     const Table table = read(
         "\"Dive #\";\"Date\";\"Location\";\"Start time\";\"Depth\";\"Weather\";\"Current\";\"Visibility\"\r"
@@ -97,6 +106,9 @@ TEST(TableReading, takesAllDaysBehindTheirMonthsWhereOneStandsThere) {
     EXPECT_EQ((QStringList{startText(dives.at(0)), startText(dives.at(1)), startText(dives.at(2))}),
               (QStringList{QStringLiteral("2022-03-04 14:05:00"), QStringLiteral("2022-12-31 00:00:00"),
                            QStringLiteral("2022-05-05 00:00:00")}));
+    const std::vector<FoundDive> midnights = read("date,temps\n08/12/2010 24:00,1\n12/31/2010 24:00,2\n").found.dives;
+    EXPECT_EQ(startText(midnights.at(0)), u"2010-08-13 00:00:00");
+    EXPECT_EQ(startText(midnights.at(1)), u"2011-01-01 00:00:00");
     EXPECT_EQ(startText(read("date,temps\n3/4/2022,1\n31/12/2022,2\n").found.dives.at(0)), u"2022-04-03 00:00:00");
 }
 
