@@ -215,6 +215,7 @@ Expected<ImportResult> runOwnImport(Carnet& carnet, const QString& file, ImportF
     result->taken = taken.taken;
     result->skipped = taken.skipped;
     result->twice = taken.twice;
+    result->renumbered = taken.renumbered;
     return result;
 }
 

@@ -61,6 +61,10 @@ public:
         if (waypoint.firstElement().isNull() && waypoint.hasAttributes()) {
             found_.lose(QStringLiteral("samples"));
         }
+        if (saysMore(waypoint)) {
+            const QString own = ownWords(waypoint);
+            found_.lose(QStringLiteral("waypoint"), own);
+        }
         for (XmlElement it = waypoint.firstElement(); !it.isNull(); it = it.nextElement()) {
             take(it, it.name());
         }
@@ -75,23 +79,27 @@ public:
 private:
     void take(XmlElement it, std::string_view name) {
         if (name == "divetime") {
+            addUnless(secondsOf(it).has_value(), name, it);
             return;
         }
         if (name == "depth") {
             if (const auto depth = numberOf(it); depth && std::abs(*depth) <= deepestThinkable) {
                 profile_.depths.push_back({moment_, *depth});
-            } else if (!wordsOf(it).isEmpty()) {
-                unknown_.add(name, it);
+            } else {
+                addUnless(false, name, it);
             }
         } else if (name == "temperature") {
             const auto kelvin = numberOf(it);
+            addUnless(kelvin.has_value(), name, it);
             if (waterCelsius(kelvin)) {
                 profile_.lowestTemperature = std::min(profile_.lowestTemperature.value_or(*kelvin), *kelvin);
                 unknown_.add(name);
             }
         } else if (name == "tankpressure") {
-            if (const auto bar = bars(numberOf(it))) {
-                profile_.pressures[std::string(it.attribute("ref"))].push_back({moment_, *bar});
+            const auto pascal = numberOf(it);
+            addUnless(pascal.has_value(), name, it);
+            if (const auto bar = bars(pascal)) {
+                profile_.pressures[uddfReference(it.attribute("ref"))].push_back({moment_, *bar});
             }
         } else if (name == "switchmix") {
             profile_.switches.push_back({moment_, uddfReference(it), {}});
@@ -100,7 +108,9 @@ private:
         } else if (name == "alarm") {
             takeAlarm(it);
         } else if (name == "setpo2") {
-            if (const auto point = numberOf(it); point && *point > 0) {
+            const auto point = numberOf(it);
+            addUnless(point.has_value(), name, it);
+            if (point && *point > 0) {
                 profile_.setPoints.push_back(*point > 10 ? *point / 100'000 : *point);
             }
         } else if (name == "divemode") {
@@ -113,6 +123,12 @@ private:
                 unknown_.add("divemode " + mode);
             }
         } else {
+            unknown_.add(name, it);
+        }
+    }
+
+    void addUnless(bool understood, std::string_view name, XmlElement it) {
+        if (!understood && !wordsOf(it).isEmpty()) {
             unknown_.add(name, it);
         }
     }
