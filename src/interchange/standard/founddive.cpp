@@ -77,7 +77,8 @@ struct ToldDive {
     auto words() const { return std::tie(dive->noPlongee, dive->lieu, dive->site, dive->notes); }
 
     bool operator==(const ToldDive& other) const {
-        return start == other.start && dive->profondeur == other.dive->profondeur && dive->temps == other.dive->temps &&
+        return start.toSecsSinceEpoch() == other.start.toSecsSinceEpoch() &&
+               dive->profondeur == other.dive->profondeur && dive->temps == other.dive->temps &&
                dive->profilProfondeur == other.dive->profilProfondeur && (!tellsLittle() || words() == other.words());
     }
 };

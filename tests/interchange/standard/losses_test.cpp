@@ -62,13 +62,13 @@ TEST(Losses, nameAllThatADiveOfUddfDoesNotTake) {
          "<trip id='t'><trippart><vessel><name>Skiff</name></vessel></trippart></trip></divetrip>",
          "<link ref='o'/><link ref='v'/><link ref='w'/><link ref='d'/><link ref='s'/><link ref='t'/><link ref='f'/>"
          "<equipmentused><link ref='f'/></equipmentused>",
-         "combinaison bateau equip_1 equip_2", u"4; Calypso; Red; ",
+         "combinaison bateau equip_1 equip_2", u"1; Calypso; Red; ",
          u"suit/name=Old|Shorty; vessel/marina=Toulon; vessel/name=Skiff"},
         {"<diver><owner><equipment><tank id='a'><name>S80 left</name></tank><tank id='b'><name>S80</name></tank>"
          "</equipment></owner></diver>",
          "<tankdata><link ref='a'/></tankdata><tankdata><link ref='b'/></tankdata>", "temps", u"0",
          u"tank/name=S80 left|S80"},
-        {"", "<purpose>a1</purpose><purpose>a</purpose><purpose>a1</purpose>", "typePlongee", u"1", u"purpose=a1|a"},
+        {"", "<purpose>a1</purpose><purpose>a</purpose><purpose>a1</purpose>", "typePlongee", u"8", u"purpose=a1|a"},
         {"",
          "<samples><waypoint>20 m here</waypoint><waypoint><depth>9</depth><divetime>soon</divetime>"
          "<temperature>warm</temperature><tankpressure>full</tankpressure><setpo2>high</setpo2></waypoint>"
