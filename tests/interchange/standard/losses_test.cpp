@@ -68,7 +68,8 @@ TEST(Losses, nameAllThatADiveOfUddfDoesNotTake) {
          "</equipment></owner></diver>",
          "<tankdata><link ref='a'/></tankdata><tankdata><link ref='b'/></tankdata>", "temps", u"0",
          u"tank/name=S80 left|S80"},
-        {"", "<purpose>a1</purpose><purpose>a</purpose><purpose>a1</purpose>", "typePlongee", u"8", u"purpose=a1|a"},
+        {"", "<purpose>a1</purpose><purpose>a</purpose><purpose>b</purpose><purpose>a</purpose>", "typePlongee", u"8",
+         u"purpose=a1|a|b"},
         {"",
          "<samples><waypoint>20 m here</waypoint><waypoint><depth>9</depth><divetime>soon</divetime>"
          "<temperature>warm</temperature><tankpressure>full</tankpressure><setpo2>high</setpo2></waypoint>"
@@ -106,6 +107,7 @@ TEST(Losses, areNoneOfPositionsHoweverTheyAreWritten) {
         {"0°30.5 S", "0", u"", u"geography/latitude=0°30.5 S; geography/longitude=0"},
         {"south 45", "5", u"", u"geography/latitude=south 45; geography/longitude=5"},
         {"5 W", "45 N", u"", u"geography/latitude=5 W; geography/longitude=45 N"},
+        {"N 45 S", "5", u"", u"geography/latitude=N 45 S; geography/longitude=5"},
         {"95", "5", u"", u"geography/latitude=95; geography/longitude=5"},
         {"0", "0.0", u"", u""},
         {"", "5", u"", u"geography/longitude=5"},
