@@ -61,10 +61,6 @@ public:
         if (waypoint.firstElement().isNull() && waypoint.hasAttributes()) {
             found_.lose(QStringLiteral("samples"));
         }
-        if (saysMore(waypoint)) {
-            const QString own = ownWords(waypoint);
-            found_.lose(QStringLiteral("waypoint"), own);
-        }
         for (XmlElement it = waypoint.firstElement(); !it.isNull(); it = it.nextElement()) {
             take(it, it.name());
         }
@@ -155,6 +151,29 @@ private:
     LostNames unknown_;
     LostNames unknownAlarms_;
 };
+
+/// Names the words that stand directly in the samples or their waypoints, which nearly none have.
+void loseTextBesideValues(FoundDive& found, XmlElement samples) {
+    std::string buffer;
+    std::size_t values = 0;
+    for (const XmlElement waypoint : samples.children("waypoint")) {
+        for (XmlElement it = waypoint.firstElement(); !it.isNull(); it = it.nextElement()) {
+            values += it.text(buffer).size();
+        }
+    }
+    if (samples.text(buffer).size() == values) {
+        return;
+    }
+    const auto lose = [&](const char* name, const QString& words) {
+        if (!words.isEmpty()) {
+            found.lose(QLatin1String(name), words);
+        }
+    };
+    lose("samples", ownWords(samples));
+    for (const XmlElement waypoint : samples.children("waypoint")) {
+        lose("waypoint", ownWords(waypoint));
+    }
+}
 
 /// Gives each waypoint a moment: what lies between two known ones is spread evenly, what comes after goes on in the
 /// last step.
@@ -304,7 +323,8 @@ UddfProfile readUddfProfile(XmlElement dive, double duration, FoundDive& found, 
     std::vector<XmlElement> waypoints;
     std::vector<double> moments;
     for (const XmlElement samples : dive.children("samples")) {
-        loseUnread(found, samples, QStringLiteral("samples/"), {"waypoint"});
+        loseUnreadChildren(found, samples, QStringLiteral("samples/"), {"waypoint"});
+        loseTextBesideValues(found, samples);
         for (const XmlElement waypoint : samples.children("waypoint")) {
             const double moment = secondsOf(waypoint.first("divetime")).value_or(-1);
             waypoints.push_back(waypoint);

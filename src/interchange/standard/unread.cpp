@@ -99,8 +99,8 @@ void LostNames::tell(FoundDive& found, const QString& prefix) const {
     }
 }
 
-void loseUnread(FoundDive& found, XmlElement parent, const QString& prefix,
-                std::initializer_list<std::string_view> read) {
+void loseUnreadChildren(FoundDive& found, XmlElement parent, const QString& prefix,
+                        std::initializer_list<std::string_view> read) {
     LostNames lost;
     for (XmlElement it = parent.firstElement(); !it.isNull(); it = it.nextElement()) {
         const bool isRead =
@@ -110,6 +110,11 @@ void loseUnread(FoundDive& found, XmlElement parent, const QString& prefix,
         }
     }
     lost.tell(found, prefix);
+}
+
+void loseUnread(FoundDive& found, XmlElement parent, const QString& prefix,
+                std::initializer_list<std::string_view> read) {
+    loseUnreadChildren(found, parent, prefix, read);
     if (const QString own = ownWords(parent); !own.isEmpty()) {
         found.lose(prefix.isEmpty() ? nameOf(parent) : prefix.chopped(1), own);
     }

@@ -54,7 +54,10 @@ private:
 };
 
 /// Names the children of an element that nothing reads, case aside; one without a text or attributes has nothing to
-/// lose. Words that stand directly in the element are named as the prefix without the stroke behind it.
+/// lose.
+void loseUnreadChildren(FoundDive& found, XmlElement parent, const QString& prefix,
+                        std::initializer_list<std::string_view> read);
+/// The same, and the words that stand directly in the element, as the prefix without the stroke behind it.
 void loseUnread(FoundDive& found, XmlElement parent, const QString& prefix,
                 std::initializer_list<std::string_view> read);
 /// Its name as it stands in the file.
