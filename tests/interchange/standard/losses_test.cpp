@@ -71,11 +71,12 @@ TEST(Losses, nameAllThatADiveOfUddfDoesNotTake) {
         {"", "<purpose>a1</purpose><purpose>a</purpose><purpose>b</purpose><purpose>a</purpose>", "typePlongee", u"8",
          u"purpose=a1|a|b"},
         {"",
-         "<samples><waypoint>20 m here</waypoint><waypoint><depth>9</depth><divetime>soon</divetime>"
+         "<samples>odd<waypoint>20 m here</waypoint><waypoint><depth>9</depth><divetime>soon</divetime>"
          "<temperature>warm</temperature><tankpressure>full</tankpressure><setpo2>high</setpo2></waypoint>"
          "<waypoint>up<depth>5</depth></waypoint></samples>",
          "rebreather", u"0",
-         u"waypoint/divetime=soon; waypoint/setpo2=high; waypoint/tankpressure=full; waypoint/temperature=warm; "
+         u"samples=odd; waypoint/divetime=soon; waypoint/setpo2=high; waypoint/tankpressure=full; "
+         u"waypoint/temperature=warm; "
          u"waypoint=20 m here|up"},
         {"",
          "<plannedprofile><waypoint><decostop decodepth='1e300' duration='-1e300'/></waypoint><waypoint>"
