@@ -108,7 +108,7 @@ private:
     void remark(const std::vector<Plongee>& taken) {
         FoundDives found;
         for (const Plongee& dive : taken) {
-            found.dives.push_back({dive, {}, {}, false});
+            found.dives.emplace_back().dive = dive;
         }
         doubt(found, carnet_.desktop().clock.now());
         markDuplicates(found, carnet_.records());

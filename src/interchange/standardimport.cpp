@@ -9,6 +9,7 @@
 #include "logbook/divecontrols.h"
 
 #include <algorithm>
+#include <limits>
 #include <unordered_set>
 
 namespace tavrel {
@@ -55,19 +56,22 @@ qint32 firstNumber(const List& list) {
 
 /// All dives in the order of their starts, those without one last, numbered on from a number.
 List byDate(List list, qint32 number) {
-    const auto startsBefore = [](const RecordPointer& one, const RecordPointer& other) {
-        const QDateTime start = startOf(asDive(one));
-        const QDateTime otherStart = startOf(asDive(other));
-        return start.isValid() && (!otherStart.isValid() || start < otherStart);
-    };
-    std::stable_sort(list.begin(), list.end(), startsBefore);
-    for (RecordPointer& dive : list) {
+    std::vector<std::pair<qint64, RecordPointer>> dives;
+    for (const RecordPointer& dive : list) {
+        const QDateTime start = startOf(asDive(dive));
+        dives.emplace_back(start.isValid() ? start.toMSecsSinceEpoch() : std::numeric_limits<qint64>::max(), dive);
+    }
+    std::stable_sort(dives.begin(), dives.end(),
+                     [](const auto& one, const auto& other) { return one.first < other.first; });
+    list.clear();
+    for (auto& [start, dive] : dives) {
         if (asDive(dive).noPlongee != number) {
             Plongee renumbered = asDive(dive);
             renumbered.noPlongee = number;
             dive = std::make_shared<const Plongee>(std::move(renumbered));
         }
         number = Carnet::numberAfter(asDive(dive));
+        list.push_back(std::move(dive));
     }
     return list;
 }
@@ -215,6 +219,7 @@ Expected<ImportResult> runOwnImport(Carnet& carnet, const QString& file, ImportF
     result->taken = taken.taken;
     result->skipped = taken.skipped;
     result->twice = taken.twice;
+    result->renumbered = taken.renumbered;
     return result;
 }
 

@@ -5,8 +5,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <set>
 #include <tuple>
-#include <unordered_map>
 
 namespace tavrel {
 
@@ -19,7 +20,9 @@ bool alike(double one, double other, double absolute, double relative) {
     return std::abs(one - other) <= std::max(absolute, relative * std::max(std::abs(one), std::abs(other)));
 }
 
-/// Starts, depths and times of dives by their start, found again within two minutes.
+constexpr double alikeMetres = 1, alikeShare = 0.05;
+
+/// Starts, depths and times of dives by their start and depth, found again within two minutes.
 class KnownDives {
 public:
     bool holds(const Plongee& dive) const {
@@ -28,16 +31,20 @@ public:
             return false;
         }
         const qint64 second = start.toSecsSinceEpoch();
+        const double depth = depthOf(dive);
         for (qint64 slot = second / sameStart - 1; slot <= second / sameStart + 1; ++slot) {
-            const auto [first, last] = slots_.equal_range(slot);
-            const bool found = std::any_of(first, last, [&](const auto& entry) {
-                const Known& known = entry.second;
-                return std::abs(known.second - second) <= sameStart &&
-                       alike(static_cast<double>(dive.profondeur), known.depth, 1.0, 0.05) &&
-                       alike(dive.temps, known.minutes, 2.0, 0.1);
-            });
-            if (found) {
-                return true;
+            // A little more than what is alike, so that no rounding matters.
+            const double least = depth - std::max(alikeMetres, 2 * alikeShare * std::abs(depth));
+            for (auto it = known_.lower_bound({slot, least, std::numeric_limits<qint32>::min(), 0}); it != known_.end();
+                 ++it) {
+                const auto& [itsSlot, itsDepth, itsMinutes, itsSecond] = *it;
+                const bool isAlike = alike(depth, itsDepth, alikeMetres, alikeShare);
+                if (itsSlot != slot || (itsDepth > depth && !isAlike)) {
+                    break;
+                }
+                if (isAlike && std::abs(itsSecond - second) <= sameStart && alike(dive.temps, itsMinutes, 2.0, 0.1)) {
+                    return true;
+                }
             }
         }
         return false;
@@ -46,28 +53,51 @@ public:
     void add(const Plongee& dive) {
         if (const QDateTime start = startOf(dive); start.isValid()) {
             const qint64 second = start.toSecsSinceEpoch();
-            slots_.emplace(second / sameStart, Known{second, static_cast<double>(dive.profondeur), dive.temps});
+            known_.insert({second / sameStart, depthOf(dive), dive.temps, second});
         }
     }
 
 private:
-    struct Known {
-        qint64 second;
-        double depth;
-        qint32 minutes;
-    };
-    std::unordered_multimap<qint64, Known> slots_;
+    static double depthOf(const Plongee& dive) {
+        return std::isfinite(dive.profondeur) ? static_cast<double>(dive.profondeur)
+                                              : std::numeric_limits<double>::max();
+    }
+
+    std::set<std::tuple<qint64, double, qint32, qint64>> known_;  // slot, depth, minutes, second
 };
 
-/// Whether two dives of a file are one: two computers of one diver tell the same dive differently, and are two.
-bool isSame(const Plongee& one, const Plongee& other) {
-    const bool isAlike = one.profondeur == other.profondeur && one.temps == other.temps &&
-                         one.profilProfondeur == other.profilProfondeur;
-    // Two dives of a day may well be as deep and as long where no clock or profile tells them apart.
-    const bool tellsLittle = startOf(one).time() == QTime(0, 0) || !one.hasProfile();
-    const auto words = [](const Plongee& dive) { return std::tie(dive.noPlongee, dive.lieu, dive.site, dive.notes); };
-    return isAlike && (!tellsLittle || words(one) == words(other));
-}
+/// A dive of a file with its start, where it stands for all that are the same: two computers of one diver tell the same
+/// dive differently, and are two.
+struct ToldDive {
+    const Plongee* dive;
+    QDateTime start;
+
+    /// Two dives of a day may well be as deep and as long where no clock or profile tells them apart.
+    bool tellsLittle() const { return start.time() == QTime(0, 0) || !dive->hasProfile(); }
+    auto words() const { return std::tie(dive->noPlongee, dive->lieu, dive->site, dive->notes); }
+
+    bool operator==(const ToldDive& other) const {
+        return start.toSecsSinceEpoch() == other.start.toSecsSinceEpoch() &&
+               dive->profondeur == other.dive->profondeur && dive->temps == other.dive->temps &&
+               dive->profilProfondeur == other.dive->profilProfondeur && (!tellsLittle() || words() == other.words());
+    }
+};
+
+struct ToldDiveHash {
+    std::size_t operator()(const ToldDive& told) const {
+        const Plongee& dive = *told.dive;
+        const Series& profile = dive.profilProfondeur;
+        std::size_t hash = qHashMulti(0, told.start.toSecsSinceEpoch(), dive.profondeur, dive.temps, profile.size());
+        constexpr std::size_t looks = 64;
+        const std::size_t step = profile.size() / looks + 1;
+        for (std::size_t sample = 0; sample < profile.size(); sample += step) {
+            hash = qHashMulti(hash, profile.real(sample));
+        }
+        return told.tellsLittle()
+                   ? std::apply([hash](const auto&... word) { return qHashMulti(hash, word...); }, told.words())
+                   : hash;
+    }
+};
 
 struct DoubtWords {
     const char* name;
@@ -107,11 +137,49 @@ QStringList FoundDive::remarks() const {
 }
 
 void FoundDive::lose(const QString& name, const QString& text) {
-    const auto known = std::find_if(lost.begin(), lost.end(), [&](const LostItem& item) { return item.name == name; });
-    if (known == lost.end()) {
+    const auto known =
+        std::lower_bound(byName_.begin(), byName_.end(), name,
+                         [&](std::uint32_t place, const QString& its) { return lost[place].name < its; });
+    if (known == byName_.end() || lost[*known].name != name) {
+        byName_.insert(known, static_cast<std::uint32_t>(lost.size()));
         lost.push_back({name, text});
-    } else if (!text.isEmpty() && !known->text.contains(text)) {
-        known->text += (known->text.isEmpty() ? QString() : QStringLiteral("\n")) + text;
+        return;
+    }
+    LostItem& item = lost[*known];
+    if (text.isEmpty() || item.text == text) {
+        return;
+    }
+    if (item.text.isEmpty()) {
+        item.text = text;
+        return;
+    }
+    std::unordered_set<QString>& said = said_[*known];
+    if (said.empty()) {
+        said.insert(item.text);
+    }
+    if (said.insert(text).second) {
+        item.text += u'\n';
+        item.text += text;
+    }
+}
+
+void SharedTexts::share(QString& text) {
+    constexpr qsizetype shortest = 100;
+    if (text.size() >= shortest) {
+        text = *texts_.insert(text).first;
+    }
+}
+
+void SharedTexts::share(FoundDive& found) {
+    for (const Item& item : Plongee::layout().items) {
+        item.field().visit(found.dive, [this]<class Value>(Value& value) {
+            if constexpr (std::is_same_v<Value, QString>) {
+                share(value);
+            }
+        });
+    }
+    for (LostItem& item : found.lost) {
+        share(item.text);
     }
 }
 
@@ -191,17 +259,13 @@ void markDuplicates(FoundDives& found, const RecordList& held) {
     for (const RecordPointer& record : held) {
         known.add(asDive(record));
     }
-    std::unordered_multimap<qint64, const Plongee*> before;
+    std::unordered_set<ToldDive, ToldDiveHash> before;
     for (FoundDive& it : found.dives) {
         const QDateTime start = startOf(it.dive);
         it.duplicate = known.holds(it.dive);
-        if (!start.isValid()) {
-            continue;
+        if (start.isValid() && !before.insert({&it.dive, start}).second) {
+            it.duplicate = true;
         }
-        const auto [first, last] = before.equal_range(start.toSecsSinceEpoch());
-        it.duplicate =
-            it.duplicate || std::any_of(first, last, [&](const auto& entry) { return isSame(*entry.second, it.dive); });
-        before.emplace(start.toSecsSinceEpoch(), &it.dive);
     }
 }
 

@@ -7,6 +7,8 @@
 
 #include <map>
 #include <memory>
+#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace tavrel {
@@ -34,7 +36,13 @@ struct FoundDive {
     bool has(Doubt doubt) const;
     /// What is to be said of it to the user: that it is there already, and its doubts.
     QStringList remarks() const;
+    /// Each text is held once under its name, on a line of its own.
     void lose(const QString& name, const QString& text = {});
+
+private:
+    std::vector<std::uint32_t> byName_;  // places of what is lost, by its names
+    /// The texts of what is lost at a place, where it has several.
+    std::unordered_map<std::size_t, std::unordered_set<QString>> said_;
 };
 
 /// Several times what a diver of a lifetime has; a file of empty elements would fill the memory with dives.
@@ -56,6 +64,17 @@ struct FoundDives {
 inline const Plongee& asDive(const RecordPointer& record) {
     return static_cast<const Plongee&>(*record);
 }
+
+/// Gives the long texts that several dives hold one memory.
+class SharedTexts {
+public:
+    void share(FoundDive& found);
+
+private:
+    void share(QString& text);
+
+    std::unordered_set<QString> texts_;
+};
 
 /// A dive of which nothing is known: the values that stand for "not given" in a cleared form, and no profile.
 Plongee unknownDive();

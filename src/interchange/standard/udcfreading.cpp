@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <map>
 #include <span>
 #include <tuple>
 #include <utility>
@@ -86,6 +87,7 @@ public:
                     "GASES",
                     "DELTAMODE",
                     "SAMPLES"});
+        loseRepeated();
         return std::move(found_);
     }
 
@@ -122,14 +124,58 @@ private:
         if (const auto hour = part(clock, "HOUR")) {
             time = QTime(*hour, part(clock, "MINUTE").value_or(0), part(clock, "SECOND").value_or(0));
         }
+        bool isDated = false;
         const auto year = part(date, "YEAR");
         if (year) {
             if (const auto day = fileDay(*year, part(date, "MONTH").value_or(0), part(date, "DAY").value_or(0))) {
                 setStart(found_.dive, *day, time);
+                isDated = true;
             }
         } else if (auto moment = fileTime(wordsOf(date))) {
             moment->settleTime(time);
             setStart(found_.dive, moment->day, moment->time);
+            isDated = true;
+        }
+        if (!isDated) {
+            losePart(date);
+        }
+        if (!isDated || !time.isValid()) {
+            losePart(clock);
+        }
+    }
+
+    /// Names a date or a time that makes no sense; zeros alone stand for none.
+    void losePart(XmlElement element) {
+        QStringList words;
+        for (const TextPiece& piece : textPieces(element)) {
+            words.append(piece.text);
+        }
+        const QString all = words.join(u' ').simplified();
+        if (std::any_of(all.begin(), all.end(),
+                        [](QChar letter) { return letter.isLetterOrNumber() && letter != u'0'; })) {
+            found_.lose(nameOf(element), all);
+        }
+    }
+
+    /// Names what stands again where one of a name is read, and says something else.
+    void loseRepeated() {
+        static const std::map<QString, QString> same{
+            {QStringLiteral("WATERTEMPERATURE"), QStringLiteral("TEMPERATURE")},
+            {QStringLiteral("AIRRTEMPERATURE"), QStringLiteral("AIRTEMPERATURE")}};
+        std::map<QString, QString> first;
+        for (XmlElement it = dive_.firstElement(); !it.isNull() && !file_.own; it = it.nextElement()) {
+            const QString name = nameOf(it).toUpper();
+            const auto its = same.find(name);
+            const QString words = wordsOf(it);
+            if (words.isEmpty() || name == QLatin1String("NOTES") ||
+                first.try_emplace(its == same.end() ? name : its->second, words).first->second == words) {
+                continue;
+            }
+            if (it.firstElement().isNull()) {
+                loseValue(found_, it, nameOf(it));
+            } else {
+                found_.lose(nameOf(it), spokenWords(it));
+            }
         }
     }
 
@@ -146,8 +192,7 @@ private:
     /// Names an element that was read but not understood.
     void loseUnless(bool understood, XmlElement element) {
         if (!understood && !file_.own) {
-            const std::string_view name = element.name();
-            loseValue(found_, element, QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+            loseValue(found_, element, nameOf(element));
         }
     }
 
@@ -172,9 +217,13 @@ private:
         dive.altitude = altitude > 0 && altitude <= highestAltitude ? rounded(altitude) : 0;
         loseUnless(dive.altitude > 0, child({"ALTITUDE"}));
         readSurfaceInterval(wordsOf(child({"SURFACEINTERVAL"})));
-        if (const QString notes = wordsOf(child({"NOTES"})); !notes.isEmpty()) {
-            dive.notes = notes;
+        QStringList notes;
+        for (const XmlElement it : childrenOf(dive_, "NOTES")) {
+            notes.append(wordsOf(it));
         }
+        notes.removeAll(QString());
+        notes.removeDuplicates();
+        dive.notes = notes.isEmpty() ? dive.notes : notes.join(u'\n');
         // The handheld tells positions in the form's menus.
         const auto choose = [&](const char* name, std::span<const Choice> menu, qint32& tag) {
             const auto position = numberOf(child({name}));

@@ -31,9 +31,13 @@ std::string uddfReference(XmlElement element) {
     if (reference.empty()) {
         reference = element.text(buffer);
     }
-    const std::size_t first = reference.find_first_not_of(" \t\r\n#");
-    const std::size_t last = reference.find_last_not_of(" \t\r\n");
-    return first == std::string_view::npos ? std::string() : std::string(reference.substr(first, last - first + 1));
+    return uddfReference(reference);
+}
+
+std::string uddfReference(std::string_view written) {
+    const std::size_t first = written.find_first_not_of(" \t\r\n#");
+    const std::size_t last = written.find_last_not_of(" \t\r\n");
+    return first == std::string_view::npos ? std::string() : std::string(written.substr(first, last - first + 1));
 }
 
 UddfDocument::UddfDocument(XmlElement root)

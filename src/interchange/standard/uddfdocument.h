@@ -15,6 +15,8 @@ namespace tavrel {
 
 /// What an element refers to: the value of its attribute ref, or else its text.
 std::string uddfReference(XmlElement element);
+/// The id in what is written as a reference, without blanks around it or a "#" before it.
+std::string uddfReference(std::string_view written);
 
 /// The parts of a UDDF file that dives refer to by their ids: gases, sites, people, equipment, boats.
 class UddfDocument {

@@ -7,6 +7,8 @@
 #include "interchange/standard/uddfwords.h"
 #include "interchange/standard/unread.h"
 
+#include <QRegularExpression>
+
 #include <cmath>
 
 namespace tavrel {
@@ -31,18 +33,55 @@ QString personName(XmlElement person) {
     return parts.isEmpty() ? wordsOf(person.first("name")) : parts.join(u' ');
 }
 
+/// Degrees, also with minutes, seconds and the letter of one of the two sides, which are those of positive and of
+/// negative degrees.
+std::optional<double> angleOf(XmlElement element, const char* positive, const char* negatives) {
+    static const QRegularExpression plain(QStringLiteral(R"(^([NSEWO])?[\d\s.,°'′"″+-]*([NSEWO])?$)"),
+                                          QRegularExpression::CaseInsensitiveOption);
+    if (const auto degrees = onlyNumberOf(element)) {
+        return degrees;
+    }
+    QString words = wordsOf(element).toUpper();
+    const auto match = plain.match(words);
+    const QString side = match.captured(1) + match.captured(2);
+    if (!match.hasMatch() || side.size() > 1 ||
+        !QString(QLatin1String(positive) + QLatin1String(negatives)).contains(side)) {
+        return std::nullopt;
+    }
+    // A position of this angle and another, whose side does not matter.
+    const auto position = positionOf((side.isEmpty() ? words + QLatin1String(positive) : words) + QStringLiteral(" 1"));
+    if (!position) {
+        return std::nullopt;
+    }
+    return *positive == 'N' ? position->latitude : position->longitude;
+}
+
 }  // namespace
 
 QString notesOf(XmlElement notes) {
     QStringList paragraphs;
-    bool inParts = false;
-    for (XmlElement it = notes.firstElement(); !it.isNull(); it = it.nextElement()) {
-        if (it.name() == "para" || it.name() == "text") {
-            paragraphs.append(it.text());
-            inParts = true;
+    if (!saysMore(notes, {"para", "text"})) {
+        for (XmlElement it = notes.firstElement(); !it.isNull(); it = it.nextElement()) {
+            if (it.name() == "para" || it.name() == "text") {
+                paragraphs.append(it.text());
+            }
         }
+        return paragraphs.join(u'\n');
     }
-    return inParts ? paragraphs.join(u'\n') : wordsOf(notes);
+    if (notes.first("para").isNull() && notes.first("text").isNull()) {
+        return wordsOf(notes);
+    }
+    for (const TextPiece& piece : textPieces(notes, {"para", "text"})) {
+        paragraphs.append(piece.isOfChild ? piece.text : piece.text.trimmed());
+    }
+    paragraphs.removeAll(QString());
+    return paragraphs.join(u'\n');
+}
+
+std::optional<double> onlyNumberOf(XmlElement element) {
+    bool isNumber = false;
+    const double number = wordsOf(element).replace(u',', u'.').toDouble(&isNumber);
+    return isNumber && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
 void UddfPieces::follow(const std::string& id) {
@@ -50,7 +89,7 @@ void UddfPieces::follow(const std::string& id) {
     std::size_t next = 0;
     while (next < open_.size()) {  // what is taken opens more
         const std::string its = open_[next++];
-        if (its.empty()) {
+        if (its.empty() || !followed_.insert(its).second) {
             continue;
         }
         if (document_.isMix(its) && equipment_.mix.empty()) {
@@ -58,7 +97,7 @@ void UddfPieces::follow(const std::string& id) {
         }
         const std::vector<XmlElement> targets = document_.withId(its);
         for (const XmlElement target : targets) {
-            take(target, its);
+            take(target);
             // An id that several kinds share does not say that a tank is meant.
             if (target.name() == "tank" && targets.size() == 1) {
                 equipment_.tanks.push_back(its);
@@ -67,23 +106,23 @@ void UddfPieces::follow(const std::string& id) {
     }
 }
 
-void UddfPieces::take(XmlElement target, const std::string& id) {
+void UddfPieces::take(XmlElement target) {
     const std::string_view name = target.name();
     if (name == "site") {
-        takeSite(target, id);
+        takeSite(target);
     } else if (name == "buddy") {
         takeBuddy(target);
     } else if (name == "divecomputer") {
-        takeComputer(target, id);
+        takeComputer(target);
     } else if (name == "trip") {
         takeBoat(target);
     } else if (name == "equipmentconfiguration") {
-        if (configurations_.insert(id).second) {
-            for (const XmlElement link : target.children("link")) {
-                open_.push_back(uddfReference(link));
-            }
-            loseRest(target, "equipmentconfiguration/", {"link"});
+        for (const XmlElement link : target.children("link")) {
+            open_.push_back(uddfReference(link));
         }
+        loseRest(target, "equipmentconfiguration/", {"link"});
+    } else if (name == "suit") {
+        takeSuit(target, wordsOf(target.first("name")));
     } else if (name != "mix" && name != "tank" && name != "owner" && name != "dive") {
         takeKnown(target, name, wordsOf(target.first("name")));
     }
@@ -92,21 +131,12 @@ void UddfPieces::take(XmlElement target, const std::string& id) {
 void UddfPieces::takeKnown(XmlElement target, std::string_view name, const QString& title) {
     Plongee& dive = found_.dive;
     const std::string prefix = std::string(name) + '/';
-    // Where the name becomes a choice, what else it says is lost.
+    // Where the name becomes a choice, or another has its place, what it says is lost.
     bool isNameRead = true;
-    if (name == "divebase") {
-        isNameRead = dive.structure.isEmpty() || dive.structure == title;
-        dive.structure = dive.structure.isEmpty() ? title : dive.structure;
-    } else if (name == "vessel") {
-        dive.bateau = title;
-    } else if (name == "suit") {
-        const QString kind = wordsOf(target.first("suittype"));
-        isNameRead = suitOf(title, {}).has_value();
-        const auto suit = suitOf(title, kind);
-        dive.combinaison = suit.value_or(dive.combinaison);
-        if (!suit) {
-            loseValue(found_, target.first("suittype"), QStringLiteral("suit/suittype"));
-        }
+    if (name == "divebase" || name == "vessel") {
+        QString& place = name == "vessel" ? dive.bateau : dive.structure;
+        place = place.isEmpty() ? title : place;
+        isNameRead = place == title;
     } else if (name == "rebreather") {
         isNameRead = apparatusOf(title).has_value();
         dive.rebreather = apparatusOf(title).value_or(
@@ -116,11 +146,29 @@ void UddfPieces::takeKnown(XmlElement target, std::string_view name, const QStri
         loseRest(target, prefix.c_str(), {"name", std::string_view(title.isEmpty() ? "model" : "name")});
         return;
     }
-    loseRest(target, prefix.c_str(), {"suittype", std::string_view(isNameRead ? "name" : "suittype")});
+    loseRest(target, prefix.c_str(), {std::string_view(isNameRead ? "name" : "")});
+}
+
+void UddfPieces::takeSuit(XmlElement suit, const QString& title) {
+    const XmlElement kind = suit.first("suittype");
+    const bool isFree = !hasSuit_;
+    const auto worn = isFree ? suitOf(title, wordsOf(kind)) : std::nullopt;
+    hasSuit_ = hasSuit_ || worn;
+    found_.dive.combinaison = worn.value_or(found_.dive.combinaison);
+    if (!worn) {
+        loseValue(found_, kind, QStringLiteral("suit/suittype"));
+    }
+    // Where the name becomes a choice, what else it says is lost.
+    loseRest(suit, "suit/", {"suittype", std::string_view(isFree && suitOf(title, {}) ? "name" : "")});
 }
 
 void UddfPieces::takeBuddy(XmlElement buddy) {
-    buddies_.append(personName(buddy));
+    const QString name = personName(buddy);
+    if (name.isEmpty() && buddy.firstElement().isNull()) {
+        buddies_.append(wordsOf(buddy).simplified());
+        return;
+    }
+    buddies_.append(name);
     loseRest(buddy, "buddy/", {"personal", "firstname", "middlename", "lastname", "name"});
     loseRest(buddy.first("personal"), "buddy/", {"firstname", "middlename", "lastname"});
 }
@@ -128,21 +176,23 @@ void UddfPieces::takeBuddy(XmlElement buddy) {
 void UddfPieces::takeBoat(XmlElement trip) {
     const XmlElement part = trip.first("trippart");
     const XmlElement vessel = part.first("vessel");
-    found_.dive.bateau = found_.dive.bateau.isEmpty() ? wordsOf(vessel.first("name")) : found_.dive.bateau;
+    const QString name = wordsOf(vessel.first("name"));
+    QString& boat = found_.dive.bateau;
+    boat = boat.isEmpty() ? name : boat;
     loseRest(trip, "trip/", {"trippart"});
     loseRest(part, "trip/", {"vessel"});
-    loseRest(vessel, "vessel/", {"name"});
+    loseRest(vessel, "vessel/", {std::string_view(boat == name ? "name" : "")});
 }
 
-void UddfPieces::takeSite(XmlElement site, const std::string& id) {
+void UddfPieces::takeSite(XmlElement site) {
     Plongee& dive = found_.dive;
     if (!dive.site.isEmpty() || !dive.lieu.isEmpty()) {
-        if (id != site_) {
-            found_.lose(QStringLiteral("site"), spokenWords(site));
+        if (const QString words = spokenWords(site); words != spokenWords(site_)) {
+            found_.lose(QStringLiteral("site"), words);
         }
         return;
     }
-    site_ = id;
+    site_ = site;
     dive.site = wordsOf(site.first("name"));
     takeGeography(site.first("geography"));
     const XmlElement data = site.first("sitedata");
@@ -179,18 +229,7 @@ void UddfPieces::takeGeography(XmlElement geography) {
     if (dive.pays.isEmpty()) {
         dive.pays = wordsOf(geography.first("country"));
     }
-    const XmlElement north = geography.first("latitude");
-    const XmlElement east = geography.first("longitude");
-    const auto latitude = numberOf(north);
-    const auto longitude = numberOf(east);
-    if (latitude && longitude && std::abs(*latitude) <= 90 && std::abs(*longitude) <= 180) {
-        if (*latitude != 0 || *longitude != 0) {
-            dive.gps = positionText({*latitude, *longitude});
-        }
-    } else {
-        loseValue(found_, north, QStringLiteral("geography/latitude"));
-        loseValue(found_, east, QStringLiteral("geography/longitude"));
-    }
+    takePosition(geography.first("latitude"), geography.first("longitude"));
     const XmlElement height = geography.first("altitude");
     const auto metres = numberOf(height);
     if (metres && dive.altitude == 0 && *metres > 0 && *metres <= highestAltitude) {
@@ -202,24 +241,43 @@ void UddfPieces::takeGeography(XmlElement geography) {
     loseRest(address, "address/", {"country"});
 }
 
-void UddfPieces::takeComputer(XmlElement computer, const std::string& id) {
+void UddfPieces::takePosition(XmlElement north, XmlElement east) {
+    const auto latitude = angleOf(north, "N", "S");
+    const auto longitude = angleOf(east, "E", "WO");
+    if (latitude && longitude && std::abs(*latitude) <= 90 && std::abs(*longitude) <= 180) {
+        if (*latitude != 0 || *longitude != 0) {
+            found_.dive.gps = positionText({*latitude, *longitude});
+        }
+        return;
+    }
+    for (const XmlElement angle : {north, east}) {
+        if (const QString words = wordsOf(angle).simplified(); !words.isEmpty()) {
+            found_.lose(QStringLiteral("geography/") + nameOf(angle), words);
+        }
+    }
+}
+
+void UddfPieces::takeComputer(XmlElement computer) {
     Plongee& dive = found_.dive;
     const QString model = wordsOf(computer.first("model"));
     const QString name = wordsOf(computer.first("name"));
     if (!dive.ordinateur.isEmpty()) {
-        if (id != computer_) {
+        if (spokenWords(computer) != spokenWords(computer_)) {
             found_.lose(QStringLiteral("divecomputer"), model.isEmpty() ? name : model);
         }
         return;
     }
-    computer_ = id;
-    dive.fabricant = wordsOf(computer.first("manufacturer").first("name"));
+    computer_ = computer;
+    const XmlElement maker = computer.first("manufacturer");
+    dive.fabricant = wordsOf(maker.firstElement().isNull() ? maker : maker.first("name"));
     dive.ordinateur = model.isEmpty() ? name : model;
     dive.serie = wordsOf(computer.first("serialnumber"));
     const bool isNameHeld = (dive.fabricant + u' ' + dive.ordinateur).contains(name, Qt::CaseInsensitive);
     loseRest(computer, "divecomputer/",
              {"manufacturer", "model", "serialnumber", std::string_view(isNameHeld ? "name" : "model")});
-    loseRest(computer.first("manufacturer"), "manufacturer/", {"name"});
+    if (!maker.firstElement().isNull()) {
+        loseRest(maker, "manufacturer/", {"name"});
+    }
 }
 
 void UddfPieces::finish() {
@@ -228,7 +286,7 @@ void UddfPieces::finish() {
     if (dive.ordinateur.isEmpty()) {
         // A dive that names no computer was logged by the only one of the owner.
         if (const XmlElement only = document_.onlyPiece("divecomputer"); !only.isNull()) {
-            takeComputer(only, {});
+            takeComputer(only);
         }
     }
     pieces_.removeAll(QString());

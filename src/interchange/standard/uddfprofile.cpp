@@ -75,23 +75,27 @@ public:
 private:
     void take(XmlElement it, std::string_view name) {
         if (name == "divetime") {
+            addUnless(secondsOf(it).has_value(), name, it);
             return;
         }
         if (name == "depth") {
             if (const auto depth = numberOf(it); depth && std::abs(*depth) <= deepestThinkable) {
                 profile_.depths.push_back({moment_, *depth});
-            } else if (!wordsOf(it).isEmpty()) {
-                unknown_.add(name, it);
+            } else {
+                addUnless(false, name, it);
             }
         } else if (name == "temperature") {
             const auto kelvin = numberOf(it);
+            addUnless(kelvin.has_value(), name, it);
             if (waterCelsius(kelvin)) {
                 profile_.lowestTemperature = std::min(profile_.lowestTemperature.value_or(*kelvin), *kelvin);
                 unknown_.add(name);
             }
         } else if (name == "tankpressure") {
-            if (const auto bar = bars(numberOf(it))) {
-                profile_.pressures[std::string(it.attribute("ref"))].push_back({moment_, *bar});
+            const auto pascal = numberOf(it);
+            addUnless(pascal.has_value(), name, it);
+            if (const auto bar = bars(pascal)) {
+                profile_.pressures[uddfReference(it.attribute("ref"))].push_back({moment_, *bar});
             }
         } else if (name == "switchmix") {
             profile_.switches.push_back({moment_, uddfReference(it), {}});
@@ -100,7 +104,9 @@ private:
         } else if (name == "alarm") {
             takeAlarm(it);
         } else if (name == "setpo2") {
-            if (const auto point = numberOf(it); point && *point > 0) {
+            const auto point = numberOf(it);
+            addUnless(point.has_value(), name, it);
+            if (point && *point > 0) {
                 profile_.setPoints.push_back(*point > 10 ? *point / 100'000 : *point);
             }
         } else if (name == "divemode") {
@@ -113,6 +119,12 @@ private:
                 unknown_.add("divemode " + mode);
             }
         } else {
+            unknown_.add(name, it);
+        }
+    }
+
+    void addUnless(bool understood, std::string_view name, XmlElement it) {
+        if (!understood && !wordsOf(it).isEmpty()) {
             unknown_.add(name, it);
         }
     }
@@ -139,6 +151,29 @@ private:
     LostNames unknown_;
     LostNames unknownAlarms_;
 };
+
+/// Names the words that stand directly in the samples or their waypoints, which nearly none have.
+void loseTextBesideValues(FoundDive& found, XmlElement samples) {
+    std::string buffer;
+    std::size_t values = 0;
+    for (const XmlElement waypoint : samples.children("waypoint")) {
+        for (XmlElement it = waypoint.firstElement(); !it.isNull(); it = it.nextElement()) {
+            values += it.text(buffer).size();
+        }
+    }
+    if (samples.text(buffer).size() == values) {
+        return;
+    }
+    const auto lose = [&](const char* name, const QString& words) {
+        if (!words.isEmpty()) {
+            found.lose(QLatin1String(name), words);
+        }
+    };
+    lose("samples", ownWords(samples));
+    for (const XmlElement waypoint : samples.children("waypoint")) {
+        lose("waypoint", ownWords(waypoint));
+    }
+}
 
 /// Gives each waypoint a moment: what lies between two known ones is spread evenly, what comes after goes on in the
 /// last step.
@@ -288,7 +323,8 @@ UddfProfile readUddfProfile(XmlElement dive, double duration, FoundDive& found, 
     std::vector<XmlElement> waypoints;
     std::vector<double> moments;
     for (const XmlElement samples : dive.children("samples")) {
-        loseUnread(found, samples, QStringLiteral("samples/"), {"waypoint"});
+        loseUnreadChildren(found, samples, QStringLiteral("samples/"), {"waypoint"});
+        loseTextBesideValues(found, samples);
         for (const XmlElement waypoint : samples.children("waypoint")) {
             const double moment = secondsOf(waypoint.first("divetime")).value_or(-1);
             waypoints.push_back(waypoint);

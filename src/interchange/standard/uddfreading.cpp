@@ -100,13 +100,33 @@ private:
         loseUnless(air.has_value(), "airtemperature");
         dive.altitude = altitude();
         loseUnless(dive.altitude > 0, "altitude");
-        const XmlElement used = element("equipmentused").first("leadquantity");
-        const XmlElement lead = number("leadquantity") ? element("leadquantity") : used;
-        const double kilograms = numberOf(lead).value_or(0);
-        if (kilograms > 0 && kilograms < 1000) {
-            dive.lestage = static_cast<float>(kilograms);
-        } else {
-            loseValue(found_, lead, QStringLiteral("leadquantity"));
+        readWeight();
+    }
+
+    /// The first weight that makes sense, those of the dive itself before those among its equipment.
+    void readWeight() {
+        std::vector<XmlElement> leads;
+        const auto add = [&](XmlElement holder) {
+            for (const XmlElement lead : holder.children("leadquantity")) {
+                leads.push_back(lead);
+            }
+        };
+        std::for_each(parts_.begin(), parts_.end(), add);
+        for (const XmlElement part : parts_) {
+            for (const XmlElement used : part.children("equipmentused")) {
+                add(used);
+            }
+        }
+        const auto makesSense = [](XmlElement lead) {
+            const double kilograms = numberOf(lead).value_or(0);
+            return kilograms > 0 && kilograms < 1000;
+        };
+        const auto chosen = std::find_if(leads.begin(), leads.end(), makesSense);
+        found_.dive.lestage = chosen == leads.end() ? 0.0F : static_cast<float>(*numberOf(*chosen));
+        for (const XmlElement lead : leads) {
+            if (chosen == leads.end() || wordsOf(lead) != wordsOf(*chosen)) {
+                loseValue(found_, lead, QStringLiteral("leadquantity"));
+            }
         }
     }
 
@@ -160,13 +180,19 @@ private:
     void readSurfaceInterval() {
         XmlElement interval = element("surfaceintervalbeforedive");
         interval = interval.isNull() ? element("surfaceinterval") : interval;
-        const auto seconds = numberOf(interval.first("passedtime"));
+        const bool isPlain = interval.firstElement().isNull();
+        const auto seconds = isPlain ? onlyNumberOf(interval) : numberOf(interval.first("passedtime"));
         if (seconds && *seconds > 0 && *seconds < 1e9) {
             found_.dive.surface = intervalText(rounded(*seconds / 60));
         } else {
+            if (isPlain && wordsOf(interval) != QLatin1String("infinity")) {
+                loseValue(found_, interval, QStringLiteral("surfaceinterval"));
+            }
             loseValue(found_, interval.first("passedtime"), QStringLiteral("surfaceinterval/passedtime"));
         }
-        loseUnread(found_, interval, QStringLiteral("surfaceinterval/"), {"passedtime", "infinity"});
+        if (!isPlain) {
+            loseUnread(found_, interval, QStringLiteral("surfaceinterval/"), {"passedtime", "infinity"});
+        }
     }
 
     void readWords() {
@@ -324,7 +350,7 @@ private:
             {"rating", Read::one},
             {"averagedepth", Read::one},
             {"divemode", Read::one},
-            {"leadquantity", Read::one},
+            {"leadquantity", Read::all},
         };
         std::map<std::string_view, std::string> first;
         LostNames lost;
@@ -339,8 +365,7 @@ private:
                 } else if (how->second == Read::one) {
                     const std::string its = uddfReference(it);
                     if (!its.empty() && first.emplace(name, its).first->second != its) {
-                        found_.lose(QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size())),
-                                    wordsOf(it).simplified());
+                        found_.lose(nameOf(it), wordsOf(it).simplified());
                     }
                 }
             }
@@ -356,30 +381,29 @@ private:
     UddfPieces pieces_{document_, found_};
 };
 
+/// All dives in their order, whether they stand in the groups of the data, in these or wherever else in the root.
+void collectDives(XmlElement holder, std::vector<XmlElement>& dives) {
+    for (XmlElement part = holder.firstElement(); !part.isNull(); part = part.nextElement()) {
+        if (part.name() == "dive") {
+            dives.push_back(part);
+        } else if (part.name() == "profiledata") {
+            collectDives(part, dives);
+        } else {
+            for (const XmlElement dive : part.children("dive")) {
+                dives.push_back(dive);
+            }
+        }
+    }
+}
+
 }  // namespace
 
 FoundDives readUddf(XmlElement root, const Progress& progress) {
     const UddfDocument document(root);
     std::vector<XmlElement> dives;
-    std::vector<XmlElement> holders;
-    for (const XmlElement data : root.children("profiledata")) {
-        holders.push_back(data);
-    }
-    if (holders.empty()) {
-        holders.push_back(root);
-    }
-    for (const XmlElement data : holders) {
-        for (XmlElement group = data.firstElement(); !group.isNull(); group = group.nextElement()) {
-            if (group.name() == "dive") {
-                dives.push_back(group);
-                continue;
-            }
-            for (const XmlElement dive : group.children("dive")) {
-                dives.push_back(dive);
-            }
-        }
-    }
+    collectDives(root, dives);
     FoundDives found;
+    SharedTexts texts;  // of what many dives refer to
     if (dives.size() > mostDives) {
         found.tooMany = true;
         return found;
@@ -390,7 +414,7 @@ FoundDives readUddf(XmlElement root, const Progress& progress) {
         if (!goesOn()) {
             break;
         }
-        found.dives.push_back(DiveReader(document, dive, goesOn).read());
+        texts.share(found.dives.emplace_back(DiveReader(document, dive, goesOn).read()));
         if (dive.parent().name() != "repetitiongroup") {
             found.dives.back().doubts.push_back(Doubt::groupSkipped);
         }

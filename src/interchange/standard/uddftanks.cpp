@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <map>
 #include <set>
 
@@ -334,8 +335,18 @@ void giveStops(const std::vector<XmlElement>& parts, Assignment& assignment, Fou
             found.lose(QStringLiteral("plannedprofile/decostop"));
             break;
         }
-        found.dive.*stopFields[level].depth = static_cast<float>(numberOf(stop.attribute("decodepth")).value_or(0));
-        found.dive.*stopFields[level].minutes = rounded(numberOf(stop.attribute("duration")).value_or(0) / 60);
+        constexpr double longest = 86'400;  // seconds
+        const auto valueOf = [&](const char* name, double greatest) {
+            const std::string words(stop.attribute(name));
+            const double value = numberOf(words).value_or(0);
+            if (std::abs(value) <= greatest) {
+                return value;
+            }
+            found.lose(QStringLiteral("decostop/") + QLatin1String(name), QString::fromStdString(words));
+            return 0.0;
+        };
+        found.dive.*stopFields[level].depth = static_cast<float>(valueOf("decodepth", deepestThinkable));
+        found.dive.*stopFields[level].minutes = rounded(valueOf("duration", longest) / 60);
         found.dive.*stopFields[level].made = stop.attribute("kind") == "mandatory" ? 1 : 0;
         if (const XmlElement gas = waypoint.first("switchmix"); !gas.isNull()) {
             assignment.setStopGas(level, uddfReference(gas));

@@ -521,13 +521,14 @@ TEST(FoundDives, areRecognisedWithinTwoMinutesAndLikeDepthAndLength) {
     const std::tuple<QTime, float, int, bool> cases[] = {
         {QTime(10, 0), 20, 40, true},      {QTime(10, 2), 20.9F, 43, true},  {QTime(9, 58), 19.1F, 38, true},
         {QTime(10, 2, 1), 20, 40, false},  {QTime(10, 0), 21.2F, 40, false}, {QTime(10, 0), 20, 46, false},
-        {QTime(9, 57, 59), 20, 40, false},
+        {QTime(9, 57, 59), 20, 40, false}, {QTime(10, 0), 63, 40, true},     {QTime(10, 0), 63.3F, 40, false},
+        {QTime(10, 0), 57, 40, true},      {QTime(10, 0), 56.9F, 40, false},
     };
     for (const auto& [time, depth, minutes, isDuplicate] : cases) {
         FoundDives found;
         found.dives.resize(1);
         found.dives[0].dive = diveAt(time, depth, minutes);
-        markDuplicates(found, {std::make_shared<const Plongee>(held)});
+        markDuplicates(found, listOf<Plongee>({held, diveAt(QTime(10, 0), 60, 40), diveAt(QTime(10, 0), 19.5F, 9)}));
         EXPECT_EQ(found.dives[0].duplicate, isDuplicate)
             << time.toString().toStdString() << ' ' << depth << ' ' << minutes;
     }
@@ -550,6 +551,9 @@ TEST(FoundDives, areRecognisedWithinTwoMinutesAndLikeDepthAndLength) {
     }
     markDuplicates(twins, {});
     EXPECT_TRUE(twins.dives[1].duplicate);
+    twins.dives[1].dive.profilProfondeur = Series::ofReals({2, 1});
+    markDuplicates(twins, {});
+    EXPECT_FALSE(twins.dives[1].duplicate);
     FoundDives undated;
     undated.dives.resize(2);
     markDuplicates(undated, {});
