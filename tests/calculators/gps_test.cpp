@@ -1,6 +1,7 @@
 #include "calculators/gps.h"
 
 #include "calculators/gpsreport.h"
+#include "calculators/position.h"
 #include "support/printing.h"
 
 #include <cmath>
@@ -52,6 +53,11 @@ TEST(Gps, typedPartsAreAddedAndNegativeResultsAreFloored) {
     EXPECT_EQ(sexagesimalText(-1.5), u"WGS84 -2° 30' 0.000''");
     EXPECT_EQ(sexagesimalText(48.8361111), u"WGS84 48° 50' 10.000''");
     EXPECT_EQ(sexagesimalText(std::nan("")), u"WGS84 nan° nan' nan''");
+}
+
+TEST(Gps, aPlaceOnTheEquatorOrTheMeridianIsOne) {
+    EXPECT_TRUE(positionOf(QStringLiteral("0 5")) && positionOf(QStringLiteral("5 0")));
+    EXPECT_FALSE(positionOf(QStringLiteral("0 0"))) << "what devices write for none";
 }
 
 TEST(Gps, reportSaysEveryStepInThreeRoles) {

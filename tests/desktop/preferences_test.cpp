@@ -4,6 +4,7 @@
 #include "desktop/defaults.h"
 #include "support/files.h"
 #include "support/records.h"
+#include "support/streambytes.h"
 #include "support/testdesktop.h"
 
 #include <sys/stat.h>
@@ -160,7 +161,7 @@ TEST(Preferences, keepTheSpaceOfAColor) {
     desktop.preferences.set(background, desktop.preferences.get(background));
     EXPECT_EQ(stored(), archivedWhite(0.5F));
     desktop.preferences.set(background, QColor::fromRgbF(0.702F, 0.702F, 0.702F));
-    EXPECT_TRUE(stored().contains("ffff"));
+    EXPECT_TRUE(stored().contains(streamBytes(R"(84"c" 01 84"ffff")"))) << "calibrated, with its alpha";
     // A component travels as the decimal it was given as: 0.702, three times.
     EXPECT_EQ(stored().count(QByteArray::fromHex("46b6333f")), 3);
     desktop.preferences.set(background.name(), archivedWhite(0.25F));

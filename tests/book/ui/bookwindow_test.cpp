@@ -51,6 +51,10 @@ struct BookWindowTest : testing::Test {
     QString shown(int row, const char* field) {
         return table().model()->index(row, table().columnOf(field)).data().toString();
     }
+    bool isInSight(int row) {
+        const auto site = table().model()->index(row, table().columnOf("site"));
+        return table().viewport()->rect().contains(table().visualRect(site));
+    }
     void click(int row, Qt::KeyboardModifiers modifiers = {}) {
         table().reveal(row);
         const QPoint place = table().visualRect(table().model()->index(row, table().columnOf("site"))).center();
@@ -120,6 +124,12 @@ TEST_F(BookWindowTest, sortsByAClickOnAHeaderAndKeepsTheSelectedDive) {
     EXPECT_EQ(shown(0, "noPlongee"), u"1");
     EXPECT_EQ(header().sortIndicatorOrder(), Qt::AscendingOrder);
     EXPECT_EQ(header().sortIndicatorSection(), 0);
+
+    hold(60);
+    click(0);
+    clickHeader("noPlongee");
+    ASSERT_GT(carnet.selectedRow(), 50);
+    EXPECT_TRUE(isInSight(carnet.selectedRow()));
 }
 
 TEST_F(BookWindowTest, hidesColumnsAndPutsThemBackInTheirPlace) {
@@ -222,8 +232,7 @@ TEST_F(BookWindowTest, searchesTheFieldThatWasChosenLast) {
     EXPECT_EQ(carnet.selectedRows(), QList<int>({30}));
     const auto labels = window->statusBar()->findChildren<QLabel*>();
     EXPECT_EQ(eachOf(labels, [](const QLabel* label) { return label->text(); }), u"40 dives|One dive found");
-    EXPECT_TRUE(
-        table().viewport()->rect().contains(table().visualRect(table().model()->index(30, table().columnOf("site")))));
+    EXPECT_TRUE(isInSight(30));
 
     field.menu()->findChild<QAction*>(QStringLiteral("ordi"))->trigger();
     window.reset();

@@ -191,6 +191,19 @@ TEST(UddfWriting, bringsBackRandomDives) {
     }
 }
 
+TEST(UddfWriting, aSightInMetresIsReadAsTheSameRating) {
+    RecordList dives;
+    for (qint32 rating = 0; rating <= Visibility::exceptional; ++rating) {
+        Plongee dive;
+        dive.visibilite = rating;
+        dives.push_back(shared(dive));
+    }
+    const auto again = thereAndBack(dives);
+    for (std::size_t rating = 0; rating < again.size(); ++rating) {
+        EXPECT_EQ(again[rating].visibilite, static_cast<qint32>(rating));
+    }
+}
+
 }  // namespace
 
 }  // namespace tavrel

@@ -69,6 +69,10 @@ TEST_F(FoundDivesWindow, takesTheTickedDivesAsOneStep) {
 
 TEST_F(FoundDivesWindow, closedLeavesNothing) {
     show("date,profondeur\n2020-05-01,20\n");
+    const auto* import = window->findChild<QPushButton*>(QStringLiteral("importChosen"));
+    EXPECT_TRUE(import->isEnabled());
+    window->list().topLevelItem(0)->setCheckState(0, Qt::Unchecked);
+    EXPECT_FALSE(import->isEnabled());
     window->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_FALSE(window);
