@@ -1,6 +1,7 @@
 #include "interchange/standard/uddfwriting.h"
 
 #include "base/safefile.h"
+#include "dives/divecodes.h"
 #include "interchange/standard/csvtext.h"
 #include "interchange/standard/divedifference.h"
 #include "interchange/standard/founddive.h"
