@@ -332,6 +332,7 @@ TEST(RecordArchive, RefusesWhatItCannotReadAndSaysWhere) {
         {"undefined class", StreamFault::undefinedReference, header + R"(84"@" 84 !99)"},
         {"object as a class", StreamFault::wrongReference, header + R"(84"@" 84 !92)"},
         {"negative count", StreamFault::countTooLarge, root + "!ff 86"},
+        {"count of one too many", StreamFault::countTooLarge, root + "!02 86 86 86"},
         {"huge count", StreamFault::countTooLarge, root + "!82ffffff7f 86"},
         {"count of another type", StreamFault::wrongItemType,
          header + R"(84"@" 8484 84"NSArray"00 8484"NSObject"00 85 !84"f"01)"},
