@@ -28,6 +28,11 @@ TEST(ListDocument, restoresEveryListOfItsSteps) {
         std::mt19937 random(seed);
         const auto below = [&random](std::size_t bound) { return bound == 0 ? 0 : random() % bound; };
         Entries entries(desktop.desktop());
+        RecordList read;
+        for (int number = -3; number < 0; ++number) {
+            read.push_back(std::make_shared<const Entry>(Entry{{}, number}));
+        }
+        entries.replaceList(read);
         std::vector<RecordList> before;  // of each step
         std::vector<RecordList> after;
         for (int turn = 0; turn < 200; ++turn) {
