@@ -168,9 +168,9 @@ TEST(RecordArchive, RestoresEveryNumberBitForBit) {
 
 /// Series long enough for every length of reference, in runs and out of them.
 RecordList longSeries() {
-    std::vector<double> depths;
-    for (int index = 0; index < 70000; ++index) {
-        depths.push_back(index % 7 == 0 ? 12.5 : index / 10.0);
+    std::vector<double> depths(70000);
+    for (std::size_t index = 0; index < depths.size(); ++index) {
+        depths[index] = index % 7 == 0 ? 12.5 : static_cast<double>(index) / 10;
     }
     Series flags;
     for (int index = 0; index < 3000; ++index) {
