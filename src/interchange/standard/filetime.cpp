@@ -74,9 +74,9 @@ QTime fileClock(const QString& text) {
 std::optional<FileTime> fileTime(const QString& words) {
     // Blanks of any kind, which some languages have before PM.
     const QString text = words.simplified();
-    static const QRegularExpression yearFirst(QStringLiteral(R"(^\s*(\d{4})[-/.](\d{1,2})[-/.](\d{1,2}))"));
-    static const QRegularExpression basic(QStringLiteral(R"(^\s*(\d{4})(\d\d)(\d\d)(?=(?:T?\d{4}(?:\d\d)?)?(?!\d)))"));
-    static const QRegularExpression yearLast(QStringLiteral(R"(^\s*(\d{1,2})[-/.](\d{1,2})[-/.](\d{4}))"));
+    static const QRegularExpression yearFirst(QStringLiteral(R"(^(\d{4})[-/.](\d{1,2})[-/.](\d{1,2}))"));
+    static const QRegularExpression basic(QStringLiteral(R"(^(\d{4})(\d\d)(\d\d)(?=(?:T?\d{4}(?:\d\d)?)?(?!\d)))"));
+    static const QRegularExpression yearLast(QStringLiteral(R"(^(\d{1,2})[-/.](\d{1,2})[-/.](\d{4}))"));
     for (const QRegularExpression& pattern : {yearFirst, basic}) {
         if (const auto match = pattern.match(text); match.hasMatch()) {
             const auto day = fileDay(match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt());
